@@ -1,0 +1,27 @@
+# One interface target holds how every target of the project is compiled.
+add_library(talo_compile INTERFACE)
+target_compile_features(talo_compile INTERFACE cxx_std_17)
+target_compile_options(talo_compile INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
+    -Wconversion -Wnull-dereference -Wdouble-promotion -Wformat=2
+    $<$<BOOL:${TALO_WARNINGS_AS_ERRORS}>:-Werror>
+    # Values must not depend on whether the target can fuse a multiplication with an addition.
+    -ffp-contract=off)
+target_compile_definitions(talo_compile INTERFACE QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY)
+
+if(TALO_SANITIZE)
+    target_compile_options(talo_compile INTERFACE -fsanitize=${TALO_SANITIZE} -fno-omit-frame-pointer
+        -fno-sanitize-recover=all)
+    target_link_options(talo_compile INTERFACE -fsanitize=${TALO_SANITIZE})
+endif()
+if(TALO_COVERAGE)
+    target_compile_options(talo_compile INTERFACE --coverage -O0)
+    target_link_options(talo_compile INTERFACE --coverage)
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+find_program(TALO_CCACHE ccache)
+if(TALO_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${TALO_CCACHE}")
+endif()
