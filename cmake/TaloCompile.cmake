@@ -3,7 +3,7 @@ add_library(talo_compile INTERFACE)
 target_compile_features(talo_compile INTERFACE cxx_std_17)
 target_compile_options(talo_compile INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
-    -Wconversion -Wnull-dereference -Wdouble-promotion -Wformat=2
+    -Wconversion -Wdouble-promotion -Wformat=2
     $<$<BOOL:${TALO_WARNINGS_AS_ERRORS}>:-Werror>
     # Values must not depend on whether the target can fuse a multiplication with an addition.
     -ffp-contract=off)

@@ -1,0 +1,99 @@
+#include <algorithm>
+#include <lattice/Parameter.hpp>
+#include <lattice/ValueCreator.hpp>
+
+namespace Kolt {
+
+VParameter::VParameter(std::string name, Tessera::StrongPtr<VValueBase> const& ownValue, Values values,
+                       std::string declaredType)
+    : name_(std::move(name)),
+      ownValue_(ownValue),
+      values_(values),
+      declaredType_(declaredType.empty() ? Tessera::Typename(ownValue->valueType()) : std::move(declaredType)) {}
+
+VParameter::~VParameter() = default;
+
+Tessera::StrongPtr<VValueBase>* VParameter::findLocalValue(Tessera::StrongPtr<ValuePool> const& pool) const {
+    Tessera::WeakPtr<ValuePool> const key(pool);
+    auto const found =
+        std::find_if(localValues_.begin(), localValues_.end(), [&](auto const& local) { return local.pool == key; });
+    return found == localValues_.end() ? nullptr : &found->value;
+}
+
+void VParameter::putLocalValue(Tessera::StrongPtr<ValuePool> const& pool,
+                               Tessera::StrongPtr<VValueBase> const& value) const {
+    if (auto* const found = findLocalValue(pool)) {
+        *found = value;
+        return;
+    }
+    localValues_.erase(
+        std::remove_if(localValues_.begin(), localValues_.end(), [](auto const& local) { return !local.pool.alive(); }),
+        localValues_.end());
+    localValues_.push_back({pool, value});
+}
+
+Tessera::StrongPtr<VValueBase> VParameter::getLocalValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const&,
+                                                         bool create) const {
+    if (!keepsValuesPerPool())
+        return ownValue_;
+    if (!pool)
+        return nullptr;
+    if (auto const* const found = findLocalValue(pool))
+        return *found;
+    if (!create)
+        return nullptr;
+    auto const value = ownValue_->clone();
+    putLocalValue(pool, value);
+    return value;
+}
+
+Tessera::StrongPtr<VValueBase> VParameter::freshLocalValue(Tessera::StrongPtr<ValuePool> const& pool) const {
+    if (!pool || !keepsValuesPerPool())
+        return nullptr;
+    auto const value = VValueCreator::create(declaredType_);
+    if (value)
+        putLocalValue(pool, value);
+    return value;
+}
+
+void VParameter::removeLocalValue(Tessera::StrongPtr<ValuePool> const& pool) {
+    Tessera::WeakPtr<ValuePool> const key(pool);
+    localValues_.erase(
+        std::remove_if(localValues_.begin(), localValues_.end(), [&](auto const& local) { return local.pool == key; }),
+        localValues_.end());
+}
+
+void VParameter::selectMember(std::string const&) const {}
+
+void VParameter::notifyValueChange(Tessera::StrongPtr<VValueBase> const& value,
+                                   Tessera::StrongPtr<ValuePool> const& pool, std::string const&,
+                                   Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
+                                   ValueMap const* values) const {
+    // Held here, as the caller's reference may be a part of what dies on the way.
+    auto const live = value;
+    tell(source, alsoNotify, live, VContext(pool, nullptr), values);
+}
+
+void VParameter::setProperty(std::string const& name, Tessera::StrongPtr<VValueBase> const& value,
+                             Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
+                             Tessera::WeakPtr<ValuePool> const& pool) {
+    if (!properties_)
+        properties_ = std::make_shared<ValueMap>();
+    properties_->setValue(name, value);
+
+    auto const properties = properties_;
+    auto const context = pool.strong();
+    auto const local = getLocalValue(context, std::string(), false);
+    notifyValueChange(local ? local : ownValue_, context, std::string(), source, alsoNotify, properties.get());
+}
+
+void VParameter::AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight) {
+    UndoHistory::theHistory().add(action, weight);
+}
+
+void markValueChanged(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
+    auto const local = parameter.getLocalValue(pool, std::string(), false);
+    (local ? local : parameter.ownValue())->renewAge();
+}
+
+} // namespace Kolt

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <lattice/CreationPreferences.hpp>
+#include <lattice/UndoAction.hpp>
+#include <lattice/ValueNotifier.hpp>
+
+namespace Kolt {
+
+/// A named, typed parameter of some object. It holds one value object of its own and, where it keeps values per pool,
+/// one more for each pool that has its own value. It is also the list of those told when the value changes.
+///
+/// Parameters belong to their object by strong references; everybody else refers to them weakly. User-interface
+/// thread, but for `notifyValueChange` of a change that was stored, which any thread may call.
+class VParameter : public ValueNotifierList {
+public:
+    /// How a parameter keeps its values.
+    enum class Values {
+        Shared, ///< one value, the same in every pool
+        PerPool ///< a value for each pool that has one, besides the parameter's own
+    };
+
+    /// `ownValue` is the value object that the parameter itself holds; it must not be null. The declared type is that
+    /// of the value unless `declaredType` (a readable type name, Tessera::Typename) says otherwise: the editor is
+    /// chosen by the declared type, and fresh values are made of it.
+    VParameter(std::string name, Tessera::StrongPtr<VValueBase> const& ownValue, Values values = Values::Shared,
+               std::string declaredType = {});
+    ~VParameter() override;
+
+    /// The name, UTF-8; where it has dots, the part after the last one is the parameter's and the rest says where
+    /// it belongs.
+    std::string Name() const { return name_; }
+    std::string const& declaredType() const { return declaredType_; }
+
+    /// The value object that the parameter itself holds.
+    Tessera::StrongPtr<VValueBase> const& ownValue() const { return ownValue_; }
+    bool keepsValuesPerPool() const { return values_ == Values::PerPool; }
+    /// The value object of a pool. A parameter with one value gives its own object for every pool, also for a null
+    /// one. One that keeps values per pool gives the pool's object; where the pool has none, null, or with `create` a
+    /// new object copied from the own value; for a null pool null. The member is not used.
+    Tessera::StrongPtr<VValueBase> getLocalValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member,
+                                                 bool create) const;
+    /// Replaces the pool's object by a new one of the declared type and gives it. Null, and nothing replaced, for a
+    /// null pool, a parameter with one value, or a type that nobody can create.
+    Tessera::StrongPtr<VValueBase> freshLocalValue(Tessera::StrongPtr<ValuePool> const& pool) const;
+    /// Takes the pool's object away, so that the pool has none. Tells nobody.
+    void removeLocalValue(Tessera::StrongPtr<ValuePool> const& pool);
+    /// Prepares access to a member of a compound value. No value here is compound: does nothing.
+    void selectMember(std::string const& member) const;
+
+    /// Tells everybody in the list but `source`, in order of registration, that the value changed, then the members of
+    /// `alsoNotify` that were not told yet, `source` included if it stands there. `value` is the live value object.
+    /// The parameter may die on the way.
+    void notifyValueChange(Tessera::StrongPtr<VValueBase> const& value, Tessera::StrongPtr<ValuePool> const& pool,
+                           std::string const& member, Tessera::WeakPtr<ValueNotifier> const& source,
+                           ValueNotifierList const* alsoNotify, ValueMap const* values) const;
+
+    /// The properties; null as long as none was ever set.
+    ValueMap const* properties() const { return properties_.get(); }
+    /// Puts a property under a name (null takes it away), then tells everybody but `source` as `notifyValueChange`
+    /// does, with the property map and the value object that holds in `pool`.
+    void setProperty(std::string const& name, Tessera::StrongPtr<VValueBase> const& value,
+                     Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
+                     Tessera::WeakPtr<ValuePool> const& pool);
+
+    /// The preferences with which an editor for this parameter is chosen; null for none.
+    PreferencesPtr const& creationPreferences() const { return preferences_; }
+    void setCreationPreferences(PreferencesPtr const& preferences) { preferences_ = preferences; }
+
+    /// Records a step in the history (UndoHistory) with the weight that it has there.
+    void AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight);
+
+private:
+    struct LocalValue {
+        Tessera::WeakPtr<ValuePool> pool;
+        Tessera::StrongPtr<VValueBase> value;
+    };
+    Tessera::StrongPtr<VValueBase>* findLocalValue(Tessera::StrongPtr<ValuePool> const& pool) const;
+    void putLocalValue(Tessera::StrongPtr<ValuePool> const& pool, Tessera::StrongPtr<VValueBase> const& value) const;
+
+    std::string const name_;
+    Tessera::StrongPtr<VValueBase> const ownValue_;
+    Values const values_;
+    std::string const declaredType_;
+    // A parameter has its values in a few pools at most, so a search beats a map.
+    mutable std::vector<LocalValue> localValues_;
+    // Shared, so that a parameter may die while its properties are being told.
+    std::shared_ptr<ValueMap> properties_;
+    PreferencesPtr preferences_;
+};
+
+using ParameterPtr = Tessera::StrongPtr<VParameter, ValueNotifierList>;
+
+/// The update step: marks the value that the parameter has in the pool as changed, by a new age stamp. Where the pool
+/// has no value of its own, the parameter's own one is stamped.
+void markValueChanged(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool);
+
+/// The set step: stores `newValue` in the parameter's value of the pool (made if `create` says so) and, when it is
+/// accepted, notifies. False, and nobody told, when there is no such value of type T. The caller keeps the parameter
+/// alive.
+template <typename T>
+bool setParameterValue(VParameter const& parameter, T const& newValue, Tessera::StrongPtr<ValuePool> const& pool,
+                       std::string const& member, bool create, Tessera::WeakPtr<ValueNotifier> const& source,
+                       ValueNotifierList const* alsoNotify) {
+    auto const value = parameter.getLocalValue(pool, member, create);
+    auto* const typed = dynamic_cast<VTypedValueBase<T>*>(value.get());
+    if (!typed || !typed->set(newValue))
+        return false;
+    parameter.notifyValueChange(value, pool, member, source, alsoNotify, nullptr);
+    return true;
+}
+
+} // namespace Kolt

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace Kolt {
+
+/// A line edit that remembers the text last shown in it. Return commits what was typed; whoever leaves the field
+/// without it finds the remembered text again, so that the field never shows a text that holds nowhere. A window that
+/// merely loses the focus, or a menu that opens, leaves the typed text alone.
+class QLeaveLineEdit : public QLineEdit {
+    Q_OBJECT
+
+public:
+    explicit QLeaveLineEdit(QWidget* parent = nullptr);
+    ~QLeaveLineEdit() override;
+
+    /// Shows a text and remembers it.
+    void showText(QString const& text);
+    QString const& rememberedText() const { return remembered_; }
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    QString remembered_;
+};
+
+} // namespace Kolt

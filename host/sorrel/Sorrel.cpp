@@ -1,0 +1,71 @@
+#include <QFocusEvent>
+#include <sorrel/InputFrontEnd.hpp>
+#include <sorrel/QIconizer.hpp>
+#include <sorrel/QInputCreator.hpp>
+#include <sorrel/QLeaveLineEdit.hpp>
+
+namespace Kolt {
+
+QInputCreator::QInputCreator() = default;
+
+QInputCreator::~QInputCreator() = default;
+
+QString QInputCreator::hint() const {
+    return {};
+}
+
+VIcon::VIcon(Tessera::WeakPtr<VObject, VManagedObjectBase> const& object,
+             Tessera::StrongPtr<ValuePoolProvider> const& provider)
+    : object_(object), provider_(provider) {}
+
+VIcon::~VIcon() = default;
+
+QIconizer::QIconizer() = default;
+
+QIconizer::~QIconizer() = default;
+
+QLeaveLineEdit::QLeaveLineEdit(QWidget* parent) : QLineEdit(parent) {}
+
+QLeaveLineEdit::~QLeaveLineEdit() = default;
+
+void QLeaveLineEdit::showText(QString const& text) {
+    remembered_ = text;
+    setText(text);
+}
+
+void QLeaveLineEdit::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason &&
+        text() != remembered_)
+        setText(remembered_);
+}
+
+Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource) {
+    Editor editor;
+    if (!parameter) {
+        editor.choice.explanation = "there is no parameter";
+        return editor;
+    }
+    editor.choice = InputRegistry::theRegistry().choose(*parameter, {"QT"});
+    auto const creator = editor.choice.creator.strong();
+    auto const widgets = creator ? creator->getInterface<QInputCreator>() : nullptr;
+    if (!widgets) {
+        if (creator)
+            editor.choice.explanation += ", but it makes no Qt widgets";
+        return editor;
+    }
+    std::tie(editor.widget, editor.input) = widgets->create(parameter, parent, poolSource);
+    showPoolValue(editor, parameter, poolSource);
+    return editor;
+}
+
+void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoolSource const* poolSource) {
+    auto const input = editor.input.strong();
+    if (!input || !parameter || !parameter->keepsValuesPerPool())
+        return;
+    auto const pool = currentPool(poolSource);
+    auto const local = parameter->getLocalValue(pool, std::string(), false);
+    input->onValueChange(local ? local : parameter->ownValue(), VContext(pool, nullptr), nullptr);
+}
+
+} // namespace Kolt

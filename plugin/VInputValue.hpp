@@ -1,0 +1,168 @@
+#pragma once
+
+#include <cstdio>
+#include <lattice/Input.hpp>
+
+namespace Kolt {
+
+/// Prints the line that tells of an edit whose parameter is gone, and flushes it.
+inline void reportMissingOwner() {
+    std::puts("**POSSIBLE INTERNAL FAULT**: VInputBase without owner? That's not good.");
+    std::fflush(stdout);
+}
+
+/// Binds one widget to one parameter, its owner, whose values have type T. It holds the owner weakly and keeps a copy
+/// of the value that it last read or wrote. A widget class derives from its Qt class first and from this second.
+///
+/// It knows what all editors share: which pool they work in, how an edit is committed, and which changes from elsewhere
+/// concern them. User-interface thread.
+template <typename T>
+class VInputValue : public VInput<T> {
+public:
+    /// Copies the value that the owner has in `pool` into the cache, without creating one. False, and the cache left
+    /// alone, where the owner is gone or has no value of type T there.
+    bool fetchValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member) override;
+
+    /// Stores a value in the owner's value object for `pool`, which is created if it is missing, and in the cache, and
+    /// tells the owner's other notifiers, also when the value is the old one. False, and nothing stored, where the
+    /// owner is gone, there is no pool, or no value of type T can be had. The input, its widget and the owner may be
+    /// gone when it returns: the host tells others, and they may do anything.
+    bool setValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T const& newValue,
+                  ValueNotifierList const* alsoNotify) override;
+
+    /// Like fetchValue, but creates the value where it is missing, and copies it to `out` as well.
+    bool getValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T& out) override;
+
+protected:
+    /// What a value that arrives from elsewhere is to this input.
+    enum class Arrival {
+        Foreign, ///< it belongs to another pool: the shown value stays
+        Held,    ///< the input's pool holds it: it is shown
+        New      ///< the input's pool does not hold it: it is shown, and a number is written once
+    };
+
+    /// What an edit does where there is no pool.
+    enum class WithoutPool {
+        Drop, ///< nothing at all
+        Try   ///< what it does with one, up to the store, which refuses
+    };
+
+    /// The owner may be gone. `poolSource` belongs to the panel and outlives the input; null counts as no pool.
+    VInputValue(Tessera::WeakPtr<VParameter, ValueNotifierList> const& owner, ValuePoolSource* poolSource)
+        : VInput<T>(owner), poolSource_(poolSource) {}
+
+    /// The pool in which the widget works at this moment; null when there is none.
+    Tessera::StrongPtr<ValuePool> pool() const { return currentPool(poolSource_); }
+
+    /// The value object that the owner itself holds; null where the owner is gone.
+    Tessera::StrongPtr<VValueBase> ownValue() const {
+        auto const parameter = this->owner().strong();
+        return parameter ? parameter->ownValue() : nullptr;
+    }
+
+    /// What a change from elsewhere is to this input. Where the owner keeps values per pool, a change in another pool
+    /// and a change of the owner's own value behind the pool's are foreign.
+    Arrival arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) const;
+
+    /// Commits an edit: stores the value in the pool and marks it as changed. Prints the owner-fault line, once, where
+    /// the owner is gone or goes meanwhile. Says whether the value was stored and marked. The input and its widget may
+    /// be gone afterwards.
+    bool commit(T const& value, WithoutPool withoutPool = WithoutPool::Drop,
+                ValueNotifierList const* alsoNotify = nullptr);
+
+    /// The value last read or written.
+    T cached_{};
+
+private:
+    ValuePoolSource* poolSource_;
+};
+
+template <typename T>
+bool VInputValue<T>::fetchValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member) {
+    auto const parameter = this->owner().strong();
+    if (!parameter)
+        return false;
+    auto const value = parameter->getLocalValue(pool, member, false);
+    auto const* const typed = dynamic_cast<VValue<T> const*>(value.get());
+    if (!typed)
+        return false;
+    parameter->selectMember(member);
+    return typed->get(cached_);
+}
+
+template <typename T>
+bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T const& newValue,
+                              ValueNotifierList const* alsoNotify) {
+    auto const parameter = this->owner().strong();
+    if (!parameter || !pool)
+        return false;
+    bool const perPool = parameter->keepsValuesPerPool();
+    auto value = perPool ? parameter->getLocalValue(pool, member, true) : parameter->ownValue();
+    auto* typed = dynamic_cast<VValue<T>*>(value.get());
+    if (!typed && perPool) {
+        value = parameter->freshLocalValue(pool);
+        typed = dynamic_cast<VValue<T>*>(value.get());
+    }
+    if (!typed)
+        return false;
+    bool const accepted = typed->set(newValue);
+    cached_ = newValue;
+    // No member is touched from here on: whoever is told may delete this input.
+    setParameterValue(*parameter, newValue, pool, member, perPool, Tessera::WeakPtr<ValueNotifier>(this), alsoNotify);
+    return accepted;
+}
+
+template <typename T>
+bool VInputValue<T>::getValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T& out) {
+    auto const parameter = this->owner().strong();
+    if (!parameter)
+        return false;
+    auto const value = parameter->getLocalValue(pool, member, true);
+    auto const* const typed = dynamic_cast<VValue<T> const*>(value.get());
+    if (!typed)
+        return false;
+    parameter->selectMember(member);
+    if (!typed->get(cached_))
+        return false;
+    out = cached_;
+    return true;
+}
+
+template <typename T>
+typename VInputValue<T>::Arrival VInputValue<T>::arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue,
+                                                           VContext const& context) const {
+    auto const parameter = this->owner().strong();
+    if (!parameter || !newValue)
+        return Arrival::New;
+    auto const ownPool = pool();
+    auto const local = parameter->getLocalValue(ownPool, std::string(), false);
+    bool const isOwnValue = newValue == parameter->ownValue();
+    if (parameter->keepsValuesPerPool() && ((context.pool() && context.pool() != ownPool) || (isOwnValue && local)))
+        return Arrival::Foreign;
+    bool const held = isOwnValue || newValue == local || (local && local->equals(*newValue));
+    return held ? Arrival::Held : Arrival::New;
+}
+
+template <typename T>
+bool VInputValue<T>::commit(T const& value, WithoutPool withoutPool, ValueNotifierList const* alsoNotify) {
+    auto const currentPool = pool();
+    if (!currentPool && withoutPool == WithoutPool::Drop)
+        return false;
+    // A copy: this input may be gone after the store.
+    auto const owner = this->owner();
+    if (!owner) {
+        reportMissingOwner();
+        return false;
+    }
+    if (!this->setValue(currentPool, std::string(), value, alsoNotify))
+        return false;
+    auto const parameter = owner.strong();
+    if (!parameter) {
+        reportMissingOwner();
+        return false;
+    }
+    markValueChanged(*parameter, currentPool);
+    return true;
+}
+
+} // namespace Kolt

@@ -1,0 +1,45 @@
+#include <plugin/QInputWidgetCreator.hpp>
+#include <QHBoxLayout>
+#include <qVinputs/basics/QBool.hpp>
+
+namespace Kolt {
+
+QBool::QBool(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+             ValuePoolSource* poolSource, PreferencesPtr const&)
+    : QFrame(parent), VInputValue<bool>(parameter, poolSource), checkBox_(new QCheckBox) {
+    auto* const layout = new QHBoxLayout;
+    layout->addWidget(checkBox_);
+    layout->setAlignment(checkBox_, Qt::AlignLeft | Qt::AlignVCenter);
+    layout->setContentsMargins(3, 3, 3, 3);
+    setLayout(layout);
+
+    showValue(ownValue());
+    connect(checkBox_, &QCheckBox::clicked, this, &QBool::clicked);
+    activateNotification();
+}
+
+QBool::~QBool() = default;
+
+void QBool::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context, ValueMap const*) {
+    if (arrivalOf(newValue, context) != Arrival::Foreign)
+        showValue(newValue);
+}
+
+void QBool::showValue(Tessera::StrongPtr<VValueBase> const& value) {
+    auto const* const typed = dynamic_cast<VValue<bool> const*>(value.get());
+    if (!typed || !typed->get(cached_) || !checkBox_)
+        return;
+    checkBox_->setChecked(cached_);
+}
+
+void QBool::clicked(bool checked) {
+    commit(checked);
+}
+
+namespace {
+
+TALO_STATIC_CREATOR QInputWidgetCreator<bool, QBool> const booleanCreator("boolean", nullptr);
+
+} // namespace
+
+} // namespace Kolt
