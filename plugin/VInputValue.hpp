@@ -99,7 +99,8 @@ bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
     bool const perPool = parameter->keepsValuesPerPool();
     auto value = perPool ? parameter->getLocalValue(pool, member, true) : parameter->ownValue();
     auto* typed = dynamic_cast<VValue<T>*>(value.get());
-    if (!typed && perPool) {
+    // A fresh value of another type would be no use, and would take the place of what the pool holds.
+    if (!typed && perPool && parameter->declaredType() == Tessera::Typename(typeid(T))) {
         value = parameter->freshLocalValue(pool);
         typed = dynamic_cast<VValue<T>*>(value.get());
     }

@@ -99,6 +99,16 @@ TEST_F(VInputValueTest, SetReplacesAPoolsValueOfAnotherTypeByAFreshOne) {
     EXPECT_EQ(recorder.values, std::vector<std::string>{"true"});
 }
 
+TEST_F(VInputValueTest, ARefusedWriteLosesNothingThatAPoolHolds) {
+    // The declared type is not the editor's, so no fresh value can be had for it.
+    auto const other = makeParameter("text", Kolt::makeValue(std::string("text")), {}, Values::PerPool);
+    other->getLocalValue(firstPool, std::string(), true)->setValueFromText("kept");
+    auto const made = qtCreator("bool", "boolean")->create(other, parent, &pools);
+    auto const input = made.second.strong();
+    EXPECT_FALSE(dynamic_cast<Kolt::VInput<bool>&>(*input).setValue(firstPool, std::string(), true, nullptr));
+    EXPECT_EQ(other->getLocalValue(firstPool, std::string(), false)->Text(), "kept");
+}
+
 TEST_F(VInputValueTest, SetRefusesASharedValueOfAnotherType) {
     auto const parameter = makeParameter("switch", Kolt::makeValue(std::string("text")), {}, Values::Shared, "bool");
     auto const editor = open(parameter);
