@@ -99,7 +99,8 @@ bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
     bool const perPool = parameter->keepsValuesPerPool();
     auto value = perPool ? parameter->getLocalValue(pool, member, true) : parameter->ownValue();
     auto* typed = dynamic_cast<VValue<T>*>(value.get());
-    if (!typed && perPool) {
+    // A fresh value of another type would be no use, and would take the place of what the pool holds.
+    if (!typed && perPool && parameter->declaredType() == Tessera::Typename(typeid(T))) {
         value = parameter->freshLocalValue(pool);
         typed = dynamic_cast<VValue<T>*>(value.get());
     }
@@ -134,12 +135,16 @@ typename VInputValue<T>::Arrival VInputValue<T>::arrivalOf(Tessera::StrongPtr<VV
     auto const parameter = this->owner().strong();
     if (!parameter || !newValue)
         return Arrival::New;
-    auto const ownPool = pool();
-    auto const local = parameter->getLocalValue(ownPool, std::string(), false);
-    bool const isOwnValue = newValue == parameter->ownValue();
-    if (parameter->keepsValuesPerPool() && ((context.pool() && context.pool() != ownPool) || (isOwnValue && local)))
-        return Arrival::Foreign;
-    bool const held = isOwnValue || newValue == local || (local && local->equals(*newValue));
+    auto const own = parameter->ownValue();
+    // A shared value needs no pool to be judged, so a display may be told of it on any thread.
+    auto local = own;
+    if (parameter->keepsValuesPerPool()) {
+        auto const ownPool = pool();
+        local = parameter->getLocalValue(ownPool, std::string(), false);
+        if ((context.pool() && context.pool() != ownPool) || (local && newValue == own))
+            return Arrival::Foreign;
+    }
+    bool const held = newValue == own || newValue == local || (local && local->equals(*newValue));
     return held ? Arrival::Held : Arrival::New;
 }
 
