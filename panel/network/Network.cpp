@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <bramble/Values.hpp>
-#include <network/NetworkReader.hpp>
-#include <network/PropertyFormat.hpp>
-#include <network/ValueFormat.hpp>
+#include <panel/network/NetworkReader.hpp>
+#include <panel/network/PropertyFormat.hpp>
+#include <panel/network/ValueFormat.hpp>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
