@@ -399,6 +399,7 @@ TEST_F(Network, AnActionMayOutliveTheNetworkAndEndIt) {
     read->actionHandler = [&](auto const&, auto const&, auto const&) {
         ++fired;
         read.reset();
+        action->emitAction(nullptr, nullptr);
     };
     action->emitAction(nullptr, nullptr);
     EXPECT_EQ(fired, 1);
