@@ -1,0 +1,57 @@
+#include "support/QtMessages.hpp"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace {
+
+QtMessages* current = nullptr;
+
+} // namespace
+
+QtMessages::QtMessages() {
+    if (current != nullptr) {
+        throw std::logic_error("Qt's messages are collected already");
+    }
+    current = this;
+    previous_ = qInstallMessageHandler(&QtMessages::receive);
+}
+
+QtMessages::~QtMessages() {
+    qInstallMessageHandler(previous_);
+    current = nullptr;
+}
+
+void QtMessages::expect(QRegularExpression const& pattern) {
+    Q_ASSERT(pattern.isValid());
+    std::lock_guard const lock(mutex_);
+    expected_.push_back(pattern);
+}
+
+QStringList QtMessages::complaints() const {
+    std::lock_guard const lock(mutex_);
+    auto missing = expected_;
+    QStringList sentences;
+    for (auto const& message : received_) {
+        auto const found = std::find_if(missing.begin(), missing.end(),
+                                        [&](auto const& pattern) { return pattern.match(message).hasMatch(); });
+        if (found == missing.end()) {
+            sentences << QStringLiteral("unexpected Qt message: %1").arg(message);
+        } else {
+            missing.erase(found);
+        }
+    }
+    for (auto const& pattern : missing) {
+        sentences << QStringLiteral("this Qt message did not come: %1").arg(pattern.pattern());
+    }
+    return sentences;
+}
+
+void QtMessages::receive(QtMsgType type, QMessageLogContext const& context, QString const& message) {
+    if (type == QtWarningMsg || type == QtCriticalMsg) {
+        std::lock_guard const lock(current->mutex_);
+        current->received_ << message;
+    } else {
+        current->previous_(type, context, message);
+    }
+}
