@@ -107,7 +107,7 @@ bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
     bool const perPool = parameter->keepsValuesPerPool();
     if (perPool && parameter->declaredType() != Tessera::Typename(typeid(T))) {
         // A fresh value would be of the declared type, so one of another type can only be had where it stands already.
-        // Nothing is made, let alone replaced, where it does not.
+        // Where it does not, nothing is made, and what the pool holds is not replaced.
         auto const local = parameter->getLocalValue(pool, member, false);
         if (!dynamic_cast<VValue<T> const*>((local ? local : parameter->ownValue()).get()))
             return false;
@@ -166,12 +166,16 @@ typename VInputValue<T>::Arrival VInputValue<T>::arrivalOf(Tessera::StrongPtr<VV
     auto const parameter = this->owner().strong();
     if (!parameter || !newValue)
         return Arrival::New;
-    auto const ownPool = pool();
-    auto const local = parameter->getLocalValue(ownPool, std::string(), false);
-    bool const isOwnValue = newValue == parameter->ownValue();
-    if (parameter->keepsValuesPerPool() && ((context.pool() && context.pool() != ownPool) || (isOwnValue && local)))
-        return Arrival::Foreign;
-    bool const held = isOwnValue || newValue == local || (local && local->equals(*newValue));
+    auto const own = parameter->ownValue();
+    // A shared value needs no pool to be judged, so a display may be told of it on any thread.
+    auto local = own;
+    if (parameter->keepsValuesPerPool()) {
+        auto const ownPool = pool();
+        local = parameter->getLocalValue(ownPool, std::string(), false);
+        if ((context.pool() && context.pool() != ownPool) || (local && newValue == own))
+            return Arrival::Foreign;
+    }
+    bool const held = newValue == own || newValue == local || (local && local->equals(*newValue));
     return held ? Arrival::Held : Arrival::New;
 }
 

@@ -1,116 +1,75 @@
 #pragma once
 
-#include "support/TaloTest.hpp"
+#include "support/TestHost.hpp"
 #include <bramble/Values.hpp>
-#include <functional>
-#include <lattice/PluginLoader.hpp>
-#include <memory>
 #include <QVBoxLayout>
-#include <QWidget>
 #include <random>
-#include <sorrel/InputFrontEnd.hpp>
 
-/// A pool source whose pool the test chooses. It starts with a pool.
-class ChosenPool : public Kolt::ValuePoolSource {
-public:
-    using Pool = Tessera::StrongPtr<Kolt::ValuePool>;
-
-    ChosenPool() : provider_(new Provider) { choose(Pool(new Kolt::ValuePool("first"))); }
-
-    /// Null for no pool.
-    void choose(Pool const& pool) { provider_->pool = pool; }
-    Pool const& pool() const { return provider_->pool; }
-    Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override { return provider_; }
-
-private:
-    struct Provider : Kolt::ValuePoolProvider {
-        Pool getValuePool() const override { return pool; }
-        Pool pool;
-    };
-    Tessera::StrongPtr<Provider, Kolt::ValuePoolProvider> provider_;
-};
-
-/// Records the texts of all values that it is told of; then does what the test wants done.
-class Listener : public Kolt::ValueNotifier {
-public:
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& value, Kolt::VContext const&,
-                       Kolt::ValueMap const*) override {
-        texts.push_back(value->Text());
-        if (reaction)
-            reaction();
-    }
-
-    std::vector<std::string> texts;
-    std::function<void()> reaction;
-};
-
-/// Edits parameters with editors that the loaded plug-in makes. The editors stand in a panel that is shown.
-class TextEditorTest : public TaloTest {
+/// Edits parameters with editors that a named creator makes. They stand in the parent's layout.
+class TextEditorTest : public PluginTest {
 protected:
     using Values = Kolt::VParameter::Values;
+    using Parameter = Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList>;
 
-    TextEditorTest() {
-        auto const outcome = loader_.load(TALO_PLUGIN_FILE);
-        if (!outcome.ok)
-            throw std::runtime_error(outcome.message);
-        panel_ = std::make_unique<QWidget>();
-        panel_->setLayout(new QVBoxLayout);
+    void SetUp() override {
+        PluginTest::SetUp();
+        parent->setLayout(new QVBoxLayout);
     }
 
     template <typename T>
-    static Kolt::ParameterPtr makeParameter(T const& value, Values values = Values::Shared) {
-        return Kolt::ParameterPtr(new Kolt::VParameter("network.parameter", Kolt::makeValue(value), values));
+    static Kolt::ParameterPtr makeValueParameter(T const& value, Values values = Values::Shared) {
+        return makeParameter("network.parameter", Kolt::makeValue(value), {}, values);
     }
     static Kolt::ParameterPtr makeText(std::string const& text, Values values = Values::Shared) {
-        return makeParameter(text, values);
+        return makeValueParameter(text, values);
     }
 
     static Tessera::StrongPtr<Kolt::VInputCreatorBase, Kolt::VManagedObjectBase> creator(std::string const& name) {
         for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
-            auto creator = entry.creator.strong();
-            if (creator->Name() == name)
-                return creator;
+            auto found = entry.creator.strong();
+            if (found->Name() == name)
+                return found;
         }
         throw std::runtime_error("no creator is called " + name);
     }
 
-    /// The editor that the named creator makes, in the panel.
+    /// The editor that the named creator makes.
     template <typename Widget>
-    Widget* create(std::string const& creatorName,
-                   Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const& parameter) {
-        auto const widgets = creator(creatorName)->getInterface<Kolt::QInputCreator>();
-        auto const [widget, input] = widgets->create(parameter, panel_.get(), &pools_);
-        input_ = input;
-        panel_->layout()->addWidget(widget);
-        return dynamic_cast<Widget*>(widget.data());
+    Widget* create(std::string const& creatorName, Parameter const& parameter) {
+        auto const made = creator(creatorName)->getInterface<Kolt::QInputCreator>()->create(parameter, parent, &pools);
+        input = made.second;
+        parent->layout()->addWidget(made.first);
+        return dynamic_cast<Widget*>(made.first.data());
     }
 
     void watch(Kolt::ParameterPtr const& parameter) {
-        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&listener_));
+        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
     }
 
-    /// Stores a value as the host does, and tells everybody.
+    /// Stores a value in the first pool as the host does, and tells everybody.
     template <typename T>
     void change(Kolt::ParameterPtr const& parameter, T const& value) {
-        change(parameter, value, pools_.pool());
+        change(parameter, value, firstPool);
     }
     template <typename T>
-    static void change(Kolt::ParameterPtr const& parameter, T const& value, ChosenPool::Pool const& pool) {
+    static void change(Kolt::ParameterPtr const& parameter, T const& value,
+                       Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
         Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
     }
 
     static std::string textOf(Kolt::ParameterPtr const& parameter) { return parameter->ownValue()->Text(); }
+    /// The text that the current pool holds.
     std::string localTextOf(Kolt::ParameterPtr const& parameter) const {
-        auto const value = parameter->getLocalValue(pools_.pool(), std::string(), false);
+        auto const value = parameter->getLocalValue(Kolt::currentPool(&pools), std::string(), false);
         return value ? value->Text() : "(none)";
     }
 
     bool showPanel() {
-        panel_->show();
-        panel_->activateWindow();
-        return waitUntil([&] { return panel_->isActiveWindow(); });
+        parent->show();
+        parent->activateWindow();
+        return waitUntil([&] { return parent->isActiveWindow(); });
     }
-    bool focus(QWidget* widget) {
+    static bool focus(QWidget* widget) {
         widget->setFocus();
         return waitUntil([&] { return widget->hasFocus(); });
     }
@@ -126,15 +85,9 @@ protected:
     /// What is left of a text once it was shown.
     static std::string shown(std::string const& text) { return QString::fromStdString(text).toStdString(); }
 
-    static std::string const missingOwner;
+    /// The owner-fault line as it is written.
+    std::string const missingOwner = std::string(missingOwnerLine) + '\n';
 
-    Kolt::VInitialization host_;
-    Kolt::PluginLoader loader_{host_};
-    ChosenPool pools_;
-    Listener listener_;
-    Kolt::InputRef input_; ///< of the editor made last
-    std::unique_ptr<QWidget> panel_;
+    RecordingNotifier recorder;
+    Kolt::InputRef input; ///< of the editor made last
 };
-
-inline std::string const TextEditorTest::missingOwner =
-    "**POSSIBLE INTERNAL FAULT**: VInputBase without owner? That's not good.";

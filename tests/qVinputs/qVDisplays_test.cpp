@@ -16,10 +16,10 @@ protected:
         return create<QLabel>(creatorName, parameter);
     }
     static ParameterPtr makeInfo(std::string const& text, Values values = Values::Shared) {
-        return makeParameter(info{text}, values);
+        return makeValueParameter(info{text}, values);
     }
     static ParameterPtr makeStatus(std::string const& text, Values values = Values::Shared) {
-        return makeParameter(VObjectStatus(text), values);
+        return makeValueParameter(VObjectStatus(text), values);
     }
 };
 
@@ -27,7 +27,7 @@ class InformationDisplay : public Displays {};
 
 TEST_F(InformationDisplay, IsWhatAnInfoGets) {
     auto const parameter = makeInfo("a hint");
-    auto const editor = makeEditor(parameter, panel_.get(), &pools_);
+    auto const editor = makeEditor(parameter, parent, &pools);
     EXPECT_EQ(editor.choice.creator.strong()->Name(), "InformationDisplay");
     ASSERT_TRUE(dynamic_cast<QLabel*>(editor.widget.data()));
     EXPECT_STREQ(editor.widget->metaObject()->className(), "QLabel");
@@ -52,16 +52,16 @@ TEST_F(InformationDisplay, FollowsAChange) {
     watch(parameter);
     change(parameter, info{"new"});
     EXPECT_EQ(label->text(), QStringLiteral("new"));
-    EXPECT_THAT(listener_.texts, ElementsAre("new"));
+    EXPECT_THAT(recorder.values, ElementsAre("new"));
 }
 
 TEST_F(InformationDisplay, IgnoresAValueOfAnotherType) {
     auto const parameter = makeInfo("kept");
     auto* const label = show(parameter, "InformationDisplay");
-    auto const input = input_.strong();
-    input->onValueChange(makeValue(std::string("text")), VContext(nullptr), nullptr);
-    input->onValueChange(makeValue(VObjectStatus("status")), VContext(nullptr), nullptr);
-    input->onValueChange(nullptr, VContext(nullptr), nullptr);
+    auto const held = input.strong();
+    held->onValueChange(makeValue(std::string("text")), VContext(nullptr), nullptr);
+    held->onValueChange(makeValue(VObjectStatus("status")), VContext(nullptr), nullptr);
+    held->onValueChange(nullptr, VContext(nullptr), nullptr);
     EXPECT_EQ(label->text(), QStringLiteral("kept"));
 }
 
@@ -76,7 +76,7 @@ TEST_F(InformationDisplay, IsEmptyWithoutAnOwner) {
 TEST_F(InformationDisplay, ShowsItsPoolAlone) {
     auto const parameter = makeInfo("own", Values::PerPool);
     auto* const label = show(parameter, "InformationDisplay");
-    change(parameter, info{"elsewhere"}, ChosenPool::Pool(new ValuePool("second")));
+    change(parameter, info{"elsewhere"}, secondPool);
     EXPECT_EQ(label->text(), QStringLiteral("own"));
     change(parameter, info{"here"});
     EXPECT_EQ(label->text(), QStringLiteral("here"));
@@ -106,7 +106,7 @@ TEST_F(StatusDisplay, IsKnownToQtByItsNames) {
 
 TEST_F(StatusDisplay, IsWhatAStatusGets) {
     auto const parameter = makeStatus("idle");
-    EXPECT_EQ(makeEditor(parameter, panel_.get(), &pools_).choice.creator.strong()->Name(), "StatusDisplay");
+    EXPECT_EQ(makeEditor(parameter, parent, &pools).choice.creator.strong()->Name(), "StatusDisplay");
 }
 
 TEST_F(StatusDisplay, ShowsTheText) {
@@ -151,9 +151,9 @@ TEST_F(StatusDisplay, ReportsALinkAndOpensNothing) {
 TEST_F(StatusDisplay, IgnoresAValueOfAnotherType) {
     auto const parameter = makeStatus("kept");
     auto* const label = show(parameter, "StatusDisplay");
-    auto const input = input_.strong();
-    input->onValueChange(makeValue(info{"text"}), VContext(nullptr), nullptr);
-    input->onValueChange(nullptr, VContext(nullptr), nullptr);
+    auto const held = input.strong();
+    held->onValueChange(makeValue(info{"text"}), VContext(nullptr), nullptr);
+    held->onValueChange(nullptr, VContext(nullptr), nullptr);
     EXPECT_EQ(label->text(), QStringLiteral("kept"));
 }
 
@@ -168,7 +168,7 @@ TEST_F(StatusDisplay, IsEmptyWithoutAnOwner) {
 TEST_F(StatusDisplay, ShowsItsPoolAlone) {
     auto const parameter = makeStatus("own", Values::PerPool);
     auto* const label = show(parameter, "StatusDisplay");
-    change(parameter, VObjectStatus("elsewhere"), ChosenPool::Pool(new ValuePool("second")));
+    change(parameter, VObjectStatus("elsewhere"), secondPool);
     EXPECT_EQ(label->text(), QStringLiteral("own"));
     change(parameter, VObjectStatus("here"));
     EXPECT_EQ(label->text(), QStringLiteral("here"));
@@ -179,7 +179,7 @@ TEST_F(StatusDisplay, MayBeDeletedByWhoeverIsTold) {
     QPointer<QLabel> const label = show(parameter, "StatusDisplay");
     QSignalSpy spy(label, SIGNAL(myUpdateLabelText(QString)));
     watch(parameter);
-    listener_.reaction = [&] { delete label; };
+    recorder.reaction = [&] { delete label; };
     change(parameter, VObjectStatus("working"));
     EXPECT_EQ(spy.count(), 1);
     EXPECT_FALSE(label);

@@ -36,7 +36,7 @@ TEST_F(MultiLineText, IsKnownToQtByItsNames) {
 TEST_F(MultiLineText, IsWhatTheMultiLinePreferenceGets) {
     auto const parameter = makeText("a\nb");
     parameter->setCreationPreferences(PreferencesPtr(new VCreationPreferences(VValueTrait<std::string>::MultiLine())));
-    auto const editor = makeEditor(parameter, panel_.get(), &pools_);
+    auto const editor = makeEditor(parameter, parent, &pools);
     ASSERT_TRUE(editor.widget);
     EXPECT_STREQ(editor.widget->metaObject()->className(), "Kolt::qVString");
 }
@@ -46,7 +46,7 @@ TEST_F(MultiLineText, ShowsTheTextAndWritesNothing) {
     watch(parameter);
     auto* const editor = edit(parameter);
     EXPECT_EQ(editor->toPlainText(), QString::fromUtf8("Gr\u00fc\u00dfe\n\u65e5\u672c \U0001F600\n"));
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
 }
 
@@ -56,7 +56,7 @@ TEST_F(MultiLineText, CommitsNothingByTheInsertionItself) {
     auto* const editor = edit(parameter);
     insert(editor, QStringLiteral("b"));
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("ab"));
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
 }
 
 TEST_F(MultiLineText, IsCommittedWhenTheMouseLeavesWithoutTheFocus) {
@@ -68,27 +68,27 @@ TEST_F(MultiLineText, IsCommittedWhenTheMouseLeavesWithoutTheFocus) {
     watch(parameter);
     QTest::mouseMove(editor, QPoint(5, 5));
     ASSERT_TRUE(waitUntil([&] { return editor->underMouse(); }));
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
     auto const before = Tessera::Ageable::GlobalTime.load();
-    QTest::mouseMove(panel_.get(), QPoint(1, 1));
+    QTest::mouseMove(parent, QPoint(1, 1));
     ASSERT_TRUE(waitUntil([&] { return !editor->underMouse(); }));
-    EXPECT_THAT(listener_.texts, ElementsAre("one\ntwo"));
+    EXPECT_THAT(recorder.values, ElementsAre("one\ntwo"));
     EXPECT_EQ(parameter->ownValue()->age(), before + 1);
     EXPECT_TRUE(editor->hasFocus());
-    panel_->hide();
+    parent->hide();
 }
 
 TEST_F(MultiLineText, IsCommittedWhenTheFocusLeaves) {
     auto const parameter = makeText("");
     auto* const editor = edit(parameter);
-    auto* const other = new QLineEdit(panel_.get());
-    panel_->layout()->addWidget(other);
+    auto* const other = new QLineEdit(parent);
+    parent->layout()->addWidget(other);
     ASSERT_TRUE(showPanel());
     ASSERT_TRUE(focus(editor));
     insert(editor, QStringLiteral("text"));
     watch(parameter);
     ASSERT_TRUE(focus(other));
-    EXPECT_THAT(listener_.texts, ElementsAre("text"));
+    EXPECT_THAT(recorder.values, ElementsAre("text"));
 }
 
 TEST_F(MultiLineText, IsCommittedWhenKeypadFocusLeavesAndByNoOtherEvent) {
@@ -96,11 +96,11 @@ TEST_F(MultiLineText, IsCommittedWhenKeypadFocusLeavesAndByNoOtherEvent) {
     auto* const editor = edit(parameter);
     watch(parameter);
     send(editor, static_cast<QEvent::Type>(151));
-    EXPECT_THAT(listener_.texts, ElementsAre("text"));
+    EXPECT_THAT(recorder.values, ElementsAre("text"));
     for (auto const type : {QEvent::Enter, QEvent::ToolTipChange, QEvent::WindowActivate, QEvent::LanguageChange})
         send(editor, type);
     send(editor, static_cast<QEvent::Type>(150));
-    EXPECT_THAT(listener_.texts, ElementsAre("text"));
+    EXPECT_THAT(recorder.values, ElementsAre("text"));
 }
 
 TEST_F(MultiLineText, IsCommittedByEachKeyAsItWasBeforeTheKey) {
@@ -110,7 +110,7 @@ TEST_F(MultiLineText, IsCommittedByEachKeyAsItWasBeforeTheKey) {
     QTest::keyClicks(editor, QStringLiteral("ab"));
     QTest::keyClick(editor, Qt::Key_Return);
     QTest::keyClick(editor, Qt::Key_C);
-    EXPECT_THAT(listener_.texts, ElementsAre("", "a", "ab", "ab\n"));
+    EXPECT_THAT(recorder.values, ElementsAre("", "a", "ab", "ab\n"));
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("ab\nc"));
 }
 
@@ -121,7 +121,7 @@ TEST_F(MultiLineText, IsCommittedBeforeAKeyWithAModifierIsApplied) {
     watch(parameter);
     QTest::keyClick(editor, Qt::Key_X, Qt::ControlModifier);
     // One for the modifier, which is a key, too.
-    EXPECT_THAT(listener_.texts, ElementsAre("abc", "abc"));
+    EXPECT_THAT(recorder.values, ElementsAre("abc", "abc"));
     EXPECT_EQ(editor->toPlainText(), QString());
 }
 
@@ -132,7 +132,7 @@ TEST_F(MultiLineText, CommitsAlsoWhatDidNotChange) {
     auto const before = Tessera::Ageable::GlobalTime.load();
     send(editor, QEvent::Leave);
     send(editor, QEvent::Leave);
-    EXPECT_THAT(listener_.texts, ElementsAre("same", "same"));
+    EXPECT_THAT(recorder.values, ElementsAre("same", "same"));
     EXPECT_EQ(parameter->ownValue()->age(), before + 2);
 }
 
@@ -164,13 +164,13 @@ TEST_F(MultiLineText, ShowsWhatSomebodyElseMakesOfItsCommit) {
     auto const parameter = makeText("abc");
     auto* const editor = edit(parameter);
     watch(parameter);
-    listener_.reaction = [&] {
-        listener_.reaction = nullptr;
+    recorder.reaction = [&] {
+        recorder.reaction = nullptr;
         change(parameter, std::string("corrected"));
     };
     send(editor, QEvent::Leave);
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("corrected"));
-    EXPECT_THAT(listener_.texts, ElementsAre("abc", "corrected"));
+    EXPECT_THAT(recorder.values, ElementsAre("abc", "corrected"));
 }
 
 TEST_F(MultiLineText, ShowsAnEarlierTextAgainAfterTyping) {
@@ -190,7 +190,7 @@ TEST_F(MultiLineText, DoesNotEchoASecondEditor) {
     insert(left, QStringLiteral("ab"));
     send(left, QEvent::Leave);
     EXPECT_EQ(right->toPlainText(), QStringLiteral("ab"));
-    EXPECT_THAT(listener_.texts, ElementsAre("ab"));
+    EXPECT_THAT(recorder.values, ElementsAre("ab"));
 }
 
 TEST_F(MultiLineText, HoldsPlainText) {
@@ -256,10 +256,10 @@ TEST_F(MultiLineText, CarriesRandomBytesAsFarAsTheDocumentKeepsThem) {
 TEST_F(MultiLineText, IgnoresAValueOfAnotherType) {
     auto const parameter = makeText("");
     auto* const editor = edit(parameter);
-    auto const input = input_.strong();
+    auto const held = input.strong();
     insert(editor, QStringLiteral("abc"));
-    input->onValueChange(makeValue(7), VContext(nullptr), nullptr);
-    input->onValueChange(nullptr, VContext(nullptr), nullptr);
+    held->onValueChange(makeValue(7), VContext(nullptr), nullptr);
+    held->onValueChange(nullptr, VContext(nullptr), nullptr);
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("abc"));
 }
 
@@ -275,13 +275,13 @@ TEST_F(MultiLineText, DropsAnEditWithoutAPoolSilently) {
     auto const parameter = makeText("abc");
     watch(parameter);
     auto* const editor = edit(parameter);
-    pools_.choose(nullptr);
+    pools.use(nullptr);
     insert(editor, QStringLiteral("x"));
     send(editor, QEvent::Leave);
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("abcx"));
     EXPECT_EQ(textOf(parameter), "abc");
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
 }
 
 TEST_F(MultiLineText, StartsEmptyWithoutAnOwnerAndReportsEachCommit) {
@@ -292,34 +292,34 @@ TEST_F(MultiLineText, StartsEmptyWithoutAnOwnerAndReportsEachCommit) {
     EXPECT_EQ(editor->toPlainText(), QString());
     EXPECT_THAT(takeOutput(), IsEmpty());
     send(editor, QEvent::Leave);
-    EXPECT_EQ(takeWrittenOutput(), missingOwner + "\n");
-    pools_.choose(nullptr);
+    EXPECT_EQ(takeWrittenOutput(), missingOwner);
+    pools.use(nullptr);
     send(editor, QEvent::Leave);
-    EXPECT_THAT(takeOutput(), ElementsAre(missingOwner));
+    EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
 }
 
 TEST_F(MultiLineText, MayBeDeletedByWhoeverIsTold) {
     auto const parameter = makeText("abc");
     watch(parameter);
     QPointer<QTextEdit> const editor = edit(parameter);
-    listener_.reaction = [&] { delete editor; };
+    recorder.reaction = [&] { delete editor; };
     ASSERT_TRUE(QMetaObject::invokeMethod(editor, "newText"));
     EXPECT_FALSE(editor);
-    EXPECT_THAT(listener_.texts, ElementsAre("abc"));
+    EXPECT_THAT(recorder.values, ElementsAre("abc"));
 }
 
 TEST_F(MultiLineText, MayBeDeletedLaterWithItsPanelByWhoeverIsTold) {
     auto parameter = makeText("");
     watch(parameter);
     QPointer<QTextEdit> const editor = edit(parameter);
-    listener_.reaction = [&] {
-        listener_.reaction = nullptr;
+    recorder.reaction = [&] {
+        recorder.reaction = nullptr;
         parameter.reset();
-        panel_.release()->deleteLater();
+        parent->deleteLater();
     };
     QTest::keyClick(editor, Qt::Key_A);
     EXPECT_TRUE(waitUntil([&] { return !editor; }));
-    EXPECT_THAT(takeOutput(), ElementsAre(missingOwner));
+    EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
 }
 
 TEST_F(MultiLineText, IsCommittedWhenItIsHiddenBeforeItIsDeleted) {
@@ -329,8 +329,8 @@ TEST_F(MultiLineText, IsCommittedWhenItIsHiddenBeforeItIsDeleted) {
     ASSERT_TRUE(focus(editor));
     insert(editor, QStringLiteral("being typed"));
     watch(parameter);
-    panel_->hide();
-    panel_.reset();
+    parent->hide();
+    delete parent;
     EXPECT_EQ(textOf(parameter), "being typed");
 }
 
@@ -340,7 +340,7 @@ TEST_F(MultiLineText, IsCommittedWhenItsWindowIsDestroyed) {
     ASSERT_TRUE(showPanel());
     ASSERT_TRUE(focus(editor));
     insert(editor, QStringLiteral("being typed"));
-    panel_.reset();
+    delete parent;
     EXPECT_EQ(textOf(parameter), "being typed");
 }
 
@@ -352,7 +352,7 @@ TEST_F(MultiLineText, CommitsNothingWhileItIsDestroyed) {
     insert(editor, QStringLiteral("being typed"));
     watch(parameter);
     delete editor;
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
     EXPECT_EQ(textOf(parameter), "old");
 }
 
@@ -363,7 +363,7 @@ TEST_F(MultiLineText, WritesIntoItsPoolAlone) {
     send(editor, QEvent::Leave);
     EXPECT_EQ(localTextOf(parameter), "own text");
     EXPECT_EQ(textOf(parameter), "own");
-    change(parameter, std::string("elsewhere"), ChosenPool::Pool(new ValuePool("second")));
+    change(parameter, std::string("elsewhere"), secondPool);
     EXPECT_EQ(editor->toPlainText(), QStringLiteral("own text"));
 }
 
@@ -371,11 +371,11 @@ TEST_F(MultiLineText, IsHandedThePoolsTextByTheFrontEnd) {
     auto const parameter = makeText("own", Values::PerPool);
     parameter->setCreationPreferences(PreferencesPtr(new VCreationPreferences(VValueTrait<std::string>::MultiLine())));
     change(parameter, std::string("local"));
-    auto const editor = makeEditor(parameter, panel_.get(), &pools_);
+    auto const editor = makeEditor(parameter, parent, &pools);
     auto* const field = dynamic_cast<QTextEdit*>(editor.widget.data());
     EXPECT_EQ(field->toPlainText(), QStringLiteral("local"));
-    pools_.choose(ChosenPool::Pool(new ValuePool("second")));
-    showPoolValue(editor, parameter, &pools_);
+    pools.use(secondPool);
+    showPoolValue(editor, parameter, &pools);
     EXPECT_EQ(field->toPlainText(), QStringLiteral("own"));
 }
 

@@ -1,7 +1,7 @@
 #include "qVinputs/TextEditorTest.hpp"
+#include "support/FileDialogs.hpp"
 
 #include <lattice/Scheduler.hpp>
-#include <QFileDialog>
 #include <QMetaMethod>
 #include <QPushButton>
 #include <QTranslator>
@@ -38,8 +38,6 @@ public:
 class FileName : public TextEditorTest {
 protected:
     FileName() {
-        // The platform's own dialogs cannot be driven by events.
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         VScheduler::runDue();
         QDir().mkpath(folder());
         for (auto const* const name : {"first.tar.gz", "second.txt", "third.pdf"}) {
@@ -66,34 +64,14 @@ protected:
     /// Clicks the button and does something with the dialog that opens.
     void click(QPushButton* button, std::function<void(QFileDialog&)> const& work) {
         ASSERT_TRUE(showPanel());
-        bool worked = false;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (!dialog || !dialog->isVisible())
-                return;
-            timer.stop();
-            worked = true;
-            work(*dialog);
-        });
-        timer.start(0);
-        QTest::mouseClick(button, Qt::LeftButton);
-        EXPECT_TRUE(worked);
+        EXPECT_TRUE(withFileDialog([&] { QTest::mouseClick(button, Qt::LeftButton); }, work));
     }
     void choose(QPushButton* button, QString const& name) {
-        click(button, [&](QFileDialog& dialog) { enter(dialog, name); });
+        click(button, [&](QFileDialog& dialog) { enterFileName(dialog, name); });
     }
     void cancel(QPushButton* button) {
         click(button, [](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     }
-    static void enter(QFileDialog& dialog, QString const& name) {
-        auto* const field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        field->setFocus();
-        field->selectAll();
-        QTest::keyClicks(field, name);
-        QTest::keyClick(field, Qt::Key_Return);
-    }
-
     using Object = Tessera::StrongPtr<Recorder, VManagedObjectBase>;
     Object makeObject(std::string const& name, ParameterPtr const& bound) {
         Object object(new Recorder(name, log_));
@@ -122,7 +100,7 @@ TEST_F(FileName, IsWhatTheThreePreferencesGet) {
                                            {"FileInput", "OpenFileCreator"}}) {
         auto const parameter = makeText("");
         parameter->setCreationPreferences(PreferencesPtr(new VCreationPreferences(preference)));
-        EXPECT_EQ(makeEditor(parameter, panel_.get(), &pools_).choice.creator.strong()->Name(), name);
+        EXPECT_EQ(makeEditor(parameter, parent, &pools).choice.creator.strong()->Name(), name);
     }
 }
 
@@ -238,7 +216,7 @@ TEST_F(FileName, CommitsTheChosenFileAndShowsItsBaseName) {
     choose(button, path("first.tar.gz"));
     EXPECT_EQ(button->text(), QStringLiteral("first"));
     EXPECT_EQ(button->toolTip(), path("first.tar.gz"));
-    EXPECT_THAT(listener_.texts, ElementsAre(text(path("first.tar.gz"))));
+    EXPECT_THAT(recorder.values, ElementsAre(text(path("first.tar.gz"))));
     EXPECT_EQ(parameter->ownValue()->age(), before + 1);
 }
 
@@ -249,7 +227,7 @@ TEST_F(FileName, KeepsItsCaptionWhenSomethingIsSaved) {
     choose(button, path("new.txt"));
     EXPECT_EQ(button->text(), QStringLiteral("Save as"));
     EXPECT_EQ(button->toolTip(), QString());
-    EXPECT_THAT(listener_.texts, ElementsAre(text(path("new.txt"))));
+    EXPECT_THAT(recorder.values, ElementsAre(text(path("new.txt"))));
 }
 
 TEST_F(FileName, CommitsAPdfFile) {
@@ -266,7 +244,7 @@ TEST_F(FileName, CommitsTheEmptyNameOfACancelledDialog) {
     cancel(button);
     EXPECT_EQ(button->text(), QStringLiteral("Select File"));
     EXPECT_EQ(button->toolTip(), QString());
-    EXPECT_THAT(listener_.texts, ElementsAre(""));
+    EXPECT_THAT(recorder.values, ElementsAre(""));
     EXPECT_GT(parameter->ownValue()->age(), 0U);
     EXPECT_EQ(VScheduler::waiting(), 0);
 
@@ -289,7 +267,7 @@ TEST_F(FileName, SchedulesEveryObjectBoundToTheParameter) {
     EXPECT_EQ(VScheduler::waiting(), 2);
     EXPECT_EQ(VScheduler::nextTime(), 0.0);
     VScheduler::runDue();
-    EXPECT_THAT(log_, ElementsAre("reader in first", "writer in first"));
+    EXPECT_THAT(log_, ElementsAre("reader in draft", "writer in draft"));
 }
 
 TEST_F(FileName, SchedulesWhatIsSavedToo) {
@@ -297,7 +275,7 @@ TEST_F(FileName, SchedulesWhatIsSavedToo) {
     auto const writer = makeObject("writer", parameter);
     choose(save(parameter), path("new.txt"));
     VScheduler::runDue();
-    EXPECT_THAT(log_, ElementsAre("writer in first"));
+    EXPECT_THAT(log_, ElementsAre("writer in draft"));
 }
 
 TEST_F(FileName, ReportsAMissingOwnerAndSchedulesNothing) {
@@ -309,10 +287,10 @@ TEST_F(FileName, ReportsAMissingOwnerAndSchedulesNothing) {
     EXPECT_EQ(button->text(), QStringLiteral("Select File"));
     EXPECT_THAT(takeOutput(), IsEmpty());
     choose(button, path("second.txt"));
-    EXPECT_EQ(takeWrittenOutput(), missingOwner + "\n");
+    EXPECT_EQ(takeWrittenOutput(), missingOwner);
     EXPECT_EQ(VScheduler::waiting(), 0);
     cancel(button);
-    EXPECT_THAT(takeOutput(), ElementsAre(missingOwner));
+    EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
 }
 
 TEST_F(FileName, ReportsOnceAnOwnerThatGoesDuringTheCommit) {
@@ -320,9 +298,9 @@ TEST_F(FileName, ReportsOnceAnOwnerThatGoesDuringTheCommit) {
     auto const object = makeObject("bound", parameter);
     watch(parameter);
     auto* const button = open(parameter);
-    listener_.reaction = [&] { parameter.reset(); };
+    recorder.reaction = [&] { parameter.reset(); };
     choose(button, path("second.txt"));
-    EXPECT_THAT(takeOutput(), ElementsAre(missingOwner));
+    EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
     EXPECT_EQ(VScheduler::waiting(), 0);
 }
 
@@ -331,12 +309,12 @@ TEST_F(FileName, StoresNothingWithoutAPool) {
     auto const object = makeObject("bound", parameter);
     watch(parameter);
     auto* const button = open(parameter);
-    pools_.choose(nullptr);
+    pools.use(nullptr);
     choose(button, path("second.txt"));
     EXPECT_EQ(button->text(), QStringLiteral("second"));
     EXPECT_EQ(textOf(parameter), "old");
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
     // The walk does not depend on the store.
     VScheduler::runDue();
     EXPECT_THAT(log_, ElementsAre("bound in no pool"));
@@ -356,7 +334,7 @@ TEST_F(FileName, ShowsAValueFromElsewhereInEveryMode) {
         EXPECT_EQ(button->text(), QString());
         EXPECT_EQ(button->toolTip(), QString());
     }
-    EXPECT_EQ(listener_.texts.size(), 2U);
+    EXPECT_EQ(recorder.values.size(), 2U);
 }
 
 TEST_F(FileName, KeepsItsCaptionWhenOnlyAPropertyChanges) {
@@ -373,15 +351,15 @@ TEST_F(FileName, DoesNotEchoASecondButton) {
     auto* const right = save(parameter);
     choose(left, path("second.txt"));
     EXPECT_EQ(right->text(), QStringLiteral("second"));
-    EXPECT_EQ(listener_.texts.size(), 1U);
+    EXPECT_EQ(recorder.values.size(), 1U);
 }
 
 TEST_F(FileName, IgnoresAValueOfAnotherType) {
     auto const parameter = makeText("/data/kept.txt");
     auto* const button = open(parameter);
-    auto const input = input_.strong();
-    input->onValueChange(makeValue(7), VContext(nullptr), nullptr);
-    input->onValueChange(nullptr, VContext(nullptr), nullptr);
+    auto const held = input.strong();
+    held->onValueChange(makeValue(7), VContext(nullptr), nullptr);
+    held->onValueChange(nullptr, VContext(nullptr), nullptr);
     EXPECT_EQ(button->text(), QStringLiteral("kept"));
 }
 
@@ -391,21 +369,23 @@ TEST_F(FileName, WritesIntoItsPoolAlone) {
     choose(button, path("second.txt"));
     EXPECT_EQ(localTextOf(parameter), text(path("second.txt")));
     EXPECT_EQ(textOf(parameter), "own");
-    change(parameter, std::string("elsewhere"), ChosenPool::Pool(new ValuePool("second")));
+    change(parameter, std::string("elsewhere"), secondPool);
     EXPECT_EQ(button->text(), QStringLiteral("second"));
 }
 
 TEST_F(FileName, MayBeDeletedWithItsPanelWhileItsDialogIsOpen) {
     for (auto const* const creatorName : {"OpenFileCreator", "FileNameCreator"}) {
-        panel_ = std::make_unique<QWidget>();
-        panel_->setLayout(new QVBoxLayout);
+        if (!parent) {
+            parent = new QWidget;
+            parent->setLayout(new QVBoxLayout);
+        }
         auto const parameter = makeText("old");
         watch(parameter);
         QPointer<QPushButton> const button = create<QPushButton>(creatorName, parameter);
         QPointer<QFileDialog> open;
         click(button, [&](QFileDialog& dialog) {
             open = &dialog;
-            panel_.reset();
+            delete parent;
             ASSERT_TRUE(open);
             EXPECT_FALSE(open->isVisible());
             EXPECT_EQ(open->result(), static_cast<int>(QDialog::Rejected));
@@ -413,7 +393,7 @@ TEST_F(FileName, MayBeDeletedWithItsPanelWhileItsDialogIsOpen) {
         EXPECT_FALSE(button);
         EXPECT_FALSE(open);
         EXPECT_EQ(textOf(parameter), "old");
-        EXPECT_THAT(listener_.texts, IsEmpty());
+        EXPECT_THAT(recorder.values, IsEmpty());
     }
 }
 
@@ -422,11 +402,11 @@ TEST_F(FileName, MayBeDeletedByWhoeverIsToldAndSchedulesAllTheSame) {
     auto const object = makeObject("bound", parameter);
     watch(parameter);
     QPointer<QPushButton> const button = open(parameter);
-    listener_.reaction = [&] { delete button; };
+    recorder.reaction = [&] { delete button; };
     choose(button, path("second.txt"));
     EXPECT_FALSE(button);
     VScheduler::runDue();
-    EXPECT_THAT(log_, ElementsAre("bound in first"));
+    EXPECT_THAT(log_, ElementsAre("bound in draft"));
 }
 
 TEST_F(FileName, CarriesNamesOfManyCharacters) {

@@ -74,8 +74,8 @@ TEST_F(TextFonts, AreSmallAndBoldOnAButtonWhereArialIsExact) {
     if (areExact())
         expectSmallBold(button->font(), "Arial");
     else
-        EXPECT_EQ(button->font(), QPushButton(panel_.get()).font());
-    panel_.reset();
+        EXPECT_EQ(button->font(), QPushButton(parent).font());
+    delete parent;
     EXPECT_TRUE(QFontDatabase::removeApplicationFont(arial));
 }
 
@@ -92,14 +92,14 @@ TEST_F(TextFonts, AreSmallAndBoldInALineWhereTheFamilyIsExact) {
     if (areExact())
         expectSmallBold(editor->font(), "DejaVu Sans Mono");
     else
-        EXPECT_EQ(editor->font(), panel_->font());
+        EXPECT_EQ(editor->font(), parent->font());
 }
 
 TEST_F(TextFonts, AreSmallAndBoldInTheDocumentAloneWhereTheFamilyIsExact) {
     auto const parameter = makeText("text");
     auto* const editor = create<QTextEdit>("string", parameter);
-    EXPECT_EQ(editor->font().family(), panel_->font().family());
-    EXPECT_EQ(editor->font().pixelSize(), panel_->font().pixelSize());
+    EXPECT_EQ(editor->font().family(), parent->font().family());
+    EXPECT_EQ(editor->font().pixelSize(), parent->font().pixelSize());
     EXPECT_FALSE(editor->font().bold());
     if (areExact())
         expectSmallBold(editor->document()->defaultFont(), "DejaVu Sans Mono");
@@ -114,7 +114,7 @@ TEST_F(TextFonts, AreThoseOfThePanelOnAButtonWithoutArial) {
     if (installed && areExact())
         expectSmallBold(button->font(), "Arial");
     else
-        EXPECT_EQ(button->font(), QPushButton(panel_.get()).font());
+        EXPECT_EQ(button->font(), QPushButton(parent).font());
 }
 
 } // namespace

@@ -41,7 +41,7 @@ TEST_F(SingleLineText, IsKnownToQtByItsNames) {
 
 TEST_F(SingleLineText, IsWhatATextWithoutPreferencesGets) {
     auto const parameter = makeText("a title");
-    auto const editor = makeEditor(parameter, panel_.get(), &pools_);
+    auto const editor = makeEditor(parameter, parent, &pools);
     ASSERT_TRUE(editor.widget);
     EXPECT_STREQ(editor.widget->metaObject()->className(), "Kolt::qVStringInput");
 }
@@ -50,7 +50,7 @@ TEST_F(SingleLineText, ShowsTheTextAndWritesNothing) {
     auto const parameter = makeText("Gr\u00fc\u00dfe \u2014 \u65e5\u672c \U0001F600");
     watch(parameter);
     EXPECT_EQ(edit(parameter)->text(), QString::fromUtf8("Gr\u00fc\u00dfe \u2014 \u65e5\u672c \U0001F600"));
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
     EXPECT_FALSE(parameter->properties());
 }
@@ -61,7 +61,7 @@ TEST_F(SingleLineText, CommitsEveryKeystroke) {
     auto* const editor = edit(parameter);
     auto const before = Tessera::Ageable::GlobalTime.load();
     QTest::keyClicks(editor, QStringLiteral("abc"));
-    EXPECT_THAT(listener_.texts, ElementsAre("a", "ab", "abc"));
+    EXPECT_THAT(recorder.values, ElementsAre("a", "ab", "abc"));
     EXPECT_EQ(Tessera::Ageable::GlobalTime.load(), before + 3);
     EXPECT_EQ(parameter->ownValue()->age(), before + 3);
 }
@@ -73,20 +73,20 @@ TEST_F(SingleLineText, CommitsADeletionAndAPasteAtOnce) {
     QTest::keyClick(editor, Qt::Key_Backspace);
     QGuiApplication::clipboard()->setText(QStringLiteral("xyz"));
     QTest::keyClick(editor, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_THAT(listener_.texts, ElementsAre("ab", "abxyz"));
+    EXPECT_THAT(recorder.values, ElementsAre("ab", "abxyz"));
 }
 
 TEST_F(SingleLineText, IsNotCommittedByLeavingItWhereEveryKeystrokeIs) {
     auto const parameter = makeText("abc");
     auto* const editor = edit(parameter);
-    auto* const other = new QLineEdit(panel_.get());
-    panel_->layout()->addWidget(other);
+    auto* const other = new QLineEdit(parent);
+    parent->layout()->addWidget(other);
     ASSERT_TRUE(showPanel());
     ASSERT_TRUE(focus(editor));
     watch(parameter);
     QTest::keyClick(editor, Qt::Key_Return);
     ASSERT_TRUE(focus(other));
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
 }
 
 TEST_F(SingleLineText, IsCommittedWholeByReturnUnderUpdateOnEnterOnly) {
@@ -94,31 +94,31 @@ TEST_F(SingleLineText, IsCommittedWholeByReturnUnderUpdateOnEnterOnly) {
     watch(parameter);
     auto* const editor = edit(parameter);
     QTest::keyClicks(editor, QStringLiteral("abc"));
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
     EXPECT_EQ(textOf(parameter), "");
     QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_THAT(listener_.texts, ElementsAre("abc"));
+    EXPECT_THAT(recorder.values, ElementsAre("abc"));
 }
 
 TEST_F(SingleLineText, IsCommittedWholeByFocusLossUnderUpdateOnEnterOnly) {
     auto const parameter = onEnterOnly("");
     watch(parameter);
     auto* const editor = edit(parameter);
-    auto* const other = new QLineEdit(panel_.get());
-    panel_->layout()->addWidget(other);
+    auto* const other = new QLineEdit(parent);
+    parent->layout()->addWidget(other);
     ASSERT_TRUE(showPanel());
     ASSERT_TRUE(focus(editor));
     QTest::keyClicks(editor, QStringLiteral("abc"));
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
     ASSERT_TRUE(focus(other));
-    EXPECT_THAT(listener_.texts, ElementsAre("abc"));
+    EXPECT_THAT(recorder.values, ElementsAre("abc"));
 }
 
 TEST_F(SingleLineText, CommitsWhatQtReportsAsFinishedAlsoUnchanged) {
     auto const parameter = onEnterOnly("abc");
     auto* const editor = edit(parameter);
-    auto* const other = new QLineEdit(panel_.get());
-    panel_->layout()->addWidget(other);
+    auto* const other = new QLineEdit(parent);
+    parent->layout()->addWidget(other);
     ASSERT_TRUE(showPanel());
     ASSERT_TRUE(focus(editor));
     change(parameter, std::string("from the host"));
@@ -126,7 +126,7 @@ TEST_F(SingleLineText, CommitsWhatQtReportsAsFinishedAlsoUnchanged) {
     QTest::keyClick(editor, Qt::Key_Return);
     QTest::keyClick(editor, Qt::Key_Enter);
     ASSERT_TRUE(focus(other));
-    EXPECT_THAT(listener_.texts, ElementsAre("from the host", "from the host", "from the host"));
+    EXPECT_THAT(recorder.values, ElementsAre("from the host", "from the host", "from the host"));
 }
 
 TEST_F(SingleLineText, TakesUpdateOnEnterOnlyFromTheCreatorWhereTheParameterHasNoPreferences) {
@@ -135,9 +135,9 @@ TEST_F(SingleLineText, TakesUpdateOnEnterOnlyFromTheCreatorWhereTheParameterHasN
     watch(parameter);
     auto* const editor = edit(parameter);
     QTest::keyClicks(editor, QStringLiteral("ab"));
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
     QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_THAT(listener_.texts, ElementsAre("ab"));
+    EXPECT_THAT(recorder.values, ElementsAre("ab"));
 }
 
 TEST_F(SingleLineText, FollowsTheParametersOwnPreferencesInPlaceOfTheCreators) {
@@ -146,7 +146,7 @@ TEST_F(SingleLineText, FollowsTheParametersOwnPreferencesInPlaceOfTheCreators) {
     parameter->setCreationPreferences(PreferencesPtr(new VCreationPreferences(VValueTrait<std::string>::OneLine())));
     watch(parameter);
     QTest::keyClicks(edit(parameter), QStringLiteral("ab"));
-    EXPECT_THAT(listener_.texts, ElementsAre("a", "ab"));
+    EXPECT_THAT(recorder.values, ElementsAre("a", "ab"));
 }
 
 TEST_F(SingleLineText, CommitsTheSeparatorsOfAnInputMask) {
@@ -158,7 +158,7 @@ TEST_F(SingleLineText, CommitsTheSeparatorsOfAnInputMask) {
     QTest::keyClick(editor, Qt::Key_Home);
     QTest::keyClicks(editor, QStringLiteral("1x2y3456"));
     QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_THAT(listener_.texts, ElementsAre("123-456"));
+    EXPECT_THAT(recorder.values, ElementsAre("123-456"));
 }
 
 TEST_F(SingleLineText, IsNotFinishedWhileItsInputMaskIsNotFilled) {
@@ -169,7 +169,7 @@ TEST_F(SingleLineText, IsNotFinishedWhileItsInputMaskIsNotFilled) {
     QTest::keyClick(editor, Qt::Key_Home);
     QTest::keyClicks(editor, QStringLiteral("12"));
     QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
 }
 
 TEST_F(SingleLineText, HasNoInputMaskFromAPropertyThatIsNoText) {
@@ -192,7 +192,7 @@ TEST_F(SingleLineText, ShowsAChangeFromElsewhereAndSendsNothingBack) {
     watch(parameter);
     change(parameter, std::string("\u00e9t\u00e9"));
     EXPECT_EQ(editor->text(), QString::fromUtf8("\u00e9t\u00e9"));
-    EXPECT_THAT(listener_.texts, ElementsAre("\u00e9t\u00e9"));
+    EXPECT_THAT(recorder.values, ElementsAre("\u00e9t\u00e9"));
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
 }
 
@@ -205,15 +205,15 @@ TEST_F(SingleLineText, DoesNotEchoASecondEditor) {
     EXPECT_EQ(right->text(), QStringLiteral("ab"));
     QTest::keyClicks(right, QStringLiteral("c"));
     EXPECT_EQ(left->text(), QStringLiteral("abc"));
-    EXPECT_THAT(listener_.texts, ElementsAre("a", "ab", "abc"));
+    EXPECT_THAT(recorder.values, ElementsAre("a", "ab", "abc"));
 }
 
 TEST_F(SingleLineText, IgnoresAValueOfAnotherType) {
     auto const parameter = makeText("abc");
     auto* const editor = edit(parameter);
-    auto const input = input_.strong();
-    input->onValueChange(makeValue(7), VContext(nullptr), nullptr);
-    input->onValueChange(nullptr, VContext(nullptr), nullptr);
+    auto const held = input.strong();
+    held->onValueChange(makeValue(7), VContext(nullptr), nullptr);
+    held->onValueChange(nullptr, VContext(nullptr), nullptr);
     EXPECT_EQ(editor->text(), QStringLiteral("abc"));
 }
 
@@ -229,12 +229,12 @@ TEST_F(SingleLineText, DropsAnEditWithoutAPoolSilently) {
     auto const parameter = makeText("abc");
     watch(parameter);
     auto* const editor = edit(parameter);
-    pools_.choose(nullptr);
+    pools.use(nullptr);
     QTest::keyClicks(editor, QStringLiteral("d"));
     EXPECT_EQ(editor->text(), QStringLiteral("abcd"));
     EXPECT_EQ(textOf(parameter), "abc");
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
 }
 
 TEST_F(SingleLineText, StartsEmptyWithoutAnOwnerAndReportsEachCommit) {
@@ -246,10 +246,10 @@ TEST_F(SingleLineText, StartsEmptyWithoutAnOwnerAndReportsEachCommit) {
     EXPECT_EQ(editor->inputMask(), QString());
     EXPECT_THAT(takeOutput(), IsEmpty());
     QTest::keyClicks(editor, QStringLiteral("ab"));
-    EXPECT_EQ(takeWrittenOutput(), missingOwner + "\n" + missingOwner + "\n");
-    pools_.choose(nullptr);
+    EXPECT_EQ(takeWrittenOutput(), missingOwner + missingOwner);
+    pools.use(nullptr);
     QTest::keyClicks(editor, QStringLiteral("c"));
-    EXPECT_THAT(takeOutput(), ElementsAre(missingOwner));
+    EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
     EXPECT_EQ(editor->text(), QStringLiteral("abc"));
 }
 
@@ -257,19 +257,19 @@ TEST_F(SingleLineText, ReportsOnceAnOwnerThatGoesDuringTheCommit) {
     auto parameter = makeText("");
     watch(parameter);
     auto* const editor = edit(parameter);
-    listener_.reaction = [&] { parameter.reset(); };
+    recorder.reaction = [&] { parameter.reset(); };
     QTest::keyClicks(editor, QStringLiteral("a"));
-    EXPECT_THAT(takeOutput(), ElementsAre(missingOwner));
+    EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
 }
 
 TEST_F(SingleLineText, MayBeDeletedByWhoeverIsTold) {
     auto const parameter = makeText("abc");
     watch(parameter);
     QPointer<QLineEdit> const editor = edit(parameter);
-    listener_.reaction = [&] { delete editor; };
+    recorder.reaction = [&] { delete editor; };
     ASSERT_TRUE(QMetaObject::invokeMethod(editor, "newText"));
     EXPECT_FALSE(editor);
-    EXPECT_THAT(listener_.texts, ElementsAre("abc"));
+    EXPECT_THAT(recorder.values, ElementsAre("abc"));
     EXPECT_GT(parameter->ownValue()->age(), 0U);
 }
 
@@ -277,14 +277,14 @@ TEST_F(SingleLineText, MayBeDeletedLaterWithItsPanelByWhoeverIsTold) {
     auto parameter = makeText("");
     watch(parameter);
     QPointer<QLineEdit> const editor = edit(parameter);
-    listener_.reaction = [&] {
+    recorder.reaction = [&] {
         parameter.reset();
-        panel_.release()->deleteLater();
-        listener_.reaction = nullptr;
+        parent->deleteLater();
+        recorder.reaction = nullptr;
     };
     QTest::keyClicks(editor, QStringLiteral("a"));
     EXPECT_TRUE(waitUntil([&] { return !editor; }));
-    EXPECT_THAT(takeOutput(), ElementsAre(missingOwner));
+    EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
 }
 
 TEST_F(SingleLineText, WritesIntoItsPoolAlone) {
@@ -296,10 +296,10 @@ TEST_F(SingleLineText, WritesIntoItsPoolAlone) {
     QTest::keyClicks(editor, QStringLiteral("s"));
     EXPECT_EQ(localTextOf(parameter), "owns");
     EXPECT_EQ(textOf(parameter), "own");
-    EXPECT_GT(parameter->getLocalValue(pools_.pool(), "", false)->age(), 0U);
+    EXPECT_GT(parameter->getLocalValue(Kolt::currentPool(&pools), "", false)->age(), 0U);
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
 
-    pools_.choose(ChosenPool::Pool(new ValuePool("second")));
+    pools.use(secondPool);
     QTest::keyClicks(editor, QStringLiteral("!"));
     EXPECT_EQ(localTextOf(parameter), "owns!");
 }
@@ -307,7 +307,7 @@ TEST_F(SingleLineText, WritesIntoItsPoolAlone) {
 TEST_F(SingleLineText, LeavesChangesInOtherPoolsAlone) {
     auto const parameter = makeText("own", Values::PerPool);
     auto* const editor = edit(parameter);
-    change(parameter, std::string("elsewhere"), ChosenPool::Pool(new ValuePool("second")));
+    change(parameter, std::string("elsewhere"), secondPool);
     EXPECT_EQ(editor->text(), QStringLiteral("own"));
     change(parameter, std::string("here"));
     EXPECT_EQ(editor->text(), QStringLiteral("here"));
@@ -316,11 +316,11 @@ TEST_F(SingleLineText, LeavesChangesInOtherPoolsAlone) {
 TEST_F(SingleLineText, IsHandedThePoolsTextByTheFrontEnd) {
     auto const parameter = makeText("own", Values::PerPool);
     change(parameter, std::string("local"));
-    auto const editor = makeEditor(parameter, panel_.get(), &pools_);
+    auto const editor = makeEditor(parameter, parent, &pools);
     auto* const field = dynamic_cast<QLineEdit*>(editor.widget.data());
     EXPECT_EQ(field->text(), QStringLiteral("local"));
-    pools_.choose(ChosenPool::Pool(new ValuePool("second")));
-    showPoolValue(editor, parameter, &pools_);
+    pools.use(secondPool);
+    showPoolValue(editor, parameter, &pools);
     EXPECT_EQ(field->text(), QStringLiteral("own"));
 }
 
@@ -367,12 +367,12 @@ protected:
 TEST_F(ArrayOfOneText, IsEditedWhereItsValueIsAText) {
     auto const parameter = makeDeclaredArray("abc");
     watch(parameter);
-    auto const editor = makeEditor(parameter, panel_.get(), &pools_);
+    auto const editor = makeEditor(parameter, parent, &pools);
     auto* const field = dynamic_cast<QLineEdit*>(editor.widget.data());
     EXPECT_EQ(editor.choice.creator.strong()->Name(), "singlelinestring");
     EXPECT_EQ(field->text(), QStringLiteral("abc"));
     QTest::keyClicks(field, QStringLiteral("d"));
-    EXPECT_THAT(listener_.texts, ElementsAre("abcd"));
+    EXPECT_THAT(recorder.values, ElementsAre("abcd"));
     EXPECT_EQ(textOf(parameter), "abcd");
     change(parameter, std::string("host"));
     EXPECT_EQ(field->text(), QStringLiteral("host"));
@@ -386,7 +386,7 @@ TEST_F(ArrayOfOneText, IsEditedInItsPoolWhereItsValueIsAText) {
 }
 
 TEST_F(ArrayOfOneText, StartsEmptyAndWritesNothingWhereItHoldsATrueArray) {
-    auto const parameter = makeParameter(Array{"kept"});
+    auto const parameter = makeValueParameter(Array{"kept"});
     watch(parameter);
     auto* const editor = create<QLineEdit>("singlelinestring", parameter);
     EXPECT_EQ(editor->text(), QString());
@@ -394,20 +394,20 @@ TEST_F(ArrayOfOneText, StartsEmptyAndWritesNothingWhereItHoldsATrueArray) {
     EXPECT_EQ(editor->text(), QStringLiteral("abc"));
     EXPECT_EQ(textOf(parameter), "kept");
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
-    EXPECT_THAT(listener_.texts, IsEmpty());
+    EXPECT_THAT(recorder.values, IsEmpty());
     change(parameter, Array{"host"});
     EXPECT_EQ(editor->text(), QStringLiteral("abc"));
 }
 
 TEST_F(ArrayOfOneText, KeepsATrueArrayOfAPoolAsItIs) {
-    auto const parameter = makeParameter(Array{"own"}, Values::PerPool);
+    auto const parameter = makeValueParameter(Array{"own"}, Values::PerPool);
     auto* const editor = create<QLineEdit>("singlelinestring", parameter);
     QTest::keyClicks(editor, QStringLiteral("a"));
     EXPECT_EQ(localTextOf(parameter), "(none)");
     change(parameter, Array{"local"});
-    auto const local = parameter->getLocalValue(pools_.pool(), "", false);
+    auto const local = parameter->getLocalValue(Kolt::currentPool(&pools), "", false);
     QTest::keyClicks(editor, QStringLiteral("b"));
-    EXPECT_EQ(parameter->getLocalValue(pools_.pool(), "", false), local);
+    EXPECT_EQ(parameter->getLocalValue(Kolt::currentPool(&pools), "", false), local);
     EXPECT_EQ(localTextOf(parameter), "local");
     EXPECT_EQ(local->age(), 0U);
 }

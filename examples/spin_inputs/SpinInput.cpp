@@ -1,0 +1,51 @@
+#include "SpinInput.hpp"
+
+#include <lattice/Initialization.hpp>
+#include <limits>
+#include <plugin/QInputWidgetCreator.hpp>
+#include <QSignalBlocker>
+
+namespace Kolt {
+
+SpinInput::SpinInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+                     ValuePoolSource* poolSource, PreferencesPtr const&)
+    : QSpinBox(parent), VInputValue<int>(parameter, poolSource) {
+    setRange(std::numeric_limits<int>::lowest(), std::numeric_limits<int>::max());
+    showValue(ownValue());
+    connect(this, QOverload<int>::of(&QSpinBox::valueChanged), this, &SpinInput::writeValue);
+    activateNotification();
+}
+
+SpinInput::~SpinInput() = default;
+
+void SpinInput::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                              ValueMap const*) {
+    if (arrivalOf(newValue, context) != Arrival::Foreign)
+        showValue(newValue);
+}
+
+void SpinInput::showValue(Tessera::StrongPtr<VValueBase> const& value) {
+    auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
+    if (!typed || !typed->get(cached_))
+        return;
+    QSignalBlocker const blocker(this);
+    QSpinBox::setValue(cached_);
+}
+
+void SpinInput::writeValue(int value) {
+    commit(value);
+}
+
+namespace {
+
+TALO_STATIC_CREATOR QInputWidgetCreator<int, SpinInput> const
+    spinCreator("spin", PreferencesPtr(new VCreationPreferences(std::string("spin"))));
+
+} // namespace
+
+} // namespace Kolt
+
+extern "C" __attribute__((visibility("default"))) bool
+TALO_API_2023_MAR_29__spin_inputs(Kolt::VInitialization const* host) {
+    return host->IsCompatible("TALO_API_VERSION");
+}

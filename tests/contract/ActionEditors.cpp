@@ -1,0 +1,3 @@
+#include "EditorCase.hpp"
+
+void addActionEditors(std::vector<EditorCase>&) {}

@@ -1,0 +1,3 @@
+#include "EditorCase.hpp"
+
+void addSelectionEditors(std::vector<EditorCase>&) {}

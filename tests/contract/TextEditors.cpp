@@ -1,0 +1,3 @@
+#include "EditorCase.hpp"
+
+void addTextEditors(std::vector<EditorCase>&) {}

@@ -1,0 +1,35 @@
+#include "support/TestHost.hpp"
+
+#include <dlfcn.h>
+#include <QSpinBox>
+
+/// A plug-in that was built elsewhere, against the installed package alone.
+class OutsidePluginTest : public TaloTest {
+protected:
+    Kolt::VInitialization host;
+    Kolt::PluginLoader loader{host};
+    TestPools pools;
+};
+
+TEST_F(OutsidePluginTest, ItsEditorIsChosenByItsPreferenceAndWrites) {
+    auto const loaded = loader.load(TALO_OUTSIDE_PLUGIN);
+    ASSERT_TRUE(loaded.ok) << loaded.message;
+    pools.use(Tessera::StrongPtr<Kolt::ValuePool>(new Kolt::ValuePool));
+    {
+        Kolt::ParameterPtr const parameter(new Kolt::VParameter("count", Kolt::makeValue(41)));
+        parameter->setCreationPreferences(Kolt::PreferencesPtr(new Kolt::VCreationPreferences(std::string("spin"))));
+        QWidget parent;
+        auto const editor = Kolt::makeEditor(parameter, &parent, &pools);
+        ASSERT_TRUE(editor.widget) << editor.choice.explanation;
+        parent.show();
+        auto* const spinBox = qobject_cast<QSpinBox*>(editor.widget.data());
+        ASSERT_NE(spinBox, nullptr);
+        EXPECT_EQ(spinBox->value(), 41);
+        QTest::keyClick(spinBox, Qt::Key_Up);
+        EXPECT_EQ(parameter->ownValue()->Text(), "42");
+        EXPECT_FALSE(loader.unload(TALO_OUTSIDE_PLUGIN).ok) << "an editor of it lives";
+    }
+    auto const unloaded = loader.unload(TALO_OUTSIDE_PLUGIN);
+    EXPECT_TRUE(unloaded.ok) << unloaded.message;
+    EXPECT_EQ(dlopen(TALO_OUTSIDE_PLUGIN, RTLD_NOW | RTLD_NOLOAD), nullptr);
+}

@@ -1,0 +1,127 @@
+#pragma once
+
+#include "support/TaloTest.hpp"
+
+#include <lattice/ActionNotifier.hpp>
+#include <lattice/Input.hpp>
+#include <lattice/PluginLoader.hpp>
+#include <sorrel/InputFrontEnd.hpp>
+
+/// A pool source whose pool a test switches.
+class TestPools : public Kolt::ValuePoolSource {
+public:
+    TestPools() : provider_(new Provider) {}
+    Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override { return provider_; }
+
+    void use(Tessera::StrongPtr<Kolt::ValuePool> const& pool) { provider_->pool = pool; }
+    /// From now on there is no provider at all.
+    void dropProvider() { provider_.reset(); }
+
+private:
+    struct Provider : Kolt::ValuePoolProvider {
+        Tessera::StrongPtr<Kolt::ValuePool> getValuePool() const override { return pool; }
+        Tessera::StrongPtr<Kolt::ValuePool> pool;
+    };
+    Tessera::StrongPtr<Provider, Kolt::ValuePoolProvider> provider_;
+};
+
+/// Hears of a parameter's changes as any other part of a host does.
+class RecordingNotifier : public Kolt::ValueNotifier {
+public:
+    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+                       Kolt::ValueMap const* properties) override {
+        if (properties) {
+            ++propertyChanges;
+        } else {
+            values.push_back(newValue ? newValue->Text() : std::string());
+            pools.push_back(context.pool());
+        }
+        if (reaction)
+            reaction();
+    }
+
+    /// The text of each value that was told, and the pool of each change; property changes are counted apart.
+    std::vector<std::string> values;
+    std::vector<Tessera::StrongPtr<Kolt::ValuePool>> pools;
+    int propertyChanges = 0;
+    /// What else happens each time.
+    std::function<void()> reaction;
+};
+
+/// Hears of the host's warnings.
+class RecordedWarnings : public Kolt::VActionNotifier {
+public:
+    void onWarning(std::string const& text) override { texts.push_back(text); }
+    std::vector<std::string> texts;
+};
+
+/// A small host around the built plug-in file: it is loaded before each test and must let itself be unloaded after it.
+class PluginTest : public TaloTest {
+protected:
+    static constexpr char const* missingOwnerLine =
+        "**POSSIBLE INTERNAL FAULT**: VInputBase without owner? That's not good.";
+
+    void SetUp() override {
+        TaloTest::SetUp();
+        auto const outcome = loader.load(TALO_PLUGIN_FILE);
+        ASSERT_TRUE(outcome.ok) << outcome.message;
+        firstPool = Tessera::StrongPtr<Kolt::ValuePool>(new Kolt::ValuePool("draft"));
+        secondPool = Tessera::StrongPtr<Kolt::ValuePool>(new Kolt::ValuePool("final"));
+        pools.use(firstPool);
+        parent = new QWidget;
+        parent->resize(600, 400);
+    }
+
+    void TearDown() override {
+        delete parent;
+        // What a test gave to deleteLater goes before its code does.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Kolt::UndoHistory::theHistory().forget([](auto const&) { return true; });
+        auto const outcome = loader.unload(TALO_PLUGIN_FILE);
+        EXPECT_TRUE(outcome.ok) << outcome.message;
+        TaloTest::TearDown();
+    }
+
+    /// A parameter with a value, its preferences and its way of keeping values.
+    static Kolt::ParameterPtr makeParameter(std::string const& name, Tessera::StrongPtr<Kolt::VValueBase> const& value,
+                                            std::vector<std::string> const& preferences = {},
+                                            Kolt::VParameter::Values values = Kolt::VParameter::Values::Shared,
+                                            std::string const& declaredType = {}) {
+        Kolt::ParameterPtr const parameter(new Kolt::VParameter(name, value, values, declaredType));
+        if (!preferences.empty())
+            parameter->setCreationPreferences(Kolt::PreferencesPtr(new Kolt::VCreationPreferences(
+                Kolt::VCreationPreferences::Names(preferences.begin(), preferences.end()))));
+        return parameter;
+    }
+
+    /// Opens an editor as the panel does.
+    Kolt::Editor open(Kolt::ParameterPtr const& parameter) {
+        auto const editor = Kolt::makeEditor(parameter, parent, &pools);
+        if (editor.widget)
+            editor.widget->show();
+        return editor;
+    }
+
+    /// The Qt side of a registered creator, by value type and creator name; the first that has all of the preferences.
+    static Tessera::StrongPtr<Kolt::QInputCreator, Tessera::InterfaceBase>
+    qtCreator(std::string const& valueType, std::string const& name, std::vector<std::string> const& preferences = {}) {
+        for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
+            auto const creator = entry.creator.strong();
+            bool matches = entry.valueType == valueType && creator->Name() == name;
+            for (auto const& preference : preferences)
+                matches = matches && creator->preferences()->contains(preference);
+            if (matches)
+                return creator->getInterface<Kolt::QInputCreator>();
+        }
+        return nullptr;
+    }
+
+    Kolt::VInitialization host;
+    Kolt::PluginLoader loader{host};
+    TestPools pools;
+    Tessera::StrongPtr<Kolt::ValuePool> firstPool;
+    Tessera::StrongPtr<Kolt::ValuePool> secondPool;
+    RecordedWarnings warnings;
+    /// The window in which editors are opened.
+    QPointer<QWidget> parent;
+};
