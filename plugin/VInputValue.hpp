@@ -60,6 +60,14 @@ protected:
         return parameter ? parameter->ownValue() : nullptr;
     }
 
+    /// Copies the value object that the owner itself holds into the cache. False, and the cache left alone, where the
+    /// owner is gone or that is no VValue<T>.
+    bool readOwnValue();
+
+    /// Copies a value that arrives from elsewhere into the cache. False where there is nothing to show: it is no T, or
+    /// only properties changed and it is the value in the cache.
+    bool take(Tessera::StrongPtr<VValueBase> const& newValue, ValueMap const* properties);
+
     /// What a change from elsewhere is to this input. Where the owner keeps values per pool, a change in another pool
     /// and a change of the owner's own value behind the pool's are foreign.
     Arrival arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) const;
@@ -97,10 +105,16 @@ bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
     if (!parameter || !pool)
         return false;
     bool const perPool = parameter->keepsValuesPerPool();
+    if (perPool && parameter->declaredType() != Tessera::Typename(typeid(T))) {
+        // A fresh value would be of the declared type, so one of another type can only be had where it stands already.
+        // Where it does not, nothing is made, and what the pool holds is not replaced.
+        auto const local = parameter->getLocalValue(pool, member, false);
+        if (!dynamic_cast<VValue<T> const*>((local ? local : parameter->ownValue()).get()))
+            return false;
+    }
     auto value = perPool ? parameter->getLocalValue(pool, member, true) : parameter->ownValue();
     auto* typed = dynamic_cast<VValue<T>*>(value.get());
-    // A fresh value of another type would be no use, and would take the place of what the pool holds.
-    if (!typed && perPool && parameter->declaredType() == Tessera::Typename(typeid(T))) {
+    if (!typed && perPool) {
         value = parameter->freshLocalValue(pool);
         typed = dynamic_cast<VValue<T>*>(value.get());
     }
@@ -126,6 +140,23 @@ bool VInputValue<T>::getValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
     if (!typed->get(cached_))
         return false;
     out = cached_;
+    return true;
+}
+
+template <typename T>
+bool VInputValue<T>::readOwnValue() {
+    auto const value = ownValue();
+    auto const* const typed = dynamic_cast<VValue<T> const*>(value.get());
+    return typed && typed->get(cached_);
+}
+
+template <typename T>
+bool VInputValue<T>::take(Tessera::StrongPtr<VValueBase> const& newValue, ValueMap const* properties) {
+    auto const* const typed = dynamic_cast<VTypedValueBase<T> const*>(newValue.get());
+    T arrived{};
+    if (!typed || !typed->get(arrived) || (properties && VValueTrait<T>::Equal(arrived, cached_)))
+        return false;
+    cached_ = std::move(arrived);
     return true;
 }
 
