@@ -22,6 +22,8 @@ QColor shownColour(Ferro::rgba_float_t const& colour) {
 
 /// Lets the input of a label live exactly as long as the label.
 class InputKeeper : public QObject {
+    Q_OBJECT
+
 public:
     InputKeeper(std::unique_ptr<qVColorInput> input, QObject* label) : QObject(label), input_(std::move(input)) {}
 
@@ -109,9 +111,11 @@ void qVColor::mousePressEvent(QMouseEvent*) {
         // To show a colour is no choice of the user's.
         QSignalBlocker const blocker(dialog_);
         dialog_->setCurrentColor(shown);
-        dialog_->setOption(QColorDialog::ShowAlphaChannel);
-        // Again, as without the alpha channel the dialog drops the alpha value.
-        dialog_->setCurrentColor(shown);
+        if (!dialog_->testOption(QColorDialog::ShowAlphaChannel)) {
+            dialog_->setOption(QColorDialog::ShowAlphaChannel);
+            // Again, as without the alpha channel the dialog dropped the alpha value.
+            dialog_->setCurrentColor(shown);
+        }
     }
     dialog_->show();
     dialog_->raise();
@@ -155,3 +159,5 @@ TALO_STATIC_CREATOR MyqVColorCreator const colorDisplayCreator;
 } // namespace
 
 } // namespace Kolt
+
+#include "qVColor.moc"
