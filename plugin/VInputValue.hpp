@@ -60,6 +60,21 @@ protected:
         return parameter ? parameter->ownValue() : nullptr;
     }
 
+    /// The value object with which the input starts: the one that its pool holds, else the one that the owner itself
+    /// holds; null where the owner is gone.
+    Tessera::StrongPtr<VValueBase> firstValue() const {
+        auto const parameter = this->owner().strong();
+        if (!parameter)
+            return nullptr;
+        auto const local = parameter->getLocalValue(pool(), std::string(), false);
+        return local ? local : parameter->ownValue();
+    }
+
+    /// To be called before an edit changes what the cached value refers to: where the owner keeps values per pool, the
+    /// cache takes the value of the input's pool, which is created if it is missing, so that neither the owner's own
+    /// value nor that of another pool changes with it. Without a pool, and where values are shared, the cache stays.
+    void cachePoolValue();
+
     /// What a change from elsewhere is to this input. Where the owner keeps values per pool, a change in another pool
     /// and a change of the owner's own value behind the pool's are foreign.
     Arrival arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) const;
@@ -127,6 +142,18 @@ bool VInputValue<T>::getValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
         return false;
     out = cached_;
     return true;
+}
+
+template <typename T>
+void VInputValue<T>::cachePoolValue() {
+    auto const parameter = this->owner().strong();
+    auto const currentPool = pool();
+    if (!parameter || !currentPool || !parameter->keepsValuesPerPool())
+        return;
+    T value{};
+    // A value of another type gives way to the edited one, which must not share what the cache refers to either.
+    if (!this->getValue(currentPool, std::string(), value))
+        cached_ = VValueTrait<T>::Clone(cached_);
 }
 
 template <typename T>
