@@ -8,7 +8,11 @@
 #include <QString>
 #include <vector>
 
+class QJsonObject;
+
 namespace Panel {
+
+class NetworkReader;
 
 /// A network of objects with typed parameters, as a network file describes it (examples/README.md has the format), and
 /// the pools in which its parameters have values. It owns objects and pools: they live until the network goes or
@@ -21,7 +25,7 @@ public:
         QString error;
     };
 
-    /// Reads a network file whole or not at all. A file that cannot be read is told of as its line 0.
+    /// Reads a network file whole or not at all. For a file that cannot be read the line is 0.
     static LoadResult load(QString const& file);
     ~Network();
     Network(Network const&) = delete;
@@ -44,13 +48,14 @@ public:
     std::vector<Tessera::StrongPtr<Kolt::ValuePool>> const& pools() const { return pools_; }
     Tessera::StrongPtr<Kolt::ValuePool> findPool(QString const& name) const;
 
-    /// All values as JSON: {"object": {"parameter": {"value": ..., "values": {"pool": ...}}}}, objects and parameters
-    /// in the order of the file, "values" where the parameter keeps values per pool. Equal values give equal bytes.
-    /// Ends with a line feed.
+    /// All values as JSON: {"object": {"parameter": {"value": ..., "values": {"pool": ...}}}}, sorted by name, with
+    /// "values" where the parameter keeps values per pool, for those pools that have one. Null stands for nothing
+    /// chosen and for what a network file cannot hold. Equal values give equal bytes. Ends with a line feed.
     QByteArray values() const;
     /// Writes the whole network with its current values, in the format that `load` reads, and replaces the file in one
-    /// step or leaves it as it was. False, and the reason in `error` unless that is null. A network loaded from what
-    /// was saved is saved as the same bytes again, wherever the file stands.
+    /// step or leaves it as it was. What was saved, loaded and saved there again has the same bytes; in another folder
+    /// only the paths that are relative to the folder differ. False, and the reason in `error` unless that is null,
+    /// when the file cannot be written or would not hold all of the network.
     bool save(QString const& file, QString* error) const;
 
     /// Sets a value as the host would: the pool's value where the parameter keeps values per pool (made if it is not
@@ -67,12 +72,27 @@ public:
         actionHandler;
 
 private:
+    friend class NetworkReader;
     Network();
+
+    /// Makes the actions that a parameter of the object holds, its own and those of the pools, call the handler.
+    void connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const;
+    /// The name of a parameter of this network, "object.parameter"; empty for any other.
+    QString nameOf(Kolt::ParameterPtr const& parameter) const;
+    /// The folder of the file, absolute.
+    QString folder() const;
+    QByteArray toJson(QString const& targetFolder) const;
+    QJsonObject objectToJson(Kolt::VObject const& object, QString const& targetFolder) const;
+    QJsonObject parameterToJson(Kolt::VParameter const& parameter, QString const& targetFolder) const;
 
     QString file_;
     QString title_;
     std::vector<Tessera::StrongPtr<Kolt::ValuePool>> pools_;
     std::vector<Kolt::ObjectPtr> objects_;
+    // What each object is for, in the order of the objects.
+    std::vector<QString> kinds_;
+    // Actions look here whether the network still lives.
+    std::shared_ptr<Network*> const self_;
 };
 
 } // namespace Panel
