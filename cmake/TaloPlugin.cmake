@@ -14,10 +14,12 @@ function(talo_add_plugin name)
 
     set(map "${CMAKE_CURRENT_BINARY_DIR}/${name}.map")
     file(CONFIGURE OUTPUT "${map}" CONTENT "{ global: TALO_API_2023_MAR_29__${name}; local: *; };\n")
-    target_link_options(${name} PRIVATE "LINKER:--version-script=${map}"
-        # With a sanitizer clang leaves its run-time library to the program, and a file without undefined symbols
-        # cannot be linked.
-        $<$<NOT:$<AND:$<CXX_COMPILER_ID:Clang>,$<BOOL:${TALO_SANITIZE}>>>:LINKER:-z,defs>)
+    target_link_options(${name} PRIVATE "LINKER:--version-script=${map}")
+    # With a sanitizer clang leaves its run-time library to the program, and a file without undefined symbols cannot be
+    # linked.
+    if(NOT (CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND (TALO_SANITIZE OR CMAKE_CXX_FLAGS MATCHES "-fsanitize")))
+        target_link_options(${name} PRIVATE LINKER:-z,defs)
+    endif()
     set_target_properties(${name} PROPERTIES LINK_DEPENDS "${map}")
     target_link_libraries(${name} PRIVATE Talo::sorrel Talo::bramble Talo::lattice Talo::tessera)
 endfunction()
