@@ -48,6 +48,10 @@ QStringList QtMessages::complaints() const {
 }
 
 void QtMessages::receive(QtMsgType type, QMessageLogContext const& context, QString const& message) {
+    // The offscreen platform says so whenever a window is shown.
+    if (message == QLatin1String("This plugin does not support propagateSizeHints()")) {
+        return;
+    }
     if (type == QtWarningMsg || type == QtCriticalMsg) {
         std::lock_guard const lock(current->mutex_);
         current->received_ << message;
