@@ -48,8 +48,8 @@ QStringList QtMessages::complaints() const {
 }
 
 void QtMessages::receive(QtMsgType type, QMessageLogContext const& context, QString const& message) {
-    // The offscreen platform says so whenever a window is shown.
-    if (message == QLatin1String("This plugin does not support propagateSizeHints()")) {
+    // The offscreen platform says so of every window and popup that is shown.
+    if (message.startsWith(QLatin1String("This plugin does not support "))) {
         return;
     }
     if (type == QtWarningMsg || type == QtCriticalMsg) {
