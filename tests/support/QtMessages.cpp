@@ -23,7 +23,9 @@ QtMessages::~QtMessages() {
 }
 
 void QtMessages::expect(QRegularExpression const& pattern) {
-    Q_ASSERT(pattern.isValid());
+    if (!pattern.isValid()) {
+        throw std::invalid_argument(pattern.errorString().toStdString());
+    }
     std::lock_guard const lock(mutex_);
     expected_.push_back(pattern);
 }
