@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QScrollBar>
+#include <QStyle>
 #include <QTime>
 
 namespace Panel {
@@ -39,8 +40,15 @@ MessageList::MessageList(QWidget* parent) : QTreeWidget(parent) {
     setAlternatingRowColors(true);
     setFrameShape(QFrame::NoFrame);
     setAccessibleName(tr("Messages"));
-    header()->setSectionResizeMode(timeColumn, QHeaderView::ResizeToContents);
-    header()->setSectionResizeMode(sourceColumn, QHeaderView::ResizeToContents);
+    // Of fixed width: to measure all rows at each message costs more with each.
+    int const margin = 4 * style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 8;
+    header()->resizeSection(timeColumn, fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + margin);
+    auto bold = font();
+    bold.setBold(true);
+    int widest = 0;
+    for (auto const source : {Source::Panel, Source::Output, Source::Warning, Source::Error})
+        widest = qMax(widest, QFontMetrics(bold).horizontalAdvance(sourceName(source)));
+    header()->resizeSection(sourceColumn, widest + margin);
 
     auto* const clearAction = new QAction(tr("Clear"), this);
     connect(clearAction, &QAction::triggered, this, &QTreeWidget::clear);
@@ -59,6 +67,17 @@ MessageList::~MessageList() = default;
 
 void MessageList::add(Source source, QString const& text) {
     bool const atEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    // Later, and once for many messages: scrolling lays the rows out.
+    if (atEnd && !scrollWaits_) {
+        scrollWaits_ = true;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                scrollWaits_ = false;
+                scrollToBottom();
+            },
+            Qt::QueuedConnection);
+    }
     auto* const item =
         new QTreeWidgetItem({QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), sourceName(source), text});
     item->setData(sourceColumn, sourceRole, static_cast<int>(source));
@@ -72,8 +91,6 @@ void MessageList::add(Source source, QString const& text) {
     addTopLevelItem(item);
     if (topLevelItemCount() > Capacity)
         delete takeTopLevelItem(0);
-    if (atEnd)
-        scrollToBottom();
 }
 
 QStringList MessageList::texts() const {

@@ -31,6 +31,9 @@ public:
     QStringList texts() const;
     /// The texts from one source, the latest last.
     QStringList texts(Source source) const;
+
+private:
+    bool scrollWaits_ = false;
 };
 
 } // namespace Panel

@@ -41,6 +41,12 @@ void choosePlatform(Panel::CommandLine const& commandLine) {
     }
 }
 
+// The offscreen platform says of every window what it cannot do, which tells the user nothing.
+void passOnMessages(QtMsgType, QMessageLogContext const&, QString const& message) {
+    if (!message.startsWith(QLatin1String("This plugin does not support ")))
+        std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
+}
+
 void printCreators() {
     for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
         auto const creator = entry.creator.strong();
@@ -152,6 +158,7 @@ int main(int argc, char* argv[]) {
     choosePlatform(*commandLine);
 
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    qInstallMessageHandler(passOnMessages);
     int qtArguments = 1;
     QApplication const application(qtArguments, argv);
     QApplication::setApplicationName(QStringLiteral("talo_panel"));
