@@ -70,6 +70,29 @@ protected:
         return parameter ? parameter->ownValue() : nullptr;
     }
 
+    /// Copies the value object that the owner itself holds into the cache. False, and the cache left alone, where the
+    /// owner is gone or that is no VValue<T>.
+    bool readOwnValue();
+
+    /// Copies a value that arrives from elsewhere into the cache. False where there is nothing to show: it is no T, or
+    /// only properties changed and it is the value in the cache.
+    bool take(Tessera::StrongPtr<VValueBase> const& newValue, ValueMap const* properties);
+
+    /// The value object with which the input starts: the one that its pool holds, else the one that the owner itself
+    /// holds; null where the owner is gone.
+    Tessera::StrongPtr<VValueBase> firstValue() const {
+        auto const parameter = this->owner().strong();
+        if (!parameter)
+            return nullptr;
+        auto const local = parameter->getLocalValue(pool(), std::string(), false);
+        return local ? local : parameter->ownValue();
+    }
+
+    /// To be called before an edit changes what the cached value refers to: where the owner keeps values per pool, the
+    /// cache takes the value of the input's pool, which is created if it is missing, so that neither the owner's own
+    /// value nor that of another pool changes with it. Without a pool, and where values are shared, the cache stays.
+    void cachePoolValue();
+
     /// What a change from elsewhere is to this input. Foreign is what belongs elsewhere.
     Arrival arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) const;
 
@@ -110,10 +133,16 @@ bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
     if (!parameter || !pool)
         return false;
     bool const perPool = parameter->keepsValuesPerPool();
+    if (perPool && parameter->declaredType() != Tessera::Typename(typeid(T))) {
+        // A fresh value would be of the declared type, so one of another type can only be had where it stands already.
+        // Where it does not, nothing is made, and what the pool holds is not replaced.
+        auto const local = parameter->getLocalValue(pool, member, false);
+        if (!dynamic_cast<VValue<T> const*>((local ? local : parameter->ownValue()).get()))
+            return false;
+    }
     auto value = perPool ? parameter->getLocalValue(pool, member, true) : parameter->ownValue();
     auto* typed = dynamic_cast<VValue<T>*>(value.get());
-    // A fresh value of another type would be no use, and would take the place of what the pool holds.
-    if (!typed && perPool && parameter->declaredType() == Tessera::Typename(typeid(T))) {
+    if (!typed && perPool) {
         value = parameter->freshLocalValue(pool);
         typed = dynamic_cast<VValue<T>*>(value.get());
     }
@@ -140,6 +169,35 @@ bool VInputValue<T>::getValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
         return false;
     out = cached_;
     return true;
+}
+
+template <typename T>
+bool VInputValue<T>::readOwnValue() {
+    auto const value = ownValue();
+    auto const* const typed = dynamic_cast<VValue<T> const*>(value.get());
+    return typed && typed->get(cached_);
+}
+
+template <typename T>
+bool VInputValue<T>::take(Tessera::StrongPtr<VValueBase> const& newValue, ValueMap const* properties) {
+    auto const* const typed = dynamic_cast<VTypedValueBase<T> const*>(newValue.get());
+    T arrived{};
+    if (!typed || !typed->get(arrived) || (properties && VValueTrait<T>::Equal(arrived, cached_)))
+        return false;
+    cached_ = std::move(arrived);
+    return true;
+}
+
+template <typename T>
+void VInputValue<T>::cachePoolValue() {
+    auto const parameter = this->owner().strong();
+    auto const currentPool = pool();
+    if (!parameter || !currentPool || !parameter->keepsValuesPerPool())
+        return;
+    T value{};
+    // A value of another type gives way to the edited one, which must not share what the cache refers to either.
+    if (!this->getValue(currentPool, std::string(), value))
+        cached_ = VValueTrait<T>::Clone(cached_);
 }
 
 template <typename T>

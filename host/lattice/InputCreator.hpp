@@ -73,8 +73,8 @@ public:
     /// All living creators, in order of registration.
     std::vector<Entry> entries() const;
 
-    /// What a parameter asks of its editor: its own creation preferences, or for a text without any the one-line
-    /// preference; and whatever the front end adds.
+    /// What a parameter asks of its editor: its own creation preferences, or for a text that has none (or an empty
+    /// set) the one-line preference; and whatever the front end adds.
     static VCreationPreferences::Names wantedPreferences(VParameter const& parameter,
                                                          VCreationPreferences::Names const& frontEnd);
     /// The best creator for a type and a set of wanted names. Among those whose set holds all of them: the highest

@@ -131,7 +131,8 @@ std::vector<InputRegistry::Entry> InputRegistry::entries() const {
 VCreationPreferences::Names InputRegistry::wantedPreferences(VParameter const& parameter,
                                                              VCreationPreferences::Names const& frontEnd) {
     auto wanted = frontEnd;
-    if (auto const& own = parameter.creationPreferences())
+    auto const& own = parameter.creationPreferences();
+    if (own && !own->names().empty())
         wanted.insert(own->names().begin(), own->names().end());
     else if (parameter.declaredType() == Tessera::Typename(typeid(std::string)))
         wanted.insert(VValueTrait<std::string>::OneLine());

@@ -56,13 +56,15 @@ VActionNotifier::~VActionNotifier() {
 }
 
 void VActionNotifier::Warning(std::string const& text) {
-    auto const notifiers = actionNotifiers();
+    // Notifiers may come and go while they are told, a new one also at the address of one that went.
+    std::vector<Tessera::WeakPtr<VActionNotifier>> notifiers;
+    for (auto* const notifier : actionNotifiers())
+        notifiers.emplace_back(notifier);
     if (notifiers.empty())
         std::fprintf(stderr, "%s\n", text.c_str());
-    for (auto* const notifier : notifiers) {
-        auto const& living = actionNotifiers();
-        if (std::find(living.begin(), living.end(), notifier) != living.end())
-            notifier->onWarning(text);
+    for (auto const& notifier : notifiers) {
+        if (auto const living = notifier.strong())
+            living->onWarning(text);
     }
 }
 

@@ -87,7 +87,8 @@ void ReferenceControl::releaseStrong() noexcept {
         if (auto* const object = object_.load(std::memory_order_acquire)) {
             object->referenceHook();
             if (strong_.load(std::memory_order_acquire) > 0) {
-                SpeakPtr::theSpeaker().DestructionCancelled(strong_.load(), weakCount(), *type_.load());
+                // The reference that is going still counts as a user, but no longer as a strong one.
+                SpeakPtr::theSpeaker().DestructionCancelled(strong_.load(), weakCount() - 1, *type_.load());
             } else {
                 dying_ = true;
                 delete object;

@@ -16,6 +16,7 @@ public:
     StringList() = default;
     explicit StringList(std::vector<std::string> strings) : strings_(std::move(strings)) {}
     ~StringList() override;
+    StringList& operator=(StringList const&) = delete;
 
     std::size_t size() const { return strings_.size(); }
     bool empty() const { return strings_.empty(); }

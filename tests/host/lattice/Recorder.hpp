@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <lattice/Parameter.hpp>
+#include <string>
+#include <vector>
+
+/// A notifier that writes down what it is told, and does what the test wants meanwhile.
+struct Recorder : Kolt::ValueNotifier {
+    explicit Recorder(std::string recorderName = {}, std::vector<std::string>* tellings = nullptr)
+        : name(std::move(recorderName)), log(tellings) {}
+    ~Recorder() override { leaveDelivery(); }
+
+    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+                       Kolt::ValueMap const* map) override {
+        ++count;
+        value = newValue;
+        pool = context.pool();
+        properties = map;
+        if (log)
+            log->push_back(name);
+        // A copy, as the action may destroy this recorder.
+        if (auto const action = onTold)
+            action();
+    }
+
+    Tessera::WeakPtr<Kolt::ValueNotifier> ref() { return Tessera::WeakPtr<Kolt::ValueNotifier>(this); }
+
+    std::string name;
+    std::vector<std::string>* log;
+    std::function<void()> onTold;
+    int count = 0;
+    Tessera::StrongPtr<Kolt::VValueBase> value;
+    Tessera::StrongPtr<Kolt::ValuePool> pool;
+    Kolt::ValueMap const* properties = nullptr;
+};

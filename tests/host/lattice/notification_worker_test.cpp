@@ -1,0 +1,102 @@
+#include "host/lattice/Recorder.hpp"
+#include "support/TaloTest.hpp"
+#include <atomic>
+#include <lattice/Parameter.hpp>
+#include <memory>
+#include <thread>
+
+namespace {
+
+using Kolt::makeValue;
+using Kolt::ParameterPtr;
+using Kolt::ValueNotifier;
+using Kolt::VParameter;
+using Kolt::VValue;
+using Tessera::StrongPtr;
+
+/// Leaves the delivery first thing, so that no worker finds it half destroyed.
+struct Leaving : ValueNotifier {
+    explicit Leaving(std::atomic<int>& deliveries) : deliveries_(deliveries), text_("alive") {}
+    ~Leaving() override { leaveDelivery(); }
+    void onValueChange(StrongPtr<Kolt::VValueBase> const& value, Kolt::VContext const&,
+                       Kolt::ValueMap const*) override {
+        if (text_ != "alive" || !value)
+            ADD_FAILURE() << "told while it was destroyed";
+        text_ = "told";
+        text_ = "alive";
+        ++deliveries_;
+    }
+    std::atomic<int>& deliveries_;
+    std::string text_;
+};
+
+class NotificationByWorkers : public TaloTest {
+protected:
+    ParameterPtr const parameter_{new VParameter("status", makeValue(std::string("start")))};
+    std::atomic<int> deliveries_{0};
+};
+
+TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerTellsIt) {
+    std::atomic<bool> stop{false};
+    std::thread worker([&] {
+        int round = 0;
+        while (!stop)
+            setParameterValue(*parameter_, std::to_string(++round), nullptr, "", false, {}, nullptr);
+    });
+    for (int round = 0; round < 200; ++round) {
+        auto notifier = std::make_unique<Leaving>(deliveries_);
+        int const before = deliveries_;
+        parameter_->addNotifier(Tessera::WeakPtr<ValueNotifier>(notifier.get()));
+        // Destroyed while deliveries are certainly under way.
+        while (deliveries_ == before)
+            std::this_thread::yield();
+        notifier.reset();
+    }
+    stop = true;
+    worker.join();
+    EXPECT_GE(deliveries_, 200);
+    EXPECT_EQ(parameter_->size(), 0U);
+}
+
+TEST_F(NotificationByWorkers, NobodyIsToldAfterLeaving) {
+    Leaving notifier(deliveries_);
+    parameter_->addNotifier(Tessera::WeakPtr<ValueNotifier>(&notifier));
+    std::thread([&] { setParameterValue(*parameter_, std::string("x"), nullptr, "", false, {}, nullptr); }).join();
+    EXPECT_EQ(deliveries_, 1);
+    struct Reach : Leaving {
+        using Leaving::leaveDelivery;
+    };
+    (notifier.*(&Reach::leaveDelivery))();
+    std::thread([&] { setParameterValue(*parameter_, std::string("y"), nullptr, "", false, {}, nullptr); }).join();
+    EXPECT_EQ(deliveries_, 1);
+}
+
+TEST_F(NotificationByWorkers, WorkersMayExtendAListThatIsBeingTold) {
+    std::thread adding([&] {
+        for (int round = 0; round < 200; ++round) {
+            Leaving notifier(deliveries_);
+            parameter_->addNotifier(Tessera::WeakPtr<ValueNotifier>(&notifier));
+            parameter_->size();
+        }
+    });
+    for (int round = 0; round < 200; ++round)
+        setParameterValue(*parameter_, std::string("x"), nullptr, "", false, {}, nullptr);
+    adding.join();
+    EXPECT_EQ(parameter_->size(), 0U);
+}
+
+TEST_F(NotificationByWorkers, AValueIsReadWholeWhileAWorkerStoresIt) {
+    VValue<std::string> value(std::string(100, 'a'));
+    std::thread worker([&] {
+        for (int round = 0; round < 2000; ++round)
+            value.set(std::string(100, round % 2 ? 'a' : 'b'));
+    });
+    for (int round = 0; round < 2000; ++round) {
+        std::string read;
+        EXPECT_TRUE(value.get(read));
+        EXPECT_EQ(read, std::string(100, read[0]));
+    }
+    worker.join();
+}
+
+} // namespace
