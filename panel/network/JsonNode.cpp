@@ -2,7 +2,7 @@
 #include <cmath>
 #include <lattice/ValueTrait.hpp>
 #include <limits>
-#include <network/JsonNode.hpp>
+#include <panel/network/JsonNode.hpp>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <bramble/Values.hpp>
-#include <network/NetworkReader.hpp>
-#include <network/PropertyFormat.hpp>
-#include <network/ValueFormat.hpp>
+#include <panel/network/NetworkReader.hpp>
+#include <panel/network/PropertyFormat.hpp>
+#include <panel/network/ValueFormat.hpp>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -126,9 +126,11 @@ void Network::connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr 
         action->setHandler([network = std::weak_ptr<Network*>(self_),
                             holder = Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase>(object)](
                                Pool const& pool, Kolt::ParameterPtr const& fired) {
-            auto const living = network.lock();
-            // A copy, as the handler may replace itself or end the network.
-            auto const handler = living ? (*living)->actionHandler : nullptr;
+            // A copy, as the handler may replace itself or end the network, of which nothing is held meanwhile.
+            auto const handler = [&] {
+                auto const living = network.lock();
+                return living ? (*living)->actionHandler : nullptr;
+            }();
             if (handler)
                 handler(holder.strong(), fired, pool);
         });

@@ -1,8 +1,7 @@
 #include <algorithm>
-#include <network/NetworkReader.hpp>
-#include <network/PropertyFormat.hpp>
-#include <network/ValueFormat.hpp>
-#include <QSet>
+#include <panel/network/NetworkReader.hpp>
+#include <panel/network/PropertyFormat.hpp>
+#include <panel/network/ValueFormat.hpp>
 
 namespace Panel {
 
@@ -75,6 +74,7 @@ void NetworkReader::readObject(JsonNode const& node) {
     network_->objects_.push_back(object);
     network_->kinds_.push_back(kind ? kind->text("the kind of an object") : QString());
 
+    takenNames_.clear();
     if (auto const* const parameters = node.find("parameters"))
         for (auto const& parameter : parameters->elements("the parameters"))
             readParameter(parameter, object);
@@ -84,10 +84,10 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
     QString const what = "a parameter";
     node.members(what, {"entries", "name", "perPool", "preferences", "properties", "type", "value", "values"});
     auto const& nameNode = node.required("name", what);
-    auto const name = nameNode.nonEmptyText("the name of a parameter").toStdString();
-    if (object->findParameter(name))
-        nameNode.refuse("a parameter name that is not taken in the object",
-                        quoted(QString::fromStdString(name)) + " again");
+    auto const name = nameNode.nonEmptyText("the name of a parameter");
+    if (takenNames_.contains(name))
+        nameNode.refuse("a parameter name that is not taken in the object", quoted(name) + " again");
+    takenNames_.insert(name);
 
     auto const& typeNode = node.required("type", what);
     auto const* const format = ValueFormat::ofKey(typeNode.text("a type"));
@@ -107,8 +107,8 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
     if (poolValues && !keepsPerPool)
         perPool->refuse("true where \"values\" are given");
     using Values = Kolt::VParameter::Values;
-    Kolt::ParameterPtr const parameter(
-        new Kolt::VParameter(name, ownValue, keepsPerPool ? Values::PerPool : Values::Shared, format->typeName));
+    Kolt::ParameterPtr const parameter(new Kolt::VParameter(
+        name.toStdString(), ownValue, keepsPerPool ? Values::PerPool : Values::Shared, format->typeName));
     object->addParameter(parameter);
     if (poolValues)
         readPoolValues(*poolValues, *parameter, *format, entries);

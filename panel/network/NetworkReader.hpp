@@ -1,7 +1,8 @@
 #pragma once
 
-#include <network/JsonNode.hpp>
-#include <network/Network.hpp>
+#include <panel/network/JsonNode.hpp>
+#include <panel/network/Network.hpp>
+#include <QSet>
 
 namespace Panel {
 
@@ -26,6 +27,8 @@ private:
     void readSlots(JsonNode const& node, Kolt::ObjectPtr const& object);
 
     std::unique_ptr<Network> network_;
+    // The names of the parameters of the object that is being read.
+    QSet<QString> takenNames_;
 };
 
 } // namespace Panel

@@ -1,7 +1,7 @@
 #include <cmath>
 #include <limits>
-#include <network/PropertyFormat.hpp>
-#include <network/ValueFormat.hpp>
+#include <panel/network/PropertyFormat.hpp>
+#include <panel/network/ValueFormat.hpp>
 #include <QDir>
 #include <QJsonObject>
 #include <QStringList>

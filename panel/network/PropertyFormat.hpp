@@ -2,7 +2,7 @@
 
 #include <lattice/Value.hpp>
 #include <lattice/ValueMap.hpp>
-#include <network/JsonNode.hpp>
+#include <panel/network/JsonNode.hpp>
 
 namespace Panel {
 

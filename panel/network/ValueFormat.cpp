@@ -5,8 +5,8 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <network/ValueFormat.hpp>
 #include <optional>
+#include <panel/network/ValueFormat.hpp>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QStringList>

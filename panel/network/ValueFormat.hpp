@@ -1,7 +1,7 @@
 #pragma once
 
 #include <lattice/Value.hpp>
-#include <network/JsonNode.hpp>
+#include <panel/network/JsonNode.hpp>
 #include <string>
 #include <vector>
 

@@ -2,7 +2,7 @@
 
 #include "support/TaloTest.hpp"
 
-#include <network/Network.hpp>
+#include <panel/network/Network.hpp>
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -35,8 +35,8 @@ protected:
 
     /// A network with the pools "draft" and "final" and one object "o" with the parameters, on the lines from 3 on.
     static QByteArray withParameters(QByteArray const& parameters) {
-        return "{ \"pools\": [\"draft\", \"final\"], \"objects\": [\n{ \"name\": \"o\", \"parameters\": [\n" + parameters +
-               "\n] } ] }\n";
+        return "{ \"pools\": [\"draft\", \"final\"], \"objects\": [\n{ \"name\": \"o\", \"parameters\": [\n" +
+               parameters + "\n] } ] }\n";
     }
 
     /// The only object's parameter "p" of a network with that one.

@@ -1,0 +1,11 @@
+#include "BenchmarkCase.hpp"
+
+std::vector<BenchmarkCase> const& benchmarkCases() {
+    static auto const cases = [] {
+        std::vector<BenchmarkCase> all;
+        addBooleanBenchmarks(all);
+        addActionBenchmarks(all);
+        return all;
+    }();
+    return cases;
+}
