@@ -11,7 +11,9 @@ target_compile_definitions(talo_compile INTERFACE QT_NO_CAST_TO_ASCII QT_NO_CAST
 
 if(TALO_SANITIZE)
     target_compile_options(talo_compile INTERFACE -fsanitize=${TALO_SANITIZE} -fno-omit-frame-pointer
-        -fno-sanitize-recover=all)
+        -fno-sanitize-recover=all
+        # The code that the sanitizers add makes g++ see uninitialised members in the standard library.
+        -Wno-maybe-uninitialized)
     target_link_options(talo_compile INTERFACE -fsanitize=${TALO_SANITIZE})
 endif()
 if(TALO_COVERAGE)

@@ -69,6 +69,10 @@ function(talo_test_surroundings test)
         QT_QPA_PLATFORMTHEME QT_STYLE_OVERRIDE QT_PLUGIN_PATH QT_QPA_FONTDIR QT_IM_MODULE
         QT_FONT_DPI QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS QT_AUTO_SCREEN_SCALE_FACTOR QT_ENABLE_HIGHDPI_SCALING
         GTEST_FILTER GTEST_REPEAT GTEST_SHUFFLE GTEST_COLOR GTEST_TOTAL_SHARDS)
+    foreach(variable IN LISTS arg_ENVIRONMENT)
+        string(REGEX REPLACE "=.*" "" variable "${variable}")
+        list(REMOVE_ITEM unset "${variable}")
+    endforeach()
     list(TRANSFORM unset APPEND "=unset:")
     set_tests_properties(${test} PROPERTIES TIMEOUT ${timeout} LABELS "${arg_LABELS}"
         ENVIRONMENT "${environment}" ENVIRONMENT_MODIFICATION "${unset}")

@@ -11,6 +11,16 @@ inline void reportMissingOwner() {
     std::fflush(stdout);
 }
 
+/// Whether a change concerns none of those who show a parameter's value in `pool`. So it is, where the parameter keeps
+/// values per pool, with a change in another pool and with a change of the parameter's own value behind the pool's.
+inline bool belongsElsewhere(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool,
+                             Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) {
+    if (!parameter.keepsValuesPerPool())
+        return false;
+    return (context.pool() && context.pool() != pool) ||
+           (newValue == parameter.ownValue() && parameter.getLocalValue(pool, std::string(), false));
+}
+
 /// Binds one widget to one parameter, its owner, whose values have type T. It holds the owner weakly and keeps a copy
 /// of the value that it last read or wrote. A widget class derives from its Qt class first and from this second.
 ///
@@ -60,9 +70,35 @@ protected:
         return parameter ? parameter->ownValue() : nullptr;
     }
 
-    /// What a change from elsewhere is to this input. Where the owner keeps values per pool, a change in another pool
-    /// and a change of the owner's own value behind the pool's are foreign.
+    /// Copies the value object that the owner itself holds into the cache. False, and the cache left alone, where the
+    /// owner is gone or that is no VValue<T>.
+    bool readOwnValue();
+
+    /// Copies a value that arrives from elsewhere into the cache. False where there is nothing to show: it is no T, or
+    /// only properties changed and it is the value in the cache.
+    bool take(Tessera::StrongPtr<VValueBase> const& newValue, ValueMap const* properties);
+
+    /// The value object with which the input starts: the one that its pool holds, else the one that the owner itself
+    /// holds; null where the owner is gone.
+    Tessera::StrongPtr<VValueBase> firstValue() const {
+        auto const parameter = this->owner().strong();
+        if (!parameter)
+            return nullptr;
+        auto const local = parameter->getLocalValue(pool(), std::string(), false);
+        return local ? local : parameter->ownValue();
+    }
+
+    /// To be called before an edit changes what the cached value refers to: where the owner keeps values per pool, the
+    /// cache takes the value of the input's pool, which is created if it is missing, so that neither the owner's own
+    /// value nor that of another pool changes with it. Without a pool, and where values are shared, the cache stays.
+    void cachePoolValue();
+
+    /// What a change from elsewhere is to this input. Foreign is what belongs elsewhere.
     Arrival arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) const;
+
+    /// Puts a property of the owner where nothing stands under its name, in the widget's pool and with this input as
+    /// the source. A property of another type is never overwritten. Nothing happens where the owner is gone.
+    void ensureProperty(std::string const& name, T const& value);
 
     /// Commits an edit: stores the value in the pool and marks it as changed. Prints the owner-fault line, once, where
     /// the owner is gone or goes meanwhile. Says whether the value was stored and marked. The input and its widget may
@@ -97,10 +133,16 @@ bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
     if (!parameter || !pool)
         return false;
     bool const perPool = parameter->keepsValuesPerPool();
+    if (perPool && parameter->declaredType() != Tessera::Typename(typeid(T))) {
+        // A fresh value would be of the declared type, so one of another type can only be had where it stands already.
+        // Where it does not, nothing is made, and what the pool holds is not replaced.
+        auto const local = parameter->getLocalValue(pool, member, false);
+        if (!dynamic_cast<VValue<T> const*>((local ? local : parameter->ownValue()).get()))
+            return false;
+    }
     auto value = perPool ? parameter->getLocalValue(pool, member, true) : parameter->ownValue();
     auto* typed = dynamic_cast<VValue<T>*>(value.get());
-    // A fresh value of another type would be no use, and would take the place of what the pool holds.
-    if (!typed && perPool && parameter->declaredType() == Tessera::Typename(typeid(T))) {
+    if (!typed && perPool) {
         value = parameter->freshLocalValue(pool);
         typed = dynamic_cast<VValue<T>*>(value.get());
     }
@@ -130,6 +172,35 @@ bool VInputValue<T>::getValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
 }
 
 template <typename T>
+bool VInputValue<T>::readOwnValue() {
+    auto const value = ownValue();
+    auto const* const typed = dynamic_cast<VValue<T> const*>(value.get());
+    return typed && typed->get(cached_);
+}
+
+template <typename T>
+bool VInputValue<T>::take(Tessera::StrongPtr<VValueBase> const& newValue, ValueMap const* properties) {
+    auto const* const typed = dynamic_cast<VTypedValueBase<T> const*>(newValue.get());
+    T arrived{};
+    if (!typed || !typed->get(arrived) || (properties && VValueTrait<T>::Equal(arrived, cached_)))
+        return false;
+    cached_ = std::move(arrived);
+    return true;
+}
+
+template <typename T>
+void VInputValue<T>::cachePoolValue() {
+    auto const parameter = this->owner().strong();
+    auto const currentPool = pool();
+    if (!parameter || !currentPool || !parameter->keepsValuesPerPool())
+        return;
+    T value{};
+    // A value of another type gives way to the edited one, which must not share what the cache refers to either.
+    if (!this->getValue(currentPool, std::string(), value))
+        cached_ = VValueTrait<T>::Clone(cached_);
+}
+
+template <typename T>
 typename VInputValue<T>::Arrival VInputValue<T>::arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue,
                                                            VContext const& context) const {
     auto const parameter = this->owner().strong();
@@ -140,12 +211,23 @@ typename VInputValue<T>::Arrival VInputValue<T>::arrivalOf(Tessera::StrongPtr<VV
     auto local = own;
     if (parameter->keepsValuesPerPool()) {
         auto const ownPool = pool();
-        local = parameter->getLocalValue(ownPool, std::string(), false);
-        if ((context.pool() && context.pool() != ownPool) || (local && newValue == own))
+        if (belongsElsewhere(*parameter, ownPool, newValue, context))
             return Arrival::Foreign;
+        local = parameter->getLocalValue(ownPool, std::string(), false);
     }
     bool const held = newValue == own || newValue == local || (local && local->equals(*newValue));
     return held ? Arrival::Held : Arrival::New;
+}
+
+template <typename T>
+void VInputValue<T>::ensureProperty(std::string const& name, T const& value) {
+    auto const parameter = this->owner().strong();
+    if (!parameter)
+        return;
+    auto const* const properties = parameter->properties();
+    if (properties && properties->getValue(name))
+        return;
+    parameter->setProperty(name, makeValue(value), Tessera::WeakPtr<ValueNotifier>(this), nullptr, pool());
 }
 
 template <typename T>

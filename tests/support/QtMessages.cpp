@@ -50,6 +50,10 @@ QStringList QtMessages::complaints() const {
 }
 
 void QtMessages::receive(QtMsgType type, QMessageLogContext const& context, QString const& message) {
+    // The offscreen platform says so of every window and popup that is shown.
+    if (message.startsWith(QLatin1String("This plugin does not support "))) {
+        return;
+    }
     if (type == QtWarningMsg || type == QtCriticalMsg) {
         std::lock_guard const lock(current->mutex_);
         current->received_ << message;

@@ -1,0 +1,12 @@
+#include "BenchmarkCase.hpp"
+
+std::vector<BenchmarkCase> const& benchmarkCases() {
+    static auto const cases = [] {
+        std::vector<BenchmarkCase> all;
+        addBooleanBenchmarks(all);
+        addActionBenchmarks(all);
+        addTextBenchmarks(all);
+        return all;
+    }();
+    return cases;
+}

@@ -1,0 +1,159 @@
+#include "BenchmarkCase.hpp"
+#include "RatioReporter.hpp"
+#include "Sides.hpp"
+
+#include <iostream>
+#include <lattice/PluginLoader.hpp>
+#include <malloc.h>
+#include <QApplication>
+
+namespace {
+
+/// The bytes that the process has from the heap.
+double heapInUse() {
+    auto const info = mallinfo2();
+    return static_cast<double>(info.uordblks) + static_cast<double>(info.hblkhd);
+}
+
+/// The heap that a window takes before it has editors.
+double heapOfEmptyPanel() {
+    static double const heap = [] {
+        // The first window of a process leaves more behind than itself.
+        Panel().show();
+        auto const before = heapInUse();
+        Panel panel;
+        panel.show();
+        return heapInUse() - before;
+    }();
+    return heap;
+}
+
+/// Creation of all editors until the window is painted.
+template <typename TheSide>
+void create(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count) {
+    auto const emptyPanel = heapOfEmptyPanel();
+    double heap = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        {
+            TheSide side(benchmarkCase, count);
+            auto const before = heapInUse() + emptyPanel;
+            Panel panel;
+            state.ResumeTiming();
+            panel.fill(side, count);
+            panel.show();
+            state.PauseTiming();
+            heap += heapInUse() - before;
+        }
+        // What the window gave to deleteLater goes as well.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        state.ResumeTiming();
+    }
+    state.counters["heap"] = benchmark::Counter(heap / count, benchmark::Counter::kAvgIterations);
+}
+
+/// A change by the program until it is painted, or only until the controls know of it.
+template <typename TheSide>
+void change(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count, bool painted) {
+    TheSide side(benchmarkCase, count);
+    Panel panel;
+    panel.fill(side, count);
+    panel.show();
+    int n = 0;
+    for (auto _ : state) {
+        n = 1 - n;
+        side.change(n);
+        if (painted)
+            QCoreApplication::processEvents();
+    }
+}
+
+/// An edit by the user until it is painted.
+template <typename TheSide>
+void edit(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count) {
+    TheSide side(benchmarkCase, count);
+    Panel panel;
+    panel.fill(side, count);
+    panel.show();
+    int n = 0;
+    for (auto _ : state) {
+        n = 1 - n;
+        benchmarkCase.edit(panel.first(), n);
+        QCoreApplication::processEvents();
+    }
+}
+
+template <typename TheSide>
+void add(BenchmarkCase const& benchmarkCase, char const* sideName) {
+    auto name = benchmarkCase.creator;
+    for (auto const& preference : benchmarkCase.preferences)
+        name += " " + preference;
+    for (int const count : {1, 10, 100, 1000}) {
+        auto const add = [&](char const* measure, auto run) {
+            benchmark::RegisterBenchmark((name + "/" + measure + "/" + sideName + "/" + std::to_string(count)).c_str(),
+                                         run)
+                ->MeasureProcessCPUTime()
+                ->MinTime(0.02)
+                ->Repetitions(9);
+        };
+        add("create", [&, count](auto& state) { create<TheSide>(state, benchmarkCase, count); });
+        add("change", [&, count](auto& state) { change<TheSide>(state, benchmarkCase, count, true); });
+        add("told", [&, count](auto& state) { change<TheSide>(state, benchmarkCase, count, false); });
+        if (benchmarkCase.edit)
+            add("edit", [&, count](auto& state) { edit<TheSide>(state, benchmarkCase, count); });
+    }
+}
+
+/// The creators of the plug-in for which there is no case.
+void tellMissingCases() {
+    for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
+        auto const creator = entry.creator.strong();
+        bool found = false;
+        for (auto const& benchmarkCase : benchmarkCases())
+            found = found || benchmarkCase.creator == creator->Name();
+        if (!found)
+            std::cout << "No benchmark for \"" << creator->Name() << "\" of " << entry.valueType << "\n";
+    }
+}
+
+void passOver(QtMsgType, QMessageLogContext const&, QString const&) {}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The offscreen platform warns of every window, which would be measured.
+    qInstallMessageHandler(passOver);
+    QApplication application(argc, argv);
+
+    // Both sides take turns, so that a busy machine is no slower for one of them. What the user says comes later and
+    // wins.
+    std::string interleaving = "--benchmark_enable_random_interleaving=true";
+    std::vector<char*> arguments(argv, argv + argc);
+    arguments.insert(arguments.begin() + 1, interleaving.data());
+    int count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+        return 2;
+
+    Kolt::VInitialization host;
+    Kolt::PluginLoader loader(host);
+    auto const outcome = loader.load(TALO_PLUGIN_FILE);
+    if (!outcome.ok) {
+        std::cerr << outcome.message << "\n";
+        return 2;
+    }
+    for (auto const& benchmarkCase : benchmarkCases()) {
+        add<BareSide>(benchmarkCase, "bare");
+        add<PluginSide>(benchmarkCase, "plug-in");
+    }
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    tellMissingCases();
+#ifndef NDEBUG
+    std::cout << "This build is not optimised: its figures say little.\n";
+#endif
+    benchmark::Shutdown();
+    return 0;
+}

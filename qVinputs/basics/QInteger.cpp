@@ -1,0 +1,255 @@
+#include <lattice/ActionNotifier.hpp>
+#include <limits>
+#include <plugin/QInputWidgetCreator.hpp>
+#include <QIntValidator>
+#include <QSignalBlocker>
+#include <qVinputs/basics/QInteger.hpp>
+#include <qVinputs/basics/QIntegerIcon.hpp>
+
+namespace Kolt {
+
+namespace {
+
+constexpr char MaximumProperty[] = "max";
+constexpr char MinimumProperty[] = "min";
+
+// How much a move of the control matters to the history.
+constexpr int UndoWeight = 20;
+
+int sliderMaximumFor(Tessera::StrongPtr<VValueBase> const& value) {
+    auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
+    int number = 0;
+    if (!typed || !typed->get(number))
+        return 256;
+    if (number < 100)
+        return 100;
+    constexpr int Largest = std::numeric_limits<int>::max();
+    return number > Largest / 2 ? Largest : 2 * number;
+}
+
+int propertyOr(ValueMap const* properties, char const* name, int fallback) {
+    return properties ? valueOr(properties->getValue(name), fallback) : fallback;
+}
+
+} // namespace
+
+IntegerUndo::IntegerUndo(Tessera::WeakPtr<VInputValue<int>, ValueNotifier> const& input,
+                         Tessera::StrongPtr<VContext::Addendum> const& addendum, int previous)
+    : VUndoAction("Set int value to " + VValueTrait<int>::Text(previous)),
+      input_(input),
+      addendum_(addendum),
+      previous_(previous) {}
+
+IntegerUndo::~IntegerUndo() = default;
+
+bool IntegerUndo::undo() {
+    VContext const context(addendum_);
+    auto const input = input_.strong();
+    auto const parameter = input ? input->owner().strong() : nullptr;
+    if (!parameter || !input->setValue(context.pool(), std::string(), previous_, nullptr))
+        return false;
+    markValueChanged(*parameter, context.pool());
+    // The input is the source of the change, so nobody has told it.
+    if (input)
+        input->onValueChange(parameter->getLocalValue(context.pool(), std::string(), false), context, nullptr);
+    return true;
+}
+
+QInteger::QInteger(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+                   ValuePoolSource* poolSource, PreferencesPtr const& preferences)
+    : QWidget(parent), VInputValue<int>(parameter, poolSource), layout_(new QHBoxLayout) {
+    layout_->setContentsMargins(0, 0, 0, 0);
+    addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new QIntegerIconizer(*this)));
+
+    int const defaultMaximum = sliderMaximumFor(ownValue());
+    if (!owner())
+        VActionNotifier::Warning("QInteger created for non-integer parameter.");
+    else if (!fetchValue(pool(), std::string()))
+        VActionNotifier::Warning("QInteger could not initialize value.");
+    shown_ = cached_;
+
+    lineEdit_ = new QLeaveLineEdit(this);
+    if (preferences && preferences->contains("dial"))
+        makeDial(preferences->contains("periodic"));
+    else
+        makeSlider(defaultMaximum);
+    makeLineEdit();
+    setLayout(layout_);
+    show();
+    if (owner())
+        showNumber(cached_);
+
+    if (slider_)
+        connect(slider_, &QSlider::valueChanged, this, &QInteger::valueChanged);
+    if (dial_)
+        connect(dial_, &QDial::valueChanged, this, &QInteger::valueChanged);
+    if (slider_)
+        slider_->setTickPosition(QSlider::NoTicks);
+    connect(lineEdit_, &QLineEdit::returnPressed, this, &QInteger::textEnter);
+    activateNotification();
+}
+
+QInteger::~QInteger() = default;
+
+void QInteger::makeDial(bool periodic) {
+    periodic_ = periodic;
+    dial_ = new QDial(this);
+    dial_->setWrapping(periodic);
+    layout_->addWidget(dial_);
+    dial_->setTracking(true);
+    dial_->setNotchesVisible(true);
+    dial_->setFixedSize(64, 64);
+    dial_->setPageStep(15);
+    dial_->setSingleStep(5);
+    setRangeFromProperties(360);
+}
+
+void QInteger::makeSlider(int defaultMaximum) {
+    slider_ = new QSlider(Qt::Horizontal, this);
+    layout_->addWidget(slider_);
+    slider_->setTickPosition(QSlider::TicksBelow);
+    setRangeFromProperties(defaultMaximum);
+}
+
+void QInteger::setRangeFromProperties(int defaultMaximum) {
+    ensureProperty(MinimumProperty, 0);
+    ensureProperty(MaximumProperty, defaultMaximum);
+    auto const parameter = owner().strong();
+    auto const* const properties = parameter ? parameter->properties() : nullptr;
+    setRange(propertyOr(properties, MinimumProperty, 0), propertyOr(properties, MaximumProperty, defaultMaximum));
+}
+
+void QInteger::makeLineEdit() {
+    lineEdit_->showText(QLatin1String("0"));
+    lineEdit_->setValidator(new QIntValidator(lineEdit_));
+    lineEdit_->setAlignment(Qt::AlignRight);
+    lineEdit_->adjustSize();
+    lineEdit_->setMaximumWidth(100);
+    layout_->addWidget(lineEdit_);
+}
+
+QAbstractSlider* QInteger::control() const {
+    if (slider_)
+        return slider_;
+    return dial_;
+}
+
+void QInteger::setRange(int minimum, int maximum) {
+    auto* const handle = control();
+    if (!handle)
+        return;
+    QSignalBlocker const blocker(handle);
+    // A dial that wraps divides by the width of its range.
+    if (dial_)
+        dial_->setWrapping(false);
+    handle->setRange(minimum, maximum);
+    if (dial_)
+        dial_->setWrapping(periodic_ && minimum < maximum);
+    handle->setValue(shown_);
+}
+
+void QInteger::moveHandle(int value) {
+    auto* const handle = control();
+    if (!handle)
+        return;
+    QSignalBlocker const blocker(handle);
+    handle->setValue(value);
+}
+
+void QInteger::showNumber(int value) {
+    shown_ = value;
+    if (lineEdit_) {
+        lineEdit_->showText(QString::number(value));
+        lineEdit_->home(false);
+    }
+    moveHandle(value);
+}
+
+void QInteger::showAndWrite(int value) {
+    showNumber(value);
+    // The second part: whoever is told of the step may move the control again before the number is written.
+    if (value == cached_ || value == recording_)
+        return;
+    auto const currentPool = pool();
+    if (!currentPool)
+        return;
+
+    VContext const context(currentPool, nullptr);
+    Tessera::StrongPtr<VUndoAction> const step(
+        new IntegerUndo(Tessera::WeakPtr<VInputValue<int>, ValueNotifier>(this), context.addendum(), cached_));
+    auto const outerRecording = recording_;
+    recording_ = value;
+    QPointer<QInteger> const self(this);
+    owner().strong()->AddUndoAction(step, UndoWeight);
+    if (!self)
+        return;
+    recording_ = outerRecording;
+    showNumber(value);
+    commit(value);
+}
+
+void QInteger::valueChanged(int value) {
+    if (owner())
+        showAndWrite(value);
+    else
+        commit(value);
+}
+
+void QInteger::textEnter() {
+    bool isNumber = false;
+    int const number = lineEdit_ ? lineEdit_->text().toInt(&isNumber) : 0;
+    if (!isNumber)
+        return;
+    if (!owner()) {
+        moveHandle(number);
+        commit(number);
+        return;
+    }
+    // The control's signal stays live: a handle that moves records the step.
+    QPointer<QInteger> const self(this);
+    if (auto* const handle = control())
+        handle->setValue(number);
+    // An owner that went meanwhile was reported by the control's slot.
+    if (!self || !owner())
+        return;
+    showNumber(number);
+    commit(number);
+}
+
+void QInteger::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                             ValueMap const* properties) {
+    // These defaults differ from those of the construction: a range that somebody narrows is a percentage.
+    if (properties)
+        setRange(propertyOr(properties, MinimumProperty, 0), propertyOr(properties, MaximumProperty, 100));
+
+    auto const* const typed = dynamic_cast<VValue<int> const*>(newValue.get());
+    int value = 0;
+    if (!typed || !typed->get(value))
+        return;
+    switch (arrivalOf(newValue, context)) {
+    case Arrival::Foreign:
+        // A step taken back in another pool was written through this input; the next edit starts from what is shown.
+        cached_ = shown_;
+        break;
+    case Arrival::Held:
+        cached_ = value;
+        showNumber(value);
+        break;
+    case Arrival::New:
+        if (owner())
+            showAndWrite(value);
+        break;
+    }
+}
+
+namespace {
+
+TALO_STATIC_CREATOR QInputWidgetCreator<int, QInteger> const integerCreator("int", nullptr);
+TALO_STATIC_CREATOR QInputWidgetCreator<int, QInteger> const
+    dialCreator("intDial", PreferencesPtr(new VCreationPreferences("dial")));
+TALO_STATIC_CREATOR QInputWidgetCreator<int, QInteger> const
+    periodicDialCreator("intDialPeriodic", PreferencesPtr(new VCreationPreferences("dial", "periodic")));
+
+} // namespace
+
+} // namespace Kolt

@@ -1,0 +1,57 @@
+#include <plugin/VInputValue.hpp>
+#include <qVinputs/basics/QIntegerIcon.hpp>
+
+namespace Kolt {
+
+/// Keeps an icon current. The icon owns it; others may keep it longer, to no effect.
+class IntegerIcon::LCDNotifier : public ValueNotifier {
+public:
+    explicit LCDNotifier(IntegerIcon* icon) : icon_(icon) {}
+
+    void leaveIcon() { icon_ = nullptr; }
+    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                       ValueMap const*) override {
+        if (!icon_)
+            return;
+        auto const parameter = icon_->parameter_.strong();
+        if (!parameter || !belongsElsewhere(*parameter, currentPool(icon_->provider()), newValue, context))
+            icon_->showValue(newValue);
+    }
+
+private:
+    IntegerIcon* icon_;
+};
+
+IntegerIcon::IntegerIcon(QWidget* parent, Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter,
+                         Tessera::WeakPtr<VObject, VManagedObjectBase> const& object,
+                         Tessera::StrongPtr<ValuePoolProvider> const& provider)
+    : VIcon(object, provider), QLCDNumber(parent), notifier_(new LCDNotifier(this)), parameter_(parameter) {
+    auto const living = parameter_.strong();
+    auto const value = living ? living->getLocalValue(currentPool(provider), std::string(), false) : nullptr;
+    if (living)
+        living->addNotifier(notifier_);
+    display(0);
+    showValue(value);
+}
+
+IntegerIcon::~IntegerIcon() {
+    notifier_->leaveIcon();
+}
+
+void IntegerIcon::showValue(Tessera::StrongPtr<VValueBase> const& value) {
+    auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
+    int number = 0;
+    if (typed && typed->get(number))
+        display(number);
+}
+
+QIntegerIconizer::QIntegerIconizer(VInputBase const& input) : parameter_(input.owner()) {}
+
+QIntegerIconizer::~QIntegerIconizer() = default;
+
+VIcon* QIntegerIconizer::createIcon(QWidget* parent, Tessera::WeakPtr<VObject, VManagedObjectBase> const& object,
+                                    Tessera::StrongPtr<ValuePoolProvider> const& provider) {
+    return new IntegerIcon(parent, parameter_, object, provider);
+}
+
+} // namespace Kolt

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <lattice/Parameter.hpp>
+#include <optional>
+#include <QFont>
+#include <string>
+
+namespace Kolt {
+
+// The cast name of a text editor's second base is "VInputValue<string>", and moc takes it as it is spelled.
+using std::string;
+
+/// The small bold font of a family: 8 points, weight 75. Nothing where the family cannot be had exactly. That is asked
+/// of the family in its default size, so the answer also depends on the resolution of the screen: a default size that
+/// is no whole number of pixels is not matched exactly.
+inline std::optional<QFont> smallBoldFont(char const* family) {
+    QFont font(QString::fromUtf8(family));
+    if (!font.exactMatch())
+        return std::nullopt;
+    font.setPointSize(8);
+    font.setWeight(QFont::Bold);
+    return font;
+}
+
+/// The text under a property's name; empty where there is no parameter, no property, or it is no text.
+inline string textProperty(ParameterPtr const& parameter, string const& name) {
+    auto const* const properties = parameter ? parameter->properties() : nullptr;
+    return properties ? valueOr(properties->getValue(name), string()) : string();
+}
+
+} // namespace Kolt

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <plugin/VInputValue.hpp>
+
+#include <bramble/Action.hpp>
+#include <lattice/CreationPreferences.hpp>
+#include <QPushButton>
+
+namespace Kolt {
+
+/// Fires an action with a push button. The button is labelled with the last part of the parameter's name, "[doit]"
+/// where the parameter is gone, and takes its icon and tool tip from the parameter's properties "icon" (the path of a
+/// picture file) and "tooltip", both UTF-8. A picture that cannot be loaded is not reported; the button keeps the icon
+/// that it has. The preferences are not looked at.
+///
+/// The action is the one that the parameter's own value refers to when the button is made. A click writes nothing.
+class qVAction : public QPushButton, public VInputValue<Tessera::StrongPtr<VAction>> {
+    Q_OBJECT
+
+public:
+    qVAction(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+             ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    ~qVAction() override;
+
+    /// Shows the icon and tool tip that the parameter has by now; the value itself is not shown.
+    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                       ValueMap const* properties) override;
+
+public slots:
+    /// The user's click: fires the action in the pool of this moment. Without a pool nothing happens; where the
+    /// parameter is gone, or goes while the action runs, the owner-fault line is printed once. The action may delete
+    /// the button.
+    void activated(bool checked);
+
+private:
+    void showDecoration();
+
+    Tessera::StrongPtr<ValuePool> pool_;
+    Tessera::StrongPtr<VAction> const action_;
+};
+
+} // namespace Kolt

@@ -1,0 +1,28 @@
+#include <plugin/QInputWidgetCreator.hpp>
+#include <qVinputs/basics/qVInfo.hpp>
+
+namespace Kolt {
+
+qVInfo::qVInfo(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+               ValuePoolSource* poolSource, PreferencesPtr const&)
+    : QLabel(parent), VInputValue<info>(parameter, poolSource) {
+    readOwnValue();
+    setText(QString::fromStdString(cached_.text));
+    activateNotification();
+}
+
+qVInfo::~qVInfo() = default;
+
+void qVInfo::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                           ValueMap const* properties) {
+    if (arrivalOf(newValue, context) != Arrival::Foreign && take(newValue, properties))
+        setText(QString::fromStdString(cached_.text));
+}
+
+namespace {
+
+TALO_STATIC_CREATOR QInputWidgetCreator<info, qVInfo> const informationCreator("InformationDisplay", nullptr);
+
+} // namespace
+
+} // namespace Kolt

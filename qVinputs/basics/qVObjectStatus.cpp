@@ -1,0 +1,53 @@
+#include <plugin/QInputWidgetCreator.hpp>
+#include <QThread>
+#include <qVinputs/basics/qVObjectStatus.hpp>
+
+namespace Kolt {
+
+qVObjectStatus::qVObjectStatus(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+                               ValuePoolSource* poolSource, PreferencesPtr const&)
+    : QLabel(parent), VInputValue<VObjectStatus>(parameter, poolSource), shownPool_(pool().get()) {
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse);
+    readOwnValue();
+    setText(QString::fromStdString(cached_.text()));
+    connect(this, &qVObjectStatus::myUpdateLabelText, this, &QLabel::setText);
+    activateNotification();
+}
+
+qVObjectStatus::~qVObjectStatus() {
+    // A worker may be in the middle of a report, which works on the members below.
+    leaveDelivery();
+}
+
+void qVObjectStatus::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                                   ValueMap const* properties) {
+    if (isForeign(newValue, context))
+        return;
+    QString text;
+    {
+        std::lock_guard const lock(mutex_);
+        if (!take(newValue, properties))
+            return;
+        text = QString::fromStdString(cached_.text());
+    }
+    emit myUpdateLabelText(text);
+}
+
+bool qVObjectStatus::isForeign(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) {
+    if (QThread::currentThread() == thread()) {
+        shownPool_ = pool().get();
+        return arrivalOf(newValue, context) == Arrival::Foreign;
+    }
+    // The pool source and the parameter's pools may be asked on the user-interface thread alone. The front end reports
+    // there when it switches the pool, so the one seen last is the current one.
+    auto const parameter = owner().strong();
+    return parameter && parameter->keepsValuesPerPool() && context.pool() && context.pool().get() != shownPool_;
+}
+
+namespace {
+
+TALO_STATIC_CREATOR QInputWidgetCreator<VObjectStatus, qVObjectStatus> const statusCreator("StatusDisplay", nullptr);
+
+} // namespace
+
+} // namespace Kolt

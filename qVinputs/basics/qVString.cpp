@@ -1,0 +1,72 @@
+#include <plugin/QInputWidgetCreator.hpp>
+#include <QEvent>
+#include <QPointer>
+#include <QTextDocument>
+#include <qVinputs/basics/qVString.hpp>
+
+namespace Kolt {
+
+namespace {
+
+bool isCommitTrigger(QEvent::Type type) {
+    // Declared by Qt for keypad navigation alone.
+    constexpr auto leaveEditFocus = static_cast<QEvent::Type>(151);
+    return type == QEvent::FocusOut || type == QEvent::Leave || type == QEvent::ShortcutOverride ||
+           type == leaveEditFocus;
+}
+
+} // namespace
+
+qVString::qVString(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+                   ValuePoolSource* poolSource, PreferencesPtr const&)
+    : QTextEdit(parent), VInputValue<string>(parameter, poolSource) {
+    setAcceptRichText(false);
+    readOwnValue();
+    if (auto const font = smallBoldFont("DejaVu Sans Mono"))
+        document()->setDefaultFont(*font);
+    document()->setPlainText(QString::fromStdString(cached_));
+    activateNotification();
+}
+
+qVString::~qVString() {
+    destroying_ = true;
+}
+
+void qVString::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                             ValueMap const* properties) {
+    // The input is told of its own commits; a long document need not be read again for each of them.
+    auto const* const typed = dynamic_cast<VTypedValueBase<string> const*>(newValue.get());
+    string arrived;
+    if (document()->revision() == committedRevision_ && typed && typed->get(arrived) && arrived == cached_)
+        return;
+    if (arrivalOf(newValue, context) == Arrival::Foreign || !take(newValue, properties))
+        return;
+    auto const text = QString::fromStdString(cached_);
+    if (document()->toPlainText() != text)
+        document()->setPlainText(text);
+}
+
+void qVString::newText() {
+    cached_ = document()->toPlainText().toStdString();
+    committedRevision_ = document()->revision();
+    ValueNotifierList self;
+    self.addNotifier(Tessera::WeakPtr<ValueNotifier>(this));
+    commit(cached_, WithoutPool::Try, &self);
+}
+
+bool qVString::event(QEvent* event) {
+    QPointer<qVString> const living(this);
+    if (!destroying_ && isCommitTrigger(event->type()))
+        newText();
+    // Whoever was told may have deleted the editor.
+    return living ? QTextEdit::event(event) : true;
+}
+
+namespace {
+
+TALO_STATIC_CREATOR QInputWidgetCreator<std::string, qVString> const
+    multiLineCreator("string", PreferencesPtr(new VCreationPreferences(VValueTrait<std::string>::MultiLine())));
+
+} // namespace
+
+} // namespace Kolt

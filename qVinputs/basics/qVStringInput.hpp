@@ -1,0 +1,42 @@
+#pragma once
+
+#include <plugin/VInputValue.hpp>
+#include <qVinputs/basics/Text.hpp>
+
+#include <lattice/CreationPreferences.hpp>
+#include <QLineEdit>
+
+namespace Kolt {
+
+/// Edits a text of any length in one line. Every keystroke, paste or deletion is written at once; with the preference
+/// "UpdateOnEnterOnly" the text is written as a whole when Return is pressed or the focus leaves. The parameter's own
+/// preferences, where it has any, decide that instead of the creator's.
+///
+/// The property "inputmask", read once, restricts what can be typed; the mask's separators are a part of what is
+/// written. The font is bold "DejaVu Sans Mono" of 8 points where it can be had exactly, else the inherited one.
+///
+/// It also serves parameters of the array type with one text. One whose value object is a text is edited like any
+/// other; one that holds an array starts empty and nothing is written.
+///
+/// Where the parameter is gone the field starts empty, and each commit prints the owner-fault line.
+class qVStringInput : public QLineEdit, public VInputValue<string> {
+    Q_OBJECT
+
+public:
+    /// `preferences` may be null.
+    qVStringInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+                  ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    ~qVStringInput() override;
+
+    /// Shows a text; any other value is ignored.
+    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                       ValueMap const* properties) override;
+
+public slots:
+    /// Commits the text in the field.
+    void newText();
+    /// Commits a text.
+    void inputText(QString const& text);
+};
+
+} // namespace Kolt

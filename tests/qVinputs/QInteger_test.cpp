@@ -1,0 +1,714 @@
+#include "support/TestHost.hpp"
+#include "support/WheelTurn.hpp"
+
+#include <lattice/UndoAction.hpp>
+#include <limits>
+#include <QDial>
+#include <QIntValidator>
+#include <QLayout>
+#include <QMetaMethod>
+#include <QSlider>
+#include <sorrel/QLeaveLineEdit.hpp>
+
+using Kolt::ParameterPtr;
+using Values = Kolt::VParameter::Values;
+
+namespace {
+
+constexpr int LargestInt = std::numeric_limits<int>::max();
+constexpr int SmallestInt = std::numeric_limits<int>::min();
+
+class QIntegerTest : public PluginTest {
+protected:
+    static QSlider* slider(Kolt::Editor const& editor) { return editor.widget->findChild<QSlider*>(); }
+    static QDial* dial(Kolt::Editor const& editor) { return editor.widget->findChild<QDial*>(); }
+    static Kolt::QLeaveLineEdit* lineEdit(Kolt::Editor const& editor) {
+        return editor.widget->findChild<Kolt::QLeaveLineEdit*>();
+    }
+    static std::string text(Kolt::Editor const& editor) { return lineEdit(editor)->text().toStdString(); }
+    static void type(Kolt::Editor const& editor, char const* typed) {
+        lineEdit(editor)->selectAll();
+        QTest::keyClicks(lineEdit(editor), typed);
+        QTest::keyClick(lineEdit(editor), Qt::Key_Return);
+    }
+    /// What the control's signal does.
+    static void callSlot(Kolt::Editor const& editor, int value) {
+        ASSERT_TRUE(QMetaObject::invokeMethod(editor.widget, "valueChanged", Q_ARG(int, value)));
+    }
+
+    static ParameterPtr integer(int value, std::vector<std::string> const& preferences = {},
+                                Values values = Values::Shared) {
+        return makeParameter("count", Kolt::makeValue(value), preferences, values);
+    }
+    static void setProperty(ParameterPtr const& parameter, char const* name,
+                            Tessera::StrongPtr<Kolt::VValueBase> const& value) {
+        parameter->setProperty(name, value, nullptr, nullptr, nullptr);
+    }
+    static ParameterPtr bounded(int value, int minimum, int maximum, std::vector<std::string> const& preferences = {}) {
+        auto const parameter = integer(value, preferences);
+        setProperty(parameter, "min", Kolt::makeValue(minimum));
+        setProperty(parameter, "max", Kolt::makeValue(maximum));
+        return parameter;
+    }
+    static std::string property(ParameterPtr const& parameter, char const* name) {
+        return parameter->properties()->getValue(name)->Text();
+    }
+    static void changeElsewhere(ParameterPtr const& parameter, int value,
+                                Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+        Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
+    }
+    static std::vector<std::string> undoTexts() {
+        std::vector<std::string> texts;
+        for (auto const& step : Kolt::UndoHistory::theHistory().steps())
+            texts.push_back(step->description());
+        return texts;
+    }
+    void record(ParameterPtr const& parameter) {
+        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
+    }
+
+    void TearDown() override {
+        Kolt::UndoHistory::theHistory().setListener(nullptr);
+        PluginTest::TearDown();
+    }
+
+    RecordingNotifier recorder;
+};
+
+} // namespace
+
+TEST_F(QIntegerTest, IsAWidgetWithASliderAndALineEdit) {
+    auto const editor = open(integer(7));
+    auto const* const meta = editor.widget->metaObject();
+    EXPECT_STREQ(meta->className(), "Kolt::QInteger");
+    EXPECT_STREQ(meta->superClass()->className(), "QWidget");
+    ASSERT_EQ(meta->methodCount() - meta->methodOffset(), 2);
+    EXPECT_EQ(meta->method(meta->methodOffset()).methodSignature(), QByteArray("valueChanged(int)"));
+    EXPECT_EQ(meta->method(meta->methodOffset() + 1).methodSignature(), QByteArray("textEnter()"));
+    EXPECT_EQ(meta->method(meta->methodOffset()).methodType(), QMetaMethod::Slot);
+    EXPECT_NE(editor.widget->qt_metacast("VInputValue<int>"), nullptr);
+
+    auto* const layout = qobject_cast<QHBoxLayout*>(editor.widget->layout());
+    ASSERT_NE(layout, nullptr);
+    EXPECT_EQ(layout->contentsMargins(), QMargins(0, 0, 0, 0));
+    ASSERT_EQ(layout->count(), 2);
+    EXPECT_EQ(layout->itemAt(0)->widget(), slider(editor));
+    EXPECT_EQ(layout->itemAt(1)->widget(), lineEdit(editor));
+
+    EXPECT_EQ(dial(editor), nullptr);
+    EXPECT_EQ(slider(editor)->orientation(), Qt::Horizontal);
+    EXPECT_EQ(slider(editor)->tickPosition(), QSlider::NoTicks);
+
+    auto const* const validator = qobject_cast<QIntValidator const*>(lineEdit(editor)->validator());
+    ASSERT_NE(validator, nullptr);
+    EXPECT_EQ(validator->bottom(), SmallestInt);
+    EXPECT_EQ(validator->top(), LargestInt);
+    EXPECT_EQ(lineEdit(editor)->alignment(), Qt::AlignRight);
+    EXPECT_EQ(lineEdit(editor)->maximumWidth(), 100);
+}
+
+TEST_F(QIntegerTest, UnderTheDialPreferenceItHasADial) {
+    for (auto const& preferences : std::vector<std::vector<std::string>>{{"dial"}, {"dial", "periodic"}}) {
+        auto const editor = open(integer(7, preferences));
+        EXPECT_EQ(slider(editor), nullptr);
+        ASSERT_NE(dial(editor), nullptr);
+        EXPECT_EQ(dial(editor)->wrapping(), preferences.size() == 2);
+        EXPECT_TRUE(dial(editor)->hasTracking());
+        EXPECT_TRUE(dial(editor)->notchesVisible());
+        EXPECT_EQ(dial(editor)->minimumSize(), QSize(64, 64));
+        EXPECT_EQ(dial(editor)->maximumSize(), QSize(64, 64));
+        EXPECT_EQ(dial(editor)->pageStep(), 15);
+        EXPECT_EQ(dial(editor)->singleStep(), 5);
+        EXPECT_EQ(editor.widget->layout()->itemAt(0)->widget(), dial(editor));
+        EXPECT_EQ(dial(editor)->value(), 7);
+    }
+}
+
+TEST_F(QIntegerTest, PeriodicAloneMakesASlider) {
+    for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
+        auto const creator = entry.creator.strong();
+        if (creator->Name() == "int")
+            *creator->preferences() += "periodic";
+    }
+    auto const parameter = integer(7);
+    auto const made = qtCreator("int", "int")->create(parameter, parent, &pools);
+    EXPECT_NE(made.first->findChild<QSlider*>(), nullptr);
+    EXPECT_EQ(made.first->findChild<QDial*>(), nullptr);
+}
+
+TEST_F(QIntegerTest, TheMissingUpperBoundOfASliderSuitsTheValue) {
+    for (auto const& [value, bound] : std::vector<std::pair<int, int>>{{-5, 100},
+                                                                       {0, 100},
+                                                                       {99, 100},
+                                                                       {100, 200},
+                                                                       {150, 300},
+                                                                       {LargestInt / 2, LargestInt - 1},
+                                                                       {LargestInt / 2 + 1, LargestInt},
+                                                                       {LargestInt, LargestInt},
+                                                                       {SmallestInt, 100}}) {
+        auto const parameter = integer(value);
+        auto const editor = open(parameter);
+        EXPECT_EQ(property(parameter, "min"), "0");
+        EXPECT_EQ(property(parameter, "max"), std::to_string(bound)) << value;
+        EXPECT_EQ(slider(editor)->minimum(), 0);
+        EXPECT_EQ(slider(editor)->maximum(), bound);
+        EXPECT_EQ(text(editor), std::to_string(value));
+    }
+}
+
+TEST_F(QIntegerTest, TheBoundIsTakenFromTheParametersOwnValue) {
+    auto const parameter = integer(150, {}, Values::PerPool);
+    changeElsewhere(parameter, 7, firstPool);
+    auto const editor = open(parameter);
+    EXPECT_EQ(slider(editor)->maximum(), 300);
+    EXPECT_EQ(text(editor), "7");
+}
+
+TEST_F(QIntegerTest, TheMissingUpperBoundForAValueOfAnotherTypeIs256) {
+    auto const parameter = makeParameter("count", Kolt::makeValue(std::string("text")), {}, Values::Shared, "int");
+    auto const editor = open(parameter);
+    EXPECT_EQ(property(parameter, "min"), "0");
+    EXPECT_EQ(property(parameter, "max"), "256");
+    EXPECT_EQ(slider(editor)->maximum(), 256);
+    EXPECT_EQ(text(editor), "0");
+    EXPECT_EQ(warnings.texts, std::vector<std::string>{"QInteger could not initialize value."});
+    EXPECT_EQ(parameter->ownValue()->Text(), "text");
+}
+
+TEST_F(QIntegerTest, TheMissingBoundsOfADialAre0And360) {
+    auto const parameter = integer(1000, {"dial"});
+    auto const editor = open(parameter);
+    EXPECT_EQ(property(parameter, "min"), "0");
+    EXPECT_EQ(property(parameter, "max"), "360");
+    EXPECT_EQ(dial(editor)->minimum(), 0);
+    EXPECT_EQ(dial(editor)->maximum(), 360);
+    EXPECT_EQ(text(editor), "1000");
+}
+
+TEST_F(QIntegerTest, BoundsThatStandAreKept) {
+    auto const parameter = bounded(7, -20, 20);
+    record(parameter);
+    auto const editor = open(parameter);
+    EXPECT_EQ(slider(editor)->minimum(), -20);
+    EXPECT_EQ(slider(editor)->maximum(), 20);
+    EXPECT_EQ(recorder.propertyChanges, 0);
+}
+
+TEST_F(QIntegerTest, ABoundOfAnotherTypeIsNeverOverwritten) {
+    auto const parameter = integer(7);
+    setProperty(parameter, "max", Kolt::makeValue(std::string("much")));
+    auto const editor = open(parameter);
+    EXPECT_EQ(property(parameter, "max"), "much");
+    EXPECT_EQ(property(parameter, "min"), "0");
+    EXPECT_EQ(slider(editor)->maximum(), 100);
+}
+
+TEST_F(QIntegerTest, TheLowerBoundIsSetBeforeTheUpperOneInThePoolOfTheWidget) {
+    class PropertyNotifier : public Kolt::ValueNotifier {
+    public:
+        void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const& context,
+                           Kolt::ValueMap const* properties) override {
+            std::string names;
+            for (auto const& entry : *properties)
+                names += entry.first + " ";
+            seen.push_back(names);
+            pools.push_back(context.pool());
+        }
+        std::vector<std::string> seen;
+        std::vector<Tessera::StrongPtr<Kolt::ValuePool>> pools;
+    };
+    auto const parameter = integer(7);
+    PropertyNotifier notifier;
+    parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&notifier));
+    auto const editor = open(parameter);
+    EXPECT_EQ(notifier.seen, (std::vector<std::string>{"min ", "max min "}));
+    EXPECT_EQ(notifier.pools, (std::vector<Tessera::StrongPtr<Kolt::ValuePool>>{firstPool, firstPool}));
+}
+
+TEST_F(QIntegerTest, APoolWithoutAValueIsReportedAndGetsNone) {
+    auto const parameter = integer(42, {}, Values::PerPool);
+    auto const made = qtCreator("int", "int")->create(parameter, parent, &pools);
+    EXPECT_EQ(warnings.texts, std::vector<std::string>{"QInteger could not initialize value."});
+    EXPECT_EQ(made.first->findChild<QLineEdit*>()->text(), QLatin1String("0"));
+    EXPECT_FALSE(parameter->getLocalValue(firstPool, std::string(), false));
+}
+
+TEST_F(QIntegerTest, AParameterThatIsGoneIsReported) {
+    Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const gone = integer(42);
+    auto const made = qtCreator("int", "int")->create(gone, parent, &pools);
+    EXPECT_EQ(warnings.texts, std::vector<std::string>{"QInteger created for non-integer parameter."});
+    EXPECT_EQ(made.first->findChild<QLineEdit*>()->text(), QLatin1String("0"));
+    EXPECT_EQ(made.first->findChild<QSlider*>()->maximum(), 256);
+    made.second.strong()->onValueChange(Kolt::makeValue(9), Kolt::VContext(firstPool, nullptr), nullptr);
+    EXPECT_EQ(made.first->findChild<QLineEdit*>()->text(), QLatin1String("0"));
+}
+
+TEST_F(QIntegerTest, AValueOutsideTheRangeKeepsItsTextAndTheHandleStandsAtTheBound) {
+    auto const parameter = bounded(500, 0, 100);
+    record(parameter);
+    auto const editor = open(parameter);
+    EXPECT_EQ(text(editor), "500");
+    EXPECT_EQ(slider(editor)->value(), 100);
+    changeElsewhere(parameter, -500, firstPool);
+    EXPECT_EQ(text(editor), "-500");
+    EXPECT_EQ(slider(editor)->value(), 0);
+    EXPECT_EQ(parameter->ownValue()->Text(), "-500");
+    EXPECT_EQ(recorder.values, std::vector<std::string>{"-500"});
+    EXPECT_TRUE(undoTexts().empty());
+}
+
+TEST_F(QIntegerTest, TheHandleFollowsARangeThatShrinksAndGrows) {
+    for (auto const& preferences : std::vector<std::vector<std::string>>{{}, {"dial"}}) {
+        auto const parameter = bounded(80, 0, 100, preferences);
+        auto const editor = open(parameter);
+        auto* const control = editor.widget->findChild<QAbstractSlider*>();
+        record(parameter);
+        setProperty(parameter, "max", Kolt::makeValue(50));
+        EXPECT_EQ(control->maximum(), 50);
+        EXPECT_EQ(control->value(), 50);
+        EXPECT_EQ(text(editor), "80");
+        setProperty(parameter, "min", Kolt::makeValue(90));
+        EXPECT_EQ(text(editor), "80");
+        setProperty(parameter, "max", Kolt::makeValue(1000));
+        setProperty(parameter, "min", Kolt::makeValue(0));
+        EXPECT_EQ(control->value(), 80);
+        EXPECT_EQ(parameter->ownValue()->Text(), "80");
+        EXPECT_EQ(parameter->ownValue()->age(), 0U);
+        EXPECT_TRUE(recorder.values.empty());
+        EXPECT_TRUE(undoTexts().empty());
+    }
+}
+
+TEST_F(QIntegerTest, APropertyUpdateWithoutAnIntegerBoundTakes0And100) {
+    auto const parameter = bounded(7, -20, 20);
+    auto const editor = open(parameter);
+    setProperty(parameter, "max", nullptr);
+    EXPECT_EQ(slider(editor)->minimum(), -20);
+    EXPECT_EQ(slider(editor)->maximum(), 100);
+    setProperty(parameter, "min", Kolt::makeValue(2.5));
+    EXPECT_EQ(slider(editor)->minimum(), 0);
+    EXPECT_EQ(slider(editor)->maximum(), 100);
+}
+
+TEST_F(QIntegerTest, AChangeOfPropertiesInAnotherPoolAppliesThemAndLeavesTheNumber) {
+    auto const parameter = integer(1, {}, Values::PerPool);
+    changeElsewhere(parameter, 80, firstPool);
+    changeElsewhere(parameter, 3, secondPool);
+    auto const editor = open(parameter);
+    parameter->setProperty("max", Kolt::makeValue(60), nullptr, nullptr, secondPool);
+    EXPECT_EQ(text(editor), "80");
+    EXPECT_EQ(slider(editor)->maximum(), 60);
+    EXPECT_EQ(slider(editor)->value(), 60);
+    parameter->setProperty("max", Kolt::makeValue(90), nullptr, nullptr, secondPool);
+    EXPECT_EQ(slider(editor)->value(), 80);
+}
+
+TEST_F(QIntegerTest, AChangeFromElsewhereMovesTextAndHandleAndTheRememberedText) {
+    auto const parameter = bounded(7, 0, 100);
+    auto const editor = open(parameter);
+    lineEdit(editor)->setText(QLatin1String("123"));
+    changeElsewhere(parameter, 31, firstPool);
+    EXPECT_EQ(text(editor), "31");
+    EXPECT_EQ(lineEdit(editor)->rememberedText(), QLatin1String("31"));
+    EXPECT_EQ(lineEdit(editor)->cursorPosition(), 0);
+    EXPECT_FALSE(lineEdit(editor)->hasSelectedText());
+    EXPECT_EQ(slider(editor)->value(), 31);
+    EXPECT_EQ(parameter->ownValue()->age(), 0U);
+    EXPECT_TRUE(undoTexts().empty());
+
+    // The cache follows, too: the next step goes back to what came from elsewhere.
+    QTest::keyClick(slider(editor), Qt::Key_Right);
+    EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 31"});
+}
+
+TEST_F(QIntegerTest, AnEqualValueIsShownAgainAndNotWritten) {
+    auto const parameter = bounded(7, 0, 100);
+    auto const editor = open(parameter);
+    record(parameter);
+    lineEdit(editor)->setText(QLatin1String("123"));
+    slider(editor)->blockSignals(true);
+    slider(editor)->setValue(50);
+    slider(editor)->blockSignals(false);
+    callSlot(editor, 7);
+    EXPECT_EQ(text(editor), "7");
+    EXPECT_EQ(slider(editor)->value(), 7);
+    EXPECT_TRUE(recorder.values.empty());
+    EXPECT_TRUE(undoTexts().empty());
+}
+
+TEST_F(QIntegerTest, OneMoveIsOneStepAndOneNotification) {
+    for (auto const& preferences : std::vector<std::vector<std::string>>{{}, {"dial"}, {"dial", "periodic"}}) {
+        auto const parameter = bounded(20, 0, 100, preferences);
+        auto const editor = open(parameter);
+        RecordingNotifier notifier;
+        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&notifier));
+        editor.widget->findChild<QAbstractSlider*>()->setValue(33);
+        EXPECT_EQ(parameter->ownValue()->Text(), "33");
+        EXPECT_EQ(text(editor), "33");
+        EXPECT_EQ(notifier.values, std::vector<std::string>{"33"});
+        EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 20"});
+        EXPECT_EQ(parameter->ownValue()->age(), Tessera::Ageable::GlobalTime.load());
+        Kolt::UndoHistory::theHistory().forget([](auto const&) { return true; });
+    }
+}
+
+TEST_F(QIntegerTest, MouseAndWheelMoveTheControls) {
+    auto const parameter = bounded(20, 0, 100, {"dial"});
+    auto const editor = open(parameter);
+    turnWheel(*dial(editor), 1);
+    EXPECT_EQ(parameter->ownValue()->Text(), "35");
+    QTest::mouseClick(dial(editor), Qt::LeftButton, {}, QPoint(32, 5));
+    EXPECT_EQ(parameter->ownValue()->Text(), std::to_string(dial(editor)->value()));
+    EXPECT_NE(parameter->ownValue()->Text(), "35");
+}
+
+TEST_F(QIntegerTest, TheStepIsHandedOverWhileTheParameterHoldsThePreviousValue) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    std::vector<std::string> held;
+    Kolt::UndoHistory::theHistory().setListener([&] { held.push_back(parameter->ownValue()->Text()); });
+    slider(editor)->setValue(33);
+    EXPECT_EQ(held, std::vector<std::string>{"20"});
+}
+
+TEST_F(QIntegerTest, TheStepHasAWeightOf20) {
+    struct Filler : Kolt::VUndoAction {
+        Filler() : VUndoAction("filler") {}
+        bool undo() override { return true; }
+    };
+    auto& history = Kolt::UndoHistory::theHistory();
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    for (bool const isLightest : {false, true}) {
+        QTest::keyClick(slider(editor), Qt::Key_Right);
+        while (history.steps().size() < Kolt::UndoHistory::Capacity)
+            history.add(Tessera::StrongPtr<Kolt::VUndoAction>(new Filler), isLightest ? 21 : 19);
+        history.add(Tessera::StrongPtr<Kolt::VUndoAction>(new Filler), 21);
+        EXPECT_EQ(history.steps().front()->description() == "filler", isLightest);
+        history.forget([](auto const&) { return true; });
+    }
+}
+
+TEST_F(QIntegerTest, AReentryWithTheSameNumberIsNoSecondMove) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    record(parameter);
+    Kolt::UndoHistory::theHistory().setListener([&] { callSlot(editor, 33); });
+    recorder.reaction = [&] { callSlot(editor, 33); };
+    slider(editor)->setValue(33);
+    EXPECT_EQ(recorder.values, std::vector<std::string>{"33"});
+    EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 20"});
+}
+
+TEST_F(QIntegerTest, AReentryWithAnotherNumberEndsInOneNumberEverywhere) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    record(parameter);
+    bool reentered = false;
+    Kolt::UndoHistory::theHistory().setListener([&] {
+        if (!std::exchange(reentered, true))
+            callSlot(editor, 44);
+    });
+    slider(editor)->setValue(33);
+    EXPECT_EQ(recorder.values, (std::vector<std::string>{"44", "33"}));
+    EXPECT_EQ(undoTexts().size(), 2U);
+    EXPECT_EQ(parameter->ownValue()->Text(), "33");
+    EXPECT_EQ(text(editor), "33");
+    EXPECT_EQ(slider(editor)->value(), 33);
+}
+
+TEST_F(QIntegerTest, AListenerThatCorrectsTheNumberHasTheLastWord) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    record(parameter);
+    recorder.reaction = [&] {
+        recorder.reaction = nullptr;
+        Kolt::setParameterValue(*parameter, 30, firstPool, std::string(), false,
+                                Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder), nullptr);
+    };
+    type(editor, "33");
+    EXPECT_EQ(parameter->ownValue()->Text(), text(editor));
+    EXPECT_EQ(std::to_string(slider(editor)->value()), text(editor));
+}
+
+TEST_F(QIntegerTest, WithoutAPoolTheDisplayStaysAndNoStepIsRecorded) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    record(parameter);
+    pools.use(nullptr);
+    slider(editor)->setValue(33);
+    EXPECT_EQ(text(editor), "33");
+    EXPECT_EQ(slider(editor)->value(), 33);
+    type(editor, "77");
+    EXPECT_EQ(text(editor), "77");
+    EXPECT_EQ(slider(editor)->value(), 77);
+    EXPECT_EQ(parameter->ownValue()->Text(), "20");
+    EXPECT_TRUE(recorder.values.empty());
+    EXPECT_TRUE(undoTexts().empty());
+}
+
+TEST_F(QIntegerTest, AMoveForAParameterThatIsGonePrintsOneLineAndRecordsNothing) {
+    auto parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    parameter.reset();
+    slider(editor)->setValue(33);
+    EXPECT_EQ(takeOutput(), std::vector<std::string>{missingOwnerLine});
+    EXPECT_EQ(text(editor), "20");
+    EXPECT_TRUE(undoTexts().empty());
+}
+
+TEST_F(QIntegerTest, ATypedNumberForAParameterThatIsGonePrintsOneLine) {
+    auto parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    parameter.reset();
+    type(editor, "33");
+    EXPECT_EQ(takeOutput(), std::vector<std::string>{missingOwnerLine});
+    EXPECT_EQ(slider(editor)->value(), 33);
+    EXPECT_TRUE(undoTexts().empty());
+}
+
+TEST_F(QIntegerTest, AParameterThatGoesWhileATypedNumberIsToldPrintsOneLine) {
+    for (char const* const typed : {"33", "500"}) {
+        auto parameter = bounded(20, 0, 100);
+        auto const editor = open(parameter);
+        RecordingNotifier killer;
+        killer.reaction = [&] { parameter.reset(); };
+        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&killer));
+        type(editor, typed);
+        EXPECT_EQ(takeOutput(), std::vector<std::string>{missingOwnerLine});
+    }
+}
+
+TEST_F(QIntegerTest, ATypedNumberMovesTheHandleAndIsOneStep) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    type(editor, "33");
+    EXPECT_EQ(parameter->ownValue()->Text(), "33");
+    EXPECT_EQ(slider(editor)->value(), 33);
+    EXPECT_EQ(text(editor), "33");
+    EXPECT_EQ(lineEdit(editor)->rememberedText(), QLatin1String("33"));
+    EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 20"});
+    EXPECT_EQ(parameter->ownValue()->age(), Tessera::Ageable::GlobalTime.load());
+}
+
+TEST_F(QIntegerTest, ATypedNumberOutsideTheRangeIsWrittenAsItIs) {
+    for (auto const& preferences : std::vector<std::vector<std::string>>{{}, {"dial"}, {"dial", "periodic"}}) {
+        auto const parameter = bounded(20, 0, 100, preferences);
+        auto const editor = open(parameter);
+        auto* const control = editor.widget->findChild<QAbstractSlider*>();
+        type(editor, "550");
+        EXPECT_EQ(parameter->ownValue()->Text(), "550");
+        EXPECT_EQ(text(editor), "550");
+        EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 20"});
+        if (preferences.size() < 2) {
+            EXPECT_EQ(control->value(), 100);
+        }
+
+        // The handle does not move: no step, but the number is written.
+        auto const age = parameter->ownValue()->age();
+        type(editor, preferences.size() < 2 ? "600" : "650");
+        EXPECT_EQ(undoTexts().size(), 1U);
+        EXPECT_EQ(parameter->ownValue()->Text(), preferences.size() < 2 ? "600" : "650");
+        EXPECT_GT(parameter->ownValue()->age(), age);
+
+        EXPECT_TRUE(Kolt::UndoHistory::theHistory().undo());
+        EXPECT_EQ(parameter->ownValue()->Text(), "20");
+        EXPECT_EQ(text(editor), "20");
+    }
+}
+
+TEST_F(QIntegerTest, TheNumberThatIsHeldIsWrittenAgainWhenItIsTyped) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    record(parameter);
+    type(editor, "20");
+    EXPECT_EQ(recorder.values, std::vector<std::string>{"20"});
+    EXPECT_TRUE(undoTexts().empty());
+}
+
+TEST_F(QIntegerTest, ATypedNumberIsShownInItsPlainForm) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    type(editor, "0042");
+    EXPECT_EQ(text(editor), "42");
+    EXPECT_EQ(lineEdit(editor)->cursorPosition(), 0);
+}
+
+TEST_F(QIntegerTest, ATextThatIsNoNumberDoesNothing) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    record(parameter);
+    for (char const* const typed : {"", "abc", "1.5", "2147483648", "0x10"}) {
+        lineEdit(editor)->setText(QLatin1String(typed));
+        ASSERT_TRUE(QMetaObject::invokeMethod(editor.widget, "textEnter"));
+        EXPECT_EQ(text(editor), typed);
+    }
+    EXPECT_TRUE(recorder.values.empty());
+    EXPECT_EQ(slider(editor)->value(), 20);
+}
+
+TEST_F(QIntegerTest, TheExtremeNumbersCanBeTyped) {
+    auto const parameter = bounded(0, SmallestInt, LargestInt);
+    auto const editor = open(parameter);
+    for (char const* const typed : {"2147483647", "-2147483648", "0"}) {
+        type(editor, typed);
+        EXPECT_EQ(parameter->ownValue()->Text(), typed);
+        EXPECT_EQ(std::to_string(slider(editor)->value()), typed);
+    }
+}
+
+TEST_F(QIntegerTest, ARangeWithoutWidthHarmsNoControl) {
+    for (auto const& preferences : std::vector<std::vector<std::string>>{{}, {"dial"}, {"dial", "periodic"}}) {
+        for (auto const& [minimum, maximum] :
+             std::vector<std::pair<int, int>>{{5, 5}, {9, 3}, {SmallestInt, LargestInt}}) {
+            auto const parameter = bounded(20, minimum, maximum, preferences);
+            auto const editor = open(parameter);
+            auto* const control = editor.widget->findChild<QAbstractSlider*>();
+            turnWheel(*control, 1);
+            QTest::mouseClick(control, Qt::LeftButton);
+            editor.widget->grab();
+            EXPECT_EQ(text(editor), parameter->ownValue()->Text());
+            type(editor, "77");
+            EXPECT_EQ(parameter->ownValue()->Text(), "77");
+            EXPECT_EQ(text(editor), "77");
+        }
+    }
+}
+
+TEST_F(QIntegerTest, APeriodicDialWrapsAgainOnceItsRangeHasAWidth) {
+    auto const parameter = bounded(5, 5, 5, {"dial", "periodic"});
+    auto const editor = open(parameter);
+    setProperty(parameter, "max", Kolt::makeValue(15));
+    EXPECT_TRUE(dial(editor)->wrapping());
+    setProperty(parameter, "max", Kolt::makeValue(5));
+    changeElsewhere(parameter, 7, firstPool);
+    EXPECT_EQ(dial(editor)->value(), 5);
+    EXPECT_EQ(text(editor), "7");
+}
+
+TEST_F(QIntegerTest, AValueThatThePoolDoesNotHoldIsTakenAsAMoveOnce) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    record(parameter);
+    editor.input.strong()->onValueChange(Kolt::makeValue(33), Kolt::VContext(firstPool, nullptr), nullptr);
+    EXPECT_EQ(parameter->ownValue()->Text(), "33");
+    EXPECT_EQ(slider(editor)->value(), 33);
+    EXPECT_EQ(recorder.values, std::vector<std::string>{"33"});
+    EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 20"});
+}
+
+TEST_F(QIntegerTest, UndoWritesThePreviousValueAndShowsItWithoutANewStep) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    auto const second = open(parameter);
+    slider(editor)->setValue(33);
+    slider(editor)->setValue(44);
+    record(parameter);
+    auto& history = Kolt::UndoHistory::theHistory();
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(parameter->ownValue()->Text(), "33");
+    EXPECT_EQ(text(editor), "33");
+    EXPECT_EQ(text(second), "33");
+    EXPECT_EQ(slider(editor)->value(), 33);
+    EXPECT_EQ(parameter->ownValue()->age(), Tessera::Ageable::GlobalTime.load());
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(editor), "20");
+    EXPECT_EQ(recorder.values, (std::vector<std::string>{"33", "20"}));
+    EXPECT_TRUE(history.steps().empty());
+    EXPECT_FALSE(history.undo());
+}
+
+TEST_F(QIntegerTest, UndoFailsWhenTheInputIsGone) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    slider(editor)->setValue(33);
+    delete editor.widget;
+    EXPECT_FALSE(Kolt::UndoHistory::theHistory().undo());
+    EXPECT_EQ(parameter->ownValue()->Text(), "33");
+}
+
+TEST_F(QIntegerTest, UndoFailsWhenTheParameterIsGone) {
+    auto parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    slider(editor)->setValue(33);
+    parameter.reset();
+    EXPECT_FALSE(Kolt::UndoHistory::theHistory().undo());
+    EXPECT_EQ(text(editor), "33");
+}
+
+TEST_F(QIntegerTest, AListenerMayDeleteTheInputDuringUndo) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    slider(editor)->setValue(33);
+    record(parameter);
+    recorder.reaction = [&] { delete editor.widget; };
+    EXPECT_TRUE(Kolt::UndoHistory::theHistory().undo());
+    EXPECT_FALSE(editor.widget);
+    EXPECT_EQ(parameter->ownValue()->Text(), "20");
+}
+
+TEST_F(QIntegerTest, UndoReachesThePoolOfTheMove) {
+    auto const parameter = integer(0, {}, Values::PerPool);
+    changeElsewhere(parameter, 20, firstPool);
+    changeElsewhere(parameter, 50, secondPool);
+    auto const editor = open(parameter);
+    slider(editor)->setValue(33);
+    pools.use(secondPool);
+    Kolt::showPoolValue(editor, parameter, &pools);
+    EXPECT_EQ(text(editor), "50");
+
+    EXPECT_TRUE(Kolt::UndoHistory::theHistory().undo());
+    EXPECT_EQ(parameter->getLocalValue(firstPool, std::string(), false)->Text(), "20");
+    EXPECT_EQ(parameter->getLocalValue(secondPool, std::string(), false)->Text(), "50");
+    EXPECT_EQ(text(editor), "50");
+
+    // The number that came back in the other pool is a new one in this pool.
+    slider(editor)->setValue(20);
+    EXPECT_EQ(parameter->getLocalValue(secondPool, std::string(), false)->Text(), "20");
+    EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 50"});
+}
+
+TEST_F(QIntegerTest, AListenerMayDeleteTheInputWhenTheStepIsRecorded) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    Kolt::UndoHistory::theHistory().setListener([&] { delete editor.widget; });
+    callSlot(editor, 33);
+    EXPECT_FALSE(editor.widget);
+    EXPECT_EQ(parameter->ownValue()->Text(), "20");
+}
+
+TEST_F(QIntegerTest, AListenerMayDeleteTheParameterWhenTheStepIsRecorded) {
+    auto parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    Kolt::UndoHistory::theHistory().setListener([&] { parameter.reset(); });
+    slider(editor)->setValue(33);
+    EXPECT_EQ(takeOutput(), std::vector<std::string>{missingOwnerLine});
+}
+
+TEST_F(QIntegerTest, SurvivesTheLossOfItsControls) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    delete slider(editor);
+    changeElsewhere(parameter, 30, firstPool);
+    EXPECT_EQ(text(editor), "30");
+    type(editor, "40");
+    EXPECT_EQ(parameter->ownValue()->Text(), "40");
+    setProperty(parameter, "max", Kolt::makeValue(10));
+    delete lineEdit(editor);
+    delete editor.widget->layout();
+    changeElsewhere(parameter, 50, firstPool);
+    callSlot(editor, 60);
+    ASSERT_TRUE(QMetaObject::invokeMethod(editor.widget, "textEnter"));
+    EXPECT_EQ(parameter->ownValue()->Text(), "60");
+}
+
+TEST_F(QIntegerTest, StepsOfAnUnloadedPluginAreForgotten) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    slider(editor)->setValue(33);
+    EXPECT_EQ(undoTexts().size(), 1U);
+    delete editor.widget;
+    EXPECT_TRUE(loader.unload(TALO_PLUGIN_FILE).ok);
+    EXPECT_TRUE(undoTexts().empty());
+    ASSERT_TRUE(loader.load(TALO_PLUGIN_FILE).ok);
+}

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "support/TestHost.hpp"
+#include <bramble/Values.hpp>
+#include <QVBoxLayout>
+#include <random>
+
+/// Edits parameters with editors that a named creator makes. They stand in the parent's layout.
+class TextEditorTest : public PluginTest {
+protected:
+    using Values = Kolt::VParameter::Values;
+    using Parameter = Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList>;
+
+    void SetUp() override {
+        PluginTest::SetUp();
+        parent->setLayout(new QVBoxLayout);
+    }
+
+    template <typename T>
+    static Kolt::ParameterPtr makeValueParameter(T const& value, Values values = Values::Shared) {
+        return makeParameter("network.parameter", Kolt::makeValue(value), {}, values);
+    }
+    static Kolt::ParameterPtr makeText(std::string const& text, Values values = Values::Shared) {
+        return makeValueParameter(text, values);
+    }
+
+    static Tessera::StrongPtr<Kolt::VInputCreatorBase, Kolt::VManagedObjectBase> creator(std::string const& name) {
+        for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
+            auto found = entry.creator.strong();
+            if (found->Name() == name)
+                return found;
+        }
+        throw std::runtime_error("no creator is called " + name);
+    }
+
+    /// The editor that the named creator makes.
+    template <typename Widget>
+    Widget* create(std::string const& creatorName, Parameter const& parameter) {
+        auto const made = creator(creatorName)->getInterface<Kolt::QInputCreator>()->create(parameter, parent, &pools);
+        input = made.second;
+        parent->layout()->addWidget(made.first);
+        return dynamic_cast<Widget*>(made.first.data());
+    }
+
+    void watch(Kolt::ParameterPtr const& parameter) {
+        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
+    }
+
+    /// Stores a value in the first pool as the host does, and tells everybody.
+    template <typename T>
+    void change(Kolt::ParameterPtr const& parameter, T const& value) {
+        change(parameter, value, firstPool);
+    }
+    template <typename T>
+    static void change(Kolt::ParameterPtr const& parameter, T const& value,
+                       Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+        Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
+    }
+
+    static std::string textOf(Kolt::ParameterPtr const& parameter) { return parameter->ownValue()->Text(); }
+    /// The text that the current pool holds.
+    std::string localTextOf(Kolt::ParameterPtr const& parameter) const {
+        auto const value = parameter->getLocalValue(Kolt::currentPool(&pools), std::string(), false);
+        return value ? value->Text() : "(none)";
+    }
+
+    bool showPanel() {
+        parent->show();
+        parent->activateWindow();
+        return waitUntil([&] { return parent->isActiveWindow(); });
+    }
+    static bool focus(QWidget* widget) {
+        widget->setFocus();
+        return waitUntil([&] { return widget->hasFocus(); });
+    }
+
+    /// A text of so many bytes, from a generator that starts the same every time.
+    static std::string randomBytes(std::size_t size) {
+        std::mt19937 generator(2023);
+        std::string bytes(size, '\0');
+        for (auto& byte : bytes)
+            byte = static_cast<char>(generator() & 0xFFU);
+        return bytes;
+    }
+    /// What is left of a text once it was shown.
+    static std::string shown(std::string const& text) { return QString::fromStdString(text).toStdString(); }
+
+    /// The owner-fault line as it is written.
+    std::string const missingOwner = std::string(missingOwnerLine) + '\n';
+
+    RecordingNotifier recorder;
+    Kolt::InputRef input; ///< of the editor made last
+};

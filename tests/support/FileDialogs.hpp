@@ -1,0 +1,36 @@
+#pragma once
+
+#include <functional>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+/// Does something that runs a file dialog, and works with the dialog once it is shown. The work must close it. Says
+/// whether there was a dialog. It is Qt's own: those of a platform cannot be driven by events.
+inline bool withFileDialog(std::function<void()> const& open, std::function<void(QFileDialog&)> const& work) {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    bool worked = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            return;
+        timer.stop();
+        worked = true;
+        work(*dialog);
+    });
+    timer.start(0);
+    open();
+    return worked;
+}
+
+/// Types a file's name into the dialog and presses Return.
+inline void enterFileName(QFileDialog& dialog, QString const& name) {
+    auto* const field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, name);
+    QTest::keyClick(field, Qt::Key_Return);
+}
