@@ -78,6 +78,21 @@ protected:
     /// only properties changed and it is the value in the cache.
     bool take(Tessera::StrongPtr<VValueBase> const& newValue, ValueMap const* properties);
 
+    /// The value object with which the input starts: the one that its pool holds, else the one that the owner itself
+    /// holds; null where the owner is gone.
+    Tessera::StrongPtr<VValueBase> firstValue() const {
+        auto const parameter = this->owner().strong();
+        if (!parameter)
+            return nullptr;
+        auto const local = parameter->getLocalValue(pool(), std::string(), false);
+        return local ? local : parameter->ownValue();
+    }
+
+    /// To be called before an edit changes what the cached value refers to: where the owner keeps values per pool, the
+    /// cache takes the value of the input's pool, which is created if it is missing, so that neither the owner's own
+    /// value nor that of another pool changes with it. Without a pool, and where values are shared, the cache stays.
+    void cachePoolValue();
+
     /// What a change from elsewhere is to this input. Foreign is what belongs elsewhere.
     Arrival arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) const;
 
@@ -171,6 +186,18 @@ bool VInputValue<T>::take(Tessera::StrongPtr<VValueBase> const& newValue, ValueM
         return false;
     cached_ = std::move(arrived);
     return true;
+}
+
+template <typename T>
+void VInputValue<T>::cachePoolValue() {
+    auto const parameter = this->owner().strong();
+    auto const currentPool = pool();
+    if (!parameter || !currentPool || !parameter->keepsValuesPerPool())
+        return;
+    T value{};
+    // A value of another type gives way to the edited one, which must not share what the cache refers to either.
+    if (!this->getValue(currentPool, std::string(), value))
+        cached_ = VValueTrait<T>::Clone(cached_);
 }
 
 template <typename T>

@@ -41,64 +41,75 @@ Tessera::StrongPtr<Tessera::StringList> StringSelection::clone() const {
 
 MultipleStringSelection::MultipleStringSelection() = default;
 
-MultipleStringSelection::MultipleStringSelection(std::vector<std::string> strings) : StringList(std::move(strings)) {
-    chosen_.reserve(size());
-    for (auto const& text : *this)
-        chosen_.emplace(text, false);
+MultipleStringSelection::MultipleStringSelection(std::vector<std::string> strings)
+    : StringList(std::move(strings)), chosen_(size()) {
+    indexTexts();
 }
 
-MultipleStringSelection::MultipleStringSelection(MultipleStringSelection const& other) : StringList(other) {
-    chosen_.reserve(size());
-    for (auto const& text : *this)
-        chosen_.emplace(text, other.isInSelection(text));
+MultipleStringSelection::MultipleStringSelection(MultipleStringSelection const& other)
+    : StringList(other), chosen_(other.chosen_) {
+    indexTexts();
 }
 
 MultipleStringSelection::~MultipleStringSelection() = default;
 
+void MultipleStringSelection::indexTexts() {
+    places_.reserve(size());
+    firstPlaces_.reserve(size());
+    for (auto const& text : *this)
+        firstPlaces_.push_back(places_.emplace(text, firstPlaces_.size()).first->second);
+}
+
+std::size_t MultipleStringSelection::firstPlace(std::string const& text) const {
+    if (nextPlace_ < size() && strings()[nextPlace_] == text)
+        return firstPlaces_[nextPlace_++];
+    auto const found = places_.find(text);
+    if (found == places_.end())
+        return size();
+    nextPlace_ = found->second + 1;
+    return found->second;
+}
+
 void MultipleStringSelection::add(std::string const& text) {
-    auto const found = chosen_.find(text);
-    if (found != chosen_.end())
-        found->second = true;
+    auto const place = firstPlace(text);
+    if (place < size())
+        chosen_[place] = true;
 }
 
 void MultipleStringSelection::addOrRemove(std::string const& text) {
-    auto const found = chosen_.find(text);
-    if (found != chosen_.end())
-        found->second = !found->second;
+    auto const place = firstPlace(text);
+    if (place < size())
+        chosen_[place] = !chosen_[place];
 }
 
 bool MultipleStringSelection::isInSelection(std::string const& text) const {
-    auto const found = chosen_.find(text);
-    return found != chosen_.end() && found->second;
+    auto const place = firstPlace(text);
+    return place < size() && chosen_[place];
 }
 
 void MultipleStringSelection::removeFromSelection(std::string const& text) {
-    auto const found = chosen_.find(text);
-    if (found != chosen_.end())
-        found->second = false;
-}
-
-void MultipleStringSelection::setAll(bool chosen) {
-    for (auto& entry : chosen_)
-        entry.second = chosen;
+    auto const place = firstPlace(text);
+    if (place < size())
+        chosen_[place] = false;
 }
 
 void MultipleStringSelection::addAll() {
-    setAll(true);
+    chosen_.assign(size(), true);
 }
 
 void MultipleStringSelection::invertAll() {
-    for (auto& entry : chosen_)
-        entry.second = !entry.second;
+    chosen_.flip();
 }
 
 void MultipleStringSelection::removeAll() {
-    setAll(false);
+    chosen_.assign(size(), false);
 }
 
 std::size_t MultipleStringSelection::chosenCount() const {
-    return static_cast<std::size_t>(
-        std::count_if(chosen_.begin(), chosen_.end(), [](auto const& entry) { return entry.second; }));
+    std::size_t count = 0;
+    for (std::size_t place = 0; place < size(); ++place)
+        count += firstPlaces_[place] == place && chosen_[place] ? 1 : 0;
+    return count;
 }
 
 Tessera::StrongPtr<Tessera::StringList> MultipleStringSelection::clone() const {

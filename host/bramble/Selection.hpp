@@ -82,10 +82,19 @@ public:
 
 private:
     MultipleStringSelection(MultipleStringSelection const& other);
-    void setAll(bool chosen);
+    void indexTexts();
+    /// Where the text first stands in the list; the length of the list where it does not.
+    std::size_t firstPlace(std::string const& text) const;
 
-    // The keys look into the list, which never changes.
-    std::unordered_map<std::string_view, bool> chosen_;
+    // Where each text first stands. The keys look into the list, which never changes.
+    std::unordered_map<std::string_view, std::size_t> places_;
+    // By place: where the text that stands there first stands.
+    std::vector<std::size_t> firstPlaces_;
+    // By place; it holds where a text first stands.
+    std::vector<bool> chosen_;
+    // After the text last asked for. Most callers go through the list in order, and the next text is found without a
+    // search, which in a long list waits for the memory.
+    mutable std::size_t nextPlace_ = 0;
 };
 
 /// The names under which the selections are known as value types.

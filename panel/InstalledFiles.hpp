@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// Where the program finds what comes with it, in a build folder as well as where it was installed. It looks from the
+/// folder of the program.
+namespace Panel {
+
+/// The network that is opened when none is named; empty when it is not there.
+QString defaultNetworkFile();
+
+/// The plug-in that is loaded when none is named. Where it is not there, the place where it should be.
+QString defaultPluginFile();
+
+} // namespace Panel

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPalette>
+#include <QString>
+#include <QWidget>
+
+/// How the panel looks, wherever it runs. User-interface thread.
+namespace Panel {
+
+/// The colours of the panel.
+enum class Theme {
+    System, ///< those of the desktop, light where there is none
+    Light,
+    Dark
+};
+
+/// Gives the application its style, its colours and, where no desktop says which one, its font.
+void applyLook(Theme theme);
+
+/// The palette of a theme; that of the system is the one in force.
+QPalette themePalette(Theme theme);
+
+/// The colour for texts of less weight: between the text and its ground, and readable on it.
+QColor mutedText(QPalette const& palette);
+
+/// Writes a widget's text in that colour.
+void showMuted(QWidget& widget);
+
+} // namespace Panel

@@ -1,0 +1,143 @@
+#include <lattice/InputCreator.hpp>
+#include <panel/MainWindow.hpp>
+#include <QFileDialog>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QToolBar>
+
+namespace Panel {
+
+namespace {
+
+QString networkFilter() {
+    return MainWindow::tr("Networks (*.json);;All files (*)");
+}
+
+} // namespace
+
+void MainWindow::makePoolSelector() {
+    auto* const toolBar = addToolBar(tr("Pool"));
+    toolBar->setObjectName(QStringLiteral("pool"));
+    toolBar->setMovable(false);
+    auto* const label = new QLabel(tr("P&ool:"));
+    label->setContentsMargins(8, 0, 6, 0);
+    label->setBuddy(poolSelector_);
+    toolBar->addWidget(label);
+    toolBar->addWidget(poolSelector_);
+    poolSelector_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    poolSelector_->setMinimumContentsLength(12);
+    poolSelector_->setAccessibleName(tr("Pool"));
+    poolSelector_->setToolTip(tr("The pool whose values are edited"));
+    connect(poolSelector_, qOverload<int>(&QComboBox::currentIndexChanged), this, [this](int index) {
+        if (index >= 0)
+            choosePool(index);
+    });
+}
+
+void MainWindow::makeFileMenu() {
+    auto* const menu = menuBar()->addMenu(tr("&File"));
+    menu->addAction(tr("&Open..."), this, &MainWindow::askForNetwork, QKeySequence::Open);
+    menu->addAction(
+        tr("&Save values"), this,
+        [this] {
+            if (network_)
+                saveAs(network_->file());
+        },
+        QKeySequence::Save);
+    menu->addAction(tr("Save values &as..."), this, &MainWindow::askForSaveFile, QKeySequence(tr("Ctrl+Shift+S")));
+    menu->addSeparator();
+    menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
+}
+
+void MainWindow::makeEditMenu() {
+    auto* const menu = menuBar()->addMenu(tr("&Edit"));
+    undoAction_ = menu->addAction(tr("&Undo"), this, &MainWindow::undo, QKeySequence::Undo);
+    undoAction_->setObjectName(QStringLiteral("undo"));
+}
+
+void MainWindow::makeViewMenu(QAction* showMessages) {
+    auto* const menu = menuBar()->addMenu(tr("&View"));
+    menu->addAction(tr("&New view"), this, &MainWindow::addView, QKeySequence(tr("Ctrl+N")));
+    menu->addSeparator();
+    rawAction_ = menu->addAction(tr("&Raw values"));
+    rawAction_->setObjectName(QStringLiteral("rawValues"));
+    rawAction_->setCheckable(true);
+    rawAction_->setShortcut(tr("Ctrl+R"));
+    connect(rawAction_, &QAction::toggled, this, [this](bool shown) {
+        for (auto* const view : views())
+            view->setRawValuesShown(shown);
+    });
+    menu->addAction(showMessages);
+}
+
+void MainWindow::makePluginMenu() {
+    auto* const menu = menuBar()->addMenu(tr("&Plug-ins"));
+    menu->addAction(tr("&Load..."), this, &MainWindow::askForPlugin);
+    unloadAction_ = menu->addAction(tr("&Unload"), this, &MainWindow::closePlugins);
+    unloadAction_->setObjectName(QStringLiteral("unload"));
+    reloadAction_ = menu->addAction(tr("&Reload"), this, &MainWindow::reloadPlugins);
+    reloadAction_->setObjectName(QStringLiteral("reload"));
+}
+
+void MainWindow::askForNetwork() {
+    auto const file = QFileDialog::getOpenFileName(this, tr("Open a network"), network_ ? network_->file() : QString(),
+                                                   networkFilter());
+    QString error;
+    if (!file.isEmpty() && !openNetwork(file, &error))
+        complain(tr("The network cannot be opened"), error);
+}
+
+void MainWindow::askForSaveFile() {
+    saveAs(QFileDialog::getSaveFileName(this, tr("Save the values"), network_ ? network_->file() : QString(),
+                                        networkFilter()));
+}
+
+void MainWindow::saveAs(QString const& file) {
+    QString error;
+    if (!file.isEmpty() && !saveValues(file, &error))
+        complain(tr("The values cannot be saved"), error);
+}
+
+void MainWindow::askForPlugin() {
+    auto const file =
+        QFileDialog::getOpenFileName(this, tr("Load a plug-in"), QString(), tr("Plug-ins (*.talo);;All files (*)"));
+    QString error;
+    if (!file.isEmpty() && !plugins_.load(file, &error))
+        complain(tr("The plug-in cannot be loaded"), error);
+}
+
+void MainWindow::closePlugins() {
+    QString error;
+    if (plugins_.unload(&error))
+        messages_->add(MessageList::Source::Panel, tr("The plug-ins were unloaded."));
+    else
+        complain(tr("The plug-ins cannot be unloaded"), error);
+}
+
+void MainWindow::reloadPlugins() {
+    QString error;
+    if (plugins_.reload(&error))
+        messages_->add(MessageList::Source::Panel, tr("The plug-ins were loaded again."));
+    else
+        complain(tr("The plug-ins cannot be loaded again"), error);
+}
+
+void MainWindow::complain(QString const& title, QString const& text) {
+    if (!messages_->texts(MessageList::Source::Error).endsWith(text))
+        messages_->add(MessageList::Source::Error, text);
+    auto* const box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(
+        QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"))));
+    box->open();
+}
+
+void MainWindow::updatePlugins() {
+    auto const creators = Kolt::InputRegistry::theRegistry().entries().size();
+    auto const loaded = plugins_.loadedFiles().size();
+    unloadAction_->setEnabled(loaded > 0);
+    reloadAction_->setEnabled(!plugins_.knownFiles().isEmpty());
+    pluginLabel_->setText(tr("Plug-ins: %1, editors: %2").arg(loaded).arg(creators));
+}
+
+} // namespace Panel

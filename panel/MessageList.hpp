@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <QTreeWidget>
+
+namespace Panel {
+
+/// What was printed, warned of and done while the panel ran, each with its time, the latest last. User-interface
+/// thread.
+class MessageList : public QTreeWidget {
+    Q_OBJECT
+
+public:
+    /// Where a message comes from.
+    enum class Source {
+        Panel,  ///< something the panel did
+        Output, ///< a line on standard output
+        Warning,
+        Error
+    };
+
+    /// How many messages are kept; the oldest go first.
+    static constexpr int Capacity = 5000;
+
+    explicit MessageList(QWidget* parent = nullptr);
+    ~MessageList() override;
+
+    /// Adds a message. Whoever looks at the end of the list sees the new end.
+    void add(Source source, QString const& text);
+    /// The texts, the latest last.
+    QStringList texts() const;
+    /// The texts from one source, the latest last.
+    QStringList texts(Source source) const;
+
+private:
+    bool scrollWaits_ = false;
+};
+
+} // namespace Panel

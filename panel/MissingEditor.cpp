@@ -1,0 +1,30 @@
+#include <panel/Look.hpp>
+#include <panel/MissingEditor.hpp>
+
+namespace Panel {
+
+namespace {
+
+QString sentence(Kolt::VParameter const& parameter) {
+    auto const names = parameter.creationPreferences() ? parameter.creationPreferences()->names()
+                                                       : Kolt::VCreationPreferences::Names();
+    auto const type = QString::fromStdString(parameter.declaredType());
+    if (names.empty())
+        return MissingEditor::tr("No editor is registered for the type %1 without preferences.").arg(type);
+    return MissingEditor::tr("No editor is registered for the type %1 with the preferences %2.")
+        .arg(type, QString::fromStdString(Kolt::preferenceText(names)));
+}
+
+} // namespace
+
+MissingEditor::MissingEditor(Kolt::VParameter const& parameter, QWidget* parent) : QLabel(sentence(parameter), parent) {
+    // The name of a type can look like a tag.
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setMargin(4);
+    showMuted(*this);
+}
+
+MissingEditor::~MissingEditor() = default;
+
+} // namespace Panel

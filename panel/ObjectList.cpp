@@ -1,0 +1,107 @@
+#include <memory>
+#include <panel/ObjectList.hpp>
+#include <QHBoxLayout>
+
+namespace Panel {
+
+namespace {
+
+// Lies over an object's row, so that the row stays one piece, and leaves the mouse to it.
+class IconPlace : public QWidget {
+public:
+    IconPlace() {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        auto* const layout = new QHBoxLayout(this);
+        layout->setContentsMargins(0, 3, 6, 3);
+        layout->addStretch(1);
+    }
+    void setIcon(QWidget* icon) { layout()->addWidget(icon); }
+};
+
+} // namespace
+
+ObjectList::ObjectList(PoolSource& pools, QWidget* parent) : QTreeWidget(parent), iconMaker_(pools) {
+    setHeaderHidden(true);
+    // Nothing folds out; the indentation is the left margin.
+    setItemsExpandable(false);
+    setIndentation(10);
+    setFrameShape(QFrame::NoFrame);
+    setAccessibleName(tr("Objects"));
+    setTextElideMode(Qt::ElideRight);
+    connect(this, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem const* item) {
+        if (auto const object = objectOf(item))
+            emit objectChosen(object);
+    });
+}
+
+ObjectList::~ObjectList() = default;
+
+void ObjectList::showNetwork(Network const* network) {
+    closeIcons();
+    clear();
+    objects_.clear();
+    if (!network)
+        return;
+    for (auto const& object : network->objects()) {
+        auto* const item = new QTreeWidgetItem(this, {QString::fromStdString(object->Name())});
+        // Room for an icon, also where there is none, so that the rows are even.
+        item->setSizeHint(0, {0, 34});
+        item->setToolTip(0, network->kind(object));
+        objects_.emplace_back(object);
+    }
+    openIcons();
+}
+
+bool ObjectList::chooseObject(QString const& name) {
+    auto* const item = findItem(name);
+    if (item)
+        setCurrentItem(item);
+    return item != nullptr;
+}
+
+QWidget* ObjectList::icon(QString const& name) const {
+    auto* const item = findItem(name);
+    auto* const place = item ? itemWidget(item, 0) : nullptr;
+    return place ? place->layout()->itemAt(1)->widget() : nullptr;
+}
+
+void ObjectList::openIcons() {
+    for (int index = 0; index < topLevelItemCount(); ++index) {
+        auto* const item = topLevelItem(index);
+        auto const object = objectOf(item);
+        if (!object || itemWidget(item, 0))
+            continue;
+        auto place = std::make_unique<IconPlace>();
+        auto* const icon = iconMaker_.makeIcon(object, place.get());
+        if (!icon)
+            continue;
+        icon->setAccessibleName(item->text(0));
+        // Readable on a chosen row, too.
+        icon->setAutoFillBackground(true);
+        place->setIcon(icon);
+        setItemWidget(item, 0, place.release());
+    }
+}
+
+void ObjectList::closeIcons() {
+    iconMaker_.forgetCreators();
+    for (int index = 0; index < topLevelItemCount(); ++index) {
+        // The view deletes the widget as soon as Qt is done with it.
+        if (auto* const place = itemWidget(topLevelItem(index), 0)) {
+            place->hide();
+            removeItemWidget(topLevelItem(index), 0);
+        }
+    }
+}
+
+QTreeWidgetItem* ObjectList::findItem(QString const& name) const {
+    auto const items = findItems(name, Qt::MatchExactly | Qt::MatchCaseSensitive, 0);
+    return items.isEmpty() ? nullptr : items.constFirst();
+}
+
+Kolt::ObjectPtr ObjectList::objectOf(QTreeWidgetItem const* item) const {
+    auto const index = indexOfTopLevelItem(const_cast<QTreeWidgetItem*>(item));
+    return index < 0 ? nullptr : objects_.at(static_cast<std::size_t>(index)).strong();
+}
+
+} // namespace Panel

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <panel/IconMaker.hpp>
+#include <panel/network/Network.hpp>
+#include <QTreeWidget>
+
+namespace Panel {
+
+/// The objects of a network, each with its name and, where one of its parameters can be shown as an icon, that icon.
+/// User-interface thread.
+class ObjectList : public QTreeWidget {
+    Q_OBJECT
+
+public:
+    /// `pools` must outlive the list.
+    explicit ObjectList(PoolSource& pools, QWidget* parent = nullptr);
+    ~ObjectList() override;
+
+    /// Lists the objects of a network, with their icons; null empties the list. None is chosen.
+    void showNetwork(Network const* network);
+    /// Chooses an object by its name; false when it is not in the list.
+    bool chooseObject(QString const& name);
+    /// The icon beside an object's name; null when there is none.
+    QWidget* icon(QString const& name) const;
+
+    void openIcons();
+    /// Hides and deletes the icons, as before plug-ins are loaded or unloaded.
+    void closeIcons();
+
+signals:
+    /// Another object was chosen, by whomever.
+    void objectChosen(Kolt::ObjectPtr const& object);
+
+private:
+    QTreeWidgetItem* findItem(QString const& name) const;
+    Kolt::ObjectPtr objectOf(QTreeWidgetItem const* item) const;
+
+    IconMaker iconMaker_;
+    std::vector<Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase>> objects_;
+};
+
+} // namespace Panel

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <lattice/PluginLoader.hpp>
+#include <QObject>
+#include <QStringList>
+
+namespace Panel {
+
+/// The plug-in files of the panel. It remembers the files that it once loaded, so that they can be loaded again.
+/// Closes them when it is destroyed, which must happen after all editors are gone and before `main` returns.
+/// User-interface thread.
+class Plugins : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Plugins(QObject* parent = nullptr);
+    ~Plugins() override;
+
+    /// Loads a file. False, and the reason in `error` unless that is null, when it cannot be loaded; a file that could
+    /// not be loaded is not remembered.
+    bool load(QString const& file, QString* error = nullptr);
+    /// Unloads all loaded files, the latest first. False, and the reasons in `error` unless that is null, when one
+    /// stays, because editors made by it are still in use.
+    bool unload(QString* error = nullptr);
+    /// Unloads all loaded files and loads all remembered ones, in the order in which they were first loaded.
+    bool reload(QString* error = nullptr);
+
+    /// The loaded files.
+    QStringList loadedFiles() const;
+    /// The remembered files, loaded or not.
+    QStringList const& knownFiles() const { return knownFiles_; }
+
+signals:
+    /// Creators are about to come or go: whoever hears it closes all editors and icons before returning.
+    void aboutToChange();
+    /// Creators may have come or gone: editors and icons can be opened again.
+    void changed();
+
+private:
+    bool loadFile(QString const& file, QString* error);
+    bool unloadFiles(QString* error);
+
+    Kolt::VInitialization host_;
+    Kolt::PluginLoader loader_;
+    QStringList knownFiles_;
+};
+
+} // namespace Panel

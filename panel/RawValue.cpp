@@ -1,0 +1,80 @@
+#include <panel/Look.hpp>
+#include <panel/RawValue.hpp>
+#include <QPainter>
+
+namespace Panel {
+
+RawValue::RawValue(Kolt::ParameterPtr const& parameter, PoolSource const& pools, QWidget* parent)
+    : QWidget(parent), parameter_(parameter), pools_(pools) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
+    if (parameter)
+        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
+    refresh();
+}
+
+RawValue::~RawValue() {
+    leaveDelivery();
+}
+
+void RawValue::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
+                             Kolt::ValueMap const*) {
+    // Read later: an edit renews the age stamp only after everybody was told. Any number of changes until then is one.
+    if (!refreshWaits_.exchange(true))
+        QMetaObject::invokeMethod(this, &RawValue::refresh, Qt::QueuedConnection);
+}
+
+void RawValue::refresh() {
+    refreshWaits_ = false;
+    QString text;
+    QString stamp;
+    if (auto const parameter = parameter_.strong()) {
+        auto const local = parameter->getLocalValue(pools_.pool(), std::string(), false);
+        auto const value = local ? local : parameter->ownValue();
+        text = QString::fromStdString(value->Text());
+        stamp = tr("age %1").arg(value->age());
+        if (parameter->keepsValuesPerPool())
+            stamp += local ? tr(", pool %1").arg(QString::fromStdString(pools_.pool()->Name())) : tr(", own value");
+    } else {
+        stamp = tr("removed");
+    }
+    if (text == text_ && stamp == stamp_)
+        return;
+    text_ = text;
+    stamp_ = stamp;
+    setToolTip(QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped()));
+    setAccessibleDescription(text);
+    update();
+}
+
+QSize RawValue::sizeHint() const {
+    return {26 * fontMetrics().averageCharWidth(), 2 * fontMetrics().lineSpacing() + 2};
+}
+
+QSize RawValue::minimumSizeHint() const {
+    return sizeHint();
+}
+
+void RawValue::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    auto line = rect();
+    line.setTop((height() - 2 * fontMetrics().lineSpacing()) / 2);
+    line.setHeight(fontMetrics().lineSpacing());
+
+    auto font = this->font();
+    font.setFamily(QStringLiteral("monospace"));
+    font.setStyleHint(QFont::Monospace);
+    painter.setFont(font);
+    painter.setPen(palette().color(QPalette::WindowText));
+    auto oneLine = text_;
+    oneLine.replace(QLatin1Char('\n'), QChar(0x21B5));
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     QFontMetrics(font).elidedText(oneLine, Qt::ElideRight, line.width()));
+
+    line.translate(0, line.height());
+    painter.setFont(this->font());
+    painter.setPen(mutedText(palette()));
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     fontMetrics().elidedText(stamp_, Qt::ElideRight, line.width()));
+}
+
+} // namespace Panel

@@ -1,0 +1,40 @@
+#include <panel/WheelGuard.hpp>
+#include <QApplication>
+#include <QChildEvent>
+
+namespace Panel {
+
+WheelGuard::WheelGuard(QWidget* editor) : QObject(editor), editor_(editor) {
+    guard(editor);
+}
+
+WheelGuard::~WheelGuard() = default;
+
+void WheelGuard::guard(QWidget* widget) {
+    if (widget != editor_ && widget->isWindow())
+        return;
+    // Qt hands the focus over before the filter sees the wheel.
+    if (widget->focusPolicy() == Qt::WheelFocus)
+        widget->setFocusPolicy(Qt::StrongFocus);
+    widget->installEventFilter(this);
+    for (auto* const child : widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        guard(child);
+}
+
+bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Wheel) {
+        auto* const focus = QApplication::focusWidget();
+        if (focus && (focus == editor_ || editor_->isAncestorOf(focus)))
+            return false;
+        event->ignore();
+        return true;
+    }
+    // A child is not complete before it was polished.
+    if (event->type() == QEvent::ChildPolished) {
+        if (auto* const child = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child()))
+            guard(child);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace Panel

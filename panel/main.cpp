@@ -1,0 +1,177 @@
+#include <clocale>
+#include <cstdio>
+#include <lattice/InputCreator.hpp>
+#include <panel/CommandLine.hpp>
+#include <panel/InstalledFiles.hpp>
+#include <panel/MainWindow.hpp>
+#include <QApplication>
+#include <QFile>
+
+namespace {
+
+constexpr int badUse = 2;
+
+int refuse(QString const& reason) {
+    std::fprintf(stderr, "talo_panel: %s\n", reason.toLocal8Bit().constData());
+    return badUse;
+}
+
+void print(QByteArray const& text) {
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+}
+
+// The arguments before there is an application object, which is given only what it needs to know.
+QStringList decoded(int count, char* const* arguments) {
+    QStringList list;
+    for (int index = 0; index < count; ++index)
+        list << QFile::decodeName(arguments[index]);
+    return list;
+}
+
+void choosePlatform(Panel::CommandLine const& commandLine) {
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return;
+    bool const display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (commandLine.endsByItself()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    } else if (!display) {
+        std::fputs("talo_panel: There is no display; the panel runs unseen. --screenshot draws it into a file.\n",
+                   stderr);
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
+// The offscreen platform says of every window what it cannot do, which tells the user nothing.
+void passOnMessages(QtMsgType, QMessageLogContext const&, QString const& message) {
+    if (!message.startsWith(QLatin1String("This plugin does not support ")))
+        std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
+}
+
+void printCreators() {
+    for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
+        auto const creator = entry.creator.strong();
+        QStringList names;
+        for (auto const& name : creator->preferences()->names())
+            names << QString::fromStdString(name);
+        print((QStringList{QString::fromStdString(entry.valueType), QString::fromStdString(creator->Name()),
+                           names.join(QLatin1Char(','))}
+                   .join(QLatin1Char('\t')) +
+               QLatin1Char('\n'))
+                  .toUtf8());
+    }
+}
+
+// Prepares the network as the options say; gives the reason when something of it cannot be done.
+QString prepare(Panel::Network& network, Panel::CommandLine const& commandLine) {
+    auto pool = network.pools().front();
+    if (!commandLine.pool.isEmpty()) {
+        pool = network.findPool(commandLine.pool);
+        if (!pool) {
+            QStringList names;
+            for (auto const& known : network.pools())
+                names << QString::fromStdString(known->Name());
+            return QCoreApplication::translate("main", "%1 has no pool \"%2\", only %3.")
+                .arg(network.file(), commandLine.pool, names.join(QLatin1String(", ")));
+        }
+    }
+    if (!commandLine.object.isEmpty() && !network.findObject(commandLine.object))
+        return QCoreApplication::translate("main", "%1 has no object \"%2\".").arg(network.file(), commandLine.object);
+    for (auto const& setting : commandLine.settings) {
+        QString error;
+        if (!network.setText(setting.parameter, setting.text, pool, &error))
+            return error;
+    }
+    return {};
+}
+
+int draw(Panel::MainWindow& window, QString const& file) {
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.show();
+    // Layouts and what the editors put off come to rest.
+    for (int round = 0; round < 3; ++round) {
+        QApplication::sendPostedEvents();
+        QApplication::processEvents();
+    }
+    if (!window.grab().save(file))
+        return refuse(QCoreApplication::translate("main", "Cannot write the image %1.").arg(file));
+    return 0;
+}
+
+int run(Panel::CommandLine const& commandLine) {
+    // Closes the plug-ins when everything below is gone.
+    Panel::Plugins plugins;
+    bool const otherPlugins = !commandLine.plugins.isEmpty();
+    QString pluginError;
+    for (auto const& file : otherPlugins ? commandLine.plugins : QStringList{Panel::defaultPluginFile()}) {
+        if (!plugins.load(file, &pluginError) && otherPlugins)
+            return refuse(pluginError);
+    }
+    if (!pluginError.isEmpty())
+        refuse(pluginError);
+    if (commandLine.listCreators) {
+        printCreators();
+        if (!commandLine.values && commandLine.screenshot.isEmpty())
+            return 0;
+    }
+
+    auto const file = commandLine.network.isEmpty() ? Panel::defaultNetworkFile() : commandLine.network;
+    if (file.isEmpty())
+        return refuse(QCoreApplication::translate("main", "examples/fractal.json is missing; name a network to open."));
+    auto loaded = Panel::Network::load(file);
+    if (!loaded.network)
+        return refuse(loaded.error);
+    auto const problem = prepare(*loaded.network, commandLine);
+    if (!problem.isEmpty())
+        return refuse(problem);
+    if (commandLine.values) {
+        print(loaded.network->values());
+        if (commandLine.screenshot.isEmpty())
+            return 0;
+    }
+
+    Panel::MainWindow window(plugins);
+    if (!pluginError.isEmpty())
+        window.messages()->add(Panel::MessageList::Source::Error, pluginError);
+    window.tapStandardOutput();
+    window.setRawValuesShown(commandLine.rawValues);
+    if (commandLine.size.isValid())
+        window.resize(commandLine.size);
+    window.showNetwork(std::move(loaded.network));
+    if (!commandLine.pool.isEmpty())
+        window.choosePool(commandLine.pool);
+    if (!commandLine.object.isEmpty())
+        window.showObject(commandLine.object);
+    if (!commandLine.screenshot.isEmpty())
+        return draw(window, commandLine.screenshot);
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    std::setlocale(LC_ALL, "");
+    QString error;
+    auto const commandLine = Panel::CommandLine::parse(decoded(argc, argv), error);
+    if (!commandLine)
+        return refuse(error + QLatin1String(" --help says how to start the program."));
+    choosePlatform(*commandLine);
+
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    qInstallMessageHandler(passOnMessages);
+    int qtArguments = 1;
+    QApplication const application(qtArguments, argv);
+    QApplication::setApplicationName(QStringLiteral("talo_panel"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Talo panel"));
+    QApplication::setApplicationVersion(QStringLiteral(TALO_VERSION));
+    if (commandLine->help) {
+        print(Panel::CommandLine::helpText().toUtf8());
+        return 0;
+    }
+    if (commandLine->version) {
+        print("talo_panel " TALO_VERSION "\n");
+        return 0;
+    }
+    Panel::applyLook(commandLine->theme);
+    return run(*commandLine);
+}

@@ -1,0 +1,75 @@
+#include <plugin/QInputWidgetCreator.hpp>
+#include <qVinputs/basics/qVStringList.hpp>
+
+namespace Kolt {
+
+qVStringList::qVStringList(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+                           ValuePoolSource* poolSource, PreferencesPtr const& preferences)
+    : QFrame(parent),
+      VInputValue<VStringList>(parameter, poolSource),
+      layout_(new QHBoxLayout),
+      comboBox_(new QComboBox(this)) {
+    setLineWidth(0);
+    setLayout(layout_);
+    layout_->addWidget(comboBox_);
+    comboBox_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    layout_->setSpacing(0);
+    layout_->setContentsMargins(0, 0, 0, 0);
+    if (preferences && preferences->contains("editable"))
+        comboBox_->setEditable(true);
+
+    cached_ = valueOr(firstValue(), VStringList());
+    if (cached_)
+        fill();
+    // By name, as the signal with a text is deprecated, yet every Qt 5 has it.
+    connect(comboBox_, SIGNAL(activated(QString)), this, SLOT(selectItem(QString)));
+    comboBox_->show();
+    activateNotification();
+}
+
+qVStringList::~qVStringList() = default;
+
+void qVStringList::fill() {
+    if (!comboBox_)
+        return;
+    auto const selected = cached_->selected();
+    int current = 0;
+    int index = 0;
+    comboBox_->clear();
+    for (auto const& text : *cached_) {
+        comboBox_->insertItem(index, QString::fromStdString(text));
+        if (text == selected)
+            current = index;
+        ++index;
+    }
+    comboBox_->setCurrentIndex(current);
+}
+
+void qVStringList::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                                 ValueMap const*) {
+    if (arrivalOf(newValue, context) == Arrival::Foreign)
+        return;
+    auto const* const typed = dynamic_cast<VValue<VStringList> const*>(newValue.get());
+    if (typed && typed->get(cached_) && cached_)
+        fill();
+}
+
+void qVStringList::selectItem(QString const& what) {
+    cachePoolValue();
+    if (!cached_ || !cached_->select(what.toStdString())) {
+        std::puts("FAILED selecting element");
+        std::fflush(stdout);
+        return;
+    }
+    commit(cached_, WithoutPool::Try);
+}
+
+namespace {
+
+TALO_STATIC_CREATOR QInputWidgetCreator<VStringList, qVStringList> const selectionCreator("selection", nullptr);
+TALO_STATIC_CREATOR QInputWidgetCreator<VStringList, qVStringList> const
+    editableSelectionCreator("selection", PreferencesPtr(new VCreationPreferences("editable")));
+
+} // namespace
+
+} // namespace Kolt

@@ -1,0 +1,244 @@
+#include "PanelTest.hpp"
+
+#include <panel/MissingEditor.hpp>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QMessageBox>
+
+using testing::Contains;
+using testing::HasSubstr;
+
+namespace {
+
+class MainWindowTest : public PanelTest {
+protected:
+    QAction* action(char const* name) const { return window->findChild<QAction*>(QString::fromUtf8(name)); }
+    QComboBox* poolSelector() const { return window->findChild<QToolBar*>()->findChild<QComboBox*>(); }
+    std::string lastMessage() const {
+        auto const texts = window->messages()->texts();
+        return texts.isEmpty() ? std::string() : texts.constLast().toStdString();
+    }
+};
+
+struct Step : Kolt::VUndoAction {
+    Step(std::string const& text, bool works, int& undone) : VUndoAction(text), works_(works), undone_(undone) {}
+    bool undo() override {
+        ++undone_;
+        return works_;
+    }
+    bool const works_;
+    int& undone_;
+};
+
+void addStep(std::string const& text, bool works, int& undone) {
+    Kolt::UndoHistory::theHistory().add(Tessera::StrongPtr<Kolt::VUndoAction>(new Step(text, works, undone)), 1);
+}
+
+} // namespace
+
+TEST_F(MainWindowTest, ListsTheObjectsAndShowsTheFirst) {
+    auto const* const list = window->objectList();
+    ASSERT_EQ(list->topLevelItemCount(), 2);
+    EXPECT_EQ(list->topLevelItem(0)->text(0), QStringLiteral("lamp"));
+    EXPECT_EQ(list->topLevelItem(1)->text(0), QStringLiteral("second lamp"));
+    ASSERT_NE(window->currentView(), nullptr);
+    EXPECT_EQ(window->currentView()->object(), window->network()->findObject(QStringLiteral("lamp")));
+    EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("Two lamps"));
+}
+
+TEST_F(MainWindowTest, ACheckBoxOfThePluginEditsABool) {
+    auto* const steady = box("steady");
+    ASSERT_NE(steady, nullptr);
+    EXPECT_TRUE(steady->isChecked());
+    auto const age = parameter("lamp.steady")->ownValue()->age();
+    QTest::mouseClick(steady, Qt::LeftButton);
+    EXPECT_EQ(valueOf("lamp.steady"), "false");
+    EXPECT_GT(parameter("lamp.steady")->ownValue()->age(), age);
+}
+
+TEST_F(MainWindowTest, ChoosingAnObjectInTheListShowsIt) {
+    window->objectList()->setCurrentItem(window->objectList()->topLevelItem(1));
+    EXPECT_EQ(window->currentView()->object(), window->network()->findObject(QStringLiteral("second lamp")));
+    EXPECT_TRUE(box("on")->isChecked());
+    EXPECT_FALSE(window->showObject(QStringLiteral("third lamp")));
+    EXPECT_EQ(window->currentView()->object(), window->network()->findObject(QStringLiteral("second lamp")));
+}
+
+TEST_F(MainWindowTest, AnObjectThatIsChosenAgainHasTheSameEditors) {
+    QPointer<QCheckBox> const first = box("on");
+    window->showObject(QStringLiteral("second lamp"));
+    window->showObject(QStringLiteral("lamp"));
+    EXPECT_EQ(box("on"), first.data());
+}
+
+TEST_F(MainWindowTest, ASecondViewOfAnObjectFollowsTheFirst) {
+    auto* const second = window->addView();
+    ASSERT_NE(second, nullptr);
+    ASSERT_NE(second, window->currentView());
+    EXPECT_EQ(second->object(), window->currentView()->object());
+    QTest::mouseClick(box("steady"), Qt::LeftButton);
+    EXPECT_FALSE(box(second, "steady")->isChecked());
+    QTest::mouseClick(box(second, "steady"), Qt::LeftButton);
+    EXPECT_TRUE(box("steady")->isChecked());
+    EXPECT_EQ(valueOf("lamp.steady"), "true");
+}
+
+TEST_F(MainWindowTest, AClosedViewIsHiddenAtOnceAndDeletedLater) {
+    QPointer<Panel::ObjectView> const view = window->addView();
+    auto* const dock = qobject_cast<QDockWidget*>(view->parentWidget());
+    ASSERT_NE(dock, nullptr);
+    dock->close();
+    ASSERT_TRUE(view);
+    EXPECT_TRUE(dock->isHidden());
+    EXPECT_TRUE(waitUntil([&] { return view.isNull(); }));
+}
+
+TEST_F(MainWindowTest, SwitchingThePoolSwitchesEveryEditor) {
+    auto* const second = window->addView();
+    EXPECT_FALSE(box("on")->isChecked());
+    poolSelector()->setCurrentIndex(1);
+    EXPECT_TRUE(box("on")->isChecked());
+    EXPECT_TRUE(box(second, "on")->isChecked());
+    EXPECT_TRUE(box("steady")->isChecked());
+    QTest::mouseClick(box("on"), Qt::LeftButton);
+    EXPECT_EQ(valueOf("lamp.on"), "false");
+    // Written into the pool that was chosen, and not into the value that stands behind it.
+    set("lamp.on", "true");
+    ASSERT_TRUE(window->choosePool(QStringLiteral("day")));
+    EXPECT_EQ(poolSelector()->currentText(), QStringLiteral("day"));
+    EXPECT_FALSE(box("on")->isChecked());
+    EXPECT_FALSE(window->choosePool(QStringLiteral("dusk")));
+    EXPECT_EQ(poolSelector()->currentText(), QStringLiteral("day"));
+}
+
+TEST_F(MainWindowTest, SwitchingThePoolWritesNothing) {
+    auto const before = window->network()->values();
+    window->choosePool(QStringLiteral("night"));
+    window->choosePool(QStringLiteral("day"));
+    EXPECT_EQ(window->network()->values(), before);
+}
+
+TEST_F(MainWindowTest, AViewMadeLaterShowsTheChosenPoolAndRawValues) {
+    window->choosePool(QStringLiteral("night"));
+    window->setRawValuesShown(true);
+    auto* const view = window->addView();
+    EXPECT_TRUE(box(view, "on")->isChecked());
+    EXPECT_FALSE(view->row(QStringLiteral("on"))->rawValue()->isHidden());
+}
+
+TEST_F(MainWindowTest, RawValuesAreShownOnDemand) {
+    auto* const raw = window->currentView()->row(QStringLiteral("steady"))->rawValue();
+    EXPECT_TRUE(raw->isHidden());
+    action("rawValues")->trigger();
+    EXPECT_FALSE(raw->isHidden());
+    EXPECT_EQ(raw->text(), QStringLiteral("true"));
+    action("rawValues")->trigger();
+    EXPECT_TRUE(raw->isHidden());
+}
+
+TEST_F(MainWindowTest, UndoNamesTheLatestStepAndTakesItBack) {
+    EXPECT_FALSE(action("undo")->isEnabled());
+    int undone = 0;
+    addStep("Set int value to 7 & more", true, undone);
+    EXPECT_TRUE(action("undo")->isEnabled());
+    EXPECT_EQ(action("undo")->text(), QStringLiteral("&Undo: Set int value to 7 && more"));
+    action("undo")->trigger();
+    EXPECT_EQ(undone, 1);
+    EXPECT_FALSE(action("undo")->isEnabled());
+}
+
+TEST_F(MainWindowTest, AStepThatCanNoLongerBeTakenBackIsTold) {
+    int undone = 0;
+    addStep("Set int value to 7", false, undone);
+    action("undo")->trigger();
+    EXPECT_THAT(lastMessage(), HasSubstr("Set int value to 7"));
+    EXPECT_EQ(window->messages()->texts(Panel::MessageList::Source::Error).size(), 1);
+}
+
+TEST_F(MainWindowTest, ABrokenFileLeavesEverythingOpenAsItWas) {
+    QTest::mouseClick(box("steady"), Qt::LeftButton);
+    auto const* const network = window->network();
+    auto const values = network->values();
+    QPointer<Panel::ObjectView> const view = window->currentView();
+    auto const title = window->windowTitle();
+    int undone = 0;
+    addStep("step", true, undone);
+
+    auto const file = networkFile("broken.json", "{\n\"pools\": [\"day\"],\n\"objects\": 7\n}");
+    QString error;
+    EXPECT_FALSE(window->openNetwork(file, &error));
+    EXPECT_THAT(error.toStdString(), HasSubstr(file.toStdString() + ":3:"));
+    EXPECT_EQ(lastMessage(), error.toStdString());
+    EXPECT_EQ(window->network(), network);
+    EXPECT_EQ(network->values(), values);
+    EXPECT_EQ(window->currentView(), view.data());
+    EXPECT_EQ(window->windowTitle(), title);
+    EXPECT_TRUE(action("undo")->isEnabled());
+    EXPECT_FALSE(window->openNetwork(folder.filePath(QStringLiteral("missing.json")), &error));
+    EXPECT_EQ(window->network(), network);
+}
+
+TEST_F(MainWindowTest, AnotherNetworkTakesThePlaceOfTheOpenOne) {
+    QPointer<Panel::ObjectView> const view = window->currentView();
+    QPointer<Panel::ObjectView> const second = window->addView();
+    int undone = 0;
+    addStep("step", true, undone);
+    auto const file = networkFile("other.json", R"({ "pools": ["only"], "objects": [
+        { "name": "door", "parameters": [ { "name": "open", "type": "bool", "value": true } ] } ] })");
+    ASSERT_TRUE(window->openNetwork(file));
+    ASSERT_NE(window->currentView(), nullptr);
+    EXPECT_TRUE(box("open")->isChecked());
+    EXPECT_EQ(poolSelector()->count(), 1);
+    EXPECT_EQ(window->pools().pool(), window->network()->pools().front());
+    EXPECT_FALSE(action("undo")->isEnabled());
+    EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("other.json"));
+    EXPECT_TRUE(waitUntil([&] { return !view && !second; }));
+}
+
+TEST_F(MainWindowTest, ANetworkWithoutObjectsIsShownEmpty) {
+    ASSERT_TRUE(window->openNetwork(networkFile("empty.json", R"({ "pools": ["only"], "objects": [] })")));
+    EXPECT_EQ(window->objectList()->topLevelItemCount(), 0);
+    EXPECT_EQ(window->currentView(), nullptr);
+    EXPECT_EQ(window->addView(), nullptr);
+}
+
+TEST_F(MainWindowTest, SavedValuesAreThereWhenTheFileIsOpened) {
+    QTest::mouseClick(box("steady"), Qt::LeftButton);
+    auto const values = window->network()->values();
+    auto const file = folder.filePath(QStringLiteral("saved.json"));
+    ASSERT_TRUE(window->saveValues(file));
+    ASSERT_TRUE(window->openNetwork(file));
+    EXPECT_EQ(window->network()->values(), values);
+    EXPECT_FALSE(box("steady")->isChecked());
+}
+
+TEST_F(MainWindowTest, AFileThatCannotBeWrittenIsTold) {
+    QString error;
+    EXPECT_FALSE(window->saveValues(folder.filePath(QStringLiteral("missing/saved.json")), &error));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_EQ(lastMessage(), error.toStdString());
+}
+
+TEST_F(MainWindowTest, AFiredActionIsAMessage) {
+    auto const start = parameter("second lamp.start");
+    auto const fired = Kolt::valueOr(start->ownValue(), Tessera::StrongPtr<Kolt::VAction>());
+    ASSERT_TRUE(fired);
+    fired->emitAction(window->pools().pool(), start);
+    EXPECT_EQ(lastMessage(), "Action second lamp.start was fired in pool day.");
+}
+
+TEST_F(MainWindowTest, EveryEditorCanBeReachedAndIsNamed) {
+    auto const* const row = window->currentView()->row(QStringLiteral("housing.painted"));
+    ASSERT_NE(row, nullptr);
+    EXPECT_EQ(row->nameLabel()->text(), QStringLiteral("painted"));
+    EXPECT_EQ(row->nameLabel()->buddy(), row->editor());
+    EXPECT_EQ(row->editor()->focusProxy(), box("housing.painted"));
+    EXPECT_EQ(box("housing.painted")->accessibleName(), QStringLiteral("painted"));
+}
+
+TEST_F(MainWindowTest, TheToolTipOfANameTellsWhichEditorWasTakenAndWhy) {
+    auto const tip = window->currentView()->row(QStringLiteral("steady"))->nameLabel()->toolTip().toStdString();
+    auto const choice = Kolt::InputRegistry::theRegistry().choose(*parameter("lamp.steady"), {"QT"});
+    EXPECT_THAT(tip, HasSubstr(QString::fromStdString(choice.explanation).toHtmlEscaped().toStdString()));
+    EXPECT_THAT(tip, HasSubstr("bool"));
+}

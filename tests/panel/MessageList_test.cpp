@@ -1,0 +1,110 @@
+#include "support/TaloTest.hpp"
+
+#include <lattice/ActionNotifier.hpp>
+#include <panel/MessageList.hpp>
+#include <panel/StandardOutputTap.hpp>
+#include <panel/WarningListener.hpp>
+#include <QProcess>
+#include <QSignalSpy>
+#include <thread>
+
+using testing::ElementsAre;
+using Source = Panel::MessageList::Source;
+
+using MessageListTest = TaloTest;
+using WarningListenerTest = TaloTest;
+
+namespace {
+
+class StandardOutputTapTest : public TaloTest {
+protected:
+    void listenTo(Panel::StandardOutputTap& tap) {
+        QObject::connect(&tap, &Panel::StandardOutputTap::linePrinted, &receiver,
+                         [this](QString const& line) { lines << line; });
+    }
+
+    QObject receiver;
+    QStringList lines;
+};
+
+} // namespace
+
+TEST_F(MessageListTest, KeepsTheMessagesInOrderWithTimeAndSource) {
+    Panel::MessageList list;
+    list.add(Source::Output, QStringLiteral("printed"));
+    list.add(Source::Warning, QStringLiteral("warned <b>of</b>"));
+    EXPECT_EQ(list.texts(), (QStringList{QStringLiteral("printed"), QStringLiteral("warned <b>of</b>")}));
+    EXPECT_EQ(list.texts(Source::Warning), QStringList{QStringLiteral("warned <b>of</b>")});
+    auto const* const item = list.topLevelItem(1);
+    EXPECT_TRUE(QTime::fromString(item->text(0), QStringLiteral("HH:mm:ss")).isValid());
+    EXPECT_EQ(item->text(1), QStringLiteral("warning"));
+}
+
+TEST_F(MessageListTest, ForgetsTheOldestBeyondItsCapacity) {
+    Panel::MessageList list;
+    for (int number = 0; number <= Panel::MessageList::Capacity; ++number)
+        list.add(Source::Output, QString::number(number));
+    ASSERT_EQ(list.topLevelItemCount(), Panel::MessageList::Capacity);
+    EXPECT_EQ(list.texts().constFirst(), QStringLiteral("1"));
+    EXPECT_EQ(list.texts().constLast(), QString::number(Panel::MessageList::Capacity));
+}
+
+TEST_F(StandardOutputTapTest, TellsLinesAndPassesThemOn) {
+    {
+        Panel::StandardOutputTap tap;
+        listenTo(tap);
+        std::puts("first");
+        std::puts("zweite Ü");
+        std::fflush(stdout);
+        EXPECT_TRUE(waitUntil([&] { return lines.size() == 2; }));
+        EXPECT_EQ(lines, (QStringList{QStringLiteral("first"), QString::fromUtf8("zweite Ü")}));
+        std::fputs("unfinished", stdout);
+    }
+    EXPECT_TRUE(waitUntil([&] { return lines.size() == 3; }));
+    EXPECT_EQ(lines.constLast(), QStringLiteral("unfinished"));
+    std::puts("after");
+    EXPECT_THAT(takeOutput(), ElementsAre("first", "zweite Ü", "unfinishedafter"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(lines.size(), 3);
+}
+
+TEST_F(StandardOutputTapTest, ALongTextPrintedAtOnceBlocksNobody) {
+    std::string const line(999, 'x');
+    Panel::StandardOutputTap tap;
+    listenTo(tap);
+    // Far more than a pipe holds, and no event is handled meanwhile.
+    for (int count = 0; count < 2000; ++count)
+        std::puts(line.c_str());
+    std::fflush(stdout);
+    EXPECT_TRUE(waitUntil([&] { return lines.size() == 2000; }));
+    EXPECT_EQ(takeOutput().size(), 2000U);
+}
+
+TEST_F(StandardOutputTapTest, HearsChildProcessesAndEndsBeforeThem) {
+    QProcess child;
+    {
+        Panel::StandardOutputTap tap;
+        listenTo(tap);
+        child.setProcessChannelMode(QProcess::ForwardedChannels);
+        child.start(QStringLiteral("sh"), {QStringLiteral("-c"), QStringLiteral("echo from a child; read line")});
+        EXPECT_TRUE(waitUntil([&] { return lines == QStringList{QStringLiteral("from a child")}; }));
+    }
+    EXPECT_EQ(child.state(), QProcess::Running);
+    child.closeWriteChannel();
+    EXPECT_TRUE(child.waitForFinished());
+    EXPECT_THAT(takeOutput(), ElementsAre("from a child"));
+}
+
+TEST_F(WarningListenerTest, PassesWarningsOnAlsoFromAnotherThread) {
+    Panel::WarningListener listener;
+    QStringList heard;
+    QObject receiver;
+    QObject::connect(&listener, &Panel::WarningListener::warned, &receiver,
+                     [&](QString const& text) { heard << text; });
+    testing::internal::CaptureStderr();
+    Kolt::VActionNotifier::Warning("here");
+    std::thread([] { Kolt::VActionNotifier::Warning("there"); }).join();
+    EXPECT_TRUE(waitUntil([&] { return heard.size() == 2; }));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "here\nthere\n");
+    EXPECT_EQ(heard, (QStringList{QStringLiteral("here"), QStringLiteral("there")}));
+}

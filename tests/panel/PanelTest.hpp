@@ -1,0 +1,77 @@
+#pragma once
+
+#include "support/TaloTest.hpp"
+
+#include <lattice/ActionNotifier.hpp>
+#include <lattice/UndoAction.hpp>
+#include <panel/MainWindow.hpp>
+#include <QCheckBox>
+#include <QTemporaryDir>
+
+/// A panel around the built plug-in file, with a network of two lamps open.
+class PanelTest : public TaloTest {
+protected:
+    void SetUp() override {
+        TaloTest::SetUp();
+        QString error;
+        ASSERT_TRUE(plugins.load(QStringLiteral(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+        window = std::make_unique<Panel::MainWindow>(plugins);
+        ASSERT_TRUE(window->openNetwork(networkFile("lamps.json", lamps), &error)) << qPrintable(error);
+    }
+
+    void TearDown() override {
+        window.reset();
+        QString error;
+        EXPECT_TRUE(plugins.unload(&error)) << qPrintable(error);
+        TaloTest::TearDown();
+    }
+
+    static constexpr char const* lamps = R"({
+        "title": "Two lamps",
+        "pools": ["day", "night"],
+        "objects": [
+            { "name": "lamp", "kind": "light source", "parameters": [
+                { "name": "on", "type": "bool", "value": false, "values": { "night": true } },
+                { "name": "steady", "type": "bool", "value": true },
+                { "name": "housing.painted", "type": "bool", "value": false, "perPool": true }
+            ] },
+            { "name": "second lamp", "parameters": [
+                { "name": "on", "type": "bool", "value": true },
+                { "name": "start", "type": "action", "value": "Start" }
+            ] }
+        ]
+    })";
+
+    QString networkFile(QString const& name, char const* text) const {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0)
+            ADD_FAILURE() << "cannot write " << qPrintable(file.fileName());
+        return file.fileName();
+    }
+
+    Kolt::ParameterPtr parameter(char const* name) const {
+        return window->network()->findParameter(QString::fromUtf8(name));
+    }
+    /// The value of a parameter in the chosen pool, as text.
+    std::string valueOf(char const* name) const {
+        auto const found = parameter(name);
+        auto const local = found->getLocalValue(window->pools().pool(), std::string(), false);
+        return (local ? local : found->ownValue())->Text();
+    }
+    static QCheckBox* box(Panel::ObjectView const* view, char const* name) {
+        auto const* const row = view ? view->row(QString::fromUtf8(name)) : nullptr;
+        return row && row->editor() ? row->editor()->findChild<QCheckBox*>() : nullptr;
+    }
+    QCheckBox* box(char const* name) const { return box(window->currentView(), name); }
+    /// Sets a value as the host would, in the chosen pool.
+    void set(char const* name, char const* text) {
+        QString error;
+        EXPECT_TRUE(window->network()->setText(QString::fromUtf8(name), QString::fromUtf8(text), window->pools().pool(),
+                                               &error))
+            << qPrintable(error);
+    }
+
+    QTemporaryDir folder;
+    Panel::Plugins plugins;
+    std::unique_ptr<Panel::MainWindow> window;
+};

@@ -1,0 +1,118 @@
+#include "PanelTest.hpp"
+
+#include <panel/MissingEditor.hpp>
+
+using testing::HasSubstr;
+
+namespace {
+
+class PluginsTest : public PanelTest {
+protected:
+    Panel::MissingEditor* missing(char const* name) const {
+        return qobject_cast<Panel::MissingEditor*>(window->currentView()->row(QString::fromUtf8(name))->editor());
+    }
+    QAction* action(char const* name) const { return window->findChild<QAction*>(QString::fromUtf8(name)); }
+};
+
+} // namespace
+
+TEST_F(PluginsTest, UnloadPutsStandInsInPlaceOfEditors) {
+    window->addView();
+    QPointer<QCheckBox> const old = box("on");
+    action("unload")->trigger();
+    EXPECT_FALSE(old);
+    EXPECT_TRUE(plugins.loadedFiles().isEmpty());
+    EXPECT_TRUE(Kolt::InputRegistry::theRegistry().entries().empty());
+    for (auto const* const view : window->findChildren<Panel::ObjectView*>()) {
+        for (auto const* const row : view->rows())
+            EXPECT_NE(qobject_cast<Panel::MissingEditor*>(row->editor()), nullptr) << qPrintable(row->parameterName());
+    }
+    ASSERT_NE(missing("on"), nullptr);
+    EXPECT_EQ(missing("on")->text(), QStringLiteral("No editor is registered for the type bool without preferences."));
+    EXPECT_FALSE(action("unload")->isEnabled());
+    EXPECT_TRUE(action("reload")->isEnabled());
+}
+
+TEST_F(PluginsTest, ReloadAfterUnloadBringsTheEditorsBack) {
+    action("unload")->trigger();
+    set("lamp.steady", "false");
+    action("reload")->trigger();
+    ASSERT_EQ(plugins.loadedFiles(), QStringList{QStringLiteral(TALO_PLUGIN_FILE)});
+    ASSERT_NE(box("steady"), nullptr);
+    EXPECT_FALSE(box("steady")->isChecked());
+    QTest::mouseClick(box("steady"), Qt::LeftButton);
+    EXPECT_EQ(valueOf("lamp.steady"), "true");
+}
+
+TEST_F(PluginsTest, ReloadOfALoadedPluginKeepsTheChosenPool) {
+    window->choosePool(QStringLiteral("night"));
+    for (int round = 0; round < 10; ++round) {
+        QString error;
+        ASSERT_TRUE(plugins.reload(&error)) << qPrintable(error);
+        ASSERT_NE(box("on"), nullptr);
+        EXPECT_TRUE(box("on")->isChecked());
+    }
+}
+
+TEST_F(PluginsTest, AMissingFileIsToldAndNothingIsLost) {
+    QString error;
+    auto const file = folder.filePath(QStringLiteral("missing.talo"));
+    EXPECT_FALSE(plugins.load(file, &error));
+    EXPECT_THAT(error.toStdString(), HasSubstr(file.toStdString()));
+    EXPECT_FALSE(plugins.knownFiles().contains(file));
+    EXPECT_NE(box("on"), nullptr);
+}
+
+TEST_F(PluginsTest, AFileThatIsNoPluginIsToldAndNothingIsLost) {
+    QString error;
+    EXPECT_FALSE(plugins.load(networkFile("no.talo", "no library"), &error));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_NE(box("on"), nullptr);
+}
+
+TEST_F(PluginsTest, AFileThatWentAwayIsToldAtReload) {
+    auto const copy = folder.filePath(QStringLiteral("qtalo_inputs.talo"));
+    QString error;
+    ASSERT_TRUE(plugins.unload(&error));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE), copy));
+    ASSERT_TRUE(plugins.load(copy, &error)) << qPrintable(error);
+    EXPECT_NE(box("on"), nullptr);
+    ASSERT_TRUE(plugins.unload(&error));
+    ASSERT_TRUE(QFile::remove(copy));
+    EXPECT_FALSE(plugins.reload(&error));
+    EXPECT_THAT(error.toStdString(), HasSubstr(copy.toStdString()));
+    // The other one is back.
+    EXPECT_NE(box("on"), nullptr);
+}
+
+TEST_F(PluginsTest, AnEditorInUseElsewhereKeepsThePluginLoaded) {
+    QWidget parent;
+    auto const editor = Kolt::makeEditor(parameter("lamp.on"), &parent, &window->pools());
+    ASSERT_TRUE(editor.widget);
+    QString error;
+    EXPECT_FALSE(plugins.unload(&error));
+    EXPECT_THAT(error.toStdString(), HasSubstr("in use"));
+    EXPECT_NE(box("on"), nullptr);
+    delete editor.widget;
+    EXPECT_TRUE(plugins.unload());
+}
+
+TEST_F(PluginsTest, AStandInNamesTypeAndPreferences) {
+    Kolt::VParameter parameter("text", Kolt::makeValue(std::string()));
+    parameter.setCreationPreferences(Kolt::PreferencesPtr(new Kolt::VCreationPreferences("Save as", "QT")));
+    Panel::MissingEditor const standIn(parameter);
+    EXPECT_EQ(standIn.text(),
+              QStringLiteral("No editor is registered for the type std::string with the preferences {QT, Save as}."));
+}
+
+using PanelWithoutPlugins = TaloTest;
+
+TEST_F(PanelWithoutPlugins, StandsWithoutANetwork) {
+    Panel::Plugins plugins;
+    Panel::MainWindow window(plugins);
+    EXPECT_EQ(window.network(), nullptr);
+    EXPECT_EQ(window.currentView(), nullptr);
+    EXPECT_FALSE(window.saveValues(QStringLiteral("/nowhere")));
+    EXPECT_FALSE(window.choosePool(QStringLiteral("day")));
+    window.undo();
+}

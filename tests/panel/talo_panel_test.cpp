@@ -1,0 +1,157 @@
+#include "support/TaloTest.hpp"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+using testing::HasSubstr;
+
+namespace {
+
+class TaloPanel : public TaloTest {
+protected:
+    /// Runs the program to its end; what it says is in `output` and `errors`.
+    int run(QStringList const& arguments) {
+        QProcess process;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        // It has to find by itself that there is no display.
+        environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+        environment.remove(QStringLiteral("DISPLAY"));
+        environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.path());
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(TALO_PANEL), arguments);
+        EXPECT_TRUE(process.waitForFinished(60000));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        output = process.readAllStandardOutput();
+        errors = QString::fromLocal8Bit(process.readAllStandardError());
+        return process.exitCode();
+    }
+    /// The refusal of a call: its status is 2 and it says nothing on standard output.
+    std::string refusal(QStringList const& arguments) {
+        EXPECT_EQ(run(arguments), 2) << qPrintable(arguments.join(QLatin1Char(' ')));
+        EXPECT_EQ(output, QByteArray());
+        return errors.toStdString();
+    }
+    QString write(QString const& name, QByteArray const& text) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        return file.fileName();
+    }
+
+    QString const fractal = QStringLiteral(TALO_EXAMPLES "/fractal.json");
+    QTemporaryDir folder;
+    QByteArray output;
+    QString errors;
+};
+
+} // namespace
+
+TEST_F(TaloPanel, ListsTheCreatorsOfThePlugin) {
+    ASSERT_EQ(run({QStringLiteral("--list-creators")}), 0) << qPrintable(errors);
+    auto const lines = output.split('\n');
+    EXPECT_THAT(std::vector<QByteArray>(lines.begin(), lines.end()),
+                testing::Contains(QByteArray("bool\tboolean\tQT")));
+    EXPECT_EQ(lines.last(), QByteArray());
+    for (int index = 0; index + 1 < lines.size(); ++index)
+        EXPECT_EQ(lines[index].count('\t'), 2) << lines[index].constData();
+}
+
+TEST_F(TaloPanel, PrintsTheValuesOfTheDefaultNetwork) {
+    ASSERT_EQ(run({QStringLiteral("--values")}), 0) << qPrintable(errors);
+    QJsonParseError error{};
+    auto const values = QJsonDocument::fromJson(output, &error);
+    EXPECT_EQ(error.error, QJsonParseError::NoError) << qPrintable(error.errorString());
+    EXPECT_EQ(values[QStringLiteral("formula")][QStringLiteral("smooth")][QStringLiteral("value")], QJsonValue(true));
+}
+
+TEST_F(TaloPanel, SetsValuesInTheChosenPool) {
+    ASSERT_EQ(run({fractal, QStringLiteral("--pool"), QStringLiteral("final"), QStringLiteral("--set"),
+                   QStringLiteral("formula.smooth=false"), QStringLiteral("--set"),
+                   QStringLiteral("formula.symmetry=7"), QStringLiteral("--values")}),
+              0)
+        << qPrintable(errors);
+    auto const formula = QJsonDocument::fromJson(output)[QStringLiteral("formula")];
+    auto const smooth = formula[QStringLiteral("smooth")];
+    EXPECT_EQ(smooth[QStringLiteral("value")], QJsonValue(true));
+    EXPECT_EQ(smooth[QStringLiteral("values")][QStringLiteral("final")], QJsonValue(false));
+    EXPECT_EQ(formula[QStringLiteral("symmetry")][QStringLiteral("value")], QJsonValue(7));
+}
+
+TEST_F(TaloPanel, DrawsThePanelWithoutADisplay) {
+    auto const file = folder.filePath(QStringLiteral("panel.png"));
+    ASSERT_EQ(run({fractal, QStringLiteral("--screenshot"), file, QStringLiteral("--size"), QStringLiteral("900x600")}),
+              0)
+        << qPrintable(errors);
+    EXPECT_EQ(errors, QString());
+    QImage const image(file);
+    ASSERT_EQ(image.size(), QSize(900, 600));
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            colours.insert(image.pixel(x, y));
+    }
+    EXPECT_GT(colours.size(), 50);
+}
+
+TEST_F(TaloPanel, DrawsTheAskedForObjectPoolAndPalette) {
+    auto const draw = [&](QStringList const& arguments) {
+        auto const file = folder.filePath(QStringLiteral("panel.png"));
+        EXPECT_EQ(run(QStringList{fractal, QStringLiteral("--screenshot"), file} << arguments), 0)
+            << qPrintable(errors);
+        // The messages below have their time.
+        QImage const image(file);
+        return image.copy(0, 0, image.width(), image.height() * 3 / 4);
+    };
+    auto const usual = draw({QStringLiteral("--palette"), QStringLiteral("light")});
+    EXPECT_EQ(draw({QStringLiteral("--palette"), QStringLiteral("light")}), usual);
+    EXPECT_NE(draw({QStringLiteral("--object"), QStringLiteral("titles")}), usual);
+    EXPECT_NE(draw({QStringLiteral("--pool"), QStringLiteral("final")}), usual);
+    EXPECT_NE(draw({QStringLiteral("--raw")}), usual);
+    auto const dark = draw({QStringLiteral("--palette"), QStringLiteral("dark")});
+    EXPECT_LT(qGray(dark.pixel(dark.width() / 2, dark.height() - 40)), 80);
+    EXPECT_GT(qGray(usual.pixel(usual.width() / 2, usual.height() - 40)), 180);
+}
+
+TEST_F(TaloPanel, SaysHowToStartIt) {
+    ASSERT_EQ(run({QStringLiteral("--help")}), 0);
+    for (auto const* const option : {"--screenshot", "--object", "--list-creators", "--set", "--pool", "--values",
+                                     "--plugin", "--size", "--palette", "--raw", "NETWORK.json"})
+        EXPECT_THAT(output.toStdString(), HasSubstr(option));
+    ASSERT_EQ(run({QStringLiteral("--version")}), 0);
+    EXPECT_THAT(output.toStdString(), testing::MatchesRegex("talo_panel [0-9.]+\n"));
+}
+
+TEST_F(TaloPanel, RefusesWhatItCannotUse) {
+    EXPECT_THAT(refusal({QStringLiteral("--colour")}), HasSubstr("colour"));
+    EXPECT_THAT(refusal({fractal, QStringLiteral("--pool"), QStringLiteral("dusk"), QStringLiteral("--values")}),
+                HasSubstr("\"dusk\""));
+    EXPECT_THAT(refusal({fractal, QStringLiteral("--object"), QStringLiteral("door"), QStringLiteral("--values")}),
+                HasSubstr("\"door\""));
+    EXPECT_THAT(
+        refusal({fractal, QStringLiteral("--set"), QStringLiteral("formula.door=1"), QStringLiteral("--values")}),
+        HasSubstr("formula.door"));
+    EXPECT_THAT(
+        refusal({fractal, QStringLiteral("--set"), QStringLiteral("formula.smooth=blue"), QStringLiteral("--values")}),
+        HasSubstr("blue"));
+}
+
+TEST_F(TaloPanel, RefusesFilesThatItCannotRead) {
+    EXPECT_THAT(refusal({folder.filePath(QStringLiteral("missing.json"))}), HasSubstr("missing.json"));
+    auto const broken = write(QStringLiteral("broken.json"), "{\n\"pools\": 7 }");
+    EXPECT_THAT(refusal({broken, QStringLiteral("--values")}), HasSubstr("broken.json:2:"));
+    EXPECT_THAT(refusal({QStringLiteral("--plugin"), folder.filePath(QStringLiteral("missing.talo"))}),
+                HasSubstr("missing.talo"));
+    EXPECT_THAT(refusal({QStringLiteral("--plugin"), write(QStringLiteral("no.talo"), "text")}), HasSubstr("no.talo"));
+    EXPECT_THAT(refusal({fractal, QStringLiteral("--screenshot"), folder.filePath(QStringLiteral("missing/a.png"))}),
+                HasSubstr("missing/a.png"));
+}
+
+TEST_F(TaloPanel, LoadsTheNamedPluginInsteadOfItsOwn) {
+    auto const copy = folder.filePath(QStringLiteral("qtalo_inputs.talo"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE), copy));
+    ASSERT_EQ(run({QStringLiteral("--plugin"), copy, QStringLiteral("--list-creators")}), 0) << qPrintable(errors);
+    EXPECT_THAT(output.toStdString(), HasSubstr("bool\tboolean\tQT\n"));
+    // Once: its own is not loaded besides.
+    EXPECT_EQ(output.count("boolean"), 1);
+}
