@@ -2,6 +2,7 @@
 #include "RatioReporter.hpp"
 #include "Sides.hpp"
 
+#include <cstdio>
 #include <iostream>
 #include <lattice/PluginLoader.hpp>
 #include <malloc.h>
@@ -74,7 +75,7 @@ void edit(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count
 
 template <typename TheSide>
 void add(BenchmarkCase const& benchmarkCase, char const* sideName) {
-    auto name = benchmarkCase.creator;
+    auto name = benchmarkCase.name;
     for (auto const& preference : benchmarkCase.preferences)
         name += " " + preference;
     for (int const count : {1, 10, 100, 1000}) {
@@ -111,6 +112,8 @@ void passOver(QtMsgType, QMessageLogContext const&, QString const&) {}
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What the editors print goes nowhere; the results go to std::cout.
+    stdout = std::fopen("/dev/null", "w");
     // The offscreen platform warns of every window, which would be measured.
     qInstallMessageHandler(passOver);
     QApplication application(argc, argv);
