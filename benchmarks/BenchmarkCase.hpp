@@ -58,3 +58,4 @@ std::vector<BenchmarkCase> const& benchmarkCases();
 // One function for each family, in a file of its own.
 void addBooleanBenchmarks(std::vector<BenchmarkCase>& cases);
 void addActionBenchmarks(std::vector<BenchmarkCase>& cases);
+void addTextBenchmarks(std::vector<BenchmarkCase>& cases);

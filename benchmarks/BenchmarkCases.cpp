@@ -5,6 +5,7 @@ std::vector<BenchmarkCase> const& benchmarkCases() {
         std::vector<BenchmarkCase> all;
         addBooleanBenchmarks(all);
         addActionBenchmarks(all);
+        addTextBenchmarks(all);
         return all;
     }();
     return cases;
