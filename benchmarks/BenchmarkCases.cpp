@@ -5,7 +5,9 @@ std::vector<BenchmarkCase> const& benchmarkCases() {
         std::vector<BenchmarkCase> all;
         addBooleanBenchmarks(all);
         addNumberBenchmarks(all);
+        addSelectionBenchmarks(all);
         addActionBenchmarks(all);
+        addTextBenchmarks(all);
         return all;
     }();
     return cases;

@@ -19,7 +19,7 @@ void MainWindow::makePoolSelector() {
     auto* const toolBar = addToolBar(tr("Pool"));
     toolBar->setObjectName(QStringLiteral("pool"));
     toolBar->setMovable(false);
-    auto* const label = new QLabel(tr("&Pool:"));
+    auto* const label = new QLabel(tr("P&ool:"));
     label->setContentsMargins(8, 0, 6, 0);
     label->setBuddy(poolSelector_);
     toolBar->addWidget(label);
@@ -36,7 +36,8 @@ void MainWindow::makePoolSelector() {
 
 void MainWindow::makeFileMenu() {
     auto* const menu = menuBar()->addMenu(tr("&File"));
-    menu->addAction(tr("&Open..."), this, &MainWindow::askForNetwork, QKeySequence::Open);
+    auto* const openAction = menu->addAction(tr("&Open..."), this, &MainWindow::askForNetwork, QKeySequence::Open);
+    openAction->setObjectName(QStringLiteral("open"));
     menu->addAction(
         tr("&Save values"), this,
         [this] {

@@ -44,10 +44,14 @@ PreferencesPtr mergePreferences(PreferencesPtr const& given, PreferencesPtr cons
 }
 
 std::string preferenceText(VCreationPreferences::Names const& names) {
-    std::string text;
-    for (auto const& name : names)
-        text += (text.empty() ? "" : ", ") + name;
-    return "{" + text + "}";
+    std::string text("{");
+    for (auto const& name : names) {
+        if (text.size() > 1)
+            text += ", ";
+        text += name;
+    }
+    text += '}';
+    return text;
 }
 
 VInputBase::VInputBase(Tessera::WeakPtr<VParameter, ValueNotifierList> const& owner) : owner_(owner) {}
@@ -130,47 +134,48 @@ std::vector<InputRegistry::Entry> InputRegistry::entries() const {
 
 VCreationPreferences::Names InputRegistry::wantedPreferences(VParameter const& parameter,
                                                              VCreationPreferences::Names const& frontEnd) {
+    static auto const& textType = *new std::string(Tessera::Typename(typeid(std::string)));
     auto wanted = frontEnd;
     auto const& own = parameter.creationPreferences();
     if (own && !own->names().empty())
         wanted.insert(own->names().begin(), own->names().end());
-    else if (parameter.declaredType() == Tessera::Typename(typeid(std::string)))
+    else if (parameter.declaredType() == textType)
         wanted.insert(VValueTrait<std::string>::OneLine());
     return wanted;
 }
 
 InputChoice InputRegistry::choose(std::string const& valueType, VCreationPreferences::Names const& wanted) const {
-    return choose(entries(), valueType, wanted);
+    return choose(valueType, wanted, nullptr);
 }
 
 InputChoice InputRegistry::choose(VParameter const& parameter, VCreationPreferences::Names const& frontEnd) const {
-    std::vector<Entry> suitable;
-    for (auto const& entry : entries()) {
-        auto const creator = entry.creator.strong();
-        if (creator->suits(parameter))
-            suitable.push_back(entry);
-    }
-    return choose(suitable, parameter.declaredType(), wantedPreferences(parameter, frontEnd));
+    return choose(parameter.declaredType(), wantedPreferences(parameter, frontEnd), &parameter);
 }
 
-InputChoice InputRegistry::choose(std::vector<Entry> const& candidates, std::string const& valueType,
-                                  VCreationPreferences::Names const& wanted) const {
+InputChoice InputRegistry::choose(std::string const& valueType, VCreationPreferences::Names const& wanted,
+                                  VParameter const* parameter) const {
+    // References to the candidates alone: this runs for every editor, and creators of other types are many.
+    std::vector<CreatorRef> candidates;
+    for (auto const& registration : registrations_) {
+        if (registration.entry.valueType == valueType && registration.entry.creator.alive())
+            candidates.push_back(registration.entry.creator);
+    }
     CreatorRef best;
     // Larger is better: how many wanted names the set holds, the priority, how small the set is. Of equals the first
     // registered stays.
     std::tuple<std::size_t, int, std::ptrdiff_t> bestRank;
     int count = 0;
-    for (auto const& entry : candidates) {
-        if (entry.valueType != valueType)
+    for (auto const& candidate : candidates) {
+        auto const creator = candidate.strong();
+        if (!creator || (parameter && !creator->suits(*parameter)))
             continue;
-        auto const creator = entry.creator.strong();
         auto const& preferences = *creator->preferences();
         auto const shared = static_cast<std::size_t>(
             std::count_if(wanted.begin(), wanted.end(), [&](auto const& name) { return preferences.contains(name); }));
         auto const rank =
             std::make_tuple(shared, creator->priority(), -static_cast<std::ptrdiff_t>(preferences.names().size()));
         if (count++ == 0 || rank > bestRank) {
-            best = entry.creator;
+            best = candidate;
             bestRank = rank;
         }
     }
@@ -178,9 +183,14 @@ InputChoice InputRegistry::choose(std::vector<Entry> const& candidates, std::str
     if (!creator)
         return {best, "no creator is registered for " + valueType};
     bool const holdsAll = std::get<0>(bestRank) == wanted.size();
-    return {best, creator->describe() + (holdsAll ? " holds all of the wanted " : " shares most with the wanted ") +
-                      preferenceText(wanted) + ", of " + std::to_string(count) +
-                      (count == 1 ? " creator for " : " creators for ") + valueType};
+    // Put together in one place, as it is made for every editor.
+    auto explanation = creator->describe();
+    explanation.reserve(explanation.size() + valueType.size() + 128);
+    explanation += holdsAll ? " holds all of the wanted " : " shares most with the wanted ";
+    explanation += preferenceText(wanted);
+    explanation += ", of " + std::to_string(count) + (count == 1 ? " creator for " : " creators for ");
+    explanation += valueType;
+    return {best, std::move(explanation)};
 }
 
 VInitialization::VInitialization() = default;

@@ -43,6 +43,10 @@ struct EditorCase {
     bool changesInPlace = false;
     /// Whether the edit of a parameter that is gone prints the owner-fault line, which it then does once.
     bool reportsMissingOwner = true;
+    /// Whether an editor that was opened for a parameter that is gone has anything to edit; one without entries has not.
+    bool editableWithoutOwner = true;
+    /// Whether a change from elsewhere is committed once more where it moves what is shown.
+    bool commitsWhatItShows = false;
     /// Whether an edit without a pool gets as far as the missing parameter.
     bool reportsMissingOwnerWithoutPool = false;
 

@@ -1,0 +1,225 @@
+#include "MultipleSelectionTest.hpp"
+
+#include <QRegularExpression>
+#include <random>
+
+namespace {
+
+using Kolt::MultipleStringSelection;
+
+/// The editor's actions as they are described, row by row, on a list widget of its own. It costs what it costs.
+class RowByRow {
+public:
+    explicit RowByRow(Kolt::VMultipleStringList const& selection) : selection_(selection) {
+        list_.setSelectionMode(QAbstractItemView::MultiSelection);
+        fill();
+    }
+
+    void fill() {
+        list_.clear();
+        int width = 0;
+        int row = 0;
+        QListWidgetItem* last = nullptr;
+        for (auto const& string : *selection_) {
+            auto const text = QString::fromStdString(string);
+            width = std::max(width, list_.fontMetrics().horizontalAdvance(text) * 15 / 10);
+            auto* const item = new QListWidgetItem(text);
+            list_.insertItem(row++, item);
+            if (selection_->isInSelection(string)) {
+                item->setSelected(true);
+                last = item;
+            }
+        }
+        size_ = QSize(std::max(width, list_.sizeHint().width()), static_cast<int>(list_.sizeHint().height() * 1.3));
+        if (last)
+            list_.setCurrentItem(last, QItemSelectionModel::NoUpdate);
+    }
+    void all() {
+        for (int row = 0; row < list_.count(); ++row)
+            list_.item(row)->setSelected(true);
+        selection_->addAll();
+    }
+    void none() {
+        for (auto* const item : list_.selectedItems())
+            item->setSelected(false);
+        selection_->removeAll();
+    }
+    void inverse() {
+        for (int row = 0; row < list_.count(); ++row)
+            list_.item(row)->setSelected(!list_.item(row)->isSelected());
+        selection_->invertAll();
+    }
+    void click(int clicked) {
+        list_.item(clicked)->setSelected(!list_.item(clicked)->isSelected());
+        selection_->removeAll();
+        for (auto const* const item : list_.selectedItems())
+            selection_->add(text(*item));
+    }
+    void wildcard(QString const& pattern, bool remove) {
+        for (auto* const item : list_.findItems(pattern, Qt::MatchWildcard))
+            apply(*item, remove);
+    }
+    /// The tokens that the test makes, each read by a pattern of its own.
+    void numbers(QString const& tokens, bool remove) {
+        for (auto const& token : tokens.split(',')) {
+            static QRegularExpression const range("^(\\d+)-(\\d+)$");
+            static QRegularExpression const everyNth("^(\\d+)(?:th|nd|rd|st)(?:\\+(\\d+))?$");
+            auto const found = range.match(token);
+            auto const steps = everyNth.match(token);
+            if (found.hasMatch()) {
+                int const a = found.captured(1).toInt();
+                int const b = found.captured(2).toInt();
+                for (int row = std::min(a, b); std::max(a, b) < list_.count() && row <= std::max(a, b); ++row)
+                    apply(*list_.item(row), remove);
+            } else if (steps.hasMatch()) {
+                int const step = std::max(1, steps.captured(1).toInt());
+                for (int row = steps.captured(2).toInt(); row < list_.count(); row += step)
+                    apply(*list_.item(row), remove);
+            } else if (token.toInt() < list_.count()) {
+                apply(*list_.item(token.toInt()), remove);
+            }
+        }
+    }
+
+    QListWidget const& list() const { return list_; }
+    QSize size() const { return size_; }
+
+private:
+    static std::string text(QListWidgetItem const& item) { return item.data(Qt::DisplayRole).toString().toStdString(); }
+    void apply(QListWidgetItem& item, bool remove) {
+        if (remove)
+            selection_->removeFromSelection(text(item));
+        else
+            selection_->add(text(item));
+        item.setSelected(!remove);
+    }
+
+    Kolt::VMultipleStringList selection_;
+    QListWidget list_;
+    QSize size_;
+};
+
+class QuickWayTest : public MultipleSelectionTest, public testing::WithParamInterface<unsigned> {
+protected:
+    int below(std::size_t limit) { return static_cast<int>(random_() % limit); }
+    template <typename Choices>
+    auto oneOf(Choices const& choices) {
+        return choices[random_() % choices.size()];
+    }
+
+    /// Few different texts, so that many are equal; some with a slash, of other scripts, or long.
+    std::vector<std::string> randomStrings() {
+        std::vector<std::string> const words = {"a",   "A",    "ab",  "b/a",      "/",
+                                                "",    "9",    "x9y", "\xC3\xA4", "\xE6\x97\xA5",
+                                                "a b", "a\nb", "[a]", "*",        std::string(60, 'm')};
+        std::vector<std::string> strings(random_() % 30);
+        for (auto& string : strings)
+            string = oneOf(words) + (random_() % 2 ? oneOf(words) : std::string());
+        return strings;
+    }
+    void chooseSome(MultipleStringSelection& selection) {
+        for (auto const& string : selection) {
+            if (random_() % 2)
+                selection.add(string);
+        }
+    }
+    QString randomPattern() {
+        return oneOf(std::vector<QString>{"*", "?", "a*", "*a", "*9*", "*/*", "", "[ab]*", "??",
+                                          QString::fromUtf8("\xC3\x84*"), "*m", "[[]a]"});
+    }
+    QString randomNumbers() {
+        QStringList tokens;
+        for (int count = 1 + below(3); count > 0; --count) {
+            auto const a = QString::number(below(34));
+            auto const b = QString::number(below(34));
+            tokens.append(
+                oneOf(std::vector<QString>{a, a + "-" + b, a + "th", a + "nd+" + b, a + "rd", a + "st+" + b}));
+        }
+        return tokens.join(',');
+    }
+
+private:
+    std::mt19937 random_{GetParam()};
+};
+
+} // namespace
+
+TEST_P(QuickWayTest, DoesWhatRowByRowDoes) {
+    auto const selection = makeSelection(randomStrings());
+    chooseSome(*selection);
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    auto& widget = *editor.widget;
+    record(parameter);
+
+    auto const literalSelection = Kolt::VValueTrait<Selection>::Clone(selection);
+    RowByRow literal(literalSelection);
+    EXPECT_EQ(widget.size(), literal.size());
+    EXPECT_EQ(list(widget)->currentRow(), literal.list().currentRow());
+
+    for (int action = 0; action < 25; ++action) {
+        QString done;
+        std::size_t expectedCommits = commits() + 1;
+        bool const remove = below(2) != 0;
+        removeBox(widget)->setChecked(remove);
+        switch (below(8)) {
+        case 0:
+            done = "All";
+            press(widget, "All");
+            literal.all();
+            break;
+        case 1:
+            done = "None";
+            press(widget, "None");
+            literal.none();
+            break;
+        case 2:
+            done = "Inverse";
+            press(widget, "Inverse");
+            literal.inverse();
+            break;
+        case 3:
+        case 4:
+            done = "click";
+            if (list(widget)->count() == 0) {
+                expectedCommits = commits();
+                break;
+            } else {
+                int const row = below(static_cast<std::size_t>(list(widget)->count()));
+                click(widget, row);
+                literal.click(row);
+            }
+            break;
+        case 5: {
+            auto const pattern = randomPattern();
+            done = "wildcard " + pattern;
+            enterWildcard(widget, pattern);
+            literal.wildcard(pattern, remove);
+            break;
+        }
+        case 6: {
+            auto const numbers = randomNumbers();
+            done = "numbers " + numbers;
+            enterNumbers(widget, numbers);
+            literal.numbers(numbers, remove);
+            break;
+        }
+        default:
+            done = "refill";
+            if (below(2)) {
+                selection->invertAll();
+                literalSelection->invertAll();
+            }
+            tellOfChange(parameter);
+            literal.fill();
+            EXPECT_EQ(list(widget)->currentRow(), literal.list().currentRow());
+            EXPECT_EQ(widget.size(), literal.size());
+            break;
+        }
+        ASSERT_EQ(selectedRows(widget), selectedRows(literal.list())) << qPrintable(done);
+        ASSERT_EQ(chosen(selection), chosen(literalSelection)) << qPrintable(done);
+        ASSERT_EQ(commits(), expectedCommits) << qPrintable(done);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, QuickWayTest, testing::Range(0U, 150U));

@@ -1,0 +1,542 @@
+#include "MultipleSelectionTest.hpp"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace std::string_literals;
+using Rows = std::vector<int>;
+
+namespace {
+
+class MultipleStringListTest : public MultipleSelectionTest {
+protected:
+    static std::string typeName() { return Tessera::Typename(typeid(Selection)); }
+};
+
+} // namespace
+
+TEST_F(MultipleStringListTest, IsAFrameWithAColumnOfControlsAndAListOfRows) {
+    auto const parameter = parameterOf(makeSelection(rowNames(3), {"row 1"}));
+    auto const editor = open(parameter);
+    auto const& widget = *editor.widget;
+    ASSERT_NE(qobject_cast<QFrame const*>(&widget), nullptr);
+    EXPECT_STREQ(widget.metaObject()->className(), "Kolt::qVMultipleStringList");
+    EXPECT_STREQ(widget.metaObject()->superClass()->className(), "QFrame");
+    EXPECT_EQ(slotsOf(widget), (QStringList{"updateSelection()", "updateSelectionA(QListWidgetItem*)", "wildSelect()",
+                                            "numberSelect()"}));
+    EXPECT_NE(editor.widget->qt_metacast("VInputValue<VMultipleStringList>"), nullptr);
+
+    auto* const row = qobject_cast<QHBoxLayout*>(widget.layout());
+    ASSERT_NE(row, nullptr);
+    ASSERT_EQ(row->count(), 2);
+    auto* const column = qobject_cast<QVBoxLayout*>(row->itemAt(0)->layout());
+    ASSERT_NE(column, nullptr);
+    EXPECT_EQ(row->itemAt(1)->widget(), list(widget));
+    std::vector<QWidget*> const expected = {
+        button(widget, "All"),      button(widget, "None"), button(widget, "Inverse"),   removeBox(widget),
+        label(widget, "Wildcard:"), wildcardEdit(widget),   label(widget, "By Number:"), numberEdit(widget)};
+    ASSERT_EQ(column->count(), 8);
+    for (int place = 0; place < 8; ++place)
+        EXPECT_EQ(column->itemAt(place)->widget(), expected[static_cast<std::size_t>(place)]) << place;
+    EXPECT_EQ(removeBox(widget)->text(), "remove");
+    EXPECT_FALSE(removeBox(widget)->isChecked());
+
+    EXPECT_EQ(list(widget)->movement(), QListView::Static);
+    EXPECT_EQ(list(widget)->selectionMode(), QAbstractItemView::MultiSelection);
+    EXPECT_TRUE(list(widget)->isVisibleTo(editor.widget));
+    ASSERT_EQ(list(widget)->count(), 3);
+    EXPECT_EQ(list(widget)->item(2)->text(), "row 2");
+    EXPECT_EQ(selectedRows(widget), Rows{1});
+    EXPECT_EQ(list(widget)->currentRow(), 1);
+}
+
+TEST_F(MultipleStringListTest, TheToolTipsExplainTheFields) {
+    auto const parameter = parameterOf(makeSelection({}));
+    auto const editor = open(parameter);
+    auto const& widget = *editor.widget;
+    EXPECT_EQ(removeBox(widget)->toolTip(), "Removes selections specified by Wildcard of by Numbers if checked. ");
+    QString const wildcards = "Use a common wildcard for selection: e.g. *foo*004*. Enter triggers the selection.";
+    EXPECT_EQ(wildcardEdit(widget)->toolTip(), wildcards);
+    EXPECT_EQ(label(widget, "Wildcard:")->toolTip(), wildcards);
+    QString const numbers =
+        "Use numbers of items for selection. e.g. 0-5,9 selects the range from 0 to 5 and item number 9. Also use "
+        "2nd, 3rd, 4th, etc to select every 2nd and so on. This can be shifted by adding a number: e.g. 4th+2 selects "
+        "every forth item and starting with the 3rd. Enter triggers the selection.";
+    EXPECT_EQ(numberEdit(widget)->toolTip(), numbers);
+    EXPECT_EQ(label(widget, "By Number:")->toolTip(), numbers);
+}
+
+TEST_F(MultipleStringListTest, TheSizeFollowsTheLongestTextAndTheListsOwnHint) {
+    auto const parameter = parameterOf(makeSelection({"short", std::string(200, 'W')}));
+    auto const editor = open(parameter);
+    auto const hint = list(*editor.widget)->sizeHint();
+    auto const text = QFontMetrics(list(*editor.widget)->font()).horizontalAdvance(QString(200, 'W'));
+    auto const height = static_cast<int>(hint.height() * 1.3);
+    ASSERT_GT(text * 15 / 10, hint.width());
+    QSize const wide(text * 15 / 10, height);
+    EXPECT_EQ(editor.widget->minimumSize(), wide);
+    EXPECT_EQ(editor.widget->maximumSize(), wide);
+    EXPECT_EQ(editor.widget->size(), wide);
+
+    setElsewhere(parameter, makeSelection({"short"}));
+    EXPECT_EQ(editor.widget->size(), QSize(hint.width(), height)) << "the widths are measured anew";
+}
+
+TEST_F(MultipleStringListTest, AnotherFontOfTheListCountsWithTheNextValue) {
+    auto const parameter = parameterOf(makeSelection({std::string(200, 'W')}));
+    auto const editor = open(parameter);
+    auto const before = editor.widget->width();
+    auto font = list(*editor.widget)->font();
+    font.setPixelSize(3 * QFontInfo(font).pixelSize());
+    list(*editor.widget)->setFont(font);
+    tellOfChange(parameter);
+    EXPECT_EQ(editor.widget->width(), QFontMetrics(font).horizontalAdvance(QString(200, 'W')) * 15 / 10);
+    EXPECT_GT(editor.widget->width(), before);
+}
+
+TEST_F(MultipleStringListTest, AnEmptyListTakesItsSizeFromItsOwnHint) {
+    auto const parameter = parameterOf(makeSelection({}));
+    auto const editor = open(parameter);
+    auto const hint = list(*editor.widget)->sizeHint();
+    EXPECT_EQ(list(*editor.widget)->count(), 0);
+    EXPECT_EQ(editor.widget->size(), QSize(hint.width(), static_cast<int>(hint.height() * 1.3)));
+    record(parameter);
+    for (auto const* const label : {"All", "None", "Inverse"})
+        press(*editor.widget, label);
+    enterWildcard(*editor.widget, "*");
+    enterNumbers(*editor.widget, "0,1st,0-0");
+    EXPECT_EQ(commits(), 5U);
+}
+
+TEST_F(MultipleStringListTest, AParentIsAdjustedAndAMissingOneIsNot) {
+    auto const parameter = parameterOf(makeSelection({std::string(200, 'W')}));
+    auto const creator = qtCreator(typeName(), "selection");
+    auto* const frame = new QWidget(parent);
+    frame->resize(10, 10);
+    auto* const layout = new QVBoxLayout(frame);
+    auto const inside = creator->create(parameter, frame, &pools);
+    layout->addWidget(inside.first);
+    tellOfChange(parameter);
+    EXPECT_EQ(frame->size(), frame->sizeHint());
+
+    auto const alone = creator->create(parameter, nullptr, &pools);
+    ASSERT_TRUE(alone.first);
+    tellOfChange(parameter);
+    delete alone.first;
+}
+
+TEST_F(MultipleStringListTest, TheTraceLineIsPrintedForEveryFilling) {
+    auto const parameter = parameterOf(makeSelection(rowNames(2)));
+    auto const editor = open(parameter);
+    EXPECT_EQ(takeWrittenOutput(), trace + "\n"s) << "once at the start, and flushed";
+    tellOfChange(parameter);
+    tellOfChange(parameter);
+    EXPECT_EQ(takeOutput(), Lines(2, trace));
+    press(*editor.widget, "All");
+    enterNumbers(*editor.widget, "1");
+    EXPECT_EQ(takeOutput(), Lines()) << "what the user does fills nothing";
+    editor.input.strong()->onValueChange(Kolt::makeValue(1), Kolt::VContext(firstPool, nullptr), nullptr);
+    setElsewhere(parameter, Selection());
+    EXPECT_EQ(takeOutput(), Lines()) << "a value of another type, or without a selection, fills nothing";
+    EXPECT_EQ(list(*editor.widget)->count(), 2);
+}
+
+TEST_F(MultipleStringListTest, WithoutASelectionObjectNothingIsFilledNorPrinted) {
+    auto const parameter = parameterOf(Selection());
+    auto const editor = open(parameter);
+    EXPECT_EQ(takeOutput(), Lines());
+    EXPECT_EQ(list(*editor.widget)->count(), 0);
+    record(parameter);
+    press(*editor.widget, "All");
+    EXPECT_EQ(commits(), 1U) << "the rest of the commit runs";
+}
+
+TEST_F(MultipleStringListTest, WhenTheSelectionObjectGoesTheViewPartAndTheCommitRemain) {
+    auto const selection = makeSelection(rowNames(4), {"row 0"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    setElsewhere(parameter, Selection());
+    record(parameter);
+    press(*editor.widget, "Inverse");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{1, 2, 3}));
+    enterNumbers(*editor.widget, "0");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 1, 2, 3}));
+    removeBox(*editor.widget)->setChecked(true);
+    enterWildcard(*editor.widget, "*1");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 2, 3}));
+    press(*editor.widget, "None");
+    press(*editor.widget, "All");
+    EXPECT_EQ(commits(), 5U);
+    click(*editor.widget, 1);
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 2, 3}));
+    EXPECT_EQ(commits(), 5U) << "a click stops before the commit";
+    EXPECT_EQ(chosen(selection), "row 0") << "the editor does not know it any more";
+}
+
+TEST_F(MultipleStringListTest, AClickTogglesOneRow) {
+    auto const selection = makeSelection(rowNames(4), {"row 0"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    record(parameter);
+    click(*editor.widget, 2);
+    EXPECT_EQ(chosen(selection), "row 0\nrow 2");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 2}));
+    click(*editor.widget, 0);
+    EXPECT_EQ(chosen(selection), "row 2");
+    EXPECT_EQ(recorder.values, (Lines{"row 0\nrow 2", "row 2"}));
+    EXPECT_GT(parameter->ownValue()->age(), 0U);
+}
+
+TEST_F(MultipleStringListTest, AfterAClickTheChoiceIsWhatTheListShows) {
+    auto const selection = makeSelection(rowNames(4), {"row 0"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    selection->add("row 3");
+    click(*editor.widget, 1);
+    EXPECT_EQ(chosen(selection), "row 0\nrow 1");
+}
+
+TEST_F(MultipleStringListTest, AClickWithoutAPoolChangesTheViewAlone) {
+    auto const selection = makeSelection(rowNames(3));
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    record(parameter);
+    pools.use(nullptr);
+    click(*editor.widget, 1);
+    EXPECT_EQ(selectedRows(*editor.widget), Rows{1});
+    EXPECT_EQ(chosen(selection), "");
+    EXPECT_EQ(commits(), 0U);
+}
+
+TEST_F(MultipleStringListTest, EveryOtherActionWithoutAPoolChangesInPlaceAndStoresNothing) {
+    auto const selection = makeSelection(rowNames(4));
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    record(parameter);
+    pools.use(nullptr);
+    press(*editor.widget, "All");
+    EXPECT_EQ(chosen(selection), "row 0\nrow 1\nrow 2\nrow 3");
+    press(*editor.widget, "None");
+    EXPECT_EQ(chosen(selection), "");
+    enterNumbers(*editor.widget, "1");
+    EXPECT_EQ(chosen(selection), "row 1");
+    enterWildcard(*editor.widget, "*3");
+    EXPECT_EQ(chosen(selection), "row 1\nrow 3");
+    press(*editor.widget, "Inverse");
+    EXPECT_EQ(chosen(selection), "row 0\nrow 2");
+    EXPECT_EQ(commits(), 0U);
+    EXPECT_EQ(parameter->ownValue()->age(), 0U);
+}
+
+TEST_F(MultipleStringListTest, TheKeyboardChangesTheViewUntilTheNextRelease) {
+    auto const selection = makeSelection(rowNames(4));
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    parent->activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return parent->isActiveWindow(); }));
+    record(parameter);
+    auto* const rows = list(*editor.widget);
+    rows->setFocus();
+    rows->setCurrentRow(1, QItemSelectionModel::NoUpdate);
+    QTest::keyClick(rows, Qt::Key_Space);
+    EXPECT_EQ(selectedRows(*editor.widget), Rows{1});
+    EXPECT_EQ(chosen(selection), "");
+    EXPECT_EQ(commits(), 0U);
+    click(*editor.widget, 3);
+    EXPECT_EQ(chosen(selection), "row 1\nrow 3");
+    EXPECT_EQ(commits(), 1U);
+}
+
+TEST_F(MultipleStringListTest, AllNoneAndInverseChangeTheViewAndTheChoice) {
+    auto const selection = makeSelection(rowNames(4), {"row 0", "row 2"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    record(parameter);
+    press(*editor.widget, "Inverse");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{1, 3}));
+    EXPECT_EQ(chosen(selection), "row 1\nrow 3");
+    press(*editor.widget, "All");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 1, 2, 3}));
+    EXPECT_EQ(chosen(selection), "row 0\nrow 1\nrow 2\nrow 3");
+    press(*editor.widget, "None");
+    EXPECT_EQ(selectedRows(*editor.widget), Rows());
+    EXPECT_EQ(chosen(selection), "");
+    EXPECT_EQ(commits(), 3U);
+}
+
+TEST_F(MultipleStringListTest, AfterNoneAClickLeavesExactlyItsRow) {
+    auto const selection = makeSelection(rowNames(4), {"row 0", "row 2"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    press(*editor.widget, "None");
+    click(*editor.widget, 3);
+    EXPECT_EQ(selectedRows(*editor.widget), Rows{3});
+    EXPECT_EQ(chosen(selection), "row 3");
+}
+
+TEST_F(MultipleStringListTest, TheButtonsActOnAPressOfAnyMouseButton) {
+    auto const selection = makeSelection(rowNames(2));
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    for (auto const mouseButton : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        selection->removeAll();
+        QTest::mousePress(button(*editor.widget, "All"), mouseButton);
+        EXPECT_EQ(chosen(selection), "row 0\nrow 1") << mouseButton;
+        QTest::mousePress(button(*editor.widget, "None"), mouseButton);
+        EXPECT_EQ(chosen(selection), "") << mouseButton;
+        QTest::mousePress(button(*editor.widget, "Inverse"), mouseButton);
+        EXPECT_EQ(chosen(selection), "row 0\nrow 1") << mouseButton;
+    }
+    record(parameter);
+    QTest::mouseRelease(button(*editor.widget, "All"), Qt::LeftButton);
+    button(*editor.widget, "None")->click();
+    EXPECT_EQ(commits(), 0U) << "neither a release nor a click by the program acts";
+}
+
+TEST_F(MultipleStringListTest, AllAndInverseReachRowsWithASlash) {
+    auto const selection = makeSelection({"a", "b/c", "/"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    press(*editor.widget, "All");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 1, 2}));
+    click(*editor.widget, 0);
+    EXPECT_EQ(chosen(selection), "b/c\n/") << "the click loses none of them";
+    press(*editor.widget, "Inverse");
+    EXPECT_EQ(selectedRows(*editor.widget), Rows{0});
+    EXPECT_EQ(chosen(selection), "a");
+}
+
+TEST_F(MultipleStringListTest, AWildcardMatchesWholeTextsInAnyCase) {
+    auto const selection = makeSelection({"abc", "xabc", "ABD", "a/b", "a", "", "xyz"}, {"xyz"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    record(parameter);
+    auto const choice = [&](char const* pattern) {
+        press(*editor.widget, "None");
+        enterWildcard(*editor.widget, pattern);
+        return selectedRows(*editor.widget);
+    };
+    enterWildcard(*editor.widget, "A*");
+    EXPECT_EQ(chosen(selection), "abc\nABD\na\nxyz") << "other rows keep their state";
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 2, 4, 6}));
+    EXPECT_EQ(commits(), 1U);
+    EXPECT_EQ(choice("*"), (Rows{0, 1, 2, 4, 5, 6})) << "a star stops at a slash";
+    EXPECT_EQ(choice("*/*"), Rows{3});
+    EXPECT_EQ(choice("a?b"), Rows()) << "and so does a question mark";
+    EXPECT_EQ(choice("???"), (Rows{0, 2, 6}));
+    EXPECT_EQ(choice("ab[cd]"), (Rows{0, 2}));
+    EXPECT_EQ(choice("ab[!c]"), Rows{2});
+    EXPECT_EQ(choice("a"), Rows{4});
+    EXPECT_EQ(choice(""), Rows{5}) << "an empty pattern matches an empty text";
+    EXPECT_EQ(choice("a.c"), Rows());
+    EXPECT_EQ(wildcardEdit(*editor.widget)->text(), "a.c") << "the field keeps its text";
+}
+
+TEST_F(MultipleStringListTest, AnInvalidWildcardMatchesNothingAndPrintsNothing) {
+    auto const selection = makeSelection({"[", "a"}, {"a"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    record(parameter);
+    enterWildcard(*editor.widget, "[");
+    EXPECT_EQ(chosen(selection), "a");
+    EXPECT_EQ(commits(), 1U);
+    EXPECT_EQ(printed(), Lines());
+}
+
+TEST_F(MultipleStringListTest, WithRemoveCheckedTheFieldsTakeAway) {
+    auto const names = rowNames(6);
+    auto const selection = makeSelection(names, names);
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    removeBox(*editor.widget)->setChecked(true);
+    enterNumbers(*editor.widget, "1,3,5");
+    EXPECT_EQ(chosen(selection), "row 0\nrow 2\nrow 4");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 2, 4}));
+    enterWildcard(*editor.widget, "ROW 2");
+    EXPECT_EQ(chosen(selection), "row 0\nrow 4");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 4}));
+    EXPECT_TRUE(removeBox(*editor.widget)->isChecked());
+    EXPECT_EQ(numberEdit(*editor.widget)->text(), "1,3,5") << "the field keeps its text";
+}
+
+TEST_F(MultipleStringListTest, NumbersAddRows) {
+    auto const selection = makeSelection(rowNames(10), {"row 9"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    record(parameter);
+    enterNumbers(*editor.widget, "5-2,4th+2,0-99");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{2, 3, 4, 5, 6, 9}));
+    EXPECT_EQ(chosen(selection), "row 2\nrow 3\nrow 4\nrow 5\nrow 6\nrow 9");
+    EXPECT_EQ(commits(), 1U) << "the text is committed as one";
+}
+
+TEST_F(MultipleStringListTest, ReturnInAnEmptyNumberFieldCommitsOnce) {
+    auto const selection = makeSelection(rowNames(3), {"row 1"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    record(parameter);
+    enterNumbers(*editor.widget, "");
+    EXPECT_EQ(recorder.values, Lines{"row 1"});
+}
+
+TEST_F(MultipleStringListTest, TheSlotForOneItemTogglesItsTextAndLeavesTheView) {
+    auto const selection = makeSelection(rowNames(3), {"row 1"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    record(parameter);
+    takeOutput();
+    auto const toggle = [&](QListWidgetItem* item) {
+        return QMetaObject::invokeMethod(editor.widget, "updateSelectionA", Q_ARG(QListWidgetItem*, item));
+    };
+    EXPECT_TRUE(toggle(list(*editor.widget)->item(2)));
+    EXPECT_EQ(takeWrittenOutput(), "qVMultipleStringList::updateSelectionA\nrow 2\n");
+    EXPECT_EQ(chosen(selection), "row 1\nrow 2");
+    EXPECT_EQ(selectedRows(*editor.widget), Rows{1});
+    EXPECT_EQ(commits(), 1U);
+    EXPECT_TRUE(toggle(list(*editor.widget)->item(1)));
+    EXPECT_EQ(chosen(selection), "row 2");
+    takeOutput();
+
+    EXPECT_TRUE(toggle(nullptr));
+    EXPECT_EQ(commits(), 2U) << "no item, nothing at all";
+    EXPECT_EQ(takeOutput(), Lines());
+    EXPECT_TRUE(QMetaObject::invokeMethod(editor.widget, "updateSelection"));
+    EXPECT_EQ(commits(), 2U);
+}
+
+TEST_F(MultipleStringListTest, TextsKeepTheirFullLength) {
+    auto const selection = makeSelection({"a", "a\0b"s, "gr\xC3\xBCn"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    EXPECT_EQ(list(*editor.widget)->item(1)->text(), QString::fromUtf8("a\0b", 3));
+    enterNumbers(*editor.widget, "1,2");
+    EXPECT_EQ(chosen(selection), "a\0b\ngr\xC3\xBCn"s);
+    takeOutput();
+    EXPECT_TRUE(QMetaObject::invokeMethod(editor.widget, "updateSelectionA",
+                                          Q_ARG(QListWidgetItem*, list(*editor.widget)->item(1))));
+    EXPECT_EQ(takeOutput(), (Lines{"qVMultipleStringList::updateSelectionA", "a\0b"s}));
+}
+
+TEST_F(MultipleStringListTest, ATextThatIsNoUtf8IsShownWithReplacements) {
+    auto const selection = makeSelection({"bad\xFF", "good"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    EXPECT_EQ(list(*editor.widget)->item(0)->text(), QString("bad") + QChar(QChar::ReplacementCharacter));
+    enterNumbers(*editor.widget, "0,1");
+    EXPECT_EQ(chosen(selection), "good") << "the list does not know the shown text";
+    press(*editor.widget, "All");
+    EXPECT_EQ(chosen(selection), "bad\xFF\ngood");
+}
+
+TEST_F(MultipleStringListTest, EqualTextsAreRowsOfTheirOwn) {
+    auto const selection = makeSelection({"a", "b", "a"});
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    click(*editor.widget, 0);
+    EXPECT_EQ(selectedRows(*editor.widget), Rows{0});
+    EXPECT_TRUE(selection->isInSelection("a"));
+    tellOfChange(parameter);
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 2}));
+    EXPECT_EQ(list(*editor.widget)->currentRow(), 2);
+}
+
+TEST_F(MultipleStringListTest, WhenTheOwnerIsGoneEveryActionChangesInPlaceAndIsReportedOnce) {
+    auto const selection = makeSelection(rowNames(3));
+    auto parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    parameter.reset();
+    click(*editor.widget, 1);
+    EXPECT_EQ(chosen(selection), "row 1");
+    EXPECT_EQ(printed(), Lines{missingOwnerLine});
+    press(*editor.widget, "Inverse");
+    EXPECT_EQ(chosen(selection), "row 0\nrow 2");
+    EXPECT_EQ(printed(), Lines{missingOwnerLine});
+    enterNumbers(*editor.widget, "1");
+    EXPECT_EQ(chosen(selection), "row 0\nrow 1\nrow 2");
+    EXPECT_EQ(printed(), Lines{missingOwnerLine});
+}
+
+TEST_F(MultipleStringListTest, ARefusedStoreMarksNothing) {
+    auto const parameter = refusingParameterOf(makeSelection(rowNames(2)));
+    auto const editor = openShown(parameter);
+    record(parameter);
+    press(*editor.widget, "All");
+    EXPECT_EQ(commits(), 0U);
+    EXPECT_EQ(parameter->ownValue()->age(), 0U);
+}
+
+TEST_F(MultipleStringListTest, EveryActionForAPoolLeavesTheParametersOwnAlone) {
+    std::vector<std::function<void(QWidget&)>> const actions = {
+        [](QWidget& editor) { press(editor, "All"); },
+        [](QWidget& editor) { press(editor, "None"); },
+        [](QWidget& editor) { press(editor, "Inverse"); },
+        [](QWidget& editor) { click(editor, 1); },
+        [](QWidget& editor) { enterWildcard(editor, "*1"); },
+        [](QWidget& editor) { enterNumbers(editor, "1"); },
+        [](QWidget& editor) {
+            QMetaObject::invokeMethod(&editor, "updateSelectionA", Q_ARG(QListWidgetItem*, list(editor)->item(1)));
+        }};
+    for (std::size_t n = 0; n < actions.size(); ++n) {
+        auto const own = makeSelection(rowNames(3), {"row 0"});
+        auto const parameter = parameterOf(own, Values::PerPool);
+        auto const editor = openShown(parameter);
+        actions[n](*editor.widget);
+        EXPECT_EQ(chosen(own), "row 0") << n;
+        auto const local = parameter->getLocalValue(firstPool, std::string(), false);
+        ASSERT_TRUE(local) << n;
+        EXPECT_NE(local->Text(), "row 0") << n;
+        delete editor.widget;
+        takeOutput();
+    }
+}
+
+TEST_F(MultipleStringListTest, TheFirstValueIsThePoolsIfItHasOne) {
+    auto const parameter = parameterOf(makeSelection(rowNames(3), {"row 0"}), Values::PerPool);
+    parameter->getLocalValue(firstPool, std::string(), true)->setValueFromText("row 2");
+    auto const creator = qtCreator(typeName(), "selection");
+    EXPECT_EQ(selectedRows(*creator->create(parameter, parent, &pools).first), Rows{2});
+    pools.use(secondPool);
+    EXPECT_EQ(selectedRows(*creator->create(parameter, parent, &pools).first), Rows{0});
+}
+
+TEST_F(MultipleStringListTest, TheEditablePreferenceChangesNothing) {
+    auto const parameter = parameterOf(makeSelection(rowNames(2)), Values::Shared, {"editable"});
+    auto const editor = openShown(parameter);
+    EXPECT_TRUE(editor.choice.creator.strong()->preferences()->contains("editable"));
+    press(*editor.widget, "All");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 1}));
+}
+
+TEST_F(MultipleStringListTest, SurvivesTheLossOfItsControls) {
+    auto const selection = makeSelection(rowNames(2));
+    auto const parameter = parameterOf(selection);
+    auto const editor = openShown(parameter);
+    auto const& widget = *editor.widget;
+    record(parameter);
+    delete removeBox(widget);
+    delete list(widget);
+    press(widget, "All");
+    EXPECT_EQ(chosen(selection), "row 0\nrow 1");
+    press(widget, "Inverse");
+    enterNumbers(widget, "0");
+    EXPECT_EQ(chosen(selection), "");
+    delete numberEdit(widget);
+    delete wildcardEdit(widget);
+    EXPECT_TRUE(QMetaObject::invokeMethod(editor.widget, "numberSelect"));
+    EXPECT_TRUE(QMetaObject::invokeMethod(editor.widget, "wildSelect"));
+    EXPECT_EQ(commits(), 5U);
+    tellOfChange(parameter);
+}
+
+TEST_F(MultipleStringListTest, AViewThatTheHostFrozeStaysFrozen) {
+    auto const parameter = parameterOf(makeSelection(rowNames(2)));
+    auto const editor = openShown(parameter);
+    EXPECT_TRUE(list(*editor.widget)->updatesEnabled());
+    press(*editor.widget, "All");
+    EXPECT_TRUE(list(*editor.widget)->updatesEnabled());
+    list(*editor.widget)->setUpdatesEnabled(false);
+    press(*editor.widget, "None");
+    tellOfChange(parameter);
+    EXPECT_FALSE(list(*editor.widget)->updatesEnabled());
+}
