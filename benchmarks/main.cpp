@@ -73,6 +73,19 @@ void edit(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count
     }
 }
 
+/// A drag of the control over a thousand positions, painted at its end.
+template <typename TheSide>
+void drag(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count) {
+    TheSide side(benchmarkCase, count);
+    Panel panel;
+    panel.fill(side, count);
+    panel.show();
+    for (auto _ : state) {
+        benchmarkCase.drag(panel.first());
+        QCoreApplication::processEvents();
+    }
+}
+
 template <typename TheSide>
 void add(BenchmarkCase const& benchmarkCase, char const* sideName) {
     auto name = benchmarkCase.name;
@@ -91,6 +104,8 @@ void add(BenchmarkCase const& benchmarkCase, char const* sideName) {
         add("told", [&, count](auto& state) { change<TheSide>(state, benchmarkCase, count, false); });
         if (benchmarkCase.edit)
             add("edit", [&, count](auto& state) { edit<TheSide>(state, benchmarkCase, count); });
+        if (benchmarkCase.drag)
+            add("drag", [&, count](auto& state) { drag<TheSide>(state, benchmarkCase, count); });
     }
 }
 
