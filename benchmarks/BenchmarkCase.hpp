@@ -62,3 +62,4 @@ std::vector<BenchmarkCase> const& benchmarkCases();
 void addBooleanBenchmarks(std::vector<BenchmarkCase>& cases);
 void addSelectionBenchmarks(std::vector<BenchmarkCase>& cases);
 void addActionBenchmarks(std::vector<BenchmarkCase>& cases);
+void addTextBenchmarks(std::vector<BenchmarkCase>& cases);

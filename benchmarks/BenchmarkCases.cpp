@@ -6,6 +6,7 @@ std::vector<BenchmarkCase> const& benchmarkCases() {
         addBooleanBenchmarks(all);
         addSelectionBenchmarks(all);
         addActionBenchmarks(all);
+        addTextBenchmarks(all);
         return all;
     }();
     return cases;

@@ -1,5 +1,6 @@
 #include <memory>
 #include <panel/Look.hpp>
+#include <panel/PanelStyle.hpp>
 #include <QApplication>
 #include <QFontDatabase>
 #include <QStyle>
@@ -14,17 +15,17 @@ namespace {
 QPalette darkPalette() {
     QColor const text(230, 231, 233);
     QColor const muted(125, 127, 131);
-    std::pair<QPalette::ColorRole, QColor> const colours[] = {{QPalette::Window, QColor(42, 44, 47)},
+    std::pair<QPalette::ColorRole, QColor> const colours[] = {{QPalette::Window, QColor(52, 55, 59)},
                                                               {QPalette::WindowText, text},
-                                                              {QPalette::Base, QColor(30, 31, 34)},
-                                                              {QPalette::AlternateBase, QColor(38, 40, 43)},
+                                                              {QPalette::Base, QColor(32, 34, 37)},
+                                                              {QPalette::AlternateBase, QColor(38, 40, 44)},
                                                               {QPalette::Text, text},
                                                               {QPalette::BrightText, Qt::white},
-                                                              {QPalette::Button, QColor(58, 61, 65)},
+                                                              {QPalette::Button, QColor(68, 72, 77)},
                                                               {QPalette::ButtonText, text},
                                                               {QPalette::Light, QColor(92, 96, 101)},
                                                               {QPalette::Midlight, QColor(74, 78, 83)},
-                                                              {QPalette::Mid, QColor(66, 69, 74)},
+                                                              {QPalette::Mid, QColor(62, 65, 70)},
                                                               {QPalette::Dark, QColor(20, 21, 23)},
                                                               {QPalette::Shadow, Qt::black},
                                                               {QPalette::ToolTipBase, QColor(58, 61, 65)},
@@ -64,7 +65,7 @@ QPalette themePalette(Theme theme) {
 }
 
 void applyLook(Theme theme) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new PanelStyle);
     if (theme != Theme::System) {
         auto const palette = themePalette(theme);
         QApplication::setPalette(palette);

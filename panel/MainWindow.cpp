@@ -32,7 +32,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     messageDock->setObjectName(QStringLiteral("messages"));
     messageDock->setWidget(messages_);
     addDockWidget(Qt::BottomDockWidgetArea, messageDock);
-    resizeDocks({messageDock}, {130}, Qt::Vertical);
+    resizeDocks({messageDock}, {110}, Qt::Vertical);
 
     makePoolSelector();
     makeFileMenu();
@@ -167,7 +167,9 @@ ObjectView* MainWindow::addView() {
     dock->setAttribute(Qt::WA_DeleteOnClose);
     auto* const view = makeView(object, dock);
     dock->setWidget(view);
+    int const half = viewStack_->width() / 2;
     addDockWidget(Qt::RightDockWidgetArea, dock);
+    resizeDocks({dock}, {half}, Qt::Horizontal);
     return view;
 }
 

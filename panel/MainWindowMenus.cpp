@@ -19,7 +19,7 @@ void MainWindow::makePoolSelector() {
     auto* const toolBar = addToolBar(tr("Pool"));
     toolBar->setObjectName(QStringLiteral("pool"));
     toolBar->setMovable(false);
-    auto* const label = new QLabel(tr("&Pool:"));
+    auto* const label = new QLabel(tr("P&ool:"));
     label->setContentsMargins(8, 0, 6, 0);
     label->setBuddy(poolSelector_);
     toolBar->addWidget(label);

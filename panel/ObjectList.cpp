@@ -76,6 +76,8 @@ void ObjectList::openIcons() {
         if (!icon)
             continue;
         icon->setAccessibleName(item->text(0));
+        // Readable on a chosen row, too.
+        icon->setAutoFillBackground(true);
         place->setIcon(icon);
         setItemWidget(item, 0, place.release());
     }

@@ -2,9 +2,11 @@
 #include <map>
 #include <panel/Look.hpp>
 #include <panel/ObjectView.hpp>
+#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace Panel {
@@ -13,6 +15,26 @@ namespace {
 
 // Nobody tells of a deleted parameter, so a view looks. In milliseconds.
 constexpr int checkInterval = 250;
+
+// Nothing is cut off at the side while the window can grow. In pixels.
+constexpr int widestMinimum = 720;
+
+// Scrolls up and down; it is at least as wide as its content needs to be.
+class ContentArea : public QScrollArea {
+public:
+    QSize minimumSizeHint() const override {
+        auto const hint = QScrollArea::minimumSizeHint();
+        int const content = widget() ? widget()->minimumSizeHint().width() : 0;
+        return {qMin(content + verticalScrollBar()->sizeHint().width(), widestMinimum), hint.height()};
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+};
 
 QString groupOf(QString const& parameterName) {
     return parameterName.left(qMax(0, parameterName.lastIndexOf(QLatin1Char('.'))));
@@ -66,7 +88,7 @@ ObjectView::ObjectView(Kolt::ObjectPtr const& object, QString const& kind, PoolS
     }
     groups->addStretch(1);
 
-    auto* const scrollArea = new QScrollArea;
+    auto* const scrollArea = new ContentArea;
     scrollArea->setFrameShape(QFrame::NoFrame);
     scrollArea->setWidgetResizable(true);
     scrollArea->setWidget(content);
@@ -129,11 +151,10 @@ void ObjectView::checkParameters() {
 }
 
 void ObjectView::alignNames() {
-    int width = 0;
     for (auto const* const row : rows_)
-        width = qMax(width, row->nameWidth());
+        nameWidth_ = qMax(nameWidth_, row->nameWidth());
     for (auto* const row : rows_)
-        row->setNameWidth(width);
+        row->setNameWidth(nameWidth_);
 }
 
 } // namespace Panel

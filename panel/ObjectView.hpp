@@ -45,6 +45,8 @@ private:
 
     Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase> const object_;
     std::vector<ParameterRow*> rows_;
+    // Only ever grows, so that the editors stay in their place when another pool is chosen.
+    int nameWidth_ = 0;
     QTimer checkTimer_;
 };
 

@@ -9,7 +9,10 @@ namespace Panel {
 namespace {
 
 // Editors that are higher have their name beside their first line.
-constexpr int highestCentredEditor = 80;
+constexpr int highestCentredEditor = 100;
+
+// In characters.
+constexpr int leastEditorWidth = 30;
 
 QString lastPart(QString const& name) {
     return name.mid(name.lastIndexOf(QLatin1Char('.')) + 1);
@@ -65,6 +68,9 @@ void ParameterRow::openEditor() {
     if (!editor_.widget)
         editor_.widget = new MissingEditor(*parameter, this);
     new WheelGuard(editor_.widget);
+    // A handle that cannot be moved and a number that is cut off help nobody.
+    editor_.widget->setMinimumWidth(
+        qMax(editor_.widget->minimumSizeHint().width(), leastEditorWidth * fontMetrics().averageCharWidth()));
     layout_->insertWidget(1, editor_.widget, 1);
     editor_.widget->show();
     bool const centred = editor_.widget->sizeHint().height() <= highestCentredEditor;

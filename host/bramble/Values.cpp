@@ -66,8 +66,9 @@ std::string VValueTrait<Ferro::rgba_float_t>::Text(Ferro::rgba_float_t const& va
     std::string text;
     for (float const channel : {value.red, value.green, value.blue, value.alpha}) {
         char digits[32];
-        text +=
-            (text.empty() ? "" : " ") + std::string(digits, std::to_chars(digits, digits + sizeof digits, channel).ptr);
+        text += (text.empty() ? "" : " ") +
+                (std::isnan(channel) ? "nan"
+                                     : std::string(digits, std::to_chars(digits, digits + sizeof digits, channel).ptr));
     }
     return text;
 }
@@ -77,8 +78,12 @@ bool VValueTrait<Ferro::rgba_float_t>::setValueFromText(Ferro::rgba_float_t& val
     auto const* const end = next + text.size();
     float channels[4];
     for (auto& channel : channels) {
+        auto const* const last = next;
         while (next != end && *next == ' ')
             ++next;
+        // "0.5.5" would read as two numbers.
+        if (next == last && &channel != channels)
+            return false;
         auto const result = std::from_chars(next, end, channel);
         if (result.ec != std::errc())
             return false;

@@ -95,8 +95,9 @@ private:
     };
 
     InputRegistry() = default;
-    InputChoice choose(std::vector<Entry> const& candidates, std::string const& valueType,
-                       VCreationPreferences::Names const& wanted) const;
+    // Null: whatever the parameter.
+    InputChoice choose(std::string const& valueType, VCreationPreferences::Names const& wanted,
+                       VParameter const* parameter) const;
 
     std::vector<Registration> registrations_;
 };

@@ -140,37 +140,37 @@ VCreationPreferences::Names InputRegistry::wantedPreferences(VParameter const& p
 }
 
 InputChoice InputRegistry::choose(std::string const& valueType, VCreationPreferences::Names const& wanted) const {
-    return choose(entries(), valueType, wanted);
+    return choose(valueType, wanted, nullptr);
 }
 
 InputChoice InputRegistry::choose(VParameter const& parameter, VCreationPreferences::Names const& frontEnd) const {
-    std::vector<Entry> suitable;
-    for (auto const& entry : entries()) {
-        auto const creator = entry.creator.strong();
-        if (creator->suits(parameter))
-            suitable.push_back(entry);
-    }
-    return choose(suitable, parameter.declaredType(), wantedPreferences(parameter, frontEnd));
+    return choose(parameter.declaredType(), wantedPreferences(parameter, frontEnd), &parameter);
 }
 
-InputChoice InputRegistry::choose(std::vector<Entry> const& candidates, std::string const& valueType,
-                                  VCreationPreferences::Names const& wanted) const {
+InputChoice InputRegistry::choose(std::string const& valueType, VCreationPreferences::Names const& wanted,
+                                  VParameter const* parameter) const {
+    // References to the candidates alone: this runs for every editor, and creators of other types are many.
+    std::vector<CreatorRef> candidates;
+    for (auto const& registration : registrations_) {
+        if (registration.entry.valueType == valueType && registration.entry.creator.alive())
+            candidates.push_back(registration.entry.creator);
+    }
     CreatorRef best;
     // Larger is better: how many wanted names the set holds, the priority, how small the set is. Of equals the first
     // registered stays.
     std::tuple<std::size_t, int, std::ptrdiff_t> bestRank;
     int count = 0;
-    for (auto const& entry : candidates) {
-        if (entry.valueType != valueType)
+    for (auto const& candidate : candidates) {
+        auto const creator = candidate.strong();
+        if (!creator || (parameter && !creator->suits(*parameter)))
             continue;
-        auto const creator = entry.creator.strong();
         auto const& preferences = *creator->preferences();
         auto const shared = static_cast<std::size_t>(
             std::count_if(wanted.begin(), wanted.end(), [&](auto const& name) { return preferences.contains(name); }));
         auto const rank =
             std::make_tuple(shared, creator->priority(), -static_cast<std::ptrdiff_t>(preferences.names().size()));
         if (count++ == 0 || rank > bestRank) {
-            best = entry.creator;
+            best = candidate;
             bestRank = rank;
         }
     }

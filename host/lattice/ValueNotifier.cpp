@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <lattice/ValueNotifier.hpp>
-#include <unordered_set>
 
 namespace Kolt {
 
@@ -34,27 +33,33 @@ std::mutex& livingMutex() {
     return mutex;
 }
 
-std::unordered_set<ValueNotifier*>& livingNotifiers() {
-    static auto& notifiers = *new std::unordered_set<ValueNotifier*>;
-    return notifiers;
-}
+// The first of the chain of all that live.
+ValueNotifier* firstLiving = nullptr;
 
 } // namespace
 
-ValueNotifier::ValueNotifier() : gate_(new DeliveryGate(this)) {
+ValueNotifier::ValueNotifier() : gate_(std::make_shared<DeliveryGate>(this)) {
     std::lock_guard const lock(livingMutex());
-    livingNotifiers().insert(this);
+    next_ = firstLiving;
+    if (next_)
+        next_->previous_ = this;
+    firstLiving = this;
 }
 
 ValueNotifier::~ValueNotifier() {
     leaveDelivery();
     std::lock_guard const lock(livingMutex());
-    livingNotifiers().erase(this);
+    (previous_ ? previous_->next_ : firstLiving) = next_;
+    if (next_)
+        next_->previous_ = previous_;
 }
 
 std::vector<ValueNotifier*> ValueNotifier::living() {
     std::lock_guard const lock(livingMutex());
-    return {livingNotifiers().begin(), livingNotifiers().end()};
+    std::vector<ValueNotifier*> notifiers;
+    for (auto* notifier = firstLiving; notifier; notifier = notifier->next_)
+        notifiers.push_back(notifier);
+    return notifiers;
 }
 
 void ValueNotifier::leaveDelivery() {

@@ -36,6 +36,9 @@ private:
     friend class ValueNotifierList;
     class DeliveryGate;
     std::shared_ptr<DeliveryGate> gate_;
+    // The chain of all that live.
+    ValueNotifier* previous_ = nullptr;
+    ValueNotifier* next_ = nullptr;
 };
 
 /// Notifiers in order of registration. It knows them weakly: one that dies leaves by itself.

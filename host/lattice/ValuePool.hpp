@@ -63,11 +63,13 @@ public:
 
     /// The pool of the change; null when it belongs to none.
     Tessera::StrongPtr<ValuePool> const& pool() const { return pool_; }
-    Tessera::StrongPtr<Addendum> const& addendum() const { return addendum_; }
+    Tessera::StrongPtr<Addendum> const& addendum() const;
 
 private:
     Tessera::StrongPtr<ValuePool> pool_;
-    Tessera::StrongPtr<Addendum> addendum_;
+    // Few ask for an addendum, so a new one is made for the first who does.
+    mutable Tessera::StrongPtr<Addendum> addendum_;
+    mutable bool addendumToBeMade_ = false;
 };
 
 } // namespace Kolt

@@ -40,6 +40,9 @@ bool VValueTrait<int>::setValueFromText(int& value, std::string const& text) {
 }
 
 std::string VValueTrait<double>::Text(double value) {
+    // Its sign says nothing, and differs with the way in which it was computed.
+    if (std::isnan(value))
+        return "nan";
     char text[32];
     return {text, std::to_chars(text, text + sizeof text, value).ptr};
 }

@@ -121,7 +121,15 @@ VContext::VContext(Tessera::StrongPtr<Addendum> const& addendum)
     : pool_(addendum ? addendum->pool() : nullptr), addendum_(addendum) {}
 
 VContext::VContext(Tessera::StrongPtr<ValuePool> const& pool, Tessera::StrongPtr<Addendum> const& addendum)
-    : pool_(pool), addendum_(addendum ? addendum : Tessera::StrongPtr<Addendum>(new Addendum(pool))) {}
+    : pool_(pool), addendum_(addendum), addendumToBeMade_(!addendum) {}
+
+Tessera::StrongPtr<VContext::Addendum> const& VContext::addendum() const {
+    if (addendumToBeMade_) {
+        addendum_ = Tessera::StrongPtr<Addendum>(new Addendum(pool_));
+        addendumToBeMade_ = false;
+    }
+    return addendum_;
+}
 
 VContext::~VContext() = default;
 

@@ -59,13 +59,14 @@ bool ReferenceControl::tryAddStrong() noexcept {
         if (count == 0 && adopted_.load(std::memory_order_acquire))
             return false;
     } while (!strong_.compare_exchange_weak(count, count + 1, std::memory_order_acq_rel, std::memory_order_relaxed));
-    addWeak();
+    if (count == 0)
+        addWeak();
     return true;
 }
 
 void ReferenceControl::addStrong() noexcept {
-    strong_.fetch_add(1, std::memory_order_acq_rel);
-    addWeak();
+    if (strong_.fetch_add(1, std::memory_order_acq_rel) == 0)
+        addWeak();
 }
 
 void ReferenceControl::adopt(std::type_info const& type, void const* address) {
@@ -82,12 +83,13 @@ void ReferenceControl::adopt(std::type_info const& type, void const* address) {
 }
 
 void ReferenceControl::releaseStrong() noexcept {
-    if (strong_.fetch_sub(1, std::memory_order_acq_rel) == 1 && adopted_.load(std::memory_order_acquire) &&
-        !dying_.load(std::memory_order_acquire)) {
+    if (strong_.fetch_sub(1, std::memory_order_acq_rel) > 1)
+        return;
+    if (adopted_.load(std::memory_order_acquire) && !dying_.load(std::memory_order_acquire)) {
         if (auto* const object = object_.load(std::memory_order_acquire)) {
             object->referenceHook();
             if (strong_.load(std::memory_order_acquire) > 0) {
-                // The reference that is going still counts as a user, but no longer as a strong one.
+                // The reference that is going still counts as a user, but no longer among the strong ones.
                 SpeakPtr::theSpeaker().DestructionCancelled(strong_.load(), weakCount() - 1, *type_.load());
             } else {
                 dying_ = true;
@@ -104,7 +106,7 @@ void ReferenceControl::releaseWeak() noexcept {
 }
 
 int ReferenceControl::weakCount() const noexcept {
-    return users_.load() - strong_.load() - 1;
+    return users_.load() - (strong_.load() > 0 ? 1 : 0) - 1;
 }
 
 void ReferenceControl::objectGone() {

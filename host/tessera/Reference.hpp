@@ -77,7 +77,8 @@ private:
 
     std::atomic<ReferenceCounted*> object_;
     std::atomic<int> strong_{0};
-    // Every pointer, strong or weak, and the object itself is one user; the last of them deletes the counters.
+    // Every weak pointer, all strong ones together and the object itself are one user each; the last of them deletes
+    // the counters.
     std::atomic<int> users_{1};
     std::atomic<bool> adopted_{false};
     std::atomic<bool> dying_{false};

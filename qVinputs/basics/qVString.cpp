@@ -35,7 +35,9 @@ qVString::~qVString() {
 void qVString::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
                              ValueMap const* properties) {
     // The input is told of its own commits; a long document need not be read again for each of them.
-    if (document()->revision() == committedRevision_ && valueOr(newValue, string()) == cached_)
+    auto const* const typed = dynamic_cast<VTypedValueBase<string> const*>(newValue.get());
+    string arrived;
+    if (document()->revision() == committedRevision_ && typed && typed->get(arrived) && arrived == cached_)
         return;
     if (arrivalOf(newValue, context) == Arrival::Foreign || !take(newValue, properties))
         return;

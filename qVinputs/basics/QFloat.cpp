@@ -1,0 +1,284 @@
+#include <algorithm>
+#include <lattice/ActionNotifier.hpp>
+#include <plugin/QInputWidgetCreator.hpp>
+#include <QDoubleValidator>
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+#include <qVinputs/basics/QFloat.hpp>
+
+namespace Kolt {
+
+namespace {
+
+constexpr char MaximumProperty[] = "max";
+constexpr char MinimumProperty[] = "min";
+constexpr char IncrementProperty[] = "increment";
+constexpr char PrecisionProperty[] = "precision";
+
+// A double has no more decimals than this that are not all zero.
+constexpr int LargestPrecision = 1000;
+
+} // namespace
+
+MyQSlider::MyQSlider(QFloat* parent, char const*) : QSlider(Qt::Horizontal, parent) {
+    setFocusPolicy(Qt::WheelFocus);
+    // The place of the handle is reckoned from the left.
+    setLayoutDirection(Qt::LeftToRight);
+}
+
+void MyQSlider::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        QSlider::mousePressEvent(event);
+        return;
+    }
+    if (width() <= 0)
+        return;
+    {
+        // Beside the handle the base steps by a page and goes on stepping; the user asked for one place.
+        QSignalBlocker const blocker(this);
+        int const position = value();
+        QSlider::mousePressEvent(event);
+        setRepeatAction(SliderNoAction);
+        setValue(position);
+    }
+    setValue(interval.positionAtFraction(static_cast<double>(qRound(event->localPos().x())) / width()));
+}
+
+void MyQSlider::keyPressEvent(QKeyEvent* event) {
+    double const current = interval.valueAt(value());
+    auto const setScale = [this, current] {
+        {
+            QSignalBlocker const blocker(this);
+            setRange(0, interval.lastPosition());
+        }
+        setValue(interval.positionOf(current));
+    };
+    event->accept();
+    switch (event->key()) {
+    case Qt::Key_Right:
+        if (value() < maximum())
+            setValue(value() + 1);
+        break;
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_Left:
+        setValue(value() - 1);
+        break;
+    case Qt::Key_Up:
+        interval.coarsen();
+        setScale();
+        break;
+    case Qt::Key_Down:
+        interval.refine();
+        setScale();
+        break;
+    // These two leave the control's range as it is, so the middle of the new interval may lie beyond it.
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        setValue(interval.widen(current));
+        break;
+    case Qt::Key_Minus:
+    case Qt::Key_Underscore:
+        setValue(interval.narrow(current));
+        break;
+    case Qt::Key_1:
+        setValue(interval.positionAtShare(0.1));
+        break;
+    case Qt::Key_2:
+        setValue(interval.positionAtShare(0.33));
+        break;
+    case Qt::Key_3:
+        setValue(interval.positionAtShare(0.66));
+        break;
+    case Qt::Key_4:
+        setValue(interval.positionAtShare(0.9));
+        break;
+    default:
+        break;
+    }
+}
+
+MyQDial::MyQDial(QFloat* parent, char const*) : QDial(parent) {
+    setFocusPolicy(Qt::WheelFocus);
+}
+
+void MyQDial::mousePressEvent(QMouseEvent*) {}
+
+void MyQDial::keyPressEvent(QKeyEvent*) {}
+
+QFloat::QFloat(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+               ValuePoolSource* poolSource, PreferencesPtr const& preferences)
+    : QFrame(parent), VInputValue<double>(parameter, poolSource) {
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    setLayout(new QHBoxLayout);
+
+    if (!owner())
+        VActionNotifier::Warning("QFloat created for non-integer parameter.");
+    else if (!fetchValue(pool(), std::string()))
+        // Relative to the repository, so that the warning is the same wherever it was built.
+        VActionNotifier::Warning("qVinputs/basics/QFloat.cpp -- QFloat could not initialize value.");
+    shown_ = cached_;
+
+    lineEdit_ = new QLeaveLineEdit(this);
+    layout()->addWidget(lineEdit_);
+    bool const periodic = preferences && preferences->contains("periodic");
+    if (periodic || (preferences && preferences->contains("dial")))
+        makeDial(periodic);
+    else
+        makeSlider();
+
+    ensureProperty(MinimumProperty, 0.0);
+    ensureProperty(MaximumProperty, 1.0);
+    auto const living = owner().strong();
+    applyProperties(living ? living->properties() : nullptr);
+
+    setUpLineEdit();
+    if (slider_)
+        connect(slider_, &QSlider::valueChanged, this, &QFloat::sliderValueChanged);
+    if (dial_)
+        connect(dial_, &QDial::valueChanged, this, &QFloat::sliderValueChanged);
+    connect(lineEdit_, &QLineEdit::returnPressed, this, &QFloat::textEnter);
+    showNumber(cached_);
+    activateNotification();
+}
+
+QFloat::~QFloat() = default;
+
+void QFloat::makeDial(bool periodic) {
+    dial_ = new MyQDial(this, "float dialer");
+    dial_->setWrapping(periodic);
+    layout()->addWidget(dial_);
+    dial_->setTracking(true);
+    dial_->setNotchesVisible(true);
+    dial_->setFixedSize(64, 64);
+    dial_->setPageStep(15);
+    dial_->setSingleStep(5);
+}
+
+void QFloat::makeSlider() {
+    slider_ = new MyQSlider(this, "float slider");
+    layout()->addWidget(slider_);
+}
+
+void QFloat::setUpLineEdit() {
+    lineEdit_->showText(QLatin1String("0.0"));
+    lineEdit_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    auto* const validator = new QDoubleValidator(lineEdit_);
+    validator->setLocale(QLocale(QLocale::C));
+    lineEdit_->setValidator(validator);
+    layout()->setAlignment(lineEdit_, Qt::AlignLeft | Qt::AlignVCenter);
+    lineEdit_->adjustSize();
+}
+
+QAbstractSlider* QFloat::control() const {
+    if (slider_)
+        return slider_;
+    return dial_;
+}
+
+FloatInterval* QFloat::interval() const {
+    if (slider_)
+        return &slider_->interval;
+    return dial_ ? &dial_->interval : nullptr;
+}
+
+void QFloat::applyProperties(ValueMap const* properties) {
+    auto const property = [properties](char const* name, auto fallback) {
+        return properties ? valueOr(properties->getValue(name), fallback) : fallback;
+    };
+    resolution_ = property(IncrementProperty, resolution_);
+    if (auto* const bounds = interval()) {
+        bounds->max = property(MaximumProperty, bounds->max);
+        bounds->min = property(MinimumProperty, bounds->min);
+        bounds->setResolution(resolution_);
+        QSignalBlocker const blocker(control());
+        control()->setRange(0, bounds->lastPosition());
+    }
+    precision_ = std::clamp(property(PrecisionProperty, precision_), 0, LargestPrecision);
+}
+
+void QFloat::moveHandle(double value) {
+    auto* const handle = control();
+    if (!handle)
+        return;
+    QSignalBlocker const blocker(handle);
+    handle->setValue(interval()->positionOf(value));
+}
+
+void QFloat::showText(double value) {
+    shown_ = value;
+    if (!lineEdit_)
+        return;
+    lineEdit_->showText(QString::fromLatin1("%1").arg(value, precision_, 'f', precision_, QLatin1Char(' ')));
+    lineEdit_->home(false);
+}
+
+void QFloat::showNumber(double value) {
+    showText(value);
+    moveHandle(value);
+}
+
+void QFloat::showAndWrite(double value) {
+    showText(value);
+    QPointer<QFloat> const self(this);
+    commit(value);
+    // Whoever was told may have set another value, which is the one shown now.
+    if (self)
+        moveHandle(shown_);
+}
+
+void QFloat::sliderValueChanged(int position) {
+    if (auto const* const bounds = interval())
+        showAndWrite(bounds->valueAt(position));
+}
+
+void QFloat::textEnter() {
+    bool isNumber = false;
+    auto const number = static_cast<double>(lineEdit_ ? lineEdit_->text().toFloat(&isNumber) : 0.0F);
+    if (!isNumber)
+        return;
+    moveHandle(number);
+    shown_ = number;
+    QPointer<QFloat> const self(this);
+    commit(number);
+    if (self)
+        showText(shown_);
+}
+
+void QFloat::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+                           ValueMap const* properties) {
+    if (properties) {
+        applyProperties(properties);
+        // The handle's position stands for another value now, and the text may have other decimals.
+        showNumber(shown_);
+    }
+
+    auto const* const typed = dynamic_cast<VValue<double> const*>(newValue.get());
+    double value = 0.0;
+    if (!typed || !typed->get(value))
+        return;
+    switch (arrivalOf(newValue, context)) {
+    case Arrival::Foreign:
+        break;
+    case Arrival::Held:
+        cached_ = value;
+        showNumber(value);
+        break;
+    case Arrival::New:
+        showAndWrite(value);
+        break;
+    }
+}
+
+namespace {
+
+TALO_STATIC_CREATOR QInputWidgetCreator<double, QFloat> const doubleCreator("double", nullptr);
+TALO_STATIC_CREATOR QInputWidgetCreator<double, QFloat> const
+    dialCreator("FltDial", PreferencesPtr(new VCreationPreferences("dial")));
+TALO_STATIC_CREATOR QInputWidgetCreator<double, QFloat> const
+    periodicDialCreator("Periodic FltDial", PreferencesPtr(new VCreationPreferences("dial", "periodic")));
+
+} // namespace
+
+} // namespace Kolt
