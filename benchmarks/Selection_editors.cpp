@@ -66,6 +66,7 @@ public:
             auto* const box = new QCheckBox(name);
             layout->addWidget(box);
             boxes_.push_back(box);
+            value_[name.toStdString()] = false;
             connect(box, &QCheckBox::stateChanged, this, [this] {
                 for (std::size_t place = 0; place < boxes_.size(); ++place)
                     value_[names[place]] = boxes_[place]->isChecked();
