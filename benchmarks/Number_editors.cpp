@@ -1,7 +1,6 @@
 #include "BenchmarkCase.hpp"
 
 #include <cmath>
-#include <deque>
 #include <QAbstractSlider>
 #include <QApplication>
 #include <QDial>
@@ -10,8 +9,10 @@
 #include <QHBoxLayout>
 #include <QIntValidator>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QUndoStack>
 #include <QWheelEvent>
 
 namespace {
@@ -33,6 +34,16 @@ QAbstractSlider* makeControl(QWidget* parent, std::vector<std::string> const& pr
     return dial;
 }
 
+/// The program's steps that can be taken back, as many as the host of the plug-in keeps.
+QUndoStack& undoStack() {
+    static auto& stack = []() -> QUndoStack& {
+        auto* const made = new QUndoStack;
+        made->setUndoLimit(1000);
+        return *made;
+    }();
+    return stack;
+}
+
 class BareInteger : public QWidget, public BareEditor {
 public:
     BareInteger(QWidget* parent, std::vector<std::string> const& preferences)
@@ -48,12 +59,8 @@ public:
         setLayout(layout);
         change(0);
         connect(control_, &QAbstractSlider::valueChanged, this, [this](int value) {
-            undo_.push_back({"Set int value to " + std::to_string(value_), value_});
-            // No more steps than the host keeps.
-            if (undo_.size() > 1000)
-                undo_.pop_front();
-            value_ = value;
-            showText();
+            if (value != value_)
+                undoStack().push(new SetValue(this, value_, value));
         });
         connect(lineEdit_, &QLineEdit::returnPressed, this, [this] { control_->setValue(lineEdit_->text().toInt()); });
     }
@@ -72,14 +79,33 @@ private:
         lineEdit_->home(false);
     }
 
-    struct Step {
-        std::string description;
-        int previous;
+    class SetValue : public QUndoCommand {
+    public:
+        SetValue(BareInteger* editor, int previous, int value)
+            : QUndoCommand(QLatin1String("Set int value to ") + QString::number(previous)),
+              editor_(editor),
+              previous_(previous),
+              value_(value) {}
+        void undo() override { set(previous_); }
+        void redo() override { set(value_); }
+
+    private:
+        void set(int value) {
+            if (!editor_)
+                return;
+            editor_->value_ = value;
+            editor_->showText();
+            QSignalBlocker const blocker(editor_->control_);
+            editor_->control_->setValue(value);
+        }
+
+        QPointer<BareInteger> const editor_;
+        int const previous_;
+        int const value_;
     };
     // Made first, so that it has the focus, as in the editor: Qt tells the input method of its changes then.
     QLineEdit* const lineEdit_;
     QAbstractSlider* const control_;
-    std::deque<Step> undo_;
     int value_ = 0;
 };
 
