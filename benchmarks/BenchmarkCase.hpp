@@ -32,6 +32,8 @@ struct BenchmarkCase {
     /// One edit by events, the same in both editors, of which every second one is told apart by n, 0 or 1. Empty for
     /// a display.
     std::function<void(QWidget& editor, int n)> edit;
+    /// A drag over a thousand positions of the editor's control; empty where there is nothing to drag.
+    std::function<void(QWidget& editor)> drag;
 };
 
 /// A case whose parameter has a value of type T; its two values are given.
@@ -60,6 +62,7 @@ std::vector<BenchmarkCase> const& benchmarkCases();
 
 // One function for each family, in a file of its own.
 void addBooleanBenchmarks(std::vector<BenchmarkCase>& cases);
+void addNumberBenchmarks(std::vector<BenchmarkCase>& cases);
 void addSelectionBenchmarks(std::vector<BenchmarkCase>& cases);
 void addActionBenchmarks(std::vector<BenchmarkCase>& cases);
 void addTextBenchmarks(std::vector<BenchmarkCase>& cases);

@@ -36,7 +36,8 @@ void MainWindow::makePoolSelector() {
 
 void MainWindow::makeFileMenu() {
     auto* const menu = menuBar()->addMenu(tr("&File"));
-    menu->addAction(tr("&Open..."), this, &MainWindow::askForNetwork, QKeySequence::Open);
+    auto* const openAction = menu->addAction(tr("&Open..."), this, &MainWindow::askForNetwork, QKeySequence::Open);
+    openAction->setObjectName(QStringLiteral("open"));
     menu->addAction(
         tr("&Save values"), this,
         [this] {

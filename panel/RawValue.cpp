@@ -64,8 +64,8 @@ void RawValue::paintEvent(QPaintEvent*) {
     font.setFamily(QStringLiteral("monospace"));
     font.setStyleHint(QFont::Monospace);
     painter.setFont(font);
-    painter.setPen(palette().color(QPalette::WindowText));
-    auto oneLine = text_;
+    painter.setPen(text_.isEmpty() ? mutedText(palette()) : palette().color(QPalette::WindowText));
+    auto oneLine = text_.isEmpty() ? tr("(empty)") : text_;
     oneLine.replace(QLatin1Char('\n'), QChar(0x21B5));
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      QFontMetrics(font).elidedText(oneLine, Qt::ElideRight, line.width()));

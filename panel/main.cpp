@@ -109,6 +109,9 @@ int run(Panel::CommandLine const& commandLine) {
     if (!pluginError.isEmpty())
         refuse(pluginError);
     if (commandLine.listCreators) {
+        // A list without them would be wrong; everything else has stand-ins.
+        if (!pluginError.isEmpty())
+            return badUse;
         printCreators();
         if (!commandLine.values && commandLine.screenshot.isEmpty())
             return 0;

@@ -2,6 +2,7 @@
 
 #include <panel/MissingEditor.hpp>
 #include <QDockWidget>
+#include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
 
@@ -12,7 +13,6 @@ namespace {
 
 class MainWindowTest : public PanelTest {
 protected:
-    QAction* action(char const* name) const { return window->findChild<QAction*>(QString::fromUtf8(name)); }
     QComboBox* poolSelector() const { return window->findChild<QToolBar*>()->findChild<QComboBox*>(); }
     std::string lastMessage() const {
         auto const texts = window->messages()->texts();
@@ -176,6 +176,37 @@ TEST_F(MainWindowTest, ABrokenFileLeavesEverythingOpenAsItWas) {
     EXPECT_TRUE(action("undo")->isEnabled());
     EXPECT_FALSE(window->openNetwork(folder.filePath(QStringLiteral("missing.json")), &error));
     EXPECT_EQ(window->network(), network);
+}
+
+TEST_F(MainWindowTest, ABrokenFileChosenInTheMenuIsToldInABox) {
+    auto const file = networkFile("broken.json", "{ \"pools\": <7> }");
+    auto const* const network = window->network();
+    QTimer::singleShot(0, [&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        dialog->findChild<QLineEdit*>()->setText(file);
+        QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    action("open")->trigger();
+    QPointer<QMessageBox> const box = window->findChild<QMessageBox*>();
+    ASSERT_TRUE(box);
+    EXPECT_THAT(box->informativeText().toStdString(), HasSubstr(file.toStdString() + ":1:"));
+    EXPECT_EQ(window->network(), network);
+    box->accept();
+    EXPECT_TRUE(waitUntil([&] { return box.isNull(); }));
+}
+
+TEST_F(MainWindowTest, UndoTakesAnEditOfAnotherObjectBack) {
+    window->showObject(QStringLiteral("second lamp"));
+    auto* const number = window->currentView()->row(QStringLiteral("level"))->editor()->findChild<QAbstractSlider*>();
+    ASSERT_NE(number, nullptr);
+    number->setFocus();
+    QTest::keyClick(number, Qt::Key_Right);
+    ASSERT_EQ(valueOf("second lamp.level"), "6");
+    window->showObject(QStringLiteral("lamp"));
+    action("undo")->trigger();
+    EXPECT_EQ(valueOf("second lamp.level"), "5");
+    EXPECT_TRUE(window->messages()->texts(Panel::MessageList::Source::Error).isEmpty());
 }
 
 TEST_F(MainWindowTest, AnotherNetworkTakesThePlaceOfTheOpenOne) {

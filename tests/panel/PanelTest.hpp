@@ -37,7 +37,8 @@ protected:
             ] },
             { "name": "second lamp", "parameters": [
                 { "name": "on", "type": "bool", "value": true },
-                { "name": "start", "type": "action", "value": "Start" }
+                { "name": "start", "type": "action", "value": "Start" },
+                { "name": "level", "type": "int", "value": 9, "values": { "day": 5, "night": 2 } }
             ] }
         ]
     })";
@@ -63,6 +64,7 @@ protected:
         return row && row->editor() ? row->editor()->findChild<QCheckBox*>() : nullptr;
     }
     QCheckBox* box(char const* name) const { return box(window->currentView(), name); }
+    QAction* action(char const* name) const { return window->findChild<QAction*>(QString::fromUtf8(name)); }
     /// Sets a value as the host would, in the chosen pool.
     void set(char const* name, char const* text) {
         QString error;

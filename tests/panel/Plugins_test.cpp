@@ -1,6 +1,7 @@
 #include "PanelTest.hpp"
 
 #include <panel/MissingEditor.hpp>
+#include <QMessageBox>
 
 using testing::HasSubstr;
 
@@ -11,7 +12,6 @@ protected:
     Panel::MissingEditor* missing(char const* name) const {
         return qobject_cast<Panel::MissingEditor*>(window->currentView()->row(QString::fromUtf8(name))->editor());
     }
-    QAction* action(char const* name) const { return window->findChild<QAction*>(QString::fromUtf8(name)); }
 };
 
 } // namespace
@@ -83,6 +83,16 @@ TEST_F(PluginsTest, AFileThatWentAwayIsToldAtReload) {
     EXPECT_THAT(error.toStdString(), HasSubstr(copy.toStdString()));
     // The other one is back.
     EXPECT_NE(box("on"), nullptr);
+
+    action("reload")->trigger();
+    QPointer<QMessageBox> const box = window->findChild<QMessageBox*>();
+    ASSERT_TRUE(box);
+    EXPECT_TRUE(box->isVisible());
+    EXPECT_THAT(box->informativeText().toStdString(), HasSubstr(copy.toStdString()));
+    EXPECT_THAT(window->messages()->texts(Panel::MessageList::Source::Error).join(QLatin1Char(' ')).toStdString(),
+                HasSubstr(copy.toStdString()));
+    box->accept();
+    EXPECT_TRUE(waitUntil([&] { return box.isNull(); }));
 }
 
 TEST_F(PluginsTest, AnEditorInUseElsewhereKeepsThePluginLoaded) {

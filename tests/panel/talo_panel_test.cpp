@@ -10,7 +10,7 @@ namespace {
 class TaloPanel : public TaloTest {
 protected:
     /// Runs the program to its end; what it says is in `output` and `errors`.
-    int run(QStringList const& arguments) {
+    int run(QStringList const& arguments, QString const& program = QStringLiteral(TALO_PANEL)) {
         QProcess process;
         auto environment = QProcessEnvironment::systemEnvironment();
         // It has to find by itself that there is no display.
@@ -18,8 +18,10 @@ protected:
         environment.remove(QStringLiteral("DISPLAY"));
         environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
         environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.path());
+        if (!libraries.isEmpty())
+            environment.insert(QStringLiteral("LD_LIBRARY_PATH"), libraries);
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(TALO_PANEL), arguments);
+        process.start(program, arguments);
         EXPECT_TRUE(process.waitForFinished(60000));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         output = process.readAllStandardOutput();
@@ -41,6 +43,8 @@ protected:
 
     QString const fractal = QStringLiteral(TALO_EXAMPLES "/fractal.json");
     QTemporaryDir folder;
+    /// Where a copy of the program finds the host's libraries.
+    QString libraries;
     QByteArray output;
     QString errors;
 };
@@ -145,6 +149,37 @@ TEST_F(TaloPanel, RefusesFilesThatItCannotRead) {
     EXPECT_THAT(refusal({QStringLiteral("--plugin"), write(QStringLiteral("no.talo"), "text")}), HasSubstr("no.talo"));
     EXPECT_THAT(refusal({fractal, QStringLiteral("--screenshot"), folder.filePath(QStringLiteral("missing/a.png"))}),
                 HasSubstr("missing/a.png"));
+}
+
+TEST_F(TaloPanel, OpensANetworkWithoutItsPlugin) {
+    // Beside a copy of the program there is no plug-in; it finds the host's libraries where they are.
+    auto const program = folder.filePath(QStringLiteral("talo_panel"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PANEL), program));
+    libraries = QFileInfo(QStringLiteral(TALO_PANEL)).path();
+    ASSERT_EQ(run({fractal, QStringLiteral("--values")}, program), 0) << qPrintable(errors);
+    EXPECT_FALSE(QJsonDocument::fromJson(output).isNull());
+    EXPECT_THAT(errors.toStdString(), HasSubstr("qtalo_inputs.talo"));
+    ASSERT_EQ(run({fractal, QStringLiteral("--screenshot"), folder.filePath(QStringLiteral("a.png"))}, program), 0);
+    EXPECT_FALSE(QImage(folder.filePath(QStringLiteral("a.png"))).isNull());
+    EXPECT_EQ(run({QStringLiteral("--list-creators")}, program), 2);
+    EXPECT_EQ(output, QByteArray());
+    EXPECT_EQ(run({QStringLiteral("--values")}, program), 2);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("fractal.json"));
+}
+
+TEST_F(TaloPanel, FindsWhatIsInstalledWithIt) {
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("bin")));
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral(TALO_INSTALLED_PLUGINS)));
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral(TALO_INSTALLED_DATA "/examples")));
+    auto const program = folder.filePath(QStringLiteral("bin/talo_panel"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PANEL), program));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE),
+                            folder.filePath(QStringLiteral(TALO_INSTALLED_PLUGINS "/qtalo_inputs.talo"))));
+    ASSERT_TRUE(QFile::copy(fractal, folder.filePath(QStringLiteral(TALO_INSTALLED_DATA "/examples/fractal.json"))));
+    libraries = QFileInfo(QStringLiteral(TALO_PANEL)).path();
+    ASSERT_EQ(run({QStringLiteral("--list-creators"), QStringLiteral("--values")}, program), 0) << qPrintable(errors);
+    EXPECT_THAT(output.toStdString(), HasSubstr("bool\tboolean\tQT\n"));
+    EXPECT_THAT(output.toStdString(), HasSubstr("\"formula\""));
 }
 
 TEST_F(TaloPanel, LoadsTheNamedPluginInsteadOfItsOwn) {

@@ -1,0 +1,58 @@
+#include "PanelTest.hpp"
+
+#include <QLCDNumber>
+
+namespace {
+
+class ObjectListTest : public PanelTest {
+protected:
+    QLCDNumber* icon(char const* object) const {
+        return qobject_cast<QLCDNumber*>(window->objectList()->icon(QString::fromUtf8(object)));
+    }
+};
+
+} // namespace
+
+TEST_F(ObjectListTest, ShowsTheIconOfAnIntegerBesideItsObject) {
+    ASSERT_NE(icon("second lamp"), nullptr);
+    EXPECT_EQ(icon("second lamp")->intValue(), 5);
+    EXPECT_EQ(window->objectList()->icon(QStringLiteral("lamp")), nullptr);
+    EXPECT_EQ(window->objectList()->icon(QStringLiteral("third lamp")), nullptr);
+}
+
+TEST_F(ObjectListTest, AnIconFollowsItsParameterAndThePool) {
+    window->choosePool(QStringLiteral("night"));
+    ASSERT_NE(icon("second lamp"), nullptr);
+    EXPECT_EQ(icon("second lamp")->intValue(), 2);
+    set("second lamp.level", "77");
+    EXPECT_EQ(icon("second lamp")->intValue(), 77);
+}
+
+TEST_F(ObjectListTest, IconsChangeNoValue) {
+    auto const values = window->network()->values();
+    window->objectList()->closeIcons();
+    window->objectList()->openIcons();
+    EXPECT_EQ(window->network()->values(), values);
+}
+
+TEST_F(ObjectListTest, IconsGoAndComeWithThePlugin) {
+    QPointer<QLCDNumber> const old = icon("second lamp");
+    action("unload")->trigger();
+    EXPECT_FALSE(old);
+    EXPECT_EQ(window->objectList()->icon(QStringLiteral("second lamp")), nullptr);
+    action("reload")->trigger();
+    ASSERT_NE(icon("second lamp"), nullptr);
+    EXPECT_EQ(icon("second lamp")->intValue(), 5);
+}
+
+TEST_F(ObjectListTest, AClickOnAnIconChoosesItsObject) {
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    auto* const shown = icon("second lamp");
+    ASSERT_NE(shown, nullptr);
+    // Where the window system would deliver it.
+    auto* const target = window->childAt(shown->mapTo(window.get(), shown->rect().center()));
+    ASSERT_EQ(target, window->objectList()->viewport());
+    QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, shown->mapTo(target, shown->rect().center()));
+    EXPECT_EQ(window->currentView()->object(), window->network()->findObject(QStringLiteral("second lamp")));
+}
