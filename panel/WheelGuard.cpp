@@ -32,8 +32,7 @@ bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
     }
     // A child is not complete before it was polished.
     if (event->type() == QEvent::ChildPolished) {
-        if (auto* const child = qobject_cast<QWidget*>( // clazy:exclude=child-event-qobject-cast
-                static_cast<QChildEvent*>(event)->child()))
+        if (auto* const child = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child()))
             guard(child);
     }
     return QObject::eventFilter(watched, event);
