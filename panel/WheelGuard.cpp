@@ -17,7 +17,8 @@ void WheelGuard::guard(QWidget* widget) {
     if (widget->focusPolicy() == Qt::WheelFocus)
         widget->setFocusPolicy(Qt::StrongFocus);
     widget->installEventFilter(this);
-    for (auto* const child : widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+    auto const children = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (auto* const child : children)
         guard(child);
 }
 
