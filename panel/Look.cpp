@@ -65,7 +65,9 @@ QPalette themePalette(Theme theme) {
 }
 
 void applyLook(Theme theme) {
-    QApplication::setStyle(new PanelStyle);
+    // The application owns its style.
+    auto style = std::make_unique<PanelStyle>();
+    QApplication::setStyle(style.release());
     if (theme != Theme::System) {
         auto const palette = themePalette(theme);
         QApplication::setPalette(palette);
@@ -80,8 +82,8 @@ void applyLook(Theme theme) {
 }
 
 QColor mutedText(QPalette const& palette) {
-    auto const text = palette.color(QPalette::Active, QPalette::WindowText);
-    auto const ground = palette.color(QPalette::Active, QPalette::Window);
+    auto const& text = palette.color(QPalette::Active, QPalette::WindowText);
+    auto const& ground = palette.color(QPalette::Active, QPalette::Window);
     auto const between = [](int near, int far) { return (2 * near + far) / 3; };
     return {between(text.red(), ground.red()), between(text.green(), ground.green()),
             between(text.blue(), ground.blue())};
