@@ -65,7 +65,9 @@ QPalette themePalette(Theme theme) {
 }
 
 void applyLook(Theme theme) {
-    QApplication::setStyle(new PanelStyle);
+    // The application owns its style.
+    auto style = std::make_unique<PanelStyle>();
+    QApplication::setStyle(style.release());
     if (theme != Theme::System) {
         auto const palette = themePalette(theme);
         QApplication::setPalette(palette);

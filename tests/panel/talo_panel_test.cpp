@@ -147,8 +147,9 @@ TEST_F(TaloPanel, RefusesFilesThatItCannotRead) {
     EXPECT_THAT(refusal({QStringLiteral("--plugin"), folder.filePath(QStringLiteral("missing.talo"))}),
                 HasSubstr("missing.talo"));
     EXPECT_THAT(refusal({QStringLiteral("--plugin"), write(QStringLiteral("no.talo"), "text")}), HasSubstr("no.talo"));
-    EXPECT_THAT(refusal({fractal, QStringLiteral("--screenshot"), folder.filePath(QStringLiteral("missing/a.png"))}),
-                HasSubstr("missing/a.png"));
+    // The panel was made before its picture could not be written, and its editors may have said something.
+    EXPECT_EQ(run({fractal, QStringLiteral("--screenshot"), folder.filePath(QStringLiteral("missing/a.png"))}), 2);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("missing/a.png"));
 }
 
 TEST_F(TaloPanel, OpensANetworkWithoutItsPlugin) {
