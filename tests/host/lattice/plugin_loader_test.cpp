@@ -100,11 +100,13 @@ TEST_F(PluginLoading, ALibraryWithoutTheExportIsToldAndClosed) {
 }
 
 TEST_F(PluginLoading, ARenamedFileLacksItsExport) {
-    auto const file = folder_ / "renamed.talo";
-    fs::copy_file(sample_, file);
+    // Beside the first, as a file finds its libraries from where it stands.
+    auto const file = fs::path(sample_).parent_path() / "renamed.talo";
+    fs::copy_file(sample_, file, fs::copy_options::overwrite_existing);
     EXPECT_THAT(loader_.load(file.string()).message,
                 StartsWith("Cannot find the export TALO_API_2023_MAR_29__renamed in the plug-in "));
     EXPECT_FALSE(isMapped(file.string()));
+    fs::remove(file);
 }
 
 TEST_F(PluginLoading, AnIncompatibleFileIsRefusedAndClosed) {
