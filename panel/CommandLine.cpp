@@ -81,7 +81,8 @@ std::optional<CommandLine> CommandLine::parse(QStringList const& arguments, QStr
     line.help = parser.isSet(options.help);
     line.version = parser.isSet(options.version);
 
-    for (auto const& setting : parser.values(options.set)) {
+    auto const settings = parser.values(options.set);
+    for (auto const& setting : settings) {
         int const equals = setting.indexOf(QLatin1Char('='));
         if (equals < 0)
             return refuse(text("--set wants OBJECT.PARAMETER=TEXT and found \"%1\".").arg(setting));

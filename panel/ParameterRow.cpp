@@ -115,7 +115,8 @@ void ParameterRow::nameEditor() {
     nameLabel_->setBuddy(editor_.widget);
     auto const name = lastPart(parameterName_);
     QWidget* firstControl = nullptr;
-    for (auto* const control : editor_.widget->findChildren<QWidget*>()) {
+    auto const controls = editor_.widget->findChildren<QWidget*>();
+    for (auto* const control : controls) {
         if (control->isWindow() || control->focusPolicy() == Qt::NoFocus)
             continue;
         if (!firstControl)
