@@ -18,6 +18,8 @@ public:
 
 /// One kind of editor: how the plug-in's comes to be, how the same is made of bare Qt, and how both are used.
 struct BenchmarkCase {
+    /// What it is called in the results; by default as the creator.
+    std::string name;
     /// The creator that must be chosen, and the preferences of the parameter for which it is; empty for none.
     std::string creator;
     std::vector<std::string> preferences;
@@ -30,6 +32,8 @@ struct BenchmarkCase {
     /// One edit by events, the same in both editors, of which every second one is told apart by n, 0 or 1. Empty for
     /// a display.
     std::function<void(QWidget& editor, int n)> edit;
+    /// A drag over a thousand positions of the editor's control; empty where there is nothing to drag.
+    std::function<void(QWidget& editor)> drag;
 };
 
 /// A case whose parameter has a value of type T; its two values are given.
@@ -37,6 +41,7 @@ template <typename T>
 BenchmarkCase benchmarkCase(std::string const& creator, std::vector<std::string> const& preferences, T const& first,
                             T const& second) {
     BenchmarkCase made;
+    made.name = creator;
     made.creator = creator;
     made.preferences = preferences;
     made.makeParameter = [=] {
@@ -57,5 +62,7 @@ std::vector<BenchmarkCase> const& benchmarkCases();
 
 // One function for each family, in a file of its own.
 void addBooleanBenchmarks(std::vector<BenchmarkCase>& cases);
+void addNumberBenchmarks(std::vector<BenchmarkCase>& cases);
+void addSelectionBenchmarks(std::vector<BenchmarkCase>& cases);
 void addActionBenchmarks(std::vector<BenchmarkCase>& cases);
 void addTextBenchmarks(std::vector<BenchmarkCase>& cases);

@@ -1,19 +1,23 @@
-# talo_add_plugin(NAME SOURCES...)
-# A plug-in file NAME.talo for the host. The project's own plug-in is built by this very function, and it is installed
-# with the package, so that a plug-in from elsewhere gets the same flags.
+# talo_add_plugin(NAME SOURCES... [OUTPUT_NAME FILE])
+# A plug-in file FILE.talo for the host; FILE is NAME unless given. The project's own plug-in is built by this very
+# function, and it is installed with the package, so that a plug-in from elsewhere gets the same flags.
 #
-# The file exports one function, TALO_API_2023_MAR_29__NAME, which one of the sources defines as extern "C" and with
+# The file exports one function, TALO_API_2023_MAR_29__FILE, which one of the sources defines as extern "C" and with
 # default visibility. Everything else in it is hidden, and it has no symbol that the loader must keep unique: a single
 # one of those would keep the file in memory after the host closed it.
 function(talo_add_plugin name)
-    add_library(${name} MODULE ${ARGN})
-    set_target_properties(${name} PROPERTIES PREFIX "" SUFFIX ".talo" AUTOMOC ON)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "OUTPUT_NAME" "")
+    if(NOT arg_OUTPUT_NAME)
+        set(arg_OUTPUT_NAME ${name})
+    endif()
+    add_library(${name} MODULE ${arg_UNPARSED_ARGUMENTS})
+    set_target_properties(${name} PROPERTIES PREFIX "" SUFFIX ".talo" OUTPUT_NAME ${arg_OUTPUT_NAME} AUTOMOC ON)
     target_compile_features(${name} PRIVATE cxx_std_17)
     target_compile_options(${name} PRIVATE -fvisibility=hidden -fvisibility-inlines-hidden
         $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 
     set(map "${CMAKE_CURRENT_BINARY_DIR}/${name}.map")
-    file(CONFIGURE OUTPUT "${map}" CONTENT "{ global: TALO_API_2023_MAR_29__${name}; local: *; };\n")
+    file(CONFIGURE OUTPUT "${map}" CONTENT "{ global: TALO_API_2023_MAR_29__${arg_OUTPUT_NAME}; local: *; };\n")
     target_link_options(${name} PRIVATE "LINKER:--version-script=${map}")
     # With a sanitizer clang leaves its run-time library to the program, and a file without undefined symbols cannot be
     # linked.

@@ -134,7 +134,8 @@ bool MainWindow::choosePool(QString const& name) {
 void MainWindow::choosePool(int index) {
     auto const& pools = network_->pools();
     pools_.setPool(pools.at(static_cast<std::size_t>(index)));
-    for (auto* const view : views())
+    auto const shown = views();
+    for (auto* const view : shown)
         view->showPool();
     // An icon cannot be told of another pool; a new one shows it.
     objectList_->closeIcons();
@@ -183,7 +184,8 @@ std::vector<ObjectView*> MainWindow::views() const {
 }
 
 void MainWindow::closeViews() {
-    for (auto* const view : views()) {
+    auto const shown = views();
+    for (auto* const view : shown) {
         auto* const dock = qobject_cast<QDockWidget*>(view->parentWidget());
         QWidget* const closed = dock ? dock : static_cast<QWidget*>(view);
         closed->hide();
@@ -195,7 +197,8 @@ void MainWindow::closeViews() {
 
 void MainWindow::closeEditors() {
     objectList_->closeIcons();
-    for (auto* const view : views())
+    auto const shown = views();
+    for (auto* const view : shown)
         view->closeEditors();
     // Whoever asked for this is about to take away the code that deletes them.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -203,7 +206,8 @@ void MainWindow::closeEditors() {
 
 void MainWindow::openEditors() {
     objectList_->openIcons();
-    for (auto* const view : views())
+    auto const shown = views();
+    for (auto* const view : shown)
         view->openEditors();
     updatePlugins();
 }

@@ -65,7 +65,8 @@ void MainWindow::makeViewMenu(QAction* showMessages) {
     rawAction_->setCheckable(true);
     rawAction_->setShortcut(tr("Ctrl+R"));
     connect(rawAction_, &QAction::toggled, this, [this](bool shown) {
-        for (auto* const view : views())
+        auto const all = views();
+        for (auto* const view : all)
             view->setRawValuesShown(shown);
     });
     menu->addAction(showMessages);

@@ -38,7 +38,7 @@ bool Plugins::reload(QString* error) {
     emit aboutToChange();
     bool reloaded = unloadFiles(error);
     auto const loaded = loadedFiles();
-    for (auto const& file : qAsConst(knownFiles_)) {
+    for (auto const& file : std::as_const(knownFiles_)) {
         if (!loaded.contains(file))
             reloaded = loadFile(file, error) && reloaded;
     }

@@ -194,9 +194,11 @@ void VInputValue<T>::cachePoolValue() {
     auto const currentPool = pool();
     if (!parameter || !currentPool || !parameter->keepsValuesPerPool())
         return;
+    auto const local = parameter->getLocalValue(currentPool, std::string(), false);
+    bool const isTyped = dynamic_cast<VValue<T> const*>((local ? local : parameter->ownValue()).get());
     T value{};
     // A value of another type gives way to the edited one, which must not share what the cache refers to either.
-    if (!this->getValue(currentPool, std::string(), value))
+    if (!isTyped || !this->getValue(currentPool, std::string(), value))
         cached_ = VValueTrait<T>::Clone(cached_);
 }
 

@@ -44,10 +44,14 @@ PreferencesPtr mergePreferences(PreferencesPtr const& given, PreferencesPtr cons
 }
 
 std::string preferenceText(VCreationPreferences::Names const& names) {
-    std::string text;
-    for (auto const& name : names)
-        text += (text.empty() ? "" : ", ") + name;
-    return "{" + text + "}";
+    std::string text("{");
+    for (auto const& name : names) {
+        if (text.size() > 1)
+            text += ", ";
+        text += name;
+    }
+    text += '}';
+    return text;
 }
 
 VInputBase::VInputBase(Tessera::WeakPtr<VParameter, ValueNotifierList> const& owner) : owner_(owner) {}
@@ -130,11 +134,12 @@ std::vector<InputRegistry::Entry> InputRegistry::entries() const {
 
 VCreationPreferences::Names InputRegistry::wantedPreferences(VParameter const& parameter,
                                                              VCreationPreferences::Names const& frontEnd) {
+    static auto const& textType = *new std::string(Tessera::Typename(typeid(std::string)));
     auto wanted = frontEnd;
     auto const& own = parameter.creationPreferences();
     if (own && !own->names().empty())
         wanted.insert(own->names().begin(), own->names().end());
-    else if (parameter.declaredType() == Tessera::Typename(typeid(std::string)))
+    else if (parameter.declaredType() == textType)
         wanted.insert(VValueTrait<std::string>::OneLine());
     return wanted;
 }
@@ -178,9 +183,14 @@ InputChoice InputRegistry::choose(std::string const& valueType, VCreationPrefere
     if (!creator)
         return {best, "no creator is registered for " + valueType};
     bool const holdsAll = std::get<0>(bestRank) == wanted.size();
-    return {best, creator->describe() + (holdsAll ? " holds all of the wanted " : " shares most with the wanted ") +
-                      preferenceText(wanted) + ", of " + std::to_string(count) +
-                      (count == 1 ? " creator for " : " creators for ") + valueType};
+    // Put together in one place, as it is made for every editor.
+    auto explanation = creator->describe();
+    explanation.reserve(explanation.size() + valueType.size() + 128);
+    explanation += holdsAll ? " holds all of the wanted " : " shares most with the wanted ";
+    explanation += preferenceText(wanted);
+    explanation += ", of " + std::to_string(count) + (count == 1 ? " creator for " : " creators for ");
+    explanation += valueType;
+    return {best, std::move(explanation)};
 }
 
 VInitialization::VInitialization() = default;

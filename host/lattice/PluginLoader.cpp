@@ -17,10 +17,12 @@ std::string loaderReason() {
 }
 
 std::filesystem::path pathOf(std::string const& file) {
-    // A bare name would be searched for in the system's library folders.
+    // A bare name would be searched for in the system's library folders, an empty one would be the program itself, and
+    // a link is the file that it leads to.
     std::error_code ignored;
-    auto const absolute = std::filesystem::absolute(file, ignored);
-    return absolute.lexically_normal();
+    auto const absolute = std::filesystem::absolute(file.empty() ? "." : file, ignored);
+    auto const real = std::filesystem::weakly_canonical(absolute, ignored);
+    return real.empty() ? absolute.lexically_normal() : real;
 }
 
 } // namespace

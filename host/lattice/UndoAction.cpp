@@ -15,34 +15,56 @@ UndoHistory& UndoHistory::theHistory() {
 void UndoHistory::add(Tessera::StrongPtr<VUndoAction> const& action, int weight) {
     if (!action)
         return;
-    if (steps_.size() >= Capacity)
-        steps_.erase(std::min_element(steps_.begin(), steps_.end(),
-                                      [](auto const& left, auto const& right) { return left.weight < right.weight; }));
-    steps_.push_back({action, weight});
+    if (count_ >= Capacity) {
+        auto const lightest = steps_.begin();
+        lightest->second.pop_front();
+        --count_;
+        if (lightest->second.empty())
+            steps_.erase(lightest);
+    }
+    steps_[weight].push_back({action, ++lastNumber_});
+    ++count_;
     changed();
 }
 
 bool UndoHistory::undo() {
-    if (steps_.empty())
+    auto const latest = std::max_element(steps_.begin(), steps_.end(), [](auto const& left, auto const& right) {
+        return left.second.back().number < right.second.back().number;
+    });
+    if (latest == steps_.end())
         return false;
-    auto const action = steps_.back().action;
-    steps_.pop_back();
+    auto const action = latest->second.back().action;
+    latest->second.pop_back();
+    --count_;
+    if (latest->second.empty())
+        steps_.erase(latest);
     bool const undone = action->undo();
     changed();
     return undone;
 }
 
 std::vector<Tessera::StrongPtr<VUndoAction>> UndoHistory::steps() const {
+    std::map<unsigned long, Tessera::StrongPtr<VUndoAction>> inOrder;
+    for (auto const& ofOneWeight : steps_) {
+        for (auto const& step : ofOneWeight.second)
+            inOrder.emplace(step.number, step.action);
+    }
     std::vector<Tessera::StrongPtr<VUndoAction>> actions;
-    for (auto const& step : steps_)
-        actions.push_back(step.action);
+    for (auto const& step : inOrder)
+        actions.push_back(step.second);
     return actions;
 }
 
 void UndoHistory::forget(std::function<bool(VUndoAction const&)> const& predicate) {
-    steps_.erase(
-        std::remove_if(steps_.begin(), steps_.end(), [&](auto const& step) { return predicate(*step.action); }),
-        steps_.end());
+    count_ = 0;
+    for (auto ofOneWeight = steps_.begin(); ofOneWeight != steps_.end();) {
+        auto& steps = ofOneWeight->second;
+        steps.erase(
+            std::remove_if(steps.begin(), steps.end(), [&](auto const& step) { return predicate(*step.action); }),
+            steps.end());
+        count_ += steps.size();
+        ofOneWeight = steps.empty() ? steps_.erase(ofOneWeight) : std::next(ofOneWeight);
+    }
     changed();
 }
 

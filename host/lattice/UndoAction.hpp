@@ -1,6 +1,8 @@
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <map>
 #include <string>
 #include <tessera/Reference.hpp>
 #include <vector>
@@ -46,12 +48,16 @@ public:
 private:
     struct Step {
         Tessera::StrongPtr<VUndoAction> action;
-        int weight;
+        // Tells how late it was recorded.
+        unsigned long number;
     };
     UndoHistory() = default;
     void changed() const;
 
-    std::vector<Step> steps_;
+    // By weight, as a full history forgets the oldest of the lightest at every further step. No list is empty.
+    std::map<int, std::deque<Step>> steps_;
+    std::size_t count_ = 0;
+    unsigned long lastNumber_ = 0;
     std::function<void()> listener_;
 };
 

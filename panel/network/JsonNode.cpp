@@ -133,7 +133,7 @@ private:
 };
 
 JsonNode JsonNode::parse(QByteArray const& json) {
-    QJsonParseError error;
+    QJsonParseError error{};
     auto const document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
         auto const lines = std::count(json.begin(), json.begin() + std::clamp(error.offset, 0, json.size()), '\n');

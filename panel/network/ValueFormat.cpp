@@ -92,7 +92,7 @@ Value readColour(JsonNode const& node, Entries const&) {
         node.refuse(what);
     auto const channel = [&](std::size_t index) {
         auto const number = channels[index].real("a colour channel");
-        if (std::isfinite(number) && std::abs(number) > double{std::numeric_limits<float>::max()})
+        if (std::isfinite(number) && std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
             channels[index].refuse("a colour channel in the range of a float");
         return static_cast<float>(number);
     };

@@ -180,11 +180,13 @@ void QInteger::showAndWrite(int value) {
     auto const outerRecording = recording_;
     recording_ = value;
     QPointer<QInteger> const self(this);
-    owner().strong()->AddUndoAction(step, UndoWeight);
+    if (auto const parameter = owner().strong())
+        parameter->AddUndoAction(step, UndoWeight);
     if (!self)
         return;
     recording_ = outerRecording;
-    showNumber(value);
+    if (shown_ != value)
+        showNumber(value);
     commit(value);
 }
 

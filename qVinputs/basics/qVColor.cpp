@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <memory>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QCloseEvent>
 #include <QSignalBlocker>
@@ -19,17 +18,6 @@ QColor shownColour(Ferro::rgba_float_t const& colour) {
     return QColor::fromRgbF(shownChannel(colour.red), shownChannel(colour.green), shownChannel(colour.blue),
                             shownChannel(colour.alpha));
 }
-
-/// Lets the input of a label live exactly as long as the label.
-class InputKeeper : public QObject {
-    Q_OBJECT
-
-public:
-    InputKeeper(std::unique_ptr<qVColorInput> input, QObject* label) : QObject(label), input_(std::move(input)) {}
-
-private:
-    std::unique_ptr<qVColorInput> const input_;
-};
 
 } // namespace
 
@@ -74,6 +62,11 @@ void qVColorInput::choose(Ferro::rgba_float_t const& colour) {
     if (commit(colour) && label)
         label->showColour(cached_);
 }
+
+qVColorInputKeeper::qVColorInputKeeper(std::unique_ptr<qVColorInput> input, QObject* label)
+    : QObject(label), input_(std::move(input)) {}
+
+qVColorInputKeeper::~qVColorInputKeeper() = default;
 
 qVColor::qVColor(qVColorInput& input, QWidget* parent)
     : QLabel(parent), input_(&input), dialog_(new MyColorDialog(this)) {
@@ -148,7 +141,7 @@ MyqVColorCreator::MyQCreator::create(Tessera::WeakPtr<VParameter, ValueNotifierL
     auto input = std::make_unique<qVColorInput>(parameter, parent, poolSource, preferences);
     InputRef const reference(input.get());
     auto* const label = input->label();
-    new InputKeeper(std::move(input), label);
+    new qVColorInputKeeper(std::move(input), label);
     return {label, reference};
 }
 
@@ -159,5 +152,3 @@ TALO_STATIC_CREATOR MyqVColorCreator const colorDisplayCreator;
 } // namespace
 
 } // namespace Kolt
-
-#include "qVColor.moc"

@@ -4,6 +4,7 @@
 
 #include <bramble/Values.hpp>
 #include <lattice/CreationPreferences.hpp>
+#include <memory>
 #include <QColorDialog>
 #include <QLabel>
 #include <QPointer>
@@ -48,6 +49,18 @@ private:
     bool showValue(Tessera::StrongPtr<VValueBase> const& value);
 
     QPointer<qVColor> label_;
+};
+
+/// Lets the input of a label live exactly as long as the label, whose child it is.
+class qVColorInputKeeper : public QObject {
+    Q_OBJECT
+
+public:
+    qVColorInputKeeper(std::unique_ptr<qVColorInput> input, QObject* label);
+    ~qVColorInputKeeper() override;
+
+private:
+    std::unique_ptr<qVColorInput> const input_;
 };
 
 /// Shows a colour as a framed swatch with the alpha value as its text. A press opens a colour dialog with an alpha

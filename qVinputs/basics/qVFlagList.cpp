@@ -8,7 +8,7 @@ qVFlagList::qVFlagList(Tessera::WeakPtr<VParameter, ValueNotifierList> const& pa
     : QFrame(parent), VInputValue<Options>(parameter, poolSource), layout_(new QVBoxLayout) {
     setLayout(layout_);
     layout_->setContentsMargins(1, 1, 1, 1);
-    setFrameStyle(QFrame::Panel | QFrame::Plain);
+    setFrameStyle(int{QFrame::Panel} | int{QFrame::Plain});
 
     showValue(firstValue());
     activateNotification();

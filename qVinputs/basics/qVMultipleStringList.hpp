@@ -15,6 +15,8 @@
 #include <QVBoxLayout>
 #include <vector>
 
+// moc takes no nested classes: clazy:excludeall=missing-qobject-macro
+
 namespace Kolt {
 
 /// Edits which texts of a list are chosen. Every text is a row of a list in which clicks choose rows. Beside it stand

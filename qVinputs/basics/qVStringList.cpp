@@ -21,8 +21,8 @@ qVStringList::qVStringList(Tessera::WeakPtr<VParameter, ValueNotifierList> const
     cached_ = valueOr(firstValue(), VStringList());
     if (cached_)
         fill();
-    // By name, as the signal with a text is deprecated, yet every Qt 5 has it.
-    connect(comboBox_, SIGNAL(activated(QString)), this, SLOT(selectItem(QString)));
+    // By name, as the compiler warns of the signal with a text, which every Qt 5 has.
+    connect(comboBox_, SIGNAL(activated(QString)), this, SLOT(selectItem(QString))); // clazy:exclude=old-style-connect
     comboBox_->show();
     activateNotification();
 }

@@ -33,7 +33,8 @@ VQStringFileNameInput::VQStringFileNameInput(Tessera::WeakPtr<VParameter, ValueN
 
 VQStringFileNameInput::~VQStringFileNameInput() {
     // An open dialog stands on the stack of the slot, so it must not die as a child of the button.
-    for (auto* const dialog : findChildren<QFileDialog*>(QString(), Qt::FindDirectChildrenOnly)) {
+    auto const dialogs = findChildren<QFileDialog*>(QString(), Qt::FindDirectChildrenOnly);
+    for (auto* const dialog : dialogs) {
         dialog->reject();
         dialog->setParent(nullptr);
     }

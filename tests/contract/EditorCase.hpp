@@ -43,7 +43,8 @@ struct EditorCase {
     bool changesInPlace = false;
     /// Whether the edit of a parameter that is gone prints the owner-fault line, which it then does once.
     bool reportsMissingOwner = true;
-    /// Whether an editor that was opened for a parameter that is gone has anything to edit; one without entries has not.
+    /// Whether an editor that was opened for a parameter that is gone has anything to edit; one without entries has
+    /// not.
     bool editableWithoutOwner = true;
     /// Whether a change from elsewhere is committed once more where it moves what is shown.
     bool commitsWhatItShows = false;

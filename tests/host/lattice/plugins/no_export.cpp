@@ -1,0 +1,6 @@
+// A library that loads well and is no plug-in.
+static int volatile loads = 0;
+
+[[gnu::constructor]] static void load() {
+    loads = loads + 1;
+}
