@@ -178,8 +178,9 @@ ObjectView* MainWindow::currentView() const {
     return static_cast<ObjectView*>(viewStack_->currentWidget());
 }
 
-QList<ObjectView*> MainWindow::views() const {
-    return findChildren<ObjectView*>();
+std::vector<ObjectView*> MainWindow::views() const {
+    auto const found = findChildren<ObjectView*>();
+    return {found.begin(), found.end()};
 }
 
 void MainWindow::closeViews() {

@@ -79,7 +79,7 @@ private:
 
     void showView(Kolt::ObjectPtr const& object);
     ObjectView* makeView(Kolt::ObjectPtr const& object, QWidget* parent);
-    QList<ObjectView*> views() const;
+    std::vector<ObjectView*> views() const;
     void closeViews();
     void closeEditors();
     void openEditors();

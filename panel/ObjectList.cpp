@@ -1,24 +1,8 @@
 #include <memory>
+#include <panel/IconPlace.hpp>
 #include <panel/ObjectList.hpp>
-#include <QHBoxLayout>
 
 namespace Panel {
-
-namespace {
-
-// Lies over an object's row, so that the row stays one piece, and leaves the mouse to it.
-class IconPlace : public QWidget {
-public:
-    IconPlace() {
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        auto* const layout = new QHBoxLayout(this);
-        layout->setContentsMargins(0, 3, 6, 3);
-        layout->addStretch(1);
-    }
-    void setIcon(QWidget* icon) { layout()->addWidget(icon); }
-};
-
-} // namespace
 
 ObjectList::ObjectList(PoolSource& pools, QWidget* parent) : QTreeWidget(parent), iconMaker_(pools) {
     setHeaderHidden(true);
@@ -61,8 +45,8 @@ bool ObjectList::chooseObject(QString const& name) {
 
 QWidget* ObjectList::icon(QString const& name) const {
     auto* const item = findItem(name);
-    auto* const place = item ? itemWidget(item, 0) : nullptr;
-    return place ? place->layout()->itemAt(1)->widget() : nullptr;
+    auto const* const place = item ? static_cast<IconPlace*>(itemWidget(item, 0)) : nullptr;
+    return place ? place->icon() : nullptr;
 }
 
 void ObjectList::openIcons() {

@@ -1,12 +1,10 @@
 #include <algorithm>
 #include <map>
+#include <panel/ContentArea.hpp>
 #include <panel/Look.hpp>
 #include <panel/ObjectView.hpp>
-#include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace Panel {
@@ -15,26 +13,6 @@ namespace {
 
 // Nobody tells of a deleted parameter, so a view looks. In milliseconds.
 constexpr int checkInterval = 250;
-
-// Nothing is cut off at the side while the window can grow. In pixels.
-constexpr int widestMinimum = 720;
-
-// Scrolls up and down; it is at least as wide as its content needs to be.
-class ContentArea : public QScrollArea {
-public:
-    QSize minimumSizeHint() const override {
-        auto const hint = QScrollArea::minimumSizeHint();
-        int const content = widget() ? widget()->minimumSizeHint().width() : 0;
-        return {qMin(content + verticalScrollBar()->sizeHint().width(), widestMinimum), hint.height()};
-    }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::LayoutRequest)
-            updateGeometry();
-        return QScrollArea::eventFilter(watched, event);
-    }
-};
 
 QString groupOf(QString const& parameterName) {
     return parameterName.left(qMax(0, parameterName.lastIndexOf(QLatin1Char('.'))));
@@ -89,8 +67,6 @@ ObjectView::ObjectView(Kolt::ObjectPtr const& object, QString const& kind, PoolS
     groups->addStretch(1);
 
     auto* const scrollArea = new ContentArea;
-    scrollArea->setFrameShape(QFrame::NoFrame);
-    scrollArea->setWidgetResizable(true);
     scrollArea->setWidget(content);
 
     auto* const layout = new QVBoxLayout(this);

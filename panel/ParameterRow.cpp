@@ -3,6 +3,7 @@
 #include <panel/ParameterRow.hpp>
 #include <panel/WheelGuard.hpp>
 #include <QHBoxLayout>
+#include <QLayoutItem>
 
 namespace Panel {
 
@@ -74,8 +75,12 @@ void ParameterRow::openEditor() {
     layout_->insertWidget(1, editor_.widget, 1);
     editor_.widget->show();
     bool const centred = editor_.widget->sizeHint().height() <= highestCentredEditor;
-    layout_->setAlignment(names_, centred ? Qt::AlignVCenter : Qt::AlignTop);
-    layout_->setAlignment(rawValue_, centred ? Qt::AlignVCenter : Qt::AlignTop);
+    auto const vertical = centred ? Qt::AlignVCenter : Qt::AlignTop;
+    layout_->setAlignment(names_, Qt::AlignLeft | vertical);
+    layout_->setAlignment(rawValue_, Qt::AlignLeft | vertical);
+    // One that cannot fill the column stands at its left end.
+    if (layout_->itemAt(1)->maximumSize().width() < QLAYOUTSIZE_MAX)
+        layout_->setAlignment(editor_.widget, Qt::AlignLeft | Qt::AlignVCenter);
     nameEditor();
     describeChoice();
 }

@@ -32,8 +32,9 @@ bool WheelGuard::eventFilter(QObject* watched, QEvent* event) {
     }
     // A child is not complete before it was polished.
     if (event->type() == QEvent::ChildPolished) {
-        if (auto* const child = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child()))
-            guard(child);
+        auto* const child = static_cast<QChildEvent*>(event)->child();
+        if (child->isWidgetType())
+            guard(static_cast<QWidget*>(child));
     }
     return QObject::eventFilter(watched, event);
 }
