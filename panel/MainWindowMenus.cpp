@@ -139,7 +139,7 @@ void MainWindow::updatePlugins() {
     auto const loaded = plugins_.loadedFiles().size();
     unloadAction_->setEnabled(loaded > 0);
     reloadAction_->setEnabled(!plugins_.knownFiles().isEmpty());
-    pluginLabel_->setText(tr("Plug-ins: %1, editors: %2").arg(loaded).arg(creators));
+    pluginLabel_->setText(tr("Plug-ins: %1, kinds of editors: %2").arg(loaded).arg(creators));
 }
 
 } // namespace Panel

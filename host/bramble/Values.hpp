@@ -76,8 +76,8 @@ struct VValueTrait<Ferro::rgba_float_t> : ValueTraitDefaults<Ferro::rgba_float_t
     static bool Equal(Ferro::rgba_float_t const& left, Ferro::rgba_float_t const& right);
 };
 
-/// The text has a line "name=true" or "name=false" for each flag, in order of the names. A text that says anything else
-/// is refused; flags that it leaves out stay as they are.
+/// The text has a line "name=true" or "name=false" for each flag, in order of the names. A text with any other line is
+/// refused. A name that is new is added, flags that the text leaves out stay as they are.
 template <>
 struct VValueTrait<FlagList> : ValueTraitDefaults<FlagList> {
     static std::string Text(FlagList const& value);

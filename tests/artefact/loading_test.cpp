@@ -144,7 +144,7 @@ TEST_P(Loading, AThousandTimesLeavesNothingBehind) {
     EXPECT_THAT(run("cycles"), ElementsAreArray({"1000 cycles"}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, Loading, testing::Values(TALO_PLUGIN_FILE, TALO_LTO_PLUGIN_FILE),
+INSTANTIATE_TEST_SUITE_P(Files, Loading, testing::Values(TALO_PLUGIN_FILES),
                          [](auto const& test) { return test.index == 0 ? "AsShipped" : "LinkTimeOptimised"; });
 
 class LoadingProcess : public TaloTest {};

@@ -44,7 +44,7 @@ TEST_P(Symbols, TheLoaderResolvesEverythingAtOnce) {
     EXPECT_EQ(dlopen(GetParam(), RTLD_LAZY | RTLD_NOLOAD), nullptr) << "the file stays mapped";
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, Symbols, testing::Values(TALO_PLUGIN_FILE, TALO_LTO_PLUGIN_FILE),
+INSTANTIATE_TEST_SUITE_P(Files, Symbols, testing::Values(TALO_PLUGIN_FILES),
                          [](auto const& test) { return test.index == 0 ? "AsShipped" : "LinkTimeOptimised"; });
 
 class HostLibraries : public TaloTest, public testing::WithParamInterface<char const*> {};

@@ -1,7 +1,9 @@
 #include "support/TestHost.hpp"
 
 #include <dlfcn.h>
+#include <panel/MainWindow.hpp>
 #include <QSpinBox>
+#include <QTemporaryDir>
 
 /// A plug-in that was built elsewhere, against the installed package alone.
 class OutsidePluginTest : public TaloTest {
@@ -32,4 +34,30 @@ TEST_F(OutsidePluginTest, ItsEditorIsChosenByItsPreferenceAndWrites) {
     auto const unloaded = loader.unload(TALO_OUTSIDE_PLUGIN);
     EXPECT_TRUE(unloaded.ok) << unloaded.message;
     EXPECT_EQ(dlopen(TALO_OUTSIDE_PLUGIN, RTLD_NOW | RTLD_NOLOAD), nullptr);
+}
+
+TEST_F(OutsidePluginTest, ItsEditorWorksInThePanel) {
+    QTemporaryDir const folder;
+    QFile file(folder.filePath(QLatin1String("counter.json")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"({ "title": "Counter", "pools": ["only"], "objects": [ { "name": "counter", "parameters": [
+        { "name": "count", "type": "int", "value": 41, "preferences": ["spin"] } ] } ] })");
+    file.close();
+
+    Panel::Plugins plugins;
+    QString error;
+    ASSERT_TRUE(plugins.load(QString::fromUtf8(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+    ASSERT_TRUE(plugins.load(QString::fromUtf8(TALO_OUTSIDE_PLUGIN), &error)) << qPrintable(error);
+    {
+        Panel::MainWindow window(plugins);
+        ASSERT_TRUE(window.openNetwork(file.fileName(), &error)) << qPrintable(error);
+        window.show();
+        auto const* const view = window.currentView();
+        ASSERT_NE(view, nullptr);
+        auto* const spinBox = view->findChild<QSpinBox*>();
+        ASSERT_NE(spinBox, nullptr);
+        QTest::keyClick(spinBox, Qt::Key_Up);
+        EXPECT_EQ(window.network()->findParameter(QLatin1String("counter.count"))->ownValue()->Text(), "42");
+    }
+    EXPECT_TRUE(plugins.unload(&error)) << qPrintable(error);
 }
