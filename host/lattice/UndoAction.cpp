@@ -50,6 +50,7 @@ std::vector<Tessera::StrongPtr<VUndoAction>> UndoHistory::steps() const {
             inOrder.emplace(step.number, step.action);
     }
     std::vector<Tessera::StrongPtr<VUndoAction>> actions;
+    actions.reserve(inOrder.size());
     for (auto const& step : inOrder)
         actions.push_back(step.second);
     return actions;
