@@ -17,7 +17,8 @@ if(TALO_SANITIZE)
     target_link_options(talo_compile INTERFACE -fsanitize=${TALO_SANITIZE})
 endif()
 if(TALO_COVERAGE)
-    target_compile_options(talo_compile INTERFACE --coverage -O0)
+    # Threads that count the same line must not lose or turn round each other's counts.
+    target_compile_options(talo_compile INTERFACE --coverage -O0 -fprofile-update=atomic)
     target_link_options(talo_compile INTERFACE --coverage)
 endif()
 
