@@ -107,7 +107,10 @@ template <typename T>
 T valueOr(Tessera::StrongPtr<VValueBase> const& value, T const& fallback) {
     T out = fallback;
     auto const* const typed = dynamic_cast<VTypedValueBase<T> const*>(value.get());
-    return typed && typed->get(out) ? out : fallback;
+    // A value that cannot be read leaves the fallback alone.
+    if (typed)
+        typed->get(out);
+    return out;
 }
 
 /// A new value object.
