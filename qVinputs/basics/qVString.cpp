@@ -36,8 +36,7 @@ void qVString::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VCo
                              ValueMap const* properties) {
     // The input is told of its own commits; a long document need not be read again for each of them.
     auto const* const typed = dynamic_cast<VTypedValueBase<string> const*>(newValue.get());
-    string arrived;
-    if (document()->revision() == committedRevision_ && typed && typed->get(arrived) && arrived == cached_)
+    if (document()->revision() == committedRevision_ && typed && typed->get(told_) && told_ == cached_)
         return;
     if (arrivalOf(newValue, context) == Arrival::Foreign || !take(newValue, properties))
         return;
