@@ -54,6 +54,11 @@ public:
     virtual bool get(T& out) const = 0;
     /// Stores a value; says whether it was accepted.
     virtual bool set(T const& value) = 0;
+    /// Whether it stands for the same value; false where there is none to be had.
+    virtual bool holds(T const& value) const {
+        T own{};
+        return get(own) && VValueTrait<T>::Equal(own, value);
+    }
 
     std::type_info const& valueType() const override { return typeid(T); }
     std::string Text() const override {
@@ -67,9 +72,8 @@ public:
     }
     bool equals(VValueBase const& other) const override {
         auto const* const typed = dynamic_cast<VTypedValueBase const*>(&other);
-        T left{};
-        T right{};
-        return typed && get(left) && typed->get(right) && VValueTrait<T>::Equal(left, right);
+        T value{};
+        return typed && typed->get(value) && holds(value);
     }
 };
 
@@ -88,6 +92,11 @@ public:
         std::lock_guard const lock(mutex_);
         value_ = value;
         return true;
+    }
+    // Compared where it lies: a long text is not copied for it.
+    bool holds(T const& value) const override {
+        std::lock_guard const lock(mutex_);
+        return VValueTrait<T>::Equal(value_, value);
     }
     Tessera::StrongPtr<VValueBase> clone() const override {
         T value{};

@@ -36,7 +36,7 @@ void qVString::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VCo
                              ValueMap const* properties) {
     // The input is told of its own commits; a long document need not be read again for each of them.
     auto const* const typed = dynamic_cast<VTypedValueBase<string> const*>(newValue.get());
-    if (document()->revision() == committedRevision_ && typed && typed->get(told_) && told_ == cached_)
+    if (document()->revision() == committedRevision_ && typed && typed->holds(cached_))
         return;
     if (arrivalOf(newValue, context) == Arrival::Foreign || !take(newValue, properties))
         return;
@@ -46,7 +46,9 @@ void qVString::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VCo
 }
 
 void qVString::newText() {
-    cached_ = document()->toPlainText().toStdString();
+    auto const text = document()->toPlainText().toUtf8();
+    // Into the room that the last text had: a long one is written at every key.
+    cached_.assign(text.constData(), static_cast<std::size_t>(text.size()));
     committedRevision_ = document()->revision();
     ValueNotifierList self;
     self.addNotifier(Tessera::WeakPtr<ValueNotifier>(this));

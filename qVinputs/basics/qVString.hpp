@@ -39,8 +39,6 @@ protected:
 private:
     // The state of the document that was committed last.
     int committedRevision_ = -1;
-    // Room for the value told of; kept, as each commit of a long text needs it again.
-    std::string told_;
     bool destroying_ = false;
 };
 

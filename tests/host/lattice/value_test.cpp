@@ -1,4 +1,5 @@
 #include "support/TaloTest.hpp"
+#include <cmath>
 #include <lattice/Object.hpp>
 #include <lattice/Value.hpp>
 #include <limits>
@@ -159,9 +160,19 @@ TEST_F(Values, AStoreSaysWhetherItWasAccepted) {
     EXPECT_TRUE(value.equals(*makeValue(7)));
 }
 
+TEST_F(Values, AreComparedWithPlainOnesAsTheirTraitSays) {
+    Kolt::VValue<double> const notANumber(std::nan(""));
+    EXPECT_TRUE(notANumber.holds(std::nan("")));
+    EXPECT_FALSE(notANumber.holds(0.0));
+    Computed value;
+    EXPECT_TRUE(value.holds(1));
+    EXPECT_FALSE(value.holds(0));
+}
+
 TEST_F(Values, OneThatCannotBeHadHasNoText) {
     Computed value;
     value.available = false;
+    EXPECT_FALSE(value.holds(1));
     EXPECT_EQ(value.Text(), "");
     EXPECT_FALSE(value.setValueFromText("7"));
     EXPECT_FALSE(value.equals(*makeValue(1)));
