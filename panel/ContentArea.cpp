@@ -19,7 +19,7 @@ ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent) {
 ContentArea::~ContentArea() = default;
 
 QSize ContentArea::minimumSizeHint() const {
-    int const content = widget() ? widget()->minimumSizeHint().width() : 0;
+    int const content = widget() ? qMax(widget()->minimumSizeHint().width(), widget()->minimumWidth()) : 0;
     return {qMin(content + verticalScrollBar()->sizeHint().width(), widestMinimum),
             QScrollArea::minimumSizeHint().height()};
 }

@@ -1,17 +1,15 @@
 #pragma once
 
 #include <lattice/Object.hpp>
-#include <panel/ParameterRow.hpp>
+#include <panel/RowArea.hpp>
 #include <QTimer>
 #include <QWidget>
 #include <vector>
 
-class QVBoxLayout;
-
 namespace Panel {
 
-/// The parameters of one object, one row each, grouped by what stands before the last dot of their names, in a scroll
-/// area. Any number of views may show one object; they stay in step through the host's notifications.
+/// The parameters of one object in a scroll area, below its name and what it is for. Any number of views may show one
+/// object; they stay in step through the host's notifications.
 ///
 /// The view refers to the object weakly. User-interface thread.
 class ObjectView : public QWidget {
@@ -24,29 +22,26 @@ public:
 
     /// The shown object; null when it is gone.
     Kolt::ObjectPtr object() const { return object_.strong(); }
-    std::vector<ParameterRow*> const& rows() const { return rows_; }
-    /// The row of a parameter by its whole name; null when there is none.
-    ParameterRow* row(QString const& parameterName) const;
+    /// The rows that stand at the moment; all of them where the object has few parameters and the view was shown.
+    std::vector<ParameterRow*> rows() const { return rows_->rows(); }
+    /// The row of a parameter by its whole name, which is made if it does not stand; null when there is none.
+    ParameterRow* row(QString const& parameterName) const { return rows_->row(parameterName); }
+    RowArea* rowArea() const { return rows_; }
 
-    void openEditors();
+    void openEditors() { rows_->openEditors(); }
     /// Hides and deletes all editors, as before a plug-in is unloaded.
-    void closeEditors();
+    void closeEditors() { rows_->closeEditors(); }
     /// Shows in every row what the chosen pool holds.
-    void showPool();
-    void setRawValuesShown(bool shown);
+    void showPool() { rows_->showPool(); }
+    void setRawValuesShown(bool shown) { rows_->setRawValuesShown(shown); }
 
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void checkParameters();
-    void alignNames();
-
     Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase> const object_;
-    std::vector<ParameterRow*> rows_;
-    // Only ever grows, so that the editors stay in their place when another pool is chosen.
-    int nameWidth_ = 0;
+    RowArea* const rows_;
     QTimer checkTimer_;
 };
 

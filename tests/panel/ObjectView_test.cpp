@@ -2,6 +2,9 @@
 
 #include <panel/MissingEditor.hpp>
 #include <QGroupBox>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <random>
 #include <thread>
 
 using testing::HasSubstr;
@@ -16,6 +19,8 @@ protected:
 } // namespace
 
 TEST_F(ObjectViewTest, GroupsParametersByWhatStandsBeforeTheLastDot) {
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     auto const boxes = window->currentView()->findChildren<QGroupBox*>();
     ASSERT_EQ(boxes.size(), 2);
     EXPECT_EQ(boxes[0]->title(), QString());
@@ -109,4 +114,177 @@ TEST_F(ObjectViewTest, AnObjectThatIsGoneLeavesItsViewStanding) {
     view->showPool();
     EXPECT_EQ(view->rows().front()->noteLabel()->text(), QStringLiteral("was removed"));
     EXPECT_EQ(view->rows().front()->rawValue()->stamp(), QStringLiteral("removed"));
+}
+
+namespace {
+
+/// A view of an object with many parameters, of which only a few can be seen.
+class LongObjectView : public PanelTest {
+protected:
+    static constexpr int count = 10'000;
+
+    void SetUp() override {
+        PanelTest::SetUp();
+        for (int number = 0; number < count; ++number) {
+            auto const name = std::to_string(number);
+            auto const value = number % 3 == 0   ? Kolt::makeValue(number)
+                               : number % 3 == 1 ? Kolt::makeValue(number % 2 == 0)
+                                                 : Kolt::makeValue("text " + name);
+            object->addParameter(Kolt::ParameterPtr(new Kolt::VParameter("p" + name, value)));
+        }
+        frame.resize(700, 500);
+        view = new Panel::ObjectView(object, QString(), window->pools(), &frame);
+        view->resize(frame.size());
+        frame.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&frame));
+    }
+
+    void TearDown() override {
+        // Before the plug-in goes.
+        delete view;
+        PanelTest::TearDown();
+    }
+
+    QScrollBar* bar() const { return view->rowArea()->verticalScrollBar(); }
+    QRect seen(QWidget const* widget) const {
+        auto const* const viewport = view->rowArea()->viewport();
+        return QRect(widget->mapTo(viewport, QPoint()), widget->size()) & viewport->rect();
+    }
+    /// What the user sees has no gap: each row begins where the one before it ends.
+    void expectRowsWithoutGaps() const {
+        int bottom = -1;
+        int visible = 0;
+        for (auto const* const row : view->rows()) {
+            if (seen(row).isEmpty())
+                continue;
+            int const top = row->mapTo(view->rowArea()->viewport(), QPoint()).y();
+            if (bottom >= 0)
+                EXPECT_EQ(top, bottom + 6) << qPrintable(row->parameterName());
+            else
+                EXPECT_LE(top, 30) << qPrintable(row->parameterName());
+            bottom = top + row->height();
+            ++visible;
+        }
+        EXPECT_GE(bottom, view->rowArea()->viewport()->height() - 40);
+        EXPECT_GE(visible, 5);
+    }
+
+    static void tabInto(Panel::ParameterRow const* row) { row->editor()->findChild<QLineEdit*>()->setFocus(); }
+
+    Kolt::ObjectPtr const object{new Kolt::VObject("long")};
+    QWidget frame;
+    Panel::ObjectView* view = nullptr;
+};
+
+} // namespace
+
+TEST_F(LongObjectView, MakesTheRowsThatCanBeSeenAlone) {
+    EXPECT_LT(view->rows().size(), 30U);
+    EXPECT_EQ(view->rowArea()->shownCount(), count);
+    expectRowsWithoutGaps();
+    EXPECT_EQ(view->rows().front()->parameterName(), QStringLiteral("p0"));
+}
+
+TEST_F(LongObjectView, ScrolledThroughNeverHasAGapAndKeepsFewRows) {
+    std::mt19937 random(11);
+    for (int step = 0; step < 200; ++step) {
+        SCOPED_TRACE(step);
+        bar()->setValue(step % 4 == 3 ? static_cast<int>(random() % static_cast<unsigned>(bar()->maximum()))
+                                      : bar()->value() + static_cast<int>(random() % 400) - 100);
+        expectRowsWithoutGaps();
+        EXPECT_LT(view->rows().size(), 100U);
+    }
+    bar()->setValue(bar()->maximum());
+    EXPECT_EQ(view->rows().back()->parameterName(), QStringLiteral("p9999"));
+    EXPECT_FALSE(seen(view->rows().back()).isEmpty());
+}
+
+TEST_F(LongObjectView, KeepsWhatIsSeenInItsPlaceWhereARowAboveIsHigherThanThought) {
+    bar()->setValue(bar()->maximum() / 2);
+    auto const rows = view->rows();
+    auto const* const row = rows.at(rows.size() - 4);
+    auto const before = seen(row);
+    ASSERT_FALSE(before.isEmpty());
+    bar()->setValue(bar()->value() - 40);
+    EXPECT_EQ(seen(row).top(), before.top() + 40);
+    // Someone above the seen rows grows.
+    for (auto* const each : view->rows()) {
+        if (each != row && seen(each).isEmpty())
+            each->editor()->setMinimumHeight(90);
+    }
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(seen(row).top(), before.top() + 40);
+}
+
+TEST_F(LongObjectView, GoesThroughAllControlsByTab) {
+    frame.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+    auto* const first = view->row(QStringLiteral("p0"));
+    tabInto(first);
+    for (int number = 0; number < 90; ++number) {
+        auto* const row = view->row(QStringLiteral("p%1").arg(number));
+        ASSERT_TRUE(row->isAncestorOf(QApplication::focusWidget())) << number;
+        EXPECT_FALSE(seen(QApplication::focusWidget()).isEmpty()) << number;
+        // A number has a handle and a line edit.
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        if (number % 3 == 0) {
+            ASSERT_TRUE(row->isAncestorOf(QApplication::focusWidget())) << number;
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+    }
+    for (int number = 89; number >= 0; --number) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        if (number % 3 == 0)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+        ASSERT_TRUE(view->row(QStringLiteral("p%1").arg(number))->isAncestorOf(QApplication::focusWidget())) << number;
+    }
+}
+
+TEST_F(LongObjectView, KeepsTheRowThatHasTheFocus) {
+    frame.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
+    QPointer<Panel::ParameterRow> const row = view->row(QStringLiteral("p2"));
+    auto* const lineEdit = row->findChild<QLineEdit*>();
+    lineEdit->setFocus();
+    bar()->setValue(bar()->maximum());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_TRUE(row);
+    QTest::keyClicks(lineEdit, "!");
+    EXPECT_EQ(object->findParameter("p2")->ownValue()->Text(), lineEdit->text().toStdString());
+    EXPECT_EQ(view->row(QStringLiteral("p2")), row);
+}
+
+TEST_F(LongObjectView, ShowsTheParametersOfAFilterAlone) {
+    view->rowArea()->setFilter([](auto const& parameter) { return parameter.Name().size() == 2; });
+    EXPECT_EQ(view->rowArea()->shownCount(), 10);
+    std::vector<std::string> names;
+    for (auto const* const row : view->rows())
+        if (!row->isHidden())
+            names.push_back(row->parameterName().toStdString());
+    EXPECT_THAT(names, testing::ElementsAre("p0", "p1", "p2", "p3", "p4", "p5", "p6", "p7", "p8", "p9"));
+    bar()->setValue(bar()->maximum());
+    view->rowArea()->setFilter({});
+    EXPECT_EQ(view->rowArea()->shownCount(), count);
+    EXPECT_EQ(bar()->value(), 0);
+    expectRowsWithoutGaps();
+}
+
+TEST_F(LongObjectView, LeavesOutAParameterThatWentBeforeItsRowWasMade) {
+    object->removeParameter(object->findParameter("p300"));
+    for (int value = 0; value < 20'000; value += 200)
+        bar()->setValue(value);
+    EXPECT_EQ(view->row(QStringLiteral("p300")), nullptr);
+    EXPECT_NE(view->row(QStringLiteral("p301")), nullptr);
+    EXPECT_EQ(view->rowArea()->shownCount(), count - 1);
+}
+
+TEST_F(LongObjectView, OpensRowsMadeLaterWithoutEditorsWhileTheyAreClosed) {
+    view->closeEditors();
+    bar()->setValue(bar()->maximum() / 3);
+    for (auto const* const row : view->rows())
+        EXPECT_EQ(row->editor(), nullptr) << qPrintable(row->parameterName());
+    view->openEditors();
+    for (auto const* const row : view->rows())
+        EXPECT_NE(row->editor(), nullptr) << qPrintable(row->parameterName());
+    expectRowsWithoutGaps();
 }

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <functional>
+#include <lattice/Object.hpp>
+#include <map>
+#include <panel/ContentArea.hpp>
+#include <panel/ParameterRow.hpp>
+#include <QMargins>
+#include <set>
+#include <string>
+#include <vector>
+
+class QGroupBox;
+
+namespace Panel {
+
+/// The rows of any number of parameters below each other, grouped by what stands before the last dot of their names.
+/// Only rows that can be seen are made, and those that were scrolled far away are deleted again, so an object with ten
+/// thousand parameters opens as fast as one with ten. The height of a row that was never made is estimated by one that
+/// shows a parameter of the same type and preferences; what the user sees stays in its place when the estimate was
+/// wrong.
+///
+/// Tab and Shift+Tab go through the controls of all rows in their order, made or not, and on to what follows.
+///
+/// The parameters are referred to weakly; one that goes before its row was made has none. User-interface thread.
+class RowArea : public ContentArea {
+    Q_OBJECT
+
+public:
+    /// `pools` must outlive the area. Editors are open.
+    RowArea(std::vector<Kolt::ParameterPtr> const& parameters, PoolSource& pools, QWidget* parent = nullptr);
+    ~RowArea() override;
+
+    /// The rows that stand, in their order.
+    std::vector<ParameterRow*> rows() const;
+    /// The row of a parameter by its whole name, which is made if it does not stand; null when there is no such
+    /// parameter.
+    ParameterRow* row(QString const& parameterName);
+
+    void openEditors();
+    /// Hides and deletes all editors; rows made from now on have none until they are opened again.
+    void closeEditors();
+    /// Shows in every row what the chosen pool holds.
+    void showPool();
+    /// Has the rows note which parameters are gone.
+    void checkParameters();
+    void setRawValuesShown(bool shown);
+    /// Leaves out the parameters for which the predicate does not hold; an empty one shows all.
+    void setFilter(std::function<bool(Kolt::VParameter const&)> const& filter);
+    /// How many parameters are not left out.
+    int shownCount() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    struct Entry {
+        QString name;
+        Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> parameter;
+        // What the row is like: rows of one sort are taken to be equally high.
+        std::string sort;
+        std::size_t group = 0;
+        // In the content; a parameter that is left out has no height.
+        int top = 0;
+        int height = 0;
+        bool shown = true;
+        ParameterRow* row = nullptr;
+    };
+    struct Group {
+        QString title;
+        QGroupBox* box = nullptr;
+        int top = 0;
+        int height = 0;
+    };
+
+    void measureBoxes();
+    Entry* entryOf(QWidget const* widget);
+    int rowWidth() const;
+    void make(Entry& entry);
+    /// Takes over how high a row wants to be; says whether that is news.
+    bool measure(Entry& entry);
+    void measureAll();
+    /// Gives everything its place.
+    void arrange();
+    /// The same, where the first row that the user sees stays in its place.
+    void arrangeInPlace();
+    void makeVisibleRows();
+    void dropFarRows();
+    int visibleTop() const;
+    int visibleBottom() const;
+    bool focusControl(Entry const& entry, bool first);
+    bool focusOutside(QWidget const* from, bool next);
+
+    PoolSource& pools_;
+    QWidget* const content_;
+    std::vector<Group> groups_;
+    // Those of one group stand together.
+    std::vector<Entry> entries_;
+    // The places in the list of those that have a row.
+    std::set<std::size_t> made_;
+    QMargins titledBox_;
+    QMargins plainBox_;
+    // By sort.
+    std::map<std::string, int> heights_;
+    // Both only ever grow, so that the editors stay in their place when another pool is chosen.
+    int nameWidth_ = 0;
+    int leastRowWidth_ = 0;
+    bool editorsOpen_ = true;
+    bool rawValuesShown_ = false;
+    bool making_ = false;
+};
+
+} // namespace Panel
