@@ -10,6 +10,12 @@
 
 namespace Panel {
 
+namespace {
+
+constexpr int keptViews = 8;
+
+} // namespace
+
 MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     : QMainWindow(parent),
       plugins_(plugins),
@@ -17,6 +23,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
       viewStack_(new QStackedWidget),
       messages_(new MessageList),
       poolSelector_(new QComboBox),
+      filterField_(new QLineEdit),
       pluginLabel_(new QLabel) {
     auto* const splitter = new QSplitter;
     splitter->addWidget(objectList_);
@@ -34,7 +41,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     addDockWidget(Qt::BottomDockWidgetArea, messageDock);
     resizeDocks({messageDock}, {110}, Qt::Vertical);
 
-    makePoolSelector();
+    makeToolBar();
     makeFileMenu();
     makeEditMenu();
     makeViewMenu(messageDock->toggleViewAction());
@@ -101,6 +108,7 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
                        .arg(network_->title().isEmpty() ? QFileInfo(network_->file()).fileName() : network_->title()));
     setWindowFilePath(network_->file());
     objectList_->showNetwork(network_.get());
+    filterField_->clear();
     if (!network_->objects().empty())
         showObject(QString::fromStdString(network_->objects().front()->Name()));
 }
@@ -137,6 +145,7 @@ void MainWindow::choosePool(int index) {
     auto const shown = views();
     for (auto* const view : shown)
         view->showPool();
+    applyFilter();
     // An icon cannot be told of another pool; a new one shows it.
     objectList_->closeIcons();
     objectList_->openIcons();
@@ -145,18 +154,28 @@ void MainWindow::choosePool(int index) {
 void MainWindow::showView(Kolt::ObjectPtr const& object) {
     for (int index = 0; index < viewStack_->count(); ++index) {
         if (static_cast<ObjectView*>(viewStack_->widget(index))->object() == object) {
-            viewStack_->setCurrentIndex(index);
+            // The last of the stack is the one that was shown last.
+            auto* const known = viewStack_->widget(index);
+            viewStack_->removeWidget(known);
+            viewStack_->addWidget(known);
+            viewStack_->setCurrentWidget(known);
             return;
         }
     }
     auto* const view = makeView(object, viewStack_);
     viewStack_->addWidget(view);
     viewStack_->setCurrentWidget(view);
+    while (viewStack_->count() > keptViews) {
+        auto* const oldest = viewStack_->widget(0);
+        viewStack_->removeWidget(oldest);
+        oldest->deleteLater();
+    }
 }
 
 ObjectView* MainWindow::makeView(Kolt::ObjectPtr const& object, QWidget* parent) {
     auto* const view = new ObjectView(object, network_->kind(object), pools_, parent);
     view->setRawValuesShown(rawAction_->isChecked());
+    view->setFilter(ParameterFilter(filterField_->text()));
     return view;
 }
 
@@ -214,6 +233,24 @@ void MainWindow::openEditors() {
 
 void MainWindow::setRawValuesShown(bool shown) {
     rawAction_->setChecked(shown);
+}
+
+void MainWindow::setFilter(QString const& words) {
+    filterField_->setText(words);
+}
+
+void MainWindow::applyFilter() {
+    if (!network_)
+        return;
+    auto const filter = ParameterFilter(filterField_->text());
+    auto const pool = pools_.pool();
+    if (filter.isEmpty())
+        objectList_->setFilter({});
+    else
+        objectList_->setFilter([&](auto const& object) { return filter.finds(object, pool); });
+    auto const shown = views();
+    for (auto* const view : shown)
+        view->setFilter(filter);
 }
 
 void MainWindow::tapStandardOutput() {

@@ -11,14 +11,15 @@
 #include <panel/WarningListener.hpp>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QStackedWidget>
+#include <QToolBar>
 
 namespace Panel {
 
 /// The control panel: the objects of a network on the left, the parameters of the chosen one on the right, messages
-/// below. It owns the network. The views of objects that were once chosen are kept, so that steps recorded by their
-/// editors can still be taken back.
+/// below. It owns the network. The views of the objects that were chosen last are kept.
 ///
 /// One for the process at a time, as it is told of the host's warnings, undo steps and scheduled objects.
 /// User-interface thread.
@@ -48,6 +49,8 @@ public:
     /// is chosen.
     ObjectView* addView();
     void setRawValuesShown(bool shown);
+    /// Shows the parameters that these words find (ParameterFilter), and the objects that have some.
+    void setFilter(QString const& words);
     /// From now on lines on standard output are messages, too.
     void tapStandardOutput();
 
@@ -66,7 +69,9 @@ private:
     void makeEditMenu();
     void makeViewMenu(QAction* showMessages);
     void makePluginMenu();
-    void makePoolSelector();
+    void makeToolBar();
+    void makePoolSelector(QToolBar& toolBar);
+    void makeFilterField(QToolBar& toolBar);
 
     void askForNetwork();
     void askForSaveFile();
@@ -84,6 +89,7 @@ private:
     void closeEditors();
     void openEditors();
     void choosePool(int index);
+    void applyFilter();
     void updateUndo();
     void updatePlugins();
 
@@ -98,8 +104,10 @@ private:
     QStackedWidget* const viewStack_;
     MessageList* const messages_;
     QComboBox* const poolSelector_;
+    QLineEdit* const filterField_;
     QLabel* const pluginLabel_;
     QAction* undoAction_ = nullptr;
+    QAction* findAction_ = nullptr;
     QAction* rawAction_ = nullptr;
     QAction* unloadAction_ = nullptr;
     QAction* reloadAction_ = nullptr;

@@ -3,7 +3,6 @@
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QToolBar>
 
 namespace Panel {
 
@@ -15,15 +14,52 @@ QString networkFilter() {
 
 } // namespace
 
-void MainWindow::makePoolSelector() {
-    auto* const toolBar = addToolBar(tr("Pool"));
+void MainWindow::makeToolBar() {
+    auto* const toolBar = addToolBar(tr("Pool and filter"));
     toolBar->setObjectName(QStringLiteral("pool"));
     toolBar->setMovable(false);
+    makePoolSelector(*toolBar);
+    auto* const gap = new QWidget;
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    toolBar->addWidget(gap);
+    makeFilterField(*toolBar);
+}
+
+void MainWindow::makeFilterField(QToolBar& toolBar) {
+    filterField_->setObjectName(QStringLiteral("filter"));
+    filterField_->setPlaceholderText(tr("Filter by name, object or value"));
+    filterField_->setAccessibleName(tr("Filter"));
+    filterField_->setToolTip(tr("Shows the parameters whose name, object or value has all of these words"));
+    filterField_->setClearButtonEnabled(true);
+    filterField_->setMaximumWidth(34 * filterField_->fontMetrics().averageCharWidth());
+    toolBar.addWidget(filterField_);
+    connect(filterField_, &QLineEdit::textChanged, this, &MainWindow::applyFilter);
+
+    findAction_ = new QAction(tr("&Find a parameter"), this);
+    findAction_->setObjectName(QStringLiteral("find"));
+    findAction_->setShortcut(QKeySequence::Find);
+    connect(findAction_, &QAction::triggered, this, [this] {
+        filterField_->setFocus(Qt::ShortcutFocusReason);
+        filterField_->selectAll();
+    });
+    auto* const clearAction = new QAction(filterField_);
+    clearAction->setShortcut(Qt::Key_Escape);
+    clearAction->setShortcutContext(Qt::WidgetShortcut);
+    connect(clearAction, &QAction::triggered, filterField_, &QLineEdit::clear);
+    filterField_->addAction(clearAction);
+    // On to what was found.
+    connect(filterField_, &QLineEdit::returnPressed, this, [this] {
+        if (currentView())
+            currentView()->focusFirstEditor();
+    });
+}
+
+void MainWindow::makePoolSelector(QToolBar& toolBar) {
     auto* const label = new QLabel(tr("P&ool:"));
     label->setContentsMargins(8, 0, 6, 0);
     label->setBuddy(poolSelector_);
-    toolBar->addWidget(label);
-    toolBar->addWidget(poolSelector_);
+    toolBar.addWidget(label);
+    toolBar.addWidget(poolSelector_);
     poolSelector_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     poolSelector_->setMinimumContentsLength(12);
     poolSelector_->setAccessibleName(tr("Pool"));
@@ -54,6 +90,8 @@ void MainWindow::makeEditMenu() {
     auto* const menu = menuBar()->addMenu(tr("&Edit"));
     undoAction_ = menu->addAction(tr("&Undo"), this, &MainWindow::undo, QKeySequence::Undo);
     undoAction_->setObjectName(QStringLiteral("undo"));
+    menu->addSeparator();
+    menu->addAction(findAction_);
 }
 
 void MainWindow::makeViewMenu(QAction* showMessages) {

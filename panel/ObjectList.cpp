@@ -43,31 +43,59 @@ bool ObjectList::chooseObject(QString const& name) {
     return item != nullptr;
 }
 
-QWidget* ObjectList::icon(QString const& name) const {
+QWidget* ObjectList::icon(QString const& name) {
     auto* const item = findItem(name);
-    auto const* const place = item ? static_cast<IconPlace*>(itemWidget(item, 0)) : nullptr;
+    if (!item)
+        return nullptr;
+    makeIcon(item);
+    auto const* const place = static_cast<IconPlace*>(itemWidget(item, 0));
     return place ? place->icon() : nullptr;
 }
 
-void ObjectList::openIcons() {
+void ObjectList::setFilter(std::function<bool(Kolt::VObject const&)> const& filter) {
+    QTreeWidgetItem* firstShown = nullptr;
     for (int index = 0; index < topLevelItemCount(); ++index) {
         auto* const item = topLevelItem(index);
         auto const object = objectOf(item);
-        if (!object || itemWidget(item, 0))
-            continue;
-        auto place = std::make_unique<IconPlace>();
-        auto* const icon = iconMaker_.makeIcon(object, place.get());
-        if (!icon)
-            continue;
-        icon->setAccessibleName(item->text(0));
-        // Readable on a chosen row, too.
-        icon->setAutoFillBackground(true);
-        place->setIcon(icon);
-        setItemWidget(item, 0, place.release());
+        bool const shown = !filter || (object && filter(*object));
+        item->setHidden(!shown);
+        if (shown && !firstShown)
+            firstShown = item;
     }
+    if (firstShown && (!currentItem() || currentItem()->isHidden()))
+        setCurrentItem(firstShown);
+    makeVisibleIcons();
+}
+
+void ObjectList::openIcons() {
+    iconsOpen_ = true;
+    makeVisibleIcons();
+}
+
+void ObjectList::makeVisibleIcons() {
+    if (!isVisible())
+        return;
+    for (auto* item = itemAt(0, 0); item && visualItemRect(item).top() < viewport()->height(); item = itemBelow(item))
+        makeIcon(item);
+}
+
+void ObjectList::makeIcon(QTreeWidgetItem* item) {
+    auto const object = objectOf(item);
+    if (!iconsOpen_ || !object || itemWidget(item, 0))
+        return;
+    auto place = std::make_unique<IconPlace>();
+    auto* const icon = iconMaker_.makeIcon(object, place.get());
+    if (!icon)
+        return;
+    icon->setAccessibleName(item->text(0));
+    // Readable on a chosen row, too.
+    icon->setAutoFillBackground(true);
+    place->setIcon(icon);
+    setItemWidget(item, 0, place.release());
 }
 
 void ObjectList::closeIcons() {
+    iconsOpen_ = false;
     iconMaker_.forgetCreators();
     for (int index = 0; index < topLevelItemCount(); ++index) {
         // The view deletes the widget as soon as Qt is done with it.
@@ -76,6 +104,21 @@ void ObjectList::closeIcons() {
             removeItemWidget(topLevelItem(index), 0);
         }
     }
+}
+
+void ObjectList::resizeEvent(QResizeEvent* event) {
+    QTreeWidget::resizeEvent(event);
+    makeVisibleIcons();
+}
+
+void ObjectList::showEvent(QShowEvent* event) {
+    QTreeWidget::showEvent(event);
+    makeVisibleIcons();
+}
+
+void ObjectList::scrollContentsBy(int dx, int dy) {
+    QTreeWidget::scrollContentsBy(dx, dy);
+    makeVisibleIcons();
 }
 
 QTreeWidgetItem* ObjectList::findItem(QString const& name) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <panel/IconMaker.hpp>
 #include <panel/network/Network.hpp>
 #include <QTreeWidget>
@@ -7,7 +8,7 @@
 namespace Panel {
 
 /// The objects of a network, each with its name and, where one of its parameters can be shown as an icon, that icon.
-/// User-interface thread.
+/// Icons are made for the objects that can be seen. User-interface thread.
 class ObjectList : public QTreeWidget {
     Q_OBJECT
 
@@ -20,8 +21,11 @@ public:
     void showNetwork(Network const* network);
     /// Chooses an object by its name; false when it is not in the list.
     bool chooseObject(QString const& name);
-    /// The icon beside an object's name; null when there is none.
-    QWidget* icon(QString const& name) const;
+    /// The icon beside an object's name, which is made if it does not stand; null when the object has none.
+    QWidget* icon(QString const& name);
+    /// Leaves out the objects for which the predicate does not hold; an empty one shows all. If the chosen one is left
+    /// out, the first shown one is chosen, if there is any.
+    void setFilter(std::function<bool(Kolt::VObject const&)> const& filter);
 
     void openIcons();
     /// Hides and deletes the icons, as before plug-ins are loaded or unloaded.
@@ -31,12 +35,20 @@ signals:
     /// Another object was chosen, by whomever.
     void objectChosen(Kolt::ObjectPtr const& object);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
 private:
+    void makeIcon(QTreeWidgetItem* item);
+    void makeVisibleIcons();
     QTreeWidgetItem* findItem(QString const& name) const;
     Kolt::ObjectPtr objectOf(QTreeWidgetItem const* item) const;
 
     IconMaker iconMaker_;
     std::vector<Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase>> objects_;
+    bool iconsOpen_ = false;
 };
 
 } // namespace Panel

@@ -35,18 +35,38 @@ QWidget* makeHeader(QString const& name, QString const& kind) {
 } // namespace
 
 ObjectView::ObjectView(Kolt::ObjectPtr const& object, QString const& kind, PoolSource& pools, QWidget* parent)
-    : QWidget(parent), object_(object), rows_(new RowArea(object->parameters(), pools)) {
+    : QWidget(parent),
+      object_(object),
+      pools_(pools),
+      rows_(new RowArea(object->parameters(), pools)),
+      emptyNote_(new QLabel(tr("No parameter of this object is found by the filter."))) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(makeHeader(QString::fromStdString(object->Name()), kind));
     layout->addWidget(rows_, 1);
+    layout->addWidget(emptyNote_, 1, Qt::AlignTop);
+    emptyNote_->setMargin(12);
+    emptyNote_->setWordWrap(true);
+    showMuted(*emptyNote_);
+    emptyNote_->hide();
 
     checkTimer_.setInterval(checkInterval);
     connect(&checkTimer_, &QTimer::timeout, rows_, &RowArea::checkParameters);
 }
 
 ObjectView::~ObjectView() = default;
+
+void ObjectView::setFilter(ParameterFilter const& filter) {
+    auto const object = object_.strong();
+    if (!object || filter.isEmpty())
+        rows_->setFilter({});
+    else
+        rows_->setFilter([&](auto const& parameter) { return filter.finds(*object, parameter, pools_.pool()); });
+    bool const nothing = !filter.isEmpty() && rows_->shownCount() == 0;
+    rows_->setVisible(!nothing);
+    emptyNote_->setVisible(nothing);
+}
 
 void ObjectView::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <lattice/Object.hpp>
+#include <panel/ParameterFilter.hpp>
 #include <panel/RowArea.hpp>
+#include <QLabel>
 #include <QTimer>
 #include <QWidget>
 #include <vector>
@@ -27,6 +29,8 @@ public:
     /// The row of a parameter by its whole name, which is made if it does not stand; null when there is none.
     ParameterRow* row(QString const& parameterName) const { return rows_->row(parameterName); }
     RowArea* rowArea() const { return rows_; }
+    /// Stands in place of the rows where the filter finds none.
+    QWidget* emptyNote() const { return emptyNote_; }
 
     void openEditors() { rows_->openEditors(); }
     /// Hides and deletes all editors, as before a plug-in is unloaded.
@@ -34,6 +38,10 @@ public:
     /// Shows in every row what the chosen pool holds.
     void showPool() { rows_->showPool(); }
     void setRawValuesShown(bool shown) { rows_->setRawValuesShown(shown); }
+    /// Shows the parameters that the filter finds in the chosen pool as they are now: one that is edited stays.
+    void setFilter(ParameterFilter const& filter);
+    /// Gives the focus to the first control of the first shown row that has one.
+    void focusFirstEditor() { rows_->focusFirstControl(); }
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -41,7 +49,9 @@ protected:
 
 private:
     Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase> const object_;
+    PoolSource const& pools_;
     RowArea* const rows_;
+    QLabel* const emptyNote_;
     QTimer checkTimer_;
 };
 

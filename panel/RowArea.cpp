@@ -389,6 +389,25 @@ bool RowArea::focusOutside(QWidget const* from, bool next) {
     return false;
 }
 
+bool RowArea::focusFrom(std::ptrdiff_t place, bool next) {
+    for (; place >= 0 && place < static_cast<std::ptrdiff_t>(entries_.size()); place += next ? 1 : -1) {
+        auto& entry = entries_[static_cast<std::size_t>(place)];
+        if (!entry.shown)
+            continue;
+        if (!entry.row) {
+            make(entry);
+            arrangeInPlace();
+        }
+        if (entry.row && focusControl(entry, next))
+            return true;
+    }
+    return false;
+}
+
+bool RowArea::focusFirstControl() {
+    return focusFrom(0, true);
+}
+
 bool RowArea::focusNextPrevChild(bool next) {
     auto const* const focus = QApplication::focusWidget();
     auto const* const current = focus ? entryOf(focus) : nullptr;
@@ -402,16 +421,8 @@ bool RowArea::focusNextPrevChild(bool next) {
         ensureWidgetVisible(neighbour);
         return true;
     }
-    for (auto place = current - entries_.data() + (next ? 1 : -1);
-         place >= 0 && place < static_cast<std::ptrdiff_t>(entries_.size()); place += next ? 1 : -1) {
-        auto& entry = entries_[static_cast<std::size_t>(place)];
-        if (entry.shown && !entry.row) {
-            make(entry);
-            arrangeInPlace();
-        }
-        if (entry.shown && focusControl(entry, next))
-            return true;
-    }
+    if (focusFrom(current - entries_.data() + (next ? 1 : -1), next))
+        return true;
     return focusOutside(focus, next);
 }
 

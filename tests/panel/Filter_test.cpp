@@ -1,0 +1,131 @@
+#include "PanelTest.hpp"
+
+#include <QLineEdit>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class FilterTest : public PanelTest {
+protected:
+    void SetUp() override {
+        PanelTest::SetUp();
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    QLineEdit* field() const { return window->findChild<QLineEdit*>(QStringLiteral("filter")); }
+    /// Types into the field as a user does, over what stands there.
+    void look(char const* words) {
+        field()->setFocus();
+        field()->selectAll();
+        QTest::keyClicks(field(), words);
+    }
+    std::vector<std::string> objects() const {
+        std::vector<std::string> names;
+        auto const* const list = window->objectList();
+        for (int index = 0; index < list->topLevelItemCount(); ++index)
+            if (!list->topLevelItem(index)->isHidden())
+                names.push_back(list->topLevelItem(index)->text(0).toStdString());
+        return names;
+    }
+    static std::vector<std::string> parameters(Panel::ObjectView const* view) {
+        std::vector<std::string> names;
+        for (auto const* const row : view->rows())
+            if (row->isVisible())
+                names.push_back(row->parameterName().toStdString());
+        return names;
+    }
+    std::vector<std::string> parameters() const { return parameters(window->currentView()); }
+};
+
+} // namespace
+
+TEST_F(FilterTest, FindsParametersByTheirNames) {
+    look("on");
+    EXPECT_THAT(objects(), ElementsAre("lamp", "second lamp"));
+    EXPECT_THAT(parameters(), ElementsAre("on"));
+    look("PAINT");
+    EXPECT_THAT(objects(), ElementsAre("lamp"));
+    EXPECT_THAT(parameters(), ElementsAre("housing.painted"));
+}
+
+TEST_F(FilterTest, FindsParametersByTheirObjects) {
+    look("second");
+    EXPECT_THAT(objects(), ElementsAre("second lamp"));
+    EXPECT_EQ(window->currentView()->object(), window->network()->findObject(QStringLiteral("second lamp")));
+    EXPECT_THAT(parameters(), ElementsAre("on", "start", "level"));
+}
+
+TEST_F(FilterTest, FindsParametersByTheirValuesInTheChosenPool) {
+    look("5");
+    EXPECT_THAT(objects(), ElementsAre("second lamp"));
+    EXPECT_THAT(parameters(), ElementsAre("level"));
+    window->choosePool(QStringLiteral("night"));
+    EXPECT_THAT(objects(), IsEmpty());
+    look("2");
+    EXPECT_THAT(parameters(), ElementsAre("level"));
+}
+
+TEST_F(FilterTest, WantsEachWordSomewhere) {
+    look("lamp.steady true");
+    EXPECT_THAT(objects(), ElementsAre("lamp"));
+    EXPECT_THAT(parameters(), ElementsAre("steady"));
+    look("steady false");
+    EXPECT_THAT(objects(), IsEmpty());
+    EXPECT_THAT(parameters(), IsEmpty());
+}
+
+TEST_F(FilterTest, ClearedShowsEverythingAgain) {
+    look("steady");
+    ASSERT_THAT(objects(), ElementsAre("lamp"));
+    QTest::keyClick(field(), Qt::Key_Escape);
+    EXPECT_EQ(field()->text(), QString());
+    EXPECT_THAT(objects(), ElementsAre("lamp", "second lamp"));
+    EXPECT_THAT(parameters(), ElementsAre("on", "steady", "housing.painted"));
+    look(" ");
+    EXPECT_THAT(parameters(), ElementsAre("on", "steady", "housing.painted"));
+}
+
+TEST_F(FilterTest, AParameterStaysWhileItIsEdited) {
+    look("steady true");
+    ASSERT_THAT(parameters(), ElementsAre("steady"));
+    QTest::mouseClick(box("steady"), Qt::LeftButton);
+    EXPECT_EQ(valueOf("lamp.steady"), "false");
+    EXPECT_THAT(parameters(), ElementsAre("steady"));
+}
+
+TEST_F(FilterTest, IsReachedByAKeyAndLeadsToWhatItFound) {
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    ASSERT_EQ(QApplication::focusWidget(), field());
+    QTest::keyClicks(field(), "level");
+    QTest::keyClick(field(), Qt::Key_Return);
+    EXPECT_TRUE(window->currentView()->row(QStringLiteral("level"))->isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(FilterTest, HoldsForViewsMadeLaterAndNotForAnotherNetwork) {
+    look("painted");
+    auto* const view = window->addView();
+    EXPECT_TRUE(waitUntil([&] { return !parameters(view).empty(); }));
+    EXPECT_THAT(parameters(view), ElementsAre("housing.painted"));
+    ASSERT_TRUE(window->openNetwork(networkFile("again.json", lamps)));
+    EXPECT_EQ(field()->text(), QString());
+    EXPECT_THAT(objects(), ElementsAre("lamp", "second lamp"));
+}
+
+TEST_F(FilterTest, WithoutAFindSaysSo) {
+    look("nowhere");
+    EXPECT_THAT(parameters(), IsEmpty());
+    EXPECT_TRUE(window->currentView()->emptyNote()->isVisible());
+    look("steady");
+    EXPECT_FALSE(window->currentView()->emptyNote()->isVisible());
+}
+
+TEST_F(FilterTest, KeepsTheViewsOfTheObjectsChosenLast) {
+    QPointer<Panel::ObjectView> const first = window->currentView();
+    window->showObject(QStringLiteral("second lamp"));
+    window->showObject(QStringLiteral("lamp"));
+    EXPECT_EQ(window->currentView(), first);
+}
