@@ -6,6 +6,15 @@
 #include <set>
 #include <sstream>
 
+double RatioReporter::goal(Row const& row) {
+    auto const& [kind, measure] = row;
+    // A drag is many edits of which none is painted, so the host's part of each weighs more. So it is where thousands
+    // of values change of which few are shown.
+    if (measure == "drag" || measure == "tick")
+        return 1.2;
+    return kind == "network" && measure == "heap" ? 1.15 : 1.1;
+}
+
 void RatioReporter::ReportRuns(std::vector<Run> const& runs) {
     auto const counts = [](Run const& run) { return run.run_type == Run::RT_Iteration && !run.error_occurred; };
     Run const* least = nullptr;
@@ -63,10 +72,10 @@ void RatioReporter::Finalize() {
                 continue;
             }
             double const ratio = found->second.plugin / found->second.bare;
-            above += ratio > (row.second == "drag" ? goalOfDrag : goal) ? 1 : 0;
+            above += ratio > goal(row) ? 1 : 0;
             out << std::setw(8) << ratio;
         }
         out << "\n";
     }
-    out << above << " above the goal of " << goal << " (drag " << goalOfDrag << ")\n";
+    out << above << " above their goals\n";
 }

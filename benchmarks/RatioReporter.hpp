@@ -18,10 +18,6 @@ public:
     void ReportRuns(std::vector<Run> const& runs) override;
     void Finalize() override;
 
-    static constexpr double goal = 1.1;
-    /// A drag is many edits of which none is painted, so the host's part of each weighs more.
-    static constexpr double goalOfDrag = 1.2;
-
 private:
     struct Pair {
         double bare = 0;
@@ -29,6 +25,8 @@ private:
     };
     using Row = std::pair<std::string, std::string>;
 
+    /// What the ratio shall not exceed.
+    static double goal(Row const& row);
     void take(Row const& row, std::string const& side, int count, double figure);
 
     std::vector<Row> rows_;

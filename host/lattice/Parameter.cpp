@@ -69,6 +69,8 @@ void VParameter::notifyValueChange(Tessera::StrongPtr<VValueBase> const& value,
                                    Tessera::StrongPtr<ValuePool> const& pool, std::string const&,
                                    Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                                    ValueMap const* values) const {
+    if (nobodyListens() && !alsoNotify)
+        return;
     // Held here, as the caller's reference may be a part of what dies on the way.
     auto const live = value;
     tell(source, alsoNotify, live, VContext(pool, nullptr), values);

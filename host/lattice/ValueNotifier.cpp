@@ -79,6 +79,7 @@ void ValueNotifierList::addNotifier(Tessera::WeakPtr<ValueNotifier> const& notif
                  gates_.end());
     if (std::find(gates_.begin(), gates_.end(), living->gate_) == gates_.end())
         gates_.push_back(living->gate_);
+    used_.store(true, std::memory_order_release);
 }
 
 std::size_t ValueNotifierList::size() const {

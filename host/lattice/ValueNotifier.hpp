@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <lattice/Value.hpp>
 #include <lattice/ValueMap.hpp>
 #include <lattice/ValuePool.hpp>
@@ -56,6 +57,8 @@ public:
     std::size_t size() const;
 
 protected:
+    /// Whether nobody was ever added: of ten thousand parameters that a simulation changes, few are watched.
+    bool nobodyListens() const { return !used_.load(std::memory_order_acquire); }
     /// Tells a snapshot of the list, in order, leaving out `source` and whatever dies meanwhile; then the members of
     /// `alsoNotify` that were not told yet, the source included. Touches neither list once it tells the first.
     void tell(Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
@@ -67,6 +70,7 @@ private:
 
     mutable std::mutex mutex_;
     mutable Gates gates_;
+    mutable std::atomic<bool> used_{false};
 };
 
 } // namespace Kolt
