@@ -12,16 +12,18 @@ if(TALO_SANITIZE)
     set(TALO_TEST_TIMEOUT 480)
 endif()
 
-# talo_test(NAME SOURCES... [LINK libraries...] [PLUGIN] [WITHOUT_APPLICATION]
+# talo_test(NAME SOURCES... [LINK libraries...] [PLUGIN] [WITHOUT_APPLICATION] [ON_DISPLAY]
 #           [LABELS labels...] [ENVIRONMENT name=value...] [TIMEOUT seconds])
 # A GoogleTest program under tests/ in the build folder and one CTest test of the same name that runs all of it. It sees
 # nothing of the machine's settings: no display, language, time zone, home or Qt variable.
 #   PLUGIN               builds qtalo_inputs first and defines TALO_PLUGIN_FILE, the full path of the plug-in file
 #   WITHOUT_APPLICATION  main makes no QApplication
+#   ON_DISPLAY           one more CTest test, NAME_on_display, runs it on a display with a window manager
+#   DISPLAY_ONLY         the one CTest test, NAME, runs it on a display with a window manager
 #   LABELS               CTest's labels; `worker` marks a test that uses threads and runs under the thread sanitizer
 #   TIMEOUT              seconds, 120 unless given; a build with a sanitizer allows four times as many
 function(talo_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "PLUGIN;WITHOUT_APPLICATION" "TIMEOUT" "LINK;LABELS;ENVIRONMENT")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "PLUGIN;WITHOUT_APPLICATION;ON_DISPLAY;DISPLAY_ONLY" "TIMEOUT" "LINK;LABELS;ENVIRONMENT")
     if(NOT arg_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "talo_test(${name}) names no source")
     endif()
@@ -42,8 +44,23 @@ function(talo_test name)
         add_dependencies(worker_tests ${name})
     endif()
 
-    add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
-    talo_test_surroundings(${name} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT} TIMEOUT ${arg_TIMEOUT})
+    set(tests)
+    if(NOT arg_DISPLAY_ONLY)
+        add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+        list(APPEND tests ${name})
+    endif()
+    if(arg_ON_DISPLAY OR arg_DISPLAY_ONLY)
+        set(on_display ${name})
+        if(arg_ON_DISPLAY)
+            string(APPEND on_display _on_display)
+        endif()
+        add_test(NAME ${on_display} COMMAND "${PROJECT_SOURCE_DIR}/tests/support/on_display" $<TARGET_FILE:${name}>
+            WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+        list(APPEND tests ${on_display})
+    endif()
+    foreach(test IN LISTS tests)
+        talo_test_surroundings(${test} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT} TIMEOUT ${arg_TIMEOUT})
+    endforeach()
 endfunction()
 
 # talo_test_surroundings(TEST [LABELS labels...] [ENVIRONMENT name=value...] [TIMEOUT seconds])
