@@ -1,0 +1,41 @@
+#pragma once
+
+#include "support/TaloTest.hpp"
+
+#include <QProcess>
+#include <QScreen>
+#include <QStringList>
+
+/// The mouse and the keyboard of the display that the test runs on: what they do takes the way of a person's input,
+/// through the window system, and arrives a moment later.
+class Desktop {
+public:
+    void move(QWidget const& widget, QPoint const& place) {
+        auto const point = widget.mapToGlobal(place);
+        run({QStringLiteral("mousemove"), QString::number(point.x()), QString::number(point.y())});
+        EXPECT_TRUE(waitUntil([&] { return QCursor::pos() == point; }));
+    }
+    void press() { run({QStringLiteral("mousedown"), QStringLiteral("1")}); }
+    void release() { run({QStringLiteral("mouseup"), QStringLiteral("1")}); }
+    void click(QWidget const& widget, QPoint const& place) {
+        move(widget, place);
+        run({QStringLiteral("click"), QStringLiteral("1")});
+    }
+    void click(QWidget const& widget) { click(widget, widget.rect().center()); }
+    void turnWheel(bool up) { run({QStringLiteral("click"), up ? QStringLiteral("4") : QStringLiteral("5")}); }
+    /// Keys by their names: "ctrl+z", "Return".
+    void key(char const* name) { run({QStringLiteral("key"), QString::fromUtf8(name)}); }
+    void type(QString const& text) {
+        run({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("2"), text});
+    }
+
+private:
+    static void run(QStringList const& arguments) {
+        QProcess process;
+        process.start(QStringLiteral("xdotool"), arguments);
+        // Qt answers the window system meanwhile.
+        EXPECT_TRUE(waitUntil([&] { return process.state() == QProcess::NotRunning; }))
+            << qPrintable(arguments.join(QLatin1Char(' ')));
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
+    }
+};
