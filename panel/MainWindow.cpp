@@ -1,4 +1,4 @@
-#include <lattice/UndoAction.hpp>
+#include <lattice/UndoHistory.hpp>
 #include <panel/MainWindow.hpp>
 #include <QAction>
 #include <QCoreApplication>
