@@ -115,7 +115,7 @@ private:
     SchedulerDriver scheduler_;
     WarningListener warnings_;
     GestureWatcher gestures_;
-    ParameterCommands commands_{gestures_};
+    ParameterCommands commands_{gestures_, this};
     std::unique_ptr<StandardOutputTap> outputTap_;
 
     ObjectList* const objectList_;

@@ -121,12 +121,15 @@ void MainWindow::showTitle() {
 }
 
 void MainWindow::finishEdit() {
-    // Fields write when they lose the focus.
-    QPointer<QWidget> const focus = QApplication::focusWidget();
+    // Fields write when they lose the focus, but not when only their window does, as it may have by now.
+    QPointer<QWidget> const focus = QApplication::focusWidget() ? QApplication::focusWidget() : focusWidget();
     if (ParameterRow::rowOf(focus)) {
-        focus->clearFocus();
-        if (focus)
-            focus->setFocus();
+        QFocusEvent leave(QEvent::FocusOut, Qt::OtherFocusReason);
+        QApplication::sendEvent(focus, &leave);
+    }
+    if (focus && focus->hasFocus()) {
+        QFocusEvent come(QEvent::FocusIn, Qt::OtherFocusReason);
+        QApplication::sendEvent(focus, &come);
     }
     gestures_.end();
 }

@@ -1,4 +1,5 @@
 #include <lattice/UndoHistory.hpp>
+#include <panel/KeyboardPress.hpp>
 #include <panel/Look.hpp>
 #include <panel/MissingEditor.hpp>
 #include <panel/network/ValueFormat.hpp>
@@ -159,7 +160,8 @@ void ParameterRow::nameEditor() {
     QWidget* firstControl = nullptr;
     auto const controls = editor_.widget->findChildren<QWidget*>();
     for (auto* const control : controls) {
-        if (control->isWindow() || control->focusPolicy() == Qt::NoFocus)
+        // What is in a dialog of the editor names itself.
+        if (control->window() != editor_.widget->window() || control->focusPolicy() == Qt::NoFocus)
             continue;
         if (!firstControl)
             firstControl = control;
@@ -171,6 +173,8 @@ void ParameterRow::nameEditor() {
     // Whoever gives the focus to the editor means its first control.
     if (firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && !editor_.widget->focusProxy())
         editor_.widget->setFocusProxy(firstControl);
+    if (!firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && recorder_)
+        new KeyboardPress(editor_.widget);
 }
 
 void ParameterRow::describeChoice() {

@@ -189,6 +189,24 @@ INSTANTIATE_TEST_SUITE_P(EveryType, HistoryOfType,
                              return name;
                          });
 
+TEST_F(HistoryTest, AColourIsEditedByKeyboardAlone) {
+    auto* const swatch = row("colour")->editor();
+    swatch->setFocus(Qt::TabFocusReason);
+    ASSERT_TRUE(swatch->hasFocus());
+    QTest::keyClick(swatch, Qt::Key_Space);
+    auto* const dialog = swatch->findChild<QColorDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_NE(dialog->findChild<QSpinBox*>()->accessibleName(), QStringLiteral("colour"));
+    QTest::keyClick(dialog->findChild<QSpinBox*>(), Qt::Key_Up);
+    QTest::keyClick(dialog->findChild<QSpinBox*>(), Qt::Key_Up);
+    dialog->hide();
+    EXPECT_THAT(steps(), SizeIs(2));
+    undo();
+    undo();
+    EXPECT_EQ(valuesNow(), text);
+}
+
 TEST_F(HistoryTest, TwoDragsAreTwoSteps) {
     drag(slider("int"), {20, 20});
     auto const between = valuesNow();
