@@ -21,7 +21,6 @@ void click(QPointer<QWidget> const& widget) {
 } // namespace
 
 KeyboardPress::KeyboardPress(QWidget* editor) : QObject(editor), editor_(editor), frame_(new QFocusFrame(editor)) {
-    frame_->setWidget(editor);
     editor->setFocusPolicy(Qt::StrongFocus);
     editor->installEventFilter(this);
 }
@@ -31,6 +30,10 @@ KeyboardPress::~KeyboardPress() {
 }
 
 bool KeyboardPress::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn)
+        frame_->setWidget(editor_);
+    else if (event->type() == QEvent::FocusOut)
+        frame_->setWidget(nullptr);
     if (event->type() != QEvent::KeyPress)
         return QObject::eventFilter(watched, event);
     auto const* const key = static_cast<QKeyEvent*>(event);

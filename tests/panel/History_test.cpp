@@ -5,6 +5,7 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QFocusFrame>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -193,6 +194,12 @@ TEST_F(HistoryTest, AColourIsEditedByKeyboardAlone) {
     auto* const swatch = row("colour")->editor();
     swatch->setFocus(Qt::TabFocusReason);
     ASSERT_TRUE(swatch->hasFocus());
+    auto* const frame = row("colour")->findChild<QFocusFrame*>();
+    ASSERT_NE(frame, nullptr);
+    EXPECT_TRUE(frame->isVisible());
+    slider("int")->setFocus();
+    EXPECT_FALSE(frame->isVisible());
+    swatch->setFocus(Qt::TabFocusReason);
     QTest::keyClick(swatch, Qt::Key_Space);
     auto* const dialog = swatch->findChild<QColorDialog*>();
     ASSERT_NE(dialog, nullptr);
