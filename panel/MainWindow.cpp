@@ -1,9 +1,8 @@
-#include <lattice/UndoAction.hpp>
+#include <lattice/UndoHistory.hpp>
 #include <panel/MainWindow.hpp>
 #include <QAction>
 #include <QCoreApplication>
 #include <QDockWidget>
-#include <QFileInfo>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
@@ -22,6 +21,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
       objectList_(new ObjectList(pools_)),
       viewStack_(new QStackedWidget),
       messages_(new MessageList),
+      historyList_(new HistoryList),
       poolSelector_(new QComboBox),
       filterField_(new QLineEdit),
       pluginLabel_(new QLabel) {
@@ -41,13 +41,14 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     addDockWidget(Qt::BottomDockWidgetArea, messageDock);
     resizeDocks({messageDock}, {110}, Qt::Vertical);
 
+    makeHistoryDock();
     makeToolBar();
     makeFileMenu();
     makeEditMenu();
     makeViewMenu(messageDock->toggleViewAction());
     makePluginMenu();
     statusBar()->addPermanentWidget(pluginLabel_);
-    setWindowTitle(tr("Talo panel"));
+    showTitle();
     resize(1000, 760);
 
     connect(objectList_, &ObjectList::objectChosen, this, &MainWindow::showView);
@@ -55,7 +56,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
             [this](QString const& text) { messages_->add(MessageList::Source::Warning, text); });
     connect(&plugins_, &Plugins::aboutToChange, this, &MainWindow::closeEditors);
     connect(&plugins_, &Plugins::changed, this, &MainWindow::openEditors);
-    Kolt::UndoHistory::theHistory().setListener([this] { updateUndo(); });
+    Kolt::UndoHistory::theHistory().setListener([this] { historyChanged(); });
     updateUndo();
     updatePlugins();
 }
@@ -66,6 +67,7 @@ MainWindow::~MainWindow() {
     closeViews();
     closeEditors();
     qDeleteAll(views());
+    Kolt::UndoHistory::theHistory().clear();
 }
 
 bool MainWindow::openNetwork(QString const& file, QString* error) {
@@ -87,7 +89,9 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
     closeViews();
     objectList_->showNetwork(nullptr);
     // These steps are about parameters that go now.
-    Kolt::UndoHistory::theHistory().forget([](auto const&) { return true; });
+    gestures_.end();
+    historyList_->showNetwork(network.get());
+    Kolt::UndoHistory::theHistory().clear();
     network_ = std::move(network);
     network_->actionHandler = [this](Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,
                                      Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
@@ -104,9 +108,8 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
             poolSelector_->addItem(QString::fromStdString(pool->Name()));
         pools_.setPool(network_->pools().front());
     }
-    setWindowTitle(tr("%1 – Talo panel")
-                       .arg(network_->title().isEmpty() ? QFileInfo(network_->file()).fileName() : network_->title()));
-    setWindowFilePath(network_->file());
+    showTitle();
+    updateModified();
     objectList_->showNetwork(network_.get());
     filterField_->clear();
     if (!network_->objects().empty())
@@ -115,7 +118,12 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
 
 bool MainWindow::saveValues(QString const& file, QString* error) {
     QString reason;
-    if (network_ ? network_->save(file, &reason) : false) {
+    if (network_ && network_->saveAs(file, &reason)) {
+        showTitle();
+        updateModified();
+        auto const rows = findChildren<ParameterRow*>();
+        for (auto* const row : rows)
+            row->showDefault();
         messages_->add(MessageList::Source::Panel, tr("Saved the values to %1.").arg(file));
         statusBar()->showMessage(tr("Saved."), 4000);
         return true;
@@ -259,25 +267,6 @@ void MainWindow::tapStandardOutput() {
     outputTap_ = std::make_unique<StandardOutputTap>();
     connect(outputTap_.get(), &StandardOutputTap::linePrinted, this,
             [this](QString const& line) { messages_->add(MessageList::Source::Output, line); });
-}
-
-void MainWindow::undo() {
-    auto& history = Kolt::UndoHistory::theHistory();
-    auto const steps = history.steps();
-    if (steps.empty())
-        return;
-    auto const description = QString::fromStdString(steps.back()->description());
-    if (!history.undo())
-        messages_->add(MessageList::Source::Error, tr("Can no longer be taken back: %1").arg(description));
-}
-
-void MainWindow::updateUndo() {
-    auto const steps = Kolt::UndoHistory::theHistory().steps();
-    undoAction_->setEnabled(!steps.empty());
-    undoAction_->setText(steps.empty() ? tr("&Undo")
-                                       : tr("&Undo: %1")
-                                             .arg(QString::fromStdString(steps.back()->description())
-                                                      .replace(QLatin1Char('&'), QLatin1String("&&"))));
 }
 
 } // namespace Panel

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <panel/GestureWatcher.hpp>
+#include <panel/HistoryList.hpp>
 #include <panel/MessageList.hpp>
 #include <panel/network/Network.hpp>
 #include <panel/ObjectList.hpp>
 #include <panel/ObjectView.hpp>
+#include <panel/ParameterCommands.hpp>
 #include <panel/Plugins.hpp>
 #include <panel/SchedulerDriver.hpp>
 #include <panel/StandardOutputTap.hpp>
@@ -38,7 +41,8 @@ public:
     void showNetwork(std::unique_ptr<Network> network);
     /// The open network; null as long as none was opened.
     Network* network() const { return network_.get(); }
-    /// Writes the network with its values. False, and the reason in `error` unless that is null.
+    /// Writes the network with its values and goes on with that file. False, and the reason in `error` unless that is
+    /// null.
     bool saveValues(QString const& file, QString* error = nullptr);
 
     /// Chooses an object by its name; false when there is none.
@@ -60,14 +64,27 @@ public:
     MessageList* messages() const { return messages_; }
     PoolSource& pools() { return pools_; }
 
+    /// Ends the edit that goes on: a typed text that waits for the field to be left is written.
+    void finishEdit();
+
 public slots:
     /// Takes the latest step of the history back.
     void undo();
+    /// Makes the step again that was taken back last.
+    void redo();
+    /// Goes to the state after that many steps, counted as the history list does.
+    void goToState(int steps);
+
+protected:
+    /// Asks whether values that were changed and not saved may go.
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void makeFileMenu();
     void makeEditMenu();
     void makeViewMenu(QAction* showMessages);
+    void makeHistoryDock();
     void makePluginMenu();
     void makeToolBar();
     void makePoolSelector(QToolBar& toolBar);
@@ -75,7 +92,9 @@ private:
 
     void askForNetwork();
     void askForSaveFile();
-    void saveAs(QString const& file);
+    bool saveAs(QString const& file);
+    /// Whether the open values may go: they are saved, or the user says so. Saves them if the user wants it.
+    bool mayLoseChanges();
     void askForPlugin();
     void closePlugins();
     void reloadPlugins();
@@ -90,7 +109,10 @@ private:
     void openEditors();
     void choosePool(int index);
     void applyFilter();
+    void historyChanged();
     void updateUndo();
+    void updateModified();
+    void showTitle();
     void updatePlugins();
 
     Plugins& plugins_;
@@ -98,16 +120,21 @@ private:
     std::unique_ptr<Network> network_;
     SchedulerDriver scheduler_;
     WarningListener warnings_;
+    GestureWatcher gestures_;
+    ParameterCommands commands_{gestures_, this};
     std::unique_ptr<StandardOutputTap> outputTap_;
 
     ObjectList* const objectList_;
     QStackedWidget* const viewStack_;
     MessageList* const messages_;
+    HistoryList* const historyList_;
     QComboBox* const poolSelector_;
     QLineEdit* const filterField_;
     QLabel* const pluginLabel_;
+    QTimer modifiedTimer_;
     QAction* undoAction_ = nullptr;
     QAction* findAction_ = nullptr;
+    QAction* redoAction_ = nullptr;
     QAction* rawAction_ = nullptr;
     QAction* unloadAction_ = nullptr;
     QAction* reloadAction_ = nullptr;

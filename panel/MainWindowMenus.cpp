@@ -1,5 +1,6 @@
 #include <lattice/InputCreator.hpp>
 #include <panel/MainWindow.hpp>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -86,14 +87,6 @@ void MainWindow::makeFileMenu() {
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
 }
 
-void MainWindow::makeEditMenu() {
-    auto* const menu = menuBar()->addMenu(tr("&Edit"));
-    undoAction_ = menu->addAction(tr("&Undo"), this, &MainWindow::undo, QKeySequence::Undo);
-    undoAction_->setObjectName(QStringLiteral("undo"));
-    menu->addSeparator();
-    menu->addAction(findAction_);
-}
-
 void MainWindow::makeViewMenu(QAction* showMessages) {
     auto* const menu = menuBar()->addMenu(tr("&View"));
     menu->addAction(tr("&New view"), this, &MainWindow::addView, QKeySequence(tr("Ctrl+N")));
@@ -108,6 +101,7 @@ void MainWindow::makeViewMenu(QAction* showMessages) {
             view->setRawValuesShown(shown);
     });
     menu->addAction(showMessages);
+    menu->addAction(static_cast<QDockWidget*>(historyList_->parentWidget())->toggleViewAction());
 }
 
 void MainWindow::makePluginMenu() {
@@ -120,6 +114,8 @@ void MainWindow::makePluginMenu() {
 }
 
 void MainWindow::askForNetwork() {
+    if (!mayLoseChanges())
+        return;
     auto const file = QFileDialog::getOpenFileName(this, tr("Open a network"), network_ ? network_->file() : QString(),
                                                    networkFilter());
     QString error;
@@ -132,10 +128,15 @@ void MainWindow::askForSaveFile() {
                                         networkFilter()));
 }
 
-void MainWindow::saveAs(QString const& file) {
+bool MainWindow::saveAs(QString const& file) {
     QString error;
-    if (!file.isEmpty() && !saveValues(file, &error))
+    if (file.isEmpty())
+        return false;
+    finishEdit();
+    bool const saved = saveValues(file, &error);
+    if (!saved)
         complain(tr("The values cannot be saved"), error);
+    return saved;
 }
 
 void MainWindow::askForPlugin() {

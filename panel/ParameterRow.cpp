@@ -1,5 +1,8 @@
+#include <lattice/UndoHistory.hpp>
+#include <panel/KeyboardPress.hpp>
 #include <panel/Look.hpp>
 #include <panel/MissingEditor.hpp>
+#include <panel/network/ValueFormat.hpp>
 #include <panel/ParameterRow.hpp>
 #include <panel/WheelGuard.hpp>
 #include <QHBoxLayout>
@@ -15,6 +18,9 @@ constexpr int highestCentredEditor = 100;
 // In characters.
 constexpr int leastEditorWidth = 30;
 
+// In pixels, from the name.
+constexpr int markerDistance = 2;
+
 QString lastPart(QString const& name) {
     return name.mid(name.lastIndexOf(QLatin1Char('.')) + 1);
 }
@@ -28,6 +34,7 @@ ParameterRow::ParameterRow(Kolt::ParameterPtr const& parameter, PoolSource& pool
       pools_(pools),
       names_(new QWidget(this)),
       nameLabel_(new QLabel(names_)),
+      marker_(new DefaultMarker(parameter, pools, names_)),
       noteLabel_(new QLabel(names_)),
       rawValue_(new RawValue(parameter, pools, this)),
       layout_(new QHBoxLayout(this)) {
@@ -44,8 +51,14 @@ ParameterRow::ParameterRow(Kolt::ParameterPtr const& parameter, PoolSource& pool
     auto* const names = new QVBoxLayout(names_);
     names->setContentsMargins(0, 4, 0, 4);
     names->setSpacing(0);
-    names->addWidget(nameLabel_);
+    auto* const firstLine = new QHBoxLayout;
+    firstLine->setSpacing(markerDistance);
+    firstLine->addWidget(nameLabel_);
+    firstLine->addWidget(marker_);
+    firstLine->addStretch(1);
+    names->addLayout(firstLine);
     names->addWidget(noteLabel_);
+    connect(marker_, &DefaultMarker::clicked, this, &ParameterRow::resetToDefault);
 
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(12);
@@ -57,6 +70,13 @@ ParameterRow::ParameterRow(Kolt::ParameterPtr const& parameter, PoolSource& pool
 
 ParameterRow::~ParameterRow() = default;
 
+ParameterRow* ParameterRow::rowOf(QWidget* widget) {
+    auto* row = qobject_cast<ParameterRow*>(widget);
+    for (; widget && !row; row = qobject_cast<ParameterRow*>(widget))
+        widget = widget->parentWidget();
+    return row;
+}
+
 void ParameterRow::openEditor() {
     if (editor_.widget)
         return;
@@ -66,6 +86,8 @@ void ParameterRow::openEditor() {
         return;
     }
     editor_ = Kolt::makeEditor(parameter, this, &pools_);
+    if (editor_.widget && isEdited(*parameter))
+        recorder_ = Kolt::EditRecorder::watch(parameter);
     if (!editor_.widget)
         editor_.widget = new MissingEditor(*parameter, this);
     new WheelGuard(editor_.widget);
@@ -91,17 +113,32 @@ void ParameterRow::closeEditor() {
     editor_.widget->hide();
     editor_.widget->deleteLater();
     editor_ = {};
+    recorder_.reset();
 }
 
 void ParameterRow::showPool() {
     Kolt::showPoolValue(editor_, parameter_.strong(), &pools_);
     rawValue_->refresh();
+    showDefault();
     showNote();
 }
 
+void ParameterRow::showDefault() {
+    marker_->refresh();
+}
+
+bool ParameterRow::resetToDefault() {
+    auto const parameter = parameter_.strong();
+    auto const* const defaults = parameter ? parameter->defaults() : nullptr;
+    auto const chosen = pool();
+    return defaults && Kolt::UndoHistory::theHistory().store(parameter, chosen, defaults->in(chosen));
+}
+
 void ParameterRow::checkParameter() {
-    if (!parameter_.alive())
-        showNote();
+    if (parameter_.alive())
+        return;
+    showNote();
+    showDefault();
 }
 
 void ParameterRow::setRawValueShown(bool shown) {
@@ -113,7 +150,8 @@ void ParameterRow::setNameWidth(int width) {
 }
 
 int ParameterRow::nameWidth() const {
-    return qMax(nameLabel_->sizeHint().width(), noteLabel_->isHidden() ? 0 : noteLabel_->sizeHint().width());
+    return qMax(nameLabel_->sizeHint().width() + markerDistance + marker_->sizeHint().width(),
+                noteLabel_->isHidden() ? 0 : noteLabel_->sizeHint().width());
 }
 
 void ParameterRow::nameEditor() {
@@ -122,7 +160,8 @@ void ParameterRow::nameEditor() {
     QWidget* firstControl = nullptr;
     auto const controls = editor_.widget->findChildren<QWidget*>();
     for (auto* const control : controls) {
-        if (control->isWindow() || control->focusPolicy() == Qt::NoFocus)
+        // What is in a dialog of the editor names itself.
+        if (control->window() != editor_.widget->window() || control->focusPolicy() == Qt::NoFocus)
             continue;
         if (!firstControl)
             firstControl = control;
@@ -134,6 +173,8 @@ void ParameterRow::nameEditor() {
     // Whoever gives the focus to the editor means its first control.
     if (firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && !editor_.widget->focusProxy())
         editor_.widget->setFocusProxy(firstControl);
+    if (!firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && recorder_)
+        new KeyboardPress(editor_.widget);
 }
 
 void ParameterRow::describeChoice() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <lattice/EditRecorder.hpp>
+#include <panel/DefaultMarker.hpp>
 #include <panel/PoolSource.hpp>
 #include <panel/RawValue.hpp>
 #include <QLabel>
@@ -13,7 +15,10 @@ namespace Panel {
 
 /// One parameter in the panel: its name, its editor or a MissingEditor, and on demand its raw value. The name's tool
 /// tip tells which creator made the editor and why. Where the parameter keeps values per pool, a line below the name
-/// says which pool is edited; where somebody deleted the parameter, it says so.
+/// says which pool is edited; where somebody deleted the parameter, it says so. A dot beside the name tells that the
+/// value is not the default one and resets it.
+///
+/// As long as a value that people edit has an editor here, its edits are steps of the host's history (EditRecorder).
 ///
 /// The row refers to the parameter weakly and stays usable without it. User-interface thread.
 class ParameterRow : public QWidget {
@@ -24,9 +29,15 @@ public:
     ParameterRow(Kolt::ParameterPtr const& parameter, PoolSource& pools, QWidget* parent = nullptr);
     ~ParameterRow() override;
 
+    /// The row that a widget is or lies in, its popups and dialogs included; null for none, and for null.
+    static ParameterRow* rowOf(QWidget* widget);
+
     /// The parameter's whole name, also when it is gone.
     QString const& parameterName() const { return parameterName_; }
     Kolt::ParameterPtr parameter() const { return parameter_.strong(); }
+    /// The chosen pool; null for none.
+    Tessera::StrongPtr<Kolt::ValuePool> pool() const { return pools_.pool(); }
+    DefaultMarker* defaultMarker() const { return marker_; }
     QLabel* nameLabel() const { return nameLabel_; }
     QLabel* noteLabel() const { return noteLabel_; }
     RawValue* rawValue() const { return rawValue_; }
@@ -39,6 +50,10 @@ public:
     void closeEditor();
     /// Shows what the chosen pool holds.
     void showPool();
+    /// Shows whether the value is the default, as after other defaults were remembered.
+    void showDefault();
+    /// Makes the default hold in the chosen pool, as a step of the history. False where there is none.
+    bool resetToDefault();
     /// Notes whether the parameter is still there.
     void checkParameter();
     void setRawValueShown(bool shown);
@@ -57,10 +72,12 @@ private:
     PoolSource& pools_;
     QWidget* const names_;
     QLabel* const nameLabel_;
+    DefaultMarker* const marker_;
     QLabel* const noteLabel_;
     RawValue* const rawValue_;
     QHBoxLayout* const layout_;
     Kolt::Editor editor_;
+    std::shared_ptr<Kolt::EditRecorder> recorder_;
 };
 
 } // namespace Panel

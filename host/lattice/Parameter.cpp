@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <lattice/EditRecorder.hpp>
 #include <lattice/Parameter.hpp>
+#include <lattice/UndoHistory.hpp>
 #include <lattice/ValueCreator.hpp>
 
 namespace Kolt {
@@ -63,6 +65,23 @@ void VParameter::removeLocalValue(Tessera::StrongPtr<ValuePool> const& pool) {
         localValues_.end());
 }
 
+void VParameter::setLocalValue(Tessera::StrongPtr<ValuePool> const& pool, Tessera::StrongPtr<VValueBase> const& value) {
+    if (pool && value && keepsValuesPerPool())
+        putLocalValue(pool, value);
+}
+
+std::vector<Tessera::StrongPtr<ValuePool>> VParameter::poolsWithValue() const {
+    std::vector<Tessera::StrongPtr<ValuePool>> pools;
+    for (auto const& local : localValues_)
+        if (auto const pool = local.pool.strong())
+            pools.push_back(pool);
+    return pools;
+}
+
+void VParameter::rememberDefaults() {
+    defaults_ = std::make_unique<ValueSnapshot>(*this);
+}
+
 void VParameter::selectMember(std::string const&) const {}
 
 void VParameter::notifyValueChange(Tessera::StrongPtr<VValueBase> const& value,
@@ -73,7 +92,16 @@ void VParameter::notifyValueChange(Tessera::StrongPtr<VValueBase> const& value,
         return;
     // Held here, as the caller's reference may be a part of what dies on the way.
     auto const live = value;
-    tell(source, alsoNotify, live, VContext(pool, nullptr), values);
+    VContext const context(pool, nullptr);
+    auto recorder = values ? nullptr : recorder_.lock();
+    if (!recorder) {
+        tell(source, alsoNotify, live, context, values);
+        return;
+    }
+    EditRecorder::Telling const telling(std::move(recorder), context.pool(), source.alive());
+    // The recorded step may have been the end of the parameter.
+    if (telling.parameterLives())
+        tell(source, alsoNotify, live, context, values);
 }
 
 void VParameter::setProperty(std::string const& name, Tessera::StrongPtr<VValueBase> const& value,
@@ -90,7 +118,7 @@ void VParameter::setProperty(std::string const& name, Tessera::StrongPtr<VValueB
 }
 
 void VParameter::AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight) {
-    UndoHistory::theHistory().add(action, weight);
+    UndoHistory::theHistory().add(action, weight, Tessera::WeakPtr<VParameter, ValueNotifierList>(this));
 }
 
 void markValueChanged(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {

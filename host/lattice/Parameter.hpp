@@ -3,14 +3,19 @@
 #include <lattice/CreationPreferences.hpp>
 #include <lattice/UndoAction.hpp>
 #include <lattice/ValueNotifier.hpp>
+#include <lattice/ValueSnapshot.hpp>
+#include <memory>
 
 namespace Kolt {
+
+class EditRecorder;
 
 /// A named, typed parameter of some object. It holds one value object of its own and, where it keeps values per pool,
 /// one more for each pool that has its own value. It is also the list of those told when the value changes.
 ///
 /// Parameters belong to their object by strong references; everybody else refers to them weakly. User-interface
-/// thread, but for `notifyValueChange` of a change that was stored, which any thread may call.
+/// thread, but for `notifyValueChange` of a change that was stored, which any thread may call unless the parameter is
+/// watched (EditRecorder).
 class VParameter : public ValueNotifierList {
 public:
     /// How a parameter keeps its values.
@@ -44,6 +49,19 @@ public:
     Tessera::StrongPtr<VValueBase> freshLocalValue(Tessera::StrongPtr<ValuePool> const& pool) const;
     /// Takes the pool's object away, so that the pool has none. Tells nobody.
     void removeLocalValue(Tessera::StrongPtr<ValuePool> const& pool);
+    /// Makes `value` the pool's object, in place of the one that it has. Tells nobody. Nothing happens for a null pool,
+    /// a null value and a parameter with one value.
+    void setLocalValue(Tessera::StrongPtr<ValuePool> const& pool, Tessera::StrongPtr<VValueBase> const& value);
+    /// The living pools that have an object of their own.
+    std::vector<Tessera::StrongPtr<ValuePool>> poolsWithValue() const;
+
+    /// From now on what the parameter holds, itself and in its pools, is its default.
+    void rememberDefaults();
+    /// What the parameter held when its defaults were remembered; null as long as they never were.
+    ValueSnapshot const* defaults() const { return defaults_.get(); }
+
+    /// Whether somebody has the edits of the parameter recorded (EditRecorder).
+    bool isWatched() const { return !recorder_.expired(); }
     /// Prepares access to a member of a compound value. No value here is compound: does nothing.
     void selectMember(std::string const& member) const;
 
@@ -66,10 +84,12 @@ public:
     PreferencesPtr const& creationPreferences() const { return preferences_; }
     void setCreationPreferences(PreferencesPtr const& preferences) { preferences_ = preferences; }
 
-    /// Records a step in the history (UndoHistory) with the weight that it has there.
+    /// Hands a record of an edit over to the history (UndoHistory), just before the value is written, with the weight
+    /// that it has there.
     void AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight);
 
 private:
+    friend class EditRecorder;
     struct LocalValue {
         Tessera::WeakPtr<ValuePool> pool;
         Tessera::StrongPtr<VValueBase> value;
@@ -86,6 +106,8 @@ private:
     // Shared, so that a parameter may die while its properties are being told.
     std::shared_ptr<ValueMap> properties_;
     PreferencesPtr preferences_;
+    std::unique_ptr<ValueSnapshot> defaults_;
+    std::weak_ptr<EditRecorder> recorder_;
 };
 
 using ParameterPtr = Tessera::StrongPtr<VParameter, ValueNotifierList>;

@@ -2,7 +2,7 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <lattice/PluginLoader.hpp>
-#include <lattice/UndoAction.hpp>
+#include <lattice/UndoHistory.hpp>
 #include <lattice/ValueNotifier.hpp>
 
 namespace Kolt {

@@ -31,6 +31,9 @@ public:
     virtual Tessera::StrongPtr<VValueBase> clone() const = 0;
     /// Whether the other is of the same type and stands for the same value.
     virtual bool equals(VValueBase const& other) const = 0;
+    /// Stores a copy of the other's value; what that refers to is cloned. False, and nothing stored, when the other is
+    /// not of the same type or the store is refused.
+    virtual bool assign(VValueBase const& other) = 0;
     /// An interface that the value carries; null unless a derived class has one.
     virtual Tessera::StrongPtr<Tessera::InterfaceBase> getInterface() const;
 
@@ -74,6 +77,11 @@ public:
         auto const* const typed = dynamic_cast<VTypedValueBase const*>(&other);
         T value{};
         return typed && typed->get(value) && holds(value);
+    }
+    bool assign(VValueBase const& other) override {
+        auto const* const typed = dynamic_cast<VTypedValueBase const*>(&other);
+        T value{};
+        return typed && typed->get(value) && set(VValueTrait<T>::Clone(value));
     }
 };
 

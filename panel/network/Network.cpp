@@ -3,6 +3,7 @@
 #include <panel/network/NetworkReader.hpp>
 #include <panel/network/PropertyFormat.hpp>
 #include <panel/network/ValueFormat.hpp>
+#include <panel/network/ValueText.hpp>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -58,12 +59,6 @@ QJsonObject poolValuesToJson(Kolt::VParameter const& parameter, std::vector<Pool
         if (auto const value = parameter.getLocalValue(pool, std::string(), false))
             values.insert(nameOfPool(pool), convert(value));
     return values;
-}
-
-/// What setText stored besides what the text may change: a flag that the parameter does not have.
-bool addsFlag(Value const& before, Value const& after) {
-    Kolt::FlagList const none;
-    return Kolt::valueOr(after, none).size() > Kolt::valueOr(before, none).size();
 }
 
 } // namespace
@@ -265,6 +260,50 @@ bool Network::save(QString const& file, QString* error) const {
     return true;
 }
 
+bool Network::saveAs(QString const& file, QString* error) {
+    if (!save(file, error))
+        return false;
+    auto const oldFolder = folder();
+    file_ = file;
+    for (auto const& object : objects_) {
+        for (auto const& parameter : object->parameters()) {
+            auto const* const format = ValueFormat::ofType(parameter->declaredType());
+            if (!format || !parameter->properties())
+                continue;
+            PropertyFormat const propertyFormat(format->key, oldFolder);
+            // A copy, as the map changes.
+            auto const properties = *parameter->properties();
+            for (auto const& [key, value] : properties)
+                if (auto const moved = propertyFormat.moved(QString::fromStdString(key), value, folder()))
+                    parameter->setProperty(key, moved, nullptr, nullptr, nullptr);
+        }
+    }
+    rememberDefaults();
+    return true;
+}
+
+void Network::rememberDefaults() {
+    for (auto const& object : objects_)
+        for (auto const& parameter : object->parameters())
+            if (isEdited(*parameter))
+                parameter->rememberDefaults();
+}
+
+bool Network::isModified() const {
+    auto const differs = [&](Kolt::ParameterPtr const& parameter) {
+        auto const* const defaults = parameter->defaults();
+        return defaults &&
+               (!defaults->isOwnValueOf(*parameter) ||
+                (parameter->keepsValuesPerPool() && !std::all_of(pools_.begin(), pools_.end(), [&](auto const& pool) {
+                     return defaults->holdsIn(*parameter, pool);
+                 })));
+    };
+    return std::any_of(objects_.begin(), objects_.end(), [&](auto const& object) {
+        auto const& parameters = object->parameters();
+        return std::any_of(parameters.begin(), parameters.end(), differs);
+    });
+}
+
 bool Network::setText(QString const& objectDotParameter, QString const& text, Pool const& pool, QString* error) {
     auto const parameter = findParameter(objectDotParameter);
     if (!parameter)
@@ -273,17 +312,14 @@ bool Network::setText(QString const& objectDotParameter, QString const& text, Po
     if (perPool && std::find(pools_.begin(), pools_.end(), pool) == pools_.end())
         return failed(error, quoted(objectDotParameter) + " keeps a value per pool and needs a pool of the network");
 
-    // Tried on a copy first, so that a wrong text changes nothing: a pool that has no value gets none.
-    auto const local = parameter->getLocalValue(pool, std::string(), false);
-    auto const before = local ? local : parameter->ownValue();
-    auto const tried = before->clone();
-    auto const content = text.toStdString();
-    if (!tried->setValueFromText(content) || addsFlag(before, tried))
+    // Read before anything is made: with a wrong text a pool that has no value gets none.
+    auto const read = valueFromText(*parameter, pool, text);
+    if (!read)
         return failed(error, quoted(text) + " is no value of " + quoted(objectDotParameter) + ", which is of type " +
                                  QString::fromStdString(parameter->declaredType()));
 
     auto const value = parameter->getLocalValue(pool, std::string(), true);
-    value->setValueFromText(content);
+    value->assign(*read);
     Kolt::markValueChanged(*parameter, pool);
     parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);
     return true;

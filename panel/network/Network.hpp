@@ -31,7 +31,7 @@ public:
     Network(Network const&) = delete;
     Network& operator=(Network const&) = delete;
 
-    /// The file as it was given to `load`.
+    /// The file as it was given to `load`, or the last one that `saveAs` wrote.
     QString const& file() const { return file_; }
     QString const& title() const { return title_; }
 
@@ -58,6 +58,19 @@ public:
     /// when the file cannot be written or would not hold all of the network.
     bool save(QString const& file, QString* error) const;
 
+    /// Writes the network as `save` does and goes on with that file: relative paths start at its folder, and what it
+    /// holds is the default of every parameter.
+    bool saveAs(QString const& file, QString* error);
+
+    /// From now on the values that people edit are the defaults of their parameters (VParameter::rememberDefaults).
+    /// A network that was loaded starts so.
+    void rememberDefaults();
+    /// Whether a value that people edit differs from its default, in a pool or in the parameter itself.
+    bool isModified() const;
+
+    /// The name of a parameter of this network, "object.parameter"; empty for any other.
+    QString nameOf(Kolt::ParameterPtr const& parameter) const;
+
     /// Sets a value as the host would: the pool's value where the parameter keeps values per pool (made if it is not
     /// there), else the parameter's own. Tells everybody once and renews the age stamp. The text is what the type's
     /// VValueTrait reads. False, nothing changed, and the reason in `error` unless that is null, when there is no such
@@ -77,8 +90,6 @@ private:
 
     /// Makes the actions that a parameter of the object holds, its own and those of the pools, call the handler.
     void connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const;
-    /// The name of a parameter of this network, "object.parameter"; empty for any other.
-    QString nameOf(Kolt::ParameterPtr const& parameter) const;
     /// The folder of the file, absolute.
     QString folder() const;
     QByteArray toJson(QString const& targetFolder) const;

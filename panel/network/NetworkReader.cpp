@@ -30,6 +30,7 @@ NetworkReader::NetworkReader(QString const& file) : network_(new Network) {
 std::unique_ptr<Network> NetworkReader::read(QByteArray const& json, QString const& file) {
     NetworkReader reader(file);
     reader.readRoot(JsonNode::parse(json));
+    reader.network_->rememberDefaults();
     return std::move(reader.network_);
 }
 

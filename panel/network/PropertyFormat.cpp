@@ -109,10 +109,21 @@ QJsonValue PropertyFormat::write(QString const& name, Value const& value, QStrin
     if (!typed<std::string>(value))
         return QJsonValue::Undefined;
     auto const text = QString::fromStdString(Kolt::valueOr(value, std::string()));
-    if (kind != Kind::Icon || !text.startsWith(folder_ + '/'))
+    if (!isRelative(name, value))
         return text;
     // As it was written, unless the file goes to another folder.
     return targetFolder == folder_ ? text.mid(folder_.size() + 1) : QDir(targetFolder).relativeFilePath(text);
+}
+
+bool PropertyFormat::isRelative(QString const& name, Value const& value) const {
+    return kindOf(name) == Kind::Icon &&
+           QString::fromStdString(Kolt::valueOr(value, std::string())).startsWith(folder_ + '/');
+}
+
+Value PropertyFormat::moved(QString const& name, Value const& value, QString const& targetFolder) const {
+    if (targetFolder == folder_ || !isRelative(name, value))
+        return nullptr;
+    return Kolt::makeValue((targetFolder + '/' + write(name, value, targetFolder).toString()).toStdString());
 }
 
 } // namespace Panel

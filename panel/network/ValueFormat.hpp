@@ -1,6 +1,6 @@
 #pragma once
 
-#include <lattice/Value.hpp>
+#include <lattice/Parameter.hpp>
 #include <panel/network/JsonNode.hpp>
 #include <string>
 #include <vector>
@@ -17,6 +17,8 @@ struct ValueFormat {
     std::string typeName;
     /// Whether values choose among the entries of their parameter.
     bool choosesEntries;
+    /// Whether people edit values of the type; the others are shown, and told by objects, on any thread.
+    bool edited;
     /// A new value object; throws a FormatError for what is no value of the type.
     Tessera::StrongPtr<Kolt::VValueBase> (*read)(JsonNode const& node, Entries const& entries);
     /// The value as JSON; undefined when the object is not one that `read` makes, or holds a text that is not UTF-8.
@@ -34,6 +36,9 @@ struct ValueFormat {
 
 /// The entries among which a value chooses; null when it refers to no list.
 ValueFormat::Entries const* entriesOf(Tessera::StrongPtr<Kolt::VValueBase> const& value);
+
+/// Whether people edit the values of the parameter. Not so where no network file can hold them.
+bool isEdited(Kolt::VParameter const& parameter);
 
 /// A number as JsonNode::real reads it.
 QJsonValue realToJson(double number);

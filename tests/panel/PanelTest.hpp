@@ -3,7 +3,7 @@
 #include "support/TaloTest.hpp"
 
 #include <lattice/ActionNotifier.hpp>
-#include <lattice/UndoAction.hpp>
+#include <lattice/UndoHistory.hpp>
 #include <panel/MainWindow.hpp>
 #include <QCheckBox>
 #include <QTemporaryDir>

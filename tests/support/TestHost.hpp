@@ -5,6 +5,7 @@
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/PluginLoader.hpp>
+#include <lattice/UndoHistory.hpp>
 #include <sorrel/InputFrontEnd.hpp>
 
 /// A pool source whose pool a test switches.

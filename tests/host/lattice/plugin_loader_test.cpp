@@ -6,7 +6,7 @@
 #include <fstream>
 #include <lattice/InputCreator.hpp>
 #include <lattice/PluginLoader.hpp>
-#include <lattice/UndoAction.hpp>
+#include <lattice/UndoHistory.hpp>
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "support/TaloTest.hpp"
 #include <lattice/Parameter.hpp>
-#include <lattice/UndoAction.hpp>
+#include <lattice/UndoHistory.hpp>
 
 namespace {
 

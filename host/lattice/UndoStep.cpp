@@ -1,0 +1,108 @@
+#include <algorithm>
+#include <lattice/UndoStep.hpp>
+
+namespace Kolt {
+
+ValueChange::ValueChange(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool, HeldValue before,
+                         HeldValue after)
+    : parameter_(parameter),
+      parameterName_(parameter->Name()),
+      perPool_(parameter->keepsValuesPerPool()),
+      before_(std::move(before)),
+      after_(std::move(after)) {
+    if (perPool_)
+        pool_ = pool;
+}
+
+ValueChange::~ValueChange() = default;
+
+ValueChange::ValueChange(ValueChange const&) = default;
+
+ValueChange& ValueChange::operator=(ValueChange const&) = default;
+
+bool ValueChange::isPossible() const {
+    return parameter_.alive() && (!perPool_ || pool_.alive());
+}
+
+bool ValueChange::takeBack() const {
+    return store(before_);
+}
+
+bool ValueChange::makeAgain() const {
+    return store(after_);
+}
+
+bool ValueChange::store(HeldValue const& held) const {
+    auto const parameter = parameter_.strong();
+    return parameter && storeHeldValue(*parameter, pool_.strong(), held);
+}
+
+UndoStep::UndoStep() = default;
+
+UndoStep::~UndoStep() = default;
+
+std::string UndoStep::description() const {
+    if (!changes_.empty()) {
+        auto const& first = changes_.front();
+        return first.parameterName() + ": " + first.before().value->Text() + " → " + first.after().value->Text();
+    }
+    return records_.empty() ? std::string() : records_.front().action->description();
+}
+
+bool UndoStep::knowsChangeOf(Record const& record) const {
+    return std::any_of(changes_.begin(), changes_.end(),
+                       [&](auto const& change) { return change.isOf(record.parameter); });
+}
+
+void UndoStep::add(ValueChange const& change) {
+    auto const known =
+        std::find_if(changes_.begin(), changes_.end(), [&](auto const& each) { return each.hasPlaceOf(change); });
+    if (known == changes_.end())
+        changes_.push_back(change);
+    else
+        known->goOnTo(change);
+    awaitsChange_ = false;
+}
+
+bool UndoStep::changesNothing() const {
+    return std::all_of(changes_.begin(), changes_.end(), [](auto const& change) { return change.changesNothing(); }) &&
+           std::all_of(records_.begin(), records_.end(), [&](auto const& record) { return knowsChangeOf(record); });
+}
+
+bool UndoStep::awaitsChangeOf(ValueChange const& change) const {
+    return awaitsChange_ && changes_.empty() && !records_.empty() && change.isOf(records_.back().parameter);
+}
+
+bool UndoStep::takeBack() {
+    bool done = false;
+    // Copies: whoever is told may forget the step or its records.
+    auto const changes = changes_;
+    // A record is worth one way back.
+    auto const records = std::exchange(records_, {});
+    for (auto change = changes.rbegin(); change != changes.rend(); ++change) {
+        if (!change->isPossible())
+            continue;
+        // The later records of a value lead in small steps to where the oldest one starts.
+        auto const oldest = std::find_if(records.begin(), records.end(),
+                                         [&](auto const& record) { return change->isOf(record.parameter); });
+        if (oldest != records.end())
+            oldest->action->undo();
+        // The record may be unable to, as when its editor is gone.
+        done = change->takeBack() || done;
+    }
+    for (auto record = records.rbegin(); record != records.rend(); ++record) {
+        if (!knowsChangeOf(*record))
+            done = record->action->undo() || done;
+    }
+    return done;
+}
+
+bool UndoStep::makeAgain() {
+    bool done = false;
+    auto const changes = changes_;
+    for (auto const& change : changes)
+        done = (change.isPossible() && change.makeAgain()) || done;
+    return done;
+}
+
+} // namespace Kolt

@@ -1,0 +1,98 @@
+#include <algorithm>
+#include <lattice/Parameter.hpp>
+#include <lattice/ValueSnapshot.hpp>
+
+namespace Kolt {
+
+namespace {
+
+/// The value object that holds in a pool.
+Tessera::StrongPtr<VValueBase> holding(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
+    auto const local = parameter.getLocalValue(pool, std::string(), false);
+    return local ? local : parameter.ownValue();
+}
+
+} // namespace
+
+bool HeldValue::equals(HeldValue const& other) const {
+    return value->equals(*other.value);
+}
+
+HeldValue heldValue(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
+    auto const local = parameter.getLocalValue(pool, std::string(), false);
+    return {(local ? local : parameter.ownValue())->clone(), !local};
+}
+
+bool storeHeldValue(VParameter& parameter, Tessera::StrongPtr<ValuePool> const& pool, HeldValue const& held) {
+    auto local = parameter.getLocalValue(pool, std::string(), false);
+    if (!pool && parameter.keepsValuesPerPool())
+        return false;
+    if (held.fallsBack) {
+        if (!local || !parameter.keepsValuesPerPool())
+            return true;
+        parameter.removeLocalValue(pool);
+        local = parameter.ownValue();
+    } else {
+        if (local && local->equals(*held.value))
+            return true;
+        if (!local)
+            local = parameter.getLocalValue(pool, std::string(), true);
+        if (!local->assign(*held.value)) {
+            if (!parameter.keepsValuesPerPool())
+                return false;
+            // The pool's value was replaced by one of another type meanwhile.
+            local = held.value->clone();
+            parameter.setLocalValue(pool, local);
+        }
+    }
+    markValueChanged(parameter, pool);
+    parameter.notifyValueChange(local, pool, std::string(), nullptr, nullptr, nullptr);
+    return true;
+}
+
+ValueSnapshot::ValueSnapshot(VParameter const& parameter) : perPool_(parameter.keepsValuesPerPool()) {
+    refresh(parameter, nullptr);
+}
+
+ValueSnapshot::~ValueSnapshot() = default;
+
+std::vector<ValueSnapshot::PoolValue>::const_iterator
+ValueSnapshot::find(Tessera::StrongPtr<ValuePool> const& pool) const {
+    Tessera::WeakPtr<ValuePool> const key(pool);
+    return std::find_if(poolValues_.begin(), poolValues_.end(), [&](auto const& each) { return each.pool == key; });
+}
+
+HeldValue ValueSnapshot::in(Tessera::StrongPtr<ValuePool> const& pool) const {
+    auto const found = find(pool);
+    return found == poolValues_.end() ? HeldValue{own_, perPool_} : HeldValue{found->value, false};
+}
+
+void ValueSnapshot::refresh(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
+    own_ = parameter.ownValue()->clone();
+    if (!perPool_)
+        return;
+    auto const take = [&](Tessera::StrongPtr<ValuePool> const& each) {
+        if (auto const local = parameter.getLocalValue(each, std::string(), false))
+            poolValues_.push_back({each, local->clone()});
+    };
+    if (pool) {
+        auto const found = find(pool);
+        if (found != poolValues_.end())
+            poolValues_.erase(found);
+        take(pool);
+        return;
+    }
+    poolValues_.clear();
+    for (auto const& each : parameter.poolsWithValue())
+        take(each);
+}
+
+bool ValueSnapshot::holdsIn(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) const {
+    return holding(parameter, pool)->equals(*in(pool).value);
+}
+
+bool ValueSnapshot::isOwnValueOf(VParameter const& parameter) const {
+    return parameter.ownValue()->equals(*own_);
+}
+
+} // namespace Kolt

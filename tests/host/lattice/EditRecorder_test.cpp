@@ -1,0 +1,436 @@
+#include "host/lattice/Recorder.hpp"
+#include "support/TaloTest.hpp"
+#include <bramble/Selection.hpp>
+#include <lattice/EditRecorder.hpp>
+#include <lattice/Input.hpp>
+#include <lattice/UndoHistory.hpp>
+
+namespace {
+
+using namespace Kolt;
+using Tessera::StrongPtr;
+using Tessera::WeakPtr;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+using Pool = StrongPtr<ValuePool>;
+
+/// An input as the history sees one: a source of changes.
+class SmallInput : public VInputBase {
+public:
+    using VInputBase::VInputBase;
+    void onValueChange(StrongPtr<VValueBase> const& newValue, VContext const&, ValueMap const*) override {
+        shown = newValue ? newValue->Text() : std::string();
+        if (answer)
+            answer();
+    }
+    template <typename T>
+    bool edit(T const& value, Pool const& pool) {
+        auto const parameter = owner().strong();
+        return setParameterValue(*parameter, value, pool, std::string(), true, WeakPtr<ValueNotifier>(this), nullptr);
+    }
+    std::string shown;
+    std::function<void()> answer;
+};
+
+/// Takes an edit back as the record of an integer's input does: through the input, which may be gone.
+class SmallRecord : public VUndoAction {
+public:
+    SmallRecord(WeakPtr<SmallInput, ValueNotifier> const& input, int previous, int& undone)
+        : VUndoAction("record"), input_(input), previous_(previous), undone_(undone) {}
+    bool undo() override {
+        ++undone_;
+        auto const input = input_.strong();
+        return input && input->edit(previous_, nullptr);
+    }
+
+private:
+    WeakPtr<SmallInput, ValueNotifier> input_;
+    int previous_;
+    int& undone_;
+};
+
+class EditRecorderTest : public TaloTest {
+protected:
+    void SetUp() override { history.clear(); }
+    void TearDown() override {
+        history.setListener({});
+        while (history.isGestureOpen())
+            history.closeGesture();
+        history.clear();
+    }
+
+    template <typename T>
+    static ParameterPtr makeParameter(T const& value, VParameter::Values values = VParameter::Values::Shared) {
+        return ParameterPtr(new VParameter("p", makeValue(value), values));
+    }
+    std::vector<std::string> names() const {
+        std::vector<std::string> names;
+        for (auto const& step : history.steps())
+            names.push_back(step->description());
+        return names;
+    }
+    static std::string text(ParameterPtr const& parameter, Pool const& pool = nullptr) {
+        auto const local = parameter->getLocalValue(pool, std::string(), false);
+        return (local ? local : parameter->ownValue())->Text();
+    }
+
+    UndoHistory& history = UndoHistory::theHistory();
+    Pool const draft = Pool(new ValuePool("draft"));
+    Pool const final = Pool(new ValuePool("final"));
+};
+
+/// An int with an input, watched.
+class WatchedInt : public EditRecorderTest {
+protected:
+    void SetUp() override {
+        EditRecorderTest::SetUp();
+        input.activateNotification();
+    }
+    void editRecorded(int value) {
+        auto const previous = std::stoi(text(parameter));
+        parameter->AddUndoAction(StrongPtr<VUndoAction>(new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(&input),
+                                                                        previous, recordsUndone)),
+                                 7);
+        input.edit(value, nullptr);
+    }
+
+    ParameterPtr parameter = makeParameter(1);
+    SmallInput input{parameter};
+    std::shared_ptr<EditRecorder> recorder = EditRecorder::watch(parameter);
+    int recordsUndone = 0;
+};
+
+} // namespace
+
+TEST_F(WatchedInt, AnEditIsAStepThatGoesBackAndForth) {
+    EXPECT_TRUE(parameter->isWatched());
+    EXPECT_TRUE(input.edit(5, nullptr));
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 5"));
+    auto const age = parameter->ownValue()->age();
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+    EXPECT_EQ(input.shown, "1") << "everybody is told, the input that edited too";
+    EXPECT_GT(parameter->ownValue()->age(), age);
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_THAT(history.undoneSteps(), SizeIs(1));
+    EXPECT_TRUE(history.redo());
+    EXPECT_EQ(text(parameter), "5");
+    EXPECT_EQ(input.shown, "5");
+    EXPECT_FALSE(history.redo());
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 5"));
+}
+
+TEST_F(WatchedInt, WhatTheHostWritesIsNoStep) {
+    setParameterValue(*parameter, 9, nullptr, std::string(), false, nullptr, nullptr);
+    EXPECT_THAT(names(), IsEmpty());
+    input.edit(10, nullptr);
+    EXPECT_THAT(names(), ElementsAre("p: 9 → 10")) << "the step starts from what the host wrote";
+}
+
+TEST_F(WatchedInt, WhatAnInputWritesInAnswerToTheHostIsNoStep) {
+    input.answer = [&] {
+        input.answer = {};
+        input.edit(8, nullptr);
+    };
+    setParameterValue(*parameter, 9, nullptr, std::string(), false, nullptr, nullptr);
+    EXPECT_EQ(text(parameter), "8");
+    EXPECT_THAT(names(), IsEmpty());
+    input.edit(7, nullptr);
+    EXPECT_THAT(names(), ElementsAre("p: 8 → 7"));
+}
+
+TEST_F(WatchedInt, WhatTheHostAnswersToAnEditIsNoStepOfItsOwn) {
+    Recorder host;
+    parameter->addNotifier(host.ref());
+    host.onTold = [&] {
+        host.onTold = {};
+        setParameterValue(*parameter, 100, nullptr, std::string(), false, nullptr, nullptr);
+    };
+    input.edit(999, nullptr);
+    EXPECT_THAT(names(), SizeIs(1));
+    input.edit(50, nullptr);
+    EXPECT_EQ(names().back(), "p: 100 → 50");
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "100");
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+}
+
+TEST_F(WatchedInt, AnEditThatChangesNothingIsNoStep) {
+    EXPECT_TRUE(input.edit(1, nullptr));
+    EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(WatchedInt, APropertyIsNoEdit) {
+    parameter->setProperty("max", makeValue(4), WeakPtr<ValueNotifier>(&input), nullptr, nullptr);
+    EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(WatchedInt, TheRecorderOfTwoViewsStaysWithTheSecond) {
+    auto const second = EditRecorder::watch(parameter);
+    EXPECT_EQ(second, recorder) << "two views share one";
+    recorder.reset();
+    input.edit(2, nullptr);
+    EXPECT_THAT(names(), SizeIs(1));
+}
+
+TEST_F(WatchedInt, AnUnwatchedParameterRecordsNothing) {
+    recorder.reset();
+    EXPECT_FALSE(parameter->isWatched());
+    input.edit(2, nullptr);
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_EQ(EditRecorder::watch(nullptr), nullptr);
+}
+
+TEST_F(WatchedInt, AllEditsOfAGestureAreOneStep) {
+    history.openGesture();
+    history.openGesture();
+    for (int const value : {2, 3, 4})
+        input.edit(value, nullptr);
+    history.closeGesture();
+    input.edit(5, nullptr);
+    EXPECT_TRUE(history.isStepOpen());
+    history.closeGesture();
+    EXPECT_FALSE(history.isStepOpen());
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 5"));
+    history.openGesture();
+    input.edit(6, nullptr);
+    history.closeGesture();
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 5", "p: 5 → 6"));
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "5");
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+}
+
+TEST_F(WatchedInt, AGestureThatEndsWhereItBeganIsNoStepAndKeepsWhatCanBeMadeAgain) {
+    input.edit(5, nullptr);
+    history.undo();
+    history.openGesture();
+    editRecorded(3);
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 3"));
+    EXPECT_THAT(history.undoneSteps(), IsEmpty());
+    editRecorded(1);
+    history.closeGesture();
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_TRUE(history.redo());
+    EXPECT_EQ(text(parameter), "5");
+}
+
+TEST_F(WatchedInt, AGestureAroundUndoGoesOnWithANewStep) {
+    history.openGesture();
+    input.edit(2, nullptr);
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+    EXPECT_TRUE(history.isGestureOpen());
+    input.edit(3, nullptr);
+    history.closeGesture();
+    history.closeGesture();
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 3"));
+    EXPECT_FALSE(history.redo());
+}
+
+TEST_F(WatchedInt, ARecordAndItsChangeAreOneStep) {
+    editRecorded(2);
+    editRecorded(3);
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 2", "p: 2 → 3"));
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "2");
+    EXPECT_EQ(recordsUndone, 1);
+    EXPECT_TRUE(history.redo());
+    EXPECT_EQ(text(parameter), "3");
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "2");
+    EXPECT_EQ(recordsUndone, 1) << "a record is run once; the change knows the way, too";
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 2"));
+}
+
+TEST_F(WatchedInt, OfTheRecordsOfAGestureOnlyTheOldestIsRun) {
+    history.openGesture();
+    for (int const value : {2, 3, 4})
+        editRecorded(value);
+    history.closeGesture();
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 4"));
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+    EXPECT_EQ(recordsUndone, 1);
+    EXPECT_TRUE(history.redo());
+    EXPECT_EQ(text(parameter), "4");
+}
+
+TEST_F(WatchedInt, AStepWhoseRecordsAreForgottenIsTakenBackByItsChange) {
+    editRecorded(2);
+    history.add(StrongPtr<VUndoAction>(new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(&input), 1, recordsUndone)),
+                1);
+    history.forget([](VUndoAction const&) { return true; });
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 2"));
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+    EXPECT_EQ(recordsUndone, 0);
+}
+
+TEST_F(WatchedInt, AStepOfAParameterThatIsGoneSaysSoAndIsDropped) {
+    input.edit(2, nullptr);
+    parameter.reset();
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 2"));
+    EXPECT_FALSE(history.undo());
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_FALSE(history.redo());
+}
+
+TEST_F(WatchedInt, ANewStepForgetsWhatWasTakenBack) {
+    input.edit(2, nullptr);
+    history.undo();
+    input.edit(3, nullptr);
+    EXPECT_THAT(history.undoneSteps(), IsEmpty());
+    EXPECT_FALSE(history.redo());
+    EXPECT_EQ(text(parameter), "3");
+}
+
+TEST_F(WatchedInt, UndoneStepsAreListedInTheOrderInWhichTheyAreMadeAgain) {
+    for (int const value : {2, 3, 4})
+        input.edit(value, nullptr);
+    history.undo();
+    history.undo();
+    auto const undone = history.undoneSteps();
+    ASSERT_THAT(undone, SizeIs(2));
+    EXPECT_EQ(undone[0]->description(), "p: 2 → 3");
+    EXPECT_EQ(undone[1]->description(), "p: 3 → 4");
+    EXPECT_EQ(history.nextRedo(), undone[0]);
+    EXPECT_EQ(history.nextUndo()->description(), "p: 1 → 2");
+    history.clear();
+    EXPECT_EQ(history.nextUndo(), nullptr);
+    EXPECT_EQ(history.nextRedo(), nullptr);
+}
+
+TEST_F(WatchedInt, TheListenerMayEndTheParameterWhileItsEditIsTold) {
+    WeakPtr<VParameter, ValueNotifierList> const weak(parameter);
+    history.setListener([&] { parameter.reset(); });
+    // Nobody else holds the parameter while it tells.
+    auto* const raw = parameter.get();
+    auto const value = raw->ownValue();
+    dynamic_cast<VValue<int>&>(*value).set(6);
+    raw->notifyValueChange(value, nullptr, std::string(), WeakPtr<ValueNotifier>(&input), nullptr, nullptr);
+    EXPECT_FALSE(weak.alive());
+}
+
+TEST_F(WatchedInt, ACommandOfTheHostIsAStep) {
+    EXPECT_TRUE(history.store(parameter, nullptr, {makeValue(12), false}));
+    EXPECT_EQ(text(parameter), "12");
+    EXPECT_EQ(input.shown, "12");
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 12"));
+    EXPECT_TRUE(history.store(parameter, nullptr, {makeValue(12), false})) << "holds already";
+    EXPECT_FALSE(history.store(parameter, nullptr, {makeValue(std::string("x")), false}));
+    EXPECT_FALSE(history.store(nullptr, nullptr, {makeValue(1), false}));
+    EXPECT_THAT(names(), SizeIs(1));
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+}
+
+TEST_F(EditRecorderTest, AStepGoesBackInThePoolOfTheEdit) {
+    auto const parameter = makeParameter(1, VParameter::Values::PerPool);
+    parameter->setLocalValue(draft, makeValue(2));
+    SmallInput input{parameter};
+    auto const recorder = EditRecorder::watch(parameter);
+    input.edit(20, draft);
+    input.edit(30, final);
+    EXPECT_EQ(text(parameter, final), "30");
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter, draft), "20");
+    EXPECT_EQ(parameter->getLocalValue(final, std::string(), false), nullptr) << "the pool had no value of its own";
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter, draft), "2");
+    EXPECT_TRUE(history.redo());
+    EXPECT_TRUE(history.redo());
+    EXPECT_EQ(text(parameter, draft), "20");
+    EXPECT_EQ(text(parameter, final), "30");
+    EXPECT_EQ(parameter->ownValue()->Text(), "1");
+}
+
+TEST_F(EditRecorderTest, AStepOfAPoolThatIsGoneIsDropped) {
+    auto const parameter = makeParameter(1, VParameter::Values::PerPool);
+    SmallInput input{parameter};
+    auto const recorder = EditRecorder::watch(parameter);
+    Pool third(new ValuePool("third"));
+    input.edit(20, third);
+    third.reset();
+    EXPECT_FALSE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+}
+
+TEST_F(EditRecorderTest, AValueOfAnotherTypeThatAPoolHeldComesBack) {
+    auto const parameter = makeParameter(1, VParameter::Values::PerPool);
+    parameter->setLocalValue(draft, makeValue(std::string("seven")));
+    SmallInput input{parameter};
+    auto const recorder = EditRecorder::watch(parameter);
+    parameter->freshLocalValue(draft);
+    input.edit(7, draft);
+    EXPECT_EQ(text(parameter, draft), "7");
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter, draft), "seven");
+    EXPECT_TRUE(history.redo());
+    EXPECT_EQ(text(parameter, draft), "7");
+}
+
+TEST_F(EditRecorderTest, ASelectionThatIsChangedInPlaceIsNeverSharedWithAStep) {
+    VStringList const selection(new StringSelection({"a", "b", "c"}, "a"));
+    auto const parameter = makeParameter(selection);
+    SmallInput input{parameter};
+    auto const recorder = EditRecorder::watch(parameter);
+    auto const choose = [&](char const* name) {
+        auto const list = valueOr(parameter->ownValue(), VStringList());
+        list->select(name);
+        input.edit(list, nullptr);
+    };
+    choose("b");
+    choose("c");
+    EXPECT_THAT(names(), ElementsAre("p: a → b", "p: b → c"));
+    history.undo();
+    EXPECT_EQ(text(parameter), "b");
+    choose("a");
+    EXPECT_THAT(names(), ElementsAre("p: a → b", "p: b → a"));
+    history.undo();
+    history.undo();
+    EXPECT_EQ(text(parameter), "a");
+    history.redo();
+    EXPECT_EQ(text(parameter), "b");
+    history.redo();
+    EXPECT_EQ(text(parameter), "a");
+}
+
+TEST_F(EditRecorderTest, AGestureOverSeveralParametersIsOneStep) {
+    auto const first = makeParameter(1);
+    auto const second = makeParameter(std::string("x"));
+    SmallInput firstInput{first};
+    SmallInput secondInput{second};
+    auto const recorders = {EditRecorder::watch(first), EditRecorder::watch(second)};
+    EXPECT_THAT(recorders, SizeIs(2));
+    history.openGesture();
+    firstInput.edit(2, nullptr);
+    secondInput.edit(std::string("y"), nullptr);
+    history.closeGesture();
+    ASSERT_THAT(history.steps(), SizeIs(1));
+    EXPECT_THAT(history.steps()[0]->changes(), SizeIs(2));
+    history.undo();
+    EXPECT_EQ(text(first), "1");
+    EXPECT_EQ(text(second), "x");
+}
+
+TEST_F(EditRecorderTest, DefaultsAreWhatAParameterHeldInEachPool) {
+    auto const parameter = makeParameter(1, VParameter::Values::PerPool);
+    parameter->setLocalValue(draft, makeValue(2));
+    EXPECT_EQ(parameter->defaults(), nullptr);
+    parameter->rememberDefaults();
+    setParameterValue(*parameter, 20, draft, std::string(), true, nullptr, nullptr);
+    setParameterValue(*parameter, 1, final, std::string(), true, nullptr, nullptr);
+    EXPECT_FALSE(parameter->defaults()->holdsIn(*parameter, draft));
+    EXPECT_TRUE(parameter->defaults()->holdsIn(*parameter, final)) << "a value of its own that equals what held";
+    EXPECT_TRUE(parameter->defaults()->isOwnValueOf(*parameter));
+    EXPECT_TRUE(history.store(parameter, draft, parameter->defaults()->in(draft)));
+    EXPECT_EQ(text(parameter, draft), "2");
+    EXPECT_TRUE(history.store(parameter, final, parameter->defaults()->in(final)));
+    EXPECT_EQ(parameter->getLocalValue(final, std::string(), false), nullptr);
+    EXPECT_FALSE(history.store(parameter, nullptr, parameter->defaults()->in(draft))) << "there is no such place";
+}

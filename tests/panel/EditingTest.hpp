@@ -1,0 +1,116 @@
+#pragma once
+
+#include "PanelTest.hpp"
+
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSlider>
+
+/// A shown panel with a network that has a parameter of every edited type, for edits by mouse and keyboard.
+class EditingTest : public PanelTest {
+protected:
+    void SetUp() override {
+        PanelTest::SetUp();
+        QString error;
+        ASSERT_TRUE(window->openNetwork(networkFile("values.json", values), &error)) << qPrintable(error);
+        window->resize(1000, 1400);
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        text = window->network()->values();
+    }
+
+    void TearDown() override {
+        window.reset();
+        // The list for multiple choice says so each time it shows a value.
+        EXPECT_THAT(takeOutput(), testing::Each("calling getSeletion from valueChanged"));
+        PanelTest::TearDown();
+    }
+
+    static constexpr char const* values = R"({
+        "title": "Values",
+        "pools": ["draft", "final"],
+        "objects": [
+            { "name": "all", "parameters": [
+                { "name": "bool", "type": "bool", "value": false },
+                { "name": "int", "type": "int", "value": 40, "properties": { "min": 0, "max": 100 },
+                  "values": { "draft": 20 } },
+                { "name": "double", "type": "double", "value": 0.5 },
+                { "name": "colour", "type": "colour", "value": [0, 0.2, 0.4, 1] },
+                { "name": "enum", "type": "enum", "entries": ["Red", "Green", "Blue"], "value": "Red" },
+                { "name": "flags", "type": "flags", "value": { "bold": false, "wide": true } },
+                { "name": "selection", "type": "selection", "entries": ["one", "two", "three"], "value": "one" },
+                { "name": "multiselection", "type": "multiselection", "entries": ["a", "b", "c"], "value": ["b"] },
+                { "name": "line", "type": "string", "preferences": ["OneLine"], "value": "edge" },
+                { "name": "array", "type": "stringarray", "value": ["caption"] },
+                { "name": "entered", "type": "string", "preferences": ["OneLine", "UpdateOnEnterOnly"],
+                  "value": "2023" },
+                { "name": "lines", "type": "string", "preferences": ["MultiLine"], "value": "first\nsecond" },
+                { "name": "file", "type": "string", "preferences": ["FileInput"], "value": "" }
+            ] },
+            { "name": "others", "parameters": [
+                { "name": "start", "type": "action", "value": "Start" },
+                { "name": "said", "type": "info", "value": "Nothing." },
+                { "name": "status", "type": "status", "value": "Ready." },
+                { "name": "same int", "type": "int", "value": 3 },
+                { "name": "wide flags", "type": "flags", "value": { "bold": false, "wide": false } }
+            ] }
+        ]
+    })";
+
+    Panel::ParameterRow* row(char const* name) const { return window->currentView()->row(QString::fromUtf8(name)); }
+    template <typename Control>
+    Control* control(char const* name) const {
+        auto* const editor = row(name)->editor();
+        auto* const self = qobject_cast<Control*>(editor);
+        return self ? self : editor->findChild<Control*>();
+    }
+    QLineEdit* field(char const* name) const { return control<QLineEdit>(name); }
+    QSlider* slider(char const* name) const { return control<QSlider>(name); }
+    QRadioButton* choice(char const* name) const {
+        for (auto* const button : row("enum")->editor()->findChildren<QRadioButton*>())
+            if (button->text() == QLatin1String(name))
+                return button;
+        return nullptr;
+    }
+
+    /// Clicks a check box or radio button where it is marked.
+    static void click(QAbstractButton* button) {
+        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, {8, button->height() / 2});
+    }
+
+    /// The text of a value of the object "all" in the chosen pool.
+    std::string held(char const* name) const { return valueOf(("all." + std::string(name)).c_str()); }
+
+    /// Moves the handle of a slider as the mouse does, from where it is by a number of pixels each time.
+    static void drag(QSlider* slider, std::initializer_list<int> distances) {
+        QStyleOptionSlider option;
+        option.initFrom(slider);
+        option.orientation = slider->orientation();
+        option.minimum = slider->minimum();
+        option.maximum = slider->maximum();
+        option.sliderPosition = slider->sliderPosition();
+        option.sliderValue = slider->value();
+        auto place =
+            slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider).center();
+        QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, place);
+        for (int const distance : distances) {
+            place.rx() += distance;
+            QMouseEvent move(QEvent::MouseMove, place, slider->mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
+                             Qt::NoModifier);
+            QApplication::sendEvent(slider, &move);
+        }
+        QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, place);
+    }
+
+    static std::vector<std::string> steps() {
+        std::vector<std::string> steps;
+        for (auto const& step : Kolt::UndoHistory::theHistory().steps())
+            steps.push_back(step->description());
+        return steps;
+    }
+    QByteArray valuesNow() const { return window->network()->values(); }
+
+    /// The values of the file.
+    QByteArray text;
+};

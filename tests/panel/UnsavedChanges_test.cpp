@@ -1,0 +1,191 @@
+#include "EditingTest.hpp"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTextEdit>
+#include <QToolButton>
+
+using testing::HasSubstr;
+
+namespace {
+
+class UnsavedChangesTest : public EditingTest {
+protected:
+    QString file() const { return folder.filePath(QStringLiteral("values.json")); }
+    static QByteArray bytesOf(QString const& name) {
+        QFile source(name);
+        EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << qPrintable(name);
+        return source.readAll();
+    }
+    /// Does something that may ask about changes, and answers. Says whether it was asked.
+    static bool answer(QMessageBox::StandardButton button, std::function<void()> const& asking) {
+        bool asked = false;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                asked = true;
+                QTest::mouseClick(box->button(button), Qt::LeftButton);
+            }
+        });
+        timer.start(0);
+        asking();
+        return asked;
+    }
+    bool close(QMessageBox::StandardButton button) const {
+        return answer(button, [this] { window->close(); });
+    }
+    void edit() { click(choice("Blue")); }
+    bool isMarked() const {
+        return waitUntil([this] { return window->isWindowModified(); });
+    }
+    bool isUnmarked() const {
+        return waitUntil([this] { return !window->isWindowModified(); });
+    }
+};
+
+} // namespace
+
+TEST_F(UnsavedChangesTest, TheTitleMarksThem) {
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("Values[*]"));
+    edit();
+    EXPECT_TRUE(isMarked());
+    action("undo")->trigger();
+    EXPECT_TRUE(isUnmarked()) << "the values are those of the file again";
+    action("redo")->trigger();
+    EXPECT_TRUE(isMarked());
+    ASSERT_TRUE(window->saveValues(file()));
+    EXPECT_FALSE(window->isWindowModified());
+    action("undo")->trigger();
+    EXPECT_TRUE(isMarked()) << "the file holds what came after";
+}
+
+TEST_F(UnsavedChangesTest, ClosingWithoutThemAsksNothing) {
+    edit();
+    action("undo")->trigger();
+    EXPECT_FALSE(close(QMessageBox::Cancel));
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(UnsavedChangesTest, WhatTheHostWroteIsNotLostUnasked) {
+    set("all.int", "99");
+    EXPECT_TRUE(close(QMessageBox::Cancel));
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(UnsavedChangesTest, WhatIsOnlyShownIsNoChange) {
+    set("others.said", "Something else.");
+    set("others.status", "Busy.");
+    EXPECT_FALSE(close(QMessageBox::Cancel));
+}
+
+TEST_F(UnsavedChangesTest, CancelKeepsTheWindow) {
+    edit();
+    EXPECT_TRUE(close(QMessageBox::Cancel));
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(held("enum"), "Blue");
+}
+
+TEST_F(UnsavedChangesTest, DiscardClosesAndLeavesTheFileAsItWas) {
+    auto const before = bytesOf(file());
+    edit();
+    EXPECT_TRUE(close(QMessageBox::Discard));
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(bytesOf(file()), before);
+}
+
+TEST_F(UnsavedChangesTest, SaveWritesAndCloses) {
+    edit();
+    auto const edited = valuesNow();
+    EXPECT_TRUE(close(QMessageBox::Save));
+    EXPECT_FALSE(window->isVisible());
+    ASSERT_TRUE(window->openNetwork(file()));
+    EXPECT_EQ(valuesNow(), edited);
+}
+
+TEST_F(UnsavedChangesTest, AFailedSaveKeepsTheWindow) {
+    edit();
+    // Nobody, not even root, can replace a folder by a file.
+    ASSERT_TRUE(QFile::remove(file()));
+    ASSERT_TRUE(QDir().mkpath(file() + QStringLiteral("/kept")));
+    EXPECT_TRUE(close(QMessageBox::Save));
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(held("enum"), "Blue");
+    QPointer<QMessageBox> const box = window->findChild<QMessageBox*>();
+    ASSERT_TRUE(box);
+    EXPECT_THAT(box->informativeText().toStdString(), HasSubstr("values.json"));
+    box->accept();
+    EXPECT_TRUE(waitUntil([&] { return box.isNull(); }));
+}
+
+TEST_F(UnsavedChangesTest, ATextThatIsStillBeingTypedIsAskedAboutToo) {
+    auto* const lines = control<QTextEdit>("lines");
+    lines->setFocus();
+    QTest::keyClick(lines, Qt::Key_X);
+    EXPECT_EQ(valuesNow(), text) << "written when the field is left, at the latest";
+    EXPECT_TRUE(close(QMessageBox::Cancel));
+    EXPECT_THAT(held("lines"), HasSubstr("x"));
+    EXPECT_EQ(window->focusWidget(), lines);
+
+    auto* const entered = field("entered");
+    entered->setFocus();
+    QTest::keyClicks(entered, QStringLiteral("-04"));
+    ASSERT_TRUE(answer(QMessageBox::Save, [this] { window->close(); }));
+    EXPECT_THAT(bytesOf(file()).toStdString(), HasSubstr("2023-04"));
+}
+
+TEST_F(UnsavedChangesTest, OpeningAnotherNetworkAsksFirst) {
+    edit();
+    auto const* const network = window->network();
+    EXPECT_TRUE(answer(QMessageBox::Cancel, [this] { action("open")->trigger(); }));
+    EXPECT_EQ(window->network(), network);
+    EXPECT_EQ(held("enum"), "Blue");
+
+    auto const other = networkFile("other.json", lamps);
+    bool chosen = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog || chosen)
+            return;
+        chosen = true;
+        dialog->findChild<QLineEdit*>()->setText(other);
+        QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    timer.start(0);
+    EXPECT_TRUE(answer(QMessageBox::Discard, [this] { action("open")->trigger(); }));
+    EXPECT_TRUE(chosen);
+    EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("Two lamps"));
+    EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(UnsavedChangesTest, SavingUnderAnotherNameGoesOnWithThatFile) {
+    auto const before = bytesOf(file());
+    edit();
+    EXPECT_TRUE(row("enum")->defaultMarker()->isVisible());
+    auto const copy = folder.filePath(QStringLiteral("copy.json"));
+    ASSERT_TRUE(window->saveValues(copy));
+    EXPECT_EQ(bytesOf(file()), before);
+    EXPECT_EQ(window->network()->file(), copy);
+    EXPECT_EQ(window->windowFilePath(), copy);
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_FALSE(row("enum")->defaultMarker()->isVisible()) << "the saved values are the defaults";
+    click(choice("Green"));
+    EXPECT_THAT(row("enum")->defaultMarker()->toolTip().toStdString(), HasSubstr("Default: Blue"));
+    EXPECT_TRUE(close(QMessageBox::Save));
+    EXPECT_EQ(bytesOf(file()), before);
+    EXPECT_THAT(bytesOf(copy).toStdString(), HasSubstr("\"value\": \"Green\""));
+}
+
+TEST_F(UnsavedChangesTest, ABrokenFileLosesNothing) {
+    edit();
+    auto const edited = valuesNow();
+    QString error;
+    EXPECT_FALSE(window->openNetwork(networkFile("broken.json", "{\n\"pools\": 3\n}"), &error));
+    EXPECT_THAT(error.toStdString(), HasSubstr("broken.json:2: expected"));
+    EXPECT_EQ(valuesNow(), edited);
+    EXPECT_TRUE(isMarked());
+    EXPECT_TRUE(action("undo")->isEnabled());
+    action("undo")->trigger();
+    EXPECT_EQ(valuesNow(), text);
+}
