@@ -88,7 +88,7 @@ void VParameter::notifyValueChange(Tessera::StrongPtr<VValueBase> const& value,
                                    Tessera::StrongPtr<ValuePool> const& pool, std::string const&,
                                    Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                                    ValueMap const* values) const {
-    if (nobodyListens() && !alsoNotify)
+    if (nobodyListens() && !alsoNotify && recorder_.expired())
         return;
     // Held here, as the caller's reference may be a part of what dies on the way.
     auto const live = value;
