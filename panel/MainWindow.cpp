@@ -1,5 +1,6 @@
 #include <lattice/UndoAction.hpp>
 #include <panel/MainWindow.hpp>
+#include <panel/objects/ObjectFactory.hpp>
 #include <QAction>
 #include <QCoreApplication>
 #include <QDockWidget>
@@ -34,6 +35,9 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     addDockWidget(Qt::BottomDockWidgetArea, messageDock);
     resizeDocks({messageDock}, {110}, Qt::Vertical);
 
+    studio_ = std::make_unique<Studio>(*this);
+    connect(studio_.get(), &Studio::told, this,
+            [this](QString const& text) { messages_->add(MessageList::Source::Panel, text); });
     makePoolSelector();
     makeFileMenu();
     makeEditMenu();
@@ -41,7 +45,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     makePluginMenu();
     statusBar()->addPermanentWidget(pluginLabel_);
     setWindowTitle(tr("Talo panel"));
-    resize(1000, 760);
+    resize(1200, 800);
 
     connect(objectList_, &ObjectList::objectChosen, this, &MainWindow::showView);
     connect(&warnings_, &WarningListener::warned, this,
@@ -59,10 +63,11 @@ MainWindow::~MainWindow() {
     closeViews();
     closeEditors();
     qDeleteAll(views());
+    studio_->showNetwork(nullptr, nullptr);
 }
 
 bool MainWindow::openNetwork(QString const& file, QString* error) {
-    auto loaded = Network::load(file);
+    auto loaded = Network::load(file, makeObject);
     if (!loaded.network) {
         messages_->add(MessageList::Source::Error, loaded.error);
         if (error)
@@ -79,11 +84,13 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
         return;
     closeViews();
     objectList_->showNetwork(nullptr);
+    studio_->showNetwork(nullptr, nullptr);
     // These steps are about parameters that go now.
     Kolt::UndoHistory::theHistory().forget([](auto const&) { return true; });
     network_ = std::move(network);
     network_->actionHandler = [this](Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,
                                      Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+        studio_->fire(object, parameter, pool);
         messages_->add(MessageList::Source::Panel,
                        tr("Action %1.%2 was fired in pool %3.")
                            .arg(object ? QString::fromStdString(object->Name()) : tr("(no object)"),
@@ -97,6 +104,7 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
             poolSelector_->addItem(QString::fromStdString(pool->Name()));
         pools_.setPool(network_->pools().front());
     }
+    studio_->showNetwork(network_.get(), pools_.pool());
     setWindowTitle(tr("%1 – Talo panel")
                        .arg(network_->title().isEmpty() ? QFileInfo(network_->file()).fileName() : network_->title()));
     setWindowFilePath(network_->file());
@@ -134,6 +142,7 @@ bool MainWindow::choosePool(QString const& name) {
 void MainWindow::choosePool(int index) {
     auto const& pools = network_->pools();
     pools_.setPool(pools.at(static_cast<std::size_t>(index)));
+    studio_->choosePool(pools_.pool());
     auto const shown = views();
     for (auto* const view : shown)
         view->showPool();
@@ -157,7 +166,13 @@ void MainWindow::showView(Kolt::ObjectPtr const& object) {
 ObjectView* MainWindow::makeView(Kolt::ObjectPtr const& object, QWidget* parent) {
     auto* const view = new ObjectView(object, network_->kind(object), pools_, parent);
     view->setRawValuesShown(rawAction_->isChecked());
+    followLinks(*view);
     return view;
+}
+
+void MainWindow::followLinks(ObjectView const& view) {
+    for (auto const* const row : view.rows())
+        studio_->followLinks(row->parameter(), row->editor());
 }
 
 ObjectView* MainWindow::addView() {
@@ -207,8 +222,10 @@ void MainWindow::closeEditors() {
 void MainWindow::openEditors() {
     objectList_->openIcons();
     auto const shown = views();
-    for (auto* const view : shown)
+    for (auto* const view : shown) {
         view->openEditors();
+        followLinks(*view);
+    }
     updatePlugins();
 }
 

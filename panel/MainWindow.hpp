@@ -4,6 +4,7 @@
 #include <panel/MessageList.hpp>
 #include <panel/network/Network.hpp>
 #include <panel/ObjectList.hpp>
+#include <panel/objects/Studio.hpp>
 #include <panel/ObjectView.hpp>
 #include <panel/Plugins.hpp>
 #include <panel/SchedulerDriver.hpp>
@@ -56,6 +57,8 @@ public:
     ObjectList* objectList() const { return objectList_; }
     MessageList* messages() const { return messages_; }
     PoolSource& pools() { return pools_; }
+    /// Where the network's picture is computed and shown.
+    Studio& studio() { return *studio_; }
 
 public slots:
     /// Takes the latest step of the history back.
@@ -80,6 +83,8 @@ private:
     void showView(Kolt::ObjectPtr const& object);
     ObjectView* makeView(Kolt::ObjectPtr const& object, QWidget* parent);
     std::vector<ObjectView*> views() const;
+    /// Lets the links in the shown states be followed.
+    void followLinks(ObjectView const& view);
     void closeViews();
     void closeEditors();
     void openEditors();
@@ -90,6 +95,8 @@ private:
     Plugins& plugins_;
     PoolSource pools_;
     std::unique_ptr<Network> network_;
+    // Goes before the network, whose objects it works for.
+    std::unique_ptr<Studio> studio_;
     SchedulerDriver scheduler_;
     WarningListener warnings_;
     std::unique_ptr<StandardOutputTap> outputTap_;

@@ -70,6 +70,7 @@ void MainWindow::makeViewMenu(QAction* showMessages) {
             view->setRawValuesShown(shown);
     });
     menu->addAction(showMessages);
+    menu->addAction(studio_->previewAction());
 }
 
 void MainWindow::makePluginMenu() {
