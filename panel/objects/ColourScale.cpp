@@ -11,6 +11,8 @@ using Blend = FractalSettings::Blend;
 
 // Finer than what eight bits for a channel can show.
 constexpr int scaleLength = 4096;
+// No point within the circle of radius 2 has gone far away sooner.
+constexpr int earliestEscape = 3;
 
 std::vector<QRgb> paletteColours(FractalSettings const& settings) {
     switch (settings.palette) {
@@ -114,9 +116,8 @@ ColourScale::Colour const& ColourScale::colourOf(FractalFormula::Fate const& fat
     if (fate.stays)
         return inside_;
     // Most points escape early, so the early ones get most of the scale.
-    double place = std::log1p(fate.count) / logarithmOfMost_;
-    if (hasRoots_)
-        place = (place + fate.root) / 3;
+    auto const share = [&](double count) { return std::log1p(std::max(0.0, count)) / logarithmOfMost_; };
+    double const place = hasRoots_ ? (share(fate.count) + fate.root) / 3 : share(fate.count - earliestEscape);
     return colourAt(0.5 + (place - 0.5) * contrast_);
 }
 

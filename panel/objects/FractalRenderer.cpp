@@ -86,8 +86,8 @@ std::optional<FractalPoints> FractalRenderer::render(FractalSettings const& sett
     RowRenderer const rows(settings, points, cancelled);
     std::atomic<int> nextRow{0};
     std::atomic<int> doneRows{0};
+    int told = -1;
     auto const work = [&](Progress const& tell) {
-        int told = -1;
         for (int row = nextRow++; row < size.height() && rows.compute(row); row = nextRow++) {
             int const percent = ++doneRows * 100 / size.height();
             if (tell && percent > told)
@@ -102,6 +102,9 @@ std::optional<FractalPoints> FractalRenderer::render(FractalSettings const& sett
         helper.join();
     if (doneRows < size.height())
         return std::nullopt;
+    // The last row may have been a helper's.
+    if (progress && told < 100)
+        progress(100);
 
     auto const staying =
         std::count_if(points.counts.begin(), points.counts.end(), [](float c) { return std::isinf(c); });
