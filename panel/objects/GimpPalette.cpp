@@ -1,5 +1,6 @@
 #include <panel/objects/GimpPalette.hpp>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 namespace Panel {
@@ -63,8 +64,11 @@ std::vector<QRgb> GimpPalette::read(QString const& file, QString& error) {
     int line = 0;
     QString problem;
     std::vector<QRgb> colours;
+    // What is no file, as a pipe, may never end, or never begin.
+    if (QFileInfo const info(file); info.exists() && !info.isFile())
+        problem = tr("expected a file, found something else");
     // One byte more tells a file that is too long.
-    if (source.open(QIODevice::ReadOnly)) {
+    else if (source.open(QIODevice::ReadOnly)) {
         auto const text = source.read(longestFile + 1);
         if (source.error() == QFileDevice::NoError) {
             if (text.size() > longestFile)

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QLocale>
 #include <QPointer>
+#include <QTextDocument>
 
 namespace Panel {
 
@@ -194,7 +195,8 @@ void Workshop::finish(Job const& job) {
     else
         outcome = tr("Computed %1.").arg(job.title());
 
-    job.writeStatus(outcome.toHtmlEscaped());
+    // The name of a file may look like rich text.
+    job.writeStatus(Qt::mightBeRichText(outcome) ? QStringLiteral("<p>%1</p>").arg(outcome.toHtmlEscaped()) : outcome);
     if (!job.summary().isEmpty()) {
         for (auto const* const object : network_->all<RenderObject>())
             object->tellProgress(job.summary(), job.pool());

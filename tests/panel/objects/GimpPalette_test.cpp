@@ -2,6 +2,7 @@
 
 #include <panel/objects/GimpPalette.hpp>
 #include <QTemporaryDir>
+#include <sys/stat.h>
 
 using testing::AllOf;
 using testing::ElementsAre;
@@ -77,4 +78,12 @@ TEST_F(GimpPaletteTest, NamesTheFileThatItCannotRead) {
     EXPECT_THAT(error.toStdString(), HasSubstr("one megabyte"));
     EXPECT_TRUE(Panel::GimpPalette::read(folder.path(), error).empty());
     EXPECT_THAT(error.toStdString(), StartsWith(folder.path().toStdString() + ":0: "));
+}
+
+TEST_F(GimpPaletteTest, DoesNotWaitForAPipe) {
+    auto const name = folder.filePath(QStringLiteral("pipe.gpl"));
+    ASSERT_EQ(mkfifo(name.toLocal8Bit().constData(), 0600), 0);
+    QString error;
+    EXPECT_TRUE(Panel::GimpPalette::read(name, error).empty());
+    EXPECT_THAT(error.toStdString(), HasSubstr("expected a file, found something else"));
 }

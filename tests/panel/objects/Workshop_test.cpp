@@ -174,6 +174,16 @@ TEST_F(WorkshopTest, AFileThatCannotBeWrittenIsWarnedOf) {
     EXPECT_THAT(told, IsEmpty());
 }
 
+TEST_F(WorkshopTest, ANameThatLooksLikeRichTextIsShownAsItIs) {
+    auto const file = path("<b>a&b.png");
+    chooseFile("exporter.picture", file);
+    ASSERT_TRUE(ends());
+    EXPECT_TRUE(QFile::exists(file));
+    EXPECT_THAT(told, ElementsAre("Wrote " + file.toStdString() + "."));
+    EXPECT_THAT(status(), HasSubstr("&lt;b&gt;a&amp;b.png"));
+    EXPECT_THAT(reports->texts(), testing::Each(testing::Not(HasSubstr("<b>"))));
+}
+
 TEST_F(WorkshopTest, TheNetworkMayGoWhileItIsComputed) {
     makeEndless();
     workshop.start(draft);
