@@ -7,6 +7,7 @@ namespace Panel {
 ComputingBar::ComputingBar(Workshop& workshop, QWidget* parent)
     : QWidget(parent), workshop_(workshop), progress_(new QProgressBar), cancel_(new QPushButton(tr("&Cancel"))) {
     setObjectName(QStringLiteral("computing"));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 8, 0);
     progress_->setRange(0, 100);

@@ -83,6 +83,10 @@ void PreviewMaker::setSize(QSize const& size) {
     change();
 }
 
+bool PreviewMaker::isRefining() const {
+    return drawing_ && drawing_->isFine();
+}
+
 bool PreviewMaker::isAtRest() const {
     if (!computes() || size_.isEmpty())
         return true;
@@ -112,7 +116,7 @@ void PreviewMaker::change() {
         return;
     }
     restTimer_.start();
-    if (drawing_ && drawing_->isFine()) {
+    if (isRefining()) {
         worker_.cancel();
         drawing_ = nullptr;
     }

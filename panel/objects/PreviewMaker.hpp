@@ -32,6 +32,8 @@ public:
     bool isFine() const { return isFine_; }
     /// What the user should know about the picture; usually empty.
     QString const& problem() const { return problem_; }
+    /// Whether the fine picture is being made.
+    bool isRefining() const;
     /// Whether the picture stays as it is unless something changes.
     bool isAtRest() const;
 

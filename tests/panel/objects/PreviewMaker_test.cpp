@@ -138,15 +138,14 @@ TEST_F(PreviewMakerTest, AnotherSizeHasAnotherPicture) {
 TEST_F(PreviewMakerTest, AnOutdatedFinePictureIsCancelled) {
     ASSERT_TRUE(rests());
     // This takes minutes where it is not cancelled.
-    maker.setSize({2000, 1500});
+    maker.setSize({1000, 750});
+    set("formula.kind", "Burning ship");
     set("formula.iterations", "20000");
-    set("formula.quality", "16");
-    set("formula.kind", "Newton");
-    set("formula.kind", "Julia");
-    set("formula.zoom", "6");
-    shown.clear();
-    ASSERT_TRUE(waitUntil([&] { return maker.changes() > 0 && !shown.empty(); }, 60000));
+    set("formula.quality", "3");
+    ASSERT_TRUE(waitUntil([&] { return maker.isRefining(); }, 60000));
+    EXPECT_FALSE(maker.isFine());
     set("formula.iterations", "10");
+    ASSERT_TRUE(waitUntil([&] { return !maker.isRefining(); }));
     set("formula.quality", "1");
     maker.setSize({40, 30});
     EXPECT_TRUE(rests());
