@@ -12,7 +12,7 @@ namespace Panel {
 /// that start with "#", and a line for each colour, "red green blue" with whole numbers from 0 to 255 and a name that
 /// may be left out.
 class GimpPalette {
-    Q_DECLARE_TR_FUNCTIONS(GimpPalette)
+    Q_DECLARE_TR_FUNCTIONS(Panel::GimpPalette)
 
 public:
     /// The colours in their order, at least one, at most 4,096; or none and the reason in `error`, "line 3: what was

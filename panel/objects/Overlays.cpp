@@ -103,8 +103,8 @@ void Overlays::paintGrid(QPainter& painter) const {
     // About six meshes from top to bottom.
     double const mesh = roundLength(size_.height() * view_.scale() / 6);
     auto const number = [&](double length) { return std::round(length / mesh); };
-    double const first = -std::ceil(reach() / mesh);
-    for (double line = first; line <= -first; ++line) {
+    int const outermost = static_cast<int>(std::ceil(reach() / mesh));
+    for (int line = -outermost; line <= outermost; ++line) {
         paintLine(painter, {(number(view_.centre().real()) + line) * mesh, view_.centre().imag()}, {0, 1});
         paintLine(painter, {view_.centre().real(), (number(view_.centre().imag()) + line) * mesh}, {1, 0});
     }

@@ -21,6 +21,8 @@ std::optional<FractalPoints> Picture::compute(Order order, FractalRenderer const
                                               FractalRenderer::Progress const& progress) {
     auto& settings = order.settings;
     settings.limit();
+    if (!order.hasTexts)
+        settings.legendText.clear();
     int const coarseness = std::max(1, order.coarseness);
     auto const shared = [&](int length) { return (length + coarseness - 1) / coarseness; };
     QSize const computed(shared(order.size.width()), shared(order.size.height()));

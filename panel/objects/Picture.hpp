@@ -8,14 +8,14 @@ namespace Panel {
 /// A whole picture: its points, what is drawn over them, and its texts. Any thread that may paint on images. Nothing is
 /// printed.
 class Picture {
-    Q_DECLARE_TR_FUNCTIONS(Picture)
+    Q_DECLARE_TR_FUNCTIONS(Panel::Picture)
 
 public:
     /// What is to be computed.
     struct Order {
         FractalSettings settings; ///< numbers out of range are limited
         QSize size;               ///< in points
-        /// Whether the texts stand on the picture; otherwise they are left out.
+        /// Whether the texts stand on the picture, that of the legend included; otherwise they are left out.
         bool hasTexts = true;
         /// How many points of the picture, in each direction, share one that is computed; at least 1.
         int coarseness = 1;

@@ -112,6 +112,18 @@ TEST_F(PictureTest, TheTextOfTheLegendStandsInTheLegend) {
     EXPECT_EQ(legend("Dark: it stays.", false), usual);
 }
 
+TEST_F(PictureTest, APictureWithoutTextsHasTheRest) {
+    auto settings = quick();
+    settings.legend = settings.axes = true;
+    auto const bare = picture(settings);
+    settings.heading = settings.author = settings.caption = settings.date = settings.legendText =
+        QStringLiteral("Text");
+    std::atomic<bool> const cancelled{false};
+    Panel::Picture::Order const order{settings, usual.size(), false, 1};
+    EXPECT_EQ(Panel::Picture::compute(order, Panel::FractalRenderer(1), cancelled).value().image, bare);
+    EXPECT_NE(picture(settings), bare);
+}
+
 TEST_F(PictureTest, TextsOfAnyLengthAreDrawn) {
     auto const image = with([](FractalSettings& settings) {
         settings.heading = QString(10000, QLatin1Char('m'));
