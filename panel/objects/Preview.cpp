@@ -45,22 +45,20 @@ QSize Preview::pictureSize() const {
     return isVisible() ? pictureRect().size() * devicePixelRatioF() : QSize();
 }
 
-QRect Preview::textRect() const {
-    auto const room = rect().adjusted(margin, margin, -margin, -margin);
-    if (text_.isEmpty())
-        return {room.left(), room.bottom() + 1, room.width(), 0};
-    auto const needed = fontMetrics().boundingRect(room, Qt::TextWordWrap, text_).height();
-    int const height = qMin(needed, room.height() / 2);
-    return {room.left(), room.bottom() + 1 - height, room.width(), height};
+QRect Preview::room() const {
+    return rect().adjusted(margin, margin, -margin, -margin);
 }
 
 QRect Preview::pictureRect() const {
-    auto room = rect().adjusted(margin, margin, -margin, -margin);
-    if (!text_.isEmpty())
-        room.setBottom(textRect().top() - margin);
-    QRect picture(QPoint(), proportions.scaled(room.size(), Qt::KeepAspectRatio));
-    picture.moveCenter(room.center());
-    picture.moveTop(room.top());
+    auto const whole = room();
+    QSize left = whole.size();
+    if (!text_.isEmpty()) {
+        int const needed = fontMetrics().boundingRect(whole, Qt::TextWordWrap, text_).height();
+        left.rheight() -= qMin(needed, whole.height() / 2) + margin;
+    }
+    QRect picture(QPoint(), proportions.scaled(left, Qt::KeepAspectRatio));
+    picture.moveCenter(whole.center());
+    picture.moveTop(whole.top());
     return picture;
 }
 
@@ -74,12 +72,14 @@ QSize Preview::minimumSizeHint() const {
 
 void Preview::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    auto const text = image_.isNull() ? rect().adjusted(margin, margin, -margin, -margin) : textRect();
-    painter.drawText(text, (image_.isNull() ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignTop) | Qt::TextWordWrap,
-                     text_);
-    if (image_.isNull())
+    if (image_.isNull()) {
+        painter.drawText(room(), static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, text_);
         return;
+    }
     auto const picture = pictureRect();
+    auto text = room();
+    text.setTop(picture.bottom() + margin);
+    painter.drawText(text, Qt::TextWordWrap, text_);
     painter.setBrushOrigin(picture.topLeft());
     if (image_.hasAlphaChannel())
         painter.fillRect(picture, transparency());

@@ -35,9 +35,10 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    /// Where picture and text stand.
+    QRect room() const;
     /// Where the picture stands.
     QRect pictureRect() const;
-    QRect textRect() const;
 
     QImage image_;
     QString text_;

@@ -68,7 +68,7 @@ protected:
         set("formula.quality", "16");
         set("formula.iterations", "20000");
         set("formula.zoom", "-8");
-        set("exporter.width", "8192");
+        set("exporter.width", "4096");
     }
     std::string status() const { return valueOf("render.status", draft); }
 
