@@ -78,8 +78,12 @@ void Studio::followLinks(Kolt::ParameterPtr const& parameter, QWidget* editor) {
 }
 
 void Studio::followLink(QString const& link) {
-    if (link == QLatin1String(CancelLink))
+    if (link != QLatin1String(PictureJob::CancelLink))
+        return;
+    if (workshop_->isComputing())
         workshop_->cancel();
+    else
+        workshop_->tellIdle(pool_);
 }
 
 void Studio::showPicture() {

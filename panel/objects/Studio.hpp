@@ -15,9 +15,6 @@ class Studio : public QObject {
     Q_OBJECT
 
 public:
-    /// The link in a status that cancels what is being computed.
-    static constexpr auto CancelLink = "cancel";
-
     /// Adds the widgets to the window, which must outlive the studio.
     explicit Studio(QMainWindow& window);
     ~Studio() override;

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <panel/objects/ComputingNetwork.hpp>
-#include <panel/objects/ExporterObject.hpp>
-#include <panel/objects/RenderObject.hpp>
-#include <panel/objects/Worker.hpp>
-#include <QImage>
+#include <deque>
+#include <panel/objects/PictureJob.hpp>
 
 namespace Panel {
 
@@ -27,6 +24,8 @@ public:
     void write(ExporterObject::Format format, QString const& file, PoolPtr const& pool);
     /// Gives up everything that is being computed.
     void cancel();
+    /// Says in the status that nothing is being computed, for a network that was saved while something was.
+    void tellIdle(PoolPtr const& pool);
 
     bool isComputing() const { return !jobs_.empty(); }
     /// How much of the picture is computed, in percent; 0 while there is none.
@@ -43,15 +42,13 @@ signals:
     void told(QString const& text);
 
 private:
-    class Job;
-
-    void post(std::shared_ptr<Job> const& job);
+    void post(std::shared_ptr<PictureJob> const& job);
     void take();
-    void finish(Job const& job);
+    void finish(PictureJob const& job);
 
     std::unique_ptr<ComputingNetwork> network_;
     // In the order in which they are done; the first one is being done.
-    std::deque<std::shared_ptr<Job>> jobs_;
+    std::deque<std::shared_ptr<PictureJob>> jobs_;
     // Null without a network. Destroyed first, as its thread works on the jobs.
     std::unique_ptr<Worker> worker_;
 };

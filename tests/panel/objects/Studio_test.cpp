@@ -181,6 +181,12 @@ TEST_F(StudioTest, TheLinkInTheStatusCancels) {
     EXPECT_EQ(valueOf("render.status"), "Cancelled: the picture of draft.");
 }
 
+TEST_F(StudioTest, ALinkThatWasSavedWhileItComputedSaysThatNothingIs) {
+    set("render.status", "Computing: 7 %. <a href=\"cancel\">Cancel</a>");
+    clickLink(control<QLabel>("render", "status"), QStringLiteral("Cancel"));
+    EXPECT_EQ(valueOf("render.status"), "Nothing is being computed.");
+}
+
 TEST_F(StudioTest, TheLinkIsFollowedInASecondViewAndAfterThePluginsWereLoadedAgain) {
     window->showObject(QStringLiteral("render"));
     auto* const second = window->addView();
