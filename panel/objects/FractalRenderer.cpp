@@ -94,15 +94,15 @@ std::optional<FractalPoints> FractalRenderer::render(FractalSettings const& sett
                 tell(told = percent);
         }
     };
-    std::vector<std::thread> helpers;
-    for (int helper = 1; helper < std::min(threads_, size.height()); ++helper)
-        helpers.emplace_back(work, Progress());
+    std::vector<std::thread> threads;
+    for (int count = 1; count < std::min(threads_, size.height()); ++count)
+        threads.emplace_back(work, Progress());
     work(progress);
-    for (auto& helper : helpers)
-        helper.join();
+    for (auto& thread : threads)
+        thread.join();
     if (doneRows < size.height())
         return std::nullopt;
-    // The last row may have been a helper's.
+    // The last row may have been that of another thread.
     if (progress && told < 100)
         progress(100);
 
