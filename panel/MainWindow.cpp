@@ -1,5 +1,6 @@
 #include <lattice/UndoHistory.hpp>
 #include <panel/MainWindow.hpp>
+#include <panel/objects/ObjectFactory.hpp>
 #include <QAction>
 #include <QCoreApplication>
 #include <QDockWidget>
@@ -41,6 +42,9 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     addDockWidget(Qt::BottomDockWidgetArea, messageDock);
     resizeDocks({messageDock}, {110}, Qt::Vertical);
 
+    studio_ = std::make_unique<Studio>(*this);
+    connect(studio_.get(), &Studio::told, this,
+            [this](QString const& text) { messages_->add(MessageList::Source::Panel, text); });
     makeHistoryDock();
     makeToolBar();
     makeFileMenu();
@@ -49,7 +53,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     makePluginMenu();
     statusBar()->addPermanentWidget(pluginLabel_);
     showTitle();
-    resize(1000, 760);
+    resize(1200, 800);
 
     connect(objectList_, &ObjectList::objectChosen, this, &MainWindow::showView);
     connect(&warnings_, &WarningListener::warned, this,
@@ -67,11 +71,12 @@ MainWindow::~MainWindow() {
     closeViews();
     closeEditors();
     qDeleteAll(views());
+    studio_->showNetwork(nullptr, nullptr);
     Kolt::UndoHistory::theHistory().clear();
 }
 
 bool MainWindow::openNetwork(QString const& file, QString* error) {
-    auto loaded = Network::load(file);
+    auto loaded = Network::load(file, makeObject);
     if (!loaded.network) {
         messages_->add(MessageList::Source::Error, loaded.error);
         if (error)
@@ -88,6 +93,7 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
         return;
     closeViews();
     objectList_->showNetwork(nullptr);
+    studio_->showNetwork(nullptr, nullptr);
     // These steps are about parameters that go now.
     gestures_.end();
     historyList_->showNetwork(network.get());
@@ -95,6 +101,7 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
     network_ = std::move(network);
     network_->actionHandler = [this](Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,
                                      Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+        studio_->fire(object, parameter, pool);
         messages_->add(MessageList::Source::Panel,
                        tr("Action %1.%2 was fired in pool %3.")
                            .arg(object ? QString::fromStdString(object->Name()) : tr("(no object)"),
@@ -110,6 +117,7 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
     }
     showTitle();
     updateModified();
+    studio_->showNetwork(network_.get(), pools_.pool());
     objectList_->showNetwork(network_.get());
     filterField_->clear();
     if (!network_->objects().empty())
@@ -150,6 +158,7 @@ bool MainWindow::choosePool(QString const& name) {
 void MainWindow::choosePool(int index) {
     auto const& pools = network_->pools();
     pools_.setPool(pools.at(static_cast<std::size_t>(index)));
+    studio_->choosePool(pools_.pool());
     auto const shown = views();
     for (auto* const view : shown)
         view->showPool();
@@ -184,6 +193,8 @@ ObjectView* MainWindow::makeView(Kolt::ObjectPtr const& object, QWidget* parent)
     auto* const view = new ObjectView(object, network_->kind(object), pools_, parent);
     view->setRawValuesShown(rawAction_->isChecked());
     view->setFilter(ParameterFilter(filterField_->text()));
+    connect(view, &ObjectView::editorOpened, this,
+            [this](ParameterRow const* row) { studio_->followLinks(row->parameter(), row->editor()); });
     return view;
 }
 

@@ -6,6 +6,7 @@
 #include <panel/MessageList.hpp>
 #include <panel/network/Network.hpp>
 #include <panel/ObjectList.hpp>
+#include <panel/objects/Studio.hpp>
 #include <panel/ObjectView.hpp>
 #include <panel/ParameterCommands.hpp>
 #include <panel/Plugins.hpp>
@@ -63,6 +64,8 @@ public:
     ObjectList* objectList() const { return objectList_; }
     MessageList* messages() const { return messages_; }
     PoolSource& pools() { return pools_; }
+    /// Where the network's picture is computed and shown.
+    Studio& studio() { return *studio_; }
 
     /// Ends the edit that goes on: a typed text that waits for the field to be left is written.
     void finishEdit();
@@ -104,6 +107,7 @@ private:
     void showView(Kolt::ObjectPtr const& object);
     ObjectView* makeView(Kolt::ObjectPtr const& object, QWidget* parent);
     std::vector<ObjectView*> views() const;
+    /// Lets the links in the shown states be followed.
     void closeViews();
     void closeEditors();
     void openEditors();
@@ -118,6 +122,8 @@ private:
     Plugins& plugins_;
     PoolSource pools_;
     std::unique_ptr<Network> network_;
+    // Goes before the network, whose objects it works for.
+    std::unique_ptr<Studio> studio_;
     SchedulerDriver scheduler_;
     WarningListener warnings_;
     GestureWatcher gestures_;

@@ -102,6 +102,7 @@ void MainWindow::makeViewMenu(QAction* showMessages) {
     });
     menu->addAction(showMessages);
     menu->addAction(static_cast<QDockWidget*>(historyList_->parentWidget())->toggleViewAction());
+    menu->addAction(studio_->previewAction());
 }
 
 void MainWindow::makePluginMenu() {

@@ -52,6 +52,7 @@ ObjectView::ObjectView(Kolt::ObjectPtr const& object, QString const& kind, PoolS
     emptyNote_->hide();
 
     checkTimer_.setInterval(checkInterval);
+    connect(rows_, &RowArea::editorOpened, this, &ObjectView::editorOpened);
     connect(&checkTimer_, &QTimer::timeout, rows_, &RowArea::checkParameters);
 }
 

@@ -43,6 +43,10 @@ public:
     /// Gives the focus to the first control of the first shown row that has one.
     void focusFirstEditor() { rows_->focusFirstControl(); }
 
+signals:
+    /// A row has an editor from now on.
+    void editorOpened(Panel::ParameterRow* row);
+
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;

@@ -113,8 +113,10 @@ ParameterRow* RowArea::row(QString const& parameterName) {
 
 void RowArea::openEditors() {
     editorsOpen_ = true;
-    for (auto* const row : rows())
+    for (auto* const row : rows()) {
         row->openEditor();
+        emit editorOpened(row);
+    }
     measureAll();
 }
 
@@ -196,6 +198,8 @@ void RowArea::make(Entry& entry) {
         entry.row->openEditor();
     entry.row->setVisible(entry.shown);
     measure(entry);
+    if (editorsOpen_)
+        emit editorOpened(entry.row);
 }
 
 bool RowArea::measure(Entry& entry) {

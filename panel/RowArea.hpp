@@ -54,6 +54,10 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+signals:
+    /// A row has an editor from now on.
+    void editorOpened(Panel::ParameterRow* row);
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;

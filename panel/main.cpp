@@ -4,6 +4,7 @@
 #include <panel/CommandLine.hpp>
 #include <panel/InstalledFiles.hpp>
 #include <panel/MainWindow.hpp>
+#include <panel/objects/ObjectFactory.hpp>
 #include <QApplication>
 #include <QFile>
 
@@ -87,11 +88,13 @@ QString prepare(Panel::Network& network, Panel::CommandLine const& commandLine) 
 int draw(Panel::MainWindow& window, QString const& file) {
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
-    // Layouts and what the editors put off come to rest.
+    // Layouts and what the editors put off come to rest, and then the preview, which is computed meanwhile.
     for (int round = 0; round < 3; ++round) {
         QApplication::sendPostedEvents();
         QApplication::processEvents();
     }
+    while (!window.studio().isAtRest())
+        QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     if (!window.grab().save(file))
         return refuse(QCoreApplication::translate("main", "Cannot write the image %1.").arg(file));
     return 0;
@@ -120,7 +123,7 @@ int run(Panel::CommandLine const& commandLine) {
     auto const file = commandLine.network.isEmpty() ? Panel::defaultNetworkFile() : commandLine.network;
     if (file.isEmpty())
         return refuse(QCoreApplication::translate("main", "examples/fractal.json is missing; name a network to open."));
-    auto loaded = Panel::Network::load(file);
+    auto loaded = Panel::Network::load(file, Panel::makeObject);
     if (!loaded.network)
         return refuse(loaded.error);
     auto const problem = prepare(*loaded.network, commandLine);

@@ -67,7 +67,7 @@ Network::Network() : self_(std::make_shared<Network*>(this)) {}
 
 Network::~Network() = default;
 
-Network::LoadResult Network::load(QString const& file) {
+Network::LoadResult Network::load(QString const& file, ObjectFactory const& makeObject) {
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly))
         return {nullptr, file + ":0: expected a file that can be read, found: " + source.errorString()};
@@ -75,7 +75,7 @@ Network::LoadResult Network::load(QString const& file) {
     if (source.error() != QFileDevice::NoError)
         return {nullptr, file + ":0: expected a file that can be read, found: " + source.errorString()};
     try {
-        return {NetworkReader::read(json, file), QString()};
+        return {NetworkReader::read(json, file, makeObject), QString()};
     } catch (FormatError const& error) {
         return {nullptr, file + ':' + QString::number(error.line) + ": " + error.text};
     }

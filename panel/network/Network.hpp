@@ -14,6 +14,10 @@ namespace Panel {
 
 class NetworkReader;
 
+/// Makes an object of a network: of the kind that the file names, which may be empty, and with the name, which the
+/// object must carry. It gives every object a life of its own and never null.
+using ObjectFactory = std::function<Kolt::ObjectPtr(QString const& kind, QString const& name)>;
+
 /// A network of objects with typed parameters, as a network file describes it (examples/README.md has the format), and
 /// the pools in which its parameters have values. It owns objects and pools: they live until the network goes or
 /// somebody takes a parameter out of its object. User-interface thread. Prints nothing and throws nothing.
@@ -25,8 +29,9 @@ public:
         QString error;
     };
 
-    /// Reads a network file whole or not at all. For a file that cannot be read the line is 0.
-    static LoadResult load(QString const& file);
+    /// Reads a network file whole or not at all. For a file that cannot be read the line is 0. The factory makes the
+    /// objects; an empty one makes objects that do nothing.
+    static LoadResult load(QString const& file, ObjectFactory const& makeObject = {});
     ~Network();
     Network(Network const&) = delete;
     Network& operator=(Network const&) = delete;

@@ -23,12 +23,14 @@ std::vector<std::string> differentTexts(JsonNode const& node, QString const& wha
 
 } // namespace
 
-NetworkReader::NetworkReader(QString const& file) : network_(new Network) {
+NetworkReader::NetworkReader(QString const& file, ObjectFactory const& makeObject)
+    : network_(new Network), makeObject_(makeObject) {
     network_->file_ = file;
 }
 
-std::unique_ptr<Network> NetworkReader::read(QByteArray const& json, QString const& file) {
-    NetworkReader reader(file);
+std::unique_ptr<Network> NetworkReader::read(QByteArray const& json, QString const& file,
+                                             ObjectFactory const& makeObject) {
+    NetworkReader reader(file, makeObject);
     reader.readRoot(JsonNode::parse(json));
     reader.network_->rememberDefaults();
     return std::move(reader.network_);
@@ -70,10 +72,11 @@ void NetworkReader::readObject(JsonNode const& node) {
     if (network_->findObject(name))
         nameNode.refuse("an object name that is not taken", quoted(name) + " again");
 
-    Kolt::ObjectPtr const object(new Kolt::VObject(name.toStdString()));
-    auto const* const kind = node.find("kind");
+    auto const* const kindNode = node.find("kind");
+    auto const kind = kindNode ? kindNode->text("the kind of an object") : QString();
+    auto const object = makeObject_ ? makeObject_(kind, name) : Kolt::ObjectPtr(new Kolt::VObject(name.toStdString()));
     network_->objects_.push_back(object);
-    network_->kinds_.push_back(kind ? kind->text("the kind of an object") : QString());
+    network_->kinds_.push_back(kind);
 
     takenNames_.clear();
     if (auto const* const parameters = node.find("parameters"))

@@ -13,11 +13,12 @@ struct ValueFormat;
 class NetworkReader {
 public:
     /// The whole network; throws a FormatError when anything in the text is wrong. `file` says where relative paths
-    /// start; it need not exist.
-    static std::unique_ptr<Network> read(QByteArray const& json, QString const& file);
+    /// start; it need not exist. The factory makes the objects; an empty one makes objects that do nothing.
+    static std::unique_ptr<Network> read(QByteArray const& json, QString const& file,
+                                         ObjectFactory const& makeObject = {});
 
 private:
-    explicit NetworkReader(QString const& file);
+    NetworkReader(QString const& file, ObjectFactory const& makeObject);
     void readRoot(JsonNode const& root);
     void readPool(JsonNode const& node);
     void readObject(JsonNode const& node);
@@ -27,6 +28,7 @@ private:
     void readSlots(JsonNode const& node, Kolt::ObjectPtr const& object);
 
     std::unique_ptr<Network> network_;
+    ObjectFactory const& makeObject_;
     // The names of the parameters of the object that is being read.
     QSet<QString> takenNames_;
 };
