@@ -77,6 +77,7 @@ bool MainWindow::openNetwork(QString const& file, QString* error) {
 void MainWindow::showNetwork(std::unique_ptr<Network> network) {
     if (!network)
         return;
+    emit networkAboutToClose();
     closeViews();
     objectList_->showNetwork(nullptr);
     // These steps are about parameters that go now.
@@ -103,6 +104,7 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
     objectList_->showNetwork(network_.get());
     if (!network_->objects().empty())
         showObject(QString::fromStdString(network_->objects().front()->Name()));
+    emit networkOpened();
 }
 
 bool MainWindow::saveValues(QString const& file, QString* error) {
@@ -214,6 +216,10 @@ void MainWindow::openEditors() {
 
 void MainWindow::setRawValuesShown(bool shown) {
     rawAction_->setChecked(shown);
+}
+
+bool MainWindow::rawValuesShown() const {
+    return rawAction_->isChecked();
 }
 
 void MainWindow::tapStandardOutput() {

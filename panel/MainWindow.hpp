@@ -48,6 +48,7 @@ public:
     /// is chosen.
     ObjectView* addView();
     void setRawValuesShown(bool shown);
+    bool rawValuesShown() const;
     /// From now on lines on standard output are messages, too.
     void tapStandardOutput();
 
@@ -56,6 +57,12 @@ public:
     ObjectList* objectList() const { return objectList_; }
     MessageList* messages() const { return messages_; }
     PoolSource& pools() { return pools_; }
+
+signals:
+    /// The open network, if there is one, is about to give way to another one.
+    void networkAboutToClose();
+    /// Another network was opened and is shown.
+    void networkOpened();
 
 public slots:
     /// Takes the latest step of the history back.

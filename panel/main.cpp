@@ -2,8 +2,10 @@
 #include <cstdio>
 #include <lattice/InputCreator.hpp>
 #include <panel/CommandLine.hpp>
+#include <panel/Gallery.hpp>
 #include <panel/InstalledFiles.hpp>
 #include <panel/MainWindow.hpp>
+#include <panel/Session.hpp>
 #include <QApplication>
 #include <QFile>
 
@@ -84,7 +86,7 @@ QString prepare(Panel::Network& network, Panel::CommandLine const& commandLine) 
     return {};
 }
 
-int draw(Panel::MainWindow& window, QString const& file) {
+int draw(QWidget& window, QString const& file) {
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
     // Layouts and what the editors put off come to rest.
@@ -95,6 +97,21 @@ int draw(Panel::MainWindow& window, QString const& file) {
     if (!window.grab().save(file))
         return refuse(QCoreApplication::translate("main", "Cannot write the image %1.").arg(file));
     return 0;
+}
+
+int showGallery(Panel::CommandLine const& commandLine, QString const& pluginError) {
+    Panel::Gallery gallery;
+    if (!pluginError.isEmpty())
+        gallery.messages()->add(Panel::MessageList::Source::Error, pluginError);
+    gallery.tapStandardOutput();
+    if (commandLine.size.isValid())
+        gallery.resize(commandLine.size);
+    if (auto const state = Panel::findGalleryState(commandLine.state))
+        gallery.showState(*state);
+    if (!commandLine.screenshot.isEmpty())
+        return draw(gallery, commandLine.screenshot);
+    gallery.show();
+    return QApplication::exec();
 }
 
 int run(Panel::CommandLine const& commandLine) {
@@ -117,6 +134,8 @@ int run(Panel::CommandLine const& commandLine) {
             return 0;
     }
 
+    if (commandLine.gallery)
+        return showGallery(commandLine, pluginError);
     auto const file = commandLine.network.isEmpty() ? Panel::defaultNetworkFile() : commandLine.network;
     if (file.isEmpty())
         return refuse(QCoreApplication::translate("main", "examples/fractal.json is missing; name a network to open."));
@@ -136,10 +155,18 @@ int run(Panel::CommandLine const& commandLine) {
     if (!pluginError.isEmpty())
         window.messages()->add(Panel::MessageList::Source::Error, pluginError);
     window.tapStandardOutput();
-    window.setRawValuesShown(commandLine.rawValues);
-    if (commandLine.size.isValid())
-        window.resize(commandLine.size);
     window.showNetwork(std::move(loaded.network));
+    // What is asked for on the command line comes after it, and wins.
+    Panel::Session session(Panel::Session::userFile());
+    QObject::connect(&session, &Panel::Session::failed, refuse);
+    if (commandLine.session && !commandLine.endsByItself())
+        session.follow(window);
+    if (commandLine.rawValues)
+        window.setRawValuesShown(true);
+    if (commandLine.size.isValid()) {
+        window.setWindowState(Qt::WindowNoState);
+        window.resize(commandLine.size);
+    }
     if (!commandLine.pool.isEmpty())
         window.choosePool(commandLine.pool);
     if (!commandLine.object.isEmpty())
@@ -161,6 +188,8 @@ int main(int argc, char* argv[]) {
     choosePlatform(*commandLine);
 
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    if (!commandLine->scale.isEmpty())
+        qputenv("QT_SCALE_FACTOR", commandLine->scale.toLatin1());
     qInstallMessageHandler(passOnMessages);
     int qtArguments = 1;
     QApplication const application(qtArguments, argv);
@@ -176,5 +205,7 @@ int main(int argc, char* argv[]) {
         return 0;
     }
     Panel::applyLook(commandLine->theme);
+    if (commandLine->rightToLeft)
+        QApplication::setLayoutDirection(Qt::RightToLeft);
     return run(*commandLine);
 }
