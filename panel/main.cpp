@@ -6,13 +6,16 @@
 #include <panel/InstalledFiles.hpp>
 #include <panel/MainWindow.hpp>
 #include <panel/Session.hpp>
+#include <panel/Translations.hpp>
 #include <QApplication>
 #include <QFile>
+#include <QLocale>
 
 namespace {
 
 constexpr int badUse = 2;
 
+/// Tells what is wrong; gives the status of a program that ends with that.
 int refuse(QString const& reason) {
     std::fprintf(stderr, "talo_panel: %s\n", reason.toLocal8Bit().constData());
     return badUse;
@@ -30,17 +33,27 @@ QStringList decoded(int count, char* const* arguments) {
     return list;
 }
 
-void choosePlatform(Panel::CommandLine const& commandLine) {
+/// Chooses Qt's platform; says whether nobody will see the panel although it is to be seen.
+bool choosePlatform(Panel::CommandLine const& commandLine) {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        return;
+        return false;
     bool const display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (commandLine.endsByItself()) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    } else if (!display) {
-        std::fputs("talo_panel: There is no display; the panel runs unseen. --screenshot draws it into a file.\n",
-                   stderr);
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    if (display && !commandLine.endsByItself())
+        return false;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return !commandLine.endsByItself();
+}
+
+/// Refuses a command line that cannot be read, in the user's language.
+int refuseCommandLine(QStringList const& arguments, char* program) {
+    char* programOnly[] = {program, nullptr};
+    int count = 1;
+    QCoreApplication const application(count, programOnly);
+    Panel::Translations const translations;
+    QString error;
+    Panel::CommandLine::parse(arguments, error);
+    return refuse(error + QLatin1Char(' ') +
+                  QCoreApplication::translate("main", "--help says how to start the program."));
 }
 
 // The offscreen platform says of every window what it cannot do, which tells the user nothing.
@@ -182,10 +195,13 @@ int run(Panel::CommandLine const& commandLine) {
 int main(int argc, char* argv[]) {
     std::setlocale(LC_ALL, "");
     QString error;
-    auto const commandLine = Panel::CommandLine::parse(decoded(argc, argv), error);
+    auto const arguments = decoded(argc, argv);
+    auto const commandLine = Panel::CommandLine::parse(arguments, error);
     if (!commandLine)
-        return refuse(error + QLatin1String(" --help says how to start the program."));
-    choosePlatform(*commandLine);
+        return refuseCommandLine(arguments, argv[0]);
+    bool const unseen = choosePlatform(*commandLine);
+    if (!commandLine->language.isEmpty())
+        QLocale::setDefault(QLocale(commandLine->language));
 
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     if (!commandLine->scale.isEmpty())
@@ -193,9 +209,13 @@ int main(int argc, char* argv[]) {
     qInstallMessageHandler(passOnMessages);
     int qtArguments = 1;
     QApplication const application(qtArguments, argv);
+    Panel::Translations const translations;
     QApplication::setApplicationName(QStringLiteral("talo_panel"));
     QApplication::setApplicationDisplayName(QStringLiteral("Talo panel"));
     QApplication::setApplicationVersion(QStringLiteral(TALO_VERSION));
+    if (unseen)
+        refuse(QCoreApplication::translate(
+            "main", "There is no display; the panel runs unseen. --screenshot draws it into a file."));
     if (commandLine->help) {
         print(Panel::CommandLine::helpText().toUtf8());
         return 0;

@@ -1,5 +1,6 @@
 #include "support/TaloTest.hpp"
 
+#include <map>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -18,6 +19,8 @@ protected:
         environment.remove(QStringLiteral("DISPLAY"));
         environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
         environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.path());
+        for (auto const& [name, value] : variables)
+            environment.insert(name, value);
         if (!libraries.isEmpty())
             environment.insert(QStringLiteral("LD_LIBRARY_PATH"), libraries);
         process.setProcessEnvironment(environment);
@@ -43,6 +46,8 @@ protected:
 
     QString const fractal = QStringLiteral(TALO_EXAMPLES "/fractal.json");
     QTemporaryDir folder;
+    /// Added to the environment of the program.
+    std::map<QString, QString> variables;
     /// Where a copy of the program finds the host's libraries.
     QString libraries;
     QByteArray output;
@@ -258,4 +263,27 @@ TEST_F(TaloPanel, ACallThatEndsByItselfLeavesTheSessionAlone) {
     ASSERT_TRUE(session.open(QIODevice::ReadOnly));
     EXPECT_EQ(session.readAll(), kept);
     ASSERT_TRUE(session.remove());
+}
+
+TEST_F(TaloPanel, SpeaksTheAskedForLanguage) {
+    ASSERT_EQ(run({QStringLiteral("--language"), QStringLiteral("de"), QStringLiteral("--help")}), 0);
+    EXPECT_THAT(output.toStdString(), HasSubstr("Sagt, wie das Programm gestartet wird."));
+    ASSERT_EQ(run({QStringLiteral("--language=fr"), QStringLiteral("--help")}), 0);
+    EXPECT_THAT(output.toStdString(), HasSubstr("Indique comment lancer le programme."));
+    EXPECT_EQ(run({QStringLiteral("--language"), QStringLiteral("de"), QStringLiteral("--object"),
+                   QStringLiteral("door"), fractal, QStringLiteral("--values")}),
+              2);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("hat kein Objekt"));
+}
+
+TEST_F(TaloPanel, SpeaksTheLanguageOfTheSystem) {
+    variables = {{QStringLiteral("LC_ALL"), QString()}, {QStringLiteral("LANG"), QStringLiteral("de_DE.UTF-8")}};
+    ASSERT_EQ(run({QStringLiteral("--help")}), 0);
+    EXPECT_THAT(output.toStdString(), HasSubstr("Sagt, wie das Programm gestartet wird."));
+    EXPECT_EQ(run({QStringLiteral("--scale"), QStringLiteral("big")}), 2);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("--scale erwartet einen Faktor"));
+    // Who prefers English to German reads English.
+    variables[QStringLiteral("LANGUAGE")] = QStringLiteral("en_GB:de");
+    ASSERT_EQ(run({QStringLiteral("--help")}), 0);
+    EXPECT_THAT(output.toStdString(), HasSubstr("Says how to start the program."));
 }
