@@ -88,6 +88,7 @@ QWidget* GalleryPage::makeHeader(GalleryState state) {
     layout->setContentsMargins(margin, margin, margin, 0);
     auto* const description = new QLabel(galleryStateDescription(state));
     description->setWordWrap(true);
+    alignWithLayout(*description);
     layout->addWidget(description, 1);
     if (state == GalleryState::PerPool)
         makePoolSelector(layout);
@@ -149,6 +150,7 @@ QWidget* GalleryPage::makeColumnTitles() const {
          {tr("Creator"), tr("First editor"), tr("Second editor"), tr("Raw value"), tr("Notifications")}) {
         auto* const label = new QLabel(text);
         showMuted(*label);
+        alignWithLayout(*label);
         layout->addWidget(label);
     }
     return titles;

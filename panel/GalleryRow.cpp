@@ -71,6 +71,7 @@ QWidget* GalleryRow::makeNames(Kolt::InputRegistry::Entry const& entry) {
     layout->addStretch(1);
     for (auto* const label : {name, preferences, noteLabel_}) {
         label->setTextFormat(Qt::PlainText);
+        alignWithLayout(*label);
         layout->addWidget(label);
     }
     noteLabel_->setWordWrap(true);
@@ -92,10 +93,9 @@ QWidget* GalleryRow::makeCell(std::size_t index) {
         editor.widget = new MissingEditor(*parameter, cell);
     new WheelGuard(editor.widget);
     editor.widget->setAccessibleName(tr("%1, editor %2").arg(QString::fromStdString(creatorName_)).arg(index + 1));
-    layout->addWidget(editor.widget);
-    // One that cannot fill the column stands at its beginning.
-    if (layout->itemAt(0)->maximumSize().width() < QLAYOUTSIZE_MAX)
-        layout->setAlignment(editor.widget, Qt::AlignLeft | Qt::AlignVCenter);
+    // One that cannot fill the column stands at its beginning; some have a fixed size only once they are shown.
+    layout->addWidget(editor.widget, 1);
+    layout->addStretch(0);
     return cell;
 }
 

@@ -1,3 +1,4 @@
+#include <panel/Look.hpp>
 #include <panel/NotificationCounter.hpp>
 
 namespace Panel {
@@ -5,7 +6,7 @@ namespace Panel {
 NotificationCounter::NotificationCounter(Kolt::ParameterPtr const& parameter, QWidget* parent) : QLabel(parent) {
     if (parameter)
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
-    setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    alignWithLayout(*this);
     showCount();
 }
 
