@@ -39,7 +39,10 @@ QWidget* makeSectionTitle(QString const& text) {
     layout->addWidget(label);
     auto* const line = new QFrame;
     line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Sunken);
+    // Of one colour: a relief falls apart where a pixel is drawn on one and a half.
+    line->setFrameShadow(QFrame::Plain);
+    // Of less weight than a text.
+    line->setEnabled(false);
     layout->addWidget(line, 1);
     return section;
 }

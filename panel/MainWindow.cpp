@@ -77,7 +77,8 @@ bool MainWindow::openNetwork(QString const& file, QString* error) {
 void MainWindow::showNetwork(std::unique_ptr<Network> network) {
     if (!network)
         return;
-    emit networkAboutToClose();
+    if (network_)
+        emit networkAboutToClose();
     closeViews();
     objectList_->showNetwork(nullptr);
     // These steps are about parameters that go now.

@@ -59,7 +59,7 @@ public:
     PoolSource& pools() { return pools_; }
 
 signals:
-    /// The open network, if there is one, is about to give way to another one.
+    /// The open network is about to give way to another one.
     void networkAboutToClose();
     /// Another network was opened and is shown.
     void networkOpened();

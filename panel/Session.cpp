@@ -85,7 +85,8 @@ void Session::restoreNetwork() {
     if (found != known.end()) {
         window_->choosePool(found->pool);
         auto const first = shownObject(window_->currentView());
-        for (auto const& view : found->views.mid(0, mostViews)) {
+        auto const views = found->views.mid(0, mostViews);
+        for (auto const& view : views) {
             if (window_->showObject(view))
                 window_->addView();
         }

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QLocale>
+#include <QScreen>
 
 namespace {
 
@@ -99,6 +100,16 @@ QString prepare(Panel::Network& network, Panel::CommandLine const& commandLine) 
     return {};
 }
 
+/// Shows the window for as long as somebody uses it.
+int show(QWidget& window) {
+    // Drawn larger, a window may outgrow the screen.
+    auto const size = window.size().boundedTo(window.screen()->availableSize());
+    if (size != window.size() && !window.isMaximized() && !window.isFullScreen())
+        window.resize(size);
+    window.show();
+    return QApplication::exec();
+}
+
 int draw(QWidget& window, QString const& file) {
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
@@ -123,8 +134,7 @@ int showGallery(Panel::CommandLine const& commandLine, QString const& pluginErro
         gallery.showState(*state);
     if (!commandLine.screenshot.isEmpty())
         return draw(gallery, commandLine.screenshot);
-    gallery.show();
-    return QApplication::exec();
+    return show(gallery);
 }
 
 int run(Panel::CommandLine const& commandLine) {
@@ -186,8 +196,7 @@ int run(Panel::CommandLine const& commandLine) {
         window.showObject(commandLine.object);
     if (!commandLine.screenshot.isEmpty())
         return draw(window, commandLine.screenshot);
-    window.show();
-    return QApplication::exec();
+    return show(window);
 }
 
 } // namespace
@@ -211,7 +220,7 @@ int main(int argc, char* argv[]) {
     QApplication const application(qtArguments, argv);
     Panel::Translations const translations;
     QApplication::setApplicationName(QStringLiteral("talo_panel"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Talo panel"));
+    QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Talo panel"));
     QApplication::setApplicationVersion(QStringLiteral(TALO_VERSION));
     if (unseen)
         refuse(QCoreApplication::translate(

@@ -607,5 +607,9 @@
         <source>There is no display; the panel runs unseen. --screenshot draws it into a file.</source>
         <translation>Es gibt keinen Bildschirm; das Bedienfeld läuft unsichtbar. --screenshot zeichnet es in eine Datei.</translation>
     </message>
+    <message>
+        <source>Talo panel</source>
+        <translation>Talo-Bedienfeld</translation>
+    </message>
 </context>
 </TS>

@@ -607,5 +607,9 @@
         <source>There is no display; the panel runs unseen. --screenshot draws it into a file.</source>
         <translation>Il n’y a pas d’écran ; le panneau fonctionne sans être vu. --screenshot le dessine dans un fichier.</translation>
     </message>
+    <message>
+        <source>Talo panel</source>
+        <translation>Panneau Talo</translation>
+    </message>
 </context>
 </TS>
