@@ -12,6 +12,8 @@ function(talo_install)
 
     set_target_properties(qtalo_inputs PROPERTIES INSTALL_RPATH "$ORIGIN/..")
     install(TARGETS qtalo_inputs LIBRARY DESTINATION "${TALO_INSTALL_PLUGIN_DIR}")
+    get_target_property(translations qtalo_inputs TALO_TRANSLATIONS)
+    install(FILES ${translations} DESTINATION "${TALO_INSTALL_PLUGIN_DIR}")
     if(TARGET talo_panel)
         install(TARGETS talo_panel RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
     endif()

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <panel/Look.hpp>
+#include <QCoreApplication>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -11,6 +12,9 @@ namespace Panel {
 
 /// What the user asks of the program. An empty text or list: not given.
 struct CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(Panel::CommandLine)
+
+public:
     /// A value to set: "object.parameter" and the text.
     struct Setting {
         QString parameter;
@@ -25,6 +29,16 @@ struct CommandLine {
     std::vector<Setting> settings;
     QSize size;
     Theme theme = Theme::System;
+    /// The factor by which everything is drawn larger, as Qt reads it.
+    QString scale;
+    /// A language as in "de" or "pt_BR"; empty: that of the system.
+    QString language;
+    bool rightToLeft = false;
+    bool gallery = false;
+    /// The state that the gallery shows first, by its key.
+    QString state;
+    /// Whether the last session comes back and this one is kept.
+    bool session = true;
     bool rawValues = false;
     bool listCreators = false;
     bool values = false;
@@ -35,7 +49,7 @@ struct CommandLine {
     bool endsByItself() const { return listCreators || values || help || version || !screenshot.isEmpty(); }
 
     /// Reads the arguments, the program's name first. Nothing, and the reason in `error`, for an unknown option, a
-    /// missing or a wrong argument.
+    /// missing or a wrong argument, or options that exclude each other.
     static std::optional<CommandLine> parse(QStringList const& arguments, QString& error);
     /// The text for `--help`. Needs the application object.
     static QString helpText();

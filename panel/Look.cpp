@@ -3,6 +3,7 @@
 #include <panel/PanelStyle.hpp>
 #include <QApplication>
 #include <QFontDatabase>
+#include <QLabel>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolTip>
@@ -97,6 +98,11 @@ void showMuted(QWidget& widget) {
         palette.setColor(group, QPalette::Text, colour);
     }
     widget.setPalette(palette);
+}
+
+void alignWithLayout(QLabel& label) {
+    label.setAlignment(QStyle::visualAlignment(label.layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute |
+                       Qt::AlignVCenter);
 }
 
 } // namespace Panel

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QWidget>
 
+class QLabel;
+
 /// How the panel looks, wherever it runs. User-interface thread.
 namespace Panel {
 
@@ -25,5 +27,9 @@ QColor mutedText(QPalette const& palette);
 
 /// Writes a widget's text in that colour.
 void showMuted(QWidget& widget);
+
+/// Puts a label's text at the side where lines begin in the layout. A label by itself goes by the script of the text,
+/// and a title in Latin letters would stand at the far side of its column in a panel from right to left.
+void alignWithLayout(QLabel& label);
 
 } // namespace Panel

@@ -91,6 +91,8 @@ bool MainWindow::openNetwork(QString const& file, QString* error) {
 void MainWindow::showNetwork(std::unique_ptr<Network> network) {
     if (!network)
         return;
+    if (network_)
+        emit networkAboutToClose();
     closeViews();
     objectList_->showNetwork(nullptr);
     studio_->showNetwork(nullptr, nullptr);
@@ -122,6 +124,7 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
     filterField_->clear();
     if (!network_->objects().empty())
         showObject(QString::fromStdString(network_->objects().front()->Name()));
+    emit networkOpened();
 }
 
 bool MainWindow::saveValues(QString const& file, QString* error) {
@@ -270,6 +273,10 @@ void MainWindow::applyFilter() {
     auto const shown = views();
     for (auto* const view : shown)
         view->setFilter(filter);
+}
+
+bool MainWindow::rawValuesShown() const {
+    return rawAction_->isChecked();
 }
 
 void MainWindow::tapStandardOutput() {

@@ -56,6 +56,7 @@ public:
     void setRawValuesShown(bool shown);
     /// Shows the parameters that these words find (ParameterFilter), and the objects that have some.
     void setFilter(QString const& words);
+    bool rawValuesShown() const;
     /// From now on lines on standard output are messages, too.
     void tapStandardOutput();
 
@@ -69,6 +70,12 @@ public:
 
     /// Ends the edit that goes on: a typed text that waits for the field to be left is written.
     void finishEdit();
+
+signals:
+    /// The open network is about to give way to another one.
+    void networkAboutToClose();
+    /// Another network was opened and is shown.
+    void networkOpened();
 
 public slots:
     /// Takes the latest step of the history back.

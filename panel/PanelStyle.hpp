@@ -4,8 +4,11 @@
 
 namespace Panel {
 
-/// The Fusion style, but for the frames of check boxes and radio buttons: it draws them darker than the ground, and on
-/// a dark ground a box that is not checked cannot be made out.
+/// The Fusion style, but for two things.
+/// - It draws the frames of check boxes and radio buttons and the notches of dials darker than the ground, and on a
+/// dark
+///   ground they cannot be made out.
+/// - In a layout from right to left it tears the caption of a button away from the button's icon.
 class PanelStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -15,6 +18,10 @@ public:
 
     void drawPrimitive(PrimitiveElement element, QStyleOption const* option, QPainter* painter,
                        QWidget const* widget) const override;
+    void drawControl(ControlElement element, QStyleOption const* option, QPainter* painter,
+                     QWidget const* widget) const override;
+    void drawComplexControl(ComplexControl control, QStyleOptionComplex const* option, QPainter* painter,
+                            QWidget const* widget) const override;
 };
 
 } // namespace Panel

@@ -47,6 +47,8 @@ ParameterRow::ParameterRow(Kolt::ParameterPtr const& parameter, PoolSource& pool
         noteFont.setPointSizeF(noteFont.pointSizeF() * 0.85);
     noteLabel_->setFont(noteFont);
     showMuted(*noteLabel_);
+    alignWithLayout(*nameLabel_);
+    alignWithLayout(*noteLabel_);
 
     auto* const names = new QVBoxLayout(names_);
     names->setContentsMargins(0, 4, 0, 4);

@@ -1,4 +1,6 @@
 #include <panel/Plugins.hpp>
+#include <panel/Translations.hpp>
+#include <QFileInfo>
 
 namespace Panel {
 
@@ -55,7 +57,10 @@ QStringList Plugins::loadedFiles() const {
 
 bool Plugins::loadFile(QString const& file, QString* error) {
     auto const outcome = loader_.load(file.toStdString());
-    if (!outcome.ok)
+    QFileInfo const info(file);
+    if (outcome.ok)
+        translations_[file] = installTranslation(info.absolutePath(), info.completeBaseName());
+    else
         append(error, outcome.message);
     return outcome.ok;
 }
@@ -65,7 +70,9 @@ bool Plugins::unloadFiles(QString* error) {
     auto const files = loader_.files();
     for (auto file = files.rbegin(); file != files.rend(); ++file) {
         auto const outcome = loader_.unload(*file);
-        if (!outcome.ok)
+        if (outcome.ok)
+            translations_.erase(QString::fromStdString(*file));
+        else
             append(error, outcome.message);
         all = all && outcome.ok;
     }

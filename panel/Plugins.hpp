@@ -1,12 +1,17 @@
 #pragma once
 
 #include <lattice/PluginLoader.hpp>
+#include <map>
+#include <memory>
 #include <QObject>
 #include <QStringList>
+#include <QTranslator>
 
 namespace Panel {
 
-/// The plug-in files of the panel. It remembers the files that it once loaded, so that they can be loaded again.
+/// The plug-in files of the panel. It remembers the files that it once loaded, so that they can be loaded again. With a
+/// file FOLDER/NAME.talo comes the translation of its texts, FOLDER/NAME_LANGUAGE.qm, where there is one for the
+/// language of the panel; it goes when the file is unloaded.
 /// Closes them when it is destroyed, which must happen after all editors are gone and before `main` returns.
 /// User-interface thread.
 class Plugins : public QObject {
@@ -43,6 +48,7 @@ private:
     Kolt::VInitialization host_;
     Kolt::PluginLoader loader_;
     QStringList knownFiles_;
+    std::map<QString, std::unique_ptr<QTranslator>> translations_;
 };
 
 } // namespace Panel

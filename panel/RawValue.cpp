@@ -1,6 +1,7 @@
 #include <panel/Look.hpp>
 #include <panel/RawValue.hpp>
 #include <QPainter>
+#include <QStyle>
 
 namespace Panel {
 
@@ -67,13 +68,17 @@ void RawValue::paintEvent(QPaintEvent*) {
     painter.setPen(text_.isEmpty() ? mutedText(palette()) : palette().color(QPalette::WindowText));
     auto oneLine = text_.isEmpty() ? tr("(empty)") : text_;
     oneLine.replace(QLatin1Char('\n'), QChar(0x21B5));
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+    // A value reads in its own direction, or "0.5 1" would become "1 0.5" in a panel from right to left.
+    int const direction = oneLine.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    int const alignment =
+        static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) | Qt::AlignAbsolute;
+    painter.drawText(line, alignment | direction | Qt::AlignVCenter | Qt::TextSingleLine,
                      QFontMetrics(font).elidedText(oneLine, Qt::ElideRight, line.width()));
 
     line.translate(0, line.height());
     painter.setFont(this->font());
     painter.setPen(mutedText(palette()));
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+    painter.drawText(line, alignment | Qt::AlignVCenter | Qt::TextSingleLine,
                      fontMetrics().elidedText(stamp_, Qt::ElideRight, line.width()));
 }
 

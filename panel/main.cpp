@@ -2,16 +2,22 @@
 #include <cstdio>
 #include <lattice/InputCreator.hpp>
 #include <panel/CommandLine.hpp>
+#include <panel/Gallery.hpp>
 #include <panel/InstalledFiles.hpp>
 #include <panel/MainWindow.hpp>
 #include <panel/objects/ObjectFactory.hpp>
+#include <panel/Session.hpp>
+#include <panel/Translations.hpp>
 #include <QApplication>
 #include <QFile>
+#include <QLocale>
+#include <QScreen>
 
 namespace {
 
 constexpr int badUse = 2;
 
+/// Tells what is wrong; gives the status of a program that ends with that.
 int refuse(QString const& reason) {
     std::fprintf(stderr, "talo_panel: %s\n", reason.toLocal8Bit().constData());
     return badUse;
@@ -29,17 +35,27 @@ QStringList decoded(int count, char* const* arguments) {
     return list;
 }
 
-void choosePlatform(Panel::CommandLine const& commandLine) {
+/// Chooses Qt's platform; says whether nobody will see the panel although it is to be seen.
+bool choosePlatform(Panel::CommandLine const& commandLine) {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        return;
+        return false;
     bool const display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (commandLine.endsByItself()) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    } else if (!display) {
-        std::fputs("talo_panel: There is no display; the panel runs unseen. --screenshot draws it into a file.\n",
-                   stderr);
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
+    if (display && !commandLine.endsByItself())
+        return false;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return !commandLine.endsByItself();
+}
+
+/// Refuses a command line that cannot be read, in the user's language.
+int refuseCommandLine(QStringList const& arguments, char* program) {
+    char* programOnly[] = {program, nullptr};
+    int count = 1;
+    QCoreApplication const application(count, programOnly);
+    Panel::Translations const translations;
+    QString error;
+    Panel::CommandLine::parse(arguments, error);
+    return refuse(error + QLatin1Char(' ') +
+                  QCoreApplication::translate("main", "--help says how to start the program."));
 }
 
 // The offscreen platform says of every window what it cannot do, which tells the user nothing.
@@ -85,7 +101,17 @@ QString prepare(Panel::Network& network, Panel::CommandLine const& commandLine) 
     return {};
 }
 
-int draw(Panel::MainWindow& window, QString const& file) {
+/// Shows the window for as long as somebody uses it.
+int show(QWidget& window) {
+    // Drawn larger, a window may outgrow the screen.
+    auto const size = window.size().boundedTo(window.screen()->availableSize());
+    if (size != window.size() && !window.isMaximized() && !window.isFullScreen())
+        window.resize(size);
+    window.show();
+    return QApplication::exec();
+}
+
+int draw(QWidget& window, QString const& file) {
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
     // Layouts and what the editors put off come to rest, and then the preview, which is computed meanwhile.
@@ -98,6 +124,20 @@ int draw(Panel::MainWindow& window, QString const& file) {
     if (!window.grab().save(file))
         return refuse(QCoreApplication::translate("main", "Cannot write the image %1.").arg(file));
     return 0;
+}
+
+int showGallery(Panel::CommandLine const& commandLine, QString const& pluginError) {
+    Panel::Gallery gallery;
+    if (!pluginError.isEmpty())
+        gallery.messages()->add(Panel::MessageList::Source::Error, pluginError);
+    gallery.tapStandardOutput();
+    if (commandLine.size.isValid())
+        gallery.resize(commandLine.size);
+    if (auto const state = Panel::findGalleryState(commandLine.state))
+        gallery.showState(*state);
+    if (!commandLine.screenshot.isEmpty())
+        return draw(gallery, commandLine.screenshot);
+    return show(gallery);
 }
 
 int run(Panel::CommandLine const& commandLine) {
@@ -120,6 +160,8 @@ int run(Panel::CommandLine const& commandLine) {
             return 0;
     }
 
+    if (commandLine.gallery)
+        return showGallery(commandLine, pluginError);
     auto const file = commandLine.network.isEmpty() ? Panel::defaultNetworkFile() : commandLine.network;
     if (file.isEmpty())
         return refuse(QCoreApplication::translate("main", "examples/fractal.json is missing; name a network to open."));
@@ -139,18 +181,25 @@ int run(Panel::CommandLine const& commandLine) {
     if (!pluginError.isEmpty())
         window.messages()->add(Panel::MessageList::Source::Error, pluginError);
     window.tapStandardOutput();
-    window.setRawValuesShown(commandLine.rawValues);
-    if (commandLine.size.isValid())
-        window.resize(commandLine.size);
     window.showNetwork(std::move(loaded.network));
+    // What is asked for on the command line comes after it, and wins.
+    Panel::Session session(Panel::Session::userFile());
+    QObject::connect(&session, &Panel::Session::failed, refuse);
+    if (commandLine.session && !commandLine.endsByItself())
+        session.follow(window);
+    if (commandLine.rawValues)
+        window.setRawValuesShown(true);
+    if (commandLine.size.isValid()) {
+        window.setWindowState(Qt::WindowNoState);
+        window.resize(commandLine.size);
+    }
     if (!commandLine.pool.isEmpty())
         window.choosePool(commandLine.pool);
     if (!commandLine.object.isEmpty())
         window.showObject(commandLine.object);
     if (!commandLine.screenshot.isEmpty())
         return draw(window, commandLine.screenshot);
-    window.show();
-    return QApplication::exec();
+    return show(window);
 }
 
 } // namespace
@@ -158,18 +207,27 @@ int run(Panel::CommandLine const& commandLine) {
 int main(int argc, char* argv[]) {
     std::setlocale(LC_ALL, "");
     QString error;
-    auto const commandLine = Panel::CommandLine::parse(decoded(argc, argv), error);
+    auto const arguments = decoded(argc, argv);
+    auto const commandLine = Panel::CommandLine::parse(arguments, error);
     if (!commandLine)
-        return refuse(error + QLatin1String(" --help says how to start the program."));
-    choosePlatform(*commandLine);
+        return refuseCommandLine(arguments, argv[0]);
+    bool const unseen = choosePlatform(*commandLine);
+    if (!commandLine->language.isEmpty())
+        QLocale::setDefault(QLocale(commandLine->language));
 
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    if (!commandLine->scale.isEmpty())
+        qputenv("QT_SCALE_FACTOR", commandLine->scale.toLatin1());
     qInstallMessageHandler(passOnMessages);
     int qtArguments = 1;
     QApplication const application(qtArguments, argv);
+    Panel::Translations const translations;
     QApplication::setApplicationName(QStringLiteral("talo_panel"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Talo panel"));
+    QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Talo panel"));
     QApplication::setApplicationVersion(QStringLiteral(TALO_VERSION));
+    if (unseen)
+        refuse(QCoreApplication::translate(
+            "main", "There is no display; the panel runs unseen. --screenshot draws it into a file."));
     if (commandLine->help) {
         print(Panel::CommandLine::helpText().toUtf8());
         return 0;
@@ -179,5 +237,7 @@ int main(int argc, char* argv[]) {
         return 0;
     }
     Panel::applyLook(commandLine->theme);
+    if (commandLine->rightToLeft)
+        QApplication::setLayoutDirection(Qt::RightToLeft);
     return run(*commandLine);
 }

@@ -1,5 +1,6 @@
 #include "support/TaloTest.hpp"
 
+#include <map>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -18,6 +19,8 @@ protected:
         environment.remove(QStringLiteral("DISPLAY"));
         environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
         environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.path());
+        for (auto const& [name, value] : variables)
+            environment.insert(name, value);
         if (!libraries.isEmpty())
             environment.insert(QStringLiteral("LD_LIBRARY_PATH"), libraries);
         process.setProcessEnvironment(environment);
@@ -43,6 +46,8 @@ protected:
 
     QString const fractal = QStringLiteral(TALO_EXAMPLES "/fractal.json");
     QTemporaryDir folder;
+    /// Added to the environment of the program.
+    std::map<QString, QString> variables;
     /// Where a copy of the program finds the host's libraries.
     QString libraries;
     QByteArray output;
@@ -120,7 +125,8 @@ TEST_F(TaloPanel, DrawsTheAskedForObjectPoolAndPalette) {
 TEST_F(TaloPanel, SaysHowToStartIt) {
     ASSERT_EQ(run({QStringLiteral("--help")}), 0);
     for (auto const* const option : {"--screenshot", "--object", "--list-creators", "--set", "--pool", "--values",
-                                     "--plugin", "--size", "--palette", "--raw", "NETWORK.json"})
+                                     "--plugin", "--size", "--palette", "--raw", "--scale", "--right-to-left",
+                                     "--gallery", "--state", "--language", "--no-session", "NETWORK.json"})
         EXPECT_THAT(output.toStdString(), HasSubstr(option));
     ASSERT_EQ(run({QStringLiteral("--version")}), 0);
     EXPECT_THAT(output.toStdString(), testing::MatchesRegex("talo_panel [0-9.]+\n"));
@@ -190,4 +196,94 @@ TEST_F(TaloPanel, LoadsTheNamedPluginInsteadOfItsOwn) {
     EXPECT_THAT(output.toStdString(), HasSubstr("bool\tboolean\tQT\n"));
     // Once: its own is not loaded besides.
     EXPECT_EQ(output.count("boolean"), 1);
+}
+
+TEST_F(TaloPanel, DrawsTheGalleryInEachState) {
+    auto const file = folder.filePath(QStringLiteral("gallery.png"));
+    QSet<QByteArray> pictures;
+    for (auto const* const state : {"normal", "per-pool", "dead-parameter", "no-pool", "wrong-type"}) {
+        ASSERT_EQ(run({QStringLiteral("--gallery"), QStringLiteral("--state"), QLatin1String(state),
+                       QStringLiteral("--size"), QStringLiteral("1000x700"), QStringLiteral("--screenshot"), file}),
+                  0)
+            << qPrintable(errors);
+        QFile picture(file);
+        ASSERT_TRUE(picture.open(QIODevice::ReadOnly));
+        pictures.insert(picture.readAll());
+        EXPECT_EQ(QImage(file).size(), QSize(1000, 700));
+    }
+    EXPECT_EQ(pictures.size(), 5);
+    EXPECT_THAT(refusal({fractal, QStringLiteral("--gallery")}), HasSubstr("fractal.json"));
+}
+
+TEST_F(TaloPanel, DrawsEverythingLargerByTheAskedForFactor) {
+    auto const file = folder.filePath(QStringLiteral("panel.png"));
+    ASSERT_EQ(run({fractal, QStringLiteral("--scale"), QStringLiteral("2"), QStringLiteral("--size"),
+                   QStringLiteral("900x600"), QStringLiteral("--screenshot"), file}),
+              0)
+        << qPrintable(errors);
+    EXPECT_EQ(QImage(file).size(), QSize(1800, 1200));
+}
+
+TEST_F(TaloPanel, LaysThePanelOutFromRightToLeft) {
+    auto const file = folder.filePath(QStringLiteral("panel.png"));
+    // The list of objects, which is lighter than the parameters, stands at the beginning.
+    auto const brightness = [&](QStringList const& arguments, bool left) {
+        EXPECT_EQ(run(QStringList{fractal, QStringLiteral("--palette"), QStringLiteral("light"),
+                                  QStringLiteral("--screenshot"), file}
+                      << arguments),
+                  0)
+            << qPrintable(errors);
+        QImage const image(file);
+        return qGray(image.pixel(left ? 40 : image.width() - 40, image.height() / 2));
+    };
+    EXPECT_GT(brightness({}, true), brightness({}, false));
+    QStringList const mirrored{QStringLiteral("--right-to-left")};
+    EXPECT_LT(brightness(mirrored, true), brightness(mirrored, false));
+}
+
+TEST_F(TaloPanel, ACallThatEndsByItselfLeavesTheSessionAlone) {
+    auto const settings = QDir::home().filePath(QStringLiteral("config/talo/talo_panel.ini"));
+    ASSERT_EQ(qgetenv("XDG_CONFIG_HOME"), QFile::encodeName(QDir::home().filePath(QStringLiteral("config"))));
+    auto const file = folder.filePath(QStringLiteral("panel.png"));
+    auto const draw = [&] {
+        EXPECT_EQ(run({fractal, QStringLiteral("--screenshot"), file}), 0) << qPrintable(errors);
+        return QImage(file);
+    };
+    auto const before = draw();
+    EXPECT_FALSE(QFile::exists(settings));
+
+    ASSERT_TRUE(QDir::home().mkpath(QStringLiteral("config/talo")));
+    QFile session(settings);
+    ASSERT_TRUE(session.open(QIODevice::WriteOnly));
+    QByteArray const kept = "[window]\nrawValues=true\n";
+    session.write(kept);
+    session.close();
+    EXPECT_EQ(draw().copy(0, 0, before.width(), before.height() / 2),
+              before.copy(0, 0, before.width(), before.height() / 2));
+    ASSERT_TRUE(session.open(QIODevice::ReadOnly));
+    EXPECT_EQ(session.readAll(), kept);
+    ASSERT_TRUE(session.remove());
+}
+
+TEST_F(TaloPanel, SpeaksTheAskedForLanguage) {
+    ASSERT_EQ(run({QStringLiteral("--language"), QStringLiteral("de"), QStringLiteral("--help")}), 0);
+    EXPECT_THAT(output.toStdString(), HasSubstr("Sagt, wie das Programm gestartet wird."));
+    ASSERT_EQ(run({QStringLiteral("--language=fr"), QStringLiteral("--help")}), 0);
+    EXPECT_THAT(output.toStdString(), HasSubstr("Indique comment lancer le programme."));
+    EXPECT_EQ(run({QStringLiteral("--language"), QStringLiteral("de"), QStringLiteral("--object"),
+                   QStringLiteral("door"), fractal, QStringLiteral("--values")}),
+              2);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("hat kein Objekt"));
+}
+
+TEST_F(TaloPanel, SpeaksTheLanguageOfTheSystem) {
+    variables = {{QStringLiteral("LC_ALL"), QString()}, {QStringLiteral("LANG"), QStringLiteral("de_DE.UTF-8")}};
+    ASSERT_EQ(run({QStringLiteral("--help")}), 0);
+    EXPECT_THAT(output.toStdString(), HasSubstr("Sagt, wie das Programm gestartet wird."));
+    EXPECT_EQ(run({QStringLiteral("--scale"), QStringLiteral("big")}), 2);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("--scale erwartet einen Faktor"));
+    // Who prefers English to German reads English.
+    variables[QStringLiteral("LANGUAGE")] = QStringLiteral("en_GB:de");
+    ASSERT_EQ(run({QStringLiteral("--help")}), 0);
+    EXPECT_THAT(output.toStdString(), HasSubstr("Says how to start the program."));
 }

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <atomic>
+#include <lattice/Parameter.hpp>
+#include <QLabel>
+
+namespace Panel {
+
+/// Shows how often a parameter told of a change since this was made. Made on the user-interface thread; changes may be
+/// reported on any thread.
+class NotificationCounter : public QLabel, private Kolt::ValueNotifier {
+    Q_OBJECT
+
+public:
+    explicit NotificationCounter(Kolt::ParameterPtr const& parameter, QWidget* parent = nullptr);
+    ~NotificationCounter() override;
+
+    int count() const { return count_; }
+
+private:
+    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+                       Kolt::ValueMap const* properties) override;
+    void showCount();
+
+    std::atomic<int> count_{0};
+};
+
+} // namespace Panel

@@ -1,0 +1,615 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Panel::CommandLine</name>
+    <message>
+        <source>A control panel for networks of objects with typed parameters.</source>
+        <translation>Ein Bedienfeld für Netze von Objekten mit typisierten Parametern.</translation>
+    </message>
+    <message>
+        <source>The network to open; examples/fractal.json unless given.</source>
+        <translation>Das Netz, das geöffnet wird; ohne Angabe examples/fractal.json.</translation>
+    </message>
+    <message>
+        <source>Says how to start the program.</source>
+        <translation>Sagt, wie das Programm gestartet wird.</translation>
+    </message>
+    <message>
+        <source>Says which version this is.</source>
+        <translation>Sagt, welche Version dies ist.</translation>
+    </message>
+    <message>
+        <source>Shows the object of this name.</source>
+        <translation>Zeigt das Objekt dieses Namens.</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>Chooses the value pool of this name.</source>
+        <translation>Wählt den Wertepool dieses Namens.</translation>
+    </message>
+    <message>
+        <source>Sets a value as the host would, in the chosen pool. May be repeated.</source>
+        <translation>Setzt einen Wert im gewählten Pool, wie das Wirtsprogramm es täte. Darf mehrfach stehen.</translation>
+    </message>
+    <message>
+        <source>OBJECT.PARAMETER=TEXT</source>
+        <translation>OBJEKT.PARAMETER=TEXT</translation>
+    </message>
+    <message>
+        <source>Shows the raw values beside the editors.</source>
+        <translation>Zeigt die Rohwerte neben den Editoren.</translation>
+    </message>
+    <message>
+        <source>Draws the panel into an image file, without a display, and ends.</source>
+        <translation>Zeichnet das Bedienfeld ohne Bildschirm in eine Bilddatei und endet.</translation>
+    </message>
+    <message>
+        <source>FILE.png</source>
+        <translation>DATEI.png</translation>
+    </message>
+    <message>
+        <source>Gives the panel this size, as in 1200x800.</source>
+        <translation>Gibt dem Bedienfeld diese Größe, etwa 1200x800.</translation>
+    </message>
+    <message>
+        <source>WIDTHxHEIGHT</source>
+        <translation>BREITExHÖHE</translation>
+    </message>
+    <message>
+        <source>Uses light or dark colours.</source>
+        <translation>Verwendet helle oder dunkle Farben.</translation>
+    </message>
+    <message>
+        <source>light|dark</source>
+        <translation>light|dark</translation>
+    </message>
+    <message>
+        <source>Draws everything larger by this factor, from 0.5 to 4.</source>
+        <translation>Zeichnet alles um diesen Faktor größer, von 0.5 bis 4.</translation>
+    </message>
+    <message>
+        <source>FACTOR</source>
+        <translation>FAKTOR</translation>
+    </message>
+    <message>
+        <source>Lays the panel out from right to left.</source>
+        <translation>Ordnet das Bedienfeld von rechts nach links an.</translation>
+    </message>
+    <message>
+        <source>Speaks this language instead of the system&apos;s, as in de or fr.</source>
+        <translation>Spricht diese Sprache statt der des Systems, etwa de oder fr.</translation>
+    </message>
+    <message>
+        <source>LANGUAGE</source>
+        <translation>SPRACHE</translation>
+    </message>
+    <message>
+        <source>Shows each kind of editor twice on one value, in every state, instead of a network.</source>
+        <translation>Zeigt statt eines Netzes jede Art von Editor zweimal an einem Wert, in jedem Zustand.</translation>
+    </message>
+    <message>
+        <source>Shows this state of the gallery first: normal, per-pool, dead-parameter, no-pool or wrong-type.</source>
+        <translation>Zeigt diesen Zustand der Galerie zuerst: normal, per-pool, dead-parameter, no-pool oder wrong-type.</translation>
+    </message>
+    <message>
+        <source>STATE</source>
+        <translation>ZUSTAND</translation>
+    </message>
+    <message>
+        <source>Neither brings the last session back nor keeps this one.</source>
+        <translation>Stellt die letzte Sitzung nicht wieder her und behält diese nicht.</translation>
+    </message>
+    <message>
+        <source>Prints all values as JSON and ends.</source>
+        <translation>Gibt alle Werte als JSON aus und endet.</translation>
+    </message>
+    <message>
+        <source>Prints the value type, name and preference set of each input creator, separated by tabs, and ends.</source>
+        <translation>Gibt zu jedem Eingabe-Erzeuger Wertetyp, Namen und Vorgaben aus, durch Tabulatoren getrennt, und endet.</translation>
+    </message>
+    <message>
+        <source>Loads this plug-in file instead of qtalo_inputs.talo. May be repeated.</source>
+        <translation>Lädt diese Plug-in-Datei statt qtalo_inputs.talo. Darf mehrfach stehen.</translation>
+    </message>
+    <message>
+        <source>FILE</source>
+        <translation>DATEI</translation>
+    </message>
+    <message>
+        <source>More than one network is named: %1.</source>
+        <translation>Mehr als ein Netz ist genannt: %1.</translation>
+    </message>
+    <message>
+        <source>The option --%1 needs a value.</source>
+        <translation>Die Option --%1 braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>--set wants OBJECT.PARAMETER=TEXT and found &quot;%1&quot;.</source>
+        <translation>--set erwartet OBJEKT.PARAMETER=TEXT und fand „%1“.</translation>
+    </message>
+    <message>
+        <source>--size wants a size as in 1200x800 and found &quot;%1&quot;.</source>
+        <translation>--size erwartet eine Größe wie 1200x800 und fand „%1“.</translation>
+    </message>
+    <message>
+        <source>--palette wants light or dark and found &quot;%1&quot;.</source>
+        <translation>--palette erwartet light oder dark und fand „%1“.</translation>
+    </message>
+    <message>
+        <source>--scale wants a factor from 0.5 to 4 and found &quot;%1&quot;.</source>
+        <translation>--scale erwartet einen Faktor von 0.5 bis 4 und fand „%1“.</translation>
+    </message>
+    <message>
+        <source>--language wants a language as in de or fr and found &quot;%1&quot;.</source>
+        <translation>--language erwartet eine Sprache wie de oder fr und fand „%1“.</translation>
+    </message>
+    <message>
+        <source>The gallery opens no network, so --%1 says nothing beside --gallery.</source>
+        <translation>Die Galerie öffnet kein Netz, also sagt --%1 neben --gallery nichts.</translation>
+    </message>
+    <message>
+        <source>The gallery opens no network, so %1 says nothing beside --gallery.</source>
+        <translation>Die Galerie öffnet kein Netz, also sagt %1 neben --gallery nichts.</translation>
+    </message>
+    <message>
+        <source>--state wants one of %1 and found &quot;%2&quot;.</source>
+        <translation>--state erwartet eines von %1 und fand „%2“.</translation>
+    </message>
+    <message>
+        <source>--state says nothing without --gallery.</source>
+        <translation>--state sagt ohne --gallery nichts.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Gallery</name>
+    <message>
+        <source>Gallery – Talo panel</source>
+        <translation>Galerie – Talo-Bedienfeld</translation>
+    </message>
+    <message>
+        <source>States</source>
+        <translation>Zustände</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Action %1 was fired.</source>
+        <translation>Die Aktion %1 wurde ausgelöst.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::GalleryPage</name>
+    <message>
+        <source>P&amp;ool:</source>
+        <translation>P&amp;ool:</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Erzeuger</translation>
+    </message>
+    <message>
+        <source>First editor</source>
+        <translation>Erster Editor</translation>
+    </message>
+    <message>
+        <source>Second editor</source>
+        <translation>Zweiter Editor</translation>
+    </message>
+    <message>
+        <source>Raw value</source>
+        <translation>Rohwert</translation>
+    </message>
+    <message>
+        <source>Notifications</source>
+        <translation>Benachrichtigungen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::GalleryRow</name>
+    <message>
+        <source>Nobody can make a value of this type.</source>
+        <translation>Niemand kann einen Wert dieses Typs anlegen.</translation>
+    </message>
+    <message>
+        <source>For these preferences %1 is chosen.</source>
+        <translation>Zu diesen Vorgaben wird %1 gewählt.</translation>
+    </message>
+    <message>
+        <source>No creator is chosen for these preferences.</source>
+        <translation>Zu diesen Vorgaben wird kein Erzeuger gewählt.</translation>
+    </message>
+    <message>
+        <source>%1, editor %2</source>
+        <translation>%1, Editor %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::GalleryState</name>
+    <message>
+        <source>Per pool</source>
+        <translation>Je Pool</translation>
+    </message>
+    <message>
+        <source>Dead parameter</source>
+        <translation>Toter Parameter</translation>
+    </message>
+    <message>
+        <source>No pool</source>
+        <translation>Kein Pool</translation>
+    </message>
+    <message>
+        <source>Wrong type</source>
+        <translation>Falscher Typ</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Each parameter keeps a value per pool. Editors show and change the value of the chosen pool.</source>
+        <translation>Jeder Parameter hält je Pool einen Wert. Die Editoren zeigen und ändern den Wert des gewählten Pools.</translation>
+    </message>
+    <message>
+        <source>Each parameter was deleted after its editors were made. An edit finds nothing to write to and says so.</source>
+        <translation>Jeder Parameter wurde gelöscht, nachdem seine Editoren angelegt waren. Eine Änderung findet kein Ziel und sagt das.</translation>
+    </message>
+    <message>
+        <source>No pool is chosen. An edit stores nothing and tells nobody.</source>
+        <translation>Kein Pool ist gewählt. Eine Änderung speichert nichts und meldet nichts.</translation>
+    </message>
+    <message>
+        <source>Each parameter holds a value of another type than it declares. Editors leave that value alone.</source>
+        <translation>Jeder Parameter hält einen Wert von anderem Typ, als er angibt. Die Editoren lassen diesen Wert unberührt.</translation>
+    </message>
+    <message>
+        <source>Each parameter has one value. What one editor changes, the other one shows at once.</source>
+        <translation>Jeder Parameter hat einen Wert. Was ein Editor ändert, zeigt der andere sofort.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MainWindow</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Talo panel</source>
+        <translation>Talo-Bedienfeld</translation>
+    </message>
+    <message>
+        <source>Opened %1.</source>
+        <translation>%1 wurde geöffnet.</translation>
+    </message>
+    <message>
+        <source>Action %1.%2 was fired in pool %3.</source>
+        <translation>Die Aktion %1.%2 wurde im Pool %3 ausgelöst.</translation>
+    </message>
+    <message>
+        <source>(no object)</source>
+        <translation>(kein Objekt)</translation>
+    </message>
+    <message>
+        <source>(no parameter)</source>
+        <translation>(kein Parameter)</translation>
+    </message>
+    <message>
+        <source>(no pool)</source>
+        <translation>(kein Pool)</translation>
+    </message>
+    <message>
+        <source>%1 – Talo panel</source>
+        <translation>%1 – Talo-Bedienfeld</translation>
+    </message>
+    <message>
+        <source>Saved the values to %1.</source>
+        <translation>Die Werte wurden in %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Gespeichert.</translation>
+    </message>
+    <message>
+        <source>No network is open.</source>
+        <translation>Kein Netz ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>Can no longer be taken back: %1</source>
+        <translation>Lässt sich nicht mehr zurücknehmen: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Networks (*.json);;All files (*)</source>
+        <translation>Netze (*.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Pool</source>
+        <translation>Pool</translation>
+    </message>
+    <message>
+        <source>P&amp;ool:</source>
+        <translation>P&amp;ool:</translation>
+    </message>
+    <message>
+        <source>The pool whose values are edited</source>
+        <translation>Der Pool, dessen Werte bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Save values</source>
+        <translation>Werte &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save values &amp;as...</source>
+        <translation>Werte speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;New view</source>
+        <translation>&amp;Neue Ansicht</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation>Ctrl+N</translation>
+    </message>
+    <message>
+        <source>&amp;Raw values</source>
+        <translation>&amp;Rohwerte</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>&amp;Plug-ins</source>
+        <translation>&amp;Plug-ins</translation>
+    </message>
+    <message>
+        <source>&amp;Load...</source>
+        <translation>&amp;Laden …</translation>
+    </message>
+    <message>
+        <source>&amp;Unload</source>
+        <translation>&amp;Entladen</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>Open a network</source>
+        <translation>Ein Netz öffnen</translation>
+    </message>
+    <message>
+        <source>The network cannot be opened</source>
+        <translation>Das Netz lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Save the values</source>
+        <translation>Die Werte speichern</translation>
+    </message>
+    <message>
+        <source>The values cannot be saved</source>
+        <translation>Die Werte lassen sich nicht speichern</translation>
+    </message>
+    <message>
+        <source>Load a plug-in</source>
+        <translation>Ein Plug-in laden</translation>
+    </message>
+    <message>
+        <source>Plug-ins (*.talo);;All files (*)</source>
+        <translation>Plug-ins (*.talo);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded</source>
+        <translation>Das Plug-in lässt sich nicht laden</translation>
+    </message>
+    <message>
+        <source>The plug-ins were unloaded.</source>
+        <translation>Die Plug-ins wurden entladen.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be unloaded</source>
+        <translation>Die Plug-ins lassen sich nicht entladen</translation>
+    </message>
+    <message>
+        <source>The plug-ins were loaded again.</source>
+        <translation>Die Plug-ins wurden neu geladen.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be loaded again</source>
+        <translation>Die Plug-ins lassen sich nicht neu laden</translation>
+    </message>
+    <message>
+        <source>Plug-ins: %1, kinds of editors: %2</source>
+        <translation>Plug-ins: %1, Arten von Editoren: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MessageList</name>
+    <message>
+        <source>output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>panel</source>
+        <translation>Bedienfeld</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MissingEditor</name>
+    <message>
+        <source>No editor is registered for the type %1 without preferences.</source>
+        <translation>Für den Typ %1 ohne Vorgaben ist kein Editor angemeldet.</translation>
+    </message>
+    <message>
+        <source>No editor is registered for the type %1 with the preferences %2.</source>
+        <translation>Für den Typ %1 mit den Vorgaben %2 ist kein Editor angemeldet.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ObjectList</name>
+    <message>
+        <source>Objects</source>
+        <translation>Objekte</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ParameterRow</name>
+    <message>
+        <source>Type: %1</source>
+        <translation>Typ: %1</translation>
+    </message>
+    <message>
+        <source>Preferences: %1</source>
+        <translation>Vorgaben: %1</translation>
+    </message>
+    <message>
+        <source>Editor: %1</source>
+        <translation>Editor: %1</translation>
+    </message>
+    <message>
+        <source>was removed</source>
+        <translation>wurde entfernt</translation>
+    </message>
+    <message>
+        <source>in pool %1</source>
+        <translation>im Pool %1</translation>
+    </message>
+    <message>
+        <source>no pool</source>
+        <translation>kein Pool</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::RawValue</name>
+    <message>
+        <source>age %1</source>
+        <translation>Alter %1</translation>
+    </message>
+    <message>
+        <source>, pool %1</source>
+        <translation>, Pool %1</translation>
+    </message>
+    <message>
+        <source>, own value</source>
+        <translation>, eigener Wert</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfernt</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Session</name>
+    <message>
+        <source>The session cannot be kept in %1.</source>
+        <translation>Die Sitzung lässt sich nicht in %1 behalten.</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>--help says how to start the program.</source>
+        <translation>--help sagt, wie das Programm gestartet wird.</translation>
+    </message>
+    <message>
+        <source>%1 has no pool &quot;%2&quot;, only %3.</source>
+        <translation>%1 hat keinen Pool „%2“, nur %3.</translation>
+    </message>
+    <message>
+        <source>%1 has no object &quot;%2&quot;.</source>
+        <translation>%1 hat kein Objekt „%2“.</translation>
+    </message>
+    <message>
+        <source>Cannot write the image %1.</source>
+        <translation>Das Bild %1 lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>examples/fractal.json is missing; name a network to open.</source>
+        <translation>examples/fractal.json fehlt; nennen Sie ein Netz, das geöffnet werden soll.</translation>
+    </message>
+    <message>
+        <source>There is no display; the panel runs unseen. --screenshot draws it into a file.</source>
+        <translation>Es gibt keinen Bildschirm; das Bedienfeld läuft unsichtbar. --screenshot zeichnet es in eine Datei.</translation>
+    </message>
+    <message>
+        <source>Talo panel</source>
+        <translation>Talo-Bedienfeld</translation>
+    </message>
+</context>
+</TS>
