@@ -1,5 +1,6 @@
 #include <clocale>
 #include <cstdio>
+#include <functional>
 #include <lattice/InputCreator.hpp>
 #include <panel/CommandLine.hpp>
 #include <panel/Gallery.hpp>
@@ -111,15 +112,15 @@ int show(QWidget& window) {
     return QApplication::exec();
 }
 
-int draw(QWidget& window, QString const& file) {
+int draw(QWidget& window, std::function<bool()> const& isAtRest, QString const& file) {
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
-    // Layouts and what the editors put off come to rest, and then the preview, which is computed meanwhile.
+    // Layouts and what the editors put off come to rest, and then what is computed meanwhile.
     for (int round = 0; round < 3; ++round) {
         QApplication::sendPostedEvents();
         QApplication::processEvents();
     }
-    while (!window.studio().isAtRest())
+    while (!isAtRest())
         QApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
     if (!window.grab().save(file))
         return refuse(QCoreApplication::translate("main", "Cannot write the image %1.").arg(file));
@@ -136,7 +137,8 @@ int showGallery(Panel::CommandLine const& commandLine, QString const& pluginErro
     if (auto const state = Panel::findGalleryState(commandLine.state))
         gallery.showState(*state);
     if (!commandLine.screenshot.isEmpty())
-        return draw(gallery, commandLine.screenshot);
+        return draw(
+            gallery, [] { return true; }, commandLine.screenshot);
     return show(gallery);
 }
 
@@ -198,7 +200,8 @@ int run(Panel::CommandLine const& commandLine) {
     if (!commandLine.object.isEmpty())
         window.showObject(commandLine.object);
     if (!commandLine.screenshot.isEmpty())
-        return draw(window, commandLine.screenshot);
+        return draw(
+            window, [&] { return window.studio().isAtRest(); }, commandLine.screenshot);
     return show(window);
 }
 
