@@ -22,9 +22,9 @@ void EditRecorder::noteEdit(ParameterPtr const& parameter, Tessera::StrongPtr<Va
     auto const before = held_.in(pool);
     // A pool that only got a copy of the parameter's own value counts as one without: the step after it takes both
     // back.
-    if (before.equals(heldValue(*parameter, pool)))
+    if (held_.holdsIn(*parameter, pool))
         return;
-    held_.refresh(*parameter, pool);
+    held_.refreshIn(*parameter, pool);
     UndoHistory::theHistory().record(ValueChange(parameter, pool, before, held_.in(pool)));
 }
 
@@ -35,9 +35,11 @@ EditRecorder::Telling::Telling(std::shared_ptr<EditRecorder> recorder, Tessera::
     bool const restores = UndoHistory::theHistory().isRestoring();
     if (parameter && byInput && recorder_->hostWrites_ == 0 && !restores)
         recorder_->noteEdit(parameter, pool);
+    else if (parameter && restores)
+        recorder_->held_.refreshIn(*parameter, pool);
     else if (parameter)
-        // The host may have written the value behind several pools; a step that goes back writes in one.
-        recorder_->held_.refresh(*parameter, restores ? pool : nullptr);
+        // The host may have written the value behind several pools.
+        recorder_->held_.refresh(*parameter);
     if (!byInput_)
         ++recorder_->hostWrites_;
 }
