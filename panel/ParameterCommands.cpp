@@ -91,10 +91,13 @@ void ParameterCommands::paste(ParameterRow& row) {
         emit refused(tr("%1 was removed.").arg(row.parameterName()));
         return;
     }
-    auto const name = row.parameterName();
+    // A copy: the row may be gone once others were told of the value.
+    auto const name = QString(row.parameterName());
     auto const* const data = QApplication::clipboard()->mimeData();
-    auto const pasted = data ? ValueClipboard::paste(*data, *parameter, row.pool())
-                             : ValueClipboard::Pasted{nullptr, tr("The clipboard is empty.")};
+    // Platforms differ in how they say that there is nothing.
+    bool const isEmpty = !data || data->formats().isEmpty();
+    auto const pasted = isEmpty ? ValueClipboard::Pasted{nullptr, tr("The clipboard is empty.")}
+                                : ValueClipboard::paste(*data, *parameter, row.pool());
     if (!pasted.value)
         emit refused(pasted.error);
     else if (!Kolt::UndoHistory::theHistory().store(parameter, row.pool(), {pasted.value, false}))

@@ -57,7 +57,9 @@ std::unique_ptr<QMimeData> ValueClipboard::copy(Kolt::VParameter const& paramete
     auto const held = Kolt::heldValue(parameter, pool).value;
     data->setText(QString::fromStdString(held->Text()));
     auto const* const format = ValueFormat::ofType(parameter.declaredType());
-    auto const written = format ? format->write(held) : QJsonValue(QJsonValue::Undefined);
+    if (!format)
+        return data;
+    auto const written = format->write(held);
     if (!written.isUndefined()) {
         QJsonObject const typed{{QStringLiteral("type"), QLatin1String(format->key)},
                                 {QStringLiteral("value"), written}};

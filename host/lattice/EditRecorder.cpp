@@ -20,20 +20,26 @@ EditRecorder::~EditRecorder() = default;
 
 void EditRecorder::noteEdit(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
     auto const before = held_.in(pool);
-    held_.refresh(*parameter, pool);
-    auto const after = held_.in(pool);
-    if (!before.equals(after))
-        UndoHistory::theHistory().record(ValueChange(parameter, pool, before, after));
+    // A pool that only got a copy of the parameter's own value counts as one without: the step after it takes both
+    // back.
+    if (held_.holdsIn(*parameter, pool))
+        return;
+    held_.refreshIn(*parameter, pool);
+    UndoHistory::theHistory().record(ValueChange(parameter, pool, before, held_.in(pool)));
 }
 
 EditRecorder::Telling::Telling(std::shared_ptr<EditRecorder> recorder, Tessera::StrongPtr<ValuePool> const& pool,
                                bool byInput)
     : recorder_(std::move(recorder)), byInput_(byInput) {
     auto const parameter = recorder_->parameter_.strong();
-    if (parameter && byInput && recorder_->hostWrites_ == 0 && !UndoHistory::theHistory().isRestoring())
+    bool const restores = UndoHistory::theHistory().isRestoring();
+    if (parameter && byInput && recorder_->hostWrites_ == 0 && !restores)
         recorder_->noteEdit(parameter, pool);
+    else if (parameter && restores)
+        recorder_->held_.refreshIn(*parameter, pool);
     else if (parameter)
-        recorder_->held_.refresh(*parameter, pool);
+        // The host may have written the value behind several pools.
+        recorder_->held_.refresh(*parameter);
     if (!byInput_)
         ++recorder_->hostWrites_;
 }

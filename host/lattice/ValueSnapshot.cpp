@@ -51,7 +51,7 @@ bool storeHeldValue(VParameter& parameter, Tessera::StrongPtr<ValuePool> const& 
 }
 
 ValueSnapshot::ValueSnapshot(VParameter const& parameter) : perPool_(parameter.keepsValuesPerPool()) {
-    refresh(parameter, nullptr);
+    refresh(parameter);
 }
 
 ValueSnapshot::~ValueSnapshot() = default;
@@ -67,24 +67,25 @@ HeldValue ValueSnapshot::in(Tessera::StrongPtr<ValuePool> const& pool) const {
     return found == poolValues_.end() ? HeldValue{own_, perPool_} : HeldValue{found->value, false};
 }
 
-void ValueSnapshot::refresh(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
+void ValueSnapshot::refresh(VParameter const& parameter) {
     own_ = parameter.ownValue()->clone();
+    poolValues_.clear();
     if (!perPool_)
         return;
-    auto const take = [&](Tessera::StrongPtr<ValuePool> const& each) {
-        if (auto const local = parameter.getLocalValue(each, std::string(), false))
-            poolValues_.push_back({each, local->clone()});
-    };
-    if (pool) {
-        auto const found = find(pool);
-        if (found != poolValues_.end())
-            poolValues_.erase(found);
-        take(pool);
+    for (auto const& pool : parameter.poolsWithValue())
+        refreshIn(parameter, pool);
+}
+
+void ValueSnapshot::refreshIn(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
+    if (!perPool_) {
+        own_ = parameter.ownValue()->clone();
         return;
     }
-    poolValues_.clear();
-    for (auto const& each : parameter.poolsWithValue())
-        take(each);
+    auto const found = find(pool);
+    if (found != poolValues_.end())
+        poolValues_.erase(found);
+    if (auto const local = parameter.getLocalValue(pool, std::string(), false))
+        poolValues_.push_back({pool, local->clone()});
 }
 
 bool ValueSnapshot::holdsIn(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) const {

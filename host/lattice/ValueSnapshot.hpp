@@ -37,8 +37,10 @@ public:
 
     /// What held in a pool.
     HeldValue in(Tessera::StrongPtr<ValuePool> const& pool) const;
-    /// Takes the parameter's own value and that of the pool anew; for a null pool those of all pools.
-    void refresh(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool);
+    /// Takes everything anew.
+    void refresh(VParameter const& parameter);
+    /// Takes anew what holds in a pool, and nothing else, as a copy of a long list takes a while.
+    void refreshIn(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool);
     /// Whether the same value holds in the pool now. A value that the pool got since and that equals what held before
     /// counts as the same.
     bool holdsIn(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) const;

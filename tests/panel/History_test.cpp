@@ -177,6 +177,37 @@ TEST_P(HistoryOfType, EveryViewShowsWhatHoldsAfterUndoAndRedo) {
     EXPECT_EQ(agree(), before);
 }
 
+TEST_P(HistoryOfType, AnEditInAPoolGoesBackWhicheverPoolIsChosen) {
+    auto json = QByteArray(values).replace("\"type\": ", "\"perPool\": true, \"type\": ");
+    QString error;
+    ASSERT_TRUE(window->openNetwork(networkFile("pools.json", json.constData()), &error)) << qPrintable(error);
+    auto const before = valuesNow();
+    auto const ownBefore = parameter(("all." + name()).c_str())->ownValue()->Text();
+    edit();
+    auto const afterDraft = valuesNow();
+    ASSERT_NE(afterDraft, before);
+    window->choosePool(QStringLiteral("final"));
+    EXPECT_EQ(valuesNow(), afterDraft);
+    edit();
+    auto const afterBoth = valuesNow();
+    EXPECT_NE(afterBoth, afterDraft);
+    EXPECT_EQ(parameter(("all." + name()).c_str())->ownValue()->Text(), ownBefore);
+    EXPECT_THAT(steps(), SizeIs(2));
+    window->choosePool(QStringLiteral("draft"));
+    undo();
+    EXPECT_EQ(valuesNow(), afterDraft);
+    window->choosePool(QStringLiteral("final"));
+    undo();
+    EXPECT_EQ(valuesNow(), before) << valuesNow().toStdString();
+    redo();
+    redo();
+    EXPECT_EQ(valuesNow(), afterBoth);
+    undo();
+    undo();
+    EXPECT_EQ(valuesNow(), before);
+    EXPECT_FALSE(window->network()->isModified());
+}
+
 INSTANTIATE_TEST_SUITE_P(EveryType, HistoryOfType,
                          testing::Values("bool/click", "int/drag", "int/keys", "int/text", "int/text beyond the range",
                                          "double/keys", "double/drag", "double/text", "colour/dialog", "enum/click",

@@ -45,7 +45,7 @@ protected:
     void expectUntouched() {
         EXPECT_EQ(shownObject(), QStringLiteral("lamp"));
         EXPECT_EQ(pool(), QStringLiteral("day"));
-        EXPECT_EQ(window->size(), QSize(1000, 760));
+        EXPECT_EQ(window->size(), QSize(1200, 800));
         EXPECT_FALSE(window->rawValuesShown());
         EXPECT_TRUE(viewDocks().isEmpty());
         EXPECT_TRUE(messageDock()->isVisible());

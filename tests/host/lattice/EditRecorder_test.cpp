@@ -4,6 +4,7 @@
 #include <lattice/EditRecorder.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/UndoHistory.hpp>
+#include <random>
 
 namespace {
 
@@ -349,6 +350,25 @@ TEST_F(EditRecorderTest, AStepGoesBackInThePoolOfTheEdit) {
     EXPECT_EQ(parameter->ownValue()->Text(), "1");
 }
 
+TEST_F(EditRecorderTest, AnEditThatOnlyCopiesTheOwnValueIntoThePoolGoesBackWithTheNextStep) {
+    auto const parameter = makeParameter(1, VParameter::Values::PerPool);
+    SmallInput input{parameter};
+    auto const recorder = EditRecorder::watch(parameter);
+    input.edit(1, draft);
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_NE(parameter->getLocalValue(draft, std::string(), false), nullptr);
+    input.edit(5, draft);
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(parameter->getLocalValue(draft, std::string(), false), nullptr);
+
+    input.edit(1, draft);
+    parameter->ownValue()->setValueFromText("3");
+    parameter->notifyValueChange(parameter->ownValue(), final, std::string(), nullptr, nullptr, nullptr);
+    input.edit(5, draft);
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter, draft), "1") << "the pool kept its copy when the host wrote the own value";
+}
+
 TEST_F(EditRecorderTest, AStepOfAPoolThatIsGoneIsDropped) {
     auto const parameter = makeParameter(1, VParameter::Values::PerPool);
     SmallInput input{parameter};
@@ -433,4 +453,87 @@ TEST_F(EditRecorderTest, DefaultsAreWhatAParameterHeldInEachPool) {
     EXPECT_TRUE(history.store(parameter, final, parameter->defaults()->in(final)));
     EXPECT_EQ(parameter->getLocalValue(final, std::string(), false), nullptr);
     EXPECT_FALSE(history.store(parameter, nullptr, parameter->defaults()->in(draft))) << "there is no such place";
+}
+
+TEST_F(EditRecorderTest, WhateverWasDoneGoesBackToTheStartAndForthAgain) {
+    VStringList const selection(new StringSelection({"a", "b", "c"}, "a"));
+    std::vector<ParameterPtr> const parameters{makeParameter(1), makeParameter(1, VParameter::Values::PerPool),
+                                               makeParameter(selection)};
+    std::vector<std::unique_ptr<SmallInput>> inputs;
+    std::vector<std::shared_ptr<EditRecorder>> recorders;
+    for (auto const& parameter : parameters) {
+        inputs.push_back(std::make_unique<SmallInput>(parameter));
+        inputs.back()->activateNotification();
+        recorders.push_back(EditRecorder::watch(parameter));
+    }
+    auto const state = [&] {
+        std::string all;
+        for (auto const& parameter : parameters)
+            for (auto const& pool : {draft, final})
+                all += text(parameter, pool) + ' ';
+        return all;
+    };
+    auto const start = state();
+    std::mt19937 random(20230329);
+    auto const upTo = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    int recordsUndone = 0;
+    for (int count = 0; count < 20000; ++count) {
+        auto const pool = upTo(2) == 0 ? draft : final;
+        switch (upTo(9)) {
+        case 0:
+        case 1:
+            inputs[0]->edit(upTo(4), pool);
+            break;
+        case 2:
+            inputs[1]->edit(upTo(4), pool);
+            break;
+        case 3: {
+            auto const list = valueOr(parameters[2]->ownValue(), VStringList());
+            list->select(list->at(static_cast<std::size_t>(upTo(3))));
+            inputs[2]->edit(list, pool);
+            break;
+        }
+        case 4: {
+            int const next = upTo(4);
+            int const previous = valueOr(parameters[0]->ownValue(), 0);
+            if (next == previous)
+                break;
+            parameters[0]->AddUndoAction(
+                StrongPtr<VUndoAction>(
+                    new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(inputs[0].get()), previous, recordsUndone)),
+                upTo(30));
+            inputs[0]->edit(next, pool);
+            break;
+        }
+        case 5:
+            history.openGesture();
+            break;
+        case 6:
+            history.closeGesture();
+            break;
+        case 7:
+            history.undo();
+            break;
+        default:
+            history.redo();
+            break;
+        }
+        // Often enough that the history never forgets a step.
+        if (count % 200 != 0)
+            continue;
+        ASSERT_LT(history.steps().size(), UndoHistory::Capacity);
+        auto const now = state();
+        std::size_t undone = 0;
+        while (history.undo())
+            ++undone;
+        ASSERT_EQ(state(), start) << "after " << count << " edits";
+        ASSERT_THAT(history.steps(), IsEmpty());
+        for (; undone > 0; --undone)
+            ASSERT_TRUE(history.redo());
+        ASSERT_EQ(state(), now);
+        if (history.steps().size() > UndoHistory::Capacity / 2)
+            while (history.undo()) {
+            }
+    }
+    EXPECT_GT(recordsUndone, 0);
 }
