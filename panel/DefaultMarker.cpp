@@ -1,60 +1,34 @@
 #include <panel/DefaultMarker.hpp>
-#include <panel/StepText.hpp>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionToolButton>
 
 namespace Panel {
 
-DefaultMarker::DefaultMarker(Kolt::ParameterPtr const& parameter, PoolSource const& pools, QWidget* parent)
-    : QToolButton(parent), parameter_(parameter), pools_(pools) {
+DefaultMarker::DefaultMarker(QString const& parameterName, QWidget* parent) : QToolButton(parent) {
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
-    // The name keeps its place.
-    auto policy = sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    policy.setHorizontalPolicy(QSizePolicy::Fixed);
-    policy.setVerticalPolicy(QSizePolicy::Fixed);
-    setSizePolicy(policy);
-    auto const name = parameter ? QString::fromStdString(parameter->Name()) : QString();
-    setAccessibleName(tr("Reset %1 to its default").arg(name.mid(name.lastIndexOf(QLatin1Char('.')) + 1)));
-    hide();
-    if (parameter && parameter->defaults())
-        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
-    refresh();
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setAccessibleName(tr("Reset %1 to its default").arg(parameterName));
 }
 
-DefaultMarker::~DefaultMarker() {
-    leaveDelivery();
-}
+DefaultMarker::~DefaultMarker() = default;
 
-void DefaultMarker::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
-                                  Kolt::ValueMap const* properties) {
-    if (!properties)
-        refresh();
-}
-
-void DefaultMarker::refresh() {
-    auto const parameter = parameter_.strong();
-    auto const* const defaults = parameter ? parameter->defaults() : nullptr;
-    if (!defaults || defaults->holdsIn(*parameter, pools_.pool())) {
-        hide();
+void DefaultMarker::setDefault(QString const& text) {
+    auto const sentence = tr("Default: %1").arg(text);
+    if (sentence == accessibleDescription())
         return;
-    }
-    auto const value = defaults->in(pools_.pool()).value;
-    if (value != named_) {
-        named_ = value;
-        auto const text = tr("Default: %1").arg(valueText(*value));
-        setAccessibleDescription(text);
-        setToolTip(QStringLiteral("<p>%1<br>%2</p>")
-                       .arg(text.toHtmlEscaped(), tr("Click to reset the value.").toHtmlEscaped()));
-    }
-    show();
+    setAccessibleDescription(sentence);
+    setToolTip(QStringLiteral("<p>%1<br>%2</p>")
+                   .arg(sentence.toHtmlEscaped(), tr("Click to reset the value.").toHtmlEscaped()));
+}
+
+int DefaultMarker::side(QWidget const& widget) {
+    return widget.fontMetrics().height();
 }
 
 QSize DefaultMarker::sizeHint() const {
-    int const side = fontMetrics().height();
-    return {side, side};
+    return {side(*this), side(*this)};
 }
 
 void DefaultMarker::paintEvent(QPaintEvent*) {

@@ -21,6 +21,7 @@ void click(QPointer<QWidget> const& widget) {
 } // namespace
 
 KeyboardPress::KeyboardPress(QWidget* editor) : QObject(editor), editor_(editor), frame_(new QFocusFrame(editor)) {
+    frame_->hide();
     editor->setFocusPolicy(Qt::StrongFocus);
     editor->installEventFilter(this);
 }

@@ -4,9 +4,12 @@
 #include <panel/MissingEditor.hpp>
 #include <panel/network/ValueFormat.hpp>
 #include <panel/ParameterRow.hpp>
+#include <panel/StepText.hpp>
 #include <panel/WheelGuard.hpp>
 #include <QHBoxLayout>
+#include <QHelpEvent>
 #include <QLayoutItem>
+#include <QToolTip>
 
 namespace Panel {
 
@@ -34,21 +37,11 @@ ParameterRow::ParameterRow(Kolt::ParameterPtr const& parameter, PoolSource& pool
       pools_(pools),
       names_(new QWidget(this)),
       nameLabel_(new QLabel(names_)),
-      marker_(new DefaultMarker(parameter, pools, names_)),
-      noteLabel_(new QLabel(names_)),
-      rawValue_(new RawValue(parameter, pools, this)),
       layout_(new QHBoxLayout(this)) {
     // A label with a buddy takes an ampersand for the sign of a shortcut.
     nameLabel_->setText(lastPart(parameterName_).replace(QLatin1Char('&'), QLatin1String("&&")));
     nameLabel_->setTextFormat(Qt::PlainText);
-    noteLabel_->setTextFormat(Qt::PlainText);
-    auto noteFont = noteLabel_->font();
-    if (noteFont.pointSizeF() > 0)
-        noteFont.setPointSizeF(noteFont.pointSizeF() * 0.85);
-    noteLabel_->setFont(noteFont);
-    showMuted(*noteLabel_);
     alignWithLayout(*nameLabel_);
-    alignWithLayout(*noteLabel_);
 
     auto* const names = new QVBoxLayout(names_);
     names->setContentsMargins(0, 4, 0, 4);
@@ -56,21 +49,21 @@ ParameterRow::ParameterRow(Kolt::ParameterPtr const& parameter, PoolSource& pool
     auto* const firstLine = new QHBoxLayout;
     firstLine->setSpacing(markerDistance);
     firstLine->addWidget(nameLabel_);
-    firstLine->addWidget(marker_);
     firstLine->addStretch(1);
     names->addLayout(firstLine);
-    names->addWidget(noteLabel_);
-    connect(marker_, &DefaultMarker::clicked, this, &ParameterRow::resetToDefault);
 
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(12);
     layout_->addWidget(names_);
-    layout_->addWidget(rawValue_);
-    rawValue_->hide();
+    if (parameter->defaults())
+        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     showNote();
+    showDefault();
 }
 
-ParameterRow::~ParameterRow() = default;
+ParameterRow::~ParameterRow() {
+    leaveDelivery();
+}
 
 ParameterRow* ParameterRow::rowOf(QWidget* widget) {
     auto* row = qobject_cast<ParameterRow*>(widget);
@@ -99,14 +92,14 @@ void ParameterRow::openEditor() {
     layout_->insertWidget(1, editor_.widget, 1);
     editor_.widget->show();
     bool const centred = editor_.widget->sizeHint().height() <= highestCentredEditor;
-    auto const vertical = centred ? Qt::AlignVCenter : Qt::AlignTop;
-    layout_->setAlignment(names_, Qt::AlignLeft | vertical);
-    layout_->setAlignment(rawValue_, Qt::AlignLeft | vertical);
+    vertical_ = centred ? Qt::AlignVCenter : Qt::AlignTop;
+    layout_->setAlignment(names_, Qt::AlignLeft | vertical_);
+    if (rawValue_)
+        layout_->setAlignment(rawValue_, Qt::AlignLeft | vertical_);
     // One that cannot fill the column stands at its left end.
     if (layout_->itemAt(1)->maximumSize().width() < QLAYOUTSIZE_MAX)
         layout_->setAlignment(editor_.widget, Qt::AlignLeft | Qt::AlignVCenter);
     nameEditor();
-    describeChoice();
 }
 
 void ParameterRow::closeEditor() {
@@ -120,13 +113,34 @@ void ParameterRow::closeEditor() {
 
 void ParameterRow::showPool() {
     Kolt::showPoolValue(editor_, parameter_.strong(), &pools_);
-    rawValue_->refresh();
+    if (rawValue_)
+        rawValue_->refresh();
     showDefault();
     showNote();
 }
 
+void ParameterRow::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
+                                 Kolt::ValueMap const* properties) {
+    if (!properties)
+        showDefault();
+}
+
 void ParameterRow::showDefault() {
-    marker_->refresh();
+    auto const parameter = parameter_.strong();
+    auto const* const defaults = parameter ? parameter->defaults() : nullptr;
+    if (!defaults || defaults->holdsIn(*parameter, pool())) {
+        if (marker_)
+            marker_->hide();
+        return;
+    }
+    if (!marker_) {
+        marker_ = new DefaultMarker(lastPart(parameterName_), names_);
+        auto* const firstLine = static_cast<QHBoxLayout*>(names_->layout()->itemAt(0)->layout());
+        firstLine->insertWidget(1, marker_);
+        connect(marker_, &DefaultMarker::clicked, this, &ParameterRow::resetToDefault);
+    }
+    marker_->setDefault(valueText(*defaults->in(pool()).value));
+    marker_->show();
 }
 
 bool ParameterRow::resetToDefault() {
@@ -144,7 +158,12 @@ void ParameterRow::checkParameter() {
 }
 
 void ParameterRow::setRawValueShown(bool shown) {
-    rawValue_->setVisible(shown);
+    if (shown && !rawValue_) {
+        rawValue_ = new RawValue(parameter_.strong(), pools_, this);
+        layout_->addWidget(rawValue_, 0, Qt::AlignLeft | vertical_);
+    }
+    if (rawValue_)
+        rawValue_->setVisible(shown);
 }
 
 void ParameterRow::setNameWidth(int width) {
@@ -152,8 +171,20 @@ void ParameterRow::setNameWidth(int width) {
 }
 
 int ParameterRow::nameWidth() const {
-    return qMax(nameLabel_->sizeHint().width() + markerDistance + marker_->sizeHint().width(),
-                noteLabel_->isHidden() ? 0 : noteLabel_->sizeHint().width());
+    return qMax(nameLabel_->sizeHint().width() + markerDistance + DefaultMarker::side(*nameLabel_),
+                note().isEmpty() ? 0 : noteLabel_->sizeHint().width());
+}
+
+QSize ParameterRow::sizeHint() const {
+    auto const hint = QWidget::sizeHint();
+    return {qMax(hint.width(), width()), hint.height()};
+}
+
+bool ParameterRow::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || !names_->geometry().contains(static_cast<QHelpEvent*>(event)->pos()))
+        return QWidget::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), description(), names_);
+    return true;
 }
 
 void ParameterRow::nameEditor() {
@@ -179,16 +210,18 @@ void ParameterRow::nameEditor() {
         new KeyboardPress(editor_.widget);
 }
 
-void ParameterRow::describeChoice() {
+QString ParameterRow::description() const {
+    auto const title = QStringLiteral("<p><b>%1</b></p>").arg(parameterName_.toHtmlEscaped());
     auto const parameter = parameter_.strong();
+    if (!parameter || !editor_.widget)
+        return title;
     auto const wanted = parameter->creationPreferences() ? parameter->creationPreferences()->names()
                                                          : Kolt::VCreationPreferences::Names();
-    nameLabel_->setToolTip(
-        QStringLiteral("<p><b>%1</b></p><p>%2<br>%3</p><p>%4</p>")
-            .arg(parameterName_.toHtmlEscaped(),
-                 tr("Type: %1").arg(QString::fromStdString(parameter->declaredType())).toHtmlEscaped(),
-                 tr("Preferences: %1").arg(QString::fromStdString(Kolt::preferenceText(wanted))).toHtmlEscaped(),
-                 tr("Editor: %1").arg(QString::fromStdString(editor_.choice.explanation)).toHtmlEscaped()));
+    return title +
+           QStringLiteral("<p>%1<br>%2</p><p>%3</p>")
+               .arg(tr("Type: %1").arg(QString::fromStdString(parameter->declaredType())).toHtmlEscaped(),
+                    tr("Preferences: %1").arg(QString::fromStdString(Kolt::preferenceText(wanted))).toHtmlEscaped(),
+                    tr("Editor: %1").arg(QString::fromStdString(editor_.choice.explanation)).toHtmlEscaped());
 }
 
 void ParameterRow::showNote() {
@@ -198,6 +231,19 @@ void ParameterRow::showNote() {
         note = tr("was removed");
     else if (parameter->keepsValuesPerPool())
         note = pools_.pool() ? tr("in pool %1").arg(QString::fromStdString(pools_.pool()->Name())) : tr("no pool");
+    if (note.isEmpty() && !noteLabel_)
+        return;
+    if (!noteLabel_) {
+        noteLabel_ = new QLabel(names_);
+        noteLabel_->setTextFormat(Qt::PlainText);
+        alignWithLayout(*noteLabel_);
+        auto font = noteLabel_->font();
+        if (font.pointSizeF() > 0)
+            font.setPointSizeF(font.pointSizeF() * 0.85);
+        noteLabel_->setFont(font);
+        showMuted(*noteLabel_);
+        names_->layout()->addWidget(noteLabel_);
+    }
     noteLabel_->setText(note);
     noteLabel_->setVisible(!note.isEmpty());
 }

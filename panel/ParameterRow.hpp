@@ -21,7 +21,7 @@ namespace Panel {
 /// As long as a value that people edit has an editor here, its edits are steps of the host's history (EditRecorder).
 ///
 /// The row refers to the parameter weakly and stays usable without it. User-interface thread.
-class ParameterRow : public QWidget {
+class ParameterRow : public QWidget, private Kolt::ValueNotifier {
     Q_OBJECT
 
 public:
@@ -37,10 +37,15 @@ public:
     Kolt::ParameterPtr parameter() const { return parameter_.strong(); }
     /// The chosen pool; null for none.
     Tessera::StrongPtr<Kolt::ValuePool> pool() const { return pools_.pool(); }
+    /// Marks a value that is not the default; null as long as it never was another.
     DefaultMarker* defaultMarker() const { return marker_; }
     QLabel* nameLabel() const { return nameLabel_; }
-    QLabel* noteLabel() const { return noteLabel_; }
+    /// The line below the name; empty for none.
+    QString note() const { return noteLabel_ ? noteLabel_->text() : QString(); }
+    /// Null as long as it was never shown.
     RawValue* rawValue() const { return rawValue_; }
+    /// Which creator made the editor and why, as rich text; the tool tip of the name.
+    QString description() const;
     /// The editor or the MissingEditor; null while closed.
     QWidget* editor() const { return editor_.widget; }
 
@@ -62,8 +67,15 @@ public:
     /// The width that the name and the note need.
     int nameWidth() const;
 
+    /// An editor may ask the widget around it to adjust its size; a row keeps the width that it was given.
+    QSize sizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+
 private:
-    void describeChoice();
+    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+                       Kolt::ValueMap const* properties) override;
     void nameEditor();
     void showNote();
 
@@ -72,10 +84,13 @@ private:
     PoolSource& pools_;
     QWidget* const names_;
     QLabel* const nameLabel_;
-    DefaultMarker* const marker_;
-    QLabel* const noteLabel_;
-    RawValue* const rawValue_;
     QHBoxLayout* const layout_;
+    // Made when they are needed first: most rows never do.
+    DefaultMarker* marker_ = nullptr;
+    QLabel* noteLabel_ = nullptr;
+    RawValue* rawValue_ = nullptr;
+    // Where the name stands beside the editor.
+    Qt::Alignment vertical_ = Qt::AlignVCenter;
     Kolt::Editor editor_;
     std::shared_ptr<Kolt::EditRecorder> recorder_;
 };

@@ -323,7 +323,7 @@ TEST_F(DesktopTest, APoolIsChosenByTheKeyboard) {
     ASSERT_TRUE(waitUntil([] { return qobject_cast<QComboBox*>(QApplication::focusWidget()) != nullptr; }));
     desktop.key("Down");
     EXPECT_TRUE(waitUntil([&] { return window->pools().pool()->Name() == "final"; }));
-    EXPECT_EQ(row("formula.iterations")->noteLabel()->text(), QStringLiteral("in pool final"));
+    EXPECT_EQ(row("formula.iterations")->note(), QStringLiteral("in pool final"));
     EXPECT_EQ(control<QLineEdit>("formula.iterations")->text(), QStringLiteral("2000"));
 }
 

@@ -127,9 +127,11 @@ TEST_F(MainWindowTest, AViewMadeLaterShowsTheChosenPoolAndRawValues) {
 }
 
 TEST_F(MainWindowTest, RawValuesAreShownOnDemand) {
-    auto* const raw = window->currentView()->row(QStringLiteral("steady"))->rawValue();
-    EXPECT_TRUE(raw->isHidden());
+    auto const* const row = window->currentView()->row(QStringLiteral("steady"));
+    EXPECT_EQ(row->rawValue(), nullptr);
     action("rawValues")->trigger();
+    auto* const raw = row->rawValue();
+    ASSERT_NE(raw, nullptr);
     EXPECT_FALSE(raw->isHidden());
     EXPECT_EQ(raw->text(), QStringLiteral("true"));
     action("rawValues")->trigger();
@@ -268,7 +270,14 @@ TEST_F(MainWindowTest, EveryEditorCanBeReachedAndIsNamed) {
 }
 
 TEST_F(MainWindowTest, TheToolTipOfANameTellsWhichEditorWasTakenAndWhy) {
-    auto const tip = window->currentView()->row(QStringLiteral("steady"))->nameLabel()->toolTip().toStdString();
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    auto* const label = window->currentView()->row(QStringLiteral("steady"))->nameLabel();
+    QHelpEvent event(QEvent::ToolTip, QPoint(3, 3), label->mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(label, &event);
+    auto const tip = QToolTip::text().toStdString();
+    QToolTip::hideText();
+    EXPECT_TRUE(waitUntil([] { return !QToolTip::isVisible(); }));
     auto const choice = Kolt::InputRegistry::theRegistry().choose(*parameter("lamp.steady"), {"QT"});
     EXPECT_THAT(tip, HasSubstr(QString::fromStdString(choice.explanation).toHtmlEscaped().toStdString()));
     EXPECT_THAT(tip, HasSubstr("bool"));

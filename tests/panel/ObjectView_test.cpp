@@ -32,10 +32,10 @@ TEST_F(ObjectViewTest, GroupsParametersByWhatStandsBeforeTheLastDot) {
 }
 
 TEST_F(ObjectViewTest, AParameterPerPoolNamesThePoolThatIsEdited) {
-    EXPECT_EQ(row("on")->noteLabel()->text(), QStringLiteral("in pool day"));
-    EXPECT_TRUE(row("steady")->noteLabel()->text().isEmpty());
+    EXPECT_EQ(row("on")->note(), QStringLiteral("in pool day"));
+    EXPECT_TRUE(row("steady")->note().isEmpty());
     window->choosePool(QStringLiteral("night"));
-    EXPECT_EQ(row("on")->noteLabel()->text(), QStringLiteral("in pool night"));
+    EXPECT_EQ(row("on")->note(), QStringLiteral("in pool night"));
 }
 
 TEST_F(ObjectViewTest, NamesOfAllRowsAreAsWideAsTheWidest) {
@@ -49,6 +49,7 @@ TEST_F(ObjectViewTest, NamesOfAllRowsAreAsWideAsTheWidest) {
 }
 
 TEST_F(ObjectViewTest, TheRawValueFollowsWithItsAge) {
+    window->setRawValuesShown(true);
     auto const* const raw = row("steady")->rawValue();
     EXPECT_EQ(raw->text(), QStringLiteral("true"));
     QTest::mouseClick(box("steady"), Qt::LeftButton);
@@ -59,6 +60,7 @@ TEST_F(ObjectViewTest, TheRawValueFollowsWithItsAge) {
 }
 
 TEST_F(ObjectViewTest, TheRawValueTellsThePoolsValueFromTheParametersOwn) {
+    window->setRawValuesShown(true);
     auto const* const raw = row("on")->rawValue();
     EXPECT_EQ(raw->text(), QStringLiteral("false"));
     EXPECT_THAT(raw->stamp().toStdString(), HasSubstr("own value"));
@@ -85,8 +87,8 @@ TEST_F(ObjectViewTest, ADeletedParameterLeavesItsRowUsableWithANote) {
     window->tapStandardOutput();
     auto const lamp = window->network()->findObject(QStringLiteral("lamp"));
     lamp->removeParameter(lamp->findParameter("steady"));
-    EXPECT_TRUE(waitUntil([&] { return row("steady")->noteLabel()->text() == QStringLiteral("was removed"); }));
-    EXPECT_EQ(row("on")->noteLabel()->text(), QStringLiteral("in pool day"));
+    EXPECT_TRUE(waitUntil([&] { return row("steady")->note() == QStringLiteral("was removed"); }));
+    EXPECT_EQ(row("on")->note(), QStringLiteral("in pool day"));
 
     auto const line = QStringLiteral("**POSSIBLE INTERNAL FAULT**: VInputBase without owner? That's not good.");
     QTest::mouseClick(box("steady"), Qt::LeftButton);
@@ -112,7 +114,8 @@ TEST_F(ObjectViewTest, AnObjectThatIsGoneLeavesItsViewStanding) {
     }
     EXPECT_EQ(view->object(), nullptr);
     view->showPool();
-    EXPECT_EQ(view->rows().front()->noteLabel()->text(), QStringLiteral("was removed"));
+    EXPECT_EQ(view->rows().front()->note(), QStringLiteral("was removed"));
+    view->setRawValuesShown(true);
     EXPECT_EQ(view->rows().front()->rawValue()->stamp(), QStringLiteral("removed"));
 }
 

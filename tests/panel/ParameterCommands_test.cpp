@@ -56,33 +56,34 @@ protected:
         return errors.isEmpty() ? std::string() : errors.constLast().toStdString();
     }
     Panel::DefaultMarker* marker(char const* name) const { return row(name)->defaultMarker(); }
+    bool isMarked(char const* name) const { return marker(name) && marker(name)->isVisible(); }
 };
 
 } // namespace
 
 TEST_F(ParameterCommandsTest, ADotMarksWhatIsNotTheDefaultAndNamesIt) {
-    EXPECT_FALSE(marker("int")->isVisible());
+    EXPECT_FALSE(isMarked("int"));
     QTest::keyClick(slider("int"), Qt::Key_Right);
-    EXPECT_TRUE(marker("int")->isVisible());
+    EXPECT_TRUE(isMarked("int"));
     EXPECT_THAT(marker("int")->toolTip().toStdString(), HasSubstr("Default: 20"));
     EXPECT_EQ(marker("int")->accessibleDescription(), QStringLiteral("Default: 20"));
     EXPECT_EQ(marker("int")->accessibleName(), QStringLiteral("Reset int to its default"));
     action("undo")->trigger();
-    EXPECT_FALSE(marker("int")->isVisible());
+    EXPECT_FALSE(isMarked("int"));
     set("all.int", "50");
-    EXPECT_TRUE(marker("int")->isVisible()) << "whoever wrote it";
+    EXPECT_TRUE(isMarked("int")) << "whoever wrote it";
 }
 
 TEST_F(ParameterCommandsTest, TheDotIsAboutTheChosenPool) {
     QTest::keyClick(slider("int"), Qt::Key_Right);
     window->choosePool(QStringLiteral("final"));
-    EXPECT_FALSE(marker("int")->isVisible());
+    EXPECT_FALSE(isMarked("int"));
     QTest::keyClick(slider("int"), Qt::Key_Right);
     EXPECT_THAT(marker("int")->toolTip().toStdString(), HasSubstr("Default: 40"));
     QTest::mouseClick(marker("int"), Qt::LeftButton);
     EXPECT_EQ(held("int"), "40");
     window->choosePool(QStringLiteral("draft"));
-    EXPECT_TRUE(marker("int")->isVisible());
+    EXPECT_TRUE(isMarked("int"));
     QTest::mouseClick(marker("int"), Qt::LeftButton);
     EXPECT_EQ(valuesNow(), text) << "a pool that had no value of its own has none again";
 }
@@ -92,7 +93,7 @@ TEST_F(ParameterCommandsTest, TheDotResetsByMouseAndKeyboardAndUndoTakesItBack) 
     QTest::mouseClick(marker("enum"), Qt::LeftButton);
     EXPECT_EQ(held("enum"), "Red");
     EXPECT_TRUE(choice("Red")->isChecked());
-    EXPECT_FALSE(marker("enum")->isVisible());
+    EXPECT_FALSE(isMarked("enum"));
     action("undo")->trigger();
     EXPECT_EQ(held("enum"), "Blue");
     EXPECT_TRUE(choice("Blue")->isChecked());
@@ -106,7 +107,7 @@ TEST_F(ParameterCommandsTest, NothingThatIsOnlyShownHasADefault) {
     ASSERT_TRUE(window->showObject(QStringLiteral("others")));
     set("others.said", "Something.");
     for (auto const* const name : {"start", "said", "status"}) {
-        EXPECT_FALSE(marker(name)->isVisible()) << name;
+        EXPECT_FALSE(isMarked(name)) << name;
         focus("same int");
         EXPECT_TRUE(action("copyValue")->isEnabled());
         QPointer<QMenu> const menu = contextMenu(row(name));
@@ -278,7 +279,7 @@ TEST_F(ParameterCommandsTest, AParameterThatIsRemovedSaysSo) {
         action(command)->trigger();
         EXPECT_THAT(refusal(), HasSubstr("bool")) << command;
     }
-    EXPECT_TRUE(waitUntil([&] { return !marker("bool")->isVisible(); }));
+    EXPECT_TRUE(waitUntil([&] { return !isMarked("bool"); }));
 }
 
 TEST_F(ParameterCommandsTest, APasteWithoutAPoolIsRefused) {
