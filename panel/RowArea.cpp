@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <map>
 #include <panel/RowArea.hpp>
 #include <QApplication>
 #include <QEvent>
@@ -64,12 +65,13 @@ bool isInUse(QWidget const& row) {
 RowArea::RowArea(std::vector<Kolt::ParameterPtr> const& parameters, PoolSource& pools, QWidget* parent)
     : ContentArea(parent), pools_(pools), content_(new QWidget) {
     std::map<QString, std::size_t> known;
+    std::map<std::string, std::size_t> sorts;
     QString longestName;
     for (auto const& parameter : parameters) {
         Entry entry;
         entry.name = QString::fromStdString(parameter->Name());
         entry.parameter = parameter;
-        entry.sort = sortOf(*parameter);
+        entry.sort = sorts.insert({sortOf(*parameter), sorts.size()}).first->second;
         auto const title = groupOf(entry.name);
         auto const [place, isNew] = known.insert({title, groups_.size()});
         if (isNew)
@@ -80,6 +82,7 @@ RowArea::RowArea(std::vector<Kolt::ParameterPtr> const& parameters, PoolSource& 
             longestName = entry.name.mid(title.isEmpty() ? 0 : title.size() + 1);
         entries_.push_back(std::move(entry));
     }
+    heights_.resize(sorts.size());
     std::stable_sort(entries_.begin(), entries_.end(),
                      [](auto const& left, auto const& right) { return left.group < right.group; });
     // Most names are narrower than the one with the most letters; a row that needs more widens the column.
@@ -238,11 +241,8 @@ void RowArea::arrange() {
             entry->top = bottom;
             if (!entry->shown)
                 continue;
-            if (!entry->row) {
-                auto const known = heights_.find(entry->sort);
-                if (known != heights_.end())
-                    entry->height = known->second;
-            }
+            if (!entry->row && heights_[entry->sort] > 0)
+                entry->height = heights_[entry->sort];
             bottom += entry->height + rowSpacing;
             isEmpty = false;
         }
@@ -361,7 +361,7 @@ void RowArea::changeEvent(QEvent* event) {
     ContentArea::changeEvent(event);
     if (event->type() != QEvent::StyleChange && event->type() != QEvent::FontChange)
         return;
-    heights_.clear();
+    std::fill(heights_.begin(), heights_.end(), 0);
     measureBoxes();
     measureAll();
 }

@@ -2,12 +2,10 @@
 
 #include <functional>
 #include <lattice/Object.hpp>
-#include <map>
 #include <panel/ContentArea.hpp>
 #include <panel/ParameterRow.hpp>
 #include <QMargins>
 #include <set>
-#include <string>
 #include <vector>
 
 class QGroupBox;
@@ -70,7 +68,7 @@ private:
         QString name;
         Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> parameter;
         // What the row is like: rows of one sort are taken to be equally high.
-        std::string sort;
+        std::size_t sort = 0;
         std::size_t group = 0;
         // In the content; a parameter that is left out has no height.
         int top = 0;
@@ -114,8 +112,8 @@ private:
     std::set<std::size_t> made_;
     QMargins titledBox_;
     QMargins plainBox_;
-    // By sort.
-    std::map<std::string, int> heights_;
+    // By sort; 0 for one of which no row was made.
+    std::vector<int> heights_;
     // Both only ever grow, so that the editors stay in their place when another pool is chosen.
     int nameWidth_ = 0;
     int leastRowWidth_ = 0;

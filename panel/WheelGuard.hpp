@@ -8,20 +8,13 @@ namespace Panel {
 /// Keeps the mouse wheel from an editor that does not have the focus, so that scrolling the panel never changes a
 /// value: the wheel goes on to the panel instead, and does not give the editor the focus. Guards the widgets that the
 /// editor has now and those that it gets later, but for its windows (lists that fold out, dialogs). A child of the
-/// editor.
+/// editor. User-interface thread.
 class WheelGuard : public QObject {
     Q_OBJECT
 
 public:
     explicit WheelGuard(QWidget* editor);
     ~WheelGuard() override;
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
-    void guard(QWidget* widget);
-
-    QWidget* const editor_;
 };
 
 } // namespace Panel

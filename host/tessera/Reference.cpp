@@ -64,11 +64,6 @@ bool ReferenceControl::tryAddStrong() noexcept {
     return true;
 }
 
-void ReferenceControl::addStrong() noexcept {
-    if (strong_.fetch_add(1, std::memory_order_acq_rel) == 0)
-        addWeak();
-}
-
 void ReferenceControl::adopt(std::type_info const& type, void const* address) {
     addStrong();
     // The dynamic type grows while constructors run: another type than at the first adoption means that the first
@@ -82,9 +77,7 @@ void ReferenceControl::adopt(std::type_info const& type, void const* address) {
         SpeakPtr::theSpeaker().WarningUnctionChange(strong_.load(), weakCount(), type);
 }
 
-void ReferenceControl::releaseStrong() noexcept {
-    if (strong_.fetch_sub(1, std::memory_order_acq_rel) > 1)
-        return;
+void ReferenceControl::lastStrongGone() noexcept {
     if (adopted_.load(std::memory_order_acquire) && !dying_.load(std::memory_order_acquire)) {
         if (auto* const object = object_.load(std::memory_order_acquire)) {
             object->referenceHook();

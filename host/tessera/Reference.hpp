@@ -63,8 +63,14 @@ public:
     bool tryAddStrong() noexcept;
     /// Takes a strong count for the object at `address` and makes the strong references its owners.
     void adopt(std::type_info const& type, void const* address);
-    void addStrong() noexcept;
-    void releaseStrong() noexcept;
+    void addStrong() noexcept {
+        if (strong_.fetch_add(1, std::memory_order_acq_rel) == 0)
+            addWeak();
+    }
+    void releaseStrong() noexcept {
+        if (strong_.fetch_sub(1, std::memory_order_acq_rel) == 1)
+            lastStrongGone();
+    }
     void addWeak() noexcept { users_.fetch_add(1, std::memory_order_relaxed); }
     void releaseWeak() noexcept;
 
@@ -72,6 +78,7 @@ private:
     friend class ReferenceCounted;
     explicit ReferenceControl(ReferenceCounted* object) noexcept : object_(object) {}
     ~ReferenceControl() = default;
+    void lastStrongGone() noexcept;
     void objectGone();
     int weakCount() const noexcept;
 
