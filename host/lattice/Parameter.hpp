@@ -123,8 +123,10 @@ template <typename T>
 bool setParameterValue(VParameter const& parameter, T const& newValue, Tessera::StrongPtr<ValuePool> const& pool,
                        std::string const& member, bool create, Tessera::WeakPtr<ValueNotifier> const& source,
                        ValueNotifierList const* alsoNotify) {
-    auto const value = parameter.getLocalValue(pool, member, create);
-    auto* const typed = dynamic_cast<VTypedValueBase<T>*>(value.get());
+    auto const local = parameter.keepsValuesPerPool() ? parameter.getLocalValue(pool, member, create) : nullptr;
+    // The parameter's own object lives as long as the parameter.
+    auto const& value = parameter.keepsValuesPerPool() ? local : parameter.ownValue();
+    auto* const typed = typedValue<T>(value.get());
     if (!typed || !typed->set(newValue))
         return false;
     parameter.notifyValueChange(value, pool, member, source, alsoNotify, nullptr);

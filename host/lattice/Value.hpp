@@ -118,6 +118,15 @@ private:
     T value_;
 };
 
+/// The object as one of values of type T, found by a dynamic type test; null when it is null or of another type.
+template <typename T>
+VTypedValueBase<T>* typedValue(VValueBase* value) {
+    // Almost every value is one of these, and to compare types is much quicker than to search them.
+    if (value && typeid(*value) == typeid(VValue<T>))
+        return static_cast<VValue<T>*>(value);
+    return dynamic_cast<VTypedValueBase<T>*>(value);
+}
+
 /// The T in a value object, found by a dynamic type test; `fallback` when the object is null, of another type or
 /// cannot be read.
 template <typename T>

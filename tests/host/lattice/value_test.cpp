@@ -169,6 +169,16 @@ TEST_F(Values, AreComparedWithPlainOnesAsTheirTraitSays) {
     EXPECT_FALSE(value.holds(0));
 }
 
+TEST_F(Values, AreFoundByTheirTypeWhateverKeepsThem) {
+    StrongPtr<VValueBase> const kept = makeValue(4);
+    EXPECT_EQ(Kolt::typedValue<int>(kept.get()), kept.get());
+    EXPECT_EQ(Kolt::typedValue<double>(kept.get()), nullptr);
+    StrongPtr<VValueBase> const computed(new Computed);
+    EXPECT_EQ(Kolt::typedValue<int>(computed.get()), computed.get());
+    EXPECT_EQ(Kolt::typedValue<bool>(computed.get()), nullptr);
+    EXPECT_EQ(Kolt::typedValue<int>(nullptr), nullptr);
+}
+
 TEST_F(Values, OneThatCannotBeHadHasNoText) {
     Computed value;
     value.available = false;
