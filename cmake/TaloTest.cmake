@@ -20,7 +20,8 @@ endif()
 #   WITHOUT_APPLICATION  main makes no QApplication
 #   ON_DISPLAY           one more CTest test, NAME_on_display, runs it on a display with a window manager
 #   DISPLAY_ONLY         the one CTest test, NAME, runs it on a display with a window manager
-#   LABELS               CTest's labels; `worker` marks a test that uses threads and runs under the thread sanitizer
+#   LABELS               CTest's labels; `worker` marks a test that uses threads and runs under the thread sanitizer;
+#                        those on a display have `display` besides
 #   TIMEOUT              seconds, 120 unless given; a build with a sanitizer allows four times as many
 function(talo_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "PLUGIN;WITHOUT_APPLICATION;ON_DISPLAY;DISPLAY_ONLY" "TIMEOUT" "LINK;LABELS;ENVIRONMENT")
@@ -49,6 +50,7 @@ function(talo_test name)
         add_test(NAME ${name} COMMAND ${name} WORKING_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
         list(APPEND tests ${name})
     endif()
+    set(on_display)
     if(arg_ON_DISPLAY OR arg_DISPLAY_ONLY)
         set(on_display ${name})
         if(arg_ON_DISPLAY)
@@ -59,7 +61,11 @@ function(talo_test name)
         list(APPEND tests ${on_display})
     endif()
     foreach(test IN LISTS tests)
-        talo_test_surroundings(${test} LABELS ${arg_LABELS} ENVIRONMENT ${arg_ENVIRONMENT} TIMEOUT ${arg_TIMEOUT})
+        set(labels ${arg_LABELS})
+        if(test STREQUAL on_display)
+            list(APPEND labels display)
+        endif()
+        talo_test_surroundings(${test} LABELS ${labels} ENVIRONMENT ${arg_ENVIRONMENT} TIMEOUT ${arg_TIMEOUT})
     endforeach()
 endfunction()
 
