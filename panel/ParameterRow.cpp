@@ -21,6 +21,21 @@ constexpr int leastEditorWidth = 30;
 // In pixels, from the name.
 constexpr int markerDistance = 2;
 
+/// The width beyond which the controls of an editor only move apart.
+int usefulWidth(QLayout const& layout) {
+    if (!qobject_cast<QHBoxLayout const*>(&layout))
+        return layout.maximumSize().width();
+    int width = layout.contentsMargins().left() + layout.contentsMargins().right() +
+                qMax(0, layout.count() - 1) * qMax(0, layout.spacing());
+    for (int index = 0; index < layout.count(); ++index) {
+        auto const* const item = layout.itemAt(index);
+        // One that is aligned leaves the rest of its room empty.
+        bool const isAligned = item->alignment() & Qt::AlignHorizontal_Mask;
+        width += isAligned ? item->sizeHint().width() : item->maximumSize().width();
+    }
+    return qMin(width, QLAYOUTSIZE_MAX);
+}
+
 QString lastPart(QString const& name) {
     return name.mid(name.lastIndexOf(QLatin1Char('.')) + 1);
 }
@@ -93,9 +108,14 @@ void ParameterRow::openEditor() {
     if (!editor_.widget)
         editor_.widget = new MissingEditor(*parameter, this);
     new WheelGuard(editor_.widget);
+    int const leastWidth = editor_.widget->minimumSizeHint().width();
+    auto const* const controls = editor_.widget->layout();
+    int const mostWidth = controls ? qMax(leastWidth, usefulWidth(*controls)) : QLAYOUTSIZE_MAX;
     // A handle that cannot be moved and a number that is cut off help nobody.
     editor_.widget->setMinimumWidth(
-        qMax(editor_.widget->minimumSizeHint().width(), leastEditorWidth * fontMetrics().averageCharWidth()));
+        qMin(mostWidth, qMax(leastWidth, leastEditorWidth * fontMetrics().averageCharWidth())));
+    if (mostWidth < QLAYOUTSIZE_MAX)
+        editor_.widget->setMaximumWidth(mostWidth);
     layout_->insertWidget(1, editor_.widget, 1);
     editor_.widget->show();
     bool const centred = editor_.widget->sizeHint().height() <= highestCentredEditor;
@@ -103,8 +123,11 @@ void ParameterRow::openEditor() {
     layout_->setAlignment(names_, Qt::AlignLeft | vertical);
     layout_->setAlignment(rawValue_, Qt::AlignLeft | vertical);
     // One that cannot fill the column stands at its left end.
-    if (layout_->itemAt(1)->maximumSize().width() < QLAYOUTSIZE_MAX)
+    if (layout_->itemAt(1)->maximumSize().width() < QLAYOUTSIZE_MAX) {
         layout_->setAlignment(editor_.widget, Qt::AlignLeft | Qt::AlignVCenter);
+        // The layout has just remembered how wide it is without this.
+        editor_.widget->updateGeometry();
+    }
     nameEditor();
     describeChoice();
 }
