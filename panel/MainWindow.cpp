@@ -238,6 +238,7 @@ void MainWindow::closeViews() {
 
 void MainWindow::closeEditors() {
     objectList_->closeIcons();
+    objectList_->forgetCreators();
     auto const shown = views();
     for (auto* const view : shown)
         view->closeEditors();
