@@ -740,6 +740,22 @@
         <source>no pool</source>
         <translation>kein Pool</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2</source>
+        <translation>%1, Typ %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2, in pool %3</source>
+        <translation>%1, Typ %2, im Pool %3</translation>
+    </message>
+    <message>
+        <source>%1, type %2, no pool</source>
+        <translation>%1, Typ %2, kein Pool</translation>
+    </message>
 </context>
 <context>
     <name>Panel::Picture</name>
