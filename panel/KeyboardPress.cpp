@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 
 namespace Panel {
 
@@ -20,21 +21,18 @@ void click(QPointer<QWidget> const& widget) {
 
 } // namespace
 
-KeyboardPress::KeyboardPress(QWidget* editor) : QObject(editor), editor_(editor), frame_(new QFocusFrame(editor)) {
-    frame_->hide();
+KeyboardPress::KeyboardPress(QWidget* editor) : QObject(editor), editor_(editor), outline_(new FocusOutline(editor)) {
     editor->setFocusPolicy(Qt::StrongFocus);
     editor->installEventFilter(this);
 }
 
-KeyboardPress::~KeyboardPress() {
-    delete frame_;
-}
+KeyboardPress::~KeyboardPress() = default;
 
 bool KeyboardPress::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn)
-        frame_->setWidget(editor_);
+        outline_->show();
     else if (event->type() == QEvent::FocusOut)
-        frame_->setWidget(nullptr);
+        outline_->hide();
     if (event->type() != QEvent::KeyPress)
         return QObject::eventFilter(watched, event);
     auto const* const key = static_cast<QKeyEvent*>(event);

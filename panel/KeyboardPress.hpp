@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QFocusFrame>
+#include <panel/FocusOutline.hpp>
 #include <QObject>
-#include <QPointer>
 #include <QWidget>
 
 namespace Panel {
@@ -20,8 +19,7 @@ public:
 
 private:
     QWidget* const editor_;
-    // It becomes a child of the widget around the editor.
-    QPointer<QFocusFrame> frame_;
+    FocusOutline* const outline_;
 };
 
 } // namespace Panel

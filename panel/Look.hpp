@@ -32,4 +32,10 @@ void showMuted(QWidget& widget);
 /// and a title in Latin letters would stand at the far side of its column in a panel from right to left.
 void alignWithLayout(QLabel& label);
 
+/// The side of a window that lines end at: the right one, or the left one in a panel from right to left, as the sides
+/// of docks are not mirrored.
+inline Qt::DockWidgetArea trailingDockArea(Qt::LayoutDirection direction) {
+    return direction == Qt::RightToLeft ? Qt::LeftDockWidgetArea : Qt::RightDockWidgetArea;
+}
+
 } // namespace Panel

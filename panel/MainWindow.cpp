@@ -1,4 +1,5 @@
 #include <lattice/UndoHistory.hpp>
+#include <panel/Look.hpp>
 #include <panel/MainWindow.hpp>
 #include <panel/objects/ObjectFactory.hpp>
 #include <QAction>
@@ -210,7 +211,7 @@ ObjectView* MainWindow::addView() {
     auto* const view = makeView(object, dock);
     dock->setWidget(view);
     int const half = viewStack_->width() / 2;
-    addDockWidget(Qt::RightDockWidgetArea, dock);
+    addDockWidget(trailingDockArea(layoutDirection()), dock);
     resizeDocks({dock}, {half}, Qt::Horizontal);
     return view;
 }
@@ -238,6 +239,7 @@ void MainWindow::closeViews() {
 
 void MainWindow::closeEditors() {
     objectList_->closeIcons();
+    objectList_->forgetCreators();
     auto const shown = views();
     for (auto* const view : shown)
         view->closeEditors();

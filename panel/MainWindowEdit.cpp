@@ -1,4 +1,5 @@
 #include <lattice/UndoHistory.hpp>
+#include <panel/Look.hpp>
 #include <panel/MainWindow.hpp>
 #include <panel/StepText.hpp>
 #include <QApplication>
@@ -53,7 +54,7 @@ void MainWindow::makeHistoryDock() {
     auto* const dock = new QDockWidget(tr("History"));
     dock->setObjectName(QStringLiteral("historyDock"));
     dock->setWidget(historyList_);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
+    addDockWidget(trailingDockArea(layoutDirection()), dock);
     // Whoever wants it finds it in the view menu.
     dock->hide();
     dock->toggleViewAction()->setObjectName(QStringLiteral("showHistory"));

@@ -32,7 +32,9 @@ void MainWindow::makeFilterField(QToolBar& toolBar) {
     filterField_->setAccessibleName(tr("Filter"));
     filterField_->setToolTip(tr("Shows the parameters whose name, object or value has all of these words"));
     filterField_->setClearButtonEnabled(true);
-    filterField_->setMaximumWidth(34 * filterField_->fontMetrics().averageCharWidth());
+    // Wide enough for the text that says what it is for, beside the button.
+    auto const metrics = filterField_->fontMetrics();
+    filterField_->setMaximumWidth(metrics.horizontalAdvance(filterField_->placeholderText()) + 3 * metrics.height());
     toolBar.addWidget(filterField_);
     connect(filterField_, &QLineEdit::textChanged, this, &MainWindow::applyFilter);
 

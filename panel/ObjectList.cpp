@@ -96,7 +96,6 @@ void ObjectList::makeIcon(QTreeWidgetItem* item) {
 
 void ObjectList::closeIcons() {
     iconsOpen_ = false;
-    iconMaker_.forgetCreators();
     for (int index = 0; index < topLevelItemCount(); ++index) {
         // The view deletes the widget as soon as Qt is done with it.
         if (auto* const place = itemWidget(topLevelItem(index), 0)) {

@@ -28,8 +28,10 @@ public:
     void setFilter(std::function<bool(Kolt::VObject const&)> const& filter);
 
     void openIcons();
-    /// Hides and deletes the icons, as before plug-ins are loaded or unloaded.
+    /// Hides and deletes the icons.
     void closeIcons();
+    /// Forgets which creators make no icons, as before plug-ins are loaded or unloaded.
+    void forgetCreators() { iconMaker_.forgetCreators(); }
 
 signals:
     /// Another object was chosen, by whomever.

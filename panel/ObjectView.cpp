@@ -38,7 +38,7 @@ ObjectView::ObjectView(Kolt::ObjectPtr const& object, QString const& kind, PoolS
     : QWidget(parent),
       object_(object),
       pools_(pools),
-      rows_(new RowArea(object->parameters(), pools)),
+      rows_(new RowArea(QString::fromStdString(object->Name()), object->parameters(), pools)),
       emptyNote_(new QLabel(tr("No parameter of this object is found by the filter."))) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -15,7 +15,7 @@ ParameterCommands::ParameterCommands(GestureWatcher& gestures, QObject* parent)
       gestures_(gestures),
       // Text fields keep the keys that they know themselves.
       resetAction_(
-          makeAction("resetValue", tr("&Reset to default"), QKeySequence(tr("Ctrl+D")), &ParameterCommands::reset)),
+          makeAction("resetValue", tr("Reset to &default"), QKeySequence(tr("Ctrl+D")), &ParameterCommands::reset)),
       copyAction_(
           makeAction("copyValue", tr("&Copy value"), QKeySequence(tr("Ctrl+Shift+C")), &ParameterCommands::copy)),
       pasteAction_(

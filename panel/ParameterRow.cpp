@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <lattice/UndoHistory.hpp>
 #include <panel/KeyboardPress.hpp>
 #include <panel/Look.hpp>
@@ -6,6 +7,7 @@
 #include <panel/ParameterRow.hpp>
 #include <panel/StepText.hpp>
 #include <panel/WheelGuard.hpp>
+#include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QLayoutItem>
@@ -24,14 +26,43 @@ constexpr int leastEditorWidth = 30;
 // In pixels, from the name.
 constexpr int markerDistance = 2;
 
+/// The width beyond which the controls of an editor only move apart.
+int usefulWidth(QLayout const& layout) {
+    if (!qobject_cast<QHBoxLayout const*>(&layout))
+        return layout.maximumSize().width();
+    int width = layout.contentsMargins().left() + layout.contentsMargins().right() +
+                qMax(0, layout.count() - 1) * qMax(0, layout.spacing());
+    for (int index = 0; index < layout.count(); ++index) {
+        auto const* const item = layout.itemAt(index);
+        // One that is aligned leaves the rest of its room empty.
+        bool const isAligned = item->alignment() & Qt::AlignHorizontal_Mask;
+        width += isAligned ? item->sizeHint().width() : item->maximumSize().width();
+    }
+    return qMin(width, QLAYOUTSIZE_MAX);
+}
+
+/// What a control says of itself; empty where it says nothing.
+QString captionOf(QWidget const& control) {
+    auto const* const button = qobject_cast<QAbstractButton const*>(&control);
+    if (!button)
+        return {};
+    // One ampersand marks the key, two are one.
+    auto caption = button->text();
+    for (int place = 0; (place = caption.indexOf(QLatin1Char('&'), place)) >= 0; ++place)
+        caption.remove(place, 1);
+    return caption;
+}
+
 QString lastPart(QString const& name) {
     return name.mid(name.lastIndexOf(QLatin1Char('.')) + 1);
 }
 
 } // namespace
 
-ParameterRow::ParameterRow(Kolt::ParameterPtr const& parameter, PoolSource& pools, QWidget* parent)
+ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, PoolSource& pools,
+                           QWidget* parent)
     : QWidget(parent),
+      objectName_(objectName),
       parameterName_(QString::fromStdString(parameter->Name())),
       parameter_(parameter),
       pools_(pools),
@@ -86,9 +117,14 @@ void ParameterRow::openEditor() {
     if (!editor_.widget)
         editor_.widget = new MissingEditor(*parameter, this);
     new WheelGuard(editor_.widget);
+    int const leastWidth = editor_.widget->minimumSizeHint().width();
+    auto const* const controls = editor_.widget->layout();
+    int const mostWidth = controls ? qMax(leastWidth, usefulWidth(*controls)) : QLAYOUTSIZE_MAX;
     // A handle that cannot be moved and a number that is cut off help nobody.
     editor_.widget->setMinimumWidth(
-        qMax(editor_.widget->minimumSizeHint().width(), leastEditorWidth * fontMetrics().averageCharWidth()));
+        qMin(mostWidth, qMax(leastWidth, leastEditorWidth * fontMetrics().averageCharWidth())));
+    if (mostWidth < QLAYOUTSIZE_MAX)
+        editor_.widget->setMaximumWidth(mostWidth);
     layout_->insertWidget(1, editor_.widget, 1);
     editor_.widget->show();
     bool const centred = editor_.widget->sizeHint().height() <= highestCentredEditor;
@@ -97,8 +133,11 @@ void ParameterRow::openEditor() {
     if (rawValue_)
         layout_->setAlignment(rawValue_, Qt::AlignLeft | vertical_);
     // One that cannot fill the column stands at its left end.
-    if (layout_->itemAt(1)->maximumSize().width() < QLAYOUTSIZE_MAX)
+    if (layout_->itemAt(1)->maximumSize().width() < QLAYOUTSIZE_MAX) {
         layout_->setAlignment(editor_.widget, Qt::AlignLeft | Qt::AlignVCenter);
+        // The layout has just remembered how wide it is without this.
+        editor_.widget->updateGeometry();
+    }
     nameEditor();
 }
 
@@ -117,6 +156,7 @@ void ParameterRow::showPool() {
         rawValue_->refresh();
     showDefault();
     showNote();
+    describeEditor();
 }
 
 void ParameterRow::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
@@ -187,27 +227,56 @@ bool ParameterRow::event(QEvent* event) {
     return true;
 }
 
+std::vector<QWidget*> ParameterRow::controls() const {
+    std::vector<QWidget*> controls;
+    auto const all = editor_.widget->findChildren<QWidget*>();
+    // What is in a dialog of the editor names itself.
+    std::copy_if(all.begin(), all.end(), std::back_inserter(controls), [this](QWidget const* each) {
+        return each->window() == editor_.widget->window() && each->focusPolicy() != Qt::NoFocus;
+    });
+    return controls;
+}
+
 void ParameterRow::nameEditor() {
     nameLabel_->setBuddy(editor_.widget);
     auto const name = lastPart(parameterName_);
-    QWidget* firstControl = nullptr;
-    auto const controls = editor_.widget->findChildren<QWidget*>();
-    for (auto* const control : controls) {
-        // What is in a dialog of the editor names itself.
-        if (control->window() != editor_.widget->window() || control->focusPolicy() == Qt::NoFocus)
-            continue;
-        if (!firstControl)
-            firstControl = control;
+    auto named = controls();
+    auto* const firstControl = named.empty() ? nullptr : named.front();
+    named.push_back(editor_.widget);
+    for (auto* const control : named) {
+        auto const caption = captionOf(*control);
         if (control->accessibleName().isEmpty())
-            control->setAccessibleName(name);
+            control->setAccessibleName(caption.isEmpty() || caption == name ? name : tr("%1: %2").arg(name, caption));
     }
-    if (editor_.widget->accessibleName().isEmpty())
-        editor_.widget->setAccessibleName(name);
     // Whoever gives the focus to the editor means its first control.
     if (firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && !editor_.widget->focusProxy())
         editor_.widget->setFocusProxy(firstControl);
     if (!firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && recorder_)
         new KeyboardPress(editor_.widget);
+    describeEditor();
+}
+
+void ParameterRow::describeEditor() {
+    auto const parameter = parameter_.strong();
+    if (!editor_.widget || !parameter)
+        return;
+    auto const& typeName = parameter->declaredType();
+    auto const* const format = ValueFormat::ofType(typeName);
+    auto const name = objectName_ + QLatin1Char('.') + parameterName_;
+    auto const type = format ? QString::fromLatin1(format->key) : QString::fromStdString(typeName);
+    auto const pool = pools_.pool();
+    auto const description = !parameter->keepsValuesPerPool() ? tr("%1, type %2").arg(name, type)
+                             : pool
+                                 ? tr("%1, type %2, in pool %3").arg(name, type, QString::fromStdString(pool->Name()))
+                                 : tr("%1, type %2, no pool").arg(name, type);
+    auto described = controls();
+    described.push_back(editor_.widget);
+    for (auto* const control : described) {
+        // A description stands in for the tool tip.
+        auto const& explanation = control->toolTip();
+        control->setAccessibleDescription(explanation.isEmpty() ? description
+                                                                : description + QLatin1Char('\n') + explanation);
+    }
 }
 
 QString ParameterRow::description() const {

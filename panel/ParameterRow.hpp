@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <sorrel/InputFrontEnd.hpp>
+#include <vector>
 
 class QHBoxLayout;
 
@@ -18,6 +19,9 @@ namespace Panel {
 /// says which pool is edited; where somebody deleted the parameter, it says so. A dot beside the name tells that the
 /// value is not the default one and resets it.
 ///
+/// For those who do not see it, each control of the editor is named after the parameter, with its own caption behind
+/// it, and its description says the object, the type and the pool.
+///
 /// As long as a value that people edit has an editor here, its edits are steps of the host's history (EditRecorder).
 ///
 /// The row refers to the parameter weakly and stays usable without it. User-interface thread.
@@ -25,8 +29,10 @@ class ParameterRow : public QWidget, private Kolt::ValueNotifier {
     Q_OBJECT
 
 public:
-    /// Has no editor before `openEditor`. `pools` must outlive the row.
-    ParameterRow(Kolt::ParameterPtr const& parameter, PoolSource& pools, QWidget* parent = nullptr);
+    /// `objectName` is the name of the object that the parameter belongs to. Has no editor before `openEditor`. `pools`
+    /// must outlive the row.
+    ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, PoolSource& pools,
+                 QWidget* parent = nullptr);
     ~ParameterRow() override;
 
     /// The row that a widget is or lies in, its popups and dialogs included; null for none, and for null.
@@ -77,8 +83,12 @@ private:
     void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
     void nameEditor();
+    void describeEditor();
+    /// The editor and what is in it, as far as it takes the focus.
+    std::vector<QWidget*> controls() const;
     void showNote();
 
+    QString const objectName_;
     QString const parameterName_;
     Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const parameter_;
     PoolSource& pools_;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -62,8 +63,9 @@ bool isInUse(QWidget const& row) {
 
 } // namespace
 
-RowArea::RowArea(std::vector<Kolt::ParameterPtr> const& parameters, PoolSource& pools, QWidget* parent)
-    : ContentArea(parent), pools_(pools), content_(new QWidget) {
+RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> const& parameters, PoolSource& pools,
+                 QWidget* parent)
+    : ContentArea(parent), objectName_(objectName), pools_(pools), content_(new QWidget) {
     std::map<QString, std::size_t> known;
     std::map<std::string, std::size_t> sorts;
     QString longestName;
@@ -89,6 +91,7 @@ RowArea::RowArea(std::vector<Kolt::ParameterPtr> const& parameters, PoolSource& 
     nameWidth_ = fontMetrics().horizontalAdvance(longestName);
     measureBoxes();
     setWidget(content_);
+    setAccessibleName(objectName);
     arrange();
 }
 
@@ -194,7 +197,7 @@ void RowArea::make(Entry& entry) {
         group.box->installEventFilter(this);
         group.box->show();
     }
-    entry.row = new ParameterRow(parameter, pools_, group.box);
+    entry.row = new ParameterRow(objectName_, parameter, pools_, group.box);
     made_.insert(static_cast<std::size_t>(&entry - entries_.data()));
     entry.row->setRawValueShown(rawValuesShown_);
     if (editorsOpen_)
@@ -428,6 +431,13 @@ bool RowArea::focusNextPrevChild(bool next) {
     if (focusFrom(current - entries_.data() + (next ? 1 : -1), next))
         return true;
     return focusOutside(focus, next);
+}
+
+void RowArea::keyPressEvent(QKeyEvent* event) {
+    bool const next = event->key() == Qt::Key_Tab;
+    bool const isTab = next || event->key() == Qt::Key_Backtab;
+    if (!isTab || !event->modifiers().testFlag(Qt::ControlModifier) || !focusNextPrevChild(next))
+        ContentArea::keyPressEvent(event);
 }
 
 } // namespace Panel

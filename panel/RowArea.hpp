@@ -18,15 +18,18 @@ namespace Panel {
 /// shows a parameter of the same type and preferences; what the user sees stays in its place when the estimate was
 /// wrong.
 ///
-/// Tab and Shift+Tab go through the controls of all rows in their order, made or not, and on to what follows.
+/// Tab and Shift+Tab go through the controls of all rows in their order, made or not, and on to what follows. So do
+/// they with Ctrl, as a text of several lines keeps Tab for itself.
 ///
 /// The parameters are referred to weakly; one that goes before its row was made has none. User-interface thread.
 class RowArea : public ContentArea {
     Q_OBJECT
 
 public:
-    /// `pools` must outlive the area. Editors are open.
-    RowArea(std::vector<Kolt::ParameterPtr> const& parameters, PoolSource& pools, QWidget* parent = nullptr);
+    /// `objectName` is the name of the object that the parameters belong to. `pools` must outlive the area. Editors are
+    /// open.
+    RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> const& parameters, PoolSource& pools,
+            QWidget* parent = nullptr);
     ~RowArea() override;
 
     /// The rows that stand, in their order.
@@ -62,6 +65,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     bool focusNextPrevChild(bool next) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     struct Entry {
@@ -103,6 +107,7 @@ private:
     bool focusControl(Entry const& entry, bool first);
     bool focusOutside(QWidget const* from, bool next);
 
+    QString const objectName_;
     PoolSource& pools_;
     QWidget* const content_;
     std::vector<Group> groups_;

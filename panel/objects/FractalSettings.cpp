@@ -21,7 +21,7 @@ void limitChannels(Ferro::rgba_float_t& colour) {
 
 void FractalSettings::limit() {
     FractalSettings const usual;
-    iterations = std::clamp(iterations, 1, 20'000);
+    iterations = std::clamp(iterations, 1, 20000);
     quality = std::clamp(quality, 1, 16);
     symmetry = (symmetry % 360 + 360) % 360;
     zoom = limited(zoom, -8, 44, usual.zoom);

@@ -13,9 +13,9 @@ PictureJob::PictureJob(ComputingNetwork const& network, PoolPtr const& pool, QSt
     : pool_(pool),
       file_(std::move(file)),
       format_(format),
-      title_(isToBeWritten()
-                 ? file_
-                 : tr("the picture of %1").arg(pool ? QString::fromStdString(pool->Name()) : tr("no pool"))) {
+      title_(isToBeWritten() ? file_
+             : pool          ? tr("the picture of %1").arg(QString::fromStdString(pool->Name()))
+                             : tr("the picture")) {
     order_.settings = network.settings(pool);
     order_.size = {order_.settings.width, order_.settings.height()};
     // On a page the texts stand around the picture.

@@ -1,4 +1,5 @@
 #include <bramble/Values.hpp>
+#include <panel/Look.hpp>
 #include <panel/objects/ComputingBar.hpp>
 #include <panel/objects/Studio.hpp>
 #include <QAction>
@@ -23,7 +24,7 @@ Studio::Studio(QMainWindow& window)
     dock_->setObjectName(QStringLiteral("preview"));
     dock_->setWidget(preview_);
     dock_->hide();
-    window.addDockWidget(Qt::RightDockWidgetArea, dock_);
+    window.addDockWidget(trailingDockArea(window.layoutDirection()), dock_);
     window.resizeDocks({dock_}, {previewWidth}, Qt::Horizontal);
     window.statusBar()->addPermanentWidget(bar_);
 

@@ -165,6 +165,36 @@
     </message>
 </context>
 <context>
+    <name>Panel::ComputingBar</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Abb&amp;rechen</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Berechnet</translation>
+    </message>
+    <message>
+        <source>Ends the computing (Esc)</source>
+        <translation>Beendet die Berechnung (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::DefaultMarker</name>
+    <message>
+        <source>Reset %1 to its default</source>
+        <translation>%1 auf den Standardwert zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Standardwert: %1</translation>
+    </message>
+    <message>
+        <source>Click to reset the value.</source>
+        <translation>Ein Klick setzt den Wert zurück.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::Gallery</name>
     <message>
         <source>Gallery – Talo panel</source>
@@ -273,6 +303,72 @@
     </message>
 </context>
 <context>
+    <name>Panel::GimpPalette</name>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>erwartet: %1, gefunden: %2</translation>
+    </message>
+    <message>
+        <source>an empty line</source>
+        <translation>eine leere Zeile</translation>
+    </message>
+    <message>
+        <source>the first line &quot;GIMP Palette&quot;</source>
+        <translation>die erste Zeile „GIMP Palette“</translation>
+    </message>
+    <message>
+        <source>red, green and blue from 0 to 255</source>
+        <translation>Rot, Grün und Blau von 0 bis 255</translation>
+    </message>
+    <message>
+        <source>at most %1 colours</source>
+        <translation>höchstens %1 Farben</translation>
+    </message>
+    <message>
+        <source>at least one colour</source>
+        <translation>mindestens eine Farbe</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>expected a file, found something else</source>
+        <translation>erwartet: eine Datei, gefunden: etwas anderes</translation>
+    </message>
+    <message>
+        <source>expected a palette of at most one megabyte, found a longer file</source>
+        <translation>erwartet: eine Palette von höchstens einem Megabyte, gefunden: eine längere Datei</translation>
+    </message>
+    <message>
+        <source>expected a file that can be read, found: %1</source>
+        <translation>erwartet: eine lesbare Datei, gefunden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::HistoryList</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>The steps that can be taken back. Return goes to the state after the chosen step.</source>
+        <translation>Die Schritte, die sich zurücknehmen lassen. Die Eingabetaste geht zum Stand nach dem gewählten Schritt.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Before all steps</source>
+        <translation>Vor allen Schritten</translation>
+    </message>
+    <message>
+        <source>%1, taken back</source>
+        <translation>%1, zurückgenommen</translation>
+    </message>
+</context>
+<context>
     <name>Panel::MainWindow</name>
     <message>
         <source>Messages</source>
@@ -303,10 +399,6 @@
         <translation>(kein Pool)</translation>
     </message>
     <message>
-        <source>%1 – Talo panel</source>
-        <translation>%1 – Talo-Bedienfeld</translation>
-    </message>
-    <message>
         <source>Saved the values to %1.</source>
         <translation>Die Werte wurden in %1 gespeichert.</translation>
     </message>
@@ -325,10 +417,6 @@
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>&amp;Undo: %1</source>
-        <translation>&amp;Rückgängig: %1</translation>
     </message>
     <message>
         <source>Networks (*.json);;All files (*)</source>
@@ -462,6 +550,58 @@
         <source>Plug-ins: %1, kinds of editors: %2</source>
         <translation>Plug-ins: %1, Arten von Editoren: %2</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Can no longer be made again: %1</source>
+        <translation>Lässt sich nicht mehr wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>%1[*] – Talo panel</source>
+        <translation>%1[*] – Talo-Bedienfeld</translation>
+    </message>
+    <message>
+        <source>Unsaved values</source>
+        <translation>Nicht gespeicherte Werte</translation>
+    </message>
+    <message>
+        <source>The values of “%1” were changed.</source>
+        <translation>Die Werte von „%1“ wurden geändert.</translation>
+    </message>
+    <message>
+        <source>Unless they are saved, the changes are lost.</source>
+        <translation>Werden sie nicht gespeichert, gehen die Änderungen verloren.</translation>
+    </message>
+    <message>
+        <source>Pool and filter</source>
+        <translation>Pool und Filter</translation>
+    </message>
+    <message>
+        <source>Filter by name, object or value</source>
+        <translation>Nach Name, Objekt oder Wert filtern</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Shows the parameters whose name, object or value has all of these words</source>
+        <translation>Zeigt die Parameter, in deren Name, Objekt oder Wert alle diese Wörter stehen</translation>
+    </message>
+    <message>
+        <source>&amp;Find a parameter</source>
+        <translation>&amp;Parameter suchen</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageList</name>
@@ -525,6 +665,56 @@
     </message>
 </context>
 <context>
+    <name>Panel::ObjectView</name>
+    <message>
+        <source>No parameter of this object is found by the filter.</source>
+        <translation>Der Filter findet keinen Parameter dieses Objekts.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ParameterCommands</name>
+    <message>
+        <source>Reset to &amp;default</source>
+        <translation>Auf &amp;Standardwert zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>&amp;Copy value</source>
+        <translation>Wert &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste value</source>
+        <translation>Wert &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>%1 has no default to go back to.</source>
+        <translation>%1 hat keinen Standardwert, auf den sich zurücksetzen ließe.</translation>
+    </message>
+    <message>
+        <source>%1 was removed.</source>
+        <translation>%1 wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>The clipboard is empty.</source>
+        <translation>Die Zwischenablage ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 does not take a value in this pool.</source>
+        <translation>%1 nimmt in diesem Pool keinen Wert an.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::ParameterRow</name>
     <message>
         <source>Type: %1</source>
@@ -549,6 +739,63 @@
     <message>
         <source>no pool</source>
         <translation>kein Pool</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2</source>
+        <translation>%1, Typ %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2, in pool %3</source>
+        <translation>%1, Typ %2, im Pool %3</translation>
+    </message>
+    <message>
+        <source>%1, type %2, no pool</source>
+        <translation>%1, Typ %2, kein Pool</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Picture</name>
+    <message>
+        <source>the page cannot be drawn</source>
+        <translation>die Seite lässt sich nicht zeichnen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PictureJob</name>
+    <message>
+        <source>the picture of %1</source>
+        <translation>das Bild von %1</translation>
+    </message>
+    <message>
+        <source>the picture</source>
+        <translation>das Bild</translation>
+    </message>
+    <message>
+        <source>Computing %1: %2 %.</source>
+        <translation>Wird berechnet: %1, %2 %.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for %1.</source>
+        <translation>Für %1 reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 points, %3 steps at most, %4 × %4 samples: %5 s. %6 % of the points stay.</source>
+        <translation>%1 × %2 Punkte, höchstens %3 Schritte, %4 × %4 Proben: %5 s. %6 % der Punkte bleiben.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Preview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
     </message>
 </context>
 <context>
@@ -579,6 +826,85 @@
     <message>
         <source>The session cannot be kept in %1.</source>
         <translation>Die Sitzung lässt sich nicht in %1 behalten.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Studio</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Nothing in this network computes a picture.</source>
+        <translation>Nichts in diesem Netz berechnet ein Bild.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Workshop</name>
+    <message>
+        <source>%1: there is no formula in the network, and so no picture to be written</source>
+        <translation>%1: das Netz hat keine Formel, also gibt es kein Bild zu schreiben</translation>
+    </message>
+    <message>
+        <source>Nothing is being computed.</source>
+        <translation>Es wird nichts berechnet.</translation>
+    </message>
+    <message>
+        <source>Computing %1</source>
+        <translation>Wird berechnet: %1</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1.</source>
+        <translation>Abgebrochen: %1.</translation>
+    </message>
+    <message>
+        <source>Wrote %1.</source>
+        <translation>Geschrieben: %1.</translation>
+    </message>
+    <message>
+        <source>Computed %1.</source>
+        <translation>Berechnet: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>StepText</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3</source>
+        <translation>%1: %2 → %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3 (%4)</source>
+        <translation>%1: %2 → %3 (%4)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more</source>
+        <translation>
+            <numerusform>%1 und eine weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ValueClipboard</name>
+    <message>
+        <source>it has other flags</source>
+        <translation>er hat andere Schalter</translation>
+    </message>
+    <message>
+        <source>The copied value does not fit %1: %2.</source>
+        <translation>Der kopierte Wert passt nicht zu %1: %2.</translation>
+    </message>
+    <message>
+        <source>There is no value to paste into %1.</source>
+        <translation>Es gibt keinen Wert, der sich in %1 einfügen ließe.</translation>
+    </message>
+    <message>
+        <source>%1 is no value of %2, which is of type %3.</source>
+        <translation>%1 ist kein Wert für %2 vom Typ %3.</translation>
     </message>
 </context>
 <context>

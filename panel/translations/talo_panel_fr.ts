@@ -165,6 +165,36 @@
     </message>
 </context>
 <context>
+    <name>Panel::ComputingBar</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calculé</translation>
+    </message>
+    <message>
+        <source>Ends the computing (Esc)</source>
+        <translation>Arrête le calcul (Échap)</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::DefaultMarker</name>
+    <message>
+        <source>Reset %1 to its default</source>
+        <translation>Remettre %1 à sa valeur par défaut</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Valeur par défaut : %1</translation>
+    </message>
+    <message>
+        <source>Click to reset the value.</source>
+        <translation>Un clic rétablit cette valeur.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::Gallery</name>
     <message>
         <source>Gallery – Talo panel</source>
@@ -273,6 +303,72 @@
     </message>
 </context>
 <context>
+    <name>Panel::GimpPalette</name>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>attendu : %1, trouvé : %2</translation>
+    </message>
+    <message>
+        <source>an empty line</source>
+        <translation>une ligne vide</translation>
+    </message>
+    <message>
+        <source>the first line &quot;GIMP Palette&quot;</source>
+        <translation>la première ligne « GIMP Palette »</translation>
+    </message>
+    <message>
+        <source>red, green and blue from 0 to 255</source>
+        <translation>rouge, vert et bleu de 0 à 255</translation>
+    </message>
+    <message>
+        <source>at most %1 colours</source>
+        <translation>au plus %1 couleurs</translation>
+    </message>
+    <message>
+        <source>at least one colour</source>
+        <translation>au moins une couleur</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>expected a file, found something else</source>
+        <translation>attendu : un fichier, trouvé : autre chose</translation>
+    </message>
+    <message>
+        <source>expected a palette of at most one megabyte, found a longer file</source>
+        <translation>attendu : une palette d’au plus un mégaoctet, trouvé : un fichier plus long</translation>
+    </message>
+    <message>
+        <source>expected a file that can be read, found: %1</source>
+        <translation>attendu : un fichier lisible, trouvé : %1</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::HistoryList</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>The steps that can be taken back. Return goes to the state after the chosen step.</source>
+        <translation>Les étapes qui peuvent être annulées. Entrée va à l’état qui suit l’étape choisie.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Before all steps</source>
+        <translation>Avant toutes les étapes</translation>
+    </message>
+    <message>
+        <source>%1, taken back</source>
+        <translation>%1, annulé</translation>
+    </message>
+</context>
+<context>
     <name>Panel::MainWindow</name>
     <message>
         <source>Messages</source>
@@ -303,10 +399,6 @@
         <translation>(aucun pool)</translation>
     </message>
     <message>
-        <source>%1 – Talo panel</source>
-        <translation>%1 – Panneau Talo</translation>
-    </message>
-    <message>
         <source>Saved the values to %1.</source>
         <translation>Les valeurs ont été enregistrées dans %1.</translation>
     </message>
@@ -325,10 +417,6 @@
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>&amp;Undo: %1</source>
-        <translation>&amp;Annuler : %1</translation>
     </message>
     <message>
         <source>Networks (*.json);;All files (*)</source>
@@ -462,6 +550,58 @@
         <source>Plug-ins: %1, kinds of editors: %2</source>
         <translation>Greffons : %1, sortes d’éditeurs : %2</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Can no longer be made again: %1</source>
+        <translation>Ne peut plus être rétabli : %1</translation>
+    </message>
+    <message>
+        <source>%1[*] – Talo panel</source>
+        <translation>%1[*] – Panneau Talo</translation>
+    </message>
+    <message>
+        <source>Unsaved values</source>
+        <translation>Valeurs non enregistrées</translation>
+    </message>
+    <message>
+        <source>The values of “%1” were changed.</source>
+        <translation>Les valeurs de « %1 » ont été modifiées.</translation>
+    </message>
+    <message>
+        <source>Unless they are saved, the changes are lost.</source>
+        <translation>Si elles ne sont pas enregistrées, les modifications seront perdues.</translation>
+    </message>
+    <message>
+        <source>Pool and filter</source>
+        <translation>Pool et filtre</translation>
+    </message>
+    <message>
+        <source>Filter by name, object or value</source>
+        <translation>Filtrer par nom, objet ou valeur</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Shows the parameters whose name, object or value has all of these words</source>
+        <translation>Montre les paramètres dont le nom, l’objet ou la valeur contient tous ces mots</translation>
+    </message>
+    <message>
+        <source>&amp;Find a parameter</source>
+        <translation>Chercher un &amp;paramètre</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageList</name>
@@ -525,6 +665,56 @@
     </message>
 </context>
 <context>
+    <name>Panel::ObjectView</name>
+    <message>
+        <source>No parameter of this object is found by the filter.</source>
+        <translation>Le filtre ne trouve aucun paramètre de cet objet.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ParameterCommands</name>
+    <message>
+        <source>Reset to &amp;default</source>
+        <translation>Remettre la valeur par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>&amp;Copy value</source>
+        <translation>&amp;Copier la valeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste value</source>
+        <translation>C&amp;oller la valeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>%1 has no default to go back to.</source>
+        <translation>%1 n’a pas de valeur par défaut à rétablir.</translation>
+    </message>
+    <message>
+        <source>%1 was removed.</source>
+        <translation>%1 a été supprimé.</translation>
+    </message>
+    <message>
+        <source>The clipboard is empty.</source>
+        <translation>Le presse-papiers est vide.</translation>
+    </message>
+    <message>
+        <source>%1 does not take a value in this pool.</source>
+        <translation>%1 n’accepte pas de valeur dans ce pool.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::ParameterRow</name>
     <message>
         <source>Type: %1</source>
@@ -549,6 +739,63 @@
     <message>
         <source>no pool</source>
         <translation>aucun pool</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2</source>
+        <translation>%1, type %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2, in pool %3</source>
+        <translation>%1, type %2, dans le pool %3</translation>
+    </message>
+    <message>
+        <source>%1, type %2, no pool</source>
+        <translation>%1, type %2, aucun pool</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Picture</name>
+    <message>
+        <source>the page cannot be drawn</source>
+        <translation>la page ne peut pas être dessinée</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PictureJob</name>
+    <message>
+        <source>the picture of %1</source>
+        <translation>l’image de %1</translation>
+    </message>
+    <message>
+        <source>the picture</source>
+        <translation>l’image</translation>
+    </message>
+    <message>
+        <source>Computing %1: %2 %.</source>
+        <translation>Calcul de %1 : %2 %.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for %1.</source>
+        <translation>La mémoire ne suffit pas pour %1.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 points, %3 steps at most, %4 × %4 samples: %5 s. %6 % of the points stay.</source>
+        <translation>%1 × %2 points, au plus %3 pas, %4 × %4 échantillons : %5 s. %6 % des points restent.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Preview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
     </message>
 </context>
 <context>
@@ -579,6 +826,85 @@
     <message>
         <source>The session cannot be kept in %1.</source>
         <translation>La session ne peut pas être gardée dans %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Studio</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Nothing in this network computes a picture.</source>
+        <translation>Rien dans ce réseau ne calcule d’image.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Workshop</name>
+    <message>
+        <source>%1: there is no formula in the network, and so no picture to be written</source>
+        <translation>%1 : le réseau n’a pas de formule, il n’y a donc pas d’image à écrire</translation>
+    </message>
+    <message>
+        <source>Nothing is being computed.</source>
+        <translation>Aucun calcul en cours.</translation>
+    </message>
+    <message>
+        <source>Computing %1</source>
+        <translation>Calcul de %1</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1.</source>
+        <translation>Annulé : %1.</translation>
+    </message>
+    <message>
+        <source>Wrote %1.</source>
+        <translation>Écrit : %1.</translation>
+    </message>
+    <message>
+        <source>Computed %1.</source>
+        <translation>Calculé : %1.</translation>
+    </message>
+</context>
+<context>
+    <name>StepText</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(vide)</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3</source>
+        <translation>%1 : %2 → %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3 (%4)</source>
+        <translation>%1 : %2 → %3 (%4)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more</source>
+        <translation>
+            <numerusform>%1, et %n autre</numerusform>
+            <numerusform>%1, et %n autres</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ValueClipboard</name>
+    <message>
+        <source>it has other flags</source>
+        <translation>elle a d’autres indicateurs</translation>
+    </message>
+    <message>
+        <source>The copied value does not fit %1: %2.</source>
+        <translation>La valeur copiée ne convient pas à %1 : %2.</translation>
+    </message>
+    <message>
+        <source>There is no value to paste into %1.</source>
+        <translation>Il n’y a pas de valeur à coller dans %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no value of %2, which is of type %3.</source>
+        <translation>%1 n’est pas une valeur pour %2, de type %3.</translation>
     </message>
 </context>
 <context>

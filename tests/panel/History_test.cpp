@@ -2,10 +2,10 @@
 
 #include "support/FileDialogs.hpp"
 #include "support/WheelTurn.hpp"
+#include <panel/FocusOutline.hpp>
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDockWidget>
-#include <QFocusFrame>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -225,9 +225,10 @@ TEST_F(HistoryTest, AColourIsEditedByKeyboardAlone) {
     auto* const swatch = row("colour")->editor();
     swatch->setFocus(Qt::TabFocusReason);
     ASSERT_TRUE(swatch->hasFocus());
-    auto* const frame = row("colour")->findChild<QFocusFrame*>();
+    auto* const frame = swatch->findChild<Panel::FocusOutline*>();
     ASSERT_NE(frame, nullptr);
     EXPECT_TRUE(frame->isVisible());
+    EXPECT_EQ(frame->geometry(), swatch->rect());
     slider("int")->setFocus();
     EXPECT_FALSE(frame->isVisible());
     swatch->setFocus(Qt::TabFocusReason);

@@ -105,3 +105,8 @@ TEST_F(LookTest, TheNotchesOfADialCanBeSeenOnEveryGround) {
         EXPECT_GT(contrast, 50);
     }
 }
+
+TEST_F(LookTest, DocksStandAtTheSideThatLinesEndAt) {
+    EXPECT_EQ(Panel::trailingDockArea(Qt::LeftToRight), Qt::RightDockWidgetArea);
+    EXPECT_EQ(Panel::trailingDockArea(Qt::RightToLeft), Qt::LeftDockWidgetArea);
+}

@@ -56,3 +56,23 @@ TEST_F(ObjectListTest, AClickOnAnIconChoosesItsObject) {
     QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, shown->mapTo(target, shown->rect().center()));
     EXPECT_EQ(window->currentView()->object(), window->network()->findObject(QStringLiteral("second lamp")));
 }
+
+TEST_F(ObjectListTest, AnEditorWithoutAnIconIsAskedForOneOnlyOnce) {
+    QString error;
+    auto const file = networkFile(QStringLiteral("choice.json"), R"({ "pools": ["day", "night"], "objects": [
+        { "name": "lamp", "parameters": [ { "name": "on", "type": "bool", "value": true } ] },
+        { "name": "choice", "parameters": [
+            { "name": "some", "type": "multiselection", "value": [], "entries": ["a", "b"] } ] } ] })");
+    ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
+    EXPECT_EQ(window->objectList()->icon(QStringLiteral("choice")), nullptr);
+    // This editor tells when it is made.
+    EXPECT_THAT(takeOutput(), testing::Not(testing::IsEmpty()));
+    window->choosePool(QStringLiteral("night"));
+    EXPECT_EQ(window->objectList()->icon(QStringLiteral("choice")), nullptr);
+    ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
+    EXPECT_EQ(window->objectList()->icon(QStringLiteral("choice")), nullptr);
+    EXPECT_THAT(takeOutput(), testing::IsEmpty());
+    action("reload")->trigger();
+    EXPECT_EQ(window->objectList()->icon(QStringLiteral("choice")), nullptr);
+    EXPECT_THAT(takeOutput(), testing::Not(testing::IsEmpty()));
+}

@@ -1,6 +1,7 @@
 #include "PanelTest.hpp"
 
 #include <panel/MissingEditor.hpp>
+#include <QDial>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -45,6 +46,34 @@ TEST_F(ObjectViewTest, NamesOfAllRowsAreAsWideAsTheWidest) {
     for (auto const* const each : window->currentView()->rows()) {
         EXPECT_EQ(each->editor()->x(), left) << qPrintable(each->parameterName());
         EXPECT_GE(each->nameLabel()->width(), each->nameLabel()->sizeHint().width());
+    }
+}
+
+TEST_F(ObjectViewTest, ControlsThatCannotGrowStandTogetherBesideTheName) {
+    QString error;
+    auto const file = networkFile(QStringLiteral("dials.json"), R"({ "pools": ["day"], "objects": [
+        { "name": "dials", "parameters": [
+            { "name": "int", "type": "int", "value": 3, "preferences": ["dial"] },
+            { "name": "double", "type": "double", "value": 0.5, "preferences": ["dial"] } ] } ] })");
+    ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
+    window->resize(1400, 600);
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    for (auto const direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        window->setLayoutDirection(direction);
+        QCoreApplication::sendPostedEvents();
+        for (auto const* const name : {"int", "double"}) {
+            auto const* const editor = row(name)->editor();
+            auto const* const dial = editor->findChild<QDial*>();
+            auto const* const field = editor->findChild<QLineEdit*>();
+            auto const ends =
+                std::minmax({dial->x(), field->x(), dial->x() + dial->width(), field->x() + field->width()});
+            EXPECT_LT(ends.second - ends.first, dial->width() + field->width() + 20) << name;
+            int const gap = direction == Qt::LeftToRight
+                                ? editor->x() + ends.first - row(name)->nameLabel()->parentWidget()->geometry().right()
+                                : row(name)->nameLabel()->parentWidget()->x() - editor->x() - ends.second;
+            EXPECT_LT(gap, 30) << name;
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 #include <panel/Translations.hpp>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTemporaryDir>
 
 namespace {
@@ -73,6 +74,40 @@ TEST_F(TranslationsTest, ALanguageWithoutATranslationGetsEnglish) {
         start(language);
         EXPECT_EQ(firstMenu(), "&File");
         EXPECT_EQ(button(), "Save as");
+    }
+}
+
+TEST_F(TranslationsTest, EachMenuHasAKeyOfItsOwnForEachCommand) {
+    for (auto const* const language : {"en", "de", "fr"}) {
+        SCOPED_TRACE(language);
+        start(language);
+        auto const expectDifferentKeys = [](QStringList const& texts) {
+            QStringList seen;
+            for (auto const& text : texts) {
+                auto const key = QKeySequence::mnemonic(text).toString();
+                if (key.isEmpty())
+                    continue;
+                EXPECT_FALSE(seen.contains(key)) << qPrintable(texts.join(QLatin1String(", ")));
+                seen << key;
+            }
+            EXPECT_GE(seen.size(), 2);
+        };
+        QStringList bar;
+        for (auto const* const menu : window->menuBar()->actions()) {
+            bar << menu->text();
+            QStringList commands;
+            for (auto const* const command : menu->menu()->actions())
+                commands << command->text();
+            expectDifferentKeys(commands);
+        }
+        EXPECT_EQ(bar.size(), 4);
+        for (auto const* const label : window->findChildren<QLabel*>())
+            if (label->buddy() && !Panel::ParameterRow::rowOf(label->buddy()))
+                bar << label->text();
+        for (auto const* const button : window->statusBar()->findChildren<QPushButton*>())
+            bar << button->text();
+        EXPECT_GE(bar.size(), 6);
+        expectDifferentKeys(bar);
     }
 }
 

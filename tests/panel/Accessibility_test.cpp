@@ -1,0 +1,201 @@
+#include "PanelTest.hpp"
+
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QAccessible>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <set>
+
+using testing::HasSubstr;
+
+namespace {
+
+/// Asks as a program does that reads the panel to people who do not see it, about the example network.
+class AccessibilityTest : public PanelTest {
+protected:
+    void SetUp() override {
+        PanelTest::SetUp();
+        QString error;
+        ASSERT_TRUE(window->openNetwork(QStringLiteral(TALO_EXAMPLES "/fractal.json"), &error)) << qPrintable(error);
+        window->resize(1000, 700);
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    void TearDown() override {
+        // The editor of the selections tells what it does.
+        takeOutput();
+        PanelTest::TearDown();
+    }
+
+    static std::string told(QObject* object, QAccessible::Text text) {
+        auto* const interface = QAccessible::queryAccessibleInterface(object);
+        return interface ? interface->text(text).toStdString() : std::string();
+    }
+    static std::string name(QObject* object) { return told(object, QAccessible::Name); }
+    static std::string description(QObject* object) { return told(object, QAccessible::Description); }
+
+    static bool takesFocus(QWidget const& widget) { return widget.focusPolicy() != Qt::NoFocus; }
+    /// The controls of an editor that people can be at.
+    static std::vector<QWidget*> controls(QWidget* editor) {
+        std::vector<QWidget*> controls;
+        if (takesFocus(*editor))
+            controls.push_back(editor);
+        for (auto* const child : editor->findChildren<QWidget*>())
+            if (takesFocus(*child) && child->window() == editor->window())
+                controls.push_back(child);
+        return controls;
+    }
+
+    /// Shows one object after the other and looks at each row of it.
+    void forEachRow(std::function<void(Kolt::VObject const&, Panel::ParameterRow*)> const& look) {
+        int rows = 0;
+        for (auto const& object : window->network()->objects()) {
+            SCOPED_TRACE(object->Name());
+            ASSERT_TRUE(window->showObject(QString::fromStdString(object->Name())));
+            for (auto const& parameter : object->parameters()) {
+                SCOPED_TRACE(parameter->Name());
+                auto* const row = window->currentView()->row(QString::fromStdString(parameter->Name()));
+                ASSERT_NE(row, nullptr);
+                look(*object, row);
+                ++rows;
+            }
+        }
+        EXPECT_EQ(rows, 27);
+    }
+};
+
+} // namespace
+
+TEST_F(AccessibilityTest, EachControlIsNamedAfterItsParameter) {
+    int count = 0;
+    forEachRow([&](Kolt::VObject const&, Panel::ParameterRow* row) {
+        for (auto* const control : controls(row->editor())) {
+            // With this platform's Qt a drop-down list tells its choice for its name.
+            auto const* const list = qobject_cast<QComboBox*>(control);
+            EXPECT_THAT(list ? list->accessibleName().toStdString() : name(control),
+                        HasSubstr(row->parameterName().toStdString()))
+                << control->metaObject()->className();
+            ++count;
+        }
+    });
+    EXPECT_GT(count, 27);
+}
+
+TEST_F(AccessibilityTest, EachControlIsDescribedByObjectTypeAndPool) {
+    forEachRow([&](Kolt::VObject const& object, Panel::ParameterRow* row) {
+        for (auto* const control : controls(row->editor()))
+            EXPECT_THAT(description(control), HasSubstr(object.Name() + '.' + row->parameterName().toStdString()))
+                << control->metaObject()->className();
+    });
+    window->showObject(QStringLiteral("formula"));
+    auto const lineEdit = [this](char const* parameter) {
+        return window->currentView()->row(QString::fromUtf8(parameter))->editor()->findChild<QLineEdit*>();
+    };
+    EXPECT_EQ(description(lineEdit("symmetry")), "formula.symmetry, type int");
+    EXPECT_EQ(description(lineEdit("iterations")), "formula.iterations, type int, in pool draft");
+    window->choosePool(QStringLiteral("final"));
+    EXPECT_EQ(description(lineEdit("iterations")), "formula.iterations, type int, in pool final");
+    window->pools().setPool(nullptr);
+    window->currentView()->showPool();
+    EXPECT_EQ(description(lineEdit("iterations")), "formula.iterations, type int, no pool");
+}
+
+TEST_F(AccessibilityTest, AControlWithACaptionIsNamedByBoth) {
+    window->showObject(QStringLiteral("colouring"));
+    std::set<std::string> names;
+    for (auto* const box : window->currentView()->row(QStringLiteral("channels"))->editor()->findChildren<QCheckBox*>())
+        names.insert(name(box));
+    EXPECT_THAT(names, testing::ElementsAre("channels: alpha", "channels: blue", "channels: green", "channels: red"));
+    window->showObject(QStringLiteral("exporter"));
+    EXPECT_EQ(name(window->currentView()->row(QStringLiteral("picture"))->editor()), "picture: Save as");
+}
+
+TEST_F(AccessibilityTest, AnExplanationIsToldWithTheDescription) {
+    window->showObject(QStringLiteral("render"));
+    EXPECT_EQ(description(window->currentView()->row(QStringLiteral("start"))->editor()),
+              "render.start, type action\nCompute the picture anew in the chosen pool");
+}
+
+TEST_F(AccessibilityTest, TheNameOfARowIsTheLabelOfItsEditor) {
+    forEachRow([&](Kolt::VObject const&, Panel::ParameterRow* row) {
+        auto* const label = QAccessible::queryAccessibleInterface(row->nameLabel());
+        ASSERT_NE(label, nullptr);
+        auto const relations = label->relations(QAccessible::Labelled);
+        ASSERT_EQ(relations.size(), 1);
+        EXPECT_EQ(relations.first().first->object(), row->editor());
+        // Whoever goes to the editor comes to one of its controls.
+        auto const all = controls(row->editor());
+        auto* const proxy = row->editor()->focusProxy();
+        if (!all.empty()) {
+            EXPECT_THAT(all, testing::Contains(proxy ? proxy : row->editor()));
+        }
+    });
+}
+
+TEST_F(AccessibilityTest, TabAloneComesByEveryControl) {
+    for (auto const& object : window->network()->objects()) {
+        SCOPED_TRACE(object->Name());
+        ASSERT_TRUE(window->showObject(QString::fromStdString(object->Name())));
+        window->objectList()->setFocus();
+        std::set<QWidget*> reached;
+        // Round the whole window once.
+        for (auto* focus = QApplication::focusWidget(); focus && reached.insert(focus).second;
+             focus = QApplication::focusWidget()) {
+            // A text of several lines keeps the Tab key for itself.
+            bool const takesTab = qobject_cast<QTextEdit*>(focus) != nullptr;
+            QTest::keyClick(focus, Qt::Key_Tab, takesTab ? Qt::ControlModifier : Qt::NoModifier);
+        }
+        for (auto const& parameter : object->parameters()) {
+            auto* const row = window->currentView()->row(QString::fromStdString(parameter->Name()));
+            for (auto* const control : controls(row->editor())) {
+                if ((control->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !control->focusProxy()) {
+                    EXPECT_EQ(reached.count(control), 1U) << parameter->Name() << ' ' << name(control);
+                }
+            }
+        }
+        EXPECT_EQ(reached.count(window->findChild<QLineEdit*>(QStringLiteral("filter"))), 1U);
+    }
+}
+
+TEST_F(AccessibilityTest, EveryActionOfTheMenusHasAText) {
+    int count = 0;
+    for (auto const* const menuAction : window->menuBar()->actions()) {
+        EXPECT_FALSE(menuAction->text().isEmpty());
+        ASSERT_NE(menuAction->menu(), nullptr);
+        for (auto const* const each : menuAction->menu()->actions()) {
+            if (each->isSeparator())
+                continue;
+            EXPECT_FALSE(each->text().isEmpty()) << qPrintable(menuAction->text());
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 15);
+}
+
+TEST_F(AccessibilityTest, EverythingBesidesTheEditorsIsNamed) {
+    window->addView();
+    action("showHistory")->trigger();
+    std::vector<QWidget*> parts;
+    for (auto* const dock : window->findChildren<QDockWidget*>())
+        parts.push_back(dock);
+    for (auto* const bar : window->findChildren<QToolBar*>())
+        parts.push_back(bar);
+    for (auto* const area : window->findChildren<QAbstractScrollArea*>())
+        if (!Panel::ParameterRow::rowOf(area) && area->window() == window.get() && takesFocus(*area))
+            parts.push_back(area);
+    for (auto* const field : window->findChildren<QLineEdit*>())
+        if (!Panel::ParameterRow::rowOf(field) && !field->focusProxy())
+            parts.push_back(field);
+    for (auto* const box : window->findChildren<QComboBox*>())
+        if (!Panel::ParameterRow::rowOf(box))
+            parts.push_back(box);
+    for (auto* const button : window->findChildren<QAbstractButton*>())
+        if (!Panel::ParameterRow::rowOf(button) && takesFocus(*button))
+            parts.push_back(button);
+    for (auto* const part : parts)
+        EXPECT_NE(name(part), "") << part->metaObject()->className() << ' ' << qPrintable(part->objectName());
+    EXPECT_GE(parts.size(), 12U);
+}
