@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <panel/HistoryList.hpp>
 #include <panel/Look.hpp>
+#include <panel/ReadingDelegate.hpp>
 #include <panel/StepText.hpp>
 #include <QEvent>
 
@@ -10,6 +11,7 @@ HistoryList::HistoryList(QWidget* parent) : QListWidget(parent) {
     setObjectName(QStringLiteral("history"));
     setAccessibleName(tr("History"));
     setAccessibleDescription(tr("The steps that can be taken back. Return goes to the state after the chosen step."));
+    setItemDelegate(new ReadingDelegate(this));
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideMiddle);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,5 +1,6 @@
 #include <panel/Look.hpp>
 #include <panel/MessageList.hpp>
+#include <panel/ReadingDelegate.hpp>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -40,6 +41,7 @@ MessageList::MessageList(QWidget* parent) : QTreeWidget(parent) {
     setAlternatingRowColors(true);
     setFrameShape(QFrame::NoFrame);
     setAccessibleName(tr("Messages"));
+    setItemDelegate(new ReadingDelegate(this));
     // Of fixed width: to measure all rows at each message costs more with each.
     int const margin = 4 * style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 8;
     header()->resizeSection(timeColumn, fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + margin);

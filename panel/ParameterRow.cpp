@@ -138,6 +138,9 @@ void ParameterRow::openEditor() {
         // The layout has just remembered how wide it is without this.
         editor_.widget->updateGeometry();
     }
+    // What an editor only shows stands beside its name, too.
+    if (auto* const label = qobject_cast<QLabel*>(editor_.widget))
+        alignWithLayout(*label);
     nameEditor();
 }
 

@@ -3,8 +3,10 @@
 #include <panel/Look.hpp>
 #include <panel/PanelStyle.hpp>
 #include <panel/RawValue.hpp>
+#include <panel/ReadingDelegate.hpp>
 #include <QDial>
 #include <QLabel>
+#include <QListWidget>
 #include <QPushButton>
 
 namespace {
@@ -109,4 +111,25 @@ TEST_F(LookTest, TheNotchesOfADialCanBeSeenOnEveryGround) {
 TEST_F(LookTest, DocksStandAtTheSideThatLinesEndAt) {
     EXPECT_EQ(Panel::trailingDockArea(Qt::LeftToRight), Qt::RightDockWidgetArea);
     EXPECT_EQ(Panel::trailingDockArea(Qt::RightToLeft), Qt::LeftDockWidgetArea);
+}
+
+TEST_F(LookTest, ATextInAListReadsTheSameInAPanelFromRightToLeftButStandsAtItsEnd) {
+    auto const line = [](Qt::LayoutDirection direction) {
+        QListWidget list;
+        list.setLayoutDirection(direction);
+        list.setFrameShape(QFrame::NoFrame);
+        QFont font(QStringLiteral("DejaVu Sans"), 9);
+        font.setHintingPreference(QFont::PreferFullHinting);
+        font.setStyleStrategy(QFont::NoAntialias);
+        list.setFont(font);
+        list.setItemDelegate(new Panel::ReadingDelegate(&list));
+        list.addItem(QStringLiteral("done (twice)."));
+        list.resize(300, 30);
+        return pictureOf(list);
+    };
+    auto const usual = line(Qt::LeftToRight);
+    auto const mirrored = line(Qt::RightToLeft);
+    EXPECT_LT(inkIn(usual).right(), 150);
+    EXPECT_GT(inkIn(mirrored).left(), 150);
+    EXPECT_TRUE(usual.copy(inkIn(usual)) == mirrored.copy(inkIn(mirrored)));
 }
