@@ -77,11 +77,7 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
     auto* const names = new QVBoxLayout(names_);
     names->setContentsMargins(0, 4, 0, 4);
     names->setSpacing(0);
-    auto* const firstLine = new QHBoxLayout;
-    firstLine->setSpacing(markerDistance);
-    firstLine->addWidget(nameLabel_);
-    firstLine->addStretch(1);
-    names->addLayout(firstLine);
+    names->addWidget(nameLabel_);
 
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(12);
@@ -178,8 +174,14 @@ void ParameterRow::showDefault() {
     }
     if (!marker_) {
         marker_ = new DefaultMarker(lastPart(parameterName_), names_);
-        auto* const firstLine = static_cast<QHBoxLayout*>(names_->layout()->itemAt(0)->layout());
-        firstLine->insertWidget(1, marker_);
+        auto* const names = static_cast<QVBoxLayout*>(names_->layout());
+        names->removeWidget(nameLabel_);
+        auto* const firstLine = new QHBoxLayout;
+        firstLine->setSpacing(markerDistance);
+        firstLine->addWidget(nameLabel_);
+        firstLine->addWidget(marker_);
+        firstLine->addStretch(1);
+        names->insertLayout(0, firstLine);
         connect(marker_, &DefaultMarker::clicked, this, &ParameterRow::resetToDefault);
     }
     marker_->setDefault(valueText(*defaults->in(pool()).value));
