@@ -17,6 +17,12 @@ inline bool withFileDialog(std::function<void()> const& open, std::function<void
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         if (!dialog || !dialog->isVisible())
             return;
+        // While its field has no focus, the dialog writes the file that it finds for each letter into the field, and
+        // with a window manager the focus comes later than the window.
+        if (!dialog->isActiveWindow()) {
+            dialog->activateWindow();
+            return;
+        }
         timer.stop();
         worked = true;
         work(*dialog);
