@@ -5,8 +5,8 @@
 
 namespace Panel {
 
-/// Lets an editor whose list takes a choice over when the mouse lets go take those over that are made by keyboard: after
-/// a key that changed what is chosen, the list hears of a released mouse button. A child of the list.
+/// Lets an editor whose list takes a choice over when the mouse lets go take those over that are made by keyboard:
+/// after a key that changed what is chosen, the list hears of a released mouse button. A child of the list.
 class KeyboardChoice : public QObject {
     Q_OBJECT
 

@@ -1,4 +1,5 @@
 #include <panel/KeyboardPress.hpp>
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -20,9 +21,12 @@ void click(QPointer<QWidget> const& widget) {
 
 } // namespace
 
-KeyboardPress::KeyboardPress(QWidget* editor) : QObject(editor), editor_(editor), frame_(new QFocusFrame(editor)) {
-    editor->setFocusPolicy(Qt::StrongFocus);
-    editor->installEventFilter(this);
+KeyboardPress::KeyboardPress(QWidget* control)
+    : QObject(control),
+      control_(control),
+      frame_(qobject_cast<QAbstractButton*>(control) ? nullptr : new QFocusFrame(control)) {
+    control->setFocusPolicy(Qt::StrongFocus);
+    control->installEventFilter(this);
 }
 
 KeyboardPress::~KeyboardPress() {
@@ -30,9 +34,9 @@ KeyboardPress::~KeyboardPress() {
 }
 
 bool KeyboardPress::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn)
-        frame_->setWidget(editor_);
-    else if (event->type() == QEvent::FocusOut)
+    if (frame_ && event->type() == QEvent::FocusIn)
+        frame_->setWidget(control_);
+    else if (frame_ && event->type() == QEvent::FocusOut)
         frame_->setWidget(nullptr);
     if (event->type() != QEvent::KeyPress)
         return QObject::eventFilter(watched, event);
@@ -40,7 +44,7 @@ bool KeyboardPress::eventFilter(QObject* watched, QEvent* event) {
     bool const presses = key->key() == Qt::Key_Space || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
     if (!presses || key->isAutoRepeat())
         return QObject::eventFilter(watched, event);
-    click(editor_);
+    click(control_);
     return true;
 }
 

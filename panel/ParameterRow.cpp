@@ -1,12 +1,15 @@
 #include <lattice/UndoHistory.hpp>
+#include <panel/KeyboardChoice.hpp>
 #include <panel/KeyboardPress.hpp>
 #include <panel/Look.hpp>
 #include <panel/MissingEditor.hpp>
 #include <panel/network/ValueFormat.hpp>
 #include <panel/ParameterRow.hpp>
 #include <panel/WheelGuard.hpp>
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QLayoutItem>
+#include <QPushButton>
 
 namespace Panel {
 
@@ -169,6 +172,11 @@ void ParameterRow::nameEditor() {
             firstControl = control;
         if (control->accessibleName().isEmpty())
             control->setAccessibleName(name);
+        // Many a button acts when the mouse presses it, and many a list takes a choice when the mouse lets go.
+        if (qobject_cast<QPushButton*>(control))
+            new KeyboardPress(control);
+        else if (auto* const list = qobject_cast<QAbstractItemView*>(control))
+            new KeyboardChoice(list);
     }
     if (editor_.widget->accessibleName().isEmpty())
         editor_.widget->setAccessibleName(name);
