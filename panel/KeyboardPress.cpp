@@ -1,4 +1,5 @@
 #include <panel/KeyboardPress.hpp>
+#include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -21,17 +22,20 @@ void click(QPointer<QWidget> const& widget) {
 
 } // namespace
 
-KeyboardPress::KeyboardPress(QWidget* editor) : QObject(editor), editor_(editor), outline_(new FocusOutline(editor)) {
-    editor->setFocusPolicy(Qt::StrongFocus);
-    editor->installEventFilter(this);
+KeyboardPress::KeyboardPress(QWidget* control)
+    : QObject(control),
+      control_(control),
+      outline_(qobject_cast<QAbstractButton*>(control) ? nullptr : new FocusOutline(control)) {
+    control->setFocusPolicy(Qt::StrongFocus);
+    control->installEventFilter(this);
 }
 
 KeyboardPress::~KeyboardPress() = default;
 
 bool KeyboardPress::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn)
+    if (outline_ && event->type() == QEvent::FocusIn)
         outline_->show();
-    else if (event->type() == QEvent::FocusOut)
+    else if (outline_ && event->type() == QEvent::FocusOut)
         outline_->hide();
     if (event->type() != QEvent::KeyPress)
         return QObject::eventFilter(watched, event);
@@ -39,7 +43,7 @@ bool KeyboardPress::eventFilter(QObject* watched, QEvent* event) {
     bool const presses = key->key() == Qt::Key_Space || key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
     if (!presses || key->isAutoRepeat())
         return QObject::eventFilter(watched, event);
-    click(editor_);
+    click(control_);
     return true;
 }
 

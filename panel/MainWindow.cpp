@@ -3,17 +3,22 @@
 #include <panel/MainWindow.hpp>
 #include <panel/objects/ObjectFactory.hpp>
 #include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDockWidget>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
+#include <QWindow>
 
 namespace Panel {
 
 namespace {
 
 constexpr int keptViews = 8;
+
+// How often it is looked whether a popup has gone, in milliseconds.
+constexpr int popupInterval = 50;
 
 } // namespace
 
@@ -61,6 +66,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
             [this](QString const& text) { messages_->add(MessageList::Source::Warning, text); });
     connect(&plugins_, &Plugins::aboutToChange, this, &MainWindow::closeEditors);
     connect(&plugins_, &Plugins::changed, this, &MainWindow::openEditors);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MainWindow::noticeFocus, Qt::QueuedConnection);
     Kolt::UndoHistory::theHistory().setListener([this] { historyChanged(); });
     updateUndo();
     updatePlugins();
@@ -253,6 +259,17 @@ void MainWindow::openEditors() {
     for (auto* const view : shown)
         view->openEditors();
     updatePlugins();
+}
+
+void MainWindow::noticeFocus() {
+    if (!windowHandle() || QGuiApplication::focusWindow() != windowHandle() || QApplication::activeWindow())
+        return;
+    // Qt takes no notice of a focus that comes meanwhile, as after a file was typed into a dialog that proposes names,
+    // and keys do nothing then.
+    if (QApplication::activePopupWidget())
+        QTimer::singleShot(popupInterval, this, &MainWindow::noticeFocus);
+    else
+        QApplication::setActiveWindow(this);
 }
 
 void MainWindow::setRawValuesShown(bool shown) {

@@ -71,6 +71,8 @@ public:
     /// Ends the edit that goes on: a typed text that waits for the field to be left is written.
     void finishEdit();
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 signals:
     /// The open network is about to give way to another one.
     void networkAboutToClose();
@@ -120,6 +122,8 @@ private:
     void openEditors();
     void choosePool(int index);
     void applyFilter();
+    /// Has Qt notice that the window has the focus, after a popup was open as it got it.
+    void noticeFocus();
     void historyChanged();
     void updateUndo();
     void updateModified();

@@ -161,9 +161,13 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange)
+        return;
     // What the host wrote by itself is noticed at the latest when somebody looks.
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+    if (isActiveWindow())
         updateModified();
+    else
+        QMetaObject::invokeMethod(this, &MainWindow::noticeFocus, Qt::QueuedConnection);
 }
 
 } // namespace Panel

@@ -2,6 +2,7 @@
 #include <panel/MainWindow.hpp>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
 
@@ -45,16 +46,21 @@ void MainWindow::makeFilterField(QToolBar& toolBar) {
         filterField_->setFocus(Qt::ShortcutFocusReason);
         filterField_->selectAll();
     });
-    auto* const clearAction = new QAction(filterField_);
-    clearAction->setShortcut(Qt::Key_Escape);
-    clearAction->setShortcutContext(Qt::WidgetShortcut);
-    connect(clearAction, &QAction::triggered, filterField_, &QLineEdit::clear);
-    filterField_->addAction(clearAction);
+    // Escape clears it, but not by a shortcut: whatever is being computed has that one.
+    filterField_->installEventFilter(this);
     // On to what was found.
     connect(filterField_, &QLineEdit::returnPressed, this, [this] {
         if (currentView())
             currentView()->focusFirstEditor();
     });
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != filterField_ || event->type() != QEvent::KeyPress ||
+        static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
+        return QMainWindow::eventFilter(watched, event);
+    filterField_->clear();
+    return true;
 }
 
 void MainWindow::makePoolSelector(QToolBar& toolBar) {

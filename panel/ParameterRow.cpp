@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <lattice/UndoHistory.hpp>
+#include <panel/KeyboardChoice.hpp>
 #include <panel/KeyboardPress.hpp>
 #include <panel/Look.hpp>
 #include <panel/MissingEditor.hpp>
@@ -8,9 +9,11 @@
 #include <panel/StepText.hpp>
 #include <panel/WheelGuard.hpp>
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QLayoutItem>
+#include <QPushButton>
 #include <QToolTip>
 
 namespace Panel {
@@ -252,6 +255,11 @@ void ParameterRow::nameEditor() {
         auto const caption = captionOf(*control);
         if (control->accessibleName().isEmpty())
             control->setAccessibleName(caption.isEmpty() || caption == name ? name : tr("%1: %2").arg(name, caption));
+        // Many a button acts when the mouse presses it, and many a list takes a choice when the mouse lets go.
+        if (qobject_cast<QPushButton*>(control))
+            new KeyboardPress(control);
+        else if (auto* const list = qobject_cast<QAbstractItemView*>(control))
+            new KeyboardChoice(list);
     }
     // Whoever gives the focus to the editor means its first control.
     if (firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && !editor_.widget->focusProxy())

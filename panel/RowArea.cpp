@@ -374,8 +374,10 @@ void RowArea::scrollContentsBy(int dx, int dy) {
     makeVisibleRows();
 }
 
-bool RowArea::focusControl(Entry const& entry, bool first) {
-    auto const stops = tabStops(*entry.row);
+bool RowArea::focusControl(Entry const& entry, bool first, bool ofEditor) {
+    auto stops = tabStops(*entry.row);
+    if (ofEditor)
+        stops.erase(std::remove(stops.begin(), stops.end(), entry.row->defaultMarker()), stops.end());
     if (stops.empty())
         return false;
     auto* const stop = first ? stops.front() : stops.back();
@@ -396,7 +398,7 @@ bool RowArea::focusOutside(QWidget const* from, bool next) {
     return false;
 }
 
-bool RowArea::focusFrom(std::ptrdiff_t place, bool next) {
+bool RowArea::focusFrom(std::ptrdiff_t place, bool next, bool toEditor) {
     for (; place >= 0 && place < static_cast<std::ptrdiff_t>(entries_.size()); place += next ? 1 : -1) {
         auto& entry = entries_[static_cast<std::size_t>(place)];
         if (!entry.shown)
@@ -405,14 +407,14 @@ bool RowArea::focusFrom(std::ptrdiff_t place, bool next) {
             make(entry);
             arrangeInPlace();
         }
-        if (entry.row && focusControl(entry, next))
+        if (entry.row && focusControl(entry, next, toEditor))
             return true;
     }
     return false;
 }
 
 bool RowArea::focusFirstControl() {
-    return focusFrom(0, true);
+    return focusFrom(0, true, true);
 }
 
 bool RowArea::focusNextPrevChild(bool next) {
@@ -428,7 +430,7 @@ bool RowArea::focusNextPrevChild(bool next) {
         ensureWidgetVisible(neighbour);
         return true;
     }
-    if (focusFrom(current - entries_.data() + (next ? 1 : -1), next))
+    if (focusFrom(current - entries_.data() + (next ? 1 : -1), next, false))
         return true;
     return focusOutside(focus, next);
 }

@@ -48,7 +48,8 @@ public:
     void setRawValuesShown(bool shown);
     /// Leaves out the parameters for which the predicate does not hold; an empty one shows all.
     void setFilter(std::function<bool(Kolt::VParameter const&)> const& filter);
-    /// Gives the focus to the first control of the first shown row that has one; false where there is none.
+    /// Gives the focus to the first control of an editor in the first shown row that has one; false where there is
+    /// none.
     bool focusFirstControl();
     /// How many parameters are not left out.
     int shownCount() const;
@@ -102,9 +103,10 @@ private:
     void dropFarRows();
     int visibleTop() const;
     int visibleBottom() const;
-    /// Gives the focus to the next row's control, from a place on; false where there is none.
-    bool focusFrom(std::ptrdiff_t place, bool next);
-    bool focusControl(Entry const& entry, bool first);
+    /// Gives the focus to the next row's control, from a place on; false where there is none. What resets a row stands
+    /// before its editor and is left out `toEditor`.
+    bool focusFrom(std::ptrdiff_t place, bool next, bool toEditor);
+    bool focusControl(Entry const& entry, bool first, bool ofEditor);
     bool focusOutside(QWidget const* from, bool next);
 
     QString const objectName_;

@@ -105,6 +105,15 @@ TEST_F(FilterTest, IsReachedByAKeyAndLeadsToWhatItFound) {
     EXPECT_TRUE(window->currentView()->row(QStringLiteral("level"))->isAncestorOf(QApplication::focusWidget()));
 }
 
+TEST_F(FilterTest, LeadsToTheEditorAndNotToWhatResetsIt) {
+    QTest::mouseClick(box("steady"), Qt::LeftButton);
+    auto const* const row = window->currentView()->row(QStringLiteral("steady"));
+    ASSERT_TRUE(row->defaultMarker()->isVisible());
+    look("steady");
+    QTest::keyClick(field(), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), box("steady"));
+}
+
 TEST_F(FilterTest, HoldsForViewsMadeLaterAndNotForAnotherNetwork) {
     look("painted");
     auto* const view = window->addView();

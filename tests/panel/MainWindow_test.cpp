@@ -282,3 +282,31 @@ TEST_F(MainWindowTest, TheToolTipOfANameTellsWhichEditorWasTakenAndWhy) {
     EXPECT_THAT(tip, HasSubstr(QString::fromStdString(choice.explanation).toHtmlEscaped().toStdString()));
     EXPECT_THAT(tip, HasSubstr("bool"));
 }
+
+TEST_F(MainWindowTest, IsActiveAgainWhenADialogClosesBelowAListThatFoldedOut) {
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QDialog dialog(window.get());
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    QMenu list(&dialog);
+    list.addAction(QStringLiteral("entry"));
+    list.popup(dialog.mapToGlobal(QPoint(5, 5)));
+    ASSERT_TRUE(waitUntil([&] { return list.isVisible(); }));
+    dialog.hide();
+    window->activateWindow();
+    EXPECT_TRUE(waitUntil([&] { return QGuiApplication::focusWindow() == window->windowHandle(); }));
+    list.close();
+    EXPECT_TRUE(waitUntil([&] { return window->isActiveWindow(); }));
+}
+
+TEST_F(MainWindowTest, IsActiveAgainWhenQtForgetsThatItHasTheFocus) {
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QApplication::setActiveWindow(nullptr);
+    EXPECT_FALSE(window->isActiveWindow());
+    EXPECT_TRUE(waitUntil([&] { return window->isActiveWindow(); }));
+}

@@ -1,4 +1,5 @@
 #include "EditingTest.hpp"
+#include "support/FileDialogs.hpp"
 
 #include <QFileDialog>
 #include <QMessageBox>
@@ -142,19 +143,10 @@ TEST_F(UnsavedChangesTest, OpeningAnotherNetworkAsksFirst) {
     EXPECT_EQ(held("enum"), "Blue");
 
     auto const other = networkFile("other.json", lamps);
-    bool chosen = false;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog || chosen)
-            return;
-        chosen = true;
-        dialog->findChild<QLineEdit*>()->setText(other);
-        QTest::keyClick(dialog->findChild<QLineEdit*>(), Qt::Key_Return);
-    });
-    timer.start(0);
-    EXPECT_TRUE(answer(QMessageBox::Discard, [this] { action("open")->trigger(); }));
-    EXPECT_TRUE(chosen);
+    EXPECT_TRUE(answer(QMessageBox::Discard, [&] {
+        EXPECT_TRUE(withFileDialog([this] { action("open")->trigger(); },
+                                   [&](QFileDialog& dialog) { enterFileName(dialog, other); }));
+    }));
     EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("Two lamps"));
     EXPECT_FALSE(window->isWindowModified());
 }

@@ -17,8 +17,14 @@ public:
     }
     void press() { run({QStringLiteral("mousedown"), QStringLiteral("1")}); }
     void release() { run({QStringLiteral("mouseup"), QStringLiteral("1")}); }
+    /// A click on a widget that may still be on its way to its place.
     void click(QWidget const& widget, QPoint const& place) {
-        move(widget, place);
+        QPoint goal;
+        do {
+            EXPECT_TRUE(waitUntil([&] { return isAt(widget, widget.mapToGlobal(place)); }));
+            goal = widget.mapToGlobal(place);
+            move(widget, place);
+        } while (widget.mapToGlobal(place) != goal);
         run({QStringLiteral("click"), QStringLiteral("1")});
     }
     void click(QWidget const& widget) { click(widget, widget.rect().center()); }
@@ -29,13 +35,29 @@ public:
         run({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("2"), text});
     }
 
-private:
-    static void run(QStringList const& arguments) {
+    /// What xdotool answers to other commands; empty where it refuses them, as it does to look for what is not there.
+    QString ask(QStringList const& arguments) {
         QProcess process;
+        finish(process, arguments);
+        return process.exitCode() == 0 ? QString::fromUtf8(process.readAllStandardOutput()).trimmed() : QString();
+    }
+
+    /// Whether a point of the screen is one of the widget, or of a part of it.
+    static bool isAt(QWidget const& widget, QPoint const& point) {
+        auto const* const found = QApplication::widgetAt(point);
+        return found == &widget || widget.isAncestorOf(found);
+    }
+
+private:
+    static void finish(QProcess& process, QStringList const& arguments) {
         process.start(QStringLiteral("xdotool"), arguments);
         // Qt answers the window system meanwhile.
         EXPECT_TRUE(waitUntil([&] { return process.state() == QProcess::NotRunning; }))
             << qPrintable(arguments.join(QLatin1Char(' ')));
+    }
+    static void run(QStringList const& arguments) {
+        QProcess process;
+        finish(process, arguments);
         EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
     }
 };

@@ -7,16 +7,23 @@
 #include <QTest>
 #include <QTimer>
 
-/// Does something that runs a file dialog, and works with the dialog once it is shown. The work must close it. Says
-/// whether there was a dialog. It is Qt's own: those of a platform cannot be driven by events.
-inline bool withFileDialog(std::function<void()> const& open, std::function<void(QFileDialog&)> const& work) {
+/// Does something that runs a modal dialog, and works with the dialog once it is shown and has the focus. The work must
+/// close it. Says whether there was a dialog. The dialogs are Qt's own: those of a platform cannot be driven by events.
+template <typename Dialog>
+bool withModalDialog(std::function<void()> const& open, std::function<void(Dialog&)> const& work) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     bool worked = false;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
         if (!dialog || !dialog->isVisible())
             return;
+        // While its field has no focus, a file dialog writes the file that it finds for each letter into the field,
+        // and with a window manager the focus comes later than the window.
+        if (!dialog->isActiveWindow()) {
+            dialog->activateWindow();
+            return;
+        }
         timer.stop();
         worked = true;
         work(*dialog);
@@ -24,6 +31,10 @@ inline bool withFileDialog(std::function<void()> const& open, std::function<void
     timer.start(0);
     open();
     return worked;
+}
+
+inline bool withFileDialog(std::function<void()> const& open, std::function<void(QFileDialog&)> const& work) {
+    return withModalDialog<QFileDialog>(open, work);
 }
 
 /// Types a file's name into the dialog and presses Return.

@@ -17,6 +17,9 @@ public:
     /// One message that contains a match of this pattern is wanted.
     void expect(QRegularExpression const& pattern);
 
+    /// Messages that contain a match of this pattern may come, any number of them.
+    void allow(QRegularExpression const& pattern);
+
     /// One sentence for each message that nobody expected and each expected one that has not come.
     QStringList complaints() const;
 
@@ -26,5 +29,6 @@ private:
     mutable std::mutex mutex_;
     QStringList received_;
     std::vector<QRegularExpression> expected_;
+    std::vector<QRegularExpression> allowed_;
     QtMessageHandler previous_;
 };

@@ -72,6 +72,10 @@ std::string TaloTest::takeWrittenOutput() {
     return output_.takeWritten();
 }
 
+void TaloTest::allowQtWarning(std::string const& pattern) {
+    messages_.allow(QRegularExpression(QString::fromStdString(pattern)));
+}
+
 void TaloTest::expectQtWarning(std::string const& pattern) {
     messages_.expect(QRegularExpression(QString::fromStdString(pattern)));
 }

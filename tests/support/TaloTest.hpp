@@ -32,6 +32,10 @@ protected:
     /// test, before or after this call.
     void expectQtWarning(std::string const& pattern);
 
+    /// Messages that contain a match of this regular expression may come during the test and are no failure, as those
+    /// that depend on when other programs do something.
+    void allowQtWarning(std::string const& pattern);
+
 private:
     OutputCapture output_;
     QtMessages messages_;
