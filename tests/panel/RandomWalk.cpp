@@ -113,6 +113,11 @@ void RandomWalk::step() {
         window_.show();
         window_.activateWindow();
     }
+    // Nobody is so fast that he types before the window has noticed that a popup has gone.
+    waitUntil([this] {
+        return QApplication::activePopupWidget() || QApplication::activeWindow() ||
+               QGuiApplication::focusWindow() != window_.windowHandle();
+    });
     auto const choice = below(1000);
     if (held_ || button_ != Qt::NoButton)
         moveOrRelease();
