@@ -171,6 +171,17 @@ TEST_F(StudioTest, EscapeCancels) {
     EXPECT_EQ(valueOf("render.status"), "Cancelled: the picture of draft.");
 }
 
+TEST_F(StudioTest, EscapeCancelsInTheFilterToo) {
+    makeEndless();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    start();
+    auto* const filter = window->findChild<QLineEdit*>(QStringLiteral("filter"));
+    filter->setFocus();
+    QTest::keyClick(filter, Qt::Key_Escape);
+    ASSERT_TRUE(ends());
+}
+
 TEST_F(StudioTest, TheLinkInTheStatusCancels) {
     makeEndless();
     auto* const status = control<QLabel>("render", "status");

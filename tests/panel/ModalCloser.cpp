@@ -1,0 +1,58 @@
+#include "ModalCloser.hpp"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QtTest>
+
+namespace {
+
+// In milliseconds.
+constexpr int interval = 5;
+
+// An event that takes so many intervals does not end by itself.
+constexpr int patience = 20;
+
+} // namespace
+
+ModalCloser::ModalCloser(std::mt19937& random, QStringList names) : random_(random), names_(std::move(names)) {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    connect(&timer_, &QTimer::timeout, this, &ModalCloser::look);
+    timer_.start(interval);
+}
+
+ModalCloser::~ModalCloser() = default;
+
+void ModalCloser::look() {
+    QPointer<QDialog> const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog && dialog->isVisible()) {
+        // Not from here: what comes up meanwhile, as the question whether to overwrite, needs this timer.
+        QTimer::singleShot(0, dialog, [this, dialog] { close(dialog); });
+        return;
+    }
+    if (++ticks_ < patience)
+        return;
+    ticks_ = 0;
+    if (auto* const popup = QApplication::activePopupWidget())
+        popup->close();
+    else if (auto* const window = QGuiApplication::focusWindow())
+        QTest::keyPress(window, Qt::Key_Escape);
+}
+
+void ModalCloser::close(QPointer<QDialog> const& dialog) {
+    if (!dialog || dialog != QApplication::activeModalWidget())
+        return;
+    auto* const files = qobject_cast<QFileDialog*>(dialog);
+    if (auto* const box = qobject_cast<QMessageBox*>(dialog)) {
+        auto const buttons = box->buttons();
+        buttons.at(static_cast<int>(random_() % static_cast<unsigned>(buttons.size())))->click();
+    } else if (files && random_() % 2 == 0) {
+        auto* const field = files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        field->setText(names_.at(static_cast<int>(random_() % static_cast<unsigned>(names_.size()))));
+        QTest::keyClick(field, Qt::Key_Return);
+    } else {
+        dialog->reject();
+    }
+}

@@ -1,0 +1,125 @@
+#include "PanelCheck.hpp"
+#include "contract/EditorCase.hpp"
+
+#include <algorithm>
+#include <bramble/Values.hpp>
+#include <lattice/InputCreator.hpp>
+#include <map>
+#include <panel/MissingEditor.hpp>
+#include <panel/network/ValueFormat.hpp>
+#include <QAbstractSlider>
+#include <QComboBox>
+#include <QDial>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+using Creator = Kolt::VInputCreatorBase const*;
+
+Creator chosen(Kolt::VParameter const& parameter) {
+    return Kolt::InputRegistry::theRegistry().choose(parameter, {"QT"}).creator.strong().get();
+}
+
+/// How the editors of each creator are read.
+std::map<Creator, EditorCase const*> casesByCreator() {
+    std::map<Creator, EditorCase const*> cases;
+    for (auto const& editor : editorCases()) {
+        Kolt::ParameterPtr const parameter(
+            new Kolt::VParameter("value", editor.makeValue(0), Kolt::VParameter::Values::Shared, editor.declaredType));
+        if (!editor.preferences.empty())
+            parameter->setCreationPreferences(Kolt::PreferencesPtr(new Kolt::VCreationPreferences(
+                Kolt::VCreationPreferences::Names(editor.preferences.begin(), editor.preferences.end()))));
+        cases[chosen(*parameter)] = &editor;
+    }
+    return cases;
+}
+
+int precision(Kolt::VParameter const& parameter) {
+    constexpr int usual = 6;
+    auto const* const properties = parameter.properties();
+    return properties ? Kolt::valueOr(properties->getValue("precision"), usual) : usual;
+}
+
+std::string expectedText(EditorCase const& editor, Kolt::VParameter const& parameter, Kolt::VValueBase const& value) {
+    // The contract's numbers have no precision of their own.
+    if (auto const* const number = dynamic_cast<Kolt::VValue<double> const*>(&value)) {
+        double real = 0;
+        number->get(real);
+        return QString::number(real, 'f', precision(parameter)).toStdString();
+    }
+    return editor.expected(value);
+}
+
+/// Whether the editor shows something that is no value: half of a date, that a colour is being picked, or a text that
+/// was typed into a list that has no such entry and was not taken.
+bool showsNoValue(QWidget& editor, Tessera::StrongPtr<Kolt::VValueBase> const& value) {
+    auto const* const field = qobject_cast<QLineEdit*>(&editor);
+    auto const* const label = qobject_cast<QLabel*>(&editor);
+    auto const* const list = editor.findChild<QComboBox*>();
+    auto const* const entries = Panel::entriesOf(value);
+    return (field && !field->hasAcceptableInput()) || (label && label->text() == QLatin1String(" picking")) ||
+           (list && list->isEditable() && entries &&
+            std::find(entries->begin(), entries->end(), list->currentText().toStdString()) == entries->end());
+}
+
+/// Where the handle of a whole number stands: a dial that goes round counts on, others stop at their end.
+int placeOf(int number, QAbstractSlider const& handle) {
+    auto const* const dial = qobject_cast<QDial const*>(&handle);
+    if (!dial || !dial->wrapping() || (number >= handle.minimum() && number <= handle.maximum()))
+        return qBound(handle.minimum(), number, handle.maximum());
+    auto const turn = static_cast<qint64>(handle.maximum()) - handle.minimum();
+    auto const rest = (static_cast<qint64>(number) - handle.minimum()) % turn;
+    return static_cast<int>(handle.minimum() + (rest < 0 ? rest + turn : rest));
+}
+
+std::string misplacedHandle(QWidget& editor, Kolt::VValueBase const& value) {
+    auto const* const handle = editor.findChild<QAbstractSlider*>();
+    auto const* const number = dynamic_cast<Kolt::VValue<int> const*>(&value);
+    int held = 0;
+    if (!handle || !number || !number->get(held))
+        return {};
+    int const place = placeOf(held, *handle);
+    return handle->value() == place
+               ? std::string()
+               : "a handle at " + std::to_string(handle->value()) + ", not " + std::to_string(place);
+}
+
+std::string disagreement(Panel::ParameterRow& row, std::map<Creator, EditorCase const*> const& cases, int& compared) {
+    auto const parameter = row.parameter();
+    if (!parameter || !row.editor() || qobject_cast<Panel::MissingEditor*>(row.editor()))
+        return {};
+    auto const found = cases.find(chosen(*parameter));
+    if (found == cases.end())
+        return "an editor that nobody can read";
+    auto const& editor = *found->second;
+    auto const local = parameter->getLocalValue(row.pool(), std::string(), false);
+    auto const value = local ? local : parameter->ownValue();
+    if (!editor.showsValue || showsNoValue(*row.editor(), value))
+        return {};
+    ++compared;
+    auto const expected = expectedText(editor, *parameter, *value);
+    auto const shown = editor.shown(*row.editor());
+    if (shown != expected)
+        return "shows \"" + shown + "\", not \"" + expected + "\"";
+    return misplacedHandle(*row.editor(), *value);
+}
+
+} // namespace
+
+std::vector<std::string> disagreements(Panel::MainWindow& window, int* compared) {
+    std::vector<std::string> all;
+    auto const cases = casesByCreator();
+    int count = 0;
+    auto const views = window.findChildren<Panel::ObjectView*>();
+    for (auto const* const view : views) {
+        for (auto* const row : view->rows()) {
+            auto const problem = disagreement(*row, cases, count);
+            if (!problem.empty())
+                all.push_back(view->object()->Name() + "." + row->parameterName().toStdString() + " " + problem);
+        }
+    }
+    if (compared)
+        *compared = count;
+    return all;
+}

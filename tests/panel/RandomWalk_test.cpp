@@ -1,0 +1,113 @@
+// The panel is used at random, by tens of thousands of events for each seed. Nothing may crash, Qt may not warn, and
+// what the views show and what the parameters hold must be the same at every rest.
+
+#include "PanelCheck.hpp"
+#include "PanelTest.hpp"
+#include "RandomWalk.hpp"
+
+using testing::AnyOf;
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+namespace {
+
+/// For each seed. On a display, where each takes longer, a tenth shows that it is no different there.
+int eventsOfAWalk() {
+    return QGuiApplication::platformName() == QLatin1String("offscreen") ? TALO_WALK_EVENTS : TALO_WALK_EVENTS / 10;
+}
+
+// Between two rests.
+constexpr int eventsBetweenRests = 250;
+
+// A history with more steps might have forgotten the first of them.
+constexpr std::size_t mostSteps = Kolt::UndoHistory::Capacity * 3 / 4;
+
+class RandomWalkTest : public PanelTest {
+protected:
+    void SetUp() override {
+        PanelTest::SetUp();
+        // Qt asks the display which window lies at a point, and the window manager may take one away meanwhile.
+        allowQtWarning("XCB error: 3 \\(BadWindow\\).*TranslateCoords");
+        ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_EXAMPLES "/fractal.json"), file));
+        QString error;
+        ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
+        // The picture costs most of the time and is not what is tested here.
+        window->studio().previewAction()->trigger();
+        window->resize(900, 700);
+        window->show();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    void TearDown() override {
+        QApplication::clipboard()->clear();
+        PanelTest::TearDown();
+        // The lists for multiple choice say what they do.
+        takeOutput();
+    }
+
+    QString const file = folder.filePath(QStringLiteral("fractal.json"));
+};
+
+class RandomWalkOfSeed : public RandomWalkTest, public testing::WithParamInterface<unsigned> {};
+
+} // namespace
+
+TEST_P(RandomWalkOfSeed, LeavesEveryViewInAgreementWithItsParameter) {
+    RandomWalk walk(*window, plugins, folder.path(), GetParam());
+    int const events = eventsOfAWalk();
+    int compared = 0;
+    for (int event = 1; event <= events && !HasFailure(); ++event) {
+        SCOPED_TRACE("seed " + std::to_string(GetParam()) + ", event " + std::to_string(event));
+        walk.step();
+        if (event % eventsBetweenRests != 0 && event != events)
+            continue;
+        ASSERT_EQ(walk.settle(), "");
+        int rows = 0;
+        // What a worker tells comes a moment later.
+        waitUntil([this] { return disagreements(*window).empty(); }, 2000);
+        EXPECT_THAT(disagreements(*window, &rows), IsEmpty());
+        compared += rows;
+        auto const steps = Kolt::UndoHistory::theHistory().steps().size();
+        if (steps < mostSteps && event != events)
+            continue;
+        EXPECT_THAT(walk.goBackAndForth(), IsEmpty());
+        EXPECT_THAT(disagreements(*window), IsEmpty());
+        walk.beginAnew();
+    }
+    // The check has looked at something.
+    EXPECT_GT(compared, events / eventsBetweenRests);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalkOfSeed, testing::Range(1U, 6U));
+
+TEST_F(RandomWalkTest, AgreesAtTheStart) {
+    int compared = 0;
+    EXPECT_THAT(disagreements(*window, &compared), IsEmpty());
+    EXPECT_EQ(compared, 8);
+}
+
+TEST_F(RandomWalkTest, FindsAValueThatNobodyWasToldOf) {
+    auto const iterations = parameter("formula.iterations");
+    iterations->getLocalValue(window->pools().pool(), std::string(), false)->setValueFromText("123");
+    EXPECT_THAT(disagreements(*window), ElementsAre(HasSubstr("formula.iterations shows \"100\", not \"123\"")));
+}
+
+TEST_F(RandomWalkTest, FindsAHandleThatStaysBehind) {
+    auto* const slider = window->currentView()->row(QStringLiteral("iterations"))->editor()->findChild<QSlider*>();
+    QSignalBlocker const blocker(slider);
+    slider->setValue(300);
+    EXPECT_THAT(disagreements(*window), ElementsAre(HasSubstr("formula.iterations a handle at 300, not 100")));
+}
+
+TEST_F(RandomWalkTest, FindsAnEditThatIsNotTakenBack) {
+    RandomWalk walk(*window, plugins, folder.path(), 1);
+    ASSERT_EQ(walk.settle(), "");
+    EXPECT_THAT(walk.goBackAndForth(), IsEmpty());
+    set("formula.symmetry", "7");
+    EXPECT_THAT(walk.goBackAndForth(),
+                ElementsAre(HasSubstr("formula.symmetry is {\"value\":7} after all was taken back")));
+}
