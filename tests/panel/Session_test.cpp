@@ -187,7 +187,7 @@ TEST_F(SessionTest, ADamagedFileIsNoHarm) {
         EXPECT_FALSE(shownObject().isEmpty());
         EXPECT_TRUE(window->screen()->availableGeometry().intersects(window->frameGeometry()));
         EXPECT_TRUE(window->isVisible());
-        EXPECT_GE(window->width(), window->minimumSizeHint().width());
+        EXPECT_TRUE(waitUntil([&] { return window->width() >= window->minimumSizeHint().width(); }));
     };
     for (int size = 0; size < good.size(); size += 37)
         startWith(good.left(size));
