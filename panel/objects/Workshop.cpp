@@ -81,13 +81,15 @@ void Workshop::post(std::shared_ptr<PictureJob> const& job) {
 }
 
 void Workshop::take() {
-    // What is told may take the network away, and the worker with it.
-    while (auto const task = worker_ ? worker_->takeDone() : nullptr) {
-        auto const job = std::static_pointer_cast<PictureJob>(task);
-        jobs_.pop_front();
-        emit progressed();
-        finish(*job);
-    }
+    // One for each that was told of: what a later one said of itself on the worker's thread is still on its way, and
+    // would be shown after what is said of it here. The network may have gone meanwhile, and the worker with it.
+    auto const task = worker_ ? worker_->takeDone() : nullptr;
+    if (!task)
+        return;
+    auto const job = std::static_pointer_cast<PictureJob>(task);
+    jobs_.pop_front();
+    emit progressed();
+    finish(*job);
 }
 
 void Workshop::finish(PictureJob const& job) {

@@ -43,6 +43,24 @@ private:
     std::thread::id const home_ = std::this_thread::get_id();
 };
 
+/// Shows the status as a label does: what another thread tells is shown when its turn comes.
+class Display : public QObject, public Kolt::ValueNotifier {
+public:
+    explicit Display(Kolt::ParameterPtr const& status) {
+        status->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
+    }
+    ~Display() override { leaveDelivery(); }
+
+    std::string shown;
+
+private:
+    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& value, Kolt::VContext const&,
+                       Kolt::ValueMap const*) override {
+        QMetaObject::invokeMethod(
+            this, [this, text = value->Text()] { shown = text; }, Qt::AutoConnection);
+    }
+};
+
 class WorkshopTest : public FractalNetworkTest {
 protected:
     void SetUp() override {
@@ -102,6 +120,23 @@ TEST_F(WorkshopTest, TheWorkerItselfReportsItsStatus) {
     EXPECT_THAT(reports->texts(), Contains(HasSubstr("Computing the picture of draft: 100 %")));
     EXPECT_EQ(reports->fromElsewhere(), static_cast<int>(reports->texts().size()) - 1);
     EXPECT_GT(parameter("render.status")->ownValue()->age(), age);
+}
+
+TEST_F(WorkshopTest, WhatIsToldLastIsShownLastHoweverFastTheWorkerIs) {
+    Display const display(parameter("render.status"));
+    for (int round = 0; round < 10; ++round) {
+        auto const first = folder.filePath(QStringLiteral("%1 first.png").arg(round));
+        auto const second = folder.filePath(QStringLiteral("%1 second.png").arg(round));
+        workshop.write(ExporterObject::Format::Png, first, draft);
+        workshop.write(ExporterObject::Format::Png, second, draft);
+        // Both are done before anybody hears of the first one.
+        while (!QFile::exists(second))
+            std::this_thread::yield();
+        ASSERT_TRUE(ends());
+        QCoreApplication::sendPostedEvents();
+        EXPECT_EQ(display.shown, status());
+        EXPECT_EQ(status(), "Wrote " + second.toStdString() + ".");
+    }
 }
 
 TEST_F(WorkshopTest, TheInformationIsToldOnTheUserInterfaceThreadAlone) {
