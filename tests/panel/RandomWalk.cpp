@@ -245,7 +245,8 @@ void RandomWalk::turnWheel() {
 
 void RandomWalk::pressKey() {
     auto* const window = QGuiApplication::focusWindow();
-    if (!window) {
+    // Where no window is active, no key arrives.
+    if (!window || !QApplication::activeWindow()) {
         window_.activateWindow();
         return;
     }
@@ -402,10 +403,12 @@ std::vector<std::string> RandomWalk::differences(QJsonObject const& expected, ch
 std::vector<std::string> RandomWalk::goBackAndForth() {
     auto const& history = Kolt::UndoHistory::theHistory();
     auto const end = values();
+    // Those that the walk had taken back by itself are not to be made again.
+    auto const undoneBefore = history.undoneSteps().size();
     while (history.nextUndo())
         window_.undo();
     auto all = differences(start_, "after all was taken back");
-    while (history.nextRedo())
+    while (history.undoneSteps().size() > undoneBefore)
         window_.redo();
     auto const there = differences(end, "after all was made again");
     all.insert(all.end(), there.begin(), there.end());

@@ -74,7 +74,8 @@ TEST_P(RandomWalkOfSeed, LeavesEveryViewInAgreementWithItsParameter) {
         auto const steps = Kolt::UndoHistory::theHistory().steps().size();
         if (steps < mostSteps && event != events)
             continue;
-        EXPECT_THAT(walk.goBackAndForth(), IsEmpty());
+        EXPECT_THAT(walk.goBackAndForth(), IsEmpty())
+            << qPrintable(window->messages()->texts(Panel::MessageList::Source::Error).join(QLatin1Char('\n')));
         EXPECT_THAT(disagreements(*window), IsEmpty());
         walk.beginAnew();
     }
