@@ -112,15 +112,22 @@ protected:
             auto const* const field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
             desktop.key("alt+n");
             EXPECT_TRUE(waitUntil([&] { return field->hasFocus(); }));
-            desktop.key("ctrl+a");
-            desktop.type(name);
-            EXPECT_TRUE(waitUntil([&] { return field->text() == name; })) << qPrintable(field->text());
-            // The names that go on from here: a person who has typed the whole name does not want them.
-            if (QApplication::activePopupWidget()) {
-                desktop.key("Escape");
-                EXPECT_TRUE(waitUntil([] { return QApplication::activePopupWidget() == nullptr; }));
+            // The names that go on from what is typed are looked up meanwhile and may fold out at any moment, even
+            // over the Return: a person who sees the dialog still there closes the list and presses Return again.
+            for (int attempt = 0; attempt < 6 && dialog.isVisible(); ++attempt) {
+                if (QApplication::activePopupWidget()) {
+                    desktop.key("Escape");
+                    EXPECT_TRUE(waitUntil([] { return QApplication::activePopupWidget() == nullptr; }));
+                }
+                if (field->text() != name) {
+                    desktop.key("ctrl+a");
+                    desktop.type(name);
+                    EXPECT_TRUE(waitUntil([&] { return field->text() == name; })) << qPrintable(field->text());
+                    continue;
+                }
+                desktop.key("Return");
+                waitUntil([&] { return !dialog.isVisible(); }, 2000);
             }
-            desktop.key("Return");
             close(dialog);
             entered = true;
         }));
