@@ -40,7 +40,8 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     splitter->setChildrenCollapsible(false);
     objectList_->setMinimumWidth(160);
     setCentralWidget(splitter);
-    setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
+    // Without animation: one that goes on when the window goes is never freed.
+    setDockOptions(AllowNestedDocks | AllowTabbedDocks);
 
     auto* const messageDock = new QDockWidget(tr("Messages"));
     messageDock->setObjectName(QStringLiteral("messages"));

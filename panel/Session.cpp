@@ -62,8 +62,8 @@ void Session::follow(MainWindow& window) {
 }
 
 bool Session::eventFilter(QObject* watched, QEvent* event) {
-    // Before the window hides its docks.
-    if (watched == window_ && event->type() == QEvent::Close)
+    // Before the window hides its docks. Of other events some come when the window is no window any more.
+    if (event->type() == QEvent::Close && watched == window_)
         keep();
     return QObject::eventFilter(watched, event);
 }

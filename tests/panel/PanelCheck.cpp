@@ -41,7 +41,16 @@ int precision(Kolt::VParameter const& parameter) {
     return properties ? Kolt::valueOr(properties->getValue("precision"), usual) : usual;
 }
 
-std::string expectedText(EditorCase const& editor, Kolt::VParameter const& parameter, Kolt::VValueBase const& value) {
+std::string expectedText(EditorCase const& editor, Panel::ParameterRow& row, Kolt::VValueBase const& value) {
+    auto const& parameter = *row.parameter();
+    // A field with a mask shows what the mask lets through, whatever was pasted.
+    auto const* const field = qobject_cast<QLineEdit const*>(row.editor());
+    if (field && !field->inputMask().isEmpty()) {
+        QLineEdit masked;
+        masked.setInputMask(field->inputMask());
+        masked.setText(QString::fromStdString(value.Text()));
+        return masked.text().toStdString();
+    }
     // The contract's numbers have no precision of their own.
     if (auto const* const number = dynamic_cast<Kolt::VValue<double> const*>(&value)) {
         double real = 0;
@@ -98,7 +107,7 @@ std::string disagreement(Panel::ParameterRow& row, std::map<Creator, EditorCase 
     if (!editor.showsValue || showsNoValue(*row.editor(), value))
         return {};
     ++compared;
-    auto const expected = expectedText(editor, *parameter, *value);
+    auto const expected = expectedText(editor, row, *value);
     auto const shown = editor.shown(*row.editor());
     if (shown != expected)
         return "shows \"" + shown + "\", not \"" + expected + "\"";
