@@ -6,7 +6,7 @@ namespace Kolt {
 
 /// A line edit that remembers the text last shown in it. Return commits what was typed; whoever leaves the field
 /// without it finds the remembered text again, so that the field never shows a text that holds nowhere. A window that
-/// merely loses the focus, or a menu that opens, leaves the typed text alone.
+/// merely loses the focus, or a menu that opens, leaves the typed text alone, unless the focus comes back elsewhere.
 class QLeaveLineEdit : public QLineEdit {
     Q_OBJECT
 
@@ -22,7 +22,11 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void leave();
+
     QString remembered_;
+    // While the window is not active or a menu is open.
+    QMetaObject::Connection return_;
 };
 
 } // namespace Kolt

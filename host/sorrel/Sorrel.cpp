@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QFocusEvent>
 #include <sorrel/InputFrontEnd.hpp>
 #include <sorrel/QIconizer.hpp>
@@ -35,8 +36,23 @@ void QLeaveLineEdit::showText(QString const& text) {
 
 void QLeaveLineEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason &&
-        text() != remembered_)
+    disconnect(return_);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        leave();
+        return;
+    }
+    // The user may come back, or the focus may move on meanwhile, of which this widget is not told.
+    return_ = connect(qApp, &QApplication::focusChanged, this, [this](QWidget const*, QWidget const* now) {
+        if (!now || now->window()->windowType() == Qt::Popup)
+            return;
+        disconnect(return_);
+        if (now != this)
+            leave();
+    });
+}
+
+void QLeaveLineEdit::leave() {
+    if (text() != remembered_)
         setText(remembered_);
 }
 

@@ -64,6 +64,24 @@ TEST_F(LeaveLineEdit, LeavesTheTypedTextAloneWhenTheWindowLosesTheFocusOrAMenuOp
     }
 }
 
+TEST_F(LeaveLineEdit, ShowsTheRememberedTextAgainWhenTheFocusComesBackElsewhere) {
+    QWidget elsewhere;
+    elsewhere.show();
+    for (auto* const next : {static_cast<QWidget*>(&edit_), static_cast<QWidget*>(&other_)}) {
+        edit_.setFocus();
+        ASSERT_TRUE(waitUntil([&] { return edit_.hasFocus(); }));
+        edit_.selectAll();
+        QTest::keyClicks(&edit_, "345");
+        elsewhere.activateWindow();
+        ASSERT_TRUE(waitUntil([&] { return elsewhere.isActiveWindow(); }));
+        EXPECT_EQ(edit_.text(), "345");
+        next->setFocus();
+        window_.activateWindow();
+        ASSERT_TRUE(waitUntil([&] { return next->hasFocus(); }));
+        EXPECT_EQ(edit_.text(), next == &edit_ ? "345" : "12");
+    }
+}
+
 TEST_F(LeaveLineEdit, SaysNothingOfEditsWhenTheProgramShowsAText) {
     QSignalSpy const edited(&edit_, &QLineEdit::textEdited);
     edit_.showText("7");
