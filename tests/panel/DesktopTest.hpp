@@ -16,8 +16,6 @@ class DesktopTest : public PanelTest {
 protected:
     void SetUp() override {
         PanelTest::SetUp();
-        // Qt asks the display which window lies at a point, and the window manager may take one away meanwhile.
-        allowQtWarning("XCB error: 3 \\(BadWindow\\).*TranslateCoords");
         ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_EXAMPLES "/fractal.json"), file));
         QString error;
         ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
