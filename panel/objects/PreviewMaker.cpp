@@ -125,11 +125,11 @@ void PreviewMaker::change() {
 }
 
 void PreviewMaker::rest() {
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+    // The coarse picture is shown first, however long it takes: the fine one takes longer.
+    if (drawing_ || QGuiApplication::mouseButtons() != Qt::NoButton) {
         restTimer_.start();
         return;
     }
-    worker_.cancel();
     post(true);
 }
 

@@ -6,7 +6,9 @@
 #include <lattice/UndoHistory.hpp>
 #include <panel/MainWindow.hpp>
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QTemporaryDir>
+#include <QToolButton>
 
 /// A panel around the built plug-in file, with a network of two lamps open.
 class PanelTest : public TaloTest {
@@ -20,10 +22,19 @@ protected:
     }
 
     void TearDown() override {
+        waitForFading();
         window.reset();
         QString error;
         EXPECT_TRUE(plugins.unload(&error)) << qPrintable(error);
         TaloTest::TearDown();
+    }
+
+    /// Qt forgets the animation of the filter's clear button where the button goes before it has ended.
+    void waitForFading() const {
+        auto const* const filter = window ? window->findChild<QLineEdit*>(QStringLiteral("filter")) : nullptr;
+        auto const* const button = filter ? filter->findChild<QToolButton*>() : nullptr;
+        double const opacity = filter && !filter->text().isEmpty() ? 1 : 0;
+        EXPECT_TRUE(!button || waitUntil([&] { return button->property("opacity").toDouble() == opacity; }));
     }
 
     static constexpr char const* lamps = R"({

@@ -74,6 +74,9 @@ std::vector<Stroke> const rareStrokes = {
 
 constexpr int mostViews = 3;
 
+// In milliseconds: for what usually comes at once, and is no failure if it does not.
+constexpr int soon = 1000;
+
 QStringList namesIn(QString const& folder) {
     QStringList names;
     for (auto const* const name : {"walk.json", "other.json", "picture.png", "document.pdf", "colours.gpl", "no/where"})
@@ -114,10 +117,12 @@ void RandomWalk::step() {
         window_.activateWindow();
     }
     // Nobody is so fast that he types before the window has noticed that a popup has gone.
-    waitUntil([this] {
-        return QApplication::activePopupWidget() || QApplication::activeWindow() ||
-               QGuiApplication::focusWindow() != window_.windowHandle();
-    });
+    waitUntil(
+        [this] {
+            return QApplication::activePopupWidget() || QApplication::activeWindow() ||
+                   QGuiApplication::focusWindow() != window_.windowHandle();
+        },
+        soon);
     auto const choice = below(1000);
     if (held_ || button_ != Qt::NoButton)
         moveOrRelease();
@@ -183,6 +188,14 @@ QPoint inWindow(QWidget const& widget, QPoint const& place) {
     return {qBound(0, point.x(), widget.window()->width() - 1), qBound(0, point.y(), widget.window()->height() - 1)};
 }
 
+/// A press activates the window, as every window manager has it. A popup is in front anyway.
+void activate(QWidget& window) {
+    if (QApplication::activePopupWidget() || window.isActiveWindow())
+        return;
+    window.activateWindow();
+    waitUntil([&window] { return window.isActiveWindow(); }, soon);
+}
+
 /// The press may close the window.
 void click(QPointer<QWindow> const& window, Qt::MouseButton button, QPoint const& point) {
     QTest::mousePress(window.data(), button, {}, point);
@@ -203,7 +216,10 @@ void RandomWalk::press(QWidget& widget) {
     auto const button = kind == 0 ? Qt::RightButton : kind == 1 ? Qt::MiddleButton : Qt::LeftButton;
     if (kind == 2) {
         QTest::mouseMove(window.data(), point);
-    } else if (kind < 12) {
+        return;
+    }
+    activate(*widget.window());
+    if (kind < 12) {
         // The second press of a double click comes soon, as far as Qt sees the time.
         click(window, button, point);
         if (window && kind == 3) {
@@ -372,7 +388,7 @@ std::string RandomWalk::settle() {
         return "the list of objects does not get the focus";
     if (auto* const cancel = window_.findChild<QPushButton*>(QStringLiteral("cancel")))
         cancel->click();
-    if (!waitUntil([this] { return !window_.studio().workshop().isComputing(); }, 30000))
+    if (!waitUntil([this] { return !window_.studio().workshop().isComputing(); }))
         return "a picture is computed without end";
     // What was put off: the end of a gesture, rows that are made later.
     QCoreApplication::processEvents();

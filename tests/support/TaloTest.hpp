@@ -43,8 +43,9 @@ private:
     std::vector<QPointer<QWidget>> earlierWidgets_;
 };
 
-/// Handles events until the condition, a call without arguments, holds; false if it still does not after this time.
+/// Handles events until the condition, a call without arguments, holds; false if it still does not after this time,
+/// which is long, as a slow build on a busy machine takes its time.
 template <typename Condition>
-bool waitUntil(Condition&& condition, int milliseconds = 5000) {
+bool waitUntil(Condition&& condition, int milliseconds = 30000) {
     return QTest::qWaitFor(std::forward<Condition>(condition), milliseconds);
 }

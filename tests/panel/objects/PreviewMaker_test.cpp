@@ -142,7 +142,7 @@ TEST_F(PreviewMakerTest, AnOutdatedFinePictureIsCancelled) {
     set("formula.kind", "Burning ship");
     set("formula.iterations", "20000");
     set("formula.quality", "3");
-    ASSERT_TRUE(waitUntil([&] { return maker.isRefining(); }, 60000));
+    ASSERT_TRUE(waitUntil([&] { return maker.isRefining(); }));
     EXPECT_FALSE(maker.isFine());
     set("formula.iterations", "10");
     ASSERT_TRUE(waitUntil([&] { return !maker.isRefining(); }));
