@@ -137,10 +137,10 @@ TEST_F(PreviewMakerTest, AnotherSizeHasAnotherPicture) {
 
 TEST_F(PreviewMakerTest, AnOutdatedFinePictureIsCancelled) {
     ASSERT_TRUE(rests());
-    // This takes minutes where it is not cancelled.
-    maker.setSize({1000, 750});
+    // This takes half a minute where it is not cancelled, and the coarse one not a second.
+    maker.setSize({400, 300});
     set("formula.kind", "Burning ship");
-    set("formula.iterations", "20000");
+    set("formula.iterations", "10000");
     set("formula.quality", "3");
     ASSERT_TRUE(waitUntil([&] { return maker.isRefining(); }));
     EXPECT_FALSE(maker.isFine());
