@@ -3,12 +3,11 @@
 // times a second while the rows of all kinds are shown.
 
 #include "BenchmarkCase.hpp"
+#include "BenchmarkProgram.hpp"
 #include "RatioReporter.hpp"
 
 #include <algorithm>
-#include <cstdio>
 #include <iostream>
-#include <lattice/PluginLoader.hpp>
 #include <malloc.h>
 #include <map>
 #include <memory>
@@ -351,35 +350,19 @@ void add(std::string const& side) {
     add("rows", static_cast<int>(benchmarkCases().size()), rows<TheSide>);
 }
 
-void passOver(QtMsgType, QMessageLogContext const&, QString const&) {}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // What the editors print goes nowhere; the results go to std::cout.
-    stdout = std::fopen("/dev/null", "w");
-    qInstallMessageHandler(passOver);
-    QApplication const application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-
-    Kolt::VInitialization host;
-    Kolt::PluginLoader loader(host);
-    auto const outcome = loader.load(TALO_PLUGIN_FILE);
-    if (!outcome.ok) {
-        std::cerr << outcome.message << "\n";
-        return 2;
-    }
-    add<BareSide>("bare");
-    add<PanelSide>("plug-in");
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    for (auto const& [side, longest] : longestSteps())
-        std::cout << "The longest step of the scroll took " << longest << " ms (" << side << "); a frame is 16 ms.\n";
-    benchmark::Shutdown();
-    return 0;
+    return runBenchmarkProgram(argc, argv, [] {
+        add<BareSide>("bare");
+        add<PanelSide>("plug-in");
+        RatioReporter reporter;
+        benchmark::RunSpecifiedBenchmarks(&reporter);
+        for (auto const& [side, longest] : longestSteps())
+            std::cout << "The longest step of the scroll took " << longest << " ms (" << side
+                      << "); a frame is 16 ms.\n";
+        return 0;
+    });
 }
 
 #include "Network_benchmark.moc"

@@ -2,13 +2,13 @@
 // that it makes the editor do until it stands drawn again. At the end each action is held against the goals: 0.1 s on
 // 100,000 strings, 1.0 s for filling the list anew, and at most 15 times the cost of 10,000 strings.
 
+#include "BenchmarkProgram.hpp"
+
 #include <benchmark/benchmark.h>
 #include <bramble/Selection.hpp>
-#include <cstdio>
 #include <functional>
 #include <iomanip>
 #include <iostream>
-#include <lattice/PluginLoader.hpp>
 #include <map>
 #include <QApplication>
 #include <QCheckBox>
@@ -187,28 +187,15 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // What the editors print goes nowhere; the results go to std::cout.
-    stdout = std::fopen("/dev/null", "w");
-    QApplication const application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 2;
-
-    Kolt::VInitialization host;
-    Kolt::PluginLoader loader(host);
-    auto const outcome = loader.load(TALO_PLUGIN_FILE);
-    if (!outcome.ok) {
-        std::cerr << outcome.message << "\n";
-        return 2;
-    }
-    for (auto const& action : actions())
-        benchmark::RegisterBenchmark(action.name, measure, action)
-            ->Arg(100)
-            ->Arg(mediumSize)
-            ->Arg(largeSize)
-            ->Unit(benchmark::kMillisecond);
-    GoalReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    return reporter.judge() ? 0 : 1;
+    return runBenchmarkProgram(argc, argv, [] {
+        for (auto const& action : actions())
+            benchmark::RegisterBenchmark(action.name, measure, action)
+                ->Arg(100)
+                ->Arg(mediumSize)
+                ->Arg(largeSize)
+                ->Unit(benchmark::kMillisecond);
+        GoalReporter reporter;
+        benchmark::RunSpecifiedBenchmarks(&reporter);
+        return reporter.judge() ? 0 : 1;
+    });
 }

@@ -1,11 +1,12 @@
 // Typing into a text of one megabyte with many lines: the plug-in's editor beside a bare Qt one that copies its text at
 // every trigger. Prints the ratio of the fastest rounds.
 
+#include "BenchmarkProgram.hpp"
+
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <cstdio>
-#include <lattice/Initialization.hpp>
-#include <lattice/PluginLoader.hpp>
+#include <iomanip>
+#include <iostream>
 #include <map>
 #include <memory>
 #include <QApplication>
@@ -111,30 +112,18 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication const application(argc, argv);
-    Kolt::VInitialization host;
-    Kolt::PluginLoader loader(host);
-    auto const outcome = loader.load(TALO_PLUGIN_FILE);
-    if (!outcome.ok) {
-        std::fprintf(stderr, "%s\n", outcome.message.c_str());
-        return 2;
-    }
-    benchmark::RegisterBenchmark("type/bare", typeIntoBareQt)
-        ->MinTime(0.1)
-        ->Repetitions(9)
-        ->Unit(benchmark::kMicrosecond);
-    benchmark::RegisterBenchmark("type/plugin", typeIntoThePlugin)
-        ->MinTime(0.1)
-        ->Repetitions(9)
-        ->Unit(benchmark::kMicrosecond);
-    benchmark::Initialize(&argc, argv);
-    FastestRounds rounds;
-    benchmark::RunSpecifiedBenchmarks(&rounds);
-    auto const bare = rounds.of("type/bare");
-    auto const plugin = rounds.of("type/plugin");
-    if (bare > 0.0 && plugin > 0.0)
-        std::printf("Typing into a text of one megabyte takes %.2f times as long as in bare Qt; the goal is 1.2.\n",
-                    plugin / bare);
-    return bare > 0.0 && plugin > 0.0 ? 0 : 1;
+    return runBenchmarkProgram(argc, argv, [] {
+        for (auto const& [name, measure] :
+             {std::pair("type/bare", typeIntoBareQt), std::pair("type/plugin", typeIntoThePlugin)})
+            benchmark::RegisterBenchmark(name, measure)->MinTime(0.1)->Repetitions(9)->Unit(benchmark::kMicrosecond);
+        FastestRounds rounds;
+        benchmark::RunSpecifiedBenchmarks(&rounds);
+        auto const bare = rounds.of("type/bare");
+        auto const plugin = rounds.of("type/plugin");
+        if (bare <= 0.0 || plugin <= 0.0)
+            return 1;
+        std::cout << "Typing into a text of one megabyte takes " << std::fixed << std::setprecision(2) << plugin / bare
+                  << " times as long as in bare Qt; the goal is 1.2.\n";
+        return 0;
+    });
 }

@@ -1,10 +1,10 @@
 #include "BenchmarkCase.hpp"
+#include "BenchmarkProgram.hpp"
 #include "RatioReporter.hpp"
 #include "Sides.hpp"
 
-#include <cstdio>
 #include <iostream>
-#include <lattice/PluginLoader.hpp>
+#include <lattice/InputCreator.hpp>
 #include <malloc.h>
 #include <QApplication>
 
@@ -121,46 +121,22 @@ void tellMissingCases() {
     }
 }
 
-void passOver(QtMsgType, QMessageLogContext const&, QString const&) {}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    // What the editors print goes nowhere; the results go to std::cout.
-    stdout = std::fopen("/dev/null", "w");
-    // The offscreen platform warns of every window, which would be measured.
-    qInstallMessageHandler(passOver);
-    QApplication application(argc, argv);
-
-    // Both sides take turns, so that a busy machine is no slower for one of them. What the user says comes later and
-    // wins.
-    std::string interleaving = "--benchmark_enable_random_interleaving=true";
-    std::vector<char*> arguments(argv, argv + argc);
-    arguments.insert(arguments.begin() + 1, interleaving.data());
-    int count = static_cast<int>(arguments.size());
-    arguments.push_back(nullptr);
-    benchmark::Initialize(&count, arguments.data());
-    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
-        return 2;
-
-    Kolt::VInitialization host;
-    Kolt::PluginLoader loader(host);
-    auto const outcome = loader.load(TALO_PLUGIN_FILE);
-    if (!outcome.ok) {
-        std::cerr << outcome.message << "\n";
-        return 2;
-    }
-    for (auto const& benchmarkCase : benchmarkCases()) {
-        add<BareSide>(benchmarkCase, "bare");
-        add<PluginSide>(benchmarkCase, "plug-in");
-    }
-    RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    tellMissingCases();
+    auto const run = [] {
+        for (auto const& benchmarkCase : benchmarkCases()) {
+            add<BareSide>(benchmarkCase, "bare");
+            add<PluginSide>(benchmarkCase, "plug-in");
+        }
+        RatioReporter reporter;
+        benchmark::RunSpecifiedBenchmarks(&reporter);
+        tellMissingCases();
 #ifndef NDEBUG
-    std::cout << "This build is not optimised: its figures say little.\n";
+        std::cout << "This build is not optimised: its figures say little.\n";
 #endif
-    benchmark::Shutdown();
-    return 0;
+        return 0;
+    };
+    // Both sides take turns, so that a busy machine is no slower for one of them.
+    return runBenchmarkProgram(argc, argv, run, {"--benchmark_enable_random_interleaving=true"});
 }

@@ -18,7 +18,7 @@ if(TALO_SANITIZE)
 endif()
 if(TALO_COVERAGE)
     # Threads that count the same line must not lose or turn round each other's counts.
-    target_compile_options(talo_compile INTERFACE --coverage -O0 -fprofile-update=atomic)
+    target_compile_options(talo_compile INTERFACE --coverage -Og -fprofile-update=atomic)
     target_link_options(talo_compile INTERFACE --coverage)
 endif()
 

@@ -1,25 +1,16 @@
 #include <algorithm>
 #include <panel/Gallery.hpp>
-#include <QDockWidget>
 #include <QVBoxLayout>
 
 namespace Panel {
 
-Gallery::Gallery(QWidget* parent) : QMainWindow(parent), states_(new QTabWidget), messages_(new MessageList) {
+Gallery::Gallery(QWidget* parent) : QMainWindow(parent), states_(new QTabWidget), messageDock_(new MessageDock(*this)) {
     setWindowTitle(tr("Gallery – Talo panel"));
     states_->setDocumentMode(true);
     states_->setAccessibleName(tr("States"));
     setCentralWidget(states_);
 
-    auto* const messageDock = new QDockWidget(tr("Messages"));
-    messageDock->setObjectName(QStringLiteral("messages"));
-    messageDock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
-    messageDock->setWidget(messages_);
-    addDockWidget(Qt::BottomDockWidgetArea, messageDock);
-    resizeDocks({messageDock}, {110}, Qt::Vertical);
-    connect(&warnings_, &WarningListener::warned, this,
-            [this](QString const& text) { messages_->add(MessageList::Source::Warning, text); });
-
+    messageDock_->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
     for (auto const state : galleryStates()) {
         auto* const place = new QWidget;
         auto* const layout = new QVBoxLayout(place);
@@ -32,7 +23,7 @@ Gallery::Gallery(QWidget* parent) : QMainWindow(parent), states_(new QTabWidget)
 }
 
 Gallery::~Gallery() {
-    // While the listener still stands.
+    // While the messages still stand.
     delete takeCentralWidget();
 }
 
@@ -49,18 +40,10 @@ GalleryPage* Gallery::page(int index) {
         return page;
     auto* const page = new GalleryPage(galleryStates().at(static_cast<std::size_t>(index)), place);
     connect(page, &GalleryPage::actionFired, this, [this](QString const& name) {
-        messages_->add(MessageList::Source::Panel, tr("Action %1 was fired.").arg(name));
+        messages()->add(MessageList::Source::Panel, tr("Action %1 was fired.").arg(name));
     });
     place->layout()->addWidget(page);
     return page;
-}
-
-void Gallery::tapStandardOutput() {
-    if (outputTap_)
-        return;
-    outputTap_ = std::make_unique<StandardOutputTap>();
-    connect(outputTap_.get(), &StandardOutputTap::linePrinted, this,
-            [this](QString const& line) { messages_->add(MessageList::Source::Output, line); });
 }
 
 } // namespace Panel

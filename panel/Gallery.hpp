@@ -1,10 +1,7 @@
 #pragma once
 
-#include <memory>
 #include <panel/GalleryPage.hpp>
-#include <panel/MessageList.hpp>
-#include <panel/StandardOutputTap.hpp>
-#include <panel/WarningListener.hpp>
+#include <panel/MessageDock.hpp>
 #include <QMainWindow>
 #include <QTabWidget>
 
@@ -23,17 +20,15 @@ public:
 
     /// Shows a state and gives its page.
     GalleryPage* showState(GalleryState state);
-    MessageList* messages() const { return messages_; }
+    MessageList* messages() const { return messageDock_->messages(); }
     /// From now on lines on standard output are messages, too.
-    void tapStandardOutput();
+    void tapStandardOutput() { messageDock_->tapStandardOutput(); }
 
 private:
     GalleryPage* page(int index);
 
-    WarningListener warnings_;
-    std::unique_ptr<StandardOutputTap> outputTap_;
     QTabWidget* const states_;
-    MessageList* const messages_;
+    MessageDock* const messageDock_;
 };
 
 } // namespace Panel

@@ -27,7 +27,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
       plugins_(plugins),
       objectList_(new ObjectList(pools_)),
       viewStack_(new QStackedWidget),
-      messages_(new MessageList),
+      messageDock_(new MessageDock(*this)),
       historyList_(new HistoryList),
       poolSelector_(new QComboBox),
       filterField_(new QLineEdit),
@@ -43,28 +43,20 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     // Without animation: one that goes on when the window goes is never freed.
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
 
-    auto* const messageDock = new QDockWidget(tr("Messages"));
-    messageDock->setObjectName(QStringLiteral("messages"));
-    messageDock->setWidget(messages_);
-    addDockWidget(Qt::BottomDockWidgetArea, messageDock);
-    resizeDocks({messageDock}, {110}, Qt::Vertical);
-
     studio_ = std::make_unique<Studio>(*this);
     connect(studio_.get(), &Studio::told, this,
-            [this](QString const& text) { messages_->add(MessageList::Source::Panel, text); });
+            [this](QString const& text) { messages()->add(MessageList::Source::Panel, text); });
     makeHistoryDock();
     makeToolBar();
     makeFileMenu();
     makeEditMenu();
-    makeViewMenu(messageDock->toggleViewAction());
+    makeViewMenu();
     makePluginMenu();
     statusBar()->addPermanentWidget(pluginLabel_);
     showTitle();
     resize(1200, 800);
 
     connect(objectList_, &ObjectList::objectChosen, this, &MainWindow::showView);
-    connect(&warnings_, &WarningListener::warned, this,
-            [this](QString const& text) { messages_->add(MessageList::Source::Warning, text); });
     connect(&plugins_, &Plugins::aboutToChange, this, &MainWindow::closeEditors);
     connect(&plugins_, &Plugins::changed, this, &MainWindow::openEditors);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &MainWindow::noticeFocus, Qt::QueuedConnection);
@@ -86,13 +78,13 @@ MainWindow::~MainWindow() {
 bool MainWindow::openNetwork(QString const& file, QString* error) {
     auto loaded = Network::load(file, makeObject);
     if (!loaded.network) {
-        messages_->add(MessageList::Source::Error, loaded.error);
+        messages()->add(MessageList::Source::Error, loaded.error);
         if (error)
             *error = loaded.error;
         return false;
     }
     showNetwork(std::move(loaded.network));
-    messages_->add(MessageList::Source::Panel, tr("Opened %1.").arg(file));
+    messages()->add(MessageList::Source::Panel, tr("Opened %1.").arg(file));
     return true;
 }
 
@@ -112,11 +104,11 @@ void MainWindow::showNetwork(std::unique_ptr<Network> network) {
     network_->actionHandler = [this](Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,
                                      Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
         studio_->fire(object, parameter, pool);
-        messages_->add(MessageList::Source::Panel,
-                       tr("Action %1.%2 was fired in pool %3.")
-                           .arg(object ? QString::fromStdString(object->Name()) : tr("(no object)"),
-                                parameter ? QString::fromStdString(parameter->Name()) : tr("(no parameter)"),
-                                pool ? QString::fromStdString(pool->Name()) : tr("(no pool)")));
+        messages()->add(MessageList::Source::Panel,
+                        tr("Action %1.%2 was fired in pool %3.")
+                            .arg(object ? QString::fromStdString(object->Name()) : tr("(no object)"),
+                                 parameter ? QString::fromStdString(parameter->Name()) : tr("(no parameter)"),
+                                 pool ? QString::fromStdString(pool->Name()) : tr("(no pool)")));
     };
     {
         QSignalBlocker const blocker(poolSelector_);
@@ -143,13 +135,13 @@ bool MainWindow::saveValues(QString const& file, QString* error) {
         auto const rows = findChildren<ParameterRow*>();
         for (auto* const row : rows)
             row->showDefault();
-        messages_->add(MessageList::Source::Panel, tr("Saved the values to %1.").arg(file));
+        messages()->add(MessageList::Source::Panel, tr("Saved the values to %1.").arg(file));
         statusBar()->showMessage(tr("Saved."), 4000);
         return true;
     }
     if (!network_)
         reason = tr("No network is open.");
-    messages_->add(MessageList::Source::Error, reason);
+    messages()->add(MessageList::Source::Error, reason);
     if (error)
         *error = reason;
     return false;
@@ -297,14 +289,6 @@ void MainWindow::applyFilter() {
 
 bool MainWindow::rawValuesShown() const {
     return rawAction_->isChecked();
-}
-
-void MainWindow::tapStandardOutput() {
-    if (outputTap_)
-        return;
-    outputTap_ = std::make_unique<StandardOutputTap>();
-    connect(outputTap_.get(), &StandardOutputTap::linePrinted, this,
-            [this](QString const& line) { messages_->add(MessageList::Source::Output, line); });
 }
 
 } // namespace Panel

@@ -3,7 +3,7 @@
 #include <memory>
 #include <panel/GestureWatcher.hpp>
 #include <panel/HistoryList.hpp>
-#include <panel/MessageList.hpp>
+#include <panel/MessageDock.hpp>
 #include <panel/network/Network.hpp>
 #include <panel/ObjectList.hpp>
 #include <panel/objects/Studio.hpp>
@@ -11,8 +11,6 @@
 #include <panel/ParameterCommands.hpp>
 #include <panel/Plugins.hpp>
 #include <panel/SchedulerDriver.hpp>
-#include <panel/StandardOutputTap.hpp>
-#include <panel/WarningListener.hpp>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -58,12 +56,12 @@ public:
     void setFilter(QString const& words);
     bool rawValuesShown() const;
     /// From now on lines on standard output are messages, too.
-    void tapStandardOutput();
+    void tapStandardOutput() { messageDock_->tapStandardOutput(); }
 
     /// The view of the chosen object; null when none is chosen.
     ObjectView* currentView() const;
     ObjectList* objectList() const { return objectList_; }
-    MessageList* messages() const { return messages_; }
+    MessageList* messages() const { return messageDock_->messages(); }
     PoolSource& pools() { return pools_; }
     /// Where the network's picture is computed and shown.
     Studio& studio() { return *studio_; }
@@ -95,7 +93,7 @@ protected:
 private:
     void makeFileMenu();
     void makeEditMenu();
-    void makeViewMenu(QAction* showMessages);
+    void makeViewMenu();
     void makeHistoryDock();
     void makePluginMenu();
     void makeToolBar();
@@ -116,7 +114,6 @@ private:
     void showView(Kolt::ObjectPtr const& object);
     ObjectView* makeView(Kolt::ObjectPtr const& object, QWidget* parent);
     std::vector<ObjectView*> views() const;
-    /// Lets the links in the shown states be followed.
     void closeViews();
     void closeEditors();
     void openEditors();
@@ -136,22 +133,20 @@ private:
     // Goes before the network, whose objects it works for.
     std::unique_ptr<Studio> studio_;
     SchedulerDriver scheduler_;
-    WarningListener warnings_;
     GestureWatcher gestures_;
     ParameterCommands commands_{gestures_, this};
-    std::unique_ptr<StandardOutputTap> outputTap_;
 
     ObjectList* const objectList_;
     QStackedWidget* const viewStack_;
-    MessageList* const messages_;
+    MessageDock* const messageDock_;
     HistoryList* const historyList_;
     QComboBox* const poolSelector_;
     QLineEdit* const filterField_;
     QLabel* const pluginLabel_;
     QTimer modifiedTimer_;
     QAction* undoAction_ = nullptr;
-    QAction* findAction_ = nullptr;
     QAction* redoAction_ = nullptr;
+    QAction* findAction_ = nullptr;
     QAction* rawAction_ = nullptr;
     QAction* unloadAction_ = nullptr;
     QAction* reloadAction_ = nullptr;

@@ -42,7 +42,7 @@ void MainWindow::makeEditMenu() {
     menu->addAction(findAction_);
     connect(menu, &QMenu::aboutToShow, &commands_, &ParameterCommands::updateActions);
     connect(&commands_, &ParameterCommands::refused, this, [this](QString const& reason) {
-        messages_->add(MessageList::Source::Error, reason);
+        messages()->add(MessageList::Source::Error, reason);
         statusBar()->showMessage(reason, refusalTime);
     });
     modifiedTimer_.setSingleShot(true);
@@ -69,7 +69,7 @@ void MainWindow::undo() {
         return;
     auto const text = stepText(*step, network_.get());
     if (!history.undo())
-        messages_->add(MessageList::Source::Error, tr("Can no longer be taken back: %1").arg(text));
+        messages()->add(MessageList::Source::Error, tr("Can no longer be taken back: %1").arg(text));
 }
 
 void MainWindow::redo() {
@@ -80,7 +80,7 @@ void MainWindow::redo() {
         return;
     auto const text = stepText(*step, network_.get());
     if (!history.redo())
-        messages_->add(MessageList::Source::Error, tr("Can no longer be made again: %1").arg(text));
+        messages()->add(MessageList::Source::Error, tr("Can no longer be made again: %1").arg(text));
 }
 
 void MainWindow::goToState(int steps) {

@@ -95,7 +95,7 @@ void MainWindow::makeFileMenu() {
     menu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
 }
 
-void MainWindow::makeViewMenu(QAction* showMessages) {
+void MainWindow::makeViewMenu() {
     auto* const menu = menuBar()->addMenu(tr("&View"));
     menu->addAction(tr("&New view"), this, &MainWindow::addView, QKeySequence(tr("Ctrl+N")));
     menu->addSeparator();
@@ -108,7 +108,7 @@ void MainWindow::makeViewMenu(QAction* showMessages) {
         for (auto* const view : all)
             view->setRawValuesShown(shown);
     });
-    menu->addAction(showMessages);
+    menu->addAction(messageDock_->toggleViewAction());
     menu->addAction(static_cast<QDockWidget*>(historyList_->parentWidget())->toggleViewAction());
     menu->addAction(studio_->previewAction());
 }
@@ -159,7 +159,7 @@ void MainWindow::askForPlugin() {
 void MainWindow::closePlugins() {
     QString error;
     if (plugins_.unload(&error))
-        messages_->add(MessageList::Source::Panel, tr("The plug-ins were unloaded."));
+        messages()->add(MessageList::Source::Panel, tr("The plug-ins were unloaded."));
     else
         complain(tr("The plug-ins cannot be unloaded"), error);
 }
@@ -167,14 +167,14 @@ void MainWindow::closePlugins() {
 void MainWindow::reloadPlugins() {
     QString error;
     if (plugins_.reload(&error))
-        messages_->add(MessageList::Source::Panel, tr("The plug-ins were loaded again."));
+        messages()->add(MessageList::Source::Panel, tr("The plug-ins were loaded again."));
     else
         complain(tr("The plug-ins cannot be loaded again"), error);
 }
 
 void MainWindow::complain(QString const& title, QString const& text) {
-    if (!messages_->texts(MessageList::Source::Error).endsWith(text))
-        messages_->add(MessageList::Source::Error, text);
+    if (!messages()->texts(MessageList::Source::Error).endsWith(text))
+        messages()->add(MessageList::Source::Error, text);
     auto* const box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(

@@ -205,10 +205,6 @@
         <translation>Zustände</translation>
     </message>
     <message>
-        <source>Messages</source>
-        <translation>Meldungen</translation>
-    </message>
-    <message>
         <source>Action %1 was fired.</source>
         <translation>Die Aktion %1 wurde ausgelöst.</translation>
     </message>
@@ -370,10 +366,6 @@
 </context>
 <context>
     <name>Panel::MainWindow</name>
-    <message>
-        <source>Messages</source>
-        <translation>Meldungen</translation>
-    </message>
     <message>
         <source>Talo panel</source>
         <translation>Talo-Bedienfeld</translation>

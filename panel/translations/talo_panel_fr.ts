@@ -205,10 +205,6 @@
         <translation>États</translation>
     </message>
     <message>
-        <source>Messages</source>
-        <translation>Messages</translation>
-    </message>
-    <message>
         <source>Action %1 was fired.</source>
         <translation>L’action %1 a été déclenchée.</translation>
     </message>
@@ -370,10 +366,6 @@
 </context>
 <context>
     <name>Panel::MainWindow</name>
-    <message>
-        <source>Messages</source>
-        <translation>Messages</translation>
-    </message>
     <message>
         <source>Talo panel</source>
         <translation>Panneau Talo</translation>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PanelTest.hpp"
+#include "FractalPanelTest.hpp"
 #include "support/Desktop.hpp"
 #include "support/FileDialogs.hpp"
 
@@ -12,23 +12,10 @@
 #include <set>
 
 /// The panel with the network of the examples on a display, for a person's mouse and keyboard.
-class DesktopTest : public PanelTest {
+class DesktopTest : public FractalPanelTest {
 protected:
-    void SetUp() override {
-        PanelTest::SetUp();
-        ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_EXAMPLES "/fractal.json"), file));
-        QString error;
-        ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
-        // The picture takes the time of the other programs that the display needs.
-        window->studio().previewAction()->trigger();
-        window->resize(1150, 900);
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
-
     void TearDown() override {
-        PanelTest::TearDown();
+        FractalPanelTest::TearDown();
         // The list for multiple choice says so each time it shows a value.
         EXPECT_THAT(takeOutput(), testing::Each("calling getSeletion from valueChanged"));
     }
@@ -191,7 +178,6 @@ protected:
         return unused;
     }
 
-    QString const file = folder.filePath(QStringLiteral("fractal.json"));
     Desktop desktop;
     std::set<Kolt::VInputCreatorBase const*> used;
 

@@ -1,8 +1,8 @@
 // The panel is used at random, by tens of thousands of events for each seed. Nothing may crash, Qt may not warn, and
 // what the views show and what the parameters hold must be the same at every rest.
 
+#include "FractalPanelTest.hpp"
 #include "PanelCheck.hpp"
-#include "PanelTest.hpp"
 #include "RandomWalk.hpp"
 
 using testing::AnyOf;
@@ -31,29 +31,16 @@ unsigned firstSeed() {
 // A history with more steps might have forgotten the first of them.
 constexpr std::size_t mostSteps = Kolt::UndoHistory::Capacity * 3 / 4;
 
-class RandomWalkTest : public PanelTest {
+class RandomWalkTest : public FractalPanelTest {
 protected:
-    void SetUp() override {
-        PanelTest::SetUp();
-        ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_EXAMPLES "/fractal.json"), file));
-        QString error;
-        ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
-        // The picture costs most of the time and is not what is tested here.
-        window->studio().previewAction()->trigger();
-        window->resize(900, 700);
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
+    RandomWalkTest() { windowSize = {900, 700}; }
 
     void TearDown() override {
         QApplication::clipboard()->clear();
-        PanelTest::TearDown();
+        FractalPanelTest::TearDown();
         // The lists for multiple choice say what they do.
         takeOutput();
     }
-
-    QString const file = folder.filePath(QStringLiteral("fractal.json"));
 };
 
 class RandomWalkOfSeed : public RandomWalkTest, public testing::WithParamInterface<unsigned> {};

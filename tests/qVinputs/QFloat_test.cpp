@@ -1,14 +1,11 @@
-#include "support/TestHost.hpp"
+#include "NumberEditorTest.hpp"
 #include "support/WheelTurn.hpp"
 
 #include <cmath>
 #include <limits>
-#include <QDial>
 #include <QDoubleValidator>
 #include <QLayout>
 #include <QMetaMethod>
-#include <QSlider>
-#include <sorrel/QLeaveLineEdit.hpp>
 
 using Kolt::ParameterPtr;
 using Values = Kolt::VParameter::Values;
@@ -18,19 +15,8 @@ namespace {
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
-class QFloatTest : public PluginTest {
+class QFloatTest : public NumberEditorTest<double> {
 protected:
-    static QSlider* slider(Kolt::Editor const& editor) { return editor.widget->findChild<QSlider*>(); }
-    static QDial* dial(Kolt::Editor const& editor) { return editor.widget->findChild<QDial*>(); }
-    static Kolt::QLeaveLineEdit* lineEdit(Kolt::Editor const& editor) {
-        return editor.widget->findChild<Kolt::QLeaveLineEdit*>();
-    }
-    static std::string text(Kolt::Editor const& editor) { return lineEdit(editor)->text().toStdString(); }
-    static void type(Kolt::Editor const& editor, char const* typed) {
-        lineEdit(editor)->selectAll();
-        QTest::keyClicks(lineEdit(editor), typed);
-        QTest::keyClick(lineEdit(editor), Qt::Key_Return);
-    }
     static void press(QSlider* control, Qt::MouseButton button, QPointF const& place) {
         QMouseEvent event(QEvent::MouseButtonPress, place, button, button, Qt::NoModifier);
         QApplication::sendEvent(control, &event);
@@ -42,29 +28,15 @@ protected:
                              Values values = Values::Shared) {
         return makeParameter("scale", Kolt::makeValue(value), preferences, values);
     }
-    static void setProperty(ParameterPtr const& parameter, char const* name,
-                            Tessera::StrongPtr<Kolt::VValueBase> const& value) {
-        parameter->setProperty(name, value, nullptr, nullptr, nullptr);
-    }
     /// A parameter whose control has the positions 0 to `increment`, which holds for the numbers used here.
     static ParameterPtr bounded(double value, double minimum, double maximum, double increment,
                                 std::vector<std::string> const& preferences = {}) {
         auto const parameter = real(value, preferences);
-        setProperty(parameter, "min", Kolt::makeValue(minimum));
-        setProperty(parameter, "max", Kolt::makeValue(maximum));
+        setBounds(parameter, minimum, maximum);
         setProperty(parameter, "increment", Kolt::makeValue(increment));
         return parameter;
     }
     static double held(ParameterPtr const& parameter) { return Kolt::valueOr(parameter->ownValue(), NotANumber); }
-    static void changeElsewhere(ParameterPtr const& parameter, double value,
-                                Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
-        Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
-    }
-    void record(ParameterPtr const& parameter) {
-        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
-    }
-
-    RecordingNotifier recorder;
 };
 
 /// A parameter of 0.25 on 0 to 1 with the positions 0 to 200, and its editor with a slider.

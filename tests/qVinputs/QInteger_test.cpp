@@ -1,14 +1,11 @@
-#include "support/TestHost.hpp"
+#include "NumberEditorTest.hpp"
 #include "support/WheelTurn.hpp"
 
 #include <lattice/UndoAction.hpp>
 #include <limits>
-#include <QDial>
 #include <QIntValidator>
 #include <QLayout>
 #include <QMetaMethod>
-#include <QSlider>
-#include <sorrel/QLeaveLineEdit.hpp>
 
 using Kolt::ParameterPtr;
 using Values = Kolt::VParameter::Values;
@@ -18,19 +15,8 @@ namespace {
 constexpr int LargestInt = std::numeric_limits<int>::max();
 constexpr int SmallestInt = std::numeric_limits<int>::min();
 
-class QIntegerTest : public PluginTest {
+class QIntegerTest : public NumberEditorTest<int> {
 protected:
-    static QSlider* slider(Kolt::Editor const& editor) { return editor.widget->findChild<QSlider*>(); }
-    static QDial* dial(Kolt::Editor const& editor) { return editor.widget->findChild<QDial*>(); }
-    static Kolt::QLeaveLineEdit* lineEdit(Kolt::Editor const& editor) {
-        return editor.widget->findChild<Kolt::QLeaveLineEdit*>();
-    }
-    static std::string text(Kolt::Editor const& editor) { return lineEdit(editor)->text().toStdString(); }
-    static void type(Kolt::Editor const& editor, char const* typed) {
-        lineEdit(editor)->selectAll();
-        QTest::keyClicks(lineEdit(editor), typed);
-        QTest::keyClick(lineEdit(editor), Qt::Key_Return);
-    }
     /// What the control's signal does.
     static void callSlot(Kolt::Editor const& editor, int value) {
         ASSERT_TRUE(QMetaObject::invokeMethod(editor.widget, "valueChanged", Q_ARG(int, value)));
@@ -40,22 +26,13 @@ protected:
                                 Values values = Values::Shared) {
         return makeParameter("count", Kolt::makeValue(value), preferences, values);
     }
-    static void setProperty(ParameterPtr const& parameter, char const* name,
-                            Tessera::StrongPtr<Kolt::VValueBase> const& value) {
-        parameter->setProperty(name, value, nullptr, nullptr, nullptr);
-    }
     static ParameterPtr bounded(int value, int minimum, int maximum, std::vector<std::string> const& preferences = {}) {
         auto const parameter = integer(value, preferences);
-        setProperty(parameter, "min", Kolt::makeValue(minimum));
-        setProperty(parameter, "max", Kolt::makeValue(maximum));
+        setBounds(parameter, minimum, maximum);
         return parameter;
     }
     static std::string property(ParameterPtr const& parameter, char const* name) {
         return parameter->properties()->getValue(name)->Text();
-    }
-    static void changeElsewhere(ParameterPtr const& parameter, int value,
-                                Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
-        Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
     }
     static std::vector<std::string> undoTexts() {
         std::vector<std::string> texts;
@@ -63,16 +40,11 @@ protected:
             texts.push_back(step->description());
         return texts;
     }
-    void record(ParameterPtr const& parameter) {
-        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
-    }
 
     void TearDown() override {
         Kolt::UndoHistory::theHistory().setListener(nullptr);
         PluginTest::TearDown();
     }
-
-    RecordingNotifier recorder;
 };
 
 } // namespace

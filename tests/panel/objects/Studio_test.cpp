@@ -143,6 +143,8 @@ TEST_F(StudioTest, StartComputesThePictureAndTellsOfIt) {
 
 TEST_F(StudioTest, ThePictureIsThatOfThePoolWithItsQuality) {
     window->choosePool(QStringLiteral("final"));
+    // So many samples take a while.
+    set("exporter.width", "64");
     start();
     ASSERT_TRUE(ends());
     EXPECT_THAT(valueOf("render.progress"), HasSubstr("2000 steps at most, 8 × 8 samples"));

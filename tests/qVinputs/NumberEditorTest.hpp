@@ -1,0 +1,43 @@
+#pragma once
+
+#include "support/TestHost.hpp"
+
+#include <QDial>
+#include <QSlider>
+#include <sorrel/QLeaveLineEdit.hpp>
+
+/// What the tests of the editors of whole and of real numbers share. T is the type of the numbers.
+template <typename T>
+class NumberEditorTest : public PluginTest {
+protected:
+    static QSlider* slider(Kolt::Editor const& editor) { return editor.widget->findChild<QSlider*>(); }
+    static QDial* dial(Kolt::Editor const& editor) { return editor.widget->findChild<QDial*>(); }
+    static Kolt::QLeaveLineEdit* lineEdit(Kolt::Editor const& editor) {
+        return editor.widget->findChild<Kolt::QLeaveLineEdit*>();
+    }
+    static std::string text(Kolt::Editor const& editor) { return lineEdit(editor)->text().toStdString(); }
+    /// Types a text in place of the one in the field, and Return.
+    static void type(Kolt::Editor const& editor, char const* typed) {
+        lineEdit(editor)->selectAll();
+        QTest::keyClicks(lineEdit(editor), typed);
+        QTest::keyClick(lineEdit(editor), Qt::Key_Return);
+    }
+
+    static void setProperty(Kolt::ParameterPtr const& parameter, char const* name,
+                            Tessera::StrongPtr<Kolt::VValueBase> const& value) {
+        parameter->setProperty(name, value, nullptr, nullptr, nullptr);
+    }
+    static void setBounds(Kolt::ParameterPtr const& parameter, T minimum, T maximum) {
+        setProperty(parameter, "min", Kolt::makeValue(minimum));
+        setProperty(parameter, "max", Kolt::makeValue(maximum));
+    }
+    static void changeElsewhere(Kolt::ParameterPtr const& parameter, T value,
+                                Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+        Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
+    }
+    void record(Kolt::ParameterPtr const& parameter) {
+        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
+    }
+
+    RecordingNotifier recorder;
+};
