@@ -46,6 +46,9 @@ bool UndoHistory::store(ParameterPtr const& parameter, Tessera::StrongPtr<ValueP
     bool const isStep = !isRestoring();
     auto const living = parameter;
     auto const before = heldValue(*living, pool);
+    bool const hasPlace = pool || !living->keepsValuesPerPool();
+    if (hasPlace && before.equals(held))
+        return true;
     {
         Restoring const restoring(*this);
         if (!storeHeldValue(*living, pool, held))
@@ -76,6 +79,10 @@ void UndoHistory::finishStep() {
         return;
     remove(step);
     undone_ = undone;
+    {
+        Restoring const restoring(*this);
+        step->removeCopies();
+    }
     changed();
 }
 

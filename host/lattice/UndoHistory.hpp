@@ -33,7 +33,7 @@ public:
     /// Records a change that happened.
     void record(ValueChange const& change);
     /// Makes a value hold in a pool, as a command of the host that can be taken back (storeHeldValue). False where it
-    /// cannot be stored, and for a null parameter. Where it holds already there is no step.
+    /// cannot be stored, and for a null parameter. Where an equal value holds already nothing happens.
     bool store(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool, HeldValue const& held);
 
     /// From here on everything is one step, up to the matching `closeGesture`. May be nested; the outermost counts.

@@ -32,6 +32,14 @@ bool ValueChange::makeAgain() const {
     return store(after_);
 }
 
+void ValueChange::removeCopy() const {
+    auto const parameter = parameter_.strong();
+    auto const pool = pool_.strong();
+    if (parameter && before_.fallsBack && parameter->ownValue()->equals(*before_.value) &&
+        heldValue(*parameter, pool).equals(before_))
+        storeHeldValue(*parameter, pool, before_);
+}
+
 bool ValueChange::store(HeldValue const& held) const {
     auto const parameter = parameter_.strong();
     return parameter && storeHeldValue(*parameter, pool_.strong(), held);
@@ -103,6 +111,12 @@ bool UndoStep::makeAgain() {
     for (auto const& change : changes)
         done = (change.isPossible() && change.makeAgain()) || done;
     return done;
+}
+
+void UndoStep::removeCopies() {
+    auto const changes = changes_;
+    for (auto const& change : changes)
+        change.removeCopy();
 }
 
 } // namespace Kolt

@@ -38,6 +38,9 @@ public:
     /// Stores the value before the change, or the one after it (storeHeldValue). False when that is impossible.
     bool takeBack() const;
     bool makeAgain() const;
+    /// For a change that changes nothing: has the pool fall back again where it did before and nothing else was written
+    /// since.
+    void removeCopy() const;
 
 private:
     bool store(HeldValue const& held) const;
@@ -78,6 +81,7 @@ private:
     bool awaitsChangeOf(ValueChange const& change) const;
     bool takeBack();
     bool makeAgain();
+    void removeCopies();
 
     std::vector<ValueChange> changes_;
     // In the order in which they were handed over.

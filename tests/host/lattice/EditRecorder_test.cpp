@@ -369,6 +369,42 @@ TEST_F(EditRecorderTest, AnEditThatOnlyCopiesTheOwnValueIntoThePoolGoesBackWithT
     EXPECT_EQ(text(parameter, draft), "1") << "the pool kept its copy when the host wrote the own value";
 }
 
+TEST_F(EditRecorderTest, AGestureThatEndsWhereItBeganLeavesNoCopyInThePool) {
+    auto const parameter = makeParameter(1, VParameter::Values::PerPool);
+    SmallInput input{parameter};
+    auto const recorder = EditRecorder::watch(parameter);
+    history.openGesture();
+    input.edit(5, draft);
+    input.edit(1, draft);
+    history.closeGesture();
+    EXPECT_THAT(names(), IsEmpty());
+    EXPECT_EQ(parameter->getLocalValue(draft, std::string(), false), nullptr);
+    input.edit(5, draft);
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(parameter->getLocalValue(draft, std::string(), false), nullptr);
+
+    // What the host writes meanwhile stays.
+    history.openGesture();
+    input.edit(5, draft);
+    input.edit(1, draft);
+    parameter->ownValue()->setValueFromText("3");
+    history.closeGesture();
+    EXPECT_EQ(text(parameter, draft), "1");
+    EXPECT_THAT(names(), IsEmpty());
+}
+
+TEST_F(EditRecorderTest, ACommandThatChangesNothingMakesNoCopyInThePool) {
+    auto const parameter = makeParameter(1, VParameter::Values::PerPool);
+    auto const recorder = EditRecorder::watch(parameter);
+    EXPECT_TRUE(history.store(parameter, draft, {makeValue(1), false}));
+    EXPECT_EQ(parameter->getLocalValue(draft, std::string(), false), nullptr);
+    EXPECT_FALSE(history.store(parameter, nullptr, {makeValue(1), false})) << "there is no place for it";
+    parameter->setLocalValue(draft, makeValue(1));
+    EXPECT_TRUE(history.store(parameter, draft, {makeValue(1), true}));
+    EXPECT_NE(parameter->getLocalValue(draft, std::string(), false), nullptr);
+    EXPECT_THAT(names(), IsEmpty());
+}
+
 TEST_F(EditRecorderTest, AStepOfAPoolThatIsGoneIsDropped) {
     auto const parameter = makeParameter(1, VParameter::Values::PerPool);
     SmallInput input{parameter};
@@ -450,6 +486,8 @@ TEST_F(EditRecorderTest, DefaultsAreWhatAParameterHeldInEachPool) {
     EXPECT_TRUE(parameter->defaults()->isOwnValueOf(*parameter));
     EXPECT_TRUE(history.store(parameter, draft, parameter->defaults()->in(draft)));
     EXPECT_EQ(text(parameter, draft), "2");
+    setParameterValue(*parameter, 30, final, std::string(), true, nullptr, nullptr);
+    EXPECT_FALSE(parameter->defaults()->holdsIn(*parameter, final));
     EXPECT_TRUE(history.store(parameter, final, parameter->defaults()->in(final)));
     EXPECT_EQ(parameter->getLocalValue(final, std::string(), false), nullptr);
     EXPECT_FALSE(history.store(parameter, nullptr, parameter->defaults()->in(draft))) << "there is no such place";
