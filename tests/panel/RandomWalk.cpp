@@ -188,12 +188,13 @@ QPoint inWindow(QWidget const& widget, QPoint const& place) {
     return {qBound(0, point.x(), widget.window()->width() - 1), qBound(0, point.y(), widget.window()->height() - 1)};
 }
 
-/// A press activates the window, as every window manager has it. A popup is in front anyway.
-void activate(QWidget& window) {
-    if (QApplication::activePopupWidget() || window.isActiveWindow())
+/// A press activates the window, as every window manager has it. A popup is in front anyway. The window may go
+/// meanwhile.
+void activate(QPointer<QWidget> const& window) {
+    if (QApplication::activePopupWidget() || window->isActiveWindow())
         return;
-    window.activateWindow();
-    waitUntil([&window] { return window.isActiveWindow(); }, soon);
+    window->activateWindow();
+    waitUntil([&window] { return !window || window->isActiveWindow(); }, soon);
 }
 
 /// The press may close the window.
@@ -218,7 +219,10 @@ void RandomWalk::press(QWidget& widget) {
         QTest::mouseMove(window.data(), point);
         return;
     }
-    activate(*widget.window());
+    QPointer<QWidget> const target(&widget);
+    activate(widget.window());
+    if (!target || !window || !target->isVisible())
+        return;
     if (kind < 12) {
         // The second press of a double click comes soon, as far as Qt sees the time.
         click(window, button, point);
@@ -227,7 +231,7 @@ void RandomWalk::press(QWidget& widget) {
             click(window, button, point);
         }
     } else {
-        held_ = &widget;
+        held_ = target;
         button_ = button;
         QTest::mousePress(window.data(), button, {}, point);
     }
