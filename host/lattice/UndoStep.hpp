@@ -81,6 +81,7 @@ private:
     bool awaitsChangeOf(ValueChange const& change) const;
     bool takeBack();
     bool makeAgain();
+    /// For a step that changes nothing (ValueChange::removeCopy).
     void removeCopies();
 
     std::vector<ValueChange> changes_;

@@ -43,7 +43,7 @@ protected:
 
     void TearDown() override {
         Kolt::UndoHistory::theHistory().setListener(nullptr);
-        PluginTest::TearDown();
+        NumberEditorTest::TearDown();
     }
 };
 
