@@ -11,7 +11,7 @@
 #include <malloc.h>
 #include <map>
 #include <memory>
-#include <panel/ObjectView.hpp>
+#include <panel/window/ObjectView.hpp>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QGroupBox>
@@ -91,7 +91,7 @@ public:
     }
 
 private:
-    Panel::PoolSource pools_;
+    Talo::PoolSource pools_;
     Kolt::ObjectPtr const object_{new Kolt::VObject("object")};
     Kolt::ObjectPtr const simulation_{new Kolt::VObject("simulation")};
     std::unique_ptr<Panel::ObjectView> view_;

@@ -1,4 +1,4 @@
-# What `cmake --install` puts where; the host libraries install themselves (TaloHostLibrary). The list stands here and
+# What `cmake --install` puts where; the libraries install themselves (TaloLibrary). The list stands here and
 # is read after all targets are known, so that a build without the panel installs the rest.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)

@@ -1,5 +1,5 @@
 #include <panel/CommandLine.hpp>
-#include <panel/GalleryState.hpp>
+#include <panel/gallery/GalleryState.hpp>
 #include <QCommandLineParser>
 #include <QLocale>
 #include <QRegularExpression>

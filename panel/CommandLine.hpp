@@ -1,7 +1,7 @@
 #pragma once
 
 #include <optional>
-#include <panel/Look.hpp>
+#include <panel/look/Look.hpp>
 #include <QCoreApplication>
 #include <QSize>
 #include <QString>

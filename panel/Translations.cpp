@@ -4,9 +4,10 @@
 #include <QLibraryInfo>
 #include <QLocale>
 
-// The resource stands in a static library, and this must be called outside of any namespace.
-static void makeResourceKnown() {
-    Q_INIT_RESOURCE(talo_panel_translations);
+// The resources are in static libraries, and this must be called outside of any namespace.
+static void makeResourcesKnown() {
+    Q_INIT_RESOURCE(talo_fractal_translations);
+    Q_INIT_RESOURCE(talo_panel_parts_translations);
 }
 
 namespace Panel {
@@ -49,10 +50,11 @@ std::unique_ptr<QTranslator> installTranslation(QString const& folder, QString c
 }
 
 Translations::Translations() {
-    makeResourceKnown();
+    makeResourcesKnown();
     installed_.push_back(
         installTranslation(QLibraryInfo::location(QLibraryInfo::TranslationsPath), QStringLiteral("qtbase")));
-    installed_.push_back(installTranslation(QStringLiteral(":/translations"), QStringLiteral("talo_panel")));
+    for (auto const* const name : {"talo_parameters", "talo_fractal", "talo_panel"})
+        installed_.push_back(installTranslation(QStringLiteral(":/translations"), QLatin1String(name)));
 }
 
 Translations::~Translations() = default;

@@ -1,14 +1,14 @@
 #include <clocale>
 #include <cstdio>
+#include <fractal/objects/ObjectFactory.hpp>
 #include <functional>
 #include <lattice/InputCreator.hpp>
 #include <panel/CommandLine.hpp>
-#include <panel/Gallery.hpp>
+#include <panel/gallery/Gallery.hpp>
 #include <panel/InstalledFiles.hpp>
-#include <panel/MainWindow.hpp>
-#include <panel/objects/ObjectFactory.hpp>
-#include <panel/Session.hpp>
 #include <panel/Translations.hpp>
+#include <panel/window/MainWindow.hpp>
+#include <panel/window/Session.hpp>
 #include <QApplication>
 #include <QFile>
 #include <QLocale>
@@ -80,7 +80,7 @@ void printCreators() {
 }
 
 // Prepares the network as the options say; gives the reason when something of it cannot be done.
-QString prepare(Panel::Network& network, Panel::CommandLine const& commandLine) {
+QString prepare(Talo::Network& network, Panel::CommandLine const& commandLine) {
     auto pool = network.pools().front();
     if (!commandLine.pool.isEmpty()) {
         pool = network.findPool(commandLine.pool);
@@ -167,7 +167,7 @@ int run(Panel::CommandLine const& commandLine) {
     auto const file = commandLine.network.isEmpty() ? Panel::defaultNetworkFile() : commandLine.network;
     if (file.isEmpty())
         return refuse(QCoreApplication::translate("main", "examples/fractal.json is missing; name a network to open."));
-    auto loaded = Panel::Network::load(file, Panel::makeObject);
+    auto loaded = Talo::Network::load(file, Fractal::makeObject);
     if (!loaded.network)
         return refuse(loaded.error);
     auto const problem = prepare(*loaded.network, commandLine);
@@ -201,7 +201,7 @@ int run(Panel::CommandLine const& commandLine) {
         window.showObject(commandLine.object);
     if (!commandLine.screenshot.isEmpty())
         return draw(
-            window, [&] { return window.studio().isAtRest(); }, commandLine.screenshot);
+            window, [&] { return window.fractalController().isAtRest(); }, commandLine.screenshot);
     return show(window);
 }
 

@@ -1,7 +1,7 @@
 #include "support/TestHost.hpp"
 
 #include <dlfcn.h>
-#include <panel/MainWindow.hpp>
+#include <panel/window/MainWindow.hpp>
 #include <QSpinBox>
 #include <QTemporaryDir>
 

@@ -50,7 +50,7 @@ protected:
     }
 
     /// Shows one object after the other and looks at each row of it.
-    void forEachRow(std::function<void(Kolt::VObject const&, Panel::ParameterRow*)> const& look) {
+    void forEachRow(std::function<void(Kolt::VObject const&, Talo::ParameterRow*)> const& look) {
         int rows = 0;
         for (auto const& object : window->network()->objects()) {
             SCOPED_TRACE(object->Name());
@@ -71,7 +71,7 @@ protected:
 
 TEST_F(AccessibilityTest, EachControlIsNamedAfterItsParameter) {
     int count = 0;
-    forEachRow([&](Kolt::VObject const&, Panel::ParameterRow* row) {
+    forEachRow([&](Kolt::VObject const&, Talo::ParameterRow* row) {
         for (auto* const control : controls(row->editor())) {
             // With this platform's Qt a drop-down list tells its choice for its name.
             auto const* const list = qobject_cast<QComboBox*>(control);
@@ -85,7 +85,7 @@ TEST_F(AccessibilityTest, EachControlIsNamedAfterItsParameter) {
 }
 
 TEST_F(AccessibilityTest, EachControlIsDescribedByObjectTypeAndPool) {
-    forEachRow([&](Kolt::VObject const& object, Panel::ParameterRow* row) {
+    forEachRow([&](Kolt::VObject const& object, Talo::ParameterRow* row) {
         for (auto* const control : controls(row->editor()))
             EXPECT_THAT(description(control), HasSubstr(object.Name() + '.' + row->parameterName().toStdString()))
                 << control->metaObject()->className();
@@ -120,7 +120,7 @@ TEST_F(AccessibilityTest, AnExplanationIsToldWithTheDescription) {
 }
 
 TEST_F(AccessibilityTest, TheNameOfARowIsTheLabelOfItsEditor) {
-    forEachRow([&](Kolt::VObject const&, Panel::ParameterRow* row) {
+    forEachRow([&](Kolt::VObject const&, Talo::ParameterRow* row) {
         auto* const label = QAccessible::queryAccessibleInterface(row->nameLabel());
         ASSERT_NE(label, nullptr);
         auto const relations = label->relations(QAccessible::Labelled);
@@ -184,16 +184,16 @@ TEST_F(AccessibilityTest, EverythingBesidesTheEditorsIsNamed) {
     for (auto* const bar : window->findChildren<QToolBar*>())
         parts.push_back(bar);
     for (auto* const area : window->findChildren<QAbstractScrollArea*>())
-        if (!Panel::ParameterRow::rowOf(area) && area->window() == window.get() && takesFocus(*area))
+        if (!Talo::ParameterRow::rowOf(area) && area->window() == window.get() && takesFocus(*area))
             parts.push_back(area);
     for (auto* const field : window->findChildren<QLineEdit*>())
-        if (!Panel::ParameterRow::rowOf(field) && !field->focusProxy())
+        if (!Talo::ParameterRow::rowOf(field) && !field->focusProxy())
             parts.push_back(field);
     for (auto* const box : window->findChildren<QComboBox*>())
-        if (!Panel::ParameterRow::rowOf(box))
+        if (!Talo::ParameterRow::rowOf(box))
             parts.push_back(box);
     for (auto* const button : window->findChildren<QAbstractButton*>())
-        if (!Panel::ParameterRow::rowOf(button) && takesFocus(*button))
+        if (!Talo::ParameterRow::rowOf(button) && takesFocus(*button))
             parts.push_back(button);
     for (auto* const part : parts)
         EXPECT_NE(name(part), "") << part->metaObject()->className() << ' ' << qPrintable(part->objectName());

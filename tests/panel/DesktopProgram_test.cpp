@@ -2,7 +2,7 @@
 
 #include "support/Desktop.hpp"
 
-#include <panel/network/Network.hpp>
+#include <network/Network.hpp>
 #include <QTemporaryDir>
 
 namespace {
@@ -81,7 +81,7 @@ protected:
     /// What the program should write for these values.
     QByteArray expected(char const* on, char const* level, char const* place) {
         auto const name = folder.filePath(QStringLiteral("expected.json"));
-        auto const network = Panel::Network::load(file).network;
+        auto const network = Talo::Network::load(file).network;
         auto const pool = network->pools().front();
         QString error;
         EXPECT_TRUE(network->setText(QStringLiteral("lamp.on"), QLatin1String(on), pool, &error));

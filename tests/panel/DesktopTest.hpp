@@ -29,7 +29,7 @@ protected:
             return window->currentView() && window->currentView()->object() == window->network()->findObject(object);
         })) << qPrintable(object);
     }
-    Panel::ParameterRow* row(char const* parameterName) const {
+    Talo::ParameterRow* row(char const* parameterName) const {
         auto const name = QString::fromUtf8(parameterName);
         auto* const found = window->currentView()->row(name.mid(name.indexOf(QLatin1Char('.')) + 1));
         if (found) {

@@ -58,7 +58,7 @@ protected:
         ]
     })";
 
-    Panel::ParameterRow* row(char const* name) const { return window->currentView()->row(QString::fromUtf8(name)); }
+    Talo::ParameterRow* row(char const* name) const { return window->currentView()->row(QString::fromUtf8(name)); }
     template <typename Control>
     Control* control(char const* name) const {
         auto* const editor = row(name)->editor();

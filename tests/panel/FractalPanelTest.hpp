@@ -11,7 +11,7 @@ protected:
         ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_EXAMPLES "/fractal.json"), file));
         QString error;
         ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
-        window->studio().previewAction()->trigger();
+        window->fractalController().previewAction()->trigger();
         window->resize(windowSize);
         window->show();
         window->activateWindow();

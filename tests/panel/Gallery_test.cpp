@@ -2,8 +2,8 @@
 #include "support/TaloTest.hpp"
 
 #include <algorithm>
-#include <panel/Gallery.hpp>
-#include <panel/Plugins.hpp>
+#include <panel/gallery/Gallery.hpp>
+#include <panel/window/Plugins.hpp>
 #include <QDial>
 
 using Panel::GalleryState;

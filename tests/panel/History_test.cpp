@@ -2,7 +2,7 @@
 
 #include "support/FileDialogs.hpp"
 #include "support/WheelTurn.hpp"
-#include <panel/FocusOutline.hpp>
+#include <parameters/input/FocusOutline.hpp>
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDockWidget>
@@ -21,7 +21,7 @@ namespace {
 
 class HistoryTest : public EditingTest {
 protected:
-    Panel::HistoryList* list() const { return window->findChild<Panel::HistoryList*>(QStringLiteral("history")); }
+    Talo::HistoryView* list() const { return window->findChild<Talo::HistoryView*>(QStringLiteral("history")); }
     std::vector<std::string> rows() const {
         std::vector<std::string> rows;
         for (int index = 0; index < list()->count(); ++index)
@@ -225,7 +225,7 @@ TEST_F(HistoryTest, AColourIsEditedByKeyboardAlone) {
     auto* const swatch = row("colour")->editor();
     swatch->setFocus(Qt::TabFocusReason);
     ASSERT_TRUE(swatch->hasFocus());
-    auto* const frame = swatch->findChild<Panel::FocusOutline*>();
+    auto* const frame = swatch->findChild<Talo::FocusOutline*>();
     ASSERT_NE(frame, nullptr);
     EXPECT_TRUE(frame->isVisible());
     EXPECT_EQ(frame->geometry(), swatch->rect());

@@ -1,9 +1,10 @@
 #include "support/TaloTest.hpp"
 
-#include <panel/Look.hpp>
-#include <panel/PanelStyle.hpp>
-#include <panel/RawValue.hpp>
-#include <panel/ReadingDelegate.hpp>
+#include <panel/look/Look.hpp>
+#include <panel/look/PanelStyle.hpp>
+#include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/RawValueLabel.hpp>
+#include <parameters/rows/TextDirectionDelegate.hpp>
 #include <QDial>
 #include <QLabel>
 #include <QListWidget>
@@ -36,7 +37,7 @@ protected:
     }
 
     Kolt::ParameterPtr parameter{new Kolt::VParameter("name", Kolt::makeValue(std::string("0.5 of 12.")))};
-    Panel::PoolSource pools;
+    Talo::PoolSource pools;
     Panel::PanelStyle style;
 };
 
@@ -44,7 +45,7 @@ protected:
 
 TEST_F(LookTest, ARawValueReadsTheSameInAPanelFromRightToLeftButStandsAtItsEnd) {
     auto const firstLine = [&](Qt::LayoutDirection direction) {
-        Panel::RawValue raw(parameter, pools);
+        Talo::RawValueLabel raw(parameter, pools);
         raw.setLayoutDirection(direction);
         // Letters that look the same wherever they stand.
         QFont font(QStringLiteral("DejaVu Sans"), 9);
@@ -66,7 +67,7 @@ TEST_F(LookTest, ALabelStandsWhereLinesBegin) {
     auto const ink = [](Qt::LayoutDirection direction) {
         QLabel label(QStringLiteral("name"));
         label.setLayoutDirection(direction);
-        Panel::alignWithLayout(label);
+        Talo::alignWithLayout(label);
         label.resize(300, 30);
         return inkIn(pictureOf(label));
     };
@@ -122,7 +123,7 @@ TEST_F(LookTest, ATextInAListReadsTheSameInAPanelFromRightToLeftButStandsAtItsEn
         font.setHintingPreference(QFont::PreferFullHinting);
         font.setStyleStrategy(QFont::NoAntialias);
         list.setFont(font);
-        list.setItemDelegate(new Panel::ReadingDelegate(&list));
+        list.setItemDelegate(new Talo::TextDirectionDelegate(&list));
         list.addItem(QStringLiteral("done (twice)."));
         list.resize(300, 30);
         return pictureOf(list);

@@ -1,6 +1,6 @@
 #include "PanelTest.hpp"
 
-#include <panel/MissingEditor.hpp>
+#include <parameters/rows/PlaceholderEditor.hpp>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QMenuBar>

@@ -1,9 +1,9 @@
 #include "support/TaloTest.hpp"
 
 #include <lattice/ActionNotifier.hpp>
-#include <panel/MessageList.hpp>
-#include <panel/StandardOutputTap.hpp>
-#include <panel/WarningListener.hpp>
+#include <panel/window/MessageList.hpp>
+#include <panel/window/StandardOutputTap.hpp>
+#include <panel/window/WarningListener.hpp>
 #include <QProcess>
 #include <QSignalSpy>
 #include <thread>

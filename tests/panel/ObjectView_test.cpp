@@ -1,6 +1,6 @@
 #include "PanelTest.hpp"
 
-#include <panel/MissingEditor.hpp>
+#include <parameters/rows/PlaceholderEditor.hpp>
 #include <QDial>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -14,7 +14,7 @@ namespace {
 
 class ObjectViewTest : public PanelTest {
 protected:
-    Panel::ParameterRow* row(char const* name) const { return window->currentView()->row(QString::fromUtf8(name)); }
+    Talo::ParameterRow* row(char const* name) const { return window->currentView()->row(QString::fromUtf8(name)); }
 };
 
 } // namespace
@@ -101,7 +101,7 @@ TEST_F(ObjectViewTest, TheRawValueTellsThePoolsValueFromTheParametersOwn) {
 TEST_F(ObjectViewTest, TheRawValueHearsOfAChangeOnAnotherThread) {
     // A parameter without an editor: only the raw value may be told from elsewhere.
     Kolt::ParameterPtr const status(new Kolt::VParameter("status", Kolt::makeValue(std::string("idle"))));
-    Panel::RawValue const raw(status, window->pools());
+    Talo::RawValueLabel const raw(status, window->pools());
     EXPECT_EQ(raw.text(), QStringLiteral("idle"));
     std::thread([&] {
         dynamic_cast<Kolt::VValue<std::string>&>(*status->ownValue()).set("busy");
@@ -201,7 +201,7 @@ protected:
         EXPECT_GE(visible, 5);
     }
 
-    static void tabInto(Panel::ParameterRow const* row) { row->editor()->findChild<QLineEdit*>()->setFocus(); }
+    static void tabInto(Talo::ParameterRow const* row) { row->editor()->findChild<QLineEdit*>()->setFocus(); }
 
     Kolt::ObjectPtr const object{new Kolt::VObject("long")};
     QWidget frame;
@@ -275,7 +275,7 @@ TEST_F(LongObjectView, GoesThroughAllControlsByTab) {
 TEST_F(LongObjectView, KeepsTheRowThatHasTheFocus) {
     frame.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&frame));
-    QPointer<Panel::ParameterRow> const row = view->row(QStringLiteral("p2"));
+    QPointer<Talo::ParameterRow> const row = view->row(QStringLiteral("p2"));
     auto* const lineEdit = row->findChild<QLineEdit*>();
     lineEdit->setFocus();
     bar()->setValue(bar()->maximum());

@@ -5,8 +5,8 @@
 #include <bramble/Values.hpp>
 #include <lattice/InputCreator.hpp>
 #include <map>
-#include <panel/MissingEditor.hpp>
-#include <panel/network/ValueFormat.hpp>
+#include <network/ValueFormat.hpp>
+#include <parameters/rows/PlaceholderEditor.hpp>
 #include <QAbstractSlider>
 #include <QComboBox>
 #include <QDial>
@@ -41,7 +41,7 @@ int precision(Kolt::VParameter const& parameter) {
     return properties ? Kolt::valueOr(properties->getValue("precision"), usual) : usual;
 }
 
-std::string expectedText(EditorCase const& editor, Panel::ParameterRow& row, Kolt::VValueBase const& value) {
+std::string expectedText(EditorCase const& editor, Talo::ParameterRow& row, Kolt::VValueBase const& value) {
     auto const& parameter = *row.parameter();
     // A field with a mask shows what the mask lets through, whatever was pasted.
     auto const* const field = qobject_cast<QLineEdit const*>(row.editor());
@@ -66,7 +66,7 @@ bool showsNoValue(QWidget& editor, Tessera::StrongPtr<Kolt::VValueBase> const& v
     auto const* const field = qobject_cast<QLineEdit*>(&editor);
     auto const* const label = qobject_cast<QLabel*>(&editor);
     auto const* const list = editor.findChild<QComboBox*>();
-    auto const* const entries = Panel::entriesOf(value);
+    auto const* const entries = Talo::entriesOf(value);
     return (field && !field->hasAcceptableInput()) || (label && label->text() == QLatin1String(" picking")) ||
            (list && list->isEditable() && entries &&
             std::find(entries->begin(), entries->end(), list->currentText().toStdString()) == entries->end());
@@ -94,9 +94,9 @@ std::string misplacedHandle(QWidget& editor, Kolt::VValueBase const& value) {
                : "a handle at " + std::to_string(handle->value()) + ", not " + std::to_string(place);
 }
 
-std::string disagreement(Panel::ParameterRow& row, std::map<Creator, EditorCase const*> const& cases, int& compared) {
+std::string disagreement(Talo::ParameterRow& row, std::map<Creator, EditorCase const*> const& cases, int& compared) {
     auto const parameter = row.parameter();
-    if (!parameter || !row.editor() || qobject_cast<Panel::MissingEditor*>(row.editor()))
+    if (!parameter || !row.editor() || qobject_cast<Talo::PlaceholderEditor*>(row.editor()))
         return {};
     auto const found = cases.find(chosen(*parameter));
     if (found == cases.end())

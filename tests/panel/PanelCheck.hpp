@@ -1,6 +1,6 @@
 #pragma once
 
-#include <panel/MainWindow.hpp>
+#include <panel/window/MainWindow.hpp>
 #include <string>
 #include <vector>
 

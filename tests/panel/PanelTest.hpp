@@ -4,7 +4,7 @@
 
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/UndoHistory.hpp>
-#include <panel/MainWindow.hpp>
+#include <panel/window/MainWindow.hpp>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QTemporaryDir>

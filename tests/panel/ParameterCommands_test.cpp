@@ -1,6 +1,6 @@
 #include "EditingTest.hpp"
 
-#include <panel/ValueClipboard.hpp>
+#include <parameters/commands/ValueClipboard.hpp>
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
@@ -26,7 +26,7 @@ protected:
     static QMenu* contextMenu(QWidget* part) {
         QContextMenuEvent event(QContextMenuEvent::Mouse, {1, 1}, part->mapToGlobal({1, 1}));
         QApplication::sendEvent(part, &event);
-        return Panel::ParameterRow::rowOf(part)->findChild<QMenu*>();
+        return Talo::ParameterRow::rowOf(part)->findChild<QMenu*>();
     }
     static bool close(QPointer<QMenu> const& menu) {
         menu->close();
@@ -39,7 +39,7 @@ protected:
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
         editor->setFocus();
-        ASSERT_EQ(Panel::ParameterRow::rowOf(QApplication::focusWidget()), row(name)) << name;
+        ASSERT_EQ(Talo::ParameterRow::rowOf(QApplication::focusWidget()), row(name)) << name;
     }
     void copy(char const* name) const {
         focus(name);
@@ -55,7 +55,7 @@ protected:
         EXPECT_EQ(window->statusBar()->currentMessage(), errors.isEmpty() ? QString() : errors.constLast());
         return errors.isEmpty() ? std::string() : errors.constLast().toStdString();
     }
-    Panel::DefaultMarker* marker(char const* name) const { return row(name)->defaultMarker(); }
+    Talo::ModifiedIndicator* marker(char const* name) const { return row(name)->defaultMarker(); }
     bool isMarked(char const* name) const { return marker(name) && marker(name)->isVisible(); }
 };
 
@@ -170,7 +170,7 @@ TEST_F(ParameterCommandsTest, EveryTypeIsCopiedAndPastedExactly) {
         auto const value = held(name);
         copy(name);
         EXPECT_EQ(QApplication::clipboard()->text().toStdString(), value) << name;
-        EXPECT_TRUE(QApplication::clipboard()->mimeData()->hasFormat(Panel::ValueClipboard::mimeType())) << name;
+        EXPECT_TRUE(QApplication::clipboard()->mimeData()->hasFormat(Talo::ValueClipboard::mimeType())) << name;
         auto const copied = valuesNow();
         action("resetValue")->trigger();
         if (name != std::string("entered") && name != std::string("file")) {
@@ -255,7 +255,7 @@ TEST_F(ParameterCommandsTest, APasteThatDoesNotFitIsRefusedWithASentenceAndChang
 TEST_F(ParameterCommandsTest, ATypedValueThatDoesNotFitIsRefused) {
     auto const putTyped = [](char const* json) {
         auto* const data = new QMimeData;
-        data->setData(Panel::ValueClipboard::mimeType(), json);
+        data->setData(Talo::ValueClipboard::mimeType(), json);
         QApplication::clipboard()->setMimeData(data);
     };
     for (auto const* const json :

@@ -1,6 +1,6 @@
 #include "PanelTest.hpp"
 
-#include <panel/MissingEditor.hpp>
+#include <parameters/rows/PlaceholderEditor.hpp>
 #include <QMessageBox>
 
 using testing::HasSubstr;
@@ -9,8 +9,8 @@ namespace {
 
 class PluginsTest : public PanelTest {
 protected:
-    Panel::MissingEditor* missing(char const* name) const {
-        return qobject_cast<Panel::MissingEditor*>(window->currentView()->row(QString::fromUtf8(name))->editor());
+    Talo::PlaceholderEditor* missing(char const* name) const {
+        return qobject_cast<Talo::PlaceholderEditor*>(window->currentView()->row(QString::fromUtf8(name))->editor());
     }
 };
 
@@ -25,7 +25,8 @@ TEST_F(PluginsTest, UnloadPutsStandInsInPlaceOfEditors) {
     EXPECT_TRUE(Kolt::InputRegistry::theRegistry().entries().empty());
     for (auto const* const view : window->findChildren<Panel::ObjectView*>()) {
         for (auto const* const row : view->rows())
-            EXPECT_NE(qobject_cast<Panel::MissingEditor*>(row->editor()), nullptr) << qPrintable(row->parameterName());
+            EXPECT_NE(qobject_cast<Talo::PlaceholderEditor*>(row->editor()), nullptr)
+                << qPrintable(row->parameterName());
     }
     ASSERT_NE(missing("on"), nullptr);
     EXPECT_EQ(missing("on")->text(), QStringLiteral("No editor is registered for the type bool without preferences."));
@@ -110,7 +111,7 @@ TEST_F(PluginsTest, AnEditorInUseElsewhereKeepsThePluginLoaded) {
 TEST_F(PluginsTest, AStandInNamesTypeAndPreferences) {
     Kolt::VParameter parameter("text", Kolt::makeValue(std::string()));
     parameter.setCreationPreferences(Kolt::PreferencesPtr(new Kolt::VCreationPreferences("Save as", "QT")));
-    Panel::MissingEditor const standIn(parameter);
+    Talo::PlaceholderEditor const standIn(parameter);
     EXPECT_EQ(standIn.text(),
               QStringLiteral("No editor is registered for the type std::string with the preferences {QT, Save as}."));
 }

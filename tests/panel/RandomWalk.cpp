@@ -2,7 +2,7 @@
 
 #include "support/TaloTest.hpp"
 #include <lattice/UndoHistory.hpp>
-#include <panel/network/ValueFormat.hpp>
+#include <network/ValueFormat.hpp>
 #include <QColorDialog>
 #include <QDockWidget>
 #include <QJsonDocument>
@@ -316,7 +316,7 @@ void RandomWalk::write() {
     auto const parameter = oneOf(object->parameters());
     auto const name = window_.network()->nameOf(parameter);
     // The objects themselves write the others.
-    if (!Panel::isEdited(*parameter))
+    if (!Talo::isEdited(*parameter))
         return;
     auto& texts = texts_[name];
     auto const pool = window_.pools().pool();
@@ -392,7 +392,7 @@ std::string RandomWalk::settle() {
         return "the list of objects does not get the focus";
     if (auto* const cancel = window_.findChild<QPushButton*>(QStringLiteral("cancel")))
         cancel->click();
-    if (!waitUntil([this] { return !window_.studio().workshop().isComputing(); }))
+    if (!waitUntil([this] { return !window_.fractalController().renderQueue().isComputing(); }))
         return "a picture is computed without end";
     // What was put off: the end of a gesture, rows that are made later.
     QCoreApplication::processEvents();
@@ -409,7 +409,7 @@ std::vector<std::string> RandomWalk::differences(QJsonObject const& expected, ch
             auto const name = object.key() + QLatin1Char('.') + parameter.key();
             auto const held = now[object.key()][parameter.key()];
             if (writtenByHost_.count(name) > 0 || held == parameter.value() ||
-                !Panel::isEdited(*window_.network()->findParameter(name)))
+                !Talo::isEdited(*window_.network()->findParameter(name)))
                 continue;
             auto const text = [](QJsonValue const& value) {
                 return QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact).toStdString();

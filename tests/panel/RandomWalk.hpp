@@ -3,7 +3,7 @@
 #include "ModalCloser.hpp"
 
 #include <map>
-#include <panel/MainWindow.hpp>
+#include <panel/window/MainWindow.hpp>
 #include <QJsonObject>
 #include <random>
 #include <set>

@@ -1,6 +1,6 @@
 #include "PanelTest.hpp"
 
-#include <panel/Session.hpp>
+#include <panel/window/Session.hpp>
 #include <QDockWidget>
 #include <QScreen>
 #include <QSplitter>

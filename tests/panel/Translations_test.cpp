@@ -1,8 +1,8 @@
 #include "support/TaloTest.hpp"
 
-#include <panel/Gallery.hpp>
-#include <panel/MainWindow.hpp>
+#include <panel/gallery/Gallery.hpp>
 #include <panel/Translations.hpp>
+#include <panel/window/MainWindow.hpp>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
@@ -102,7 +102,7 @@ TEST_F(TranslationsTest, EachMenuHasAKeyOfItsOwnForEachCommand) {
         }
         EXPECT_EQ(bar.size(), 4);
         for (auto const* const label : window->findChildren<QLabel*>())
-            if (label->buddy() && !Panel::ParameterRow::rowOf(label->buddy()))
+            if (label->buddy() && !Talo::ParameterRow::rowOf(label->buddy()))
                 bar << label->text();
         for (auto const* const button : window->statusBar()->findChildren<QPushButton*>())
             bar << button->text();

@@ -15,7 +15,7 @@ struct Step : Kolt::VUndoAction {
     bool undo() override { return true; }
 };
 
-struct Workshop : SampleWorkshop {
+struct RenderQueue : SampleWorkshop {
     std::unique_ptr<Kolt::ValueNotifier> makeEditor() override { return std::make_unique<Editor>(); }
     void recordStep(Kolt::VParameter& parameter) override {
         parameter.AddUndoAction(Tessera::StrongPtr<Kolt::VUndoAction>(new Step), 1);
@@ -24,7 +24,7 @@ struct Workshop : SampleWorkshop {
 
 struct Creator : Kolt::VInputCreator<int, Kolt::VInputCreatorBase> {
     Creator() : VInputCreator("sample", 0, nullptr, "TALO_API_VERSION") {
-        addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new Workshop));
+        addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new RenderQueue));
     }
 };
 

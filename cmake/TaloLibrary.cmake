@@ -1,0 +1,27 @@
+include(GNUInstallDirs)
+
+# talo_library(NAME SOURCES... FOLDER FOLDER [LINK libraries...] [OUTPUT_NAME NAME])
+# A shared library, Talo::NAME. Its headers are the sources that end in .hpp; they are included by their path from
+# FOLDER, which is relative to the project, and are installed with the library.
+function(talo_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "FOLDER;OUTPUT_NAME" "LINK")
+    set(headers ${arg_UNPARSED_ARGUMENTS})
+    list(FILTER headers INCLUDE REGEX "\\.hpp$")
+    cmake_path(ABSOLUTE_PATH arg_FOLDER BASE_DIRECTORY "${PROJECT_SOURCE_DIR}" NORMALIZE OUTPUT_VARIABLE root)
+    string(REGEX REPLACE "/$" "" root "${root}")
+    add_library(${name} SHARED ${arg_UNPARSED_ARGUMENTS})
+    add_library(Talo::${name} ALIAS ${name})
+    target_include_directories(${name} PUBLIC
+        "$<BUILD_INTERFACE:${root}>"
+        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/talo>")
+    target_compile_features(${name} PUBLIC cxx_std_17)
+    target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE $<BUILD_INTERFACE:talo_compile>)
+    set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    if(arg_OUTPUT_NAME)
+        set_target_properties(${name} PROPERTIES OUTPUT_NAME ${arg_OUTPUT_NAME})
+    endif()
+    target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS "${root}" FILES ${headers})
+    install(TARGETS ${name} EXPORT TaloTargets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/talo)
+endfunction()

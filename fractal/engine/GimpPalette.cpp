@@ -1,0 +1,87 @@
+#include <fractal/engine/GimpPalette.hpp>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+namespace Fractal {
+
+namespace {
+
+constexpr qint64 longestFile = 1 << 20;
+constexpr std::size_t mostColours = 4096;
+
+} // namespace
+
+std::vector<QRgb> GimpPalette::parse(QByteArray const& text, int& line, QString& problem) {
+    auto const lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
+    auto const refuse = [&](QString const& expected) {
+        auto const found = lines.value(line - 1).trimmed().left(60);
+        problem =
+            tr("expected %1, found %2")
+                .arg(expected, found.isEmpty() ? tr("an empty line") : QLatin1Char('"') + found + QLatin1Char('"'));
+        return std::vector<QRgb>();
+    };
+    line = 1;
+    if (lines.constFirst().trimmed() != QLatin1String("GIMP Palette"))
+        return refuse(tr("the first line \"GIMP Palette\""));
+
+    static QRegularExpression const pattern(
+        QStringLiteral("\\A\\s*([0-9]{1,3})\\s+([0-9]{1,3})\\s+([0-9]{1,3})(\\s.*)?\\z"));
+    std::vector<QRgb> colours;
+    for (line = 2; line <= lines.size(); ++line) {
+        auto const content = lines[line - 1].trimmed();
+        if (content.isEmpty() || content.startsWith(QLatin1Char('#')) || content.startsWith(QLatin1String("Name:")) ||
+            content.startsWith(QLatin1String("Columns:")))
+            continue;
+        auto const match = pattern.match(content);
+        int const red = match.captured(1).toInt();
+        int const green = match.captured(2).toInt();
+        int const blue = match.captured(3).toInt();
+        if (!match.hasMatch() || red > 255 || green > 255 || blue > 255)
+            return refuse(tr("red, green and blue from 0 to 255"));
+        if (colours.size() == mostColours)
+            return refuse(tr("at most %1 colours").arg(mostColours));
+        colours.push_back(qRgb(red, green, blue));
+    }
+    if (colours.empty()) {
+        line = lines.size();
+        return refuse(tr("at least one colour"));
+    }
+    return colours;
+}
+
+std::vector<QRgb> GimpPalette::parse(QByteArray const& text, QString& error) {
+    int line = 0;
+    QString problem;
+    auto const colours = parse(text, line, problem);
+    if (colours.empty())
+        error = tr("line %1: %2").arg(line).arg(problem);
+    return colours;
+}
+
+std::vector<QRgb> GimpPalette::read(QString const& file, QString& error) {
+    QFile source(file);
+    int line = 0;
+    QString problem;
+    std::vector<QRgb> colours;
+    // What is no file, as a pipe, may never end, or never begin.
+    if (QFileInfo const info(file); info.exists() && !info.isFile())
+        problem = tr("expected a file, found something else");
+    // One byte more tells a file that is too long.
+    else if (source.open(QIODevice::ReadOnly)) {
+        auto const text = source.read(longestFile + 1);
+        if (source.error() == QFileDevice::NoError) {
+            if (text.size() > longestFile)
+                problem = tr("expected a palette of at most one megabyte, found a longer file");
+            else
+                colours = parse(text, line, problem);
+        }
+    }
+    if (colours.empty() && problem.isEmpty())
+        problem = tr("expected a file that can be read, found: %1").arg(source.errorString());
+    if (colours.empty())
+        error = file + QLatin1Char(':') + QString::number(line) + QLatin1String(": ") + problem;
+    return colours;
+}
+
+} // namespace Fractal

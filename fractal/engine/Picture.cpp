@@ -1,0 +1,72 @@
+#include <algorithm>
+#include <fractal/engine/Overlays.hpp>
+#include <fractal/engine/Picture.hpp>
+#include <fractal/engine/Titles.hpp>
+#include <QImageWriter>
+#include <QPdfWriter>
+#include <QSaveFile>
+
+namespace Fractal {
+
+namespace {
+
+QString refusal(QString const& file, QString const& reason) {
+    return QStringLiteral("%1: %2").arg(file, reason);
+}
+
+} // namespace
+
+std::optional<FractalPoints> Picture::compute(RenderRequest request, FractalRenderer const& renderer,
+                                              std::atomic<bool> const& cancelled,
+                                              FractalRenderer::Progress const& progress) {
+    auto& settings = request.settings;
+    settings.limit();
+    if (!request.hasTexts)
+        settings.legendText.clear();
+    int const coarseness = std::max(1, request.coarseness);
+    auto const shared = [&](int length) { return (length + coarseness - 1) / coarseness; };
+    QSize const computed(shared(request.size.width()), shared(request.size.height()));
+    auto points = renderer.render(settings, computed, cancelled, progress);
+    if (!points)
+        return std::nullopt;
+    if (coarseness > 1)
+        points->image = points->image.scaled(request.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPainter painter(&points->image);
+    Overlays(settings, request.size).paint(painter, *points);
+    if (request.hasTexts)
+        Titles(settings).paintOver(painter, request.size);
+    painter.end();
+    return points;
+}
+
+QString Picture::writePng(QImage const& image, QString const& file) {
+    QSaveFile target(file);
+    if (!target.open(QIODevice::WriteOnly))
+        return refusal(file, target.errorString());
+    QImageWriter writer(&target, "png");
+    if (!writer.write(image))
+        return refusal(file, writer.errorString());
+    return target.commit() ? QString() : refusal(file, target.errorString());
+}
+
+QString Picture::writePdf(QImage const& image, FractalSettings const& settings, QString const& file) {
+    QSaveFile target(file);
+    if (!target.open(QIODevice::WriteOnly))
+        return refusal(file, target.errorString());
+    {
+        QPdfWriter writer(&target);
+        writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF(15, 15, 15, 15),
+                                         QPageLayout::Millimeter));
+        writer.setResolution(300);
+        writer.setTitle(settings.heading);
+        QPainter painter;
+        if (!painter.begin(&writer))
+            return refusal(file, tr("the page cannot be drawn"));
+        Titles(settings).paintPage(painter, QRectF(0, 0, writer.width(), writer.height()), image);
+        if (!painter.end())
+            return refusal(file, tr("the page cannot be drawn"));
+    }
+    return target.commit() ? QString() : refusal(file, target.errorString());
+}
+
+} // namespace Fractal

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <initializer_list>
+#include <QString>
+#include <utility>
+
+namespace Fractal {
+
+/// What a text stands for; `otherwise` for a text that is none of the names.
+template <typename T>
+T chosen(QString const& text, T otherwise, std::initializer_list<std::pair<char const*, T>> names) {
+    for (auto const& [name, meaning] : names) {
+        if (text == QLatin1String(name))
+            return meaning;
+    }
+    return otherwise;
+}
+
+} // namespace Fractal

@@ -1,0 +1,27 @@
+#include <bramble/Selection.hpp>
+#include <fractal/objects/EnumNames.hpp>
+#include <fractal/objects/FormulaObject.hpp>
+
+namespace Fractal {
+
+FormulaObject::FormulaObject(std::string const& name) : ComputingObject(name) {}
+
+FormulaObject::~FormulaObject() = default;
+
+void FormulaObject::contribute(FractalSettings& settings, PoolPtr const& pool) {
+    using Formula = FractalSettings::Formula;
+    settings.formula = chosen(readText<Kolt::Enum>("kind", pool), settings.formula,
+                              {{"Mandelbrot", Formula::Mandelbrot},
+                               {"Julia", Formula::Julia},
+                               {"Burning ship", Formula::BurningShip},
+                               {"Newton", Formula::Newton}});
+    settings.iterations = read("iterations", pool, settings.iterations);
+    settings.quality = read("quality", pool, settings.quality);
+    settings.symmetry = read("symmetry", pool, settings.symmetry);
+    settings.zoom = read("zoom", pool, settings.zoom);
+    settings.contrast = read("contrast", pool, settings.contrast);
+    settings.rotation = read("rotation", pool, settings.rotation);
+    settings.smooth = read("smooth", pool, settings.smooth);
+}
+
+} // namespace Fractal

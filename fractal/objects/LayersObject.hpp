@@ -1,0 +1,17 @@
+#pragma once
+
+#include <fractal/objects/ComputingObject.hpp>
+
+namespace Fractal {
+
+/// Says what is drawn over a picture. Its parameters: `overlays` (multiselection of "Axes", "Grid", "Escape circle",
+/// "Orbit" and "Legend") and `contours` (multiselection of texts that end with a number of steps, as "level 10").
+class LayersObject : public ComputingObject {
+public:
+    explicit LayersObject(std::string const& name);
+    ~LayersObject() override;
+
+    void contribute(FractalSettings& settings, PoolPtr const& pool) override;
+};
+
+} // namespace Fractal

@@ -1,0 +1,24 @@
+#include <bramble/Values.hpp>
+#include <fractal/objects/RenderObject.hpp>
+
+namespace Fractal {
+
+RenderObject::RenderObject(std::string const& name) : ComputingObject(name) {}
+
+RenderObject::~RenderObject() = default;
+
+void RenderObject::contribute(FractalSettings&, PoolPtr const&) {}
+
+bool RenderObject::shapesPicture() const {
+    return false;
+}
+
+bool RenderObject::isStart(Kolt::ParameterPtr const& parameter) const {
+    return parameter && parameter == findParameter("start");
+}
+
+void RenderObject::tellProgress(QString const& text, PoolPtr const& pool) const {
+    writeValue(findParameter("progress"), pool, Kolt::info{text.toStdString()});
+}
+
+} // namespace Fractal

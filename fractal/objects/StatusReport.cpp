@@ -1,0 +1,21 @@
+#include <bramble/Values.hpp>
+#include <fractal/objects/StatusReport.hpp>
+
+namespace Fractal {
+
+StatusReport::StatusReport(RenderObject const* object, PoolPtr const& pool)
+    : parameter_(object ? object->findParameter("status") : nullptr), pool_(pool) {
+    // The pool's values may be asked for on this thread alone, so the worker is given the value itself.
+    if (parameter_)
+        value_ = parameter_->getLocalValue(pool, std::string(), true);
+}
+
+void StatusReport::write(QString const& text) const {
+    auto* const typed = dynamic_cast<Kolt::VTypedValueBase<Kolt::VObjectStatus>*>(value_.get());
+    if (!typed || !typed->set(Kolt::VObjectStatus(text.toStdString())))
+        return;
+    value_->renewAge();
+    parameter_->notifyValueChange(value_, pool_, std::string(), nullptr, nullptr, nullptr);
+}
+
+} // namespace Fractal

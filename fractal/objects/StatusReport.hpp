@@ -1,0 +1,24 @@
+#pragma once
+
+#include <fractal/objects/RenderObject.hpp>
+
+namespace Fractal {
+
+/// Writes the status of a RenderObject in one pool, on any thread. Made and destroyed on the user-interface thread.
+class StatusReport {
+public:
+    /// Reports nothing.
+    StatusReport() = default;
+    /// A null object, and one without a status, reports nothing.
+    StatusReport(RenderObject const* object, PoolPtr const& pool);
+
+    /// Stores a status, which may be rich text, and tells everybody who shows it.
+    void write(QString const& text) const;
+
+private:
+    Kolt::ParameterPtr parameter_;
+    Tessera::StrongPtr<Kolt::VValueBase> value_;
+    PoolPtr pool_;
+};
+
+} // namespace Fractal

@@ -1,0 +1,23 @@
+#include <array>
+#include <fractal/objects/TitlesObject.hpp>
+
+namespace Fractal {
+
+TitlesObject::TitlesObject(std::string const& name) : ComputingObject(name) {}
+
+TitlesObject::~TitlesObject() = default;
+
+void TitlesObject::contribute(FractalSettings& settings, PoolPtr const& pool) {
+    auto const text = [&](char const* parameter) {
+        return QString::fromStdString(read(parameter, pool, std::string()));
+    };
+    settings.heading = text("heading");
+    settings.author = text("author");
+    settings.date = text("date");
+    settings.legendText = text("legend");
+    // A parameter declared as an array of one text holds a text where its editor edits one.
+    settings.caption = QString::fromStdString(
+        read("caption", pool, std::array<std::string, 1>{read("caption", pool, std::string())})[0]);
+}
+
+} // namespace Fractal

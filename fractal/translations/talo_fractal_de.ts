@@ -1,0 +1,141 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Fractal::ComputingBar</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>Abb&amp;rechen</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Berechnet</translation>
+    </message>
+    <message>
+        <source>Ends the computing (Esc)</source>
+        <translation>Beendet die Berechnung (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::GimpPalette</name>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>erwartet: %1, gefunden: %2</translation>
+    </message>
+    <message>
+        <source>an empty line</source>
+        <translation>eine leere Zeile</translation>
+    </message>
+    <message>
+        <source>the first line &quot;GIMP Palette&quot;</source>
+        <translation>die erste Zeile „GIMP Palette“</translation>
+    </message>
+    <message>
+        <source>red, green and blue from 0 to 255</source>
+        <translation>Rot, Grün und Blau von 0 bis 255</translation>
+    </message>
+    <message>
+        <source>at most %1 colours</source>
+        <translation>höchstens %1 Farben</translation>
+    </message>
+    <message>
+        <source>at least one colour</source>
+        <translation>mindestens eine Farbe</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>expected a file, found something else</source>
+        <translation>erwartet: eine Datei, gefunden: etwas anderes</translation>
+    </message>
+    <message>
+        <source>expected a palette of at most one megabyte, found a longer file</source>
+        <translation>erwartet: eine Palette von höchstens einem Megabyte, gefunden: eine längere Datei</translation>
+    </message>
+    <message>
+        <source>expected a file that can be read, found: %1</source>
+        <translation>erwartet: eine lesbare Datei, gefunden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::Picture</name>
+    <message>
+        <source>the page cannot be drawn</source>
+        <translation>die Seite lässt sich nicht zeichnen</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::PictureJob</name>
+    <message>
+        <source>the picture of %1</source>
+        <translation>das Bild von %1</translation>
+    </message>
+    <message>
+        <source>the picture</source>
+        <translation>das Bild</translation>
+    </message>
+    <message>
+        <source>Computing %1: %2 %.</source>
+        <translation>Wird berechnet: %1, %2 %.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for %1.</source>
+        <translation>Für %1 reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 points, %3 steps at most, %4 × %4 samples: %5 s. %6 % of the points stay.</source>
+        <translation>%1 × %2 Punkte, höchstens %3 Schritte, %4 × %4 Proben: %5 s. %6 % der Punkte bleiben.</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::Preview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::FractalController</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Nothing in this network computes a picture.</source>
+        <translation>Nichts in diesem Netz berechnet ein Bild.</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::RenderQueue</name>
+    <message>
+        <source>%1: there is no formula in the network, and so no picture to be written</source>
+        <translation>%1: das Netz hat keine Formel, also gibt es kein Bild zu schreiben</translation>
+    </message>
+    <message>
+        <source>Nothing is being computed.</source>
+        <translation>Es wird nichts berechnet.</translation>
+    </message>
+    <message>
+        <source>Computing %1</source>
+        <translation>Wird berechnet: %1</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1.</source>
+        <translation>Abgebrochen: %1.</translation>
+    </message>
+    <message>
+        <source>Wrote %1.</source>
+        <translation>Geschrieben: %1.</translation>
+    </message>
+    <message>
+        <source>Computed %1.</source>
+        <translation>Berechnet: %1.</translation>
+    </message>
+</context>
+</TS>

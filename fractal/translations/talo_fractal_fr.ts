@@ -1,0 +1,141 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Fractal::ComputingBar</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>Computed</source>
+        <translation>Calculé</translation>
+    </message>
+    <message>
+        <source>Ends the computing (Esc)</source>
+        <translation>Arrête le calcul (Échap)</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::GimpPalette</name>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>attendu : %1, trouvé : %2</translation>
+    </message>
+    <message>
+        <source>an empty line</source>
+        <translation>une ligne vide</translation>
+    </message>
+    <message>
+        <source>the first line &quot;GIMP Palette&quot;</source>
+        <translation>la première ligne « GIMP Palette »</translation>
+    </message>
+    <message>
+        <source>red, green and blue from 0 to 255</source>
+        <translation>rouge, vert et bleu de 0 à 255</translation>
+    </message>
+    <message>
+        <source>at most %1 colours</source>
+        <translation>au plus %1 couleurs</translation>
+    </message>
+    <message>
+        <source>at least one colour</source>
+        <translation>au moins une couleur</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>expected a file, found something else</source>
+        <translation>attendu : un fichier, trouvé : autre chose</translation>
+    </message>
+    <message>
+        <source>expected a palette of at most one megabyte, found a longer file</source>
+        <translation>attendu : une palette d’au plus un mégaoctet, trouvé : un fichier plus long</translation>
+    </message>
+    <message>
+        <source>expected a file that can be read, found: %1</source>
+        <translation>attendu : un fichier lisible, trouvé : %1</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::Picture</name>
+    <message>
+        <source>the page cannot be drawn</source>
+        <translation>la page ne peut pas être dessinée</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::PictureJob</name>
+    <message>
+        <source>the picture of %1</source>
+        <translation>l’image de %1</translation>
+    </message>
+    <message>
+        <source>the picture</source>
+        <translation>l’image</translation>
+    </message>
+    <message>
+        <source>Computing %1: %2 %.</source>
+        <translation>Calcul de %1 : %2 %.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for %1.</source>
+        <translation>La mémoire ne suffit pas pour %1.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 points, %3 steps at most, %4 × %4 samples: %5 s. %6 % of the points stay.</source>
+        <translation>%1 × %2 points, au plus %3 pas, %4 × %4 échantillons : %5 s. %6 % des points restent.</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::Preview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::FractalController</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Nothing in this network computes a picture.</source>
+        <translation>Rien dans ce réseau ne calcule d’image.</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::RenderQueue</name>
+    <message>
+        <source>%1: there is no formula in the network, and so no picture to be written</source>
+        <translation>%1 : le réseau n’a pas de formule, il n’y a donc pas d’image à écrire</translation>
+    </message>
+    <message>
+        <source>Nothing is being computed.</source>
+        <translation>Aucun calcul en cours.</translation>
+    </message>
+    <message>
+        <source>Computing %1</source>
+        <translation>Calcul de %1</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1.</source>
+        <translation>Annulé : %1.</translation>
+    </message>
+    <message>
+        <source>Wrote %1.</source>
+        <translation>Écrit : %1.</translation>
+    </message>
+    <message>
+        <source>Computed %1.</source>
+        <translation>Calculé : %1.</translation>
+    </message>
+</context>
+</TS>

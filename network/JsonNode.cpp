@@ -1,0 +1,236 @@
+#include <algorithm>
+#include <cmath>
+#include <lattice/ValueTrait.hpp>
+#include <limits>
+#include <network/JsonNode.hpp>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSet>
+#include <QStringList>
+
+namespace Talo {
+
+QString quoted(QString const& text) {
+    int const longest = 60;
+    return '"' + (text.size() > longest ? text.left(longest) + "..." : text) + '"';
+}
+
+namespace {
+
+QString described(QJsonValue const& value) {
+    switch (value.type()) {
+    case QJsonValue::Null:
+        return "null";
+    case QJsonValue::Bool:
+        return value.toBool() ? "true" : "false";
+    case QJsonValue::Double:
+        return "the number " + QString::fromStdString(Kolt::VValueTrait<double>::Text(value.toDouble()));
+    case QJsonValue::String:
+        return "the text " + quoted(value.toString());
+    case QJsonValue::Array:
+        return "a list of " + QString::number(value.toArray().size());
+    case QJsonValue::Object:
+        return "an object";
+    case QJsonValue::Undefined:
+        break;
+    }
+    return "nothing";
+}
+
+} // namespace
+
+/// Finds out where the values stand that Qt read: it keeps no places. The text was accepted by Qt's parser, so this one
+/// only has to tell values apart.
+class JsonNode::Scanner {
+public:
+    explicit Scanner(QByteArray const& json) : next_(json.begin()), end_(json.end()) {
+        if (json.startsWith("\xEF\xBB\xBF"))
+            next_ += 3;
+    }
+
+    void scan(JsonNode& node) {
+        skipBlanks();
+        node.line_ = line_;
+        if (node.value_.isObject())
+            scanObject(node);
+        else if (node.value_.isArray())
+            scanArray(node);
+        else if (node.value_.isString())
+            readString();
+        else
+            next_ = std::find_if(next_, end_, [](char c) { return isBlank(c) || c == ',' || c == ']' || c == '}'; });
+    }
+
+private:
+    static bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+
+    void advance() {
+        if (*next_++ == '\n')
+            ++line_;
+    }
+    void skipBlanks() {
+        while (next_ != end_ && isBlank(*next_))
+            advance();
+    }
+    /// Steps over a mark after blanks, if it stands there.
+    bool skip(char mark) {
+        skipBlanks();
+        if (next_ == end_ || *next_ != mark)
+            return false;
+        ++next_;
+        return true;
+    }
+
+    QString readString() {
+        auto const* const begin = next_++;
+        while (next_ != end_ && *next_ != '"') {
+            if (*next_ == '\\')
+                ++next_;
+            advance();
+        }
+        ++next_;
+        auto const text = "[" + QByteArray(begin, static_cast<int>(next_ - begin)) + "]";
+        return QJsonDocument::fromJson(text).array().at(0).toString();
+    }
+
+    void scanObject(JsonNode& node) {
+        auto const object = node.value_.toObject();
+        QSet<QString> keys;
+        ++next_;
+        while (!skip('}')) {
+            skip(',');
+            skipBlanks();
+            JsonNode member;
+            member.keyLine_ = line_;
+            member.key_ = readString();
+            if (keys.contains(member.key_))
+                throw FormatError{member.keyLine_, "expected each key once, found " + quoted(member.key_) + " again"};
+            keys.insert(member.key_);
+            skip(':');
+            member.value_ = object.value(member.key_);
+            scan(member);
+            node.children_.push_back(std::move(member));
+        }
+    }
+
+    void scanArray(JsonNode& node) {
+        auto const array = node.value_.toArray();
+        ++next_;
+        for (auto const& value : array) {
+            skip(',');
+            JsonNode element;
+            element.value_ = value;
+            scan(element);
+            node.children_.push_back(std::move(element));
+        }
+        skip(']');
+    }
+
+    char const* next_;
+    char const* const end_;
+    int line_ = 1;
+};
+
+JsonNode JsonNode::parse(QByteArray const& json) {
+    QJsonParseError error{};
+    auto const document = QJsonDocument::fromJson(json, &error);
+    if (error.error != QJsonParseError::NoError) {
+        auto const lines = std::count(json.begin(), json.begin() + std::clamp(error.offset, 0, json.size()), '\n');
+        throw FormatError{static_cast<int>(lines) + 1, "expected valid JSON, found: " + error.errorString()};
+    }
+    JsonNode root;
+    root.value_ = document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
+    Scanner(json).scan(root);
+    return root;
+}
+
+void JsonNode::refuse(QString const& expected) const {
+    refuse(expected, described(value_));
+}
+
+void JsonNode::refuse(QString const& expected, QString const& found) const {
+    throw FormatError{line_, "expected " + expected + ", found " + found};
+}
+
+QString JsonNode::text(QString const& what) const {
+    if (!value_.isString())
+        refuse(what + ", a text");
+    auto const read = value_.toString();
+    // Half of a surrogate pair.
+    if (QString::fromStdString(read.toStdString()) != read)
+        refuse(what + ", a text of whole Unicode characters");
+    return read;
+}
+
+QString JsonNode::nonEmptyText(QString const& what) const {
+    auto const read = text(what);
+    if (read.isEmpty())
+        refuse(what + ", a text that is not empty");
+    return read;
+}
+
+bool JsonNode::truth(QString const& what) const {
+    if (!value_.isBool())
+        refuse(what + ", true or false");
+    return value_.toBool();
+}
+
+int JsonNode::integer(QString const& what) const {
+    using Limits = std::numeric_limits<int>;
+    auto const number = value_.toDouble(std::nan(""));
+    if (!(number >= Limits::min() && number <= Limits::max() && std::trunc(number) == number))
+        refuse(what + QString(", a whole number from %1 to %2").arg(Limits::min()).arg(Limits::max()));
+    return static_cast<int>(number);
+}
+
+double JsonNode::real(QString const& what) const {
+    if (value_.isDouble())
+        return value_.toDouble();
+    double number = 0.0;
+    auto const text = value_.toString();
+    if (!QStringList{"nan", "inf", "-inf", "-0"}.contains(text) ||
+        !Kolt::VValueTrait<double>::setValueFromText(number, text.toStdString()))
+        refuse(what + R"(, a number or one of "nan", "inf", "-inf", "-0")");
+    return number;
+}
+
+std::vector<JsonNode> const& JsonNode::elements(QString const& what) const {
+    if (!value_.isArray())
+        refuse(what + ", a list");
+    return children_;
+}
+
+std::vector<JsonNode> const& JsonNode::members(QString const& what) const {
+    if (!value_.isObject())
+        refuse(what + ", an object");
+    return children_;
+}
+
+std::vector<JsonNode> const& JsonNode::members(QString const& what, std::initializer_list<char const*> known) const {
+    for (auto const& member : members(what)) {
+        if (std::any_of(known.begin(), known.end(), [&](auto const* key) { return member.key_ == key; }))
+            continue;
+        QStringList keys;
+        for (auto const* const key : known)
+            keys << key;
+        throw FormatError{member.keyLine_, "expected only the keys " + keys.join(", ") + " in " + what + ", found " +
+                                               quoted(member.key_)};
+    }
+    return children_;
+}
+
+JsonNode const* JsonNode::find(char const* key) const {
+    auto const found =
+        std::find_if(children_.begin(), children_.end(), [&](auto const& child) { return child.key_ == key; });
+    return value_.isObject() && found != children_.end() ? &*found : nullptr;
+}
+
+JsonNode const& JsonNode::required(char const* key, QString const& what) const {
+    auto const* const found = find(key);
+    if (!found)
+        refuse("the key " + quoted(key) + " in " + what, "none");
+    return *found;
+}
+
+} // namespace Talo

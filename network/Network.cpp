@@ -1,0 +1,328 @@
+#include <algorithm>
+#include <bramble/Values.hpp>
+#include <network/NetworkReader.hpp>
+#include <network/PropertyFormat.hpp>
+#include <network/ValueFormat.hpp>
+#include <network/ValueText.hpp>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+namespace Talo {
+
+namespace {
+
+using Value = Tessera::StrongPtr<Kolt::VValueBase>;
+using Pool = Tessera::StrongPtr<Kolt::ValuePool>;
+using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
+
+/// Something of a network that no file can hold; the line has no meaning.
+[[noreturn]] void refuseToWrite(QString const& text) {
+    throw FormatError{0, text};
+}
+
+bool failed(QString* error, QString const& reason) {
+    if (error)
+        *error = reason;
+    return false;
+}
+
+QString nameOfPool(Pool const& pool) {
+    return QString::fromStdString(pool->Name());
+}
+
+/// The element of a list with the name; null when there is none.
+template <typename List>
+typename List::value_type findNamed(List const& list, QString const& name) {
+    auto const text = name.toStdString();
+    auto const found = std::find_if(list.begin(), list.end(), [&](auto const& each) { return each->Name() == text; });
+    return found == list.end() ? nullptr : *found;
+}
+
+/// A value as JSON; undefined when it is of another type than its parameter or cannot be written.
+QJsonValue valueToJson(Kolt::VParameter const& parameter, Value const& value) {
+    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    return format ? format->write(value) : QJsonValue(QJsonValue::Undefined);
+}
+
+/// The values of the pools by `convert`; pools without a value of their own are left out.
+template <typename Convert>
+QJsonObject poolValuesToJson(Kolt::VParameter const& parameter, std::vector<Pool> const& pools,
+                             Convert const& convert) {
+    QJsonObject values;
+    if (!parameter.keepsValuesPerPool())
+        return values;
+    for (auto const& pool : pools)
+        if (auto const value = parameter.getLocalValue(pool, std::string(), false))
+            values.insert(nameOfPool(pool), convert(value));
+    return values;
+}
+
+} // namespace
+
+Network::Network() : self_(std::make_shared<Network*>(this)) {}
+
+Network::~Network() = default;
+
+Network::LoadResult Network::load(QString const& file, ObjectFactory const& makeObject) {
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly))
+        return {nullptr, file + ":0: expected a file that can be read, found: " + source.errorString()};
+    auto const json = source.readAll();
+    if (source.error() != QFileDevice::NoError)
+        return {nullptr, file + ":0: expected a file that can be read, found: " + source.errorString()};
+    try {
+        return {NetworkReader::read(json, file, makeObject), QString()};
+    } catch (FormatError const& error) {
+        return {nullptr, file + ':' + QString::number(error.line) + ": " + error.text};
+    }
+}
+
+Kolt::ObjectPtr Network::findObject(QString const& name) const {
+    return findNamed(objects_, name);
+}
+
+QString Network::kind(Kolt::ObjectPtr const& object) const {
+    auto const found = std::find(objects_.begin(), objects_.end(), object);
+    return found == objects_.end() ? QString() : kinds_[static_cast<std::size_t>(found - objects_.begin())];
+}
+
+Kolt::ParameterPtr Network::findParameter(QString const& objectDotParameter) const {
+    auto const dot = objectDotParameter.indexOf('.');
+    auto const object = findObject(objectDotParameter.left(dot));
+    return dot < 0 || !object ? nullptr : object->findParameter(objectDotParameter.mid(dot + 1).toStdString());
+}
+
+Pool Network::findPool(QString const& name) const {
+    return findNamed(pools_, name);
+}
+
+QString Network::nameOf(Kolt::ParameterPtr const& parameter) const {
+    for (auto const& object : objects_) {
+        auto const& all = object->parameters();
+        if (parameter && std::find(all.begin(), all.end(), parameter) != all.end())
+            return QString::fromStdString(object->Name() + '.' + parameter->Name());
+    }
+    return {};
+}
+
+QString Network::folder() const {
+    return QFileInfo(file_).absolutePath();
+}
+
+void Network::connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const {
+    auto const connect = [&](Value const& value) {
+        auto const action = Kolt::valueOr(value, ActionPtr());
+        if (!action)
+            return;
+        action->setHandler([network = std::weak_ptr<Network*>(self_),
+                            holder = Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase>(object)](
+                               Pool const& pool, Kolt::ParameterPtr const& fired) {
+            // A copy, as the handler may replace itself or end the network, of which nothing is held meanwhile.
+            auto const handler = [&] {
+                auto const living = network.lock();
+                return living ? (*living)->actionHandler : nullptr;
+            }();
+            if (handler)
+                handler(holder.strong(), fired, pool);
+        });
+    };
+    connect(parameter.ownValue());
+    if (parameter.keepsValuesPerPool())
+        for (auto const& pool : pools_)
+            connect(parameter.getLocalValue(pool, std::string(), false));
+}
+
+QByteArray Network::values() const {
+    QJsonObject objects;
+    for (auto const& object : objects_) {
+        QJsonObject parameters;
+        for (auto const& parameter : object->parameters()) {
+            auto const json = [&](Value const& value) {
+                auto const written = valueToJson(*parameter, value);
+                return written.isUndefined() ? QJsonValue() : written;
+            };
+            QJsonObject entry{{"value", json(parameter->ownValue())}};
+            if (parameter->keepsValuesPerPool())
+                entry.insert("values", poolValuesToJson(*parameter, pools_, json));
+            parameters.insert(QString::fromStdString(parameter->Name()), entry);
+        }
+        objects.insert(QString::fromStdString(object->Name()), parameters);
+    }
+    return QJsonDocument(objects).toJson();
+}
+
+QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString const& targetFolder) const {
+    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    if (!format)
+        refuseToWrite("no network file can hold a parameter of type " +
+                      QString::fromStdString(parameter.declaredType()));
+    auto const* const ownEntries = entriesOf(parameter.ownValue());
+    auto const json = [&](Value const& value) {
+        auto const written = format->write(value);
+        if (written.isUndefined())
+            refuseToWrite("the value is not of type " + QString(format->key) + " or has a text that is not UTF-8");
+        auto const* const entries = entriesOf(value);
+        if (entries && (!ownEntries || *entries != *ownEntries))
+            refuseToWrite("the value of a pool chooses among other entries than the parameter");
+        return written;
+    };
+
+    QJsonObject node{{"name", QString::fromStdString(parameter.Name())},
+                     {"type", format->key},
+                     {"value", json(parameter.ownValue())}};
+    if (format->choosesEntries) {
+        QJsonArray entries;
+        if (ownEntries)
+            for (auto const& entry : *ownEntries)
+                entries.append(QString::fromStdString(entry));
+        node.insert("entries", entries);
+    }
+    auto const poolValues = poolValuesToJson(parameter, pools_, json);
+    if (!poolValues.isEmpty())
+        node.insert("values", poolValues);
+    else if (parameter.keepsValuesPerPool())
+        node.insert("perPool", true);
+    if (auto const& preferences = parameter.creationPreferences()) {
+        QJsonArray names;
+        for (auto const& name : preferences->names())
+            names.append(QString::fromStdString(name));
+        node.insert("preferences", names);
+    }
+    if (auto const* const properties = parameter.properties()) {
+        PropertyFormat const propertyFormat(format->key, folder());
+        QJsonObject map;
+        for (auto const& [key, value] : *properties) {
+            auto const name = QString::fromStdString(key);
+            auto const written = propertyFormat.write(name, value, targetFolder);
+            if (written.isUndefined())
+                refuseToWrite("no network file can hold the property " + quoted(name));
+            map.insert(name, written);
+        }
+        if (!map.isEmpty())
+            node.insert("properties", map);
+    }
+    return node;
+}
+
+QJsonObject Network::objectToJson(Kolt::VObject const& object, QString const& targetFolder) const {
+    auto const name = QString::fromStdString(object.Name());
+    QJsonArray parameters;
+    for (auto const& parameter : object.parameters()) {
+        try {
+            parameters.append(parameterToJson(*parameter, targetFolder));
+        } catch (FormatError const& error) {
+            refuseToWrite(name + '.' + QString::fromStdString(parameter->Name()) + ": " + error.text);
+        }
+    }
+    QJsonObject node{{"name", name}, {"parameters", parameters}};
+    QJsonArray slotList;
+    for (auto const& slot : object.slotList()) {
+        auto const bound = nameOf(slot->parameter());
+        slotList.append(QJsonObject{{"name", QString::fromStdString(slot->Name())},
+                                    {"parameter", bound.isEmpty() ? QJsonValue() : QJsonValue(bound)}});
+    }
+    if (!slotList.isEmpty())
+        node.insert("slots", slotList);
+    return node;
+}
+
+QByteArray Network::toJson(QString const& targetFolder) const {
+    QJsonArray pools;
+    for (auto const& pool : pools_)
+        pools.append(nameOfPool(pool));
+    QJsonArray objects;
+    for (std::size_t index = 0; index < objects_.size(); ++index) {
+        auto node = objectToJson(*objects_[index], targetFolder);
+        if (!kinds_[index].isEmpty())
+            node.insert("kind", kinds_[index]);
+        objects.append(node);
+    }
+    return QJsonDocument(QJsonObject{{"objects", objects}, {"pools", pools}, {"title", title_}}).toJson();
+}
+
+bool Network::save(QString const& file, QString* error) const {
+    auto const refused = [&](QString const& reason) { return failed(error, "cannot save " + file + ": " + reason); };
+    QByteArray json;
+    try {
+        json = toJson(QFileInfo(file).absolutePath());
+        // What was added since the file was loaded may be more than the format allows.
+        NetworkReader::read(json, file);
+    } catch (FormatError const& problem) {
+        return refused(problem.text);
+    }
+    QSaveFile target(file);
+    if (!target.open(QIODevice::WriteOnly) || target.write(json) != json.size() || !target.commit())
+        return refused(target.errorString());
+    return true;
+}
+
+bool Network::saveAs(QString const& file, QString* error) {
+    if (!save(file, error))
+        return false;
+    auto const oldFolder = folder();
+    file_ = file;
+    for (auto const& object : objects_) {
+        for (auto const& parameter : object->parameters()) {
+            auto const* const format = ValueFormat::ofType(parameter->declaredType());
+            if (!format || !parameter->properties())
+                continue;
+            PropertyFormat const propertyFormat(format->key, oldFolder);
+            // A copy, as the map changes.
+            auto const properties = *parameter->properties();
+            for (auto const& [key, value] : properties)
+                if (auto const moved = propertyFormat.moved(QString::fromStdString(key), value, folder()))
+                    parameter->setProperty(key, moved, nullptr, nullptr, nullptr);
+        }
+    }
+    rememberDefaults();
+    return true;
+}
+
+void Network::rememberDefaults() {
+    for (auto const& object : objects_)
+        for (auto const& parameter : object->parameters())
+            if (isEdited(*parameter))
+                parameter->rememberDefaults();
+}
+
+bool Network::isModified() const {
+    auto const differs = [&](Kolt::ParameterPtr const& parameter) {
+        auto const* const defaults = parameter->defaults();
+        return defaults &&
+               (!defaults->isOwnValueOf(*parameter) ||
+                (parameter->keepsValuesPerPool() && !std::all_of(pools_.begin(), pools_.end(), [&](auto const& pool) {
+                     return defaults->holdsIn(*parameter, pool);
+                 })));
+    };
+    return std::any_of(objects_.begin(), objects_.end(), [&](auto const& object) {
+        auto const& parameters = object->parameters();
+        return std::any_of(parameters.begin(), parameters.end(), differs);
+    });
+}
+
+bool Network::setText(QString const& objectDotParameter, QString const& text, Pool const& pool, QString* error) {
+    auto const parameter = findParameter(objectDotParameter);
+    if (!parameter)
+        return failed(error, "there is no parameter " + quoted(objectDotParameter) + " in the network");
+    bool const perPool = parameter->keepsValuesPerPool();
+    if (perPool && std::find(pools_.begin(), pools_.end(), pool) == pools_.end())
+        return failed(error, quoted(objectDotParameter) + " keeps a value per pool and needs a pool of the network");
+
+    // Read before anything is made: with a wrong text a pool that has no value gets none.
+    auto const read = valueFromText(*parameter, pool, text);
+    if (!read)
+        return failed(error, quoted(text) + " is no value of " + quoted(objectDotParameter) + ", which is of type " +
+                                 QString::fromStdString(parameter->declaredType()));
+
+    auto const value = parameter->getLocalValue(pool, std::string(), true);
+    value->assign(*read);
+    Kolt::markValueChanged(*parameter, pool);
+    parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);
+    return true;
+}
+
+} // namespace Talo

@@ -1,0 +1,167 @@
+#include <algorithm>
+#include <network/NetworkReader.hpp>
+#include <network/PropertyFormat.hpp>
+#include <network/ValueFormat.hpp>
+
+namespace Talo {
+
+namespace {
+
+/// The texts of a list, each of which may stand there once.
+std::vector<std::string> differentTexts(JsonNode const& node, QString const& what, QString const& element) {
+    std::vector<std::string> texts;
+    QSet<QString> seen;
+    for (auto const& child : node.elements(what)) {
+        auto const text = child.text(element);
+        if (seen.contains(text))
+            child.refuse("each of " + what + " once", quoted(text) + " again");
+        seen.insert(text);
+        texts.push_back(text.toStdString());
+    }
+    return texts;
+}
+
+} // namespace
+
+NetworkReader::NetworkReader(QString const& file, ObjectFactory const& makeObject)
+    : network_(new Network), makeObject_(makeObject) {
+    network_->file_ = file;
+}
+
+std::unique_ptr<Network> NetworkReader::read(QByteArray const& json, QString const& file,
+                                             ObjectFactory const& makeObject) {
+    NetworkReader reader(file, makeObject);
+    reader.readRoot(JsonNode::parse(json));
+    reader.network_->rememberDefaults();
+    return std::move(reader.network_);
+}
+
+void NetworkReader::readRoot(JsonNode const& root) {
+    root.members("a network", {"objects", "pools", "title"});
+    if (auto const* const title = root.find("title"))
+        network_->title_ = title->text("the title");
+
+    auto const& pools = root.required("pools", "a network");
+    for (auto const& pool : pools.elements("the pools"))
+        readPool(pool);
+    if (network_->pools_.empty())
+        pools.refuse("at least one pool");
+
+    auto const& objects = root.required("objects", "a network").elements("the objects");
+    for (auto const& object : objects)
+        readObject(object);
+    // A slot may be bound to a parameter of an object that comes later.
+    for (std::size_t index = 0; index < objects.size(); ++index)
+        if (auto const* const slotList = objects[index].find("slots"))
+            readSlots(*slotList, network_->objects_[index]);
+}
+
+void NetworkReader::readPool(JsonNode const& node) {
+    auto const name = node.nonEmptyText("the name of a pool");
+    if (network_->findPool(name))
+        node.refuse("a pool name that is not taken", quoted(name) + " again");
+    network_->pools_.emplace_back(new Kolt::ValuePool(name.toStdString()));
+}
+
+void NetworkReader::readObject(JsonNode const& node) {
+    node.members("an object of the network", {"kind", "name", "parameters", "slots"});
+    auto const& nameNode = node.required("name", "an object of the network");
+    auto const name = nameNode.nonEmptyText("the name of an object");
+    if (name.contains('.'))
+        nameNode.refuse("the name of an object, which has no dot");
+    if (network_->findObject(name))
+        nameNode.refuse("an object name that is not taken", quoted(name) + " again");
+
+    auto const* const kindNode = node.find("kind");
+    auto const kind = kindNode ? kindNode->text("the kind of an object") : QString();
+    auto const object = makeObject_ ? makeObject_(kind, name) : Kolt::ObjectPtr(new Kolt::VObject(name.toStdString()));
+    network_->objects_.push_back(object);
+    network_->kinds_.push_back(kind);
+
+    takenNames_.clear();
+    if (auto const* const parameters = node.find("parameters"))
+        for (auto const& parameter : parameters->elements("the parameters"))
+            readParameter(parameter, object);
+}
+
+void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& object) {
+    QString const what = "a parameter";
+    node.members(what, {"entries", "name", "perPool", "preferences", "properties", "type", "value", "values"});
+    auto const& nameNode = node.required("name", what);
+    auto const name = nameNode.nonEmptyText("the name of a parameter");
+    if (takenNames_.contains(name))
+        nameNode.refuse("a parameter name that is not taken in the object", quoted(name) + " again");
+    takenNames_.insert(name);
+
+    auto const& typeNode = node.required("type", what);
+    auto const* const format = ValueFormat::ofKey(typeNode.text("a type"));
+    if (!format)
+        typeNode.refuse("a type, one of " + ValueFormat::keys());
+    std::vector<std::string> entries;
+    if (format->choosesEntries)
+        entries = differentTexts(node.required("entries", "a parameter of type " + QString(format->key)), "the entries",
+                                 "an entry");
+    else if (auto const* const unwanted = node.find("entries"))
+        unwanted->refuse("no entries for the type " + QString(format->key));
+
+    auto const ownValue = format->read(node.required("value", what), entries);
+    auto const* const poolValues = node.find("values");
+    auto const* const perPool = node.find("perPool");
+    bool const keepsPerPool = perPool ? perPool->truth("\"perPool\"") : poolValues != nullptr;
+    if (poolValues && !keepsPerPool)
+        perPool->refuse("true where \"values\" are given");
+    using Values = Kolt::VParameter::Values;
+    Kolt::ParameterPtr const parameter(new Kolt::VParameter(
+        name.toStdString(), ownValue, keepsPerPool ? Values::PerPool : Values::Shared, format->typeName));
+    object->addParameter(parameter);
+    if (poolValues)
+        readPoolValues(*poolValues, *parameter, *format, entries);
+    // Editors change a selection in place. A pool that fell back on the parameter's own one would change it for all.
+    if (keepsPerPool && format->choosesEntries)
+        for (auto const& pool : network_->pools_)
+            parameter->getLocalValue(pool, std::string(), true);
+
+    network_->connectActions(*parameter, object);
+    if (auto const* const preferences = node.find("preferences")) {
+        auto const names = differentTexts(*preferences, "the preferences", "the name of a preference");
+        parameter->setCreationPreferences(Kolt::PreferencesPtr(
+            new Kolt::VCreationPreferences(Kolt::VCreationPreferences::Names(names.begin(), names.end()))));
+    }
+    if (auto const* const properties = node.find("properties"))
+        for (auto const& [key, value] : PropertyFormat(format->key, network_->folder()).read(*properties))
+            parameter->setProperty(key, value, nullptr, nullptr, nullptr);
+}
+
+void NetworkReader::readPoolValues(JsonNode const& node, Kolt::VParameter const& parameter, ValueFormat const& format,
+                                   std::vector<std::string> const& entries) const {
+    for (auto const& member : node.members("the values of pools")) {
+        auto const pool = network_->findPool(member.key());
+        if (!pool)
+            member.refuse("values of the pools of the network", "the pool " + quoted(member.key()));
+        format.copy(format.read(member, entries), parameter.getLocalValue(pool, std::string(), true));
+    }
+}
+
+void NetworkReader::readSlots(JsonNode const& node, Kolt::ObjectPtr const& object) {
+    QString const what = "a slot";
+    for (auto const& slotNode : node.elements("the slots")) {
+        slotNode.members(what, {"name", "parameter"});
+        auto const& nameNode = slotNode.required("name", what);
+        auto const name = nameNode.nonEmptyText("the name of a slot").toStdString();
+        auto const& taken = object->slotList();
+        if (std::any_of(taken.begin(), taken.end(), [&](auto const& slot) { return slot->Name() == name; }))
+            nameNode.refuse("a slot name that is not taken in the object",
+                            quoted(QString::fromStdString(name)) + " again");
+
+        auto const& bound = slotNode.required("parameter", what);
+        Kolt::ParameterPtr parameter;
+        if (!bound.isNull()) {
+            parameter = network_->findParameter(bound.text("the parameter of a slot"));
+            if (!parameter)
+                bound.refuse("the parameter of a slot, \"object.parameter\" of the network");
+        }
+        object->addSlot(Tessera::StrongPtr<Kolt::VSlot>(new Kolt::VSlot(name, parameter)));
+    }
+}
+
+} // namespace Talo

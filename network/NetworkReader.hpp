@@ -1,0 +1,36 @@
+#pragma once
+
+#include <network/JsonNode.hpp>
+#include <network/Network.hpp>
+#include <QSet>
+
+namespace Talo {
+
+class PropertyFormat;
+struct ValueFormat;
+
+/// Makes a network of the text of a network file. It is used for one text.
+class NetworkReader {
+public:
+    /// The whole network; throws a FormatError when anything in the text is wrong. `file` says where relative paths
+    /// start; it need not exist. The factory makes the objects; an empty one makes objects that do nothing.
+    static std::unique_ptr<Network> read(QByteArray const& json, QString const& file,
+                                         ObjectFactory const& makeObject = {});
+
+private:
+    NetworkReader(QString const& file, ObjectFactory const& makeObject);
+    void readRoot(JsonNode const& root);
+    void readPool(JsonNode const& node);
+    void readObject(JsonNode const& node);
+    void readParameter(JsonNode const& node, Kolt::ObjectPtr const& object);
+    void readPoolValues(JsonNode const& node, Kolt::VParameter const& parameter, ValueFormat const& format,
+                        std::vector<std::string> const& entries) const;
+    void readSlots(JsonNode const& node, Kolt::ObjectPtr const& object);
+
+    std::unique_ptr<Network> network_;
+    ObjectFactory const& makeObject_;
+    // The names of the parameters of the object that is being read.
+    QSet<QString> takenNames_;
+};
+
+} // namespace Talo

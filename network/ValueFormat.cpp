@@ -1,0 +1,308 @@
+#include <algorithm>
+#include <bramble/Action.hpp>
+#include <bramble/Selection.hpp>
+#include <bramble/Values.hpp>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <network/ValueFormat.hpp>
+#include <optional>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QStringList>
+
+namespace Talo {
+
+namespace {
+
+using Value = Tessera::StrongPtr<Kolt::VValueBase>;
+using Entries = ValueFormat::Entries;
+using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
+using StringArray = std::array<std::string, 1>;
+
+/// The T in a value object; nothing for an object of another type.
+template <typename T>
+std::optional<T> contentOf(Value const& value) {
+    T content{};
+    auto const* const typed = dynamic_cast<Kolt::VTypedValueBase<T> const*>(value.get());
+    return typed && typed->get(content) ? std::optional<T>(content) : std::nullopt;
+}
+
+/// The content of a value object as JSON by `write`; undefined for an object of another type.
+template <typename T, typename Write>
+QJsonValue written(Value const& value, Write const& write) {
+    auto const content = contentOf<T>(value);
+    return content ? QJsonValue(write(*content)) : QJsonValue(QJsonValue::Undefined);
+}
+
+template <typename T>
+void copyContent(Value const& from, Value const& to) {
+    auto const content = contentOf<T>(from);
+    auto* const target = dynamic_cast<Kolt::VTypedValueBase<T>*>(to.get());
+    if (content && target)
+        target->set(*content);
+}
+
+/// The text; undefined for bytes that are not UTF-8, which JSON cannot hold.
+QJsonValue textToJson(std::string const& text) {
+    auto const unicode = QString::fromStdString(text);
+    return unicode.toStdString() == text ? QJsonValue(unicode) : QJsonValue(QJsonValue::Undefined);
+}
+
+Value readBool(JsonNode const& node, Entries const&) {
+    return Kolt::makeValue(node.truth("a bool value"));
+}
+
+QJsonValue writeBool(Value const& value) {
+    return written<bool>(value, [](bool content) { return content; });
+}
+
+Value readInt(JsonNode const& node, Entries const&) {
+    return Kolt::makeValue(node.integer("an int value"));
+}
+
+QJsonValue writeInt(Value const& value) {
+    return written<int>(value, [](int content) { return content; });
+}
+
+Value readDouble(JsonNode const& node, Entries const&) {
+    return Kolt::makeValue(node.real("a double value"));
+}
+
+QJsonValue writeDouble(Value const& value) {
+    return written<double>(value, realToJson);
+}
+
+Value readAction(JsonNode const& node, Entries const&) {
+    if (node.isNull())
+        return Kolt::makeValue(ActionPtr());
+    return Kolt::makeValue(ActionPtr(new Kolt::VAction(node.text("the name of an action").toStdString())));
+}
+
+QJsonValue writeAction(Value const& value) {
+    return written<ActionPtr>(value, [](ActionPtr const& action) { //
+        return action ? textToJson(action->Name()) : QJsonValue();
+    });
+}
+
+Value readColour(JsonNode const& node, Entries const&) {
+    QString const what = "a colour value, a list of red, green, blue and alpha";
+    auto const& channels = node.elements(what);
+    if (channels.size() != 4)
+        node.refuse(what);
+    auto const channel = [&](std::size_t index) {
+        auto const number = channels[index].real("a colour channel");
+        if (std::isfinite(number) && std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
+            channels[index].refuse("a colour channel in the range of a float");
+        return static_cast<float>(number);
+    };
+    return Kolt::makeValue(Ferro::rgba_float_t{channel(0), channel(1), channel(2), channel(3)});
+}
+
+/// The double with the shortest text that still reads as the float, so that 0.3 is written as 0.3.
+double shortestDouble(float number) {
+    char text[32];
+    auto const* const end = std::to_chars(text, text + sizeof text, number).ptr;
+    double shortest = 0.0;
+    std::from_chars(text, end, shortest);
+    return shortest;
+}
+
+QJsonValue writeColour(Value const& value) {
+    return written<Ferro::rgba_float_t>(value, [](Ferro::rgba_float_t const& colour) {
+        QJsonArray channels;
+        for (float const channel : {colour.red, colour.green, colour.blue, colour.alpha})
+            channels.append(realToJson(shortestDouble(channel)));
+        return channels;
+    });
+}
+
+/// One of the entries, by its text.
+std::string readEntry(JsonNode const& node, Entries const& entries, QString const& what) {
+    auto const text = node.text(what).toStdString();
+    if (std::find(entries.begin(), entries.end(), text) == entries.end())
+        node.refuse(what + ", one of the entries");
+    return text;
+}
+
+Value readEnum(JsonNode const& node, Entries const& entries) {
+    Tessera::StrongPtr<Kolt::VEnumSelection, Tessera::StringList> const names(new Kolt::VEnumSelection(entries));
+    if (!node.isNull()) {
+        auto const chosen = readEntry(node, entries, "an enum value");
+        names->select(static_cast<unsigned>(std::find(entries.begin(), entries.end(), chosen) - entries.begin()));
+    }
+    return Kolt::makeValue(Kolt::Enum(names));
+}
+
+QJsonValue writeEnum(Value const& value) {
+    return written<Kolt::Enum>(value, [](Kolt::Enum const& choice) {
+        auto const* const names = dynamic_cast<Kolt::VEnumSelection const*>(choice.names().get());
+        bool const chosen = names && names->selectedNumber() >= 0;
+        return chosen ? textToJson(Kolt::VValueTrait<Kolt::Enum>::Text(choice)) : QJsonValue();
+    });
+}
+
+Value readSelection(JsonNode const& node, Entries const& entries) {
+    Kolt::VStringList const selection(new Kolt::StringSelection(entries));
+    if (!node.isNull())
+        selection->select(readEntry(node, entries, "a selection value"));
+    return Kolt::makeValue(selection);
+}
+
+QJsonValue writeSelection(Value const& value) {
+    return written<Kolt::VStringList>(value, [](Kolt::VStringList const& selection) {
+        bool const chosen = selection && !selection->selected().empty();
+        return chosen ? textToJson(selection->selected()) : QJsonValue();
+    });
+}
+
+Value readMultipleSelection(JsonNode const& node, Entries const& entries) {
+    Kolt::VMultipleStringList const selection(new Kolt::MultipleStringSelection(entries));
+    for (auto const& element : node.elements("a multiselection value")) {
+        auto const text = readEntry(element, entries, "a chosen text");
+        if (selection->isInSelection(text))
+            element.refuse("each chosen text once");
+        selection->add(text);
+    }
+    return Kolt::makeValue(selection);
+}
+
+QJsonValue writeMultipleSelection(Value const& value) {
+    return written<Kolt::VMultipleStringList>(value, [](Kolt::VMultipleStringList const& selection) {
+        QJsonArray chosen;
+        if (selection)
+            for (auto const& text : *selection)
+                if (selection->isInSelection(text))
+                    chosen.append(textToJson(text));
+        return chosen;
+    });
+}
+
+Value readFlags(JsonNode const& node, Entries const&) {
+    Kolt::FlagList flags;
+    for (auto const& member : node.members("a flags value"))
+        flags[member.key().toStdString()] = member.truth("a flag");
+    return Kolt::makeValue(flags);
+}
+
+QJsonValue writeFlags(Value const& value) {
+    return written<Kolt::FlagList>(value, [](Kolt::FlagList const& flags) {
+        QJsonObject switches;
+        for (auto const& [name, on] : flags)
+            switches.insert(QString::fromStdString(name), on);
+        return switches;
+    });
+}
+
+Value readInfo(JsonNode const& node, Entries const&) {
+    return Kolt::makeValue(Kolt::info{node.text("an info value").toStdString()});
+}
+
+QJsonValue writeInfo(Value const& value) {
+    return written<Kolt::info>(value, [](Kolt::info const& content) { return textToJson(content.text); });
+}
+
+Value readStatus(JsonNode const& node, Entries const&) {
+    return Kolt::makeValue(Kolt::VObjectStatus(node.text("a status value").toStdString()));
+}
+
+QJsonValue writeStatus(Value const& value) {
+    return written<Kolt::VObjectStatus>(value, [](auto const& status) { return textToJson(status.text()); });
+}
+
+Value readString(JsonNode const& node, Entries const&) {
+    return Kolt::makeValue(node.text("a string value").toStdString());
+}
+
+QJsonValue writeString(Value const& value) {
+    return written<std::string>(value, textToJson);
+}
+
+// The editor of an array of one text edits a text, so a text is what the parameter holds.
+Value readStringArray(JsonNode const& node, Entries const&) {
+    QString const what = "a stringarray value, a list of one text";
+    auto const& elements = node.elements(what);
+    if (elements.size() != 1)
+        node.refuse(what);
+    return Kolt::makeValue(elements[0].text("the text of a stringarray value").toStdString());
+}
+
+QJsonValue writeStringArray(Value const& value) {
+    auto const array = contentOf<StringArray>(value);
+    auto const text = array ? std::optional<std::string>(array->front()) : contentOf<std::string>(value);
+    return text ? QJsonValue(QJsonArray{textToJson(*text)}) : QJsonValue(QJsonValue::Undefined);
+}
+
+std::vector<ValueFormat> const& formats() {
+    using Tessera::Typename;
+    static std::vector<ValueFormat> const all = {
+        {"bool", Typename(typeid(bool)), false, true, readBool, writeBool, copyContent<bool>},
+        {"int", Typename(typeid(int)), false, true, readInt, writeInt, copyContent<int>},
+        {"double", Typename(typeid(double)), false, true, readDouble, writeDouble, copyContent<double>},
+        {"action", Typename(typeid(ActionPtr)), false, false, readAction, writeAction, copyContent<ActionPtr>},
+        {"colour", Typename(typeid(Ferro::rgba_float_t)), false, true, readColour, writeColour,
+         copyContent<Ferro::rgba_float_t>},
+        {"enum", Typename(typeid(Kolt::Enum)), true, true, readEnum, writeEnum, copyContent<Kolt::Enum>},
+        {"flags", Typename(typeid(Kolt::FlagList)), false, true, readFlags, writeFlags, copyContent<Kolt::FlagList>},
+        {"info", Typename(typeid(Kolt::info)), false, false, readInfo, writeInfo, copyContent<Kolt::info>},
+        {"selection", Typename(typeid(Kolt::VStringList)), true, true, readSelection, writeSelection,
+         copyContent<Kolt::VStringList>},
+        {"multiselection", Typename(typeid(Kolt::VMultipleStringList)), true, true, readMultipleSelection,
+         writeMultipleSelection, copyContent<Kolt::VMultipleStringList>},
+        {"status", Typename(typeid(Kolt::VObjectStatus)), false, false, readStatus, writeStatus,
+         copyContent<Kolt::VObjectStatus>},
+        {"string", Typename(typeid(std::string)), false, true, readString, writeString, copyContent<std::string>},
+        {"stringarray", Typename(typeid(StringArray)), false, true, readStringArray, writeStringArray,
+         copyContent<std::string>}};
+    return all;
+}
+
+template <typename Matches>
+ValueFormat const* findFormat(Matches const& matches) {
+    auto const found = std::find_if(formats().begin(), formats().end(), matches);
+    return found == formats().end() ? nullptr : &*found;
+}
+
+} // namespace
+
+ValueFormat const* ValueFormat::ofKey(QString const& key) {
+    return findFormat([&](auto const& format) { return key == format.key; });
+}
+
+ValueFormat const* ValueFormat::ofType(std::string const& typeName) {
+    return findFormat([&](auto const& format) { return typeName == format.typeName; });
+}
+
+QString ValueFormat::keys() {
+    QStringList all;
+    for (auto const& format : formats())
+        all << format.key;
+    return all.join(", ");
+}
+
+ValueFormat::Entries const* entriesOf(Value const& value) {
+    Tessera::StringList const* list = nullptr;
+    if (auto const choice = contentOf<Kolt::Enum>(value))
+        list = choice->names().get();
+    else if (auto const selection = contentOf<Kolt::VStringList>(value))
+        list = selection->get();
+    else if (auto const multiple = contentOf<Kolt::VMultipleStringList>(value))
+        list = multiple->get();
+    return list ? &list->strings() : nullptr;
+}
+
+bool isEdited(Kolt::VParameter const& parameter) {
+    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    return format && format->edited;
+}
+
+QJsonValue realToJson(double number) {
+    if (std::isnan(number))
+        return "nan";
+    bool const negativeZero = number == 0.0 && std::signbit(number);
+    if (std::isfinite(number) && !negativeZero)
+        return number;
+    return QString::fromStdString(Kolt::VValueTrait<double>::Text(number));
+}
+
+} // namespace Talo

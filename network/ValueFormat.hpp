@@ -1,0 +1,46 @@
+#pragma once
+
+#include <lattice/Parameter.hpp>
+#include <network/JsonNode.hpp>
+#include <string>
+#include <vector>
+
+namespace Talo {
+
+/// How the values of one type stand in a network file.
+struct ValueFormat {
+    using Entries = std::vector<std::string>;
+
+    /// The type's key in the file.
+    char const* key;
+    /// The readable name of the type (Tessera::Typename), by which editors are chosen.
+    std::string typeName;
+    /// Whether values choose among the entries of their parameter.
+    bool choosesEntries;
+    /// Whether people edit values of the type; the others are shown, and told by objects, on any thread.
+    bool edited;
+    /// A new value object; throws a FormatError for what is no value of the type.
+    Tessera::StrongPtr<Kolt::VValueBase> (*read)(JsonNode const& node, Entries const& entries);
+    /// The value as JSON; undefined when the object is not one that `read` makes, or holds a text that is not UTF-8.
+    QJsonValue (*write)(Tessera::StrongPtr<Kolt::VValueBase> const& value);
+
+    /// Stores the content of a value object that `read` made in another one of the same kind.
+    void (*copy)(Tessera::StrongPtr<Kolt::VValueBase> const& from, Tessera::StrongPtr<Kolt::VValueBase> const& to);
+
+    /// The format of a key or of a readable type name; null for an unknown one. They live as long as the process.
+    static ValueFormat const* ofKey(QString const& key);
+    static ValueFormat const* ofType(std::string const& typeName);
+    /// The keys of all formats, for messages.
+    static QString keys();
+};
+
+/// The entries among which a value chooses; null when it refers to no list.
+ValueFormat::Entries const* entriesOf(Tessera::StrongPtr<Kolt::VValueBase> const& value);
+
+/// Whether people edit the values of the parameter. Not so where no network file can hold them.
+bool isEdited(Kolt::VParameter const& parameter);
+
+/// A number as JsonNode::real reads it.
+QJsonValue realToJson(double number);
+
+} // namespace Talo

@@ -1,0 +1,15 @@
+#include <bramble/Values.hpp>
+#include <network/ValueText.hpp>
+
+namespace Talo {
+
+Tessera::StrongPtr<Kolt::VValueBase>
+valueFromText(Kolt::VParameter const& parameter, Tessera::StrongPtr<Kolt::ValuePool> const& pool, QString const& text) {
+    auto const value = Kolt::heldValue(parameter, pool).value;
+    Kolt::FlagList const none;
+    auto const flags = Kolt::valueOr(value, none).size();
+    bool const isValue = value->setValueFromText(text.toStdString());
+    return isValue && Kolt::valueOr(value, none).size() == flags ? value : nullptr;
+}
+
+} // namespace Talo

@@ -1,0 +1,126 @@
+#include <panel/gallery/GalleryRow.hpp>
+#include <parameters/input/WheelGuard.hpp>
+#include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/PlaceholderEditor.hpp>
+#include <QHBoxLayout>
+
+namespace Panel {
+
+namespace {
+
+// In characters.
+constexpr int leastEditorWidth = 22;
+
+QString preferenceList(Kolt::VCreationPreferences const& preferences) {
+    QStringList names;
+    for (auto const& name : preferences.names())
+        names << QString::fromStdString(name);
+    return names.join(QLatin1String(", "));
+}
+
+} // namespace
+
+GalleryRow::GalleryRow(Kolt::InputRegistry::Entry const& entry, Kolt::ParameterPtr const& parameter,
+                       Talo::PoolSource& pools, QWidget* parent)
+    : QWidget(parent),
+      creatorName_(entry.creator.strong() ? entry.creator.strong()->Name() : std::string()),
+      valueType_(entry.valueType),
+      creator_(entry.creator),
+      parameter_(parameter),
+      pools_(pools),
+      rawValue_(new Talo::RawValueLabel(parameter, pools, this)),
+      counter_(new NotificationCounter(parameter, this)) {
+    auto* const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    names_ = makeNames(entry);
+    layout->addWidget(names_);
+    for (std::size_t index = 0; index < cells_.size(); ++index) {
+        cells_.at(index) = makeCell(index);
+        layout->addWidget(cells_.at(index), 1);
+    }
+    layout->addWidget(rawValue_);
+    layout->addWidget(counter_);
+
+    auto const chosen = editors_.front().choice.creator.strong();
+    if (!parameter)
+        noteLabel_->setText(tr("Nobody can make a value of this type."));
+    else if (chosen != creator_.strong())
+        noteLabel_->setText(chosen
+                                ? tr("For these preferences %1 is chosen.").arg(QString::fromStdString(chosen->Name()))
+                                : tr("No creator is chosen for these preferences."));
+    noteLabel_->setVisible(!noteLabel_->text().isEmpty());
+}
+
+GalleryRow::~GalleryRow() = default;
+
+QString GalleryRow::note() const {
+    return noteLabel_->text();
+}
+
+QWidget* GalleryRow::makeNames(Kolt::InputRegistry::Entry const& entry) {
+    auto* const names = new QWidget(this);
+    auto* const layout = new QVBoxLayout(names);
+    layout->setContentsMargins(0, 4, 0, 4);
+    layout->setSpacing(0);
+    auto* const name = new QLabel(QString::fromStdString(creatorName_), names);
+    auto const creator = entry.creator.strong();
+    QLabel* const preferences =
+        new Talo::MutedLabel(creator ? preferenceList(*creator->preferences()) : QString(), names);
+    noteLabel_ = new QLabel(names);
+    layout->addStretch(1);
+    for (QLabel* const label : {name, preferences, noteLabel_}) {
+        label->setTextFormat(Qt::PlainText);
+        Talo::alignWithLayout(*label);
+        layout->addWidget(label);
+    }
+    noteLabel_->setWordWrap(true);
+    layout->addStretch(1);
+    names->setToolTip(QString::fromStdString(entry.valueType).toHtmlEscaped());
+    return names;
+}
+
+QWidget* GalleryRow::makeCell(std::size_t index) {
+    auto* const cell = new QWidget(this);
+    auto* const layout = new QHBoxLayout(cell);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto& editor = editors_.at(index);
+    auto const parameter = parameter_.strong();
+    if (!parameter)
+        return cell;
+    editor = Kolt::makeEditor(parameter, cell, &pools_);
+    if (!editor.widget)
+        editor.widget = new Talo::PlaceholderEditor(*parameter, cell);
+    new Talo::WheelGuard(editor.widget);
+    editor.widget->setAccessibleName(tr("%1, editor %2").arg(QString::fromStdString(creatorName_)).arg(index + 1));
+    // One that cannot fill the column stands at its beginning; some have a fixed size only once they are shown.
+    layout->addWidget(editor.widget, 1);
+    layout->addStretch(0);
+    return cell;
+}
+
+void GalleryRow::showPool() {
+    for (auto const& editor : editors_)
+        Kolt::showPoolValue(editor, parameter_.strong(), &pools_);
+    rawValue_->refresh();
+}
+
+int GalleryRow::nameWidth() const {
+    return names_->sizeHint().width();
+}
+
+int GalleryRow::editorWidth() const {
+    int width = leastEditorWidth * fontMetrics().averageCharWidth();
+    for (auto const* const cell : cells_)
+        width = qMax(width, cell->minimumSizeHint().width());
+    return width;
+}
+
+void GalleryRow::setColumnWidths(int name, int editor, int counter) {
+    names_->setFixedWidth(name);
+    for (auto* const cell : cells_)
+        cell->setMinimumWidth(editor);
+    counter_->setFixedWidth(counter);
+}
+
+} // namespace Panel

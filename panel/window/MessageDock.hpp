@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+#include <panel/window/MessageList.hpp>
+#include <panel/window/StandardOutputTap.hpp>
+#include <panel/window/WarningListener.hpp>
+#include <QDockWidget>
+#include <QMainWindow>
+
+namespace Panel {
+
+/// The messages below a window: what the window adds itself, the host's warnings, and on demand what is printed.
+///
+/// One for the process at a time, as it hears the host's warnings. User-interface thread.
+class MessageDock : public QDockWidget {
+    Q_OBJECT
+
+public:
+    /// Takes its place at the bottom of the window, which owns it.
+    explicit MessageDock(QMainWindow& window);
+    ~MessageDock() override;
+
+    MessageList* messages() const { return messages_; }
+    /// From now on lines on standard output are messages, too.
+    void tapStandardOutput();
+
+private:
+    MessageList* const messages_;
+    WarningListener warnings_;
+    std::unique_ptr<StandardOutputTap> outputTap_;
+};
+
+} // namespace Panel

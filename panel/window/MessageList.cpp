@@ -1,0 +1,114 @@
+#include <panel/window/MessageList.hpp>
+#include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/TextDirectionDelegate.hpp>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QStyle>
+#include <QTime>
+
+namespace Panel {
+
+namespace {
+
+constexpr int timeColumn = 0;
+constexpr int sourceColumn = 1;
+constexpr int textColumn = 2;
+constexpr int sourceRole = Qt::UserRole;
+
+QString sourceName(MessageList::Source source) {
+    switch (source) {
+    case MessageList::Source::Output:
+        return MessageList::tr("output");
+    case MessageList::Source::Warning:
+        return MessageList::tr("warning");
+    case MessageList::Source::Error:
+        return MessageList::tr("error");
+    case MessageList::Source::Panel:
+        break;
+    }
+    return MessageList::tr("panel");
+}
+
+} // namespace
+
+MessageList::MessageList(QWidget* parent) : QTreeWidget(parent) {
+    setHeaderLabels({tr("Time"), tr("From"), tr("Message")});
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setFrameShape(QFrame::NoFrame);
+    setAccessibleName(tr("Messages"));
+    setItemDelegate(new Talo::TextDirectionDelegate(this));
+    // Of fixed width: to measure all rows at each message costs more with each.
+    int const margin = 4 * style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 8;
+    header()->resizeSection(timeColumn, fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + margin);
+    auto bold = font();
+    bold.setBold(true);
+    int widest = 0;
+    for (auto const source : {Source::Panel, Source::Output, Source::Warning, Source::Error})
+        widest = qMax(widest, QFontMetrics(bold).horizontalAdvance(sourceName(source)));
+    header()->resizeSection(sourceColumn, widest + margin);
+
+    auto* const clearAction = new QAction(tr("Clear"), this);
+    connect(clearAction, &QAction::triggered, this, &QTreeWidget::clear);
+    auto* const copyAction = new QAction(tr("Copy"), this);
+    copyAction->setShortcut(QKeySequence::Copy);
+    copyAction->setShortcutContext(Qt::WidgetShortcut);
+    connect(copyAction, &QAction::triggered, this, [this] {
+        if (auto const* const item = currentItem())
+            QApplication::clipboard()->setText(item->text(textColumn));
+    });
+    addActions({copyAction, clearAction});
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+MessageList::~MessageList() = default;
+
+void MessageList::add(Source source, QString const& text) {
+    bool const atEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    // Later, and once for many messages: scrolling lays the rows out.
+    if (atEnd && !scrollWaits_) {
+        scrollWaits_ = true;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                scrollWaits_ = false;
+                scrollToBottom();
+            },
+            Qt::QueuedConnection);
+    }
+    auto* const item =
+        new QTreeWidgetItem({QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), sourceName(source), text});
+    item->setData(sourceColumn, sourceRole, static_cast<int>(source));
+    item->setToolTip(textColumn, QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
+    item->setForeground(timeColumn, Talo::mutedText(palette()));
+    if (source == Source::Warning || source == Source::Error) {
+        auto font = this->font();
+        font.setBold(true);
+        item->setFont(sourceColumn, font);
+    }
+    addTopLevelItem(item);
+    if (topLevelItemCount() > Capacity)
+        delete takeTopLevelItem(0);
+}
+
+QStringList MessageList::texts() const {
+    QStringList texts;
+    for (int index = 0; index < topLevelItemCount(); ++index)
+        texts << topLevelItem(index)->text(textColumn);
+    return texts;
+}
+
+QStringList MessageList::texts(Source source) const {
+    QStringList texts;
+    for (int index = 0; index < topLevelItemCount(); ++index) {
+        if (topLevelItem(index)->data(sourceColumn, sourceRole).toInt() == static_cast<int>(source))
+            texts << topLevelItem(index)->text(textColumn);
+    }
+    return texts;
+}
+
+} // namespace Panel

@@ -1,0 +1,82 @@
+#include <panel/Translations.hpp>
+#include <panel/window/Plugins.hpp>
+#include <QFileInfo>
+
+namespace Panel {
+
+namespace {
+
+void append(QString* error, std::string const& message) {
+    if (!error)
+        return;
+    if (!error->isEmpty())
+        *error += QLatin1Char('\n');
+    *error += QString::fromStdString(message);
+}
+
+} // namespace
+
+Plugins::Plugins(QObject* parent) : QObject(parent), loader_(host_) {}
+
+Plugins::~Plugins() = default;
+
+bool Plugins::load(QString const& file, QString* error) {
+    emit aboutToChange();
+    bool const loaded = loadFile(file, error);
+    if (loaded && !knownFiles_.contains(file))
+        knownFiles_ << file;
+    emit changed();
+    return loaded;
+}
+
+bool Plugins::unload(QString* error) {
+    emit aboutToChange();
+    bool const unloaded = unloadFiles(error);
+    emit changed();
+    return unloaded;
+}
+
+bool Plugins::reload(QString* error) {
+    emit aboutToChange();
+    bool reloaded = unloadFiles(error);
+    auto const loaded = loadedFiles();
+    for (auto const& file : std::as_const(knownFiles_)) {
+        if (!loaded.contains(file))
+            reloaded = loadFile(file, error) && reloaded;
+    }
+    emit changed();
+    return reloaded;
+}
+
+QStringList Plugins::loadedFiles() const {
+    QStringList files;
+    for (auto const& file : loader_.files())
+        files << QString::fromStdString(file);
+    return files;
+}
+
+bool Plugins::loadFile(QString const& file, QString* error) {
+    auto const outcome = loader_.load(file.toStdString());
+    QFileInfo const info(file);
+    if (outcome.ok)
+        translations_[file] = installTranslation(info.absolutePath(), info.completeBaseName());
+    else
+        append(error, outcome.message);
+    return outcome.ok;
+}
+
+bool Plugins::unloadFiles(QString* error) {
+    bool all = true;
+    auto const files = loader_.files();
+    for (auto file = files.rbegin(); file != files.rend(); ++file) {
+        auto const outcome = loader_.unload(*file);
+        if (outcome.ok)
+            translations_.erase(QString::fromStdString(*file));
+        else
+            append(error, outcome.message);
+        all = all && outcome.ok;
+    }
+    return all;
+}
+
+} // namespace Panel

@@ -1,0 +1,179 @@
+#include <algorithm>
+#include <panel/window/MainWindow.hpp>
+#include <panel/window/Session.hpp>
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDockWidget>
+#include <QEvent>
+#include <QFileInfo>
+#include <QSplitter>
+
+namespace Panel {
+
+namespace {
+
+// Of what QMainWindow writes. Another number refuses what was kept by a window with other parts.
+constexpr int dockVersion = 1;
+
+// More further views than anybody can use come from a damaged file.
+constexpr int mostViews = 50;
+
+constexpr char networkArray[] = "networks";
+
+// What Qt writes has no check of its own, and Qt takes sizes and places out of it as they stand.
+QByteArray checksum(QByteArray const& bytes) {
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+}
+
+QByteArray sealed(QByteArray const& bytes) {
+    return checksum(bytes) + bytes;
+}
+
+/// The bytes that were sealed; none where a single one of them is another now.
+QByteArray unsealed(QVariant const& kept) {
+    auto const all = kept.toByteArray();
+    auto const bytes = all.mid(checksum({}).size());
+    return all == sealed(bytes) ? bytes : QByteArray();
+}
+
+QString shownObject(ObjectView const* view) {
+    auto const object = view ? view->object() : nullptr;
+    return object ? QString::fromStdString(object->Name()) : QString();
+}
+
+} // namespace
+
+QString Session::userFile() {
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("talo"), QStringLiteral("talo_panel"))
+        .fileName();
+}
+
+Session::Session(QString const& file, QObject* parent) : QObject(parent), settings_(file, QSettings::IniFormat) {}
+
+Session::~Session() = default;
+
+void Session::follow(MainWindow& window) {
+    window_ = &window;
+    restoreWindow();
+    restoreNetwork();
+    connect(&window, &MainWindow::networkAboutToClose, this, &Session::keep);
+    connect(&window, &MainWindow::networkOpened, this, &Session::restoreNetwork);
+    window.installEventFilter(this);
+}
+
+bool Session::eventFilter(QObject* watched, QEvent* event) {
+    // Before the window hides its docks. Of other events some come when the window is no window any more.
+    if (event->type() == QEvent::Close && watched == window_)
+        keep();
+    return QObject::eventFilter(watched, event);
+}
+
+void Session::restoreWindow() {
+    window_->restoreGeometry(unsealed(settings_.value(QStringLiteral("window/geometry"))));
+    if (auto* const splitter = qobject_cast<QSplitter*>(window_->centralWidget()))
+        splitter->restoreState(unsealed(settings_.value(QStringLiteral("window/columns"))));
+    window_->setRawValuesShown(settings_.value(QStringLiteral("window/rawValues"), false).toBool());
+}
+
+void Session::restoreNetwork() {
+    if (!window_ || !window_->network())
+        return;
+    auto docks = unsealed(settings_.value(QStringLiteral("window/docks")));
+    auto const known = networks();
+    auto const found = std::find_if(known.begin(), known.end(),
+                                    [file = networkFile()](auto const& network) { return network.file == file; });
+    if (found != known.end()) {
+        window_->choosePool(found->pool);
+        auto const first = shownObject(window_->currentView());
+        auto const views = found->views.mid(0, mostViews);
+        for (auto const& view : views) {
+            if (window_->showObject(view))
+                window_->addView();
+        }
+        if (!window_->showObject(found->object))
+            window_->showObject(first);
+        docks = found->docks;
+    }
+    nameViewDocks();
+    window_->restoreState(docks, dockVersion);
+}
+
+void Session::keep() {
+    if (!window_)
+        return;
+    auto const views = nameViewDocks();
+    auto const docks = window_->saveState(dockVersion);
+    settings_.setValue(QStringLiteral("window/geometry"), sealed(window_->saveGeometry()));
+    settings_.setValue(QStringLiteral("window/docks"), sealed(docks));
+    settings_.setValue(QStringLiteral("window/rawValues"), window_->rawValuesShown());
+    if (auto const* const splitter = qobject_cast<QSplitter*>(window_->centralWidget()))
+        settings_.setValue(QStringLiteral("window/columns"), sealed(splitter->saveState()));
+    if (window_->network()) {
+        auto const pool = window_->pools().pool();
+        keepNetwork({networkFile(), pool ? QString::fromStdString(pool->Name()) : QString(),
+                     shownObject(window_->currentView()), views, docks});
+    }
+    settings_.sync();
+    if (settings_.status() == QSettings::AccessError)
+        emit failed(tr("The session cannot be kept in %1.").arg(settings_.fileName()));
+}
+
+void Session::keepNetwork(NetworkRecord const& network) {
+    auto all = networks();
+    all.erase(std::remove_if(all.begin(), all.end(), [&](auto const& other) { return other.file == network.file; }),
+              all.end());
+    all.insert(all.begin(), network);
+    settings_.remove(QLatin1String(networkArray));
+    settings_.beginWriteArray(QLatin1String(networkArray));
+    for (int index = 0; index < Capacity && index < static_cast<int>(all.size()); ++index) {
+        auto const& record = all.at(static_cast<std::size_t>(index));
+        settings_.setArrayIndex(index);
+        settings_.setValue(QStringLiteral("file"), record.file);
+        settings_.setValue(QStringLiteral("pool"), record.pool);
+        settings_.setValue(QStringLiteral("object"), record.object);
+        settings_.setValue(QStringLiteral("views"), record.views);
+        settings_.setValue(QStringLiteral("docks"), sealed(record.docks));
+    }
+    settings_.endArray();
+}
+
+std::vector<Session::NetworkRecord> Session::networks() {
+    std::vector<NetworkRecord> all;
+    int const count = qMin(settings_.beginReadArray(QLatin1String(networkArray)), Capacity);
+    for (int index = 0; index < count; ++index) {
+        settings_.setArrayIndex(index);
+        all.push_back({settings_.value(QStringLiteral("file")).toString(),
+                       settings_.value(QStringLiteral("pool")).toString(),
+                       settings_.value(QStringLiteral("object")).toString(),
+                       settings_.value(QStringLiteral("views")).toStringList(),
+                       unsealed(settings_.value(QStringLiteral("docks")))});
+    }
+    settings_.endArray();
+    return all;
+}
+
+QString Session::networkFile() const {
+    QFileInfo const file(window_->network()->file());
+    auto const canonical = file.canonicalFilePath();
+    return canonical.isEmpty() ? file.absoluteFilePath() : canonical;
+}
+
+QStringList Session::nameViewDocks() const {
+    QStringList objects;
+    auto const docks = window_->findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (auto* const dock : docks) {
+        auto const* const view = qobject_cast<ObjectView*>(dock->widget());
+        if (!view)
+            continue;
+        // One that was closed goes now, before it is counted.
+        QPointer<QDockWidget> const open = dock;
+        QCoreApplication::sendPostedEvents(dock, QEvent::DeferredDelete);
+        if (!open)
+            continue;
+        objects << shownObject(view);
+        dock->setObjectName(QStringLiteral("view%1").arg(objects.size()));
+    }
+    return objects;
+}
+
+} // namespace Panel

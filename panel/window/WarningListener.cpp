@@ -1,0 +1,15 @@
+#include <cstdio>
+#include <panel/window/WarningListener.hpp>
+
+namespace Panel {
+
+WarningListener::WarningListener(QObject* parent) : QObject(parent) {}
+
+WarningListener::~WarningListener() = default;
+
+void WarningListener::onWarning(std::string const& text) {
+    std::fprintf(stderr, "%s\n", text.c_str());
+    emit warned(QString::fromStdString(text));
+}
+
+} // namespace Panel

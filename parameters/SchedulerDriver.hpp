@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+namespace Talo {
+
+/// Runs what the host's scheduler has waiting from the event loop: never inside the call that schedules, and each entry
+/// when it is due. One for the process at a time. User-interface thread.
+class SchedulerDriver : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SchedulerDriver(QObject* parent = nullptr);
+    ~SchedulerDriver() override;
+
+private:
+    void wait();
+    void run();
+
+    QTimer timer_;
+};
+
+} // namespace Talo

@@ -1,0 +1,92 @@
+#include <algorithm>
+#include <parameters/commands/HistoryView.hpp>
+#include <parameters/commands/UndoText.hpp>
+#include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/TextDirectionDelegate.hpp>
+#include <QEvent>
+
+namespace Talo {
+
+HistoryView::HistoryView(QWidget* parent) : QListWidget(parent) {
+    setObjectName(QStringLiteral("history"));
+    setAccessibleName(tr("History"));
+    setAccessibleDescription(tr("The steps that can be taken back. Return goes to the state after the chosen step."));
+    setItemDelegate(new TextDirectionDelegate(this));
+    setUniformItemSizes(true);
+    setTextElideMode(Qt::ElideMiddle);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    addItem(tr("Start"));
+    item(0)->setToolTip(tr("Before all steps"));
+    setCurrentRow(0);
+    auto const choose = [this](QListWidgetItem* chosen) { emit stateChosen(row(chosen)); };
+    connect(this, &QListWidget::itemClicked, this, choose);
+    connect(this, &QListWidget::itemActivated, this, choose);
+}
+
+HistoryView::~HistoryView() = default;
+
+void HistoryView::setNaming(ParameterNaming naming) {
+    naming_ = std::move(naming);
+    shown_.clear();
+    historyChanged();
+}
+
+void HistoryView::historyChanged() {
+    if (!isVisible() || refreshWaits_)
+        return;
+    // Later, as the row that asked for another state is still at work.
+    refreshWaits_ = true;
+    QMetaObject::invokeMethod(this, &HistoryView::refresh, Qt::QueuedConnection);
+}
+
+void HistoryView::showEvent(QShowEvent* event) {
+    QListWidget::showEvent(event);
+    refresh();
+}
+
+void HistoryView::changeEvent(QEvent* event) {
+    QListWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+        shown_.clear();
+        historyChanged();
+    }
+}
+
+void HistoryView::refresh() {
+    refreshWaits_ = false;
+    auto const& history = Kolt::UndoHistory::theHistory();
+    auto steps = history.steps();
+    auto const done = static_cast<int>(steps.size());
+    auto const undone = history.undoneSteps();
+    steps.insert(steps.end(), undone.begin(), undone.end());
+
+    // What stands there already stays, but for the step of a gesture that goes on and for the border of what was
+    // taken back.
+    int const border = std::max(std::min({shownDone_, done, static_cast<int>(shown_.size())}) - 1, 0);
+    auto const differs = std::mismatch(shown_.begin(), shown_.begin() + border, steps.begin(), steps.end()).first;
+    auto const kept = static_cast<int>(differs - shown_.begin());
+    while (count() - 1 > static_cast<int>(steps.size()))
+        delete takeItem(count() - 1);
+    for (int index = kept; index < static_cast<int>(steps.size()); ++index)
+        showStep(index + 1, *steps[static_cast<std::size_t>(index)], index >= done);
+    shown_ = std::move(steps);
+    shownDone_ = done;
+    setCurrentRow(done);
+    scrollToItem(item(done));
+}
+
+void HistoryView::showStep(int row, Kolt::UndoStep const& step, bool undone) {
+    if (row == count())
+        addItem(QString());
+    auto* const shown = item(row);
+    auto const text = undoText(step, naming_);
+    shown->setText(text);
+    shown->setToolTip(text);
+    auto itemFont = font();
+    itemFont.setItalic(undone);
+    shown->setFont(itemFont);
+    shown->setForeground(undone ? QBrush(mutedText(palette())) : QBrush());
+    shown->setData(Qt::AccessibleTextRole, undone ? tr("%1, taken back").arg(text) : text);
+}
+
+} // namespace Talo

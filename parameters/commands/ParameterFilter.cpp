@@ -1,0 +1,44 @@
+#include <algorithm>
+#include <parameters/commands/ParameterFilter.hpp>
+
+namespace Talo {
+
+namespace {
+
+/// Whether each of the words stands in a name or in a value, which is asked for only where it must be.
+template <typename ValueText>
+bool containAll(QStringList const& words, QString const& name, ValueText const& valueText) {
+    QString value;
+    bool asked = false;
+    return std::all_of(words.begin(), words.end(), [&](QString const& word) {
+        if (name.contains(word, Qt::CaseInsensitive))
+            return true;
+        if (!std::exchange(asked, true))
+            value = valueText();
+        return value.contains(word, Qt::CaseInsensitive);
+    });
+}
+
+} // namespace
+
+ParameterFilter::ParameterFilter(QString const& text)
+    : words_(text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {}
+
+bool ParameterFilter::finds(Kolt::VObject const& object, Kolt::VParameter const& parameter,
+                            Tessera::StrongPtr<Kolt::ValuePool> const& pool) const {
+    if (isEmpty())
+        return true;
+    return containAll(words_, QString::fromStdString(object.Name() + '.' + parameter.Name()), [&] {
+        auto const local = parameter.getLocalValue(pool, std::string(), false);
+        return QString::fromStdString((local ? local : parameter.ownValue())->Text());
+    });
+}
+
+bool ParameterFilter::finds(Kolt::VObject const& object, Tessera::StrongPtr<Kolt::ValuePool> const& pool) const {
+    auto const& parameters = object.parameters();
+    return containAll(words_, QString::fromStdString(object.Name()), [] { return QString(); }) ||
+           std::any_of(parameters.begin(), parameters.end(),
+                       [&](auto const& parameter) { return finds(object, *parameter, pool); });
+}
+
+} // namespace Talo

@@ -1,0 +1,80 @@
+#include <algorithm>
+#include <bramble/Selection.hpp>
+#include <bramble/Values.hpp>
+#include <parameters/commands/UndoText.hpp>
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace Talo {
+
+namespace {
+
+// In characters.
+constexpr int longestText = 28;
+// How much is shown before the first difference.
+constexpr int leadIn = 8;
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(UndoText)
+};
+
+QString flagsText(Kolt::FlagList const& flags) {
+    QStringList on;
+    for (auto const& [name, isOn] : flags)
+        if (isOn)
+            on << QString::fromStdString(name);
+    return on.join(QLatin1String(", "));
+}
+
+QString wholeText(Kolt::VValueBase const& value) {
+    if (auto const* const flags = dynamic_cast<Kolt::VTypedValueBase<Kolt::FlagList> const*>(&value)) {
+        Kolt::FlagList content;
+        flags->get(content);
+        return flagsText(content);
+    }
+    bool const isList = dynamic_cast<Kolt::VTypedValueBase<Kolt::VMultipleStringList> const*>(&value);
+    auto text = QString::fromStdString(value.Text());
+    return isList ? text.replace(QLatin1Char('\n'), QLatin1String(", ")) : text.simplified();
+}
+
+QString shortened(QString const& text, int from) {
+    if (text.isEmpty())
+        return Texts::tr("(empty)");
+    auto part = from > 0 ? QChar(0x2026) + text.mid(from) : text;
+    return part.size() > longestText ? part.left(longestText - 1) + QChar(0x2026) : part;
+}
+
+QString changeText(Kolt::ValueChange const& change, ParameterNaming const& naming) {
+    auto const before = wholeText(*change.before().value);
+    auto const after = wholeText(*change.after().value);
+    auto const differ = std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first;
+    auto const common = static_cast<int>(differ - before.begin());
+    bool const isLong = qMax(before.size(), after.size()) > longestText;
+    int const from = isLong && common > leadIn ? common - leadIn : 0;
+
+    auto name = naming ? naming(change.parameter()) : QString();
+    if (name.isEmpty())
+        name = QString::fromStdString(change.parameterName());
+    auto const pool = change.pool();
+    if (!pool)
+        return Texts::tr("%1: %2 → %3").arg(name, shortened(before, from), shortened(after, from));
+    return Texts::tr("%1: %2 → %3 (%4)")
+        .arg(name, shortened(before, from), shortened(after, from), QString::fromStdString(pool->Name()));
+}
+
+} // namespace
+
+QString valueText(Kolt::VValueBase const& value) {
+    return shortened(wholeText(value), 0);
+}
+
+QString undoText(Kolt::UndoStep const& step, ParameterNaming const& naming) {
+    auto const& changes = step.changes();
+    if (changes.empty())
+        return QString::fromStdString(step.description());
+    auto const text = changeText(changes.front(), naming);
+    auto const further = static_cast<int>(changes.size()) - 1;
+    return further == 0 ? text : Texts::tr("%1, and %n more", nullptr, further).arg(text);
+}
+
+} // namespace Talo

@@ -1,0 +1,227 @@
+#include <lattice/UndoHistory.hpp>
+#include <parameters/input/GestureWatcher.hpp>
+#include <parameters/rows/ParameterRow.hpp>
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QTextEdit>
+
+namespace Talo {
+
+namespace {
+
+bool isText(QWidget const* widget) {
+    return qobject_cast<QLineEdit const*>(widget) || qobject_cast<QTextEdit const*>(widget) ||
+           qobject_cast<QPlainTextEdit const*>(widget);
+}
+
+/// A control into which a text can be typed, but which has other ways to change the value as well.
+bool isTypedInto(QWidget const* widget) {
+    auto const* const comboBox = qobject_cast<QComboBox const*>(widget);
+    return (comboBox && comboBox->isEditable()) || qobject_cast<QAbstractSpinBox const*>(widget);
+}
+
+/// The text field that a widget is or is a part of, null for none. The line edit of a drop-down list is a part of it.
+QWidget* textFieldOf(QWidget* widget) {
+    QWidget* field = nullptr;
+    for (auto* each = widget; each && !qobject_cast<ParameterRow*>(each); each = each->parentWidget()) {
+        if (isText(each) || isTypedInto(each))
+            field = each;
+    }
+    return field;
+}
+
+bool isSingleLine(QWidget const* field) {
+    return qobject_cast<QLineEdit const*>(field) || isTypedInto(field);
+}
+
+bool isModifier(int key) {
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr ||
+           key == Qt::Key_Meta || key == Qt::Key_CapsLock;
+}
+
+bool isReturn(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+bool stepsThroughValues(int key) {
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
+/// Whether the field could take back, or make again, something by itself.
+bool hasOwnHistory(QWidget* field, bool redo) {
+    auto const* line = qobject_cast<QLineEdit*>(field);
+    if (!line)
+        line = field->findChild<QLineEdit*>();
+    if (auto const* const text = qobject_cast<QTextEdit*>(field))
+        return redo ? text->document()->isRedoAvailable() : text->document()->isUndoAvailable();
+    if (auto const* const plain = qobject_cast<QPlainTextEdit*>(field))
+        return redo ? plain->document()->isRedoAvailable() : plain->document()->isUndoAvailable();
+    return line && (redo ? line->isRedoAvailable() : line->isUndoAvailable());
+}
+
+} // namespace
+
+GestureWatcher::GestureWatcher(QObject* parent) : QObject(parent) {
+    wheelTimer_.setSingleShot(true);
+    wheelTimer_.setInterval(WheelPause);
+    connect(&wheelTimer_, &QTimer::timeout, this, [this] {
+        if (kind_ == Kind::Wheel)
+            end();
+    });
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+GestureWatcher::~GestureWatcher() {
+    end();
+}
+
+void GestureWatcher::begin(Kind kind, QWidget* target) {
+    end();
+    kind_ = kind;
+    target_ = target;
+    ++number_;
+    // A target that goes sees neither the release nor the loss of the focus.
+    connect(target, &QObject::destroyed, this, &GestureWatcher::end);
+    Kolt::UndoHistory::theHistory().openGesture();
+}
+
+void GestureWatcher::end() {
+    if (kind_ == Kind::None)
+        return;
+    kind_ = Kind::None;
+    ending_ = false;
+    if (target_)
+        disconnect(target_, &QObject::destroyed, this, &GestureWatcher::end);
+    target_.clear();
+    Kolt::UndoHistory::theHistory().closeGesture();
+}
+
+void GestureWatcher::endLater() {
+    if (kind_ == Kind::None || ending_)
+        return;
+    ending_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this, number = number_] {
+            if (number == number_)
+                end();
+        },
+        Qt::QueuedConnection);
+}
+
+bool GestureWatcher::eventFilter(QObject* watched, QEvent* event) {
+    if (!watched->isWidgetType())
+        return false;
+    auto* const widget = static_cast<QWidget*>(watched);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        press(widget);
+        break;
+    case QEvent::MouseButtonRelease:
+        if (kind_ == Kind::Mouse && static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton)
+            endLater();
+        break;
+    case QEvent::KeyPress:
+        keyPress(widget, *static_cast<QKeyEvent*>(event));
+        break;
+    case QEvent::KeyRelease:
+        keyRelease(*static_cast<QKeyEvent*>(event));
+        break;
+    case QEvent::InputMethod:
+        if (auto* const field = ParameterRow::rowOf(widget) ? textFieldOf(widget) : nullptr)
+            type(field);
+        break;
+    case QEvent::Wheel:
+        turnWheel(widget);
+        break;
+    case QEvent::FocusOut:
+        // Many a field writes its text as it loses the focus.
+        if (kind_ == Kind::Text && widget == target_)
+            endLater();
+        break;
+    case QEvent::ShortcutOverride:
+        return overrideShortcut(widget, static_cast<QKeyEvent*>(event));
+    default:
+        break;
+    }
+    return false;
+}
+
+void GestureWatcher::press(QWidget* widget) {
+    // A press that the pressed widget leaves alone goes on to those around it.
+    if (kind_ == Kind::Mouse && !ending_ && target_ && widget->isAncestorOf(target_))
+        return;
+    if (!ParameterRow::rowOf(widget)) {
+        end();
+        return;
+    }
+    bool const inText = kind_ == Kind::Text && !ending_ && target_ && isText(target_) &&
+                        textFieldOf(widget) == target_ && widget->window() == target_->window();
+    if (!inText)
+        begin(Kind::Mouse, widget);
+}
+
+void GestureWatcher::keyPress(QWidget* widget, QKeyEvent const& event) {
+    int const key = event.key();
+    bool const repeats = event.isAutoRepeat() && kind_ == Kind::Key && key == key_;
+    // A key that nobody takes goes on to the widgets around, too.
+    bool const goesOn = kind_ == Kind::Key && !ending_ && target_ && key == key_ && widget->isAncestorOf(target_);
+    if (isModifier(key) || repeats || goesOn)
+        return;
+    if (!ParameterRow::rowOf(widget)) {
+        if (kind_ != Kind::Text)
+            end();
+        return;
+    }
+    auto* const field = textFieldOf(widget);
+    if (field && (isText(field) || !stepsThroughValues(key))) {
+        type(field);
+        if (isReturn(key) && isSingleLine(field))
+            endLater();
+        return;
+    }
+    begin(Kind::Key, widget);
+    key_ = key;
+}
+
+void GestureWatcher::keyRelease(QKeyEvent const& event) {
+    if (kind_ == Kind::Key && event.key() == key_ && !event.isAutoRepeat())
+        endLater();
+}
+
+void GestureWatcher::type(QWidget* field) {
+    if (kind_ != Kind::Text || ending_ || target_ != field)
+        begin(Kind::Text, field);
+}
+
+void GestureWatcher::turnWheel(QWidget* widget) {
+    // Whoever types or drags may scroll meanwhile.
+    auto* const row = ParameterRow::rowOf(widget);
+    if (!row || kind_ == Kind::Text || (kind_ == Kind::Mouse && !ending_))
+        return;
+    if (kind_ != Kind::Wheel || target_ != row)
+        begin(Kind::Wheel, row);
+    wheelTimer_.start();
+}
+
+bool GestureWatcher::overrideShortcut(QWidget* widget, QKeyEvent* event) {
+    bool const redo = event->matches(QKeySequence::Redo);
+    if (!redo && !event->matches(QKeySequence::Undo))
+        return false;
+    QPointer<QWidget> const field = ParameterRow::rowOf(widget) ? textFieldOf(widget) : nullptr;
+    if (!field)
+        return false;
+    // The field may write its text on this occasion.
+    static_cast<QObject*>(widget)->event(event);
+    bool const isUnwritten = kind_ == Kind::Text && target_ == field && !Kolt::UndoHistory::theHistory().isStepOpen();
+    if (!field || !isUnwritten || !hasOwnHistory(field, redo))
+        event->ignore();
+    return true;
+}
+
+} // namespace Talo

@@ -1,0 +1,35 @@
+#include <parameters/input/KeyboardChoice.hpp>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QScopedValueRollback>
+
+namespace Talo {
+
+KeyboardChoice::KeyboardChoice(QAbstractItemView* list) : QObject(list), list_(list) {
+    list->installEventFilter(this);
+}
+
+KeyboardChoice::~KeyboardChoice() = default;
+
+bool KeyboardChoice::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || passing_ || !list_->selectionModel())
+        return QObject::eventFilter(watched, event);
+    QPointer<QAbstractItemView> const list(list_);
+    auto const before = list->selectionModel()->selectedIndexes();
+    {
+        QScopedValueRollback<bool> const passing(passing_, true);
+        watched->event(event);
+    }
+    // Nobody is told of a key, so list and filter still stand.
+    if (list->selectionModel()->selectedIndexes() == before)
+        return true;
+    // Beside all entries.
+    QPoint const place(-1, -1);
+    QMouseEvent release(QEvent::MouseButtonRelease, place, list->viewport()->mapToGlobal(place), Qt::LeftButton,
+                        Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(list->viewport(), &release);
+    return true;
+}
+
+} // namespace Talo

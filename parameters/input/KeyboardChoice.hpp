@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QAbstractItemView>
+#include <QObject>
+
+namespace Talo {
+
+/// Lets an editor whose list takes a choice over when the mouse lets go take those over that are made by keyboard:
+/// after a key that changed what is chosen, the list hears of a released mouse button. A child of the list.
+class KeyboardChoice : public QObject {
+    Q_OBJECT
+
+public:
+    explicit KeyboardChoice(QAbstractItemView* list);
+    ~KeyboardChoice() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QAbstractItemView* const list_;
+    // While the list handles a key.
+    bool passing_ = false;
+};
+
+} // namespace Talo

@@ -1,0 +1,34 @@
+#include <parameters/rows/ContentArea.hpp>
+#include <QEvent>
+#include <QScrollBar>
+
+namespace Talo {
+
+namespace {
+
+// In pixels.
+constexpr int widestMinimum = 720;
+
+} // namespace
+
+ContentArea::ContentArea(QWidget* parent) : QScrollArea(parent) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+}
+
+ContentArea::~ContentArea() = default;
+
+QSize ContentArea::minimumSizeHint() const {
+    int const content = widget() ? qMax(widget()->minimumSizeHint().width(), widget()->minimumWidth()) : 0;
+    return {qMin(content + verticalScrollBar()->sizeHint().width(), widestMinimum),
+            QScrollArea::minimumSizeHint().height()};
+}
+
+bool ContentArea::eventFilter(QObject* watched, QEvent* event) {
+    // The base watches the content already.
+    if (event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+}
+
+} // namespace Talo

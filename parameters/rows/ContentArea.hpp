@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QScrollArea>
+
+namespace Talo {
+
+/// Scrolls its content up and down. It is at least as wide as the content needs to be, so that nothing is cut off at
+/// the side, unless that is more than a small screen has.
+class ContentArea : public QScrollArea {
+    Q_OBJECT
+
+public:
+    explicit ContentArea(QWidget* parent = nullptr);
+    ~ContentArea() override;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+} // namespace Talo

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QToolButton>
+
+namespace Talo {
+
+/// A small dot beside the name of a parameter that differs from its default. A click, or the keyboard, asks for the
+/// default; the tool tip names it. User-interface thread.
+class ModifiedIndicator : public QToolButton {
+    Q_OBJECT
+
+public:
+    explicit ModifiedIndicator(QString const& parameterName, QWidget* parent = nullptr);
+    ~ModifiedIndicator() override;
+
+    /// Names the default by its text.
+    void setDefault(QString const& text);
+
+    /// How wide and high a marker is beside a name in the font of the widget, in pixels.
+    static int side(QWidget const& widget);
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace Talo

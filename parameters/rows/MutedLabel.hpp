@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QColor>
+#include <QLabel>
+
+namespace Talo {
+
+/// The colour for texts of less weight: between the text and its background, and readable on it.
+QColor mutedText(QPalette const& palette);
+
+/// A label whose text is muted. It takes the colour from the palette of its parent and follows changes of that palette.
+/// User-interface thread.
+class MutedLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit MutedLabel(QString const& text = {}, QWidget* parent = nullptr);
+    ~MutedLabel() override;
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void updateColour();
+};
+
+/// Aligns a label's text to the side where lines begin in the layout. A label by itself follows the script of its text,
+/// so a title in Latin letters would stand at the far side of its column in a layout from right to left.
+void alignWithLayout(QLabel& label);
+
+} // namespace Talo

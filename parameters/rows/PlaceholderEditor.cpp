@@ -1,0 +1,29 @@
+#include <parameters/rows/PlaceholderEditor.hpp>
+
+namespace Talo {
+
+namespace {
+
+QString sentence(Kolt::VParameter const& parameter) {
+    auto const names = parameter.creationPreferences() ? parameter.creationPreferences()->names()
+                                                       : Kolt::VCreationPreferences::Names();
+    auto const type = QString::fromStdString(parameter.declaredType());
+    if (names.empty())
+        return PlaceholderEditor::tr("No editor is registered for the type %1 without preferences.").arg(type);
+    return PlaceholderEditor::tr("No editor is registered for the type %1 with the preferences %2.")
+        .arg(type, QString::fromStdString(Kolt::preferenceText(names)));
+}
+
+} // namespace
+
+PlaceholderEditor::PlaceholderEditor(Kolt::VParameter const& parameter, QWidget* parent)
+    : MutedLabel(sentence(parameter), parent) {
+    // The name of a type can look like a tag.
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setMargin(4);
+}
+
+PlaceholderEditor::~PlaceholderEditor() = default;
+
+} // namespace Talo

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <lattice/InputCreator.hpp>
+#include <parameters/rows/MutedLabel.hpp>
+
+namespace Talo {
+
+/// Stands where a parameter's editor would be when none can be made: names the type and the preferences of the
+/// parameter and says that no editor is registered for it.
+class PlaceholderEditor : public MutedLabel {
+    Q_OBJECT
+
+public:
+    explicit PlaceholderEditor(Kolt::VParameter const& parameter, QWidget* parent = nullptr);
+    ~PlaceholderEditor() override;
+};
+
+} // namespace Talo

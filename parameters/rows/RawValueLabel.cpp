@@ -1,0 +1,85 @@
+#include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/RawValueLabel.hpp>
+#include <QPainter>
+#include <QStyle>
+
+namespace Talo {
+
+RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSource const& pools, QWidget* parent)
+    : QWidget(parent), parameter_(parameter), pools_(pools) {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
+    if (parameter)
+        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
+    refresh();
+}
+
+RawValueLabel::~RawValueLabel() {
+    leaveDelivery();
+}
+
+void RawValueLabel::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
+                                  Kolt::ValueMap const*) {
+    // Read later: an edit renews the age stamp only after everybody was told. Any number of changes until then is one.
+    if (!refreshWaits_.exchange(true))
+        QMetaObject::invokeMethod(this, &RawValueLabel::refresh, Qt::QueuedConnection);
+}
+
+void RawValueLabel::refresh() {
+    refreshWaits_ = false;
+    QString text;
+    QString stamp;
+    if (auto const parameter = parameter_.strong()) {
+        auto const local = parameter->getLocalValue(pools_.pool(), std::string(), false);
+        auto const value = local ? local : parameter->ownValue();
+        text = QString::fromStdString(value->Text());
+        stamp = tr("age %1").arg(value->age());
+        if (parameter->keepsValuesPerPool())
+            stamp += local ? tr(", pool %1").arg(QString::fromStdString(pools_.pool()->Name())) : tr(", own value");
+    } else {
+        stamp = tr("removed");
+    }
+    if (text == text_ && stamp == stamp_)
+        return;
+    text_ = text;
+    stamp_ = stamp;
+    setToolTip(QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped()));
+    setAccessibleDescription(text);
+    update();
+}
+
+QSize RawValueLabel::sizeHint() const {
+    return {26 * fontMetrics().averageCharWidth(), 2 * fontMetrics().lineSpacing() + 2};
+}
+
+QSize RawValueLabel::minimumSizeHint() const {
+    return sizeHint();
+}
+
+void RawValueLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    auto line = rect();
+    line.setTop((height() - 2 * fontMetrics().lineSpacing()) / 2);
+    line.setHeight(fontMetrics().lineSpacing());
+
+    auto font = this->font();
+    font.setFamily(QStringLiteral("monospace"));
+    font.setStyleHint(QFont::Monospace);
+    painter.setFont(font);
+    painter.setPen(text_.isEmpty() ? mutedText(palette()) : palette().color(QPalette::WindowText));
+    auto oneLine = text_.isEmpty() ? tr("(empty)") : text_;
+    oneLine.replace(QLatin1Char('\n'), QChar(0x21B5));
+    // A value reads in its own direction, or "0.5 1" would become "1 0.5" in a panel from right to left.
+    int const direction = oneLine.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    int const alignment =
+        static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) | Qt::AlignAbsolute;
+    painter.drawText(line, alignment | direction | Qt::AlignVCenter | Qt::TextSingleLine,
+                     QFontMetrics(font).elidedText(oneLine, Qt::ElideRight, line.width()));
+
+    line.translate(0, line.height());
+    painter.setFont(this->font());
+    painter.setPen(mutedText(palette()));
+    painter.drawText(line, alignment | Qt::AlignVCenter | Qt::TextSingleLine,
+                     fontMetrics().elidedText(stamp_, Qt::ElideRight, line.width()));
+}
+
+} // namespace Talo

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <atomic>
+#include <lattice/Parameter.hpp>
+#include <parameters/PoolSource.hpp>
+#include <QWidget>
+
+namespace Talo {
+
+/// Shows what a parameter holds in the chosen pool as the value's own text, live, and below it the value's age stamp
+/// and whose value it is. A text that does not fit is shortened; the tool tip has all of it. Its size does not depend
+/// on the value, so that a change lays nothing out anew.
+///
+/// Made on the user-interface thread; changes may be reported on any thread.
+class RawValueLabel : public QWidget, private Kolt::ValueNotifier {
+    Q_OBJECT
+
+public:
+    /// The parameter is referred to weakly.
+    RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSource const& pools, QWidget* parent = nullptr);
+    ~RawValueLabel() override;
+
+    /// The shown text of the value; empty when the parameter is gone.
+    QString const& text() const { return text_; }
+    /// The shown line about the value: "age 7, pool preview".
+    QString const& stamp() const { return stamp_; }
+    /// Reads the value again, as after another pool was chosen.
+    void refresh();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+                       Kolt::ValueMap const* properties) override;
+
+    Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const parameter_;
+    PoolSource const& pools_;
+    QString text_;
+    QString stamp_;
+    std::atomic<bool> refreshWaits_{false};
+};
+
+} // namespace Talo

@@ -1,0 +1,203 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Talo::ModifiedIndicator</name>
+    <message>
+        <source>Reset %1 to its default</source>
+        <translation>%1 auf den Standardwert zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Standardwert: %1</translation>
+    </message>
+    <message>
+        <source>Click to reset the value.</source>
+        <translation>Ein Klick setzt den Wert zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::HistoryView</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>The steps that can be taken back. Return goes to the state after the chosen step.</source>
+        <translation>Die Schritte, die sich zurücknehmen lassen. Die Eingabetaste geht zum Stand nach dem gewählten Schritt.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Before all steps</source>
+        <translation>Vor allen Schritten</translation>
+    </message>
+    <message>
+        <source>%1, taken back</source>
+        <translation>%1, zurückgenommen</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::PlaceholderEditor</name>
+    <message>
+        <source>No editor is registered for the type %1 without preferences.</source>
+        <translation>Für den Typ %1 ohne Vorgaben ist kein Editor angemeldet.</translation>
+    </message>
+    <message>
+        <source>No editor is registered for the type %1 with the preferences %2.</source>
+        <translation>Für den Typ %1 mit den Vorgaben %2 ist kein Editor angemeldet.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::ParameterCommands</name>
+    <message>
+        <source>Reset to &amp;default</source>
+        <translation>Auf &amp;Standardwert zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>&amp;Copy value</source>
+        <translation>Wert &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste value</source>
+        <translation>Wert &amp;einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>%1 has no default to go back to.</source>
+        <translation>%1 hat keinen Standardwert, auf den sich zurücksetzen ließe.</translation>
+    </message>
+    <message>
+        <source>%1 was removed.</source>
+        <translation>%1 wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>The clipboard is empty.</source>
+        <translation>Die Zwischenablage ist leer.</translation>
+    </message>
+    <message>
+        <source>%1 does not take a value in this pool.</source>
+        <translation>%1 nimmt in diesem Pool keinen Wert an.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::ParameterRow</name>
+    <message>
+        <source>Type: %1</source>
+        <translation>Typ: %1</translation>
+    </message>
+    <message>
+        <source>Preferences: %1</source>
+        <translation>Vorgaben: %1</translation>
+    </message>
+    <message>
+        <source>Editor: %1</source>
+        <translation>Editor: %1</translation>
+    </message>
+    <message>
+        <source>was removed</source>
+        <translation>wurde entfernt</translation>
+    </message>
+    <message>
+        <source>in pool %1</source>
+        <translation>im Pool %1</translation>
+    </message>
+    <message>
+        <source>no pool</source>
+        <translation>kein Pool</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2</source>
+        <translation>%1, Typ %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2, in pool %3</source>
+        <translation>%1, Typ %2, im Pool %3</translation>
+    </message>
+    <message>
+        <source>%1, type %2, no pool</source>
+        <translation>%1, Typ %2, kein Pool</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::RawValueLabel</name>
+    <message>
+        <source>age %1</source>
+        <translation>Alter %1</translation>
+    </message>
+    <message>
+        <source>, pool %1</source>
+        <translation>, Pool %1</translation>
+    </message>
+    <message>
+        <source>, own value</source>
+        <translation>, eigener Wert</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfernt</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+</context>
+<context>
+    <name>UndoText</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3</source>
+        <translation>%1: %2 → %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3 (%4)</source>
+        <translation>%1: %2 → %3 (%4)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more</source>
+        <translation>
+            <numerusform>%1 und eine weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ValueClipboard</name>
+    <message>
+        <source>it has other flags</source>
+        <translation>er hat andere Schalter</translation>
+    </message>
+    <message>
+        <source>The copied value does not fit %1: %2.</source>
+        <translation>Der kopierte Wert passt nicht zu %1: %2.</translation>
+    </message>
+    <message>
+        <source>There is no value to paste into %1.</source>
+        <translation>Es gibt keinen Wert, der sich in %1 einfügen ließe.</translation>
+    </message>
+    <message>
+        <source>%1 is no value of %2, which is of type %3.</source>
+        <translation>%1 ist kein Wert für %2 vom Typ %3.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,203 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Talo::ModifiedIndicator</name>
+    <message>
+        <source>Reset %1 to its default</source>
+        <translation>Remettre %1 à sa valeur par défaut</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Valeur par défaut : %1</translation>
+    </message>
+    <message>
+        <source>Click to reset the value.</source>
+        <translation>Un clic rétablit cette valeur.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::HistoryView</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>The steps that can be taken back. Return goes to the state after the chosen step.</source>
+        <translation>Les étapes qui peuvent être annulées. Entrée va à l’état qui suit l’étape choisie.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Before all steps</source>
+        <translation>Avant toutes les étapes</translation>
+    </message>
+    <message>
+        <source>%1, taken back</source>
+        <translation>%1, annulé</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::PlaceholderEditor</name>
+    <message>
+        <source>No editor is registered for the type %1 without preferences.</source>
+        <translation>Aucun éditeur n’est inscrit pour le type %1 sans préférences.</translation>
+    </message>
+    <message>
+        <source>No editor is registered for the type %1 with the preferences %2.</source>
+        <translation>Aucun éditeur n’est inscrit pour le type %1 avec les préférences %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::ParameterCommands</name>
+    <message>
+        <source>Reset to &amp;default</source>
+        <translation>Remettre la valeur par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>&amp;Copy value</source>
+        <translation>&amp;Copier la valeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>&amp;Paste value</source>
+        <translation>C&amp;oller la valeur</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>%1 has no default to go back to.</source>
+        <translation>%1 n’a pas de valeur par défaut à rétablir.</translation>
+    </message>
+    <message>
+        <source>%1 was removed.</source>
+        <translation>%1 a été supprimé.</translation>
+    </message>
+    <message>
+        <source>The clipboard is empty.</source>
+        <translation>Le presse-papiers est vide.</translation>
+    </message>
+    <message>
+        <source>%1 does not take a value in this pool.</source>
+        <translation>%1 n’accepte pas de valeur dans ce pool.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::ParameterRow</name>
+    <message>
+        <source>Type: %1</source>
+        <translation>Type : %1</translation>
+    </message>
+    <message>
+        <source>Preferences: %1</source>
+        <translation>Préférences : %1</translation>
+    </message>
+    <message>
+        <source>Editor: %1</source>
+        <translation>Éditeur : %1</translation>
+    </message>
+    <message>
+        <source>was removed</source>
+        <translation>a été supprimé</translation>
+    </message>
+    <message>
+        <source>in pool %1</source>
+        <translation>dans le pool %1</translation>
+    </message>
+    <message>
+        <source>no pool</source>
+        <translation>aucun pool</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2</source>
+        <translation>%1, type %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2, in pool %3</source>
+        <translation>%1, type %2, dans le pool %3</translation>
+    </message>
+    <message>
+        <source>%1, type %2, no pool</source>
+        <translation>%1, type %2, aucun pool</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::RawValueLabel</name>
+    <message>
+        <source>age %1</source>
+        <translation>âge %1</translation>
+    </message>
+    <message>
+        <source>, pool %1</source>
+        <translation>, pool %1</translation>
+    </message>
+    <message>
+        <source>, own value</source>
+        <translation>, valeur propre</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>supprimé</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(vide)</translation>
+    </message>
+</context>
+<context>
+    <name>UndoText</name>
+    <message>
+        <source>(empty)</source>
+        <translation>(vide)</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3</source>
+        <translation>%1 : %2 → %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 → %3 (%4)</source>
+        <translation>%1 : %2 → %3 (%4)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, and %n more</source>
+        <translation>
+            <numerusform>%1, et %n autre</numerusform>
+            <numerusform>%1, et %n autres</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ValueClipboard</name>
+    <message>
+        <source>it has other flags</source>
+        <translation>elle a d’autres indicateurs</translation>
+    </message>
+    <message>
+        <source>The copied value does not fit %1: %2.</source>
+        <translation>La valeur copiée ne convient pas à %1 : %2.</translation>
+    </message>
+    <message>
+        <source>There is no value to paste into %1.</source>
+        <translation>Il n’y a pas de valeur à coller dans %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no value of %2, which is of type %3.</source>
+        <translation>%1 n’est pas une valeur pour %2, de type %3.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,97 @@
+#include "support/TaloTest.hpp"
+
+#include <fractal/engine/Worker.hpp>
+
+using Fractal::Worker;
+
+namespace {
+
+/// Counts the threads that it ran on and, where it is held, works until it is cancelled.
+class Task : public Worker::Task {
+public:
+    explicit Task(bool held = false) : held_(held) {}
+    ~Task() override { EXPECT_EQ(std::this_thread::get_id(), madeOn_); }
+
+    void run(Worker& worker) override {
+        EXPECT_NE(std::this_thread::get_id(), madeOn_);
+        started = true;
+        worker.reportProgress();
+        while (held_ && !cancelled)
+            std::this_thread::yield();
+        result = 42;
+    }
+
+    std::atomic<bool> started{false};
+    // Read when the task was taken.
+    int result = 0;
+
+private:
+    bool const held_;
+    std::thread::id const madeOn_ = std::this_thread::get_id();
+};
+
+class WorkerTest : public TaloTest {
+protected:
+    WorkerTest() {
+        QObject::connect(&worker, &Worker::done, &worker, [this] {
+            while (auto const task = worker.takeDone())
+                taken.push_back(task);
+        });
+        QObject::connect(&worker, &Worker::progressed, &worker, [this] { ++progress; });
+    }
+
+    Worker worker;
+    std::vector<Worker::TaskPtr> taken;
+    int progress = 0;
+};
+
+} // namespace
+
+TEST_F(WorkerTest, DoesTasksInTheirOrderOnAnotherThread) {
+    std::vector<Worker::TaskPtr> posted;
+    for (int count = 0; count < 20; ++count) {
+        posted.push_back(std::make_shared<Task>());
+        worker.post(posted.back());
+    }
+    EXPECT_TRUE(worker.isBusy());
+    EXPECT_TRUE(waitUntil([&] { return taken.size() == 20; }));
+    EXPECT_EQ(taken, posted);
+    for (auto const& task : taken)
+        EXPECT_EQ(static_cast<Task const&>(*task).result, 42);
+    // What was told of the last tasks may still be on its way.
+    EXPECT_TRUE(waitUntil([&] { return progress == 20; }));
+    EXPECT_FALSE(worker.isBusy());
+    EXPECT_EQ(worker.takeDone(), nullptr);
+}
+
+TEST_F(WorkerTest, CancelsTheRunningTaskAndThoseThatWait) {
+    auto const running = std::make_shared<Task>(true);
+    auto const waiting = std::make_shared<Task>();
+    worker.post(running);
+    worker.post(waiting);
+    EXPECT_TRUE(waitUntil([&] { return running->started.load(); }));
+    worker.cancel();
+    EXPECT_TRUE(waitUntil([&] { return taken.size() == 2; }));
+    EXPECT_EQ(running->result, 42);
+    EXPECT_FALSE(waiting->started);
+    // What is posted afterwards is done.
+    worker.post(std::make_shared<Task>());
+    EXPECT_TRUE(waitUntil([&] { return taken.size() == 3; }));
+    EXPECT_EQ(static_cast<Task const&>(*taken[2]).result, 42);
+}
+
+TEST_F(WorkerTest, EndsWhileATaskRuns) {
+    auto other = std::make_unique<Worker>();
+    auto const running = std::make_shared<Task>(true);
+    other->post(running);
+    other->post(std::make_shared<Task>());
+    EXPECT_TRUE(waitUntil([&] { return running->started.load(); }));
+    other.reset();
+    EXPECT_TRUE(running->cancelled);
+    EXPECT_EQ(running->result, 42);
+}
+
+TEST_F(WorkerTest, EndsWithoutEverHavingWorked) {
+    Worker const idle;
+    EXPECT_FALSE(idle.isBusy());
+}

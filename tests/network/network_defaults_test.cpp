@@ -1,0 +1,103 @@
+#include "NetworkFile.hpp"
+
+#include <bramble/Values.hpp>
+#include <network/ValueFormat.hpp>
+#include <network/ValueText.hpp>
+
+using testing::HasSubstr;
+
+namespace {
+
+class NetworkDefaults : public NetworkFileTest {
+protected:
+    static bool set(Talo::Network& network, char const* text, char const* pool) {
+        QString error;
+        bool const done = network.setText("o.p", text, network.findPool(pool), &error);
+        EXPECT_EQ(done, error.isEmpty()) << error.toStdString();
+        return done;
+    }
+};
+
+} // namespace
+
+TEST_F(NetworkDefaults, AreWhatTheFileHolds) {
+    auto const loaded = network(withParameters(
+        R"({ "name": "p", "type": "int", "value": 1, "values": { "draft": 2 } }, { "name": "q", "type": "info", "value": "" })"));
+    EXPECT_FALSE(loaded->isModified());
+    auto const parameter = parameterOf(*loaded);
+    ASSERT_NE(parameter->defaults(), nullptr);
+    EXPECT_EQ(parameter->defaults()->in(loaded->findPool("draft")).value->Text(), "2");
+    EXPECT_EQ(parameter->defaults()->in(loaded->findPool("final")).value->Text(), "1");
+    EXPECT_TRUE(parameter->defaults()->in(loaded->findPool("final")).fallsBack);
+    EXPECT_EQ(loaded->findParameter("o.q")->defaults(), nullptr) << "nobody edits an information";
+}
+
+TEST_F(NetworkDefaults, AnyValueThatDiffersIsAModification) {
+    auto const loaded =
+        network(withParameters(R"({ "name": "p", "type": "int", "value": 1, "values": { "draft": 2 } })"));
+    EXPECT_TRUE(set(*loaded, "1", "final"));
+    EXPECT_FALSE(loaded->isModified()) << "what held there before";
+    EXPECT_TRUE(set(*loaded, "5", "final"));
+    EXPECT_TRUE(loaded->isModified());
+    EXPECT_TRUE(set(*loaded, "1", "final"));
+    EXPECT_FALSE(loaded->isModified());
+    parameterOf(*loaded)->ownValue()->setValueFromText("7");
+    EXPECT_TRUE(loaded->isModified()) << "the own value, which no pool may show";
+    loaded->rememberDefaults();
+    EXPECT_FALSE(loaded->isModified());
+}
+
+TEST_F(NetworkDefaults, SavingElsewhereGoesOnThere) {
+    auto const loaded = network(withParameters(R"(
+        { "name": "p", "type": "int", "value": 1 },
+        { "name": "a", "type": "action", "value": "Go", "properties": { "icon": "icons/go.png", "tooltip": "icons" } },
+        { "name": "b", "type": "action", "value": "Go", "properties": { "icon": "/elsewhere/go.png" } })"));
+    EXPECT_TRUE(set(*loaded, "2", "draft"));
+    QDir().mkpath(path("further/down"));
+    auto const target = path("further/down/saved.json");
+    QString error;
+    ASSERT_TRUE(loaded->saveAs(target, &error)) << error.toStdString();
+    EXPECT_EQ(loaded->file(), target);
+    EXPECT_FALSE(loaded->isModified());
+
+    auto const icon = [](Talo::Network const& of, char const* name) {
+        return QDir::cleanPath(
+            QString::fromStdString(content<std::string>(of.findParameter(name)->properties()->getValue("icon"))));
+    };
+    EXPECT_EQ(icon(*loaded, "o.a"), path("icons/go.png"));
+    EXPECT_EQ(icon(*loaded, "o.b"), QString("/elsewhere/go.png"));
+    auto const bytes = bytesOf(target);
+    EXPECT_THAT(bytes.toStdString(), HasSubstr("\"../../icons/go.png\""));
+    ASSERT_TRUE(loaded->saveAs(target, &error)) << error.toStdString();
+    EXPECT_EQ(bytesOf(target), bytes) << "and once more";
+    auto const again = Talo::Network::load(target);
+    ASSERT_TRUE(again.network) << again.error.toStdString();
+    EXPECT_EQ(icon(*again.network, "o.a"), path("icons/go.png"));
+    EXPECT_EQ(again.network->values(), loaded->values());
+}
+
+TEST_F(NetworkDefaults, AFailedSaveChangesNothing) {
+    auto const loaded = network(withParameters(R"({ "name": "p", "type": "int", "value": 1 })"));
+    EXPECT_TRUE(set(*loaded, "2", "draft"));
+    auto const file = loaded->file();
+    QString error;
+    EXPECT_FALSE(loaded->saveAs(path("missing/saved.json"), &error));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_EQ(loaded->file(), file);
+    EXPECT_TRUE(loaded->isModified());
+}
+
+TEST_F(NetworkDefaults, AValueIsReadFromATextWithoutChangingAnything) {
+    auto const loaded = network(
+        withParameters(R"({ "name": "p", "type": "flags", "value": { "a": true, "b": false }, "perPool": true })"));
+    auto const parameter = parameterOf(*loaded);
+    auto const pool = loaded->findPool("draft");
+    auto const read = Talo::valueFromText(*parameter, pool, "b=true");
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->Text(), "a=true\nb=true");
+    EXPECT_EQ(Talo::valueFromText(*parameter, pool, "c=true"), nullptr);
+    EXPECT_EQ(Talo::valueFromText(*parameter, pool, "b"), nullptr);
+    EXPECT_EQ(parameter->getLocalValue(pool, std::string(), false), nullptr);
+    EXPECT_FALSE(loaded->isModified());
+    EXPECT_TRUE(Talo::isEdited(*parameter));
+}
