@@ -53,16 +53,16 @@ public:
 
 class OnePool : public Kolt::ValuePoolProvider {
 public:
-    Tessera::StrongPtr<Kolt::ValuePool> getValuePool() const override { return pool_; }
+    Kolt::PoolPtr getValuePool() const override { return pool_; }
 
 private:
-    Tessera::StrongPtr<Kolt::ValuePool> const pool_{new Kolt::ValuePool};
+    Kolt::PoolPtr const pool_{new Kolt::ValuePool};
 };
 
 class PanelSide : public Side {
 public:
     explicit PanelSide(int count) {
-        pools_.setPool(Tessera::StrongPtr<Kolt::ValuePool>(new Kolt::ValuePool("pool")));
+        pools_.setPool(Kolt::PoolPtr(new Kolt::ValuePool("pool")));
         for (int number = 0; number < count; ++number)
             object_->addParameter(caseOf(number).makeParameter());
     }

@@ -35,8 +35,8 @@ public:
 
 private:
     struct Provider : Kolt::ValuePoolProvider {
-        Tessera::StrongPtr<Kolt::ValuePool> getValuePool() const override { return pool; }
-        Tessera::StrongPtr<Kolt::ValuePool> pool{new Kolt::ValuePool("draft")};
+        Kolt::PoolPtr getValuePool() const override { return pool; }
+        Kolt::PoolPtr pool{new Kolt::ValuePool("draft")};
     };
     Tessera::StrongPtr<Provider, Kolt::ValuePoolProvider> provider_{new Provider};
 };

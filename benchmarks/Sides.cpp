@@ -8,10 +8,10 @@ namespace {
 
 class OnePool : public Kolt::ValuePoolProvider {
 public:
-    Tessera::StrongPtr<Kolt::ValuePool> getValuePool() const override { return pool_; }
+    Kolt::PoolPtr getValuePool() const override { return pool_; }
 
 private:
-    Tessera::StrongPtr<Kolt::ValuePool> const pool_{new Kolt::ValuePool};
+    Kolt::PoolPtr const pool_{new Kolt::ValuePool};
 };
 
 } // namespace

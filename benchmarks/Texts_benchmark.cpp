@@ -52,10 +52,10 @@ public:
     Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override {
         return Tessera::WeakPtr<Kolt::ValuePoolProvider>(const_cast<OnePool*>(this)).strong();
     }
-    Tessera::StrongPtr<Kolt::ValuePool> getValuePool() const override { return pool_; }
+    Kolt::PoolPtr getValuePool() const override { return pool_; }
 
 private:
-    Tessera::StrongPtr<Kolt::ValuePool> const pool_{new Kolt::ValuePool("pool")};
+    Kolt::PoolPtr const pool_{new Kolt::ValuePool("pool")};
 };
 
 void type(benchmark::State& state, QTextEdit* editor) {

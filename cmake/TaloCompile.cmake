@@ -26,7 +26,9 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 find_program(TALO_CCACHE ccache)
 if(TALO_CCACHE)
-    # Without this the cache does not serve sources that use the precompiled header of the tests.
-    set(CMAKE_CXX_COMPILER_LAUNCHER env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+    # The base folder lets work trees share the cache; without the rest it does not serve sources that use the
+    # precompiled header of the tests.
+    set(CMAKE_CXX_COMPILER_LAUNCHER env "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}"
+        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
         "${TALO_CCACHE}")
 endif()

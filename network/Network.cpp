@@ -15,8 +15,6 @@ namespace Talo {
 
 namespace {
 
-using Value = Tessera::StrongPtr<Kolt::VValueBase>;
-using Pool = Tessera::StrongPtr<Kolt::ValuePool>;
 using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
 
 /// Something of a network that no file can hold; the line has no meaning.
@@ -30,7 +28,7 @@ bool failed(QString* error, QString const& reason) {
     return false;
 }
 
-QString nameOfPool(Pool const& pool) {
+QString nameOfPool(Kolt::PoolPtr const& pool) {
     return QString::fromStdString(pool->Name());
 }
 
@@ -43,14 +41,14 @@ typename List::value_type findNamed(List const& list, QString const& name) {
 }
 
 /// A value as JSON; undefined when it is of another type than its parameter or cannot be written.
-QJsonValue valueToJson(Kolt::VParameter const& parameter, Value const& value) {
+QJsonValue valueToJson(Kolt::VParameter const& parameter, Kolt::ValuePtr const& value) {
     auto const* const format = ValueFormat::ofType(parameter.declaredType());
     return format ? format->write(value) : QJsonValue(QJsonValue::Undefined);
 }
 
 /// The values of the pools by `convert`; pools without a value of their own are left out.
 template <typename Convert>
-QJsonObject poolValuesToJson(Kolt::VParameter const& parameter, std::vector<Pool> const& pools,
+QJsonObject poolValuesToJson(Kolt::VParameter const& parameter, std::vector<Kolt::PoolPtr> const& pools,
                              Convert const& convert) {
     QJsonObject values;
     if (!parameter.keepsValuesPerPool())
@@ -96,7 +94,7 @@ Kolt::ParameterPtr Network::findParameter(QString const& objectDotParameter) con
     return dot < 0 || !object ? nullptr : object->findParameter(objectDotParameter.mid(dot + 1).toStdString());
 }
 
-Pool Network::findPool(QString const& name) const {
+Kolt::PoolPtr Network::findPool(QString const& name) const {
     return findNamed(pools_, name);
 }
 
@@ -114,13 +112,13 @@ QString Network::folder() const {
 }
 
 void Network::connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const {
-    auto const connect = [&](Value const& value) {
+    auto const connect = [&](Kolt::ValuePtr const& value) {
         auto const action = Kolt::valueOr(value, ActionPtr());
         if (!action)
             return;
         action->setHandler([network = std::weak_ptr<Network*>(self_),
                             holder = Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase>(object)](
-                               Pool const& pool, Kolt::ParameterPtr const& fired) {
+                               Kolt::PoolPtr const& pool, Kolt::ParameterPtr const& fired) {
             // A copy, as the handler may replace itself or end the network, of which nothing is held meanwhile.
             auto const handler = [&] {
                 auto const living = network.lock();
@@ -141,7 +139,7 @@ QByteArray Network::values() const {
     for (auto const& object : objects_) {
         QJsonObject parameters;
         for (auto const& parameter : object->parameters()) {
-            auto const json = [&](Value const& value) {
+            auto const json = [&](Kolt::ValuePtr const& value) {
                 auto const written = valueToJson(*parameter, value);
                 return written.isUndefined() ? QJsonValue() : written;
             };
@@ -161,7 +159,7 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
         refuseToWrite("no network file can hold a parameter of type " +
                       QString::fromStdString(parameter.declaredType()));
     auto const* const ownEntries = entriesOf(parameter.ownValue());
-    auto const json = [&](Value const& value) {
+    auto const json = [&](Kolt::ValuePtr const& value) {
         auto const written = format->write(value);
         if (written.isUndefined())
             refuseToWrite("the value is not of type " + QString(format->key) + " or has a text that is not UTF-8");
@@ -295,7 +293,7 @@ bool Network::isModified() const {
         return defaults &&
                (!defaults->isOwnValueOf(*parameter) ||
                 (parameter->keepsValuesPerPool() && !std::all_of(pools_.begin(), pools_.end(), [&](auto const& pool) {
-                     return defaults->holdsIn(*parameter, pool);
+                     return defaults->isEffectiveIn(*parameter, pool);
                  })));
     };
     return std::any_of(objects_.begin(), objects_.end(), [&](auto const& object) {
@@ -304,7 +302,8 @@ bool Network::isModified() const {
     });
 }
 
-bool Network::setText(QString const& objectDotParameter, QString const& text, Pool const& pool, QString* error) {
+bool Network::setText(QString const& objectDotParameter, QString const& text, Kolt::PoolPtr const& pool,
+                      QString* error) {
     auto const parameter = findParameter(objectDotParameter);
     if (!parameter)
         return failed(error, "there is no parameter " + quoted(objectDotParameter) + " in the network");

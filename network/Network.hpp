@@ -50,8 +50,8 @@ public:
     Kolt::ParameterPtr findParameter(QString const& objectDotParameter) const;
 
     /// The pools in the order of the file, at least one. The first is current at the start.
-    std::vector<Tessera::StrongPtr<Kolt::ValuePool>> const& pools() const { return pools_; }
-    Tessera::StrongPtr<Kolt::ValuePool> findPool(QString const& name) const;
+    std::vector<Kolt::PoolPtr> const& pools() const { return pools_; }
+    Kolt::PoolPtr findPool(QString const& name) const;
 
     /// All values as JSON: {"object": {"parameter": {"value": ..., "values": {"pool": ...}}}}, sorted by name, with
     /// "values" where the parameter keeps values per pool, for those pools that have one. Null stands for nothing
@@ -80,14 +80,12 @@ public:
     /// there), else the parameter's own. Tells everybody once and renews the age stamp. The text is what the type's
     /// VValueTrait reads. False, nothing changed, and the reason in `error` unless that is null, when there is no such
     /// parameter or pool or the text is no value of the type.
-    bool setText(QString const& objectDotParameter, QString const& text,
-                 Tessera::StrongPtr<Kolt::ValuePool> const& pool, QString* error);
+    bool setText(QString const& objectDotParameter, QString const& text, Kolt::PoolPtr const& pool, QString* error);
 
     /// Called when an action of the network is fired, with the object that holds it and the parameter and pool that it
     /// was fired for, both of which may be null. An empty function calls nobody. An action that outlives the network
     /// does nothing when it is fired.
-    std::function<void(Kolt::ObjectPtr const&, Kolt::ParameterPtr const&, Tessera::StrongPtr<Kolt::ValuePool> const&)>
-        actionHandler;
+    std::function<void(Kolt::ObjectPtr const&, Kolt::ParameterPtr const&, Kolt::PoolPtr const&)> actionHandler;
 
 private:
     friend class NetworkReader;
@@ -103,7 +101,7 @@ private:
 
     QString file_;
     QString title_;
-    std::vector<Tessera::StrongPtr<Kolt::ValuePool>> pools_;
+    std::vector<Kolt::PoolPtr> pools_;
     std::vector<Kolt::ObjectPtr> objects_;
     // What each object is for, in the order of the objects.
     std::vector<QString> kinds_;

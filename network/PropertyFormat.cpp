@@ -10,10 +10,8 @@ namespace Talo {
 
 namespace {
 
-using Value = Tessera::StrongPtr<Kolt::VValueBase>;
-
 template <typename T>
-Kolt::VTypedValueBase<T> const* typed(Value const& value) {
+Kolt::VTypedValueBase<T> const* typed(Kolt::ValuePtr const& value) {
     return dynamic_cast<Kolt::VTypedValueBase<T> const*>(value.get());
 }
 
@@ -32,7 +30,7 @@ PropertyFormat::Kind PropertyFormat::kindOf(QString const& name) const {
     return name == "icon" ? Kind::Icon : Kind::Free;
 }
 
-Value PropertyFormat::readProperty(JsonNode const& node) const {
+Kolt::ValuePtr PropertyFormat::readProperty(JsonNode const& node) const {
     auto const what = "the property " + quoted(node.key());
     auto const kind = kindOf(node.key());
 
@@ -94,7 +92,7 @@ Kolt::ValueMap PropertyFormat::read(JsonNode const& node) const {
     return properties;
 }
 
-QJsonValue PropertyFormat::write(QString const& name, Value const& value, QString const& targetFolder) const {
+QJsonValue PropertyFormat::write(QString const& name, Kolt::ValuePtr const& value, QString const& targetFolder) const {
     auto const kind = kindOf(name);
     if (typed<bool>(value))
         return Kolt::valueOr(value, false);
@@ -115,12 +113,13 @@ QJsonValue PropertyFormat::write(QString const& name, Value const& value, QStrin
     return targetFolder == folder_ ? text.mid(folder_.size() + 1) : QDir(targetFolder).relativeFilePath(text);
 }
 
-bool PropertyFormat::isRelative(QString const& name, Value const& value) const {
+bool PropertyFormat::isRelative(QString const& name, Kolt::ValuePtr const& value) const {
     return kindOf(name) == Kind::Icon &&
            QString::fromStdString(Kolt::valueOr(value, std::string())).startsWith(folder_ + '/');
 }
 
-Value PropertyFormat::moved(QString const& name, Value const& value, QString const& targetFolder) const {
+Kolt::ValuePtr PropertyFormat::moved(QString const& name, Kolt::ValuePtr const& value,
+                                     QString const& targetFolder) const {
     if (targetFolder == folder_ || !isRelative(name, value))
         return nullptr;
     return Kolt::makeValue((targetFolder + '/' + write(name, value, targetFolder).toString()).toStdString());

@@ -22,18 +22,16 @@ public:
     /// which an editor could not work: a range that is empty, less than one column, fewer than two positions.
     Kolt::ValueMap read(JsonNode const& node) const;
     /// The property as JSON, for a network file in `targetFolder`; undefined for a value that no file can hold.
-    QJsonValue write(QString const& name, Tessera::StrongPtr<Kolt::VValueBase> const& value,
-                     QString const& targetFolder) const;
+    QJsonValue write(QString const& name, Kolt::ValuePtr const& value, QString const& targetFolder) const;
     /// What takes the place of the property once the network file stands in `targetFolder`; null where it stays.
-    Tessera::StrongPtr<Kolt::VValueBase> moved(QString const& name, Tessera::StrongPtr<Kolt::VValueBase> const& value,
-                                               QString const& targetFolder) const;
+    Kolt::ValuePtr moved(QString const& name, Kolt::ValuePtr const& value, QString const& targetFolder) const;
 
 private:
     enum class Kind { Integer, Real, Text, Icon, Free };
     Kind kindOf(QString const& name) const;
     /// Whether the property is a path that stands in the file relative to its folder.
-    bool isRelative(QString const& name, Tessera::StrongPtr<Kolt::VValueBase> const& value) const;
-    Tessera::StrongPtr<Kolt::VValueBase> readProperty(JsonNode const& node) const;
+    bool isRelative(QString const& name, Kolt::ValuePtr const& value) const;
+    Kolt::ValuePtr readProperty(JsonNode const& node) const;
     void checkRanges(JsonNode const& node, Kolt::ValueMap const& properties) const;
 
     QString const typeKey_;

@@ -15,14 +15,13 @@ namespace Talo {
 
 namespace {
 
-using Value = Tessera::StrongPtr<Kolt::VValueBase>;
 using Entries = ValueFormat::Entries;
 using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
 using StringArray = std::array<std::string, 1>;
 
 /// The T in a value object; nothing for an object of another type.
 template <typename T>
-std::optional<T> contentOf(Value const& value) {
+std::optional<T> contentOf(Kolt::ValuePtr const& value) {
     T content{};
     auto const* const typed = dynamic_cast<Kolt::VTypedValueBase<T> const*>(value.get());
     return typed && typed->get(content) ? std::optional<T>(content) : std::nullopt;
@@ -30,13 +29,13 @@ std::optional<T> contentOf(Value const& value) {
 
 /// The content of a value object as JSON by `write`; undefined for an object of another type.
 template <typename T, typename Write>
-QJsonValue written(Value const& value, Write const& write) {
+QJsonValue written(Kolt::ValuePtr const& value, Write const& write) {
     auto const content = contentOf<T>(value);
     return content ? QJsonValue(write(*content)) : QJsonValue(QJsonValue::Undefined);
 }
 
 template <typename T>
-void copyContent(Value const& from, Value const& to) {
+void copyContent(Kolt::ValuePtr const& from, Kolt::ValuePtr const& to) {
     auto const content = contentOf<T>(from);
     auto* const target = dynamic_cast<Kolt::VTypedValueBase<T>*>(to.get());
     if (content && target)
@@ -49,43 +48,43 @@ QJsonValue textToJson(std::string const& text) {
     return unicode.toStdString() == text ? QJsonValue(unicode) : QJsonValue(QJsonValue::Undefined);
 }
 
-Value readBool(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readBool(JsonNode const& node, Entries const&) {
     return Kolt::makeValue(node.truth("a bool value"));
 }
 
-QJsonValue writeBool(Value const& value) {
+QJsonValue writeBool(Kolt::ValuePtr const& value) {
     return written<bool>(value, [](bool content) { return content; });
 }
 
-Value readInt(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readInt(JsonNode const& node, Entries const&) {
     return Kolt::makeValue(node.integer("an int value"));
 }
 
-QJsonValue writeInt(Value const& value) {
+QJsonValue writeInt(Kolt::ValuePtr const& value) {
     return written<int>(value, [](int content) { return content; });
 }
 
-Value readDouble(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readDouble(JsonNode const& node, Entries const&) {
     return Kolt::makeValue(node.real("a double value"));
 }
 
-QJsonValue writeDouble(Value const& value) {
+QJsonValue writeDouble(Kolt::ValuePtr const& value) {
     return written<double>(value, realToJson);
 }
 
-Value readAction(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readAction(JsonNode const& node, Entries const&) {
     if (node.isNull())
         return Kolt::makeValue(ActionPtr());
     return Kolt::makeValue(ActionPtr(new Kolt::VAction(node.text("the name of an action").toStdString())));
 }
 
-QJsonValue writeAction(Value const& value) {
+QJsonValue writeAction(Kolt::ValuePtr const& value) {
     return written<ActionPtr>(value, [](ActionPtr const& action) { //
         return action ? textToJson(action->Name()) : QJsonValue();
     });
 }
 
-Value readColour(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readColour(JsonNode const& node, Entries const&) {
     QString const what = "a colour value, a list of red, green, blue and alpha";
     auto const& channels = node.elements(what);
     if (channels.size() != 4)
@@ -108,7 +107,7 @@ double shortestDouble(float number) {
     return shortest;
 }
 
-QJsonValue writeColour(Value const& value) {
+QJsonValue writeColour(Kolt::ValuePtr const& value) {
     return written<Ferro::rgba_float_t>(value, [](Ferro::rgba_float_t const& colour) {
         QJsonArray channels;
         for (float const channel : {colour.red, colour.green, colour.blue, colour.alpha})
@@ -125,7 +124,7 @@ std::string readEntry(JsonNode const& node, Entries const& entries, QString cons
     return text;
 }
 
-Value readEnum(JsonNode const& node, Entries const& entries) {
+Kolt::ValuePtr readEnum(JsonNode const& node, Entries const& entries) {
     Tessera::StrongPtr<Kolt::VEnumSelection, Tessera::StringList> const names(new Kolt::VEnumSelection(entries));
     if (!node.isNull()) {
         auto const chosen = readEntry(node, entries, "an enum value");
@@ -134,7 +133,7 @@ Value readEnum(JsonNode const& node, Entries const& entries) {
     return Kolt::makeValue(Kolt::Enum(names));
 }
 
-QJsonValue writeEnum(Value const& value) {
+QJsonValue writeEnum(Kolt::ValuePtr const& value) {
     return written<Kolt::Enum>(value, [](Kolt::Enum const& choice) {
         auto const* const names = dynamic_cast<Kolt::VEnumSelection const*>(choice.names().get());
         bool const chosen = names && names->selectedNumber() >= 0;
@@ -142,21 +141,21 @@ QJsonValue writeEnum(Value const& value) {
     });
 }
 
-Value readSelection(JsonNode const& node, Entries const& entries) {
+Kolt::ValuePtr readSelection(JsonNode const& node, Entries const& entries) {
     Kolt::VStringList const selection(new Kolt::StringSelection(entries));
     if (!node.isNull())
         selection->select(readEntry(node, entries, "a selection value"));
     return Kolt::makeValue(selection);
 }
 
-QJsonValue writeSelection(Value const& value) {
+QJsonValue writeSelection(Kolt::ValuePtr const& value) {
     return written<Kolt::VStringList>(value, [](Kolt::VStringList const& selection) {
         bool const chosen = selection && !selection->selected().empty();
         return chosen ? textToJson(selection->selected()) : QJsonValue();
     });
 }
 
-Value readMultipleSelection(JsonNode const& node, Entries const& entries) {
+Kolt::ValuePtr readMultipleSelection(JsonNode const& node, Entries const& entries) {
     Kolt::VMultipleStringList const selection(new Kolt::MultipleStringSelection(entries));
     for (auto const& element : node.elements("a multiselection value")) {
         auto const text = readEntry(element, entries, "a chosen text");
@@ -167,7 +166,7 @@ Value readMultipleSelection(JsonNode const& node, Entries const& entries) {
     return Kolt::makeValue(selection);
 }
 
-QJsonValue writeMultipleSelection(Value const& value) {
+QJsonValue writeMultipleSelection(Kolt::ValuePtr const& value) {
     return written<Kolt::VMultipleStringList>(value, [](Kolt::VMultipleStringList const& selection) {
         QJsonArray chosen;
         if (selection)
@@ -178,14 +177,14 @@ QJsonValue writeMultipleSelection(Value const& value) {
     });
 }
 
-Value readFlags(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readFlags(JsonNode const& node, Entries const&) {
     Kolt::FlagList flags;
     for (auto const& member : node.members("a flags value"))
         flags[member.key().toStdString()] = member.truth("a flag");
     return Kolt::makeValue(flags);
 }
 
-QJsonValue writeFlags(Value const& value) {
+QJsonValue writeFlags(Kolt::ValuePtr const& value) {
     return written<Kolt::FlagList>(value, [](Kolt::FlagList const& flags) {
         QJsonObject switches;
         for (auto const& [name, on] : flags)
@@ -194,32 +193,32 @@ QJsonValue writeFlags(Value const& value) {
     });
 }
 
-Value readInfo(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readInfo(JsonNode const& node, Entries const&) {
     return Kolt::makeValue(Kolt::info{node.text("an info value").toStdString()});
 }
 
-QJsonValue writeInfo(Value const& value) {
+QJsonValue writeInfo(Kolt::ValuePtr const& value) {
     return written<Kolt::info>(value, [](Kolt::info const& content) { return textToJson(content.text); });
 }
 
-Value readStatus(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readStatus(JsonNode const& node, Entries const&) {
     return Kolt::makeValue(Kolt::VObjectStatus(node.text("a status value").toStdString()));
 }
 
-QJsonValue writeStatus(Value const& value) {
+QJsonValue writeStatus(Kolt::ValuePtr const& value) {
     return written<Kolt::VObjectStatus>(value, [](auto const& status) { return textToJson(status.text()); });
 }
 
-Value readString(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readString(JsonNode const& node, Entries const&) {
     return Kolt::makeValue(node.text("a string value").toStdString());
 }
 
-QJsonValue writeString(Value const& value) {
+QJsonValue writeString(Kolt::ValuePtr const& value) {
     return written<std::string>(value, textToJson);
 }
 
 // The editor of an array of one text edits a text, so a text is what the parameter holds.
-Value readStringArray(JsonNode const& node, Entries const&) {
+Kolt::ValuePtr readStringArray(JsonNode const& node, Entries const&) {
     QString const what = "a stringarray value, a list of one text";
     auto const& elements = node.elements(what);
     if (elements.size() != 1)
@@ -227,7 +226,7 @@ Value readStringArray(JsonNode const& node, Entries const&) {
     return Kolt::makeValue(elements[0].text("the text of a stringarray value").toStdString());
 }
 
-QJsonValue writeStringArray(Value const& value) {
+QJsonValue writeStringArray(Kolt::ValuePtr const& value) {
     auto const array = contentOf<StringArray>(value);
     auto const text = array ? std::optional<std::string>(array->front()) : contentOf<std::string>(value);
     return text ? QJsonValue(QJsonArray{textToJson(*text)}) : QJsonValue(QJsonValue::Undefined);
@@ -280,7 +279,7 @@ QString ValueFormat::keys() {
     return all.join(", ");
 }
 
-ValueFormat::Entries const* entriesOf(Value const& value) {
+ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value) {
     Tessera::StringList const* list = nullptr;
     if (auto const choice = contentOf<Kolt::Enum>(value))
         list = choice->names().get();

@@ -20,12 +20,12 @@ struct ValueFormat {
     /// Whether people edit values of the type; the others are shown, and told by objects, on any thread.
     bool edited;
     /// A new value object; throws a FormatError for what is no value of the type.
-    Tessera::StrongPtr<Kolt::VValueBase> (*read)(JsonNode const& node, Entries const& entries);
+    Kolt::ValuePtr (*read)(JsonNode const& node, Entries const& entries);
     /// The value as JSON; undefined when the object is not one that `read` makes, or holds a text that is not UTF-8.
-    QJsonValue (*write)(Tessera::StrongPtr<Kolt::VValueBase> const& value);
+    QJsonValue (*write)(Kolt::ValuePtr const& value);
 
     /// Stores the content of a value object that `read` made in another one of the same kind.
-    void (*copy)(Tessera::StrongPtr<Kolt::VValueBase> const& from, Tessera::StrongPtr<Kolt::VValueBase> const& to);
+    void (*copy)(Kolt::ValuePtr const& from, Kolt::ValuePtr const& to);
 
     /// The format of a key or of a readable type name; null for an unknown one. They live as long as the process.
     static ValueFormat const* ofKey(QString const& key);
@@ -35,7 +35,7 @@ struct ValueFormat {
 };
 
 /// The entries among which a value chooses; null when it refers to no list.
-ValueFormat::Entries const* entriesOf(Tessera::StrongPtr<Kolt::VValueBase> const& value);
+ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value);
 
 /// Whether people edit the values of the parameter. Not so where no network file can hold them.
 bool isEdited(Kolt::VParameter const& parameter);

@@ -3,9 +3,8 @@
 
 namespace Talo {
 
-Tessera::StrongPtr<Kolt::VValueBase>
-valueFromText(Kolt::VParameter const& parameter, Tessera::StrongPtr<Kolt::ValuePool> const& pool, QString const& text) {
-    auto const value = Kolt::heldValue(parameter, pool).value;
+Kolt::ValuePtr valueFromText(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool, QString const& text) {
+    auto const value = Kolt::copyEffectiveValue(parameter, pool).value;
     Kolt::FlagList const none;
     auto const flags = Kolt::valueOr(value, none).size();
     bool const isValue = value->setValueFromText(text.toStdString());

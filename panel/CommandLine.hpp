@@ -46,7 +46,7 @@ public:
     bool version = false;
 
     /// Whether the program does something and ends, and needs no display for it.
-    bool endsByItself() const { return listCreators || values || help || version || !screenshot.isEmpty(); }
+    bool isBatch() const { return listCreators || values || help || version || !screenshot.isEmpty(); }
 
     /// Reads the arguments, the program's name first. Nothing, and the reason in `error`, for an unknown option, a
     /// missing or a wrong argument, or options that exclude each other.

@@ -41,10 +41,10 @@ bool choosePlatform(Panel::CommandLine const& commandLine) {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return false;
     bool const display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    if (display && !commandLine.endsByItself())
+    if (display && !commandLine.isBatch())
         return false;
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    return !commandLine.endsByItself();
+    return !commandLine.isBatch();
 }
 
 /// Refuses a command line that cannot be read, in the user's language.
@@ -187,7 +187,7 @@ int run(Panel::CommandLine const& commandLine) {
     // What is asked for on the command line comes after it, and wins.
     Panel::Session session(Panel::Session::userFile());
     QObject::connect(&session, &Panel::Session::failed, refuse);
-    if (commandLine.session && !commandLine.endsByItself())
+    if (commandLine.session && !commandLine.isBatch())
         session.follow(window);
     if (commandLine.rawValues)
         window.setRawValuesShown(true);

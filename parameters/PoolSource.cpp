@@ -4,9 +4,9 @@ namespace Talo {
 
 class PoolSource::Provider : public Kolt::ValuePoolProvider {
 public:
-    Tessera::StrongPtr<Kolt::ValuePool> getValuePool() const override { return pool; }
+    Kolt::PoolPtr getValuePool() const override { return pool; }
 
-    Tessera::StrongPtr<Kolt::ValuePool> pool;
+    Kolt::PoolPtr pool;
 };
 
 PoolSource::PoolSource() : provider_(new Provider) {}
@@ -17,11 +17,11 @@ Tessera::StrongPtr<Kolt::ValuePoolProvider> PoolSource::getValuePoolProvider() c
     return provider_;
 }
 
-Tessera::StrongPtr<Kolt::ValuePool> PoolSource::pool() const {
+Kolt::PoolPtr PoolSource::pool() const {
     return provider_->pool;
 }
 
-void PoolSource::setPool(Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+void PoolSource::setPool(Kolt::PoolPtr const& pool) {
     provider_->pool = pool;
 }
 

@@ -16,9 +16,9 @@ public:
     /// Always the same provider; never null.
     Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override;
     /// The chosen pool; null as long as none was chosen.
-    Tessera::StrongPtr<Kolt::ValuePool> pool() const;
+    Kolt::PoolPtr pool() const;
     /// Chooses a pool; null for none. Tells nobody: whoever chooses has the editors show the pool's values.
-    void setPool(Tessera::StrongPtr<Kolt::ValuePool> const& pool);
+    void setPool(Kolt::PoolPtr const& pool);
 
 private:
     class Provider;

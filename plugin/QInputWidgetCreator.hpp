@@ -13,7 +13,7 @@ namespace Kolt {
 /// and builds a W for a parameter when the Qt front end asks. Made once for each name and preference set, as a static
 /// object of the library.
 ///
-/// W has the constructor W(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
+/// W has the constructor W(ParameterRef const& parameter, QWidget* parent,
 /// ValuePoolSource* poolSource, PreferencesPtr const& preferences) and is a QWidget and a VInputBase.
 template <typename T, typename W>
 class QInputWidgetCreator : public VInputCreator<T, VInputCreatorBase> {
@@ -33,8 +33,8 @@ public:
     public:
         explicit QCreator(QInputWidgetCreator& creator) : creator_(creator) {}
 
-        std::pair<QPointer<QWidget>, InputRef> create(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter,
-                                                      QWidget* parent, ValuePoolSource* poolSource) override {
+        std::pair<QPointer<QWidget>, InputRef> create(ParameterRef const& parameter, QWidget* parent,
+                                                      ValuePoolSource* poolSource) override {
             auto const preferences = mergePreferences(nullptr, creator_.preferences());
             auto* const widget = new W(parameter, parent, poolSource, preferences);
             ValueNotifier* const notifier = widget;

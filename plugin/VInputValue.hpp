@@ -13,8 +13,8 @@ inline void reportMissingOwner() {
 
 /// Whether a change concerns none of those who show a parameter's value in `pool`. So it is, where the parameter keeps
 /// values per pool, with a change in another pool and with a change of the parameter's own value behind the pool's.
-inline bool belongsElsewhere(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool,
-                             Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) {
+inline bool isForOtherPool(VParameter const& parameter, PoolPtr const& pool, ValuePtr const& newValue,
+                           VContext const& context) {
     if (!parameter.keepsValuesPerPool())
         return false;
     return (context.pool() && context.pool() != pool) ||
@@ -31,24 +31,24 @@ class VInputValue : public VInput<T> {
 public:
     /// Copies the value that the owner has in `pool` into the cache, without creating one. False, and the cache left
     /// alone, where the owner is gone or has no value of type T there.
-    bool fetchValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member) override;
+    bool fetchValue(PoolPtr const& pool, std::string const& member) override;
 
     /// Stores a value in the owner's value object for `pool`, which is created if it is missing, and in the cache, and
     /// tells the owner's other notifiers, also when the value is the old one. False, and nothing stored, where the
     /// owner is gone, there is no pool, or no value of type T can be had. The input, its widget and the owner may be
     /// gone when it returns: the host tells others, and they may do anything.
-    bool setValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T const& newValue,
+    bool setValue(PoolPtr const& pool, std::string const& member, T const& newValue,
                   ValueNotifierList const* alsoNotify) override;
 
     /// Like fetchValue, but creates the value where it is missing, and copies it to `out` as well.
-    bool getValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T& out) override;
+    bool getValue(PoolPtr const& pool, std::string const& member, T& out) override;
 
 protected:
     /// What a value that arrives from elsewhere is to this input.
     enum class Arrival {
-        Foreign, ///< it belongs to another pool: the shown value stays
-        Held,    ///< the input's pool holds it: it is shown
-        New      ///< the input's pool does not hold it: it is shown, and a number is written once
+        OtherPool,   ///< belongs to another pool: the shown value stays
+        Current,     ///< the input's pool holds it: it is shown
+        NotYetStored ///< the input's pool does not hold it: it is shown, and a number is written once
     };
 
     /// What an edit does where there is no pool.
@@ -58,14 +58,13 @@ protected:
     };
 
     /// The owner may be gone. `poolSource` belongs to the panel and outlives the input; null counts as no pool.
-    VInputValue(Tessera::WeakPtr<VParameter, ValueNotifierList> const& owner, ValuePoolSource* poolSource)
-        : VInput<T>(owner), poolSource_(poolSource) {}
+    VInputValue(ParameterRef const& owner, ValuePoolSource* poolSource) : VInput<T>(owner), poolSource_(poolSource) {}
 
     /// The pool in which the widget works at this moment; null when there is none.
-    Tessera::StrongPtr<ValuePool> pool() const { return currentPool(poolSource_); }
+    PoolPtr pool() const { return currentPool(poolSource_); }
 
     /// The value object that the owner itself holds; null where the owner is gone.
-    Tessera::StrongPtr<VValueBase> ownValue() const {
+    ValuePtr ownValue() const {
         auto const parameter = this->owner().strong();
         return parameter ? parameter->ownValue() : nullptr;
     }
@@ -76,16 +75,13 @@ protected:
 
     /// Copies a value that arrives from elsewhere into the cache. False where there is nothing to show: it is no T, or
     /// only properties changed and it is the value in the cache.
-    bool take(Tessera::StrongPtr<VValueBase> const& newValue, ValueMap const* properties);
+    bool take(ValuePtr const& newValue, ValueMap const* properties);
 
     /// The value object with which the input starts: the one that its pool holds, else the one that the owner itself
     /// holds; null where the owner is gone.
-    Tessera::StrongPtr<VValueBase> firstValue() const {
+    ValuePtr firstValue() const {
         auto const parameter = this->owner().strong();
-        if (!parameter)
-            return nullptr;
-        auto const local = parameter->getLocalValue(pool(), std::string(), false);
-        return local ? local : parameter->ownValue();
+        return parameter ? parameter->effectiveValue(pool()) : nullptr;
     }
 
     /// To be called before an edit changes what the cached value refers to: where the owner keeps values per pool, the
@@ -93,8 +89,8 @@ protected:
     /// value nor that of another pool changes with it. Without a pool, and where values are shared, the cache stays.
     void cachePoolValue();
 
-    /// What a change from elsewhere is to this input. Foreign is what belongs elsewhere.
-    Arrival arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) const;
+    /// What a change from elsewhere is to this input.
+    Arrival arrivalOf(ValuePtr const& newValue, VContext const& context) const;
 
     /// Puts a property of the owner where nothing stands under its name, in the widget's pool and with this input as
     /// the source. A property of another type is never overwritten. Nothing happens where the owner is gone.
@@ -114,7 +110,7 @@ private:
 };
 
 template <typename T>
-bool VInputValue<T>::fetchValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member) {
+bool VInputValue<T>::fetchValue(PoolPtr const& pool, std::string const& member) {
     auto const parameter = this->owner().strong();
     if (!parameter)
         return false;
@@ -127,7 +123,7 @@ bool VInputValue<T>::fetchValue(Tessera::StrongPtr<ValuePool> const& pool, std::
 }
 
 template <typename T>
-bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T const& newValue,
+bool VInputValue<T>::setValue(PoolPtr const& pool, std::string const& member, T const& newValue,
                               ValueNotifierList const* alsoNotify) {
     auto const parameter = this->owner().strong();
     if (!parameter || !pool)
@@ -136,8 +132,7 @@ bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
     if (perPool && parameter->declaredType() != Tessera::Typename(typeid(T))) {
         // A fresh value would be of the declared type, so one of another type can only be had where it stands already.
         // Where it does not, nothing is made, and what the pool holds is not replaced.
-        auto const local = parameter->getLocalValue(pool, member, false);
-        if (!dynamic_cast<VValue<T> const*>((local ? local : parameter->ownValue()).get()))
+        if (!dynamic_cast<VValue<T> const*>(parameter->effectiveValue(pool).get()))
             return false;
     }
     auto value = perPool ? parameter->getLocalValue(pool, member, true) : parameter->ownValue();
@@ -156,7 +151,7 @@ bool VInputValue<T>::setValue(Tessera::StrongPtr<ValuePool> const& pool, std::st
 }
 
 template <typename T>
-bool VInputValue<T>::getValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T& out) {
+bool VInputValue<T>::getValue(PoolPtr const& pool, std::string const& member, T& out) {
     auto const parameter = this->owner().strong();
     if (!parameter)
         return false;
@@ -179,7 +174,7 @@ bool VInputValue<T>::readOwnValue() {
 }
 
 template <typename T>
-bool VInputValue<T>::take(Tessera::StrongPtr<VValueBase> const& newValue, ValueMap const* properties) {
+bool VInputValue<T>::take(ValuePtr const& newValue, ValueMap const* properties) {
     auto const* const typed = dynamic_cast<VTypedValueBase<T> const*>(newValue.get());
     T arrived{};
     if (!typed || !typed->get(arrived) || (properties && VValueTrait<T>::Equal(arrived, cached_)))
@@ -194,8 +189,7 @@ void VInputValue<T>::cachePoolValue() {
     auto const currentPool = pool();
     if (!parameter || !currentPool || !parameter->keepsValuesPerPool())
         return;
-    auto const local = parameter->getLocalValue(currentPool, std::string(), false);
-    bool const isTyped = dynamic_cast<VValue<T> const*>((local ? local : parameter->ownValue()).get());
+    bool const isTyped = dynamic_cast<VValue<T> const*>(parameter->effectiveValue(currentPool).get());
     T value{};
     // A value of another type gives way to the edited one, which must not share what the cache refers to either.
     if (!isTyped || !this->getValue(currentPool, std::string(), value))
@@ -203,22 +197,21 @@ void VInputValue<T>::cachePoolValue() {
 }
 
 template <typename T>
-typename VInputValue<T>::Arrival VInputValue<T>::arrivalOf(Tessera::StrongPtr<VValueBase> const& newValue,
-                                                           VContext const& context) const {
+typename VInputValue<T>::Arrival VInputValue<T>::arrivalOf(ValuePtr const& newValue, VContext const& context) const {
     auto const parameter = this->owner().strong();
     if (!parameter || !newValue)
-        return Arrival::New;
+        return Arrival::NotYetStored;
     auto const own = parameter->ownValue();
     // A shared value needs no pool to be judged, so a display may be told of it on any thread.
     auto local = own;
     if (parameter->keepsValuesPerPool()) {
         auto const ownPool = pool();
-        if (belongsElsewhere(*parameter, ownPool, newValue, context))
-            return Arrival::Foreign;
+        if (isForOtherPool(*parameter, ownPool, newValue, context))
+            return Arrival::OtherPool;
         local = parameter->getLocalValue(ownPool, std::string(), false);
     }
     bool const held = newValue == own || newValue == local || (local && local->equals(*newValue));
-    return held ? Arrival::Held : Arrival::New;
+    return held ? Arrival::Current : Arrival::NotYetStored;
 }
 
 template <typename T>

@@ -9,9 +9,9 @@ namespace {
 /// Lets the host make values of the types that the value templates were compiled for here.
 struct ValueCreators {
     ValueCreators() {
-        provideValueCreator<double>();
-        provideValueCreator<int>();
-        provideValueCreator<Tessera::StrongPtr<VAction>>();
+        registerValueCreatorOnce<double>();
+        registerValueCreatorOnce<int>();
+        registerValueCreatorOnce<Tessera::StrongPtr<VAction>>();
     }
 };
 

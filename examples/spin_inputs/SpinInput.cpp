@@ -7,8 +7,7 @@
 
 namespace Kolt {
 
-SpinInput::SpinInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                     ValuePoolSource* poolSource, PreferencesPtr const&)
+SpinInput::SpinInput(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource, PreferencesPtr const&)
     : QSpinBox(parent), VInputValue<int>(parameter, poolSource) {
     setRange(std::numeric_limits<int>::lowest(), std::numeric_limits<int>::max());
     showValue(ownValue());
@@ -18,13 +17,12 @@ SpinInput::SpinInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& para
 
 SpinInput::~SpinInput() = default;
 
-void SpinInput::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                              ValueMap const*) {
-    if (arrivalOf(newValue, context) != Arrival::Foreign)
+void SpinInput::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
+    if (arrivalOf(newValue, context) != Arrival::OtherPool)
         showValue(newValue);
 }
 
-void SpinInput::showValue(Tessera::StrongPtr<VValueBase> const& value) {
+void SpinInput::showValue(ValuePtr const& value) {
     auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
     if (!typed || !typed->get(cached_))
         return;

@@ -11,15 +11,14 @@ class SpinInput : public QSpinBox, public VInputValue<int> {
     Q_OBJECT
 
 public:
-    SpinInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-              ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    SpinInput(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+              PreferencesPtr const& preferences);
     ~SpinInput() override;
 
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 private:
-    void showValue(Tessera::StrongPtr<VValueBase> const& value);
+    void showValue(ValuePtr const& value);
     void writeValue(int value);
 };
 

@@ -17,7 +17,7 @@ ColouringObject::ColouringObject(std::string const& name) : ComputingObject(name
 
 ColouringObject::~ColouringObject() = default;
 
-void ColouringObject::contribute(FractalSettings& settings, PoolPtr const& pool) {
+void ColouringObject::contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) {
     using Palette = FractalSettings::Palette;
     using Blend = FractalSettings::Blend;
     settings.inside = read("inside", pool, settings.inside);
@@ -47,7 +47,7 @@ void ColouringObject::contribute(FractalSettings& settings, PoolPtr const& pool)
     }
 }
 
-void ColouringObject::run(PoolPtr const& pool) {
+void ColouringObject::run(Kolt::PoolPtr const& pool) {
     auto const file = paletteFile(pool);
     if (file.isEmpty())
         return;
@@ -57,10 +57,10 @@ void ColouringObject::run(PoolPtr const& pool) {
         Kolt::VActionNotifier::Warning(paletteProblem_.toStdString());
 }
 
-QString ColouringObject::paletteFile(PoolPtr const& pool) const {
+QString ColouringObject::paletteFile(Kolt::PoolPtr const& pool) const {
     for (auto const& slot : slotList()) {
         if (slot->Name() == "palette file")
-            return QString::fromStdString(Kolt::valueOr(heldValue(slot->parameter(), pool), std::string()));
+            return QString::fromStdString(Kolt::valueOr(effectiveValue(slot->parameter(), pool), std::string()));
     }
     return {};
 }
@@ -74,7 +74,7 @@ bool ColouringObject::readPalette(QString const& file) {
     return !fileColours_.empty();
 }
 
-void ColouringObject::chooseFilePalette(PoolPtr const& pool) {
+void ColouringObject::chooseFilePalette(Kolt::PoolPtr const& pool) {
     auto const parameter = findParameter("palette");
     // A selection is changed in place, so the pool has to have one of its own first.
     auto const value = parameter ? parameter->getLocalValue(pool, std::string(), true) : nullptr;

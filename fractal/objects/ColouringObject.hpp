@@ -15,16 +15,16 @@ public:
 
     /// Reads the palette file if it is needed and was not read yet. A file that cannot be read leaves the palette
     /// without colours, and the settings say why.
-    void contribute(FractalSettings& settings, PoolPtr const& pool) override;
+    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
     /// Reads the palette file, also once more, and chooses the palette "From file" in the pool. Where it cannot be read
     /// the host is warned, and the choice stays as it is.
-    void run(PoolPtr const& pool) override;
+    void run(Kolt::PoolPtr const& pool) override;
 
 private:
-    QString paletteFile(PoolPtr const& pool) const;
+    QString paletteFile(Kolt::PoolPtr const& pool) const;
     /// Reads a file and remembers its colours, or why there are none. Whether there are.
     bool readPalette(QString const& file);
-    void chooseFilePalette(PoolPtr const& pool);
+    void chooseFilePalette(Kolt::PoolPtr const& pool);
 
     // The file that the colours, or the problem, are of.
     QString paletteFile_;

@@ -9,7 +9,7 @@ bool ComputingNetwork::computes() const {
     return !all<FormulaObject>().empty();
 }
 
-FractalSettings ComputingNetwork::settings(PoolPtr const& pool) const {
+FractalSettings ComputingNetwork::settings(Kolt::PoolPtr const& pool) const {
     FractalSettings settings;
     for (auto* const object : all<ComputingObject>())
         object->contribute(settings, pool);

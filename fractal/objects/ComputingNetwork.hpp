@@ -13,7 +13,7 @@ public:
     /// Whether there is something to compute: a formula.
     bool computes() const;
     /// What all objects say together, in a pool, within the ranges.
-    FractalSettings settings(PoolPtr const& pool) const;
+    FractalSettings settings(Kolt::PoolPtr const& pool) const;
 
     /// The objects of a class, in the order of the network. They live as long as the network does.
     template <typename T>

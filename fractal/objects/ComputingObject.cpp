@@ -10,15 +10,12 @@ bool ComputingObject::shapesPicture() const {
     return true;
 }
 
-Tessera::StrongPtr<Kolt::VValueBase> ComputingObject::value(char const* parameter, PoolPtr const& pool) const {
-    return heldValue(findParameter(parameter), pool);
+Kolt::ValuePtr ComputingObject::value(char const* parameter, Kolt::PoolPtr const& pool) const {
+    return effectiveValue(findParameter(parameter), pool);
 }
 
-Tessera::StrongPtr<Kolt::VValueBase> heldValue(Kolt::ParameterPtr const& parameter, PoolPtr const& pool) {
-    if (!parameter)
-        return nullptr;
-    auto const local = parameter->getLocalValue(pool, std::string(), false);
-    return local ? local : parameter->ownValue();
+Kolt::ValuePtr effectiveValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool) {
+    return parameter ? parameter->effectiveValue(pool) : nullptr;
 }
 
 } // namespace Fractal

@@ -5,8 +5,6 @@
 
 namespace Fractal {
 
-using PoolPtr = Tessera::StrongPtr<Kolt::ValuePool>;
-
 /// An object that has a part in computing a picture. It finds its parameters by their names and reads what they hold at
 /// the moment; a parameter that is missing, or of another type than expected, leaves what is used where a network says
 /// nothing. User-interface thread. Prints nothing.
@@ -16,35 +14,35 @@ public:
     ~ComputingObject() override;
 
     /// Puts what the object's parameters hold in a pool into the settings.
-    virtual void contribute(FractalSettings& settings, PoolPtr const& pool) = 0;
+    virtual void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) = 0;
     /// Whether the object's parameters change what a picture looks like.
     virtual bool shapesPicture() const;
 
 protected:
     /// The value that one of the object's parameters has in the pool, or behind the pool; null when there is none.
-    Tessera::StrongPtr<Kolt::VValueBase> value(char const* parameter, PoolPtr const& pool) const;
+    Kolt::ValuePtr value(char const* parameter, Kolt::PoolPtr const& pool) const;
 
     /// The T that a parameter holds.
     template <typename T>
-    T read(char const* parameter, PoolPtr const& pool, T const& otherwise) const {
+    T read(char const* parameter, Kolt::PoolPtr const& pool, T const& otherwise) const {
         return Kolt::valueOr(value(parameter, pool), otherwise);
     }
     /// What a parameter of the type T holds, as text; empty where it does not hold a T.
     template <typename T>
-    QString readText(char const* parameter, PoolPtr const& pool) const {
+    QString readText(char const* parameter, Kolt::PoolPtr const& pool) const {
         auto const found = value(parameter, pool);
         auto const* const typed = dynamic_cast<Kolt::VTypedValueBase<T> const*>(found.get());
         return typed ? QString::fromStdString(typed->Text()) : QString();
     }
 };
 
-/// The value that holds for a parameter in a pool: the pool's, else the parameter's own; null for a null parameter.
-Tessera::StrongPtr<Kolt::VValueBase> heldValue(Kolt::ParameterPtr const& parameter, PoolPtr const& pool);
+/// The value object that is effective in a pool; null for a null parameter.
+Kolt::ValuePtr effectiveValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
 
 /// Writes a value as the host does: everybody is told, and the age stamp is renewed. Nothing happens for a parameter
 /// that is null or of another type.
 template <typename T>
-void writeValue(Kolt::ParameterPtr const& parameter, PoolPtr const& pool, T const& value) {
+void writeValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool, T const& value) {
     if (parameter && Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr))
         Kolt::markValueChanged(*parameter, pool);
 }

@@ -6,7 +6,7 @@ ExporterObject::ExporterObject(std::string const& name) : ComputingObject(name) 
 
 ExporterObject::~ExporterObject() = default;
 
-void ExporterObject::contribute(FractalSettings& settings, PoolPtr const& pool) {
+void ExporterObject::contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) {
     settings.width = read("width", pool, settings.width);
 }
 
@@ -14,11 +14,11 @@ bool ExporterObject::shapesPicture() const {
     return false;
 }
 
-void ExporterObject::run(PoolPtr const& pool) {
+void ExporterObject::run(Kolt::PoolPtr const& pool) {
     Tessera::StrongPtr<Kolt::VSlot> latest;
     unsigned long latestAge = 0;
     for (auto const& slot : slotList()) {
-        auto const value = heldValue(slot->parameter(), pool);
+        auto const value = effectiveValue(slot->parameter(), pool);
         unsigned long const age = value ? value->age() : 0;
         if (age > latestAge && age > servedAges_[slot->Name()]) {
             latest = slot;
@@ -28,7 +28,7 @@ void ExporterObject::run(PoolPtr const& pool) {
     if (!latest)
         return;
     servedAges_[latest->Name()] = latestAge;
-    auto const file = QString::fromStdString(Kolt::valueOr(heldValue(latest->parameter(), pool), std::string()));
+    auto const file = QString::fromStdString(Kolt::valueOr(effectiveValue(latest->parameter(), pool), std::string()));
     if (file.isEmpty() || !writer_)
         return;
     if (latest->Name() == "write picture")

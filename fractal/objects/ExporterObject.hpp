@@ -12,17 +12,17 @@ class ExporterObject : public ComputingObject {
 public:
     enum class Format { Png, Pdf };
     /// Called to write a picture of a pool to a file whose name is not empty.
-    using Writer = std::function<void(Format format, QString const& file, PoolPtr const& pool)>;
+    using Writer = std::function<void(Format format, QString const& file, Kolt::PoolPtr const& pool)>;
 
     explicit ExporterObject(std::string const& name);
     ~ExporterObject() override;
 
-    void contribute(FractalSettings& settings, PoolPtr const& pool) override;
+    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
     bool shapesPicture() const override;
     /// Writes the file that was chosen last. A run does not tell which slot it is for, but choosing a file, the same
     /// one included, renews its age stamp; so it is the slot with the latest one that no run was for yet. Nothing
     /// happens when there is none.
-    void run(PoolPtr const& pool) override;
+    void run(Kolt::PoolPtr const& pool) override;
 
     /// Who writes; an empty function writes nothing.
     void setWriter(Writer writer) { writer_ = std::move(writer); }

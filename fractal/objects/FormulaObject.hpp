@@ -12,7 +12,7 @@ public:
     explicit FormulaObject(std::string const& name);
     ~FormulaObject() override;
 
-    void contribute(FractalSettings& settings, PoolPtr const& pool) override;
+    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
 };
 
 } // namespace Fractal

@@ -11,7 +11,7 @@ public:
     explicit LayersObject(std::string const& name);
     ~LayersObject() override;
 
-    void contribute(FractalSettings& settings, PoolPtr const& pool) override;
+    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
 };
 
 } // namespace Fractal

@@ -5,7 +5,7 @@ namespace Fractal {
 ParameterWatch::ParameterWatch(QObject* parent) : QObject(parent) {}
 
 ParameterWatch::~ParameterWatch() {
-    leaveDelivery();
+    stopNotifications();
 }
 
 void ParameterWatch::watch(Kolt::ParameterPtr const& parameter) {
@@ -13,13 +13,12 @@ void ParameterWatch::watch(Kolt::ParameterPtr const& parameter) {
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
 }
 
-void ParameterWatch::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
-                                   Kolt::ValueMap const*) {
+void ParameterWatch::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) {
     if (!isWaiting_.exchange(true))
-        QMetaObject::invokeMethod(this, &ParameterWatch::tell, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &ParameterWatch::notify, Qt::QueuedConnection);
 }
 
-void ParameterWatch::tell() {
+void ParameterWatch::notify() {
     isWaiting_ = false;
     emit changed();
 }

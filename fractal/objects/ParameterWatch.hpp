@@ -25,9 +25,9 @@ signals:
     void changed();
 
 private:
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+    void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
-    void tell();
+    void notify();
 
     std::atomic<bool> isWaiting_{false};
 };

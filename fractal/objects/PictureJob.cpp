@@ -6,10 +6,10 @@ namespace Fractal {
 
 using Format = ExporterObject::Format;
 
-PictureJob::PictureJob(ComputingNetwork const& network, PoolPtr const& pool)
+PictureJob::PictureJob(ComputingNetwork const& network, Kolt::PoolPtr const& pool)
     : PictureJob(network, pool, QString(), Format::Png) {}
 
-PictureJob::PictureJob(ComputingNetwork const& network, PoolPtr const& pool, QString file, Format format)
+PictureJob::PictureJob(ComputingNetwork const& network, Kolt::PoolPtr const& pool, QString file, Format format)
     : pool_(pool),
       file_(std::move(file)),
       format_(format),

@@ -18,9 +18,9 @@ public:
     static constexpr auto CancelLink = "cancel";
 
     /// A picture to be looked at.
-    PictureJob(ComputingNetwork const& network, PoolPtr const& pool);
+    PictureJob(ComputingNetwork const& network, Kolt::PoolPtr const& pool);
     /// A picture to be written.
-    PictureJob(ComputingNetwork const& network, PoolPtr const& pool, QString file, ExporterObject::Format format);
+    PictureJob(ComputingNetwork const& network, Kolt::PoolPtr const& pool, QString file, ExporterObject::Format format);
     ~PictureJob() override;
 
     void run(Worker& worker) override;
@@ -28,7 +28,7 @@ public:
     void writeStatus(QString const& text) const;
 
     bool isToBeWritten() const { return !file_.isEmpty(); }
-    PoolPtr const& pool() const { return pool_; }
+    Kolt::PoolPtr const& pool() const { return pool_; }
     /// What the job is about, for people.
     QString const& title() const { return title_; }
     /// How much is computed. Any thread.
@@ -49,7 +49,7 @@ public:
 private:
     QString summaryOf(FractalPoints const& points, double seconds) const;
 
-    PoolPtr const pool_;
+    Kolt::PoolPtr const pool_;
     QString const file_;
     ExporterObject::Format const format_;
     QString const title_;

@@ -7,7 +7,7 @@ RenderObject::RenderObject(std::string const& name) : ComputingObject(name) {}
 
 RenderObject::~RenderObject() = default;
 
-void RenderObject::contribute(FractalSettings&, PoolPtr const&) {}
+void RenderObject::contribute(FractalSettings&, Kolt::PoolPtr const&) {}
 
 bool RenderObject::shapesPicture() const {
     return false;
@@ -17,7 +17,7 @@ bool RenderObject::isStart(Kolt::ParameterPtr const& parameter) const {
     return parameter && parameter == findParameter("start");
 }
 
-void RenderObject::tellProgress(QString const& text, PoolPtr const& pool) const {
+void RenderObject::tellProgress(QString const& text, Kolt::PoolPtr const& pool) const {
     writeValue(findParameter("progress"), pool, Kolt::info{text.toStdString()});
 }
 

@@ -12,13 +12,13 @@ public:
     ~RenderObject() override;
 
     /// Adds nothing.
-    void contribute(FractalSettings& settings, PoolPtr const& pool) override;
+    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
     bool shapesPicture() const override;
 
     /// Whether firing the parameter's action starts the computing.
     bool isStart(Kolt::ParameterPtr const& parameter) const;
     /// Tells in `progress` what was computed.
-    void tellProgress(QString const& text, PoolPtr const& pool) const;
+    void tellProgress(QString const& text, Kolt::PoolPtr const& pool) const;
 };
 
 } // namespace Fractal

@@ -3,7 +3,7 @@
 
 namespace Fractal {
 
-StatusReport::StatusReport(RenderObject const* object, PoolPtr const& pool)
+StatusReport::StatusReport(RenderObject const* object, Kolt::PoolPtr const& pool)
     : parameter_(object ? object->findParameter("status") : nullptr), pool_(pool) {
     // The pool's values may be asked for on this thread alone, so the worker is given the value itself.
     if (parameter_)

@@ -10,15 +10,15 @@ public:
     /// Reports nothing.
     StatusReport() = default;
     /// A null object, and one without a status, reports nothing.
-    StatusReport(RenderObject const* object, PoolPtr const& pool);
+    StatusReport(RenderObject const* object, Kolt::PoolPtr const& pool);
 
     /// Stores a status, which may be rich text, and tells everybody who shows it.
     void write(QString const& text) const;
 
 private:
     Kolt::ParameterPtr parameter_;
-    Tessera::StrongPtr<Kolt::VValueBase> value_;
-    PoolPtr pool_;
+    Kolt::ValuePtr value_;
+    Kolt::PoolPtr pool_;
 };
 
 } // namespace Fractal

@@ -21,7 +21,7 @@ FractalController::FractalController(QObject* parent)
     connect(preview_, &Preview::pictureSizeChanged, previewRenderer_,
             [this] { previewRenderer_->setSize(preview_->pictureSize()); });
     connect(previewRenderer_, &PreviewRenderer::pictureChanged, this, &FractalController::showPicture);
-    connect(renderQueue_, &RenderQueue::told, this, &FractalController::told);
+    connect(renderQueue_, &RenderQueue::reported, this, &FractalController::reported);
     connect(renderQueue_, &RenderQueue::computed, this, &FractalController::keepComputed);
     showPicture();
 }
@@ -35,7 +35,7 @@ QAction* FractalController::previewAction() const {
     return dock_->toggleViewAction();
 }
 
-void FractalController::showNetwork(Talo::Network* network, PoolPtr const& pool) {
+void FractalController::showNetwork(Talo::Network* network, Kolt::PoolPtr const& pool) {
     pool_ = pool;
     renderQueue_->setNetwork(network);
     previewRenderer_->setNetwork(nullptr);
@@ -44,12 +44,13 @@ void FractalController::showNetwork(Talo::Network* network, PoolPtr const& pool)
     dock_->setVisible(isWanted_ && previewRenderer_->computes());
 }
 
-void FractalController::choosePool(PoolPtr const& pool) {
+void FractalController::choosePool(Kolt::PoolPtr const& pool) {
     pool_ = pool;
     previewRenderer_->setPool(pool);
 }
 
-bool FractalController::fire(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, PoolPtr const& pool) {
+bool FractalController::fire(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,
+                             Kolt::PoolPtr const& pool) {
     auto const* const render = dynamic_cast<RenderObject const*>(object.get());
     if (!render || !render->isStart(parameter))
         return false;
@@ -73,7 +74,7 @@ void FractalController::followLink(QString const& link) {
     if (renderQueue_->isComputing())
         renderQueue_->cancel();
     else
-        renderQueue_->tellIdle(pool_);
+        renderQueue_->reportIdle(pool_);
 }
 
 void FractalController::showPicture() {
@@ -82,7 +83,7 @@ void FractalController::showPicture() {
                                                          : tr("Nothing in this network computes a picture."));
 }
 
-void FractalController::keepComputed(QImage const& image, PoolPtr const& pool) {
+void FractalController::keepComputed(QImage const& image, Kolt::PoolPtr const& pool) {
     if (pool == pool_ && previewRenderer_->changes() == changesAtStart_ && previewRenderer_->isAtRest())
         previewRenderer_->showFinished(image);
 }

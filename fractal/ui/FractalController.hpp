@@ -20,12 +20,12 @@ public:
     /// Shows a network and the values of a pool, in place of another one; null takes the network away, which must be
     /// done before it goes, and ends all computing. The preview is shown for a network that computes a picture, unless
     /// the user closed it.
-    void showNetwork(Talo::Network* network, PoolPtr const& pool);
-    void choosePool(PoolPtr const& pool);
+    void showNetwork(Talo::Network* network, Kolt::PoolPtr const& pool);
+    void choosePool(Kolt::PoolPtr const& pool);
 
     /// Starts to compute the picture of a pool if that is what the action of an object's parameter is for; says whether
     /// it is.
-    bool fire(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, PoolPtr const& pool);
+    bool fire(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
     /// Lets the links in a status be followed. `editor` is the editor of the parameter; of any other parameter, and
     /// where it has no label, nothing happens.
     void followLinks(Kolt::ParameterPtr const& parameter, QWidget* editor);
@@ -44,12 +44,12 @@ public:
 
 signals:
     /// Something was done that the user should read of.
-    void told(QString const& text);
+    void reported(QString const& text);
 
 private:
     void followLink(QString const& link);
     void showPicture();
-    void keepComputed(QImage const& image, PoolPtr const& pool);
+    void keepComputed(QImage const& image, Kolt::PoolPtr const& pool);
 
     PreviewRenderer* const previewRenderer_;
     RenderQueue* const renderQueue_;
@@ -58,7 +58,7 @@ private:
     QPointer<QWidget> const bar_;
     // Whether the user wants to see the preview where there is one.
     bool isWanted_ = true;
-    PoolPtr pool_;
+    Kolt::PoolPtr pool_;
     // The preview's changes at the last start, so that an outdated picture does not take its place.
     unsigned long changesAtStart_ = 0;
 };

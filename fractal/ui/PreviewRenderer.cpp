@@ -71,7 +71,7 @@ void PreviewRenderer::setNetwork(Talo::Network const* network) {
     change();
 }
 
-void PreviewRenderer::setPool(PoolPtr const& pool) {
+void PreviewRenderer::setPool(Kolt::PoolPtr const& pool) {
     pool_ = pool;
     change();
 }

@@ -21,7 +21,7 @@ public:
 
     /// The network, which must be taken away, by null, before it goes.
     void setNetwork(Talo::Network const* network);
-    void setPool(PoolPtr const& pool);
+    void setPool(Kolt::PoolPtr const& pool);
     /// The size of the fine picture, in points of the device; without any, as where nobody looks, nothing is made.
     void setSize(QSize const& size);
 
@@ -58,7 +58,7 @@ private:
 
     std::unique_ptr<ComputingNetwork> network_;
     std::unique_ptr<ParameterWatch> watch_;
-    PoolPtr pool_;
+    Kolt::PoolPtr pool_;
     QSize size_;
     QTimer restTimer_;
     unsigned long changes_ = 0;

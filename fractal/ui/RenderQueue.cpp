@@ -21,8 +21,8 @@ void RenderQueue::setNetwork(Talo::Network* network) {
         connect(worker_.get(), &Worker::done, this, &RenderQueue::take);
         connect(worker_.get(), &Worker::progressed, this, &RenderQueue::progressed);
         for (auto* const exporter : network_->all<ExporterObject>())
-            exporter->setWriter([renderQueue = QPointer<RenderQueue>(this)](ExporterObject::Format format,
-                                                                            QString const& file, PoolPtr const& pool) {
+            exporter->setWriter([renderQueue = QPointer<RenderQueue>(this)](
+                                    ExporterObject::Format format, QString const& file, Kolt::PoolPtr const& pool) {
                 if (renderQueue)
                     renderQueue->write(format, file, pool);
             });
@@ -31,7 +31,7 @@ void RenderQueue::setNetwork(Talo::Network* network) {
         emit progressed();
 }
 
-void RenderQueue::start(PoolPtr const& pool) {
+void RenderQueue::start(Kolt::PoolPtr const& pool) {
     if (!network_ || !network_->computes())
         return;
     for (auto const& job : jobs_) {
@@ -43,7 +43,7 @@ void RenderQueue::start(PoolPtr const& pool) {
     post(std::make_shared<PictureJob>(*network_, pool));
 }
 
-void RenderQueue::write(ExporterObject::Format format, QString const& file, PoolPtr const& pool) {
+void RenderQueue::write(ExporterObject::Format format, QString const& file, Kolt::PoolPtr const& pool) {
     if (!network_)
         return;
     if (!network_->computes()) {
@@ -59,7 +59,7 @@ void RenderQueue::cancel() {
         worker_->cancel();
 }
 
-void RenderQueue::tellIdle(PoolPtr const& pool) {
+void RenderQueue::reportIdle(Kolt::PoolPtr const& pool) {
     if (!network_)
         return;
     for (auto const* const object : network_->all<RenderObject>())
@@ -115,7 +115,7 @@ void RenderQueue::finish(PictureJob const& job) {
     if (!job.problem().isEmpty())
         Kolt::VActionNotifier::Warning(outcome.toStdString());
     else
-        emit told(outcome);
+        emit reported(outcome);
     if (!job.image().isNull() && !job.isToBeWritten())
         emit computed(job.image(), job.pool());
 }

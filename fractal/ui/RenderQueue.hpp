@@ -19,13 +19,13 @@ public:
     void setNetwork(Talo::Network* network);
 
     /// Computes the picture of a pool; one that is being computed to be looked at, and not to be written, is given up.
-    void start(PoolPtr const& pool);
+    void start(Kolt::PoolPtr const& pool);
     /// Computes the picture of a pool and writes it.
-    void write(ExporterObject::Format format, QString const& file, PoolPtr const& pool);
+    void write(ExporterObject::Format format, QString const& file, Kolt::PoolPtr const& pool);
     /// Gives up everything that is being computed.
     void cancel();
     /// Says in the status that nothing is being computed, for a network that was saved while something was.
-    void tellIdle(PoolPtr const& pool);
+    void reportIdle(Kolt::PoolPtr const& pool);
 
     bool isComputing() const { return !jobs_.empty(); }
     /// How much of the picture is computed, in percent; 0 while there is none.
@@ -37,9 +37,9 @@ signals:
     /// It began or ended to compute, or made progress.
     void progressed();
     /// A picture that was started, and not to be written, is computed.
-    void computed(QImage const& image, Fractal::PoolPtr const& pool);
+    void computed(QImage const& image, Kolt::PoolPtr const& pool);
     /// Something was done that the user should read of.
-    void told(QString const& text);
+    void reported(QString const& text);
 
 private:
     void post(std::shared_ptr<PictureJob> const& job);

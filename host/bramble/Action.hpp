@@ -10,7 +10,7 @@ namespace Kolt {
 class VAction : public Tessera::ReferenceBase<VAction> {
 public:
     /// What happens when the action is fired in a pool for a parameter; both may be null.
-    using Handler = std::function<void(Tessera::StrongPtr<ValuePool> const&, ParameterPtr const&)>;
+    using Handler = std::function<void(PoolPtr const&, ParameterPtr const&)>;
 
     explicit VAction(std::string name = {}, Handler handler = {});
     ~VAction() override;
@@ -18,7 +18,7 @@ public:
     std::string const& Name() const { return name_; }
     void setHandler(Handler handler) { handler_ = std::move(handler); }
     /// Calls the handler; without one nothing happens. The handler may delete anything, the action included.
-    void emitAction(Tessera::StrongPtr<ValuePool> const& pool, ParameterPtr const& parameter);
+    void emitAction(PoolPtr const& pool, ParameterPtr const& parameter);
 
 private:
     std::string name_;

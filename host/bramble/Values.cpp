@@ -37,7 +37,7 @@ VAction::VAction(std::string name, Handler handler) : name_(std::move(name)), ha
 
 VAction::~VAction() = default;
 
-void VAction::emitAction(Tessera::StrongPtr<ValuePool> const& pool, ParameterPtr const& parameter) {
+void VAction::emitAction(PoolPtr const& pool, ParameterPtr const& parameter) {
     // Copies, as the handler may replace itself and delete what the references belong to.
     auto const handler = handler_;
     auto const heldPool = pool;
@@ -145,14 +145,14 @@ namespace {
 
 /// Makes the value types of this library known while it loads.
 [[maybe_unused]] bool const known = [] {
-    provideValueCreator<Ferro::rgba_float_t>();
-    provideValueCreator<FlagList>();
-    provideValueCreator<info>();
-    provideValueCreator<VObjectStatus>();
-    provideValueCreator<Tessera::StrongPtr<VAction>>();
-    provideValueCreator<Enum>();
-    provideValueCreator<VStringList>();
-    provideValueCreator<VMultipleStringList>();
+    registerValueCreatorOnce<Ferro::rgba_float_t>();
+    registerValueCreatorOnce<FlagList>();
+    registerValueCreatorOnce<info>();
+    registerValueCreatorOnce<VObjectStatus>();
+    registerValueCreatorOnce<Tessera::StrongPtr<VAction>>();
+    registerValueCreatorOnce<Enum>();
+    registerValueCreatorOnce<VStringList>();
+    registerValueCreatorOnce<VMultipleStringList>();
     return true;
 }();
 

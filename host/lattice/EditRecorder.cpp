@@ -18,18 +18,18 @@ EditRecorder::EditRecorder(ParameterPtr const& parameter) : parameter_(parameter
 
 EditRecorder::~EditRecorder() = default;
 
-void EditRecorder::noteEdit(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
+void EditRecorder::noteEdit(ParameterPtr const& parameter, PoolPtr const& pool) {
     auto const before = held_.in(pool);
     // A pool that only got a copy of the parameter's own value counts as one without: the step after it takes both
     // back.
-    if (held_.holdsIn(*parameter, pool))
+    if (held_.isEffectiveIn(*parameter, pool))
         return;
     held_.refreshIn(*parameter, pool);
     UndoHistory::theHistory().record(ValueChange(parameter, pool, before, held_.in(pool)));
 }
 
-EditRecorder::Telling::Telling(std::shared_ptr<EditRecorder> recorder, Tessera::StrongPtr<ValuePool> const& pool,
-                               bool byInput)
+EditRecorder::NotificationScope::NotificationScope(std::shared_ptr<EditRecorder> recorder, PoolPtr const& pool,
+                                                   bool byInput)
     : recorder_(std::move(recorder)), byInput_(byInput) {
     auto const parameter = recorder_->parameter_.strong();
     bool const restores = UndoHistory::theHistory().isRestoring();
@@ -44,7 +44,7 @@ EditRecorder::Telling::Telling(std::shared_ptr<EditRecorder> recorder, Tessera::
         ++recorder_->hostWrites_;
 }
 
-EditRecorder::Telling::~Telling() {
+EditRecorder::NotificationScope::~NotificationScope() {
     if (!byInput_)
         --recorder_->hostWrites_;
 }

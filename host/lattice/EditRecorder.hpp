@@ -22,13 +22,13 @@ public:
     EditRecorder& operator=(EditRecorder const&) = delete;
 
     /// A change that is being told. The parameter makes one before it tells and keeps it until everybody was told.
-    class Telling {
+    class NotificationScope {
     public:
         /// The change is stored already. The history's listener may have deleted the parameter afterwards.
-        Telling(std::shared_ptr<EditRecorder> recorder, Tessera::StrongPtr<ValuePool> const& pool, bool byInput);
-        ~Telling();
-        Telling(Telling const&) = delete;
-        Telling& operator=(Telling const&) = delete;
+        NotificationScope(std::shared_ptr<EditRecorder> recorder, PoolPtr const& pool, bool byInput);
+        ~NotificationScope();
+        NotificationScope(NotificationScope const&) = delete;
+        NotificationScope& operator=(NotificationScope const&) = delete;
 
         bool parameterLives() const { return recorder_->parameter_.alive(); }
 
@@ -39,9 +39,9 @@ public:
 
 private:
     explicit EditRecorder(ParameterPtr const& parameter);
-    void noteEdit(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool);
+    void noteEdit(ParameterPtr const& parameter, PoolPtr const& pool);
 
-    Tessera::WeakPtr<VParameter, ValueNotifierList> const parameter_;
+    ParameterRef const parameter_;
     ValueSnapshot held_;
     // How many writes of the host are being told.
     int hostWrites_ = 0;

@@ -9,16 +9,16 @@ namespace Kolt {
 class VInputBase : public ValueNotifier {
 public:
     /// The owner is held weakly and may be gone already.
-    explicit VInputBase(Tessera::WeakPtr<VParameter, ValueNotifierList> const& owner);
+    explicit VInputBase(ParameterRef const& owner);
     ~VInputBase() override;
 
     /// From now on the owner's changes are delivered to the input. Nothing happens where the owner is gone.
     void activateNotification() const;
     /// The edited parameter, which may be gone.
-    Tessera::WeakPtr<VParameter, ValueNotifierList> const& owner() const { return owner_; }
+    ParameterRef const& owner() const { return owner_; }
 
 private:
-    Tessera::WeakPtr<VParameter, ValueNotifierList> const owner_;
+    ParameterRef const owner_;
 };
 
 /// An input for values of type T.
@@ -28,13 +28,13 @@ public:
     using VInputBase::VInputBase;
 
     /// Takes the value that the owner has in the pool, without creating one. False where there is none of type T.
-    virtual bool fetchValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member) = 0;
+    virtual bool fetchValue(PoolPtr const& pool, std::string const& member) = 0;
     /// Writes a value and tells the owner's other notifiers. False when it was not accepted.
-    virtual bool setValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T const& newValue,
+    virtual bool setValue(PoolPtr const& pool, std::string const& member, T const& newValue,
                           ValueNotifierList const* alsoNotify) = 0;
     /// Reads the value that the owner has in the pool, creating it if it is missing. False where there is none of
     /// type T.
-    virtual bool getValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member, T& out) = 0;
+    virtual bool getValue(PoolPtr const& pool, std::string const& member, T& out) = 0;
 };
 
 } // namespace Kolt

@@ -21,7 +21,7 @@ public:
     std::string const& apiKey() const { return apiKey_; }
 
     /// Whether the creator can serve a parameter of its type. Yes, unless a derived class is choosy.
-    virtual bool suits(VParameter const& parameter) const;
+    virtual bool supports(VParameter const& parameter) const;
     /// The creator in a few words, for people: its name and preferences.
     virtual std::string describe() const;
 

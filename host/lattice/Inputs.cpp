@@ -54,7 +54,7 @@ std::string preferenceText(VCreationPreferences::Names const& names) {
     return text;
 }
 
-VInputBase::VInputBase(Tessera::WeakPtr<VParameter, ValueNotifierList> const& owner) : owner_(owner) {}
+VInputBase::VInputBase(ParameterRef const& owner) : owner_(owner) {}
 
 VInputBase::~VInputBase() = default;
 
@@ -71,7 +71,7 @@ VInputCreatorBase::VInputCreatorBase(std::string const& name, int priority, Pref
 
 VInputCreatorBase::~VInputCreatorBase() = default;
 
-bool VInputCreatorBase::suits(VParameter const&) const {
+bool VInputCreatorBase::supports(VParameter const&) const {
     return true;
 }
 
@@ -167,7 +167,7 @@ InputChoice InputRegistry::choose(std::string const& valueType, VCreationPrefere
     int count = 0;
     for (auto const& candidate : candidates) {
         auto const creator = candidate.strong();
-        if (!creator || (parameter && !creator->suits(*parameter)))
+        if (!creator || (parameter && !creator->supports(*parameter)))
             continue;
         auto const& preferences = *creator->preferences();
         auto const shared = static_cast<std::size_t>(

@@ -17,7 +17,7 @@ public:
 
 private:
     std::string name_;
-    Tessera::WeakPtr<VParameter, ValueNotifierList> parameter_;
+    ParameterRef parameter_;
 };
 
 /// Something with slots, which it owns.
@@ -49,7 +49,7 @@ public:
     std::vector<ParameterPtr> const& parameters() const { return parameters_; }
 
     /// The object's work, in a pool, which may be null. Called by the scheduler. Does nothing.
-    virtual void run(Tessera::StrongPtr<ValuePool> const& pool);
+    virtual void run(PoolPtr const& pool);
 
 private:
     std::vector<ParameterPtr> parameters_;

@@ -29,7 +29,7 @@ std::vector<Managed>& managedObjects() {
 
 struct Waiting {
     Tessera::WeakPtr<VObject, VManagedObjectBase> object;
-    Tessera::StrongPtr<ValuePool> pool;
+    PoolPtr pool;
 };
 
 struct Queue {
@@ -141,9 +141,9 @@ ParameterPtr VObject::findParameter(std::string const& name) const {
     return found == parameters_.end() ? nullptr : *found;
 }
 
-void VObject::run(Tessera::StrongPtr<ValuePool> const&) {}
+void VObject::run(PoolPtr const&) {}
 
-void VScheduler::schedule(ObjectPtr const& object, double time, Tessera::StrongPtr<ValuePool> const& pool) {
+void VScheduler::schedule(ObjectPtr const& object, double time, PoolPtr const& pool) {
     if (!object)
         return;
     // Not a number cannot be ordered; it is as due as the past.

@@ -6,8 +6,7 @@
 
 namespace Kolt {
 
-VParameter::VParameter(std::string name, Tessera::StrongPtr<VValueBase> const& ownValue, Values values,
-                       std::string declaredType)
+VParameter::VParameter(std::string name, ValuePtr const& ownValue, Values values, std::string declaredType)
     : name_(std::move(name)),
       ownValue_(ownValue),
       values_(values),
@@ -15,15 +14,14 @@ VParameter::VParameter(std::string name, Tessera::StrongPtr<VValueBase> const& o
 
 VParameter::~VParameter() = default;
 
-Tessera::StrongPtr<VValueBase>* VParameter::findLocalValue(Tessera::StrongPtr<ValuePool> const& pool) const {
+ValuePtr* VParameter::findLocalValue(PoolPtr const& pool) const {
     Tessera::WeakPtr<ValuePool> const key(pool);
     auto const found =
         std::find_if(localValues_.begin(), localValues_.end(), [&](auto const& local) { return local.pool == key; });
     return found == localValues_.end() ? nullptr : &found->value;
 }
 
-void VParameter::putLocalValue(Tessera::StrongPtr<ValuePool> const& pool,
-                               Tessera::StrongPtr<VValueBase> const& value) const {
+void VParameter::putLocalValue(PoolPtr const& pool, ValuePtr const& value) const {
     if (auto* const found = findLocalValue(pool)) {
         *found = value;
         return;
@@ -34,8 +32,7 @@ void VParameter::putLocalValue(Tessera::StrongPtr<ValuePool> const& pool,
     localValues_.push_back({pool, value});
 }
 
-Tessera::StrongPtr<VValueBase> VParameter::getLocalValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const&,
-                                                         bool create) const {
+ValuePtr VParameter::getLocalValue(PoolPtr const& pool, std::string const&, bool create) const {
     if (!keepsValuesPerPool())
         return ownValue_;
     if (!pool)
@@ -49,7 +46,12 @@ Tessera::StrongPtr<VValueBase> VParameter::getLocalValue(Tessera::StrongPtr<Valu
     return value;
 }
 
-Tessera::StrongPtr<VValueBase> VParameter::freshLocalValue(Tessera::StrongPtr<ValuePool> const& pool) const {
+ValuePtr VParameter::effectiveValue(PoolPtr const& pool) const {
+    auto const* const local = pool && keepsValuesPerPool() ? findLocalValue(pool) : nullptr;
+    return local ? *local : ownValue_;
+}
+
+ValuePtr VParameter::freshLocalValue(PoolPtr const& pool) const {
     if (!pool || !keepsValuesPerPool())
         return nullptr;
     auto const value = VValueCreator::create(declaredType_);
@@ -58,20 +60,20 @@ Tessera::StrongPtr<VValueBase> VParameter::freshLocalValue(Tessera::StrongPtr<Va
     return value;
 }
 
-void VParameter::removeLocalValue(Tessera::StrongPtr<ValuePool> const& pool) {
+void VParameter::removeLocalValue(PoolPtr const& pool) {
     Tessera::WeakPtr<ValuePool> const key(pool);
     localValues_.erase(
         std::remove_if(localValues_.begin(), localValues_.end(), [&](auto const& local) { return local.pool == key; }),
         localValues_.end());
 }
 
-void VParameter::setLocalValue(Tessera::StrongPtr<ValuePool> const& pool, Tessera::StrongPtr<VValueBase> const& value) {
+void VParameter::setLocalValue(PoolPtr const& pool, ValuePtr const& value) {
     if (pool && value && keepsValuesPerPool())
         putLocalValue(pool, value);
 }
 
-std::vector<Tessera::StrongPtr<ValuePool>> VParameter::poolsWithValue() const {
-    std::vector<Tessera::StrongPtr<ValuePool>> pools;
+std::vector<PoolPtr> VParameter::poolsWithValue() const {
+    std::vector<PoolPtr> pools;
     for (auto const& local : localValues_)
         if (auto const pool = local.pool.strong())
             pools.push_back(pool);
@@ -84,27 +86,26 @@ void VParameter::rememberDefaults() {
 
 void VParameter::selectMember(std::string const&) const {}
 
-void VParameter::notifyValueChange(Tessera::StrongPtr<VValueBase> const& value,
-                                   Tessera::StrongPtr<ValuePool> const& pool, std::string const&,
+void VParameter::notifyValueChange(ValuePtr const& value, PoolPtr const& pool, std::string const&,
                                    Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                                    ValueMap const* values) const {
-    if (nobodyListens() && !alsoNotify && recorder_.expired())
+    if (!hasListeners() && !alsoNotify && recorder_.expired())
         return;
     // Held here, as the caller's reference may be a part of what dies on the way.
     auto const live = value;
     VContext const context(pool, nullptr);
     auto recorder = values ? nullptr : recorder_.lock();
     if (!recorder) {
-        tell(source, alsoNotify, live, context, values);
+        notify(source, alsoNotify, live, context, values);
         return;
     }
-    EditRecorder::Telling const telling(std::move(recorder), context.pool(), source.alive());
+    EditRecorder::NotificationScope const scope(std::move(recorder), context.pool(), source.alive());
     // The recorded step may have been the end of the parameter.
-    if (telling.parameterLives())
-        tell(source, alsoNotify, live, context, values);
+    if (scope.parameterLives())
+        notify(source, alsoNotify, live, context, values);
 }
 
-void VParameter::setProperty(std::string const& name, Tessera::StrongPtr<VValueBase> const& value,
+void VParameter::setProperty(std::string const& name, ValuePtr const& value,
                              Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                              Tessera::WeakPtr<ValuePool> const& pool) {
     if (!properties_)
@@ -113,17 +114,15 @@ void VParameter::setProperty(std::string const& name, Tessera::StrongPtr<VValueB
 
     auto const properties = properties_;
     auto const context = pool.strong();
-    auto const local = getLocalValue(context, std::string(), false);
-    notifyValueChange(local ? local : ownValue_, context, std::string(), source, alsoNotify, properties.get());
+    notifyValueChange(effectiveValue(context), context, std::string(), source, alsoNotify, properties.get());
 }
 
 void VParameter::AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight) {
-    UndoHistory::theHistory().add(action, weight, Tessera::WeakPtr<VParameter, ValueNotifierList>(this));
+    UndoHistory::theHistory().add(action, weight, ParameterRef(this));
 }
 
-void markValueChanged(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
-    auto const local = parameter.getLocalValue(pool, std::string(), false);
-    (local ? local : parameter.ownValue())->renewAge();
+void markValueChanged(VParameter const& parameter, PoolPtr const& pool) {
+    parameter.effectiveValue(pool)->renewAge();
 }
 
 } // namespace Kolt

@@ -9,6 +9,11 @@
 namespace Kolt {
 
 class EditRecorder;
+class VParameter;
+
+using ParameterPtr = Tessera::StrongPtr<VParameter, ValueNotifierList>;
+/// A reference that does not keep the parameter alive.
+using ParameterRef = Tessera::WeakPtr<VParameter, ValueNotifierList>;
 
 /// A named, typed parameter of some object. It holds one value object of its own and, where it keeps values per pool,
 /// one more for each pool that has its own value. It is also the list of those told when the value changes.
@@ -27,7 +32,7 @@ public:
     /// `ownValue` is the value object that the parameter itself holds; it must not be null. The declared type is that
     /// of the value unless `declaredType` (a readable type name, Tessera::Typename) says otherwise: the editor is
     /// chosen by the declared type, and fresh values are made of it.
-    VParameter(std::string name, Tessera::StrongPtr<VValueBase> const& ownValue, Values values = Values::Shared,
+    VParameter(std::string name, ValuePtr const& ownValue, Values values = Values::Shared,
                std::string declaredType = {});
     ~VParameter() override;
 
@@ -37,23 +42,24 @@ public:
     std::string const& declaredType() const { return declaredType_; }
 
     /// The value object that the parameter itself holds.
-    Tessera::StrongPtr<VValueBase> const& ownValue() const { return ownValue_; }
+    ValuePtr const& ownValue() const { return ownValue_; }
     bool keepsValuesPerPool() const { return values_ == Values::PerPool; }
     /// The value object of a pool. A parameter with one value gives its own object for every pool, also for a null
     /// one. One that keeps values per pool gives the pool's object; where the pool has none, null, or with `create` a
     /// new object copied from the own value; for a null pool null. The member is not used.
-    Tessera::StrongPtr<VValueBase> getLocalValue(Tessera::StrongPtr<ValuePool> const& pool, std::string const& member,
-                                                 bool create) const;
+    ValuePtr getLocalValue(PoolPtr const& pool, std::string const& member, bool create) const;
+    /// The value object that is effective in a pool: the pool's where it has one, else the parameter's own. Never null.
+    ValuePtr effectiveValue(PoolPtr const& pool) const;
     /// Replaces the pool's object by a new one of the declared type and gives it. Null, and nothing replaced, for a
     /// null pool, a parameter with one value, or a type that nobody can create.
-    Tessera::StrongPtr<VValueBase> freshLocalValue(Tessera::StrongPtr<ValuePool> const& pool) const;
+    ValuePtr freshLocalValue(PoolPtr const& pool) const;
     /// Takes the pool's object away, so that the pool has none. Tells nobody.
-    void removeLocalValue(Tessera::StrongPtr<ValuePool> const& pool);
+    void removeLocalValue(PoolPtr const& pool);
     /// Makes `value` the pool's object, in place of the one that it has. Tells nobody. Nothing happens for a null pool,
     /// a null value and a parameter with one value.
-    void setLocalValue(Tessera::StrongPtr<ValuePool> const& pool, Tessera::StrongPtr<VValueBase> const& value);
+    void setLocalValue(PoolPtr const& pool, ValuePtr const& value);
     /// The living pools that have an object of their own.
-    std::vector<Tessera::StrongPtr<ValuePool>> poolsWithValue() const;
+    std::vector<PoolPtr> poolsWithValue() const;
 
     /// From now on what the parameter holds, itself and in its pools, is its default.
     void rememberDefaults();
@@ -68,17 +74,16 @@ public:
     /// Tells everybody in the list but `source`, in order of registration, that the value changed, then the members of
     /// `alsoNotify` that were not told yet, `source` included if it stands there. `value` is the live value object.
     /// The parameter may die on the way.
-    void notifyValueChange(Tessera::StrongPtr<VValueBase> const& value, Tessera::StrongPtr<ValuePool> const& pool,
-                           std::string const& member, Tessera::WeakPtr<ValueNotifier> const& source,
-                           ValueNotifierList const* alsoNotify, ValueMap const* values) const;
+    void notifyValueChange(ValuePtr const& value, PoolPtr const& pool, std::string const& member,
+                           Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
+                           ValueMap const* values) const;
 
     /// The properties; null as long as none was ever set.
     ValueMap const* properties() const { return properties_.get(); }
     /// Puts a property under a name (null takes it away), then tells everybody but `source` as `notifyValueChange`
     /// does, with the property map and the value object that holds in `pool`.
-    void setProperty(std::string const& name, Tessera::StrongPtr<VValueBase> const& value,
-                     Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
-                     Tessera::WeakPtr<ValuePool> const& pool);
+    void setProperty(std::string const& name, ValuePtr const& value, Tessera::WeakPtr<ValueNotifier> const& source,
+                     ValueNotifierList const* alsoNotify, Tessera::WeakPtr<ValuePool> const& pool);
 
     /// The preferences with which an editor for this parameter is chosen; null for none.
     PreferencesPtr const& creationPreferences() const { return preferences_; }
@@ -92,13 +97,13 @@ private:
     friend class EditRecorder;
     struct LocalValue {
         Tessera::WeakPtr<ValuePool> pool;
-        Tessera::StrongPtr<VValueBase> value;
+        ValuePtr value;
     };
-    Tessera::StrongPtr<VValueBase>* findLocalValue(Tessera::StrongPtr<ValuePool> const& pool) const;
-    void putLocalValue(Tessera::StrongPtr<ValuePool> const& pool, Tessera::StrongPtr<VValueBase> const& value) const;
+    ValuePtr* findLocalValue(PoolPtr const& pool) const;
+    void putLocalValue(PoolPtr const& pool, ValuePtr const& value) const;
 
     std::string const name_;
-    Tessera::StrongPtr<VValueBase> const ownValue_;
+    ValuePtr const ownValue_;
     Values const values_;
     std::string const declaredType_;
     // A parameter has its values in a few pools at most, so a search beats a map.
@@ -110,18 +115,16 @@ private:
     std::weak_ptr<EditRecorder> recorder_;
 };
 
-using ParameterPtr = Tessera::StrongPtr<VParameter, ValueNotifierList>;
-
 /// The update step: marks the value that the parameter has in the pool as changed, by a new age stamp. Where the pool
 /// has no value of its own, the parameter's own one is stamped.
-void markValueChanged(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool);
+void markValueChanged(VParameter const& parameter, PoolPtr const& pool);
 
 /// The set step: stores `newValue` in the parameter's value of the pool (made if `create` says so) and, when it is
 /// accepted, notifies. False, and nobody told, when there is no such value of type T. The caller keeps the parameter
 /// alive.
 template <typename T>
-bool setParameterValue(VParameter const& parameter, T const& newValue, Tessera::StrongPtr<ValuePool> const& pool,
-                       std::string const& member, bool create, Tessera::WeakPtr<ValueNotifier> const& source,
+bool setParameterValue(VParameter const& parameter, T const& newValue, PoolPtr const& pool, std::string const& member,
+                       bool create, Tessera::WeakPtr<ValueNotifier> const& source,
                        ValueNotifierList const* alsoNotify) {
     auto const local = parameter.keepsValuesPerPool() ? parameter.getLocalValue(pool, member, create) : nullptr;
     // The parameter's own object lives as long as the parameter.

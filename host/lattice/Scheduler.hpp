@@ -11,7 +11,7 @@ class VScheduler {
 public:
     /// Queues an object to run in a pool. `time` is in seconds on the scheduler's clock; what lies in the past, as 0.0
     /// always does, is due at once. The object is held weakly; a null one is ignored.
-    static void schedule(ObjectPtr const& object, double time, Tessera::StrongPtr<ValuePool> const& pool);
+    static void schedule(ObjectPtr const& object, double time, PoolPtr const& pool);
     /// Runs what is due, in order of time, then of arrival, each once for each time it was scheduled. What is
     /// scheduled meanwhile waits for the next call. Returns how many objects ran.
     static int runDue();

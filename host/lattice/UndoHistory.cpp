@@ -19,8 +19,7 @@ UndoHistory& UndoHistory::theHistory() {
     return history;
 }
 
-void UndoHistory::add(Tessera::StrongPtr<VUndoAction> const& action, int weight,
-                      Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter) {
+void UndoHistory::add(Tessera::StrongPtr<VUndoAction> const& action, int weight, ParameterRef const& parameter) {
     if (!action)
         return;
     auto& step = currentStep();
@@ -39,37 +38,36 @@ void UndoHistory::record(ValueChange const& change) {
     changed();
 }
 
-bool UndoHistory::store(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool,
-                        HeldValue const& held) {
+bool UndoHistory::store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& held) {
     if (!parameter)
         return false;
     bool const isStep = !isRestoring();
     auto const living = parameter;
-    auto const before = heldValue(*living, pool);
+    auto const before = copyEffectiveValue(*living, pool);
     bool const hasPlace = pool || !living->keepsValuesPerPool();
     if (hasPlace && before.equals(held))
         return true;
     {
         Restoring const restoring(*this);
-        if (!storeHeldValue(*living, pool, held))
+        if (!applyValue(*living, pool, held))
             return false;
     }
-    ValueChange const change(living, pool, before, heldValue(*living, pool));
+    ValueChange const change(living, pool, before, copyEffectiveValue(*living, pool));
     if (isStep && !change.changesNothing())
         record(change);
     return true;
 }
 
-void UndoHistory::openGesture() {
+void UndoHistory::beginMacro() {
     ++gestures_;
 }
 
-void UndoHistory::closeGesture() {
+void UndoHistory::endMacro() {
     if (gestures_ > 0 && --gestures_ == 0)
-        finishStep();
+        closeStep();
 }
 
-void UndoHistory::finishStep() {
+void UndoHistory::closeStep() {
     if (!open_)
         return;
     auto const step = std::exchange(open_, nullptr);
@@ -81,7 +79,7 @@ void UndoHistory::finishStep() {
     undone_ = undone;
     {
         Restoring const restoring(*this);
-        step->removeCopies();
+        step->discardLocalValues();
     }
     changed();
 }
@@ -89,7 +87,7 @@ void UndoHistory::finishStep() {
 bool UndoHistory::undo() {
     if (isRestoring())
         return false;
-    finishStep();
+    closeStep();
     if (steps_.empty())
         return false;
     auto const step = steps_.rbegin()->second;
@@ -98,7 +96,7 @@ bool UndoHistory::undo() {
     bool undone = false;
     {
         Restoring const restoring(*this);
-        undone = step->takeBack();
+        undone = step->undo();
     }
     if (undone && !step->changes().empty() && lastNumber == lastNumber_)
         undone_.push_back(step);
@@ -109,7 +107,7 @@ bool UndoHistory::undo() {
 bool UndoHistory::redo() {
     if (isRestoring())
         return false;
-    finishStep();
+    closeStep();
     if (undone_.empty())
         return false;
     auto const step = undone_.back();
@@ -119,7 +117,7 @@ bool UndoHistory::redo() {
     bool made = false;
     {
         Restoring const restoring(*this);
-        made = step->makeAgain();
+        made = step->redo();
     }
     bool const isLatest = lastNumber == lastNumber_;
     if (made)

@@ -28,21 +28,20 @@ public:
     /// Takes a record over, of an input of `parameter` where one is given; a null record is ignored. `weight` tells how
     /// much its step matters (the larger, the more): where the history is full, the oldest of the lightest steps is
     /// forgotten.
-    void add(Tessera::StrongPtr<VUndoAction> const& action, int weight,
-             Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter = {});
+    void add(Tessera::StrongPtr<VUndoAction> const& action, int weight, ParameterRef const& parameter = {});
     /// Records a change that happened.
     void record(ValueChange const& change);
-    /// Makes a value hold in a pool, as a command of the host that can be taken back (storeHeldValue). False where it
+    /// Makes a value hold in a pool, as a command of the host that can be taken back (applyValue). False where it
     /// cannot be stored, and for a null parameter. Where an equal value holds already nothing happens.
-    bool store(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool, HeldValue const& held);
+    bool store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& held);
 
-    /// From here on everything is one step, up to the matching `closeGesture`. May be nested; the outermost counts.
-    void openGesture();
+    /// From here on everything is one step, up to the matching `endMacro`. May be nested; the outermost counts.
+    void beginMacro();
     /// Nothing happens where no gesture is open.
-    void closeGesture();
-    bool isGestureOpen() const { return gestures_ > 0; }
+    void endMacro();
+    bool isMacroOpen() const { return gestures_ > 0; }
     /// Ends the step of the open gesture: what comes next in it is another step.
-    void finishStep();
+    void closeStep();
     /// Whether something changed in the open gesture since its step began.
     bool isStepOpen() const { return open_ != nullptr; }
 

@@ -3,8 +3,8 @@
 
 namespace Kolt {
 
-ValueChange::ValueChange(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool, HeldValue before,
-                         HeldValue after)
+ValueChange::ValueChange(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue before,
+                         EffectiveValue after)
     : parameter_(parameter),
       parameterName_(parameter->Name()),
       perPool_(parameter->keepsValuesPerPool()),
@@ -24,25 +24,25 @@ bool ValueChange::isPossible() const {
     return parameter_.alive() && (!perPool_ || pool_.alive());
 }
 
-bool ValueChange::takeBack() const {
+bool ValueChange::undo() const {
     return store(before_);
 }
 
-bool ValueChange::makeAgain() const {
+bool ValueChange::redo() const {
     return store(after_);
 }
 
-void ValueChange::removeCopy() const {
+void ValueChange::discardLocalValue() const {
     auto const parameter = parameter_.strong();
     auto const pool = pool_.strong();
-    if (parameter && before_.fallsBack && parameter->ownValue()->equals(*before_.value) &&
-        heldValue(*parameter, pool).equals(before_))
-        storeHeldValue(*parameter, pool, before_);
+    if (parameter && before_.isInherited && parameter->ownValue()->equals(*before_.value) &&
+        copyEffectiveValue(*parameter, pool).equals(before_))
+        applyValue(*parameter, pool, before_);
 }
 
-bool ValueChange::store(HeldValue const& held) const {
+bool ValueChange::store(EffectiveValue const& held) const {
     auto const parameter = parameter_.strong();
-    return parameter && storeHeldValue(*parameter, pool_.strong(), held);
+    return parameter && applyValue(*parameter, pool_.strong(), held);
 }
 
 UndoStep::UndoStep() = default;
@@ -64,11 +64,11 @@ bool UndoStep::knowsChangeOf(Record const& record) const {
 
 void UndoStep::add(ValueChange const& change) {
     auto const known =
-        std::find_if(changes_.begin(), changes_.end(), [&](auto const& each) { return each.hasPlaceOf(change); });
+        std::find_if(changes_.begin(), changes_.end(), [&](auto const& each) { return each.hasSameTarget(change); });
     if (known == changes_.end())
         changes_.push_back(change);
     else
-        known->goOnTo(change);
+        known->mergeWith(change);
     awaitsChange_ = false;
 }
 
@@ -81,7 +81,7 @@ bool UndoStep::awaitsChangeOf(ValueChange const& change) const {
     return awaitsChange_ && changes_.empty() && !records_.empty() && change.isOf(records_.back().parameter);
 }
 
-bool UndoStep::takeBack() {
+bool UndoStep::undo() {
     bool done = false;
     // Copies: whoever is told may forget the step or its records.
     auto const changes = changes_;
@@ -96,7 +96,7 @@ bool UndoStep::takeBack() {
         if (oldest != records.end())
             oldest->action->undo();
         // The record may be unable to, as when its editor is gone.
-        done = change->takeBack() || done;
+        done = change->undo() || done;
     }
     for (auto record = records.rbegin(); record != records.rend(); ++record) {
         if (!knowsChangeOf(*record))
@@ -105,18 +105,18 @@ bool UndoStep::takeBack() {
     return done;
 }
 
-bool UndoStep::makeAgain() {
+bool UndoStep::redo() {
     bool done = false;
     auto const changes = changes_;
     for (auto const& change : changes)
-        done = (change.isPossible() && change.makeAgain()) || done;
+        done = (change.isPossible() && change.redo()) || done;
     return done;
 }
 
-void UndoStep::removeCopies() {
+void UndoStep::discardLocalValues() {
     auto const changes = changes_;
     for (auto const& change : changes)
-        change.removeCopy();
+        change.discardLocalValue();
 }
 
 } // namespace Kolt

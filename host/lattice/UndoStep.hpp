@@ -9,8 +9,7 @@ namespace Kolt {
 /// the pool weakly. User-interface thread.
 class ValueChange {
 public:
-    ValueChange(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool, HeldValue before,
-                HeldValue after);
+    ValueChange(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue before, EffectiveValue after);
     ~ValueChange();
     ValueChange(ValueChange const&);
     ValueChange& operator=(ValueChange const&);
@@ -20,37 +19,37 @@ public:
     /// The parameter's name, also when it is gone.
     std::string const& parameterName() const { return parameterName_; }
     /// The pool of the change where the parameter keeps values per pool; null elsewhere, and when it is gone.
-    Tessera::StrongPtr<ValuePool> pool() const { return pool_.strong(); }
-    HeldValue const& before() const { return before_; }
-    HeldValue const& after() const { return after_; }
+    PoolPtr pool() const { return pool_.strong(); }
+    EffectiveValue const& before() const { return before_; }
+    EffectiveValue const& after() const { return after_; }
 
-    bool isOf(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter) const {
-        return parameter_ == parameter;
-    }
+    bool isOf(ParameterRef const& parameter) const { return parameter_ == parameter; }
     /// Whether both change the same value.
-    bool hasPlaceOf(ValueChange const& other) const { return parameter_ == other.parameter_ && pool_ == other.pool_; }
+    bool hasSameTarget(ValueChange const& other) const {
+        return parameter_ == other.parameter_ && pool_ == other.pool_;
+    }
     /// From now on the change leads to where the other one leads.
-    void goOnTo(ValueChange const& other) { after_ = other.after_; }
+    void mergeWith(ValueChange const& other) { after_ = other.after_; }
     bool changesNothing() const { return before_.equals(after_); }
 
     /// Whether the place of the value is still there.
     bool isPossible() const;
-    /// Stores the value before the change, or the one after it (storeHeldValue). False when that is impossible.
-    bool takeBack() const;
-    bool makeAgain() const;
+    /// Stores the value before the change, or the one after it (applyValue). False when that is impossible.
+    bool undo() const;
+    bool redo() const;
     /// For a change that changes nothing: has the pool fall back again where it did before and nothing else was written
     /// since.
-    void removeCopy() const;
+    void discardLocalValue() const;
 
 private:
-    bool store(HeldValue const& held) const;
+    bool store(EffectiveValue const& held) const;
 
-    Tessera::WeakPtr<VParameter, ValueNotifierList> parameter_;
+    ParameterRef parameter_;
     std::string parameterName_;
     Tessera::WeakPtr<ValuePool> pool_;
     bool perPool_;
-    HeldValue before_;
-    HeldValue after_;
+    EffectiveValue before_;
+    EffectiveValue after_;
 };
 
 /// What one command takes back: changes of values, and records that inputs handed over (VUndoAction). The history owns
@@ -71,7 +70,7 @@ private:
     friend class UndoHistory;
     struct Record {
         Tessera::StrongPtr<VUndoAction> action;
-        Tessera::WeakPtr<VParameter, ValueNotifierList> parameter;
+        ParameterRef parameter;
     };
     bool knowsChangeOf(Record const& record) const;
     void add(ValueChange const& change);
@@ -79,10 +78,10 @@ private:
     bool changesNothing() const;
     /// Whether the step is only the record of an edit of the parameter whose change is about to be told.
     bool awaitsChangeOf(ValueChange const& change) const;
-    bool takeBack();
-    bool makeAgain();
-    /// For a step that changes nothing (ValueChange::removeCopy).
-    void removeCopies();
+    bool undo();
+    bool redo();
+    /// For a step that changes nothing (ValueChange::discardLocalValue).
+    void discardLocalValues();
 
     std::vector<ValueChange> changes_;
     // In the order in which they were handed over.

@@ -10,6 +10,9 @@ namespace Kolt {
 
 class VManagedObject;
 class VManagedObjectBase;
+class VValueBase;
+
+using ValuePtr = Tessera::StrongPtr<VValueBase>;
 
 /// A value of some type, held by a parameter, a value pool or a property map, and shared by strong references. Its
 /// age stamp tells when it was last marked as changed; a plain store does not renew it.
@@ -28,7 +31,7 @@ public:
     virtual bool setValueFromText(std::string const& text) = 0;
     /// A new value object with a copy of the value. What the value refers to is cloned, so that in-place changes of
     /// the one do not reach the other.
-    virtual Tessera::StrongPtr<VValueBase> clone() const = 0;
+    virtual ValuePtr clone() const = 0;
     /// Whether the other is of the same type and stands for the same value.
     virtual bool equals(VValueBase const& other) const = 0;
     /// Stores a copy of the other's value; what that refers to is cloned. False, and nothing stored, when the other is
@@ -106,10 +109,10 @@ public:
         std::lock_guard const lock(mutex_);
         return VValueTrait<T>::Equal(value_, value);
     }
-    Tessera::StrongPtr<VValueBase> clone() const override {
+    ValuePtr clone() const override {
         T value{};
         get(value);
-        return Tessera::StrongPtr<VValueBase>(new VValue(VValueTrait<T>::Clone(value)));
+        return ValuePtr(new VValue(VValueTrait<T>::Clone(value)));
     }
 
 private:
@@ -130,7 +133,7 @@ VTypedValueBase<T>* typedValue(VValueBase* value) {
 /// The T in a value object, found by a dynamic type test; `fallback` when the object is null, of another type or
 /// cannot be read.
 template <typename T>
-T valueOr(Tessera::StrongPtr<VValueBase> const& value, T const& fallback) {
+T valueOr(ValuePtr const& value, T const& fallback) {
     T out = fallback;
     auto const* const typed = dynamic_cast<VTypedValueBase<T> const*>(value.get());
     // A value that cannot be read leaves the fallback alone.
@@ -141,8 +144,8 @@ T valueOr(Tessera::StrongPtr<VValueBase> const& value, T const& fallback) {
 
 /// A new value object.
 template <typename T>
-Tessera::StrongPtr<VValueBase> makeValue(T const& value) {
-    return Tessera::StrongPtr<VValueBase>(new VValue<T>(value));
+ValuePtr makeValue(T const& value) {
+    return ValuePtr(new VValue<T>(value));
 }
 
 // Compiled into this library alone: a value outlives the plug-in that made it.

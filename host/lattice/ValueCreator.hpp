@@ -11,14 +11,14 @@ public:
     ~VValueCreator() override;
 
     /// A new value object with the type's default value.
-    virtual Tessera::StrongPtr<VValueBase> createValue() const = 0;
+    virtual ValuePtr createValue() const = 0;
 
     /// Makes a creator known under the readable name of its type (Tessera::Typename). The creator stays its
     /// owner's and leaves when it is destroyed. Several may stand under one name; the first that lives is used.
     /// An empty creator is ignored.
     static void registerCreator(Tessera::WeakPtr<VValueCreator> const& creator, std::string const& typeName);
     /// A new value object of the named type; null when no creator for it is known.
-    static Tessera::StrongPtr<VValueBase> create(std::string const& typeName);
+    static ValuePtr create(std::string const& typeName);
     /// How many living creators stand under the name.
     static int registered(std::string const& typeName);
 };
@@ -27,13 +27,13 @@ public:
 template <typename T>
 class TypedValueCreator : public VValueCreator {
 public:
-    Tessera::StrongPtr<VValueBase> createValue() const override { return makeValue<T>(T()); }
+    ValuePtr createValue() const override { return makeValue<T>(T()); }
 };
 
 /// Makes this library's TypedValueCreator<T> and registers it, once, however often it is called. It goes with the
 /// library that called first.
 template <typename T>
-void provideValueCreator() {
+void registerValueCreatorOnce() {
     static TypedValueCreator<T> creator;
     static bool registered = false;
     if (registered)

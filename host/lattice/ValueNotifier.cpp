@@ -5,15 +5,15 @@ namespace Kolt {
 
 /// Delivery to a notifier and its leaving exclude each other. Recursive, as a notifier may be told again, or be
 /// destroyed, while it is being told.
-class ValueNotifier::DeliveryGate {
+class ValueNotifier::NotifierGuard {
 public:
-    explicit DeliveryGate(ValueNotifier* notifier) : notifier_(notifier) {}
+    explicit NotifierGuard(ValueNotifier* notifier) : notifier_(notifier) {}
 
     void close() {
         std::lock_guard const lock(mutex_);
         notifier_ = nullptr;
     }
-    void deliver(Tessera::StrongPtr<VValueBase> const& value, VContext const& context, ValueMap const* properties) {
+    void deliver(ValuePtr const& value, VContext const& context, ValueMap const* properties) {
         std::lock_guard const lock(mutex_);
         if (auto* const notifier = notifier_.load())
             notifier->onValueChange(value, context, properties);
@@ -38,7 +38,7 @@ ValueNotifier* firstLiving = nullptr;
 
 } // namespace
 
-ValueNotifier::ValueNotifier() : gate_(std::make_shared<DeliveryGate>(this)) {
+ValueNotifier::ValueNotifier() : guard_(std::make_shared<NotifierGuard>(this)) {
     std::lock_guard const lock(livingMutex());
     next_ = firstLiving;
     if (next_)
@@ -47,7 +47,7 @@ ValueNotifier::ValueNotifier() : gate_(std::make_shared<DeliveryGate>(this)) {
 }
 
 ValueNotifier::~ValueNotifier() {
-    leaveDelivery();
+    stopNotifications();
     std::lock_guard const lock(livingMutex());
     (previous_ ? previous_->next_ : firstLiving) = next_;
     if (next_)
@@ -62,8 +62,8 @@ std::vector<ValueNotifier*> ValueNotifier::living() {
     return notifiers;
 }
 
-void ValueNotifier::leaveDelivery() {
-    gate_->close();
+void ValueNotifier::stopNotifications() {
+    guard_->close();
 }
 
 ValueNotifierList::ValueNotifierList() = default;
@@ -75,39 +75,38 @@ void ValueNotifierList::addNotifier(Tessera::WeakPtr<ValueNotifier> const& notif
     if (!living)
         return;
     std::lock_guard const lock(mutex_);
-    gates_.erase(std::remove_if(gates_.begin(), gates_.end(), [](auto const& gate) { return !gate->notifier(); }),
-                 gates_.end());
-    if (std::find(gates_.begin(), gates_.end(), living->gate_) == gates_.end())
-        gates_.push_back(living->gate_);
+    guards_.erase(std::remove_if(guards_.begin(), guards_.end(), [](auto const& guard) { return !guard->notifier(); }),
+                  guards_.end());
+    if (std::find(guards_.begin(), guards_.end(), living->guard_) == guards_.end())
+        guards_.push_back(living->guard_);
     used_.store(true, std::memory_order_release);
 }
 
 std::size_t ValueNotifierList::size() const {
-    auto const gates = snapshot();
+    auto const guards = snapshot();
     return static_cast<std::size_t>(
-        std::count_if(gates.begin(), gates.end(), [](auto const& gate) { return gate->notifier() != nullptr; }));
+        std::count_if(guards.begin(), guards.end(), [](auto const& guard) { return guard->notifier() != nullptr; }));
 }
 
-ValueNotifierList::Gates ValueNotifierList::snapshot() const {
+ValueNotifierList::Guards ValueNotifierList::snapshot() const {
     std::lock_guard const lock(mutex_);
-    return gates_;
+    return guards_;
 }
 
-void ValueNotifierList::tell(Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
-                             Tessera::StrongPtr<VValueBase> const& value, VContext const& context,
-                             ValueMap const* properties) const {
-    auto const gates = snapshot();
-    auto const further = alsoNotify ? alsoNotify->snapshot() : Gates();
+void ValueNotifierList::notify(Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
+                               ValuePtr const& value, VContext const& context, ValueMap const* properties) const {
+    auto const guards = snapshot();
+    auto const further = alsoNotify ? alsoNotify->snapshot() : Guards();
     auto const from = source.strong();
-    auto const fromGate = from ? from->gate_ : nullptr;
-    for (auto const& gate : gates) {
-        if (gate != fromGate)
-            gate->deliver(value, context, properties);
+    auto const sourceGuard = from ? from->guard_ : nullptr;
+    for (auto const& guard : guards) {
+        if (guard != sourceGuard)
+            guard->deliver(value, context, properties);
     }
-    for (auto const& gate : further) {
-        bool const told = gate != fromGate && std::find(gates.begin(), gates.end(), gate) != gates.end();
-        if (!told)
-            gate->deliver(value, context, properties);
+    for (auto const& guard : further) {
+        bool const notified = guard != sourceGuard && std::find(guards.begin(), guards.end(), guard) != guards.end();
+        if (!notified)
+            guard->deliver(value, context, properties);
     }
 }
 

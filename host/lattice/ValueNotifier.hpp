@@ -20,8 +20,7 @@ public:
     /// A value changed. `newValue` is the live value object, which may be null. `context` names the pool of the
     /// change, if it belongs to one. `properties` is the parameter's property map when properties changed and null
     /// when the value did. Called on the thread that reports the change.
-    virtual void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                               ValueMap const* properties) = 0;
+    virtual void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) = 0;
 
     /// All that live, in no order: a host that unloads a library must know whose code is still in use.
     /// User-interface thread.
@@ -31,12 +30,12 @@ protected:
     /// Ends delivery to this notifier for good. A delivery that another thread is in the middle of is waited for;
     /// one on this thread goes on. A notifier that is told from other threads calls it first thing in its
     /// destructor; for all others the base does it.
-    void leaveDelivery();
+    void stopNotifications();
 
 private:
     friend class ValueNotifierList;
-    class DeliveryGate;
-    std::shared_ptr<DeliveryGate> gate_;
+    class NotifierGuard;
+    std::shared_ptr<NotifierGuard> guard_;
     // The chain of all that live.
     ValueNotifier* previous_ = nullptr;
     ValueNotifier* next_ = nullptr;
@@ -57,19 +56,20 @@ public:
     std::size_t size() const;
 
 protected:
-    /// Whether nobody was ever added: of ten thousand parameters that a simulation changes, few are watched.
-    bool nobodyListens() const { return !used_.load(std::memory_order_acquire); }
-    /// Tells a snapshot of the list, in order, leaving out `source` and whatever dies meanwhile; then the members of
-    /// `alsoNotify` that were not told yet, the source included. Touches neither list once it tells the first.
-    void tell(Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
-              Tessera::StrongPtr<VValueBase> const& value, VContext const& context, ValueMap const* properties) const;
+    /// Whether a notifier was ever added. Cheap, as a simulation changes many parameters of which few are shown.
+    bool hasListeners() const { return used_.load(std::memory_order_acquire); }
+    /// Notifies a snapshot of the list, in order, but for `source` and for notifiers that die meanwhile; then the
+    /// members of `alsoNotify` that were not notified yet, the source included. Touches neither list after the first
+    /// call of a notifier.
+    void notify(Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
+                ValuePtr const& value, VContext const& context, ValueMap const* properties) const;
 
 private:
-    using Gates = std::vector<std::shared_ptr<ValueNotifier::DeliveryGate>>;
-    Gates snapshot() const;
+    using Guards = std::vector<std::shared_ptr<ValueNotifier::NotifierGuard>>;
+    Guards snapshot() const;
 
     mutable std::mutex mutex_;
-    mutable Gates gates_;
+    mutable Guards guards_;
     mutable std::atomic<bool> used_{false};
 };
 

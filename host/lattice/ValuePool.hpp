@@ -17,12 +17,14 @@ private:
     std::string name_;
 };
 
+using PoolPtr = Tessera::StrongPtr<ValuePool>;
+
 /// Something that yields the current value pool.
 class ValuePoolProvider : public Tessera::ReferenceBase<ValuePoolProvider> {
 public:
     ~ValuePoolProvider() override;
     /// The current pool; null when there is none.
-    virtual Tessera::StrongPtr<ValuePool> getValuePool() const = 0;
+    virtual PoolPtr getValuePool() const = 0;
 };
 
 /// Where an editor finds its value pool. The panel owns it; it must outlive the editors made with it.
@@ -36,9 +38,9 @@ public:
 };
 
 /// The provider's pool; null for no provider.
-Tessera::StrongPtr<ValuePool> currentPool(Tessera::StrongPtr<ValuePoolProvider> const& provider);
+PoolPtr currentPool(Tessera::StrongPtr<ValuePoolProvider> const& provider);
 /// The pool that the source stands for at this moment; null for a null source, provider or pool.
-Tessera::StrongPtr<ValuePool> currentPool(ValuePoolSource const* source);
+PoolPtr currentPool(ValuePoolSource const* source);
 
 /// The circumstances of a change: the pool in which it happened.
 class VContext {
@@ -46,27 +48,27 @@ public:
     /// What a context carries and others may keep beyond it.
     class Addendum : public Tessera::ReferenceBase<Addendum> {
     public:
-        explicit Addendum(Tessera::StrongPtr<ValuePool> const& pool);
+        explicit Addendum(PoolPtr const& pool);
         ~Addendum() override;
         /// The pool; null for a change that belongs to no pool.
-        Tessera::StrongPtr<ValuePool> const& pool() const { return pool_; }
+        PoolPtr const& pool() const { return pool_; }
 
     private:
-        Tessera::StrongPtr<ValuePool> pool_;
+        PoolPtr pool_;
     };
 
     /// Takes the pool from the addendum; a null one gives a context without a pool.
     explicit VContext(Tessera::StrongPtr<Addendum> const& addendum);
     /// A context in `pool`. A null addendum makes a new one that holds the pool; a given one is kept as it is.
-    VContext(Tessera::StrongPtr<ValuePool> const& pool, Tessera::StrongPtr<Addendum> const& addendum);
+    VContext(PoolPtr const& pool, Tessera::StrongPtr<Addendum> const& addendum);
     ~VContext();
 
     /// The pool of the change; null when it belongs to none.
-    Tessera::StrongPtr<ValuePool> const& pool() const { return pool_; }
+    PoolPtr const& pool() const { return pool_; }
     Tessera::StrongPtr<Addendum> const& addendum() const;
 
 private:
-    Tessera::StrongPtr<ValuePool> pool_;
+    PoolPtr pool_;
     // Few ask for an addendum, so a new one is made for the first who does.
     mutable Tessera::StrongPtr<Addendum> addendum_;
     mutable bool addendumToBeMade_ = false;

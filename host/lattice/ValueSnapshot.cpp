@@ -4,30 +4,19 @@
 
 namespace Kolt {
 
-namespace {
-
-/// The value object that holds in a pool.
-Tessera::StrongPtr<VValueBase> holding(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
-    auto const local = parameter.getLocalValue(pool, std::string(), false);
-    return local ? local : parameter.ownValue();
-}
-
-} // namespace
-
-bool HeldValue::equals(HeldValue const& other) const {
+bool EffectiveValue::equals(EffectiveValue const& other) const {
     return value->equals(*other.value);
 }
 
-HeldValue heldValue(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
-    auto const local = parameter.getLocalValue(pool, std::string(), false);
-    return {(local ? local : parameter.ownValue())->clone(), !local};
+EffectiveValue copyEffectiveValue(VParameter const& parameter, PoolPtr const& pool) {
+    return {parameter.effectiveValue(pool)->clone(), !parameter.getLocalValue(pool, std::string(), false)};
 }
 
-bool storeHeldValue(VParameter& parameter, Tessera::StrongPtr<ValuePool> const& pool, HeldValue const& held) {
+bool applyValue(VParameter& parameter, PoolPtr const& pool, EffectiveValue const& held) {
     auto local = parameter.getLocalValue(pool, std::string(), false);
     if (!pool && parameter.keepsValuesPerPool())
         return false;
-    if (held.fallsBack) {
+    if (held.isInherited) {
         if (!local || !parameter.keepsValuesPerPool())
             return true;
         parameter.removeLocalValue(pool);
@@ -56,15 +45,14 @@ ValueSnapshot::ValueSnapshot(VParameter const& parameter) : perPool_(parameter.k
 
 ValueSnapshot::~ValueSnapshot() = default;
 
-std::vector<ValueSnapshot::PoolValue>::const_iterator
-ValueSnapshot::find(Tessera::StrongPtr<ValuePool> const& pool) const {
+std::vector<ValueSnapshot::PoolValue>::const_iterator ValueSnapshot::find(PoolPtr const& pool) const {
     Tessera::WeakPtr<ValuePool> const key(pool);
     return std::find_if(poolValues_.begin(), poolValues_.end(), [&](auto const& each) { return each.pool == key; });
 }
 
-HeldValue ValueSnapshot::in(Tessera::StrongPtr<ValuePool> const& pool) const {
+EffectiveValue ValueSnapshot::in(PoolPtr const& pool) const {
     auto const found = find(pool);
-    return found == poolValues_.end() ? HeldValue{own_, perPool_} : HeldValue{found->value, false};
+    return found == poolValues_.end() ? EffectiveValue{own_, perPool_} : EffectiveValue{found->value, false};
 }
 
 void ValueSnapshot::refresh(VParameter const& parameter) {
@@ -76,7 +64,7 @@ void ValueSnapshot::refresh(VParameter const& parameter) {
         refreshIn(parameter, pool);
 }
 
-void ValueSnapshot::refreshIn(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) {
+void ValueSnapshot::refreshIn(VParameter const& parameter, PoolPtr const& pool) {
     if (!perPool_) {
         own_ = parameter.ownValue()->clone();
         return;
@@ -88,8 +76,8 @@ void ValueSnapshot::refreshIn(VParameter const& parameter, Tessera::StrongPtr<Va
         poolValues_.push_back({pool, local->clone()});
 }
 
-bool ValueSnapshot::holdsIn(VParameter const& parameter, Tessera::StrongPtr<ValuePool> const& pool) const {
-    return holding(parameter, pool)->equals(*in(pool).value);
+bool ValueSnapshot::isEffectiveIn(VParameter const& parameter, PoolPtr const& pool) const {
+    return parameter.effectiveValue(pool)->equals(*in(pool).value);
 }
 
 bool ValueSnapshot::isOwnValueOf(VParameter const& parameter) const {

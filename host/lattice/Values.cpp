@@ -78,7 +78,7 @@ void VValueCreator::registerCreator(Tessera::WeakPtr<VValueCreator> const& creat
     HostObserver::theObserver().valueCreatorRegistered(typeName);
 }
 
-Tessera::StrongPtr<VValueBase> VValueCreator::create(std::string const& typeName) {
+ValuePtr VValueCreator::create(std::string const& typeName) {
     for (auto const& known : knownValueCreators()) {
         if (known.typeName != typeName)
             continue;
@@ -105,22 +105,22 @@ void ValuePoolSource::referenceHook() {}
 
 ValuePoolSource::~ValuePoolSource() = default;
 
-Tessera::StrongPtr<ValuePool> currentPool(Tessera::StrongPtr<ValuePoolProvider> const& provider) {
+PoolPtr currentPool(Tessera::StrongPtr<ValuePoolProvider> const& provider) {
     return provider ? provider->getValuePool() : nullptr;
 }
 
-Tessera::StrongPtr<ValuePool> currentPool(ValuePoolSource const* source) {
+PoolPtr currentPool(ValuePoolSource const* source) {
     return source ? currentPool(source->getValuePoolProvider()) : nullptr;
 }
 
-VContext::Addendum::Addendum(Tessera::StrongPtr<ValuePool> const& pool) : pool_(pool) {}
+VContext::Addendum::Addendum(PoolPtr const& pool) : pool_(pool) {}
 
 VContext::Addendum::~Addendum() = default;
 
 VContext::VContext(Tessera::StrongPtr<Addendum> const& addendum)
     : pool_(addendum ? addendum->pool() : nullptr), addendum_(addendum) {}
 
-VContext::VContext(Tessera::StrongPtr<ValuePool> const& pool, Tessera::StrongPtr<Addendum> const& addendum)
+VContext::VContext(PoolPtr const& pool, Tessera::StrongPtr<Addendum> const& addendum)
     : pool_(pool), addendum_(addendum), addendumToBeMade_(!addendum) {}
 
 Tessera::StrongPtr<VContext::Addendum> const& VContext::addendum() const {
@@ -133,12 +133,12 @@ Tessera::StrongPtr<VContext::Addendum> const& VContext::addendum() const {
 
 VContext::~VContext() = default;
 
-Tessera::StrongPtr<VValueBase> ValueMap::getValue(std::string const& name) const {
+ValuePtr ValueMap::getValue(std::string const& name) const {
     auto const found = values_.find(name);
     return found == values_.end() ? nullptr : found->second;
 }
 
-void ValueMap::setValue(std::string const& name, Tessera::StrongPtr<VValueBase> const& value) {
+void ValueMap::setValue(std::string const& name, ValuePtr const& value) {
     if (value)
         values_[name] = value;
     else

@@ -20,9 +20,8 @@ public:
     /// Makes an editor for the parameter, which may be gone. `parent` owns the widget; null leaves it to the caller.
     /// The editor asks `poolSource` for its pool at every edit; it may be null, which counts as no pool, and must
     /// outlive the editor. Gives the widget and its input, which lives as long as the widget.
-    virtual std::pair<QPointer<QWidget>, InputRef>
-    create(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-           ValuePoolSource* poolSource) = 0;
+    virtual std::pair<QPointer<QWidget>, InputRef> create(ParameterRef const& parameter, QWidget* parent,
+                                                          ValuePoolSource* poolSource) = 0;
 
     /// A hint on how to use the editor, for people; empty unless a creator has one.
     virtual QString hint() const;

@@ -26,7 +26,7 @@ private:
 
     QString remembered_;
     // While the window is not active or a menu is open.
-    QMetaObject::Connection return_;
+    QMetaObject::Connection focusChanged_;
 };
 
 } // namespace Kolt

@@ -36,16 +36,16 @@ void QLeaveLineEdit::showText(QString const& text) {
 
 void QLeaveLineEdit::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    disconnect(return_);
+    disconnect(focusChanged_);
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
         leave();
         return;
     }
     // The user may come back, or the focus may move on meanwhile, of which this widget is not told.
-    return_ = connect(qApp, &QApplication::focusChanged, this, [this](QWidget const*, QWidget const* now) {
+    focusChanged_ = connect(qApp, &QApplication::focusChanged, this, [this](QWidget const*, QWidget const* now) {
         if (!now || now->window()->windowType() == Qt::Popup)
             return;
-        disconnect(return_);
+        disconnect(focusChanged_);
         if (now != this)
             leave();
     });
@@ -80,8 +80,7 @@ void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoo
     if (!input || !parameter || !parameter->keepsValuesPerPool())
         return;
     auto const pool = currentPool(poolSource);
-    auto const local = parameter->getLocalValue(pool, std::string(), false);
-    input->onValueChange(local ? local : parameter->ownValue(), VContext(pool, nullptr), nullptr);
+    input->onValueChange(parameter->effectiveValue(pool), VContext(pool, nullptr), nullptr);
 }
 
 } // namespace Kolt

@@ -9,8 +9,7 @@ namespace Panel {
 
 namespace {
 
-using Pools = std::vector<Tessera::StrongPtr<Kolt::ValuePool>>;
-using Value = Tessera::StrongPtr<Kolt::VValueBase>;
+using Pools = std::vector<Kolt::PoolPtr>;
 
 /// The example for a type, as a parameter stands in a network file; "values" has one for each pool, in their order.
 struct Example {
@@ -62,7 +61,7 @@ Example const* findExample(char const* typeKey, Kolt::VCreationPreferences const
 }
 
 /// A value that no editor of the type can read.
-Value valueOfOtherType(std::string const& valueType) {
+Kolt::ValuePtr valueOfOtherType(std::string const& valueType) {
     auto const* const format = Talo::ValueFormat::ofType(valueType);
     bool const isText = format && QByteArray(format->key).startsWith("string");
     return isText ? Kolt::makeValue(7) : Kolt::makeValue(std::string("a text"));

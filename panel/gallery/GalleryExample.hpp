@@ -14,6 +14,6 @@ QString valueTypeTitle(std::string const& valueType);
 /// those for which a parameter that keeps values per pool gets one. The caller owns it. Null for a creator that is gone
 /// and for a type of which nobody can make a value. User-interface thread.
 Kolt::ParameterPtr makeGalleryExample(Kolt::InputRegistry::Entry const& entry, GalleryState state,
-                                      std::vector<Tessera::StrongPtr<Kolt::ValuePool>> const& pools);
+                                      std::vector<Kolt::PoolPtr> const& pools);
 
 } // namespace Panel

@@ -131,7 +131,7 @@ void GalleryPage::addSections(QVBoxLayout* layout, GalleryState state) {
 }
 
 void GalleryPage::connectActions(Kolt::VParameter const& parameter) {
-    auto const connectAction = [this](Tessera::StrongPtr<Kolt::VValueBase> const& value) {
+    auto const connectAction = [this](Kolt::ValuePtr const& value) {
         auto const action = Kolt::valueOr<Tessera::StrongPtr<Kolt::VAction>>(value, nullptr);
         if (!action)
             return;

@@ -37,7 +37,7 @@ private:
     void alignColumns(QWidget* titles);
 
     Talo::PoolSource poolSource_;
-    std::vector<Tessera::StrongPtr<Kolt::ValuePool>> pools_;
+    std::vector<Kolt::PoolPtr> pools_;
     std::vector<Kolt::ParameterPtr> parameters_;
     std::vector<GalleryRow*> rows_;
     QComboBox* poolSelector_ = nullptr;

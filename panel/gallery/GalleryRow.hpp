@@ -54,7 +54,7 @@ private:
     std::string const creatorName_;
     std::string const valueType_;
     Kolt::CreatorRef const creator_;
-    Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const parameter_;
+    Kolt::ParameterRef const parameter_;
     Talo::PoolSource& pools_;
     std::array<Kolt::Editor, 2> editors_;
     std::array<QWidget*, 2> cells_{};

@@ -11,11 +11,10 @@ NotificationCounter::NotificationCounter(Kolt::ParameterPtr const& parameter, QW
 }
 
 NotificationCounter::~NotificationCounter() {
-    leaveDelivery();
+    stopNotifications();
 }
 
-void NotificationCounter::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
-                                        Kolt::ValueMap const*) {
+void NotificationCounter::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) {
     ++count_;
     QMetaObject::invokeMethod(this, &NotificationCounter::showCount, Qt::QueuedConnection);
 }

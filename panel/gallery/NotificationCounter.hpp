@@ -18,7 +18,7 @@ public:
     int count() const { return count_; }
 
 private:
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+    void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
     void showCount();
 

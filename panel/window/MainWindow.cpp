@@ -50,7 +50,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     addDockWidget(trailingDockArea(layoutDirection()), fractal_->dock());
     resizeDocks({fractal_->dock()}, {previewWidth}, Qt::Horizontal);
     statusBar()->addPermanentWidget(fractal_->progressWidget());
-    connect(fractal_.get(), &Fractal::FractalController::told, this,
+    connect(fractal_.get(), &Fractal::FractalController::reported, this,
             [this](QString const& text) { messages()->add(MessageList::Source::Panel, text); });
     makeHistoryDock();
     makeToolBar();
@@ -65,7 +65,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     connect(objectList_, &ObjectList::objectChosen, this, &MainWindow::showView);
     connect(&plugins_, &Plugins::aboutToChange, this, &MainWindow::closeEditors);
     connect(&plugins_, &Plugins::changed, this, &MainWindow::openEditors);
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MainWindow::noticeFocus, Qt::QueuedConnection);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MainWindow::repairActivation, Qt::QueuedConnection);
     Kolt::UndoHistory::theHistory().setListener([this] { historyChanged(); });
     updateUndo();
     updatePlugins();
@@ -108,7 +108,7 @@ void MainWindow::showNetwork(std::unique_ptr<Talo::Network> network) {
     network_ = std::move(network);
     historyView_->setNaming(naming());
     network_->actionHandler = [this](Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,
-                                     Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+                                     Kolt::PoolPtr const& pool) {
         fractal_->fire(object, parameter, pool);
         messages()->add(MessageList::Source::Panel,
                         tr("Action %1.%2 was fired in pool %3.")
@@ -260,13 +260,13 @@ void MainWindow::openEditors() {
     updatePlugins();
 }
 
-void MainWindow::noticeFocus() {
+void MainWindow::repairActivation() {
     if (!windowHandle() || QGuiApplication::focusWindow() != windowHandle() || QApplication::activeWindow())
         return;
     // Qt takes no notice of a focus that comes meanwhile, as after a file was typed into a dialog that proposes names,
     // and keys do nothing then.
     if (QApplication::activePopupWidget())
-        QTimer::singleShot(popupInterval, this, &MainWindow::noticeFocus);
+        QTimer::singleShot(popupInterval, this, &MainWindow::repairActivation);
     else
         QApplication::setActiveWindow(this);
 }

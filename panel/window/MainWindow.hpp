@@ -67,7 +67,7 @@ public:
     Fractal::FractalController& fractalController() { return *fractal_; }
 
     /// Ends the edit that goes on: a typed text that waits for the field to be left is written.
-    void finishEdit();
+    void commitPendingEdit();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -109,7 +109,7 @@ private:
     void closePlugins();
     void reloadPlugins();
     /// Tells of a failure, in the list and where the user looks.
-    void complain(QString const& title, QString const& text);
+    void reportError(QString const& title, QString const& text);
 
     void showView(Kolt::ObjectPtr const& object);
     ObjectView* makeView(Kolt::ObjectPtr const& object, QWidget* parent);
@@ -120,7 +120,7 @@ private:
     void choosePool(int index);
     void applyFilter();
     /// Has Qt notice that the window has the focus, after a popup was open as it got it.
-    void noticeFocus();
+    void repairActivation();
     /// Names parameters by object and name. For the network that is open at the moment.
     Talo::ParameterNaming naming() const;
     void historyChanged();

@@ -129,7 +129,7 @@ void MainWindow::showTitle() {
     setWindowFilePath(network_->file());
 }
 
-void MainWindow::finishEdit() {
+void MainWindow::commitPendingEdit() {
     // Fields write when they lose the focus, but not when only their window does, as it may have by now.
     QPointer<QWidget> const focus = QApplication::focusWidget() ? QApplication::focusWidget() : focusWidget();
     if (Talo::ParameterRow::rowOf(focus)) {
@@ -144,7 +144,7 @@ void MainWindow::finishEdit() {
 }
 
 bool MainWindow::mayLoseChanges() {
-    finishEdit();
+    commitPendingEdit();
     updateModified();
     if (!isWindowModified())
         return true;
@@ -173,7 +173,7 @@ void MainWindow::changeEvent(QEvent* event) {
     if (isActiveWindow())
         updateModified();
     else
-        QMetaObject::invokeMethod(this, &MainWindow::noticeFocus, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &MainWindow::repairActivation, Qt::QueuedConnection);
 }
 
 } // namespace Panel

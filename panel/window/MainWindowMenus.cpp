@@ -129,7 +129,7 @@ void MainWindow::askForNetwork() {
                                                    networkFilter());
     QString error;
     if (!file.isEmpty() && !openNetwork(file, &error))
-        complain(tr("The network cannot be opened"), error);
+        reportError(tr("The network cannot be opened"), error);
 }
 
 void MainWindow::askForSaveFile() {
@@ -141,10 +141,10 @@ bool MainWindow::saveAs(QString const& file) {
     QString error;
     if (file.isEmpty())
         return false;
-    finishEdit();
+    commitPendingEdit();
     bool const saved = saveValues(file, &error);
     if (!saved)
-        complain(tr("The values cannot be saved"), error);
+        reportError(tr("The values cannot be saved"), error);
     return saved;
 }
 
@@ -153,7 +153,7 @@ void MainWindow::askForPlugin() {
         QFileDialog::getOpenFileName(this, tr("Load a plug-in"), QString(), tr("Plug-ins (*.talo);;All files (*)"));
     QString error;
     if (!file.isEmpty() && !plugins_.load(file, &error))
-        complain(tr("The plug-in cannot be loaded"), error);
+        reportError(tr("The plug-in cannot be loaded"), error);
 }
 
 void MainWindow::closePlugins() {
@@ -161,7 +161,7 @@ void MainWindow::closePlugins() {
     if (plugins_.unload(&error))
         messages()->add(MessageList::Source::Panel, tr("The plug-ins were unloaded."));
     else
-        complain(tr("The plug-ins cannot be unloaded"), error);
+        reportError(tr("The plug-ins cannot be unloaded"), error);
 }
 
 void MainWindow::reloadPlugins() {
@@ -169,10 +169,10 @@ void MainWindow::reloadPlugins() {
     if (plugins_.reload(&error))
         messages()->add(MessageList::Source::Panel, tr("The plug-ins were loaded again."));
     else
-        complain(tr("The plug-ins cannot be loaded again"), error);
+        reportError(tr("The plug-ins cannot be loaded again"), error);
 }
 
-void MainWindow::complain(QString const& title, QString const& text) {
+void MainWindow::reportError(QString const& title, QString const& text) {
     if (!messages()->texts(MessageList::Source::Error).endsWith(text))
         messages()->add(MessageList::Source::Error, text);
     auto* const box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::Ok, this);

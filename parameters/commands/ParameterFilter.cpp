@@ -25,16 +25,14 @@ ParameterFilter::ParameterFilter(QString const& text)
     : words_(text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {}
 
 bool ParameterFilter::finds(Kolt::VObject const& object, Kolt::VParameter const& parameter,
-                            Tessera::StrongPtr<Kolt::ValuePool> const& pool) const {
+                            Kolt::PoolPtr const& pool) const {
     if (isEmpty())
         return true;
-    return containAll(words_, QString::fromStdString(object.Name() + '.' + parameter.Name()), [&] {
-        auto const local = parameter.getLocalValue(pool, std::string(), false);
-        return QString::fromStdString((local ? local : parameter.ownValue())->Text());
-    });
+    return containAll(words_, QString::fromStdString(object.Name() + '.' + parameter.Name()),
+                      [&] { return QString::fromStdString(parameter.effectiveValue(pool)->Text()); });
 }
 
-bool ParameterFilter::finds(Kolt::VObject const& object, Tessera::StrongPtr<Kolt::ValuePool> const& pool) const {
+bool ParameterFilter::finds(Kolt::VObject const& object, Kolt::PoolPtr const& pool) const {
     auto const& parameters = object.parameters();
     return containAll(words_, QString::fromStdString(object.Name()), [] { return QString(); }) ||
            std::any_of(parameters.begin(), parameters.end(),

@@ -15,10 +15,9 @@ public:
 
     bool isEmpty() const { return words_.isEmpty(); }
     /// Whether a parameter of the object is found, with the value that it has in the pool, else with its own one.
-    bool finds(Kolt::VObject const& object, Kolt::VParameter const& parameter,
-               Tessera::StrongPtr<Kolt::ValuePool> const& pool) const;
+    bool finds(Kolt::VObject const& object, Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) const;
     /// Whether a parameter of the object is found, or the object itself by its name.
-    bool finds(Kolt::VObject const& object, Tessera::StrongPtr<Kolt::ValuePool> const& pool) const;
+    bool finds(Kolt::VObject const& object, Kolt::PoolPtr const& pool) const;
 
 private:
     QStringList words_;

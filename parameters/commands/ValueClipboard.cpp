@@ -11,14 +11,11 @@ namespace Talo {
 
 namespace {
 
-using Value = Tessera::StrongPtr<Kolt::VValueBase>;
-using Pool = Tessera::StrongPtr<Kolt::ValuePool>;
-
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(ValueClipboard)
 };
 
-bool haveSameFlags(Value const& left, Value const& right) {
+bool haveSameFlags(Kolt::ValuePtr const& left, Kolt::ValuePtr const& right) {
     Kolt::FlagList const none;
     auto const leftFlags = Kolt::valueOr(left, none);
     auto const rightFlags = Kolt::valueOr(right, none);
@@ -28,7 +25,8 @@ bool haveSameFlags(Value const& left, Value const& right) {
 
 /// The typed value for a parameter that holds `held`; null, and the reason unless it is of another type, where there is
 /// none.
-Value typedValue(QByteArray const& json, ValueFormat const& format, Value const& held, QString& error) {
+Kolt::ValuePtr typedValue(QByteArray const& json, ValueFormat const& format, Kolt::ValuePtr const& held,
+                          QString& error) {
     try {
         auto const root = JsonNode::parse(json);
         if (root.required("type", "a copied value").text("the type of a copied value") != QLatin1String(format.key))
@@ -52,9 +50,9 @@ QString ValueClipboard::mimeType() {
     return QStringLiteral("application/x-talo-value+json");
 }
 
-std::unique_ptr<QMimeData> ValueClipboard::copy(Kolt::VParameter const& parameter, Pool const& pool) {
+std::unique_ptr<QMimeData> ValueClipboard::copy(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
     auto data = std::make_unique<QMimeData>();
-    auto const held = Kolt::heldValue(parameter, pool).value;
+    auto const held = Kolt::copyEffectiveValue(parameter, pool).value;
     data->setText(QString::fromStdString(held->Text()));
     auto const* const format = ValueFormat::ofType(parameter.declaredType());
     if (!format)
@@ -69,10 +67,10 @@ std::unique_ptr<QMimeData> ValueClipboard::copy(Kolt::VParameter const& paramete
 }
 
 ValueClipboard::Pasted ValueClipboard::paste(QMimeData const& data, Kolt::VParameter const& parameter,
-                                             Pool const& pool) {
+                                             Kolt::PoolPtr const& pool) {
     auto const name = QString::fromStdString(parameter.Name());
     auto const* const format = ValueFormat::ofType(parameter.declaredType());
-    auto const held = Kolt::heldValue(parameter, pool).value;
+    auto const held = Kolt::copyEffectiveValue(parameter, pool).value;
     QString reason;
     if (format && data.hasFormat(mimeType())) {
         if (auto const value = typedValue(data.data(mimeType()), *format, held, reason))

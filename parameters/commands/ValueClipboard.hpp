@@ -15,19 +15,17 @@ public:
     static QString mimeType();
 
     /// What the parameter holds in the pool.
-    static std::unique_ptr<QMimeData> copy(Kolt::VParameter const& parameter,
-                                           Tessera::StrongPtr<Kolt::ValuePool> const& pool);
+    static std::unique_ptr<QMimeData> copy(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool);
 
     /// What came of a paste: a value object to hold, or null and the reason.
     struct Pasted {
-        Tessera::StrongPtr<Kolt::VValueBase> value;
+        Kolt::ValuePtr value;
         QString error;
     };
     /// The value for a parameter in a pool. A typed value of the parameter's type is taken as it is; of anything else
     /// the plain text is read (valueFromText), without the blanks around it where that is no text of the parameter's
     /// type. What the parameter does not know (another entry, another flag) is refused. Nothing is changed.
-    static Pasted paste(QMimeData const& data, Kolt::VParameter const& parameter,
-                        Tessera::StrongPtr<Kolt::ValuePool> const& pool);
+    static Pasted paste(QMimeData const& data, Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool);
 };
 
 } // namespace Talo

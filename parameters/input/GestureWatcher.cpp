@@ -86,7 +86,7 @@ void GestureWatcher::begin(Kind kind, QWidget* target) {
     ++number_;
     // A target that goes sees neither the release nor the loss of the focus.
     connect(target, &QObject::destroyed, this, &GestureWatcher::end);
-    Kolt::UndoHistory::theHistory().openGesture();
+    Kolt::UndoHistory::theHistory().beginMacro();
 }
 
 void GestureWatcher::end() {
@@ -97,7 +97,7 @@ void GestureWatcher::end() {
     if (target_)
         disconnect(target_, &QObject::destroyed, this, &GestureWatcher::end);
     target_.clear();
-    Kolt::UndoHistory::theHistory().closeGesture();
+    Kolt::UndoHistory::theHistory().endMacro();
 }
 
 void GestureWatcher::endLater() {

@@ -92,7 +92,7 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
 }
 
 ParameterRow::~ParameterRow() {
-    leaveDelivery();
+    stopNotifications();
 }
 
 ParameterRow* ParameterRow::rowOf(QWidget* widget) {
@@ -158,11 +158,10 @@ void ParameterRow::showPool() {
         rawValue_->refresh();
     showDefault();
     showNote();
-    describeEditor();
+    updateAccessibility();
 }
 
-void ParameterRow::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
-                                 Kolt::ValueMap const* properties) {
+void ParameterRow::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const* properties) {
     if (!properties)
         showDefault();
 }
@@ -170,7 +169,7 @@ void ParameterRow::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Ko
 void ParameterRow::showDefault() {
     auto const parameter = parameter_.strong();
     auto const* const defaults = parameter ? parameter->defaults() : nullptr;
-    if (!defaults || defaults->holdsIn(*parameter, pool())) {
+    if (!defaults || defaults->isEffectiveIn(*parameter, pool())) {
         if (marker_)
             marker_->hide();
         return;
@@ -266,10 +265,10 @@ void ParameterRow::nameEditor() {
         editor_.widget->setFocusProxy(firstControl);
     if (!firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && recorder_)
         new KeyboardPress(editor_.widget);
-    describeEditor();
+    updateAccessibility();
 }
 
-void ParameterRow::describeEditor() {
+void ParameterRow::updateAccessibility() {
     auto const parameter = parameter_.strong();
     if (!editor_.widget || !parameter)
         return;

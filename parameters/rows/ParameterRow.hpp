@@ -42,7 +42,7 @@ public:
     QString const& parameterName() const { return parameterName_; }
     Kolt::ParameterPtr parameter() const { return parameter_.strong(); }
     /// The chosen pool; null for none.
-    Tessera::StrongPtr<Kolt::ValuePool> pool() const { return pools_.pool(); }
+    Kolt::PoolPtr pool() const { return pools_.pool(); }
     /// Marks a value that is not the default; null as long as it never was another.
     ModifiedIndicator* defaultMarker() const { return marker_; }
     QLabel* nameLabel() const { return nameLabel_; }
@@ -80,17 +80,17 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+    void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
     void nameEditor();
-    void describeEditor();
+    void updateAccessibility();
     /// The editor and what is in it, as far as it takes the focus.
     std::vector<QWidget*> controls() const;
     void showNote();
 
     QString const objectName_;
     QString const parameterName_;
-    Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const parameter_;
+    Kolt::ParameterRef const parameter_;
     PoolSource& pools_;
     QWidget* const names_;
     QLabel* const nameLabel_;

@@ -14,11 +14,10 @@ RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSource con
 }
 
 RawValueLabel::~RawValueLabel() {
-    leaveDelivery();
+    stopNotifications();
 }
 
-void RawValueLabel::onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
-                                  Kolt::ValueMap const*) {
+void RawValueLabel::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) {
     // Read later: an edit renews the age stamp only after everybody was told. Any number of changes until then is one.
     if (!refreshWaits_.exchange(true))
         QMetaObject::invokeMethod(this, &RawValueLabel::refresh, Qt::QueuedConnection);
@@ -29,12 +28,12 @@ void RawValueLabel::refresh() {
     QString text;
     QString stamp;
     if (auto const parameter = parameter_.strong()) {
-        auto const local = parameter->getLocalValue(pools_.pool(), std::string(), false);
-        auto const value = local ? local : parameter->ownValue();
+        auto const value = parameter->effectiveValue(pools_.pool());
         text = QString::fromStdString(value->Text());
         stamp = tr("age %1").arg(value->age());
         if (parameter->keepsValuesPerPool())
-            stamp += local ? tr(", pool %1").arg(QString::fromStdString(pools_.pool()->Name())) : tr(", own value");
+            stamp += value != parameter->ownValue() ? tr(", pool %1").arg(QString::fromStdString(pools_.pool()->Name()))
+                                                    : tr(", own value");
     } else {
         stamp = tr("removed");
     }

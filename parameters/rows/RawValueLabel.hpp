@@ -34,10 +34,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+    void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
 
-    Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const parameter_;
+    Kolt::ParameterRef const parameter_;
     PoolSource const& pools_;
     QString text_;
     QString stamp_;

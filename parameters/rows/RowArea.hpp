@@ -71,7 +71,7 @@ protected:
 private:
     struct Entry {
         QString name;
-        Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> parameter;
+        Kolt::ParameterRef parameter;
         // What the row is like: rows of one sort are taken to be equally high.
         std::size_t sort = 0;
         std::size_t group = 0;

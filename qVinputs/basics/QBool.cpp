@@ -4,8 +4,7 @@
 
 namespace Kolt {
 
-QBool::QBool(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-             ValuePoolSource* poolSource, PreferencesPtr const&)
+QBool::QBool(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource, PreferencesPtr const&)
     : QFrame(parent), VInputValue<bool>(parameter, poolSource), checkBox_(new QCheckBox) {
     auto* const layout = new QHBoxLayout;
     layout->addWidget(checkBox_);
@@ -20,12 +19,12 @@ QBool::QBool(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, Q
 
 QBool::~QBool() = default;
 
-void QBool::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context, ValueMap const*) {
-    if (arrivalOf(newValue, context) != Arrival::Foreign)
+void QBool::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
+    if (arrivalOf(newValue, context) != Arrival::OtherPool)
         showValue(newValue);
 }
 
-void QBool::showValue(Tessera::StrongPtr<VValueBase> const& value) {
+void QBool::showValue(ValuePtr const& value) {
     auto const* const typed = dynamic_cast<VValue<bool> const*>(value.get());
     if (!typed || !typed->get(cached_) || !checkBox_)
         return;

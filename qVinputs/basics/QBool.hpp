@@ -15,19 +15,18 @@ class QBool : public QFrame, public VInputValue<bool> {
     Q_OBJECT
 
 public:
-    QBool(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-          ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    QBool(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+          PreferencesPtr const& preferences);
     ~QBool() override;
 
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// The user's edit.
     void clicked(bool checked);
 
 private:
-    void showValue(Tessera::StrongPtr<VValueBase> const& value);
+    void showValue(ValuePtr const& value);
 
     QPointer<QCheckBox> checkBox_;
 };

@@ -107,8 +107,8 @@ void MyQDial::mousePressEvent(QMouseEvent*) {}
 
 void MyQDial::keyPressEvent(QKeyEvent*) {}
 
-QFloat::QFloat(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-               ValuePoolSource* poolSource, PreferencesPtr const& preferences)
+QFloat::QFloat(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+               PreferencesPtr const& preferences)
     : QFrame(parent), VInputValue<double>(parameter, poolSource) {
     setContextMenuPolicy(Qt::ActionsContextMenu);
     setLayout(new QHBoxLayout);
@@ -246,8 +246,7 @@ void QFloat::textEnter() {
         showText(shown_);
 }
 
-void QFloat::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                           ValueMap const* properties) {
+void QFloat::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
     if (properties) {
         applyProperties(properties);
         // The handle's position stands for another value now, and the text may have other decimals.
@@ -259,13 +258,13 @@ void QFloat::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VCont
     if (!typed || !typed->get(value))
         return;
     switch (arrivalOf(newValue, context)) {
-    case Arrival::Foreign:
+    case Arrival::OtherPool:
         break;
-    case Arrival::Held:
+    case Arrival::Current:
         cached_ = value;
         showNumber(value);
         break;
-    case Arrival::New:
+    case Arrival::NotYetStored:
         showAndWrite(value);
         break;
     }

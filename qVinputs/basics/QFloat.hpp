@@ -56,12 +56,11 @@ class QFloat : public QFrame, public VInputValue<double> {
     Q_OBJECT
 
 public:
-    QFloat(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-           ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    QFloat(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+           PreferencesPtr const& preferences);
     ~QFloat() override;
 
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// The control moved.

@@ -16,7 +16,7 @@ constexpr char MinimumProperty[] = "min";
 // How much a move of the control matters to the history.
 constexpr int UndoWeight = 20;
 
-int sliderMaximumFor(Tessera::StrongPtr<VValueBase> const& value) {
+int sliderMaximumFor(ValuePtr const& value) {
     auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
     int number = 0;
     if (!typed || !typed->get(number))
@@ -55,8 +55,8 @@ bool IntegerUndo::undo() {
     return true;
 }
 
-QInteger::QInteger(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                   ValuePoolSource* poolSource, PreferencesPtr const& preferences)
+QInteger::QInteger(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                   PreferencesPtr const& preferences)
     : QWidget(parent), VInputValue<int>(parameter, poolSource), layout_(new QHBoxLayout) {
     layout_->setContentsMargins(0, 0, 0, 0);
     addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new QIntegerIconizer(*this)));
@@ -218,8 +218,7 @@ void QInteger::textEnter() {
     commit(number);
 }
 
-void QInteger::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                             ValueMap const* properties) {
+void QInteger::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
     // These defaults differ from those of the construction: a range that somebody narrows is a percentage.
     if (properties)
         setRange(propertyOr(properties, MinimumProperty, 0), propertyOr(properties, MaximumProperty, 100));
@@ -229,15 +228,15 @@ void QInteger::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VCo
     if (!typed || !typed->get(value))
         return;
     switch (arrivalOf(newValue, context)) {
-    case Arrival::Foreign:
+    case Arrival::OtherPool:
         // A step taken back in another pool was written through this input; the next edit starts from what is shown.
         cached_ = shown_;
         break;
-    case Arrival::Held:
+    case Arrival::Current:
         cached_ = value;
         showNumber(value);
         break;
-    case Arrival::New:
+    case Arrival::NotYetStored:
         if (owner())
             showAndWrite(value);
         break;

@@ -43,12 +43,11 @@ class QInteger : public QWidget, public VInputValue<int> {
     Q_OBJECT
 
 public:
-    QInteger(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-             ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    QInteger(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+             PreferencesPtr const& preferences);
     ~QInteger() override;
 
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// The control moved.

@@ -9,12 +9,11 @@ public:
     explicit LCDNotifier(IntegerIcon* icon) : icon_(icon) {}
 
     void leaveIcon() { icon_ = nullptr; }
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const*) override {
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) override {
         if (!icon_)
             return;
         auto const parameter = icon_->parameter_.strong();
-        if (!parameter || !belongsElsewhere(*parameter, currentPool(icon_->provider()), newValue, context))
+        if (!parameter || !isForOtherPool(*parameter, currentPool(icon_->provider()), newValue, context))
             icon_->showValue(newValue);
     }
 
@@ -22,7 +21,7 @@ private:
     IntegerIcon* icon_;
 };
 
-IntegerIcon::IntegerIcon(QWidget* parent, Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter,
+IntegerIcon::IntegerIcon(QWidget* parent, ParameterRef const& parameter,
                          Tessera::WeakPtr<VObject, VManagedObjectBase> const& object,
                          Tessera::StrongPtr<ValuePoolProvider> const& provider)
     : VIcon(object, provider), QLCDNumber(parent), notifier_(new LCDNotifier(this)), parameter_(parameter) {
@@ -38,7 +37,7 @@ IntegerIcon::~IntegerIcon() {
     notifier_->leaveIcon();
 }
 
-void IntegerIcon::showValue(Tessera::StrongPtr<VValueBase> const& value) {
+void IntegerIcon::showValue(ValuePtr const& value) {
     auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
     int number = 0;
     if (typed && typed->get(number))

@@ -11,7 +11,7 @@ namespace Kolt {
 class IntegerIcon : public VIcon, public QLCDNumber {
 public:
     /// Shows the value that the parameter has in the provider's pool, 0 where it has none there or is gone.
-    IntegerIcon(QWidget* parent, Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter,
+    IntegerIcon(QWidget* parent, ParameterRef const& parameter,
                 Tessera::WeakPtr<VObject, VManagedObjectBase> const& object,
                 Tessera::StrongPtr<ValuePoolProvider> const& provider);
     ~IntegerIcon() override;
@@ -21,10 +21,10 @@ public:
 private:
     class LCDNotifier;
 
-    void showValue(Tessera::StrongPtr<VValueBase> const& value);
+    void showValue(ValuePtr const& value);
 
     Tessera::StrongPtr<LCDNotifier, ValueNotifier> notifier_;
-    Tessera::WeakPtr<VParameter, ValueNotifierList> parameter_;
+    ParameterRef parameter_;
 };
 
 /// Makes the icons of an integer input's parameter. Every integer input carries one. It refers to the parameter weakly
@@ -38,7 +38,7 @@ public:
                       Tessera::StrongPtr<ValuePoolProvider> const& provider) override;
 
 private:
-    Tessera::WeakPtr<VParameter, ValueNotifierList> parameter_;
+    ParameterRef parameter_;
 };
 
 } // namespace Kolt

@@ -19,8 +19,7 @@ QString labelOf(ParameterPtr const& parameter) {
 
 } // namespace
 
-qVAction::qVAction(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                   ValuePoolSource* poolSource, PreferencesPtr const&)
+qVAction::qVAction(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource, PreferencesPtr const&)
     : QPushButton(parent),
       VInputValue<Tessera::StrongPtr<VAction>>(parameter, poolSource),
       pool_(pool()),
@@ -33,7 +32,7 @@ qVAction::qVAction(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parame
 
 qVAction::~qVAction() = default;
 
-void qVAction::onValueChange(Tessera::StrongPtr<VValueBase> const&, VContext const&, ValueMap const*) {
+void qVAction::onValueChange(ValuePtr const&, VContext const&, ValueMap const*) {
     showDecoration();
 }
 

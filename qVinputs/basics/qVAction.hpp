@@ -18,13 +18,12 @@ class qVAction : public QPushButton, public VInputValue<Tessera::StrongPtr<VActi
     Q_OBJECT
 
 public:
-    qVAction(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-             ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    qVAction(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+             PreferencesPtr const& preferences);
     ~qVAction() override;
 
     /// Shows the icon and tool tip that the parameter has by now; the value itself is not shown.
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// The user's click: fires the action in the pool of this moment. Without a pool nothing happens; where the
@@ -35,7 +34,7 @@ public slots:
 private:
     void showDecoration();
 
-    Tessera::StrongPtr<ValuePool> pool_;
+    PoolPtr pool_;
     Tessera::StrongPtr<VAction> const action_;
 };
 

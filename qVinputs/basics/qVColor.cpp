@@ -30,8 +30,8 @@ void MyColorDialog::closeEvent(QCloseEvent* event) {
     hide();
 }
 
-qVColorInput::qVColorInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                           ValuePoolSource* poolSource, PreferencesPtr const&)
+qVColorInput::qVColorInput(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                           PreferencesPtr const&)
     : VInputValue<Ferro::rgba_float_t>(parameter, poolSource), label_(new qVColor(*this, parent)) {
     if (fetchValue(pool(), std::string()) || !showValue(ownValue()))
         label_->showColour(cached_);
@@ -40,13 +40,12 @@ qVColorInput::qVColorInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const
 
 qVColorInput::~qVColorInput() = default;
 
-void qVColorInput::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                                 ValueMap const*) {
-    if (arrivalOf(newValue, context) != Arrival::Foreign)
+void qVColorInput::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
+    if (arrivalOf(newValue, context) != Arrival::OtherPool)
         showValue(newValue);
 }
 
-bool qVColorInput::showValue(Tessera::StrongPtr<VValueBase> const& value) {
+bool qVColorInput::showValue(ValuePtr const& value) {
     auto const* const typed = dynamic_cast<VValue<Ferro::rgba_float_t> const*>(value.get());
     if (!typed || !typed->get(cached_))
         return false;
@@ -135,8 +134,7 @@ MyqVColorCreator::MyQCreator::MyQCreator(MyqVColorCreator& creator) : creator_(c
 MyqVColorCreator::MyQCreator::~MyQCreator() = default;
 
 std::pair<QPointer<QWidget>, InputRef>
-MyqVColorCreator::MyQCreator::create(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                                     ValuePoolSource* poolSource) {
+MyqVColorCreator::MyQCreator::create(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource) {
     auto const preferences = mergePreferences(nullptr, creator_.preferences());
     auto input = std::make_unique<qVColorInput>(parameter, parent, poolSource, preferences);
     InputRef const reference(input.get());

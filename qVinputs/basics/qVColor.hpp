@@ -31,12 +31,11 @@ protected:
 /// with the pool's colour, else the parameter's own, else opaque black. The preferences are not looked at.
 class qVColorInput : public VInputValue<Ferro::rgba_float_t> {
 public:
-    qVColorInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                 ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    qVColorInput(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                 PreferencesPtr const& preferences);
     ~qVColorInput() override;
 
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
     /// The label; null once it was destroyed.
     qVColor* label() const { return label_; }
@@ -46,7 +45,7 @@ public:
     void choose(Ferro::rgba_float_t const& colour);
 
 private:
-    bool showValue(Tessera::StrongPtr<VValueBase> const& value);
+    bool showValue(ValuePtr const& value);
 
     QPointer<qVColor> label_;
 };
@@ -104,8 +103,8 @@ public:
         ~MyQCreator() override;
 
         /// Gives the label and its input.
-        std::pair<QPointer<QWidget>, InputRef> create(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter,
-                                                      QWidget* parent, ValuePoolSource* poolSource) override;
+        std::pair<QPointer<QWidget>, InputRef> create(ParameterRef const& parameter, QWidget* parent,
+                                                      ValuePoolSource* poolSource) override;
 
     private:
         // The creator owns this interface.

@@ -3,8 +3,8 @@
 
 namespace Kolt {
 
-qVFlagList::qVFlagList(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                       ValuePoolSource* poolSource, PreferencesPtr const&)
+qVFlagList::qVFlagList(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                       PreferencesPtr const&)
     : QFrame(parent), VInputValue<Options>(parameter, poolSource), layout_(new QVBoxLayout) {
     setLayout(layout_);
     layout_->setContentsMargins(1, 1, 1, 1);
@@ -16,13 +16,12 @@ qVFlagList::qVFlagList(Tessera::WeakPtr<VParameter, ValueNotifierList> const& pa
 
 qVFlagList::~qVFlagList() = default;
 
-void qVFlagList::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                               ValueMap const*) {
-    if (arrivalOf(newValue, context) != Arrival::Foreign)
+void qVFlagList::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
+    if (arrivalOf(newValue, context) != Arrival::OtherPool)
         showValue(newValue);
 }
 
-void qVFlagList::showValue(Tessera::StrongPtr<VValueBase> const& value) {
+void qVFlagList::showValue(ValuePtr const& value) {
     auto const* const typed = dynamic_cast<VValue<Options> const*>(value.get());
     if (!typed || !typed->get(cached_))
         return;

@@ -21,19 +21,18 @@ class qVFlagList : public QFrame, public VInputValue<Options> {
     Q_OBJECT
 
 public:
-    qVFlagList(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-               ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    qVFlagList(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+               PreferencesPtr const& preferences);
     ~qVFlagList() override;
 
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// The user toggled a box; which one, and how, does not matter.
     void GotABoxChanged(int state);
 
 private:
-    void showValue(Tessera::StrongPtr<VValueBase> const& value);
+    void showValue(ValuePtr const& value);
     void makeMissingBoxes();
 
     QPointer<QVBoxLayout> layout_;

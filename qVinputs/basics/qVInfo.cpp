@@ -3,8 +3,7 @@
 
 namespace Kolt {
 
-qVInfo::qVInfo(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-               ValuePoolSource* poolSource, PreferencesPtr const&)
+qVInfo::qVInfo(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource, PreferencesPtr const&)
     : QLabel(parent), VInputValue<info>(parameter, poolSource) {
     readOwnValue();
     setText(QString::fromStdString(cached_.text));
@@ -13,9 +12,8 @@ qVInfo::qVInfo(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter,
 
 qVInfo::~qVInfo() = default;
 
-void qVInfo::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                           ValueMap const* properties) {
-    if (arrivalOf(newValue, context) != Arrival::Foreign && take(newValue, properties))
+void qVInfo::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
+    if (arrivalOf(newValue, context) != Arrival::OtherPool && take(newValue, properties))
         setText(QString::fromStdString(cached_.text));
 }
 

@@ -12,13 +12,12 @@ namespace Kolt {
 /// the label is empty.
 class qVInfo : public QLabel, public VInputValue<info> {
 public:
-    qVInfo(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-           ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    qVInfo(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+           PreferencesPtr const& preferences);
     ~qVInfo() override;
 
     /// Shows an info; any other value is ignored.
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 };
 
 } // namespace Kolt

@@ -49,8 +49,8 @@ std::string rowText(QListWidgetItem const& item) {
 
 } // namespace
 
-qVMultipleStringList::qVMultipleStringList(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter,
-                                           QWidget* parent, ValuePoolSource* poolSource, PreferencesPtr const&)
+qVMultipleStringList::qVMultipleStringList(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                                           PreferencesPtr const&)
     : QFrame(parent),
       VInputValue<VMultipleStringList>(parameter, poolSource),
       layout_(new QHBoxLayout(this)),
@@ -103,13 +103,12 @@ qVMultipleStringList::qVMultipleStringList(Tessera::WeakPtr<VParameter, ValueNot
 
 qVMultipleStringList::~qVMultipleStringList() = default;
 
-void qVMultipleStringList::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                                         ValueMap const*) {
-    if (arrivalOf(newValue, context) != Arrival::Foreign)
+void qVMultipleStringList::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
+    if (arrivalOf(newValue, context) != Arrival::OtherPool)
         showValue(newValue);
 }
 
-void qVMultipleStringList::showValue(Tessera::StrongPtr<VValueBase> const& value) {
+void qVMultipleStringList::showValue(ValuePtr const& value) {
     auto const* const typed = dynamic_cast<VValue<VMultipleStringList> const*>(value.get());
     if (!typed || !typed->get(cached_) || !cached_)
         return;

@@ -76,12 +76,11 @@ public:
         void mouseReleaseEvent(QMouseEvent* event) override;
     };
 
-    qVMultipleStringList(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                         ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    qVMultipleStringList(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                         PreferencesPtr const& preferences);
     ~qVMultipleStringList() override;
 
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// Does nothing.
@@ -98,7 +97,7 @@ private:
     /// One entry for each row of the list.
     using Rows = std::vector<bool>;
 
-    void showValue(Tessera::StrongPtr<VValueBase> const& value);
+    void showValue(ValuePtr const& value);
     int widthOfTexts();
     int rowCount() const;
     Rows selectedRows() const;

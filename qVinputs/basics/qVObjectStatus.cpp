@@ -4,8 +4,8 @@
 
 namespace Kolt {
 
-qVObjectStatus::qVObjectStatus(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                               ValuePoolSource* poolSource, PreferencesPtr const&)
+qVObjectStatus::qVObjectStatus(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                               PreferencesPtr const&)
     : QLabel(parent), VInputValue<VObjectStatus>(parameter, poolSource), shownPool_(pool().get()) {
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse);
     readOwnValue();
@@ -16,11 +16,10 @@ qVObjectStatus::qVObjectStatus(Tessera::WeakPtr<VParameter, ValueNotifierList> c
 
 qVObjectStatus::~qVObjectStatus() {
     // A worker may be in the middle of a report, which works on the members below.
-    leaveDelivery();
+    stopNotifications();
 }
 
-void qVObjectStatus::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                                   ValueMap const* properties) {
+void qVObjectStatus::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
     if (isForeign(newValue, context))
         return;
     QString text;
@@ -33,10 +32,10 @@ void qVObjectStatus::onValueChange(Tessera::StrongPtr<VValueBase> const& newValu
     emit myUpdateLabelText(text);
 }
 
-bool qVObjectStatus::isForeign(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context) {
+bool qVObjectStatus::isForeign(ValuePtr const& newValue, VContext const& context) {
     if (QThread::currentThread() == thread()) {
         shownPool_ = pool().get();
-        return arrivalOf(newValue, context) == Arrival::Foreign;
+        return arrivalOf(newValue, context) == Arrival::OtherPool;
     }
     // The pool source and the parameter's pools may be asked on the user-interface thread alone. The front end reports
     // there when it switches the pool, so the one seen last is the current one.

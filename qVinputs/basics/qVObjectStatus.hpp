@@ -18,20 +18,19 @@ class qVObjectStatus : public QLabel, public VInputValue<VObjectStatus> {
     Q_OBJECT
 
 public:
-    qVObjectStatus(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                   ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    qVObjectStatus(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                   PreferencesPtr const& preferences);
     ~qVObjectStatus() override;
 
     /// Passes the text of a status on to the label; any other value is ignored. Any thread.
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 signals:
     /// The label is to show this text.
     void myUpdateLabelText(QString const& text);
 
 private:
-    bool isForeign(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context);
+    bool isForeign(ValuePtr const& newValue, VContext const& context);
 
     // The front end and a worker may both report at one moment.
     std::mutex mutex_;

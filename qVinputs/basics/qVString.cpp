@@ -17,8 +17,7 @@ bool isCommitTrigger(QEvent::Type type) {
 
 } // namespace
 
-qVString::qVString(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                   ValuePoolSource* poolSource, PreferencesPtr const&)
+qVString::qVString(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource, PreferencesPtr const&)
     : QTextEdit(parent), VInputValue<string>(parameter, poolSource) {
     setAcceptRichText(false);
     readOwnValue();
@@ -32,13 +31,12 @@ qVString::~qVString() {
     destroying_ = true;
 }
 
-void qVString::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                             ValueMap const* properties) {
+void qVString::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
     // The input is told of its own commits; a long document need not be read again for each of them.
     auto const* const typed = dynamic_cast<VTypedValueBase<string> const*>(newValue.get());
     if (document()->revision() == committedRevision_ && typed && typed->holds(cached_))
         return;
-    if (arrivalOf(newValue, context) == Arrival::Foreign || !take(newValue, properties))
+    if (arrivalOf(newValue, context) == Arrival::OtherPool || !take(newValue, properties))
         return;
     auto const text = QString::fromStdString(cached_);
     if (document()->toPlainText() != text)

@@ -21,13 +21,12 @@ class qVString : public QTextEdit, public VInputValue<string> {
     Q_OBJECT
 
 public:
-    qVString(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-             ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    qVString(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+             PreferencesPtr const& preferences);
     ~qVString() override;
 
     /// Shows a text; any other value is ignored. Cursor and selection stay where the text is the shown one.
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// Commits the text of the document.

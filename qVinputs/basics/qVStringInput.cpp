@@ -5,8 +5,8 @@
 
 namespace Kolt {
 
-qVStringInput::qVStringInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                             ValuePoolSource* poolSource, PreferencesPtr const& preferences)
+qVStringInput::qVStringInput(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                             PreferencesPtr const& preferences)
     : QLineEdit(parent), VInputValue<string>(parameter, poolSource) {
     readOwnValue();
     if (auto const font = smallBoldFont("DejaVu Sans Mono"))
@@ -29,9 +29,8 @@ qVStringInput::qVStringInput(Tessera::WeakPtr<VParameter, ValueNotifierList> con
 
 qVStringInput::~qVStringInput() = default;
 
-void qVStringInput::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                                  ValueMap const* properties) {
-    if (arrivalOf(newValue, context) != Arrival::Foreign && take(newValue, properties))
+void qVStringInput::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
+    if (arrivalOf(newValue, context) != Arrival::OtherPool && take(newValue, properties))
         setText(QString::fromStdString(cached_));
 }
 

@@ -24,13 +24,12 @@ class qVStringInput : public QLineEdit, public VInputValue<string> {
 
 public:
     /// `preferences` may be null.
-    qVStringInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                  ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    qVStringInput(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                  PreferencesPtr const& preferences);
     ~qVStringInput() override;
 
     /// Shows a text; any other value is ignored.
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// Commits the text in the field.

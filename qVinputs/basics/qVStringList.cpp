@@ -3,8 +3,8 @@
 
 namespace Kolt {
 
-qVStringList::qVStringList(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                           ValuePoolSource* poolSource, PreferencesPtr const& preferences)
+qVStringList::qVStringList(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                           PreferencesPtr const& preferences)
     : QFrame(parent),
       VInputValue<VStringList>(parameter, poolSource),
       layout_(new QHBoxLayout),
@@ -45,9 +45,8 @@ void qVStringList::fill() {
     comboBox_->setCurrentIndex(current);
 }
 
-void qVStringList::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                                 ValueMap const*) {
-    if (arrivalOf(newValue, context) == Arrival::Foreign)
+void qVStringList::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
+    if (arrivalOf(newValue, context) == Arrival::OtherPool)
         return;
     auto const* const typed = dynamic_cast<VValue<VStringList> const*>(newValue.get());
     if (typed && typed->get(cached_) && cached_)

@@ -21,12 +21,11 @@ class qVStringList : public QFrame, public VInputValue<VStringList> {
     Q_OBJECT
 
 public:
-    qVStringList(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                 ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    qVStringList(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                 PreferencesPtr const& preferences);
     ~qVStringList() override;
 
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// The user chose or typed a text.

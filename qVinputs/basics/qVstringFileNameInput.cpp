@@ -8,13 +8,12 @@
 
 namespace Kolt {
 
-VQStringFileNameInput::VQStringFileNameInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter,
-                                             QWidget* parent, ValuePoolSource* poolSource,
-                                             PreferencesPtr const& preferences)
+VQStringFileNameInput::VQStringFileNameInput(ParameterRef const& parameter, QWidget* parent,
+                                             ValuePoolSource* poolSource, PreferencesPtr const& preferences)
     : QPushButton(parent), VInputValue<string>(parameter, poolSource) {
     readOwnValue();
     if (preferences && preferences->contains("FileInput")) {
-        opens_ = true;
+        isOpenDialog_ = true;
         if (cached_.empty())
             setText(tr("Select File"));
         else
@@ -40,9 +39,9 @@ VQStringFileNameInput::~VQStringFileNameInput() {
     }
 }
 
-void VQStringFileNameInput::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
+void VQStringFileNameInput::onValueChange(ValuePtr const& newValue, VContext const& context,
                                           ValueMap const* properties) {
-    if (arrivalOf(newValue, context) != Arrival::Foreign && take(newValue, properties))
+    if (arrivalOf(newValue, context) != Arrival::OtherPool && take(newValue, properties))
         showName(QString::fromStdString(cached_));
 }
 
@@ -53,7 +52,7 @@ void VQStringFileNameInput::showName(QString const& name) {
 
 QString VQStringFileNameInput::chooseName() {
     auto const directory = QString::fromStdString(cached_);
-    if (!opens_)
+    if (!isOpenDialog_)
         return QFileDialog::getSaveFileName(this, tr("Save File"), directory, filter_);
     auto const filter = QString::fromStdString(textProperty(owner().strong(), "Extension"));
     return QFileDialog::getOpenFileName(this, tr("Select File"), directory, filter);
@@ -62,8 +61,7 @@ QString VQStringFileNameInput::chooseName() {
 void VQStringFileNameInput::myFileNameGui() {
     class It : public VManagedObjectIterator {
     public:
-        It(Tessera::StrongPtr<ValuePool> pool, ParameterPtr parameter)
-            : pool_(std::move(pool)), parameter_(std::move(parameter)) {}
+        It(PoolPtr pool, ParameterPtr parameter) : pool_(std::move(pool)), parameter_(std::move(parameter)) {}
 
         bool visit(VManagedObject& managed) override {
             auto* const object = dynamic_cast<VObject*>(&managed);
@@ -73,7 +71,7 @@ void VQStringFileNameInput::myFileNameGui() {
         }
 
     private:
-        Tessera::StrongPtr<ValuePool> pool_;
+        PoolPtr pool_;
         ParameterPtr parameter_;
     };
 
@@ -81,7 +79,7 @@ void VQStringFileNameInput::myFileNameGui() {
     auto const name = chooseName();
     if (!living)
         return;
-    if (opens_) {
+    if (isOpenDialog_) {
         showName(name);
         if (name.isEmpty())
             setText(QLatin1String("Select File"));

@@ -27,13 +27,12 @@ class VQStringFileNameInput : public QPushButton, public VInputValue<string> {
 
 public:
     /// `preferences` may be null, which chooses a file to write.
-    VQStringFileNameInput(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-                          ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    VQStringFileNameInput(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                          PreferencesPtr const& preferences);
     ~VQStringFileNameInput() override;
 
     /// Shows the base name of a text; any other value is ignored.
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// Runs the dialog and commits what was chosen.
@@ -44,7 +43,7 @@ private:
     void showName(QString const& name);
 
     QString filter_;
-    bool opens_ = false;
+    bool isOpenDialog_ = false;
 };
 
 } // namespace Kolt

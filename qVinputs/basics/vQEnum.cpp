@@ -11,8 +11,7 @@ constexpr int defaultColumnCount = 3;
 
 } // namespace
 
-vQEnum::vQEnum(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-               ValuePoolSource* poolSource, PreferencesPtr const&)
+vQEnum::vQEnum(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource, PreferencesPtr const&)
     : QGroupBox(parent), VInputValue<Enum>(parameter, poolSource) {
     auto* const layout = new QGridLayout;
     layout->setContentsMargins(0, 0, 0, 0);
@@ -58,8 +57,8 @@ int vQEnum::columnCount() const {
     return wrap < 1 ? defaultColumnCount : wrap;
 }
 
-void vQEnum::onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context, ValueMap const*) {
-    if (arrivalOf(newValue, context) == Arrival::Foreign)
+void vQEnum::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
+    if (arrivalOf(newValue, context) == Arrival::OtherPool)
         return;
     auto const* const typed = dynamic_cast<VValue<Enum> const*>(newValue.get());
     if (!typed || !typed->get(cached_))

@@ -23,12 +23,11 @@ class vQEnum : public QGroupBox, public VInputValue<Enum> {
     Q_OBJECT
 
 public:
-    vQEnum(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, QWidget* parent,
-           ValuePoolSource* poolSource, PreferencesPtr const& preferences);
+    vQEnum(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+           PreferencesPtr const& preferences);
     ~vQEnum() override;
 
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const& context,
-                       ValueMap const* properties) override;
+    void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// A button was marked (`on`) or lost its mark, by the user or by a change from elsewhere.

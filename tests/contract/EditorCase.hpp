@@ -9,7 +9,7 @@
 /// One editor of the contract: how to open it, read what it shows, and edit as a user does. Every editor that the
 /// plug-in registers has one, and passes the same tests.
 struct EditorCase {
-    using Value = Tessera::StrongPtr<Kolt::VValueBase>;
+    using Value = Kolt::ValuePtr;
 
     /// Names the tests: letters and digits alone.
     std::string name;

@@ -12,7 +12,7 @@ class EditorContract : public PluginTest, public testing::WithParamInterface<Edi
 protected:
     EditorCase const& editorCase() const { return GetParam(); }
 
-    ParameterPtr parameterWith(Tessera::StrongPtr<Kolt::VValueBase> const& value, Values values = Values::Shared) {
+    ParameterPtr parameterWith(Kolt::ValuePtr const& value, Values values = Values::Shared) {
         auto declaredType = editorCase().declaredType;
         if (declaredType.empty())
             declaredType = Tessera::Typename(editorCase().makeValue(0)->valueType());
@@ -22,7 +22,7 @@ protected:
         return parameterWith(editorCase().makeValue(n), values);
     }
     /// A parameter of which nothing is left.
-    Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> deadParameter() { return parameterWith(0); }
+    Kolt::ParameterRef deadParameter() { return parameterWith(0); }
 
     void expectShown(Kolt::Editor const& editor, Kolt::VValueBase const& value) {
         if (editorCase().showsValue) {
@@ -30,8 +30,7 @@ protected:
         }
     }
     /// Makes the n-th value of the parameter's value object and tells everybody, as another editor does.
-    void changeElsewhere(ParameterPtr const& parameter, Tessera::StrongPtr<Kolt::VValueBase> const& value, int n,
-                         Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+    void changeElsewhere(ParameterPtr const& parameter, Kolt::ValuePtr const& value, int n, Kolt::PoolPtr const& pool) {
         editorCase().change(*value, n);
         parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);
     }

@@ -23,7 +23,7 @@ protected:
     void SetUp() override {
         FractalNetworkTest::SetUp();
         for (auto* const exporter : Fractal::ComputingNetwork(*network).all<ExporterObject>()) {
-            exporter->setWriter([&](ExporterObject::Format format, QString const& file, Fractal::PoolPtr const& pool) {
+            exporter->setWriter([&](ExporterObject::Format format, QString const& file, Kolt::PoolPtr const& pool) {
                 written.push_back((format == ExporterObject::Format::Png ? "png " : "pdf ") + file.toStdString() + " " +
                                   pool->Name());
             });

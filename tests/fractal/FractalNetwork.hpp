@@ -96,7 +96,7 @@ protected:
 
     Kolt::ParameterPtr parameter(char const* name) const { return network->findParameter(QString::fromUtf8(name)); }
     /// Sets a value as the host would.
-    void set(char const* name, QString const& text, Fractal::PoolPtr const& pool) const {
+    void set(char const* name, QString const& text, Kolt::PoolPtr const& pool) const {
         QString error;
         EXPECT_TRUE(network->setText(QString::fromUtf8(name), text, pool, &error)) << qPrintable(error);
     }
@@ -110,16 +110,16 @@ protected:
         }
         Kolt::VScheduler::runDue();
     }
-    std::string valueOf(char const* name, Fractal::PoolPtr const& pool) const {
-        return Fractal::heldValue(parameter(name), pool)->Text();
+    std::string valueOf(char const* name, Kolt::PoolPtr const& pool) const {
+        return Fractal::effectiveValue(parameter(name), pool)->Text();
     }
-    Fractal::FractalSettings settings(Fractal::PoolPtr const& pool) const {
+    Fractal::FractalSettings settings(Kolt::PoolPtr const& pool) const {
         return Fractal::ComputingNetwork(*network).settings(pool);
     }
 
     QTemporaryDir folder;
     Warnings warnings;
     std::unique_ptr<Talo::Network> network;
-    Fractal::PoolPtr draft;
-    Fractal::PoolPtr final;
+    Kolt::PoolPtr draft;
+    Kolt::PoolPtr final;
 };

@@ -29,7 +29,7 @@ protected:
         return waitUntil([this] { return maker.isAtRest(); });
     }
     /// The fine picture of a pool, computed here.
-    QImage expected(Fractal::PoolPtr const& pool, QSize const& size = {120, 90}) const {
+    QImage expected(Kolt::PoolPtr const& pool, QSize const& size = {120, 90}) const {
         std::atomic<bool> const cancelled{false};
         return Fractal::Picture::compute({settings(pool), size, true, 1}, Fractal::FractalRenderer(1), cancelled)
             .value()

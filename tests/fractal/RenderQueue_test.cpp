@@ -21,7 +21,7 @@ public:
     explicit Reports(Kolt::ParameterPtr const& status) {
         status->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     }
-    ~Reports() override { leaveDelivery(); }
+    ~Reports() override { stopNotifications(); }
 
     std::vector<std::string> texts() const {
         std::lock_guard const lock(mutex_);
@@ -30,8 +30,7 @@ public:
     int fromElsewhere() const { return fromElsewhere_; }
 
 private:
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& value, Kolt::VContext const&,
-                       Kolt::ValueMap const*) override {
+    void onValueChange(Kolt::ValuePtr const& value, Kolt::VContext const&, Kolt::ValueMap const*) override {
         std::lock_guard const lock(mutex_);
         texts_.push_back(value->Text());
         fromElsewhere_ += std::this_thread::get_id() == home_ ? 0 : 1;
@@ -49,13 +48,12 @@ public:
     explicit Display(Kolt::ParameterPtr const& status) {
         status->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     }
-    ~Display() override { leaveDelivery(); }
+    ~Display() override { stopNotifications(); }
 
     std::string shown;
 
 private:
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& value, Kolt::VContext const&,
-                       Kolt::ValueMap const*) override {
+    void onValueChange(Kolt::ValuePtr const& value, Kolt::VContext const&, Kolt::ValueMap const*) override {
         QMetaObject::invokeMethod(
             this, [this, text = value->Text()] { shown = text; }, Qt::AutoConnection);
     }
@@ -66,10 +64,10 @@ protected:
     void SetUp() override {
         FractalNetworkTest::SetUp();
         reports = std::make_unique<Reports>(parameter("render.status"));
-        QObject::connect(&renderQueue, &RenderQueue::told, &renderQueue,
+        QObject::connect(&renderQueue, &RenderQueue::reported, &renderQueue,
                          [this](QString const& text) { told.push_back(text.toStdString()); });
         QObject::connect(&renderQueue, &RenderQueue::computed, &renderQueue,
-                         [this](QImage const& image, Fractal::PoolPtr const&) { computed.push_back(image); });
+                         [this](QImage const& image, Kolt::PoolPtr const&) { computed.push_back(image); });
         renderQueue.setNetwork(network.get());
     }
     void TearDown() override {

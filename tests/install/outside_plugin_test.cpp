@@ -16,7 +16,7 @@ protected:
 TEST_F(OutsidePluginTest, ItsEditorIsChosenByItsPreferenceAndWrites) {
     auto const loaded = loader.load(TALO_OUTSIDE_PLUGIN);
     ASSERT_TRUE(loaded.ok) << loaded.message;
-    pools.use(Tessera::StrongPtr<Kolt::ValuePool>(new Kolt::ValuePool));
+    pools.use(Kolt::PoolPtr(new Kolt::ValuePool));
     {
         Kolt::ParameterPtr const parameter(new Kolt::VParameter("count", Kolt::makeValue(41)));
         parameter->setCreationPreferences(Kolt::PreferencesPtr(new Kolt::VCreationPreferences(std::string("spin"))));

@@ -48,7 +48,7 @@ private:
 
 /// The content of a value object, which must be a T.
 template <typename T>
-T content(Tessera::StrongPtr<Kolt::VValueBase> const& value) {
+T content(Kolt::ValuePtr const& value) {
     T read{};
     auto const* const typed = dynamic_cast<Kolt::VTypedValueBase<T> const*>(value.get());
     EXPECT_TRUE(typed && typed->get(read)) << "the value is no " << Tessera::Typename(typeid(T));

@@ -28,7 +28,7 @@ TEST_F(NetworkDefaults, AreWhatTheFileHolds) {
     ASSERT_NE(parameter->defaults(), nullptr);
     EXPECT_EQ(parameter->defaults()->in(loaded->findPool("draft")).value->Text(), "2");
     EXPECT_EQ(parameter->defaults()->in(loaded->findPool("final")).value->Text(), "1");
-    EXPECT_TRUE(parameter->defaults()->in(loaded->findPool("final")).fallsBack);
+    EXPECT_TRUE(parameter->defaults()->in(loaded->findPool("final")).isInherited);
     EXPECT_EQ(loaded->findParameter("o.q")->defaults(), nullptr) << "nobody edits an information";
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
 using StringArray = std::array<std::string, 1>;
-using Value = Tessera::StrongPtr<Kolt::VValueBase>;
+using Value = Kolt::ValuePtr;
 
 /// Counts what it is told and keeps the age that the value had then.
 class Listener : public Kolt::ValueNotifier {
@@ -33,7 +33,7 @@ public:
     int calls = 0;
     std::string text;
     unsigned long age = 0;
-    Tessera::StrongPtr<Kolt::ValuePool> pool;
+    Kolt::PoolPtr pool;
 };
 
 using Network = NetworkFileTest;
@@ -513,13 +513,13 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(Network, SettingAnUnknownParameterOrAPerPoolOneWithoutAPoolIsRefused) {
     auto const read = network(withParameters(R"({ "name": "p", "type": "int", "value": 1, "perPool": true })"));
     auto const before = read->values();
-    Tessera::StrongPtr<Kolt::ValuePool> const stranger(new Kolt::ValuePool("draft"));
+    Kolt::PoolPtr const stranger(new Kolt::ValuePool("draft"));
     QString error;
     EXPECT_FALSE(read->setText("o.q", "1", read->pools()[0], &error));
     EXPECT_EQ(error, "there is no parameter \"o.q\" in the network");
     EXPECT_FALSE(read->setText("o", "1", read->pools()[0], &error));
     EXPECT_EQ(error, "there is no parameter \"o\" in the network");
-    for (auto const& pool : {Tessera::StrongPtr<Kolt::ValuePool>(), stranger}) {
+    for (auto const& pool : {Kolt::PoolPtr(), stranger}) {
         EXPECT_FALSE(read->setText("o.p", "2", pool, &error));
         EXPECT_EQ(error, "\"o.p\" keeps a value per pool and needs a pool of the network");
     }

@@ -36,7 +36,7 @@ TEST_F(CommandLineTest, WithoutArgumentsNothingIsAskedFor) {
     EXPECT_FALSE(line->rightToLeft);
     EXPECT_FALSE(line->gallery);
     EXPECT_TRUE(line->session);
-    EXPECT_FALSE(line->endsByItself());
+    EXPECT_FALSE(line->isBatch());
 }
 
 TEST_F(CommandLineTest, TakesEveryOption) {
@@ -61,7 +61,7 @@ TEST_F(CommandLineTest, TakesEveryOption) {
     EXPECT_TRUE(line->rightToLeft);
     EXPECT_EQ(line->language, QStringLiteral("de"));
     EXPECT_FALSE(line->session);
-    EXPECT_TRUE(line->endsByItself());
+    EXPECT_TRUE(line->isBatch());
 }
 
 TEST_F(CommandLineTest, TheGalleryIsShownWithoutANetwork) {
@@ -69,7 +69,7 @@ TEST_F(CommandLineTest, TheGalleryIsShownWithoutANetwork) {
     ASSERT_TRUE(line) << qPrintable(error);
     EXPECT_TRUE(line->gallery);
     EXPECT_EQ(line->state, QStringLiteral("no-pool"));
-    EXPECT_FALSE(line->endsByItself());
+    EXPECT_FALSE(line->isBatch());
     EXPECT_THAT(refusal({QStringLiteral("--gallery"), QStringLiteral("net.json")}), HasSubstr("net.json"));
     for (auto const* const option : {"--object=lamp", "--pool=night", "--set=a.b=c", "--values"})
         EXPECT_THAT(refusal({QStringLiteral("--gallery"), QString::fromLatin1(option)}),

@@ -60,10 +60,9 @@ protected:
         return *found;
     }
     /// The value that the row shows.
-    static Tessera::StrongPtr<Kolt::VValueBase> valueOf(Panel::GalleryPage* page, Panel::GalleryRow const* row) {
+    static Kolt::ValuePtr valueOf(Panel::GalleryPage* page, Panel::GalleryRow const* row) {
         auto const parameter = row->parameter();
-        auto const local = parameter->getLocalValue(page->pools().pool(), std::string(), false);
-        return local ? local : parameter->ownValue();
+        return parameter->effectiveValue(page->pools().pool());
     }
     static void edit(Panel::GalleryRow const* row, EditorCase const& editorCase, std::size_t index) {
         // A page that was just shown is laid out now.
@@ -233,9 +232,8 @@ TEST_F(GalleryTest, ShowsCreatorsOfAnyPlugin) {
     struct Unknown {};
     class LabelCreator : public Kolt::QInputCreator {
     public:
-        std::pair<QPointer<QWidget>, Kolt::InputRef>
-        create(Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const&, QWidget* parent,
-               Kolt::ValuePoolSource*) override {
+        std::pair<QPointer<QWidget>, Kolt::InputRef> create(Kolt::ParameterRef const&, QWidget* parent,
+                                                            Kolt::ValuePoolSource*) override {
             return {new QLabel(QStringLiteral("outside"), parent), nullptr};
         }
     };

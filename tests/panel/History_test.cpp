@@ -28,7 +28,7 @@ protected:
             rows.push_back(list()->item(index)->text().toStdString());
         return rows;
     }
-    static bool noGesture() { return !Kolt::UndoHistory::theHistory().isGestureOpen(); }
+    static bool noGesture() { return !Kolt::UndoHistory::theHistory().isMacroOpen(); }
     void undo() const { action("undo")->trigger(); }
     void redo() const { action("redo")->trigger(); }
 };

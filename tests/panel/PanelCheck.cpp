@@ -62,7 +62,7 @@ std::string expectedText(EditorCase const& editor, Talo::ParameterRow& row, Kolt
 
 /// Whether the editor shows something that is no value: half of a date, that a colour is being picked, or a text that
 /// was typed into a list that has no such entry and was not taken.
-bool showsNoValue(QWidget& editor, Tessera::StrongPtr<Kolt::VValueBase> const& value) {
+bool showsNoValue(QWidget& editor, Kolt::ValuePtr const& value) {
     auto const* const field = qobject_cast<QLineEdit*>(&editor);
     auto const* const label = qobject_cast<QLabel*>(&editor);
     auto const* const list = editor.findChild<QComboBox*>();
@@ -102,8 +102,7 @@ std::string disagreement(Talo::ParameterRow& row, std::map<Creator, EditorCase c
     if (found == cases.end())
         return "an editor that nobody can read";
     auto const& editor = *found->second;
-    auto const local = parameter->getLocalValue(row.pool(), std::string(), false);
-    auto const value = local ? local : parameter->ownValue();
+    auto const value = parameter->effectiveValue(row.pool());
     if (!editor.showsValue || showsNoValue(*row.editor(), value))
         return {};
     ++compared;

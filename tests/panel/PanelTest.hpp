@@ -67,8 +67,7 @@ protected:
     /// The value of a parameter in the chosen pool, as text.
     std::string valueOf(char const* name) const {
         auto const found = parameter(name);
-        auto const local = found->getLocalValue(window->pools().pool(), std::string(), false);
-        return (local ? local : found->ownValue())->Text();
+        return found->effectiveValue(window->pools().pool())->Text();
     }
     static QCheckBox* box(Panel::ObjectView const* view, char const* name) {
         auto const* const row = view ? view->row(QString::fromUtf8(name)) : nullptr;

@@ -320,8 +320,7 @@ void RandomWalk::write() {
         return;
     auto& texts = texts_[name];
     auto const pool = window_.pools().pool();
-    auto const local = parameter->getLocalValue(pool, std::string(), false);
-    texts.push_back((local ? local : parameter->ownValue())->Text());
+    texts.push_back(parameter->effectiveValue(pool)->Text());
     auto text = QString::fromStdString(oneOf(texts));
     if (dynamic_cast<Kolt::VValue<int> const*>(parameter->ownValue().get()) ||
         dynamic_cast<Kolt::VValue<double> const*>(parameter->ownValue().get()))

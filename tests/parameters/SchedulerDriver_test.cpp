@@ -9,7 +9,7 @@ namespace {
 
 struct Worker : Kolt::VObject {
     Worker() : VObject("worker") {}
-    void run(Tessera::StrongPtr<Kolt::ValuePool> const&) override {
+    void run(Kolt::PoolPtr const&) override {
         ++runs;
         ranAt = Kolt::VScheduler::clock();
     }

@@ -23,16 +23,14 @@ protected:
         QTest::keyClick(lineEdit(editor), Qt::Key_Return);
     }
 
-    static void setProperty(Kolt::ParameterPtr const& parameter, char const* name,
-                            Tessera::StrongPtr<Kolt::VValueBase> const& value) {
+    static void setProperty(Kolt::ParameterPtr const& parameter, char const* name, Kolt::ValuePtr const& value) {
         parameter->setProperty(name, value, nullptr, nullptr, nullptr);
     }
     static void setBounds(Kolt::ParameterPtr const& parameter, T minimum, T maximum) {
         setProperty(parameter, "min", Kolt::makeValue(minimum));
         setProperty(parameter, "max", Kolt::makeValue(maximum));
     }
-    static void changeElsewhere(Kolt::ParameterPtr const& parameter, T value,
-                                Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+    static void changeElsewhere(Kolt::ParameterPtr const& parameter, T value, Kolt::PoolPtr const& pool) {
         Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
     }
     void record(Kolt::ParameterPtr const& parameter) {

@@ -73,7 +73,7 @@ protected:
         }
     }
     virtual void change(int number) = 0;
-    virtual Tessera::StrongPtr<Kolt::VValueBase> bound(int number) = 0;
+    virtual Kolt::ValuePtr bound(int number) = 0;
     /// What an editor shows for the value that the parameter holds.
     virtual QString expectedText() = 0;
 
@@ -103,7 +103,7 @@ protected:
     void change(int number) override {
         Kolt::setParameterValue(*parameter, number, firstPool, std::string(), true, nullptr, nullptr);
     }
-    Tessera::StrongPtr<Kolt::VValueBase> bound(int number) override { return Kolt::makeValue(number); }
+    Kolt::ValuePtr bound(int number) override { return Kolt::makeValue(number); }
     QString expectedText() override { return QString::fromStdString(parameter->ownValue()->Text()); }
 };
 
@@ -112,7 +112,7 @@ protected:
     void change(int number) override {
         Kolt::setParameterValue(*parameter, number / 8.0, firstPool, std::string(), true, nullptr, nullptr);
     }
-    Tessera::StrongPtr<Kolt::VValueBase> bound(int number) override { return Kolt::makeValue(number / 8.0); }
+    Kolt::ValuePtr bound(int number) override { return Kolt::makeValue(number / 8.0); }
     QString expectedText() override { return QString::number(Kolt::valueOr(parameter->ownValue(), 0.0), 'f', 6); }
 };
 

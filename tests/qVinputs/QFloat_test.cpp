@@ -169,7 +169,7 @@ TEST_F(QFloatTest, AnUnreadableValueIsReportedWithThePathOfTheSource) {
 }
 
 TEST_F(QFloatTest, AParameterThatIsGoneIsReported) {
-    Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const gone = real(0.5);
+    Kolt::ParameterRef const gone = real(0.5);
     auto const made = qtCreator("double", "double")->create(gone, parent, &pools);
     EXPECT_EQ(warnings.texts, std::vector<std::string>{"QFloat created for non-integer parameter."});
     EXPECT_EQ(made.first->findChild<QLineEdit*>()->text(), QLatin1String("0.000000"));

@@ -22,8 +22,7 @@ protected:
         return iconOf(editor, parent, object, pools.getValuePoolProvider());
     }
     static double shown(Kolt::VIcon* icon) { return dynamic_cast<QLCDNumber*>(icon->widget())->value(); }
-    static void changeElsewhere(Kolt::ParameterPtr const& parameter, int value,
-                                Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+    static void changeElsewhere(Kolt::ParameterPtr const& parameter, int value, Kolt::PoolPtr const& pool) {
         Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
     }
 

@@ -178,7 +178,7 @@ TEST_F(QIntegerTest, ABoundOfAnotherTypeIsNeverOverwritten) {
 TEST_F(QIntegerTest, TheLowerBoundIsSetBeforeTheUpperOneInThePoolOfTheWidget) {
     class PropertyNotifier : public Kolt::ValueNotifier {
     public:
-        void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const& context,
+        void onValueChange(Kolt::ValuePtr const&, Kolt::VContext const& context,
                            Kolt::ValueMap const* properties) override {
             std::string names;
             for (auto const& entry : *properties)
@@ -187,14 +187,14 @@ TEST_F(QIntegerTest, TheLowerBoundIsSetBeforeTheUpperOneInThePoolOfTheWidget) {
             pools.push_back(context.pool());
         }
         std::vector<std::string> seen;
-        std::vector<Tessera::StrongPtr<Kolt::ValuePool>> pools;
+        std::vector<Kolt::PoolPtr> pools;
     };
     auto const parameter = integer(7);
     PropertyNotifier notifier;
     parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&notifier));
     auto const editor = open(parameter);
     EXPECT_EQ(notifier.seen, (std::vector<std::string>{"min ", "max min "}));
-    EXPECT_EQ(notifier.pools, (std::vector<Tessera::StrongPtr<Kolt::ValuePool>>{firstPool, firstPool}));
+    EXPECT_EQ(notifier.pools, (std::vector<Kolt::PoolPtr>{firstPool, firstPool}));
 }
 
 TEST_F(QIntegerTest, APoolWithoutAValueIsReportedAndGetsNone) {
@@ -206,7 +206,7 @@ TEST_F(QIntegerTest, APoolWithoutAValueIsReportedAndGetsNone) {
 }
 
 TEST_F(QIntegerTest, AParameterThatIsGoneIsReported) {
-    Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const gone = integer(42);
+    Kolt::ParameterRef const gone = integer(42);
     auto const made = qtCreator("int", "int")->create(gone, parent, &pools);
     EXPECT_EQ(warnings.texts, std::vector<std::string>{"QInteger created for non-integer parameter."});
     EXPECT_EQ(made.first->findChild<QLineEdit*>()->text(), QLatin1String("0"));

@@ -26,7 +26,7 @@ protected:
     /// A parameter whose value cannot be changed.
     template <typename T>
     static Kolt::ParameterPtr refusingParameterOf(T const& value) {
-        return makeParameter("object.parameter", Tessera::StrongPtr<Kolt::VValueBase>(new RefusingValue<T>(value)));
+        return makeParameter("object.parameter", Kolt::ValuePtr(new RefusingValue<T>(value)));
     }
     /// The editor hears that the parameter has this value now.
     template <typename T>

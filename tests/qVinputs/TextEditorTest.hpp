@@ -9,7 +9,7 @@
 class TextEditorTest : public PluginTest {
 protected:
     using Values = Kolt::VParameter::Values;
-    using Parameter = Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList>;
+    using Parameter = Kolt::ParameterRef;
 
     void SetUp() override {
         PluginTest::SetUp();
@@ -52,8 +52,7 @@ protected:
         change(parameter, value, firstPool);
     }
     template <typename T>
-    static void change(Kolt::ParameterPtr const& parameter, T const& value,
-                       Tessera::StrongPtr<Kolt::ValuePool> const& pool) {
+    static void change(Kolt::ParameterPtr const& parameter, T const& value, Kolt::PoolPtr const& pool) {
         Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
     }
 

@@ -49,7 +49,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    std::vector<Tessera::StrongPtr<Kolt::ValuePool>> firedPools;
+    std::vector<Kolt::PoolPtr> firedPools;
     std::vector<std::string> firedFor;
     std::function<void()> reaction;
 };
@@ -161,7 +161,7 @@ TEST_F(qVActionTest, AClickFiresOnceInThePoolOfTheMoment) {
     click(editor);
     pools.use(secondPool);
     click(editor);
-    EXPECT_EQ(firedPools, (std::vector<Tessera::StrongPtr<Kolt::ValuePool>>{firstPool, secondPool}));
+    EXPECT_EQ(firedPools, (std::vector<Kolt::PoolPtr>{firstPool, secondPool}));
     EXPECT_EQ(firedFor, (std::vector<std::string>{"render.stop", "render.stop"}));
 }
 
@@ -237,7 +237,7 @@ TEST_F(qVActionTest, WithoutAPoolNothingHappens) {
 
 TEST_F(qVActionTest, ThePoolOfTheLastClickIsKeptUntilTheNext) {
     auto const parameter = actionParameter();
-    Tessera::StrongPtr<Kolt::ValuePool> passing(new Kolt::ValuePool("passing"));
+    Kolt::PoolPtr passing(new Kolt::ValuePool("passing"));
     Tessera::WeakPtr<Kolt::ValuePool> const kept(passing);
     auto const editor = open(parameter);
     pools.use(passing);

@@ -27,7 +27,7 @@ protected:
     static bool choose(Kolt::Editor const& editor, QColor const& colour) {
         return QMetaObject::invokeMethod(editor.widget, "colorChange", Q_ARG(QColor, colour));
     }
-    static rgba_float_t colourOf(Tessera::StrongPtr<Kolt::VValueBase> const& value) {
+    static rgba_float_t colourOf(Kolt::ValuePtr const& value) {
         return Kolt::valueOr(value, rgba_float_t{-1.0F, -1.0F, -1.0F, -1.0F});
     }
     static rgba_float_t asFloats(QColor const& colour) {

@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 class Displays : public TextEditorTest {
 protected:
-    QLabel* show(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter, std::string const& creatorName) {
+    QLabel* show(ParameterRef const& parameter, std::string const& creatorName) {
         return create<QLabel>(creatorName, parameter);
     }
     static ParameterPtr makeInfo(std::string const& text, Values values = Values::Shared) {
@@ -67,7 +67,7 @@ TEST_F(InformationDisplay, IgnoresAValueOfAnotherType) {
 
 TEST_F(InformationDisplay, IsEmptyWithoutAnOwner) {
     auto parameter = makeInfo("gone");
-    Tessera::WeakPtr<VParameter, ValueNotifierList> const gone(parameter);
+    ParameterRef const gone(parameter);
     parameter.reset();
     EXPECT_EQ(show(gone, "InformationDisplay")->text(), QString());
     EXPECT_THAT(takeOutput(), IsEmpty());
@@ -159,7 +159,7 @@ TEST_F(StatusDisplay, IgnoresAValueOfAnotherType) {
 
 TEST_F(StatusDisplay, IsEmptyWithoutAnOwner) {
     auto parameter = makeStatus("gone");
-    Tessera::WeakPtr<VParameter, ValueNotifierList> const gone(parameter);
+    ParameterRef const gone(parameter);
     parameter.reset();
     EXPECT_EQ(show(gone, "StatusDisplay")->text(), QString());
     EXPECT_THAT(takeOutput(), IsEmpty());

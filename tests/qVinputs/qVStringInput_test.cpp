@@ -12,16 +12,13 @@ using testing::IsEmpty;
 
 class SingleLineText : public TextEditorTest {
 protected:
-    QLineEdit* edit(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter) {
-        return create<QLineEdit>("simplestring", parameter);
-    }
+    QLineEdit* edit(ParameterRef const& parameter) { return create<QLineEdit>("simplestring", parameter); }
     static ParameterPtr onEnterOnly(std::string const& text) {
         auto const parameter = makeText(text);
         parameter->setCreationPreferences(PreferencesPtr(new VCreationPreferences("UpdateOnEnterOnly")));
         return parameter;
     }
-    static void setProperty(ParameterPtr const& parameter, std::string const& name,
-                            Tessera::StrongPtr<VValueBase> const& value) {
+    static void setProperty(ParameterPtr const& parameter, std::string const& name, ValuePtr const& value) {
         parameter->setProperty(name, value, nullptr, nullptr, nullptr);
     }
 };
@@ -239,7 +236,7 @@ TEST_F(SingleLineText, DropsAnEditWithoutAPoolSilently) {
 
 TEST_F(SingleLineText, StartsEmptyWithoutAnOwnerAndReportsEachCommit) {
     auto parameter = makeText("abc");
-    Tessera::WeakPtr<VParameter, ValueNotifierList> const gone(parameter);
+    ParameterRef const gone(parameter);
     parameter.reset();
     auto* const editor = edit(gone);
     EXPECT_EQ(editor->text(), QString());

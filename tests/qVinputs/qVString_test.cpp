@@ -12,9 +12,7 @@ using testing::IsEmpty;
 
 class MultiLineText : public TextEditorTest {
 protected:
-    QTextEdit* edit(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter) {
-        return create<QTextEdit>("string", parameter);
-    }
+    QTextEdit* edit(ParameterRef const& parameter) { return create<QTextEdit>("string", parameter); }
     static void insert(QTextEdit* editor, QString const& text) { editor->textCursor().insertText(text); }
     static void send(QTextEdit* editor, QEvent::Type type) {
         QEvent event(type);
@@ -286,7 +284,7 @@ TEST_F(MultiLineText, DropsAnEditWithoutAPoolSilently) {
 
 TEST_F(MultiLineText, StartsEmptyWithoutAnOwnerAndReportsEachCommit) {
     auto parameter = makeText("abc");
-    Tessera::WeakPtr<VParameter, ValueNotifierList> const gone(parameter);
+    ParameterRef const gone(parameter);
     parameter.reset();
     auto* const editor = edit(gone);
     EXPECT_EQ(editor->toPlainText(), QString());

@@ -16,9 +16,7 @@ using testing::IsEmpty;
 class Recorder : public VObject {
 public:
     Recorder(std::string const& name, std::vector<std::string>& log) : VObject(name), log_(log) {}
-    void run(Tessera::StrongPtr<ValuePool> const& pool) override {
-        log_.push_back(Name() + (pool ? " in " + pool->Name() : " in no pool"));
-    }
+    void run(PoolPtr const& pool) override { log_.push_back(Name() + (pool ? " in " + pool->Name() : " in no pool")); }
 
 private:
     std::vector<std::string>& log_;
@@ -51,15 +49,9 @@ protected:
     static QString path(char const* name) { return folder() + QLatin1Char('/') + QLatin1String(name); }
     static std::string text(QString const& string) { return string.toStdString(); }
 
-    QPushButton* open(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter) {
-        return create<QPushButton>("OpenFileCreator", parameter);
-    }
-    QPushButton* save(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter) {
-        return create<QPushButton>("FileNameCreator", parameter);
-    }
-    QPushButton* savePdf(Tessera::WeakPtr<VParameter, ValueNotifierList> const& parameter) {
-        return create<QPushButton>("FileNameCreatorPDF", parameter);
-    }
+    QPushButton* open(ParameterRef const& parameter) { return create<QPushButton>("OpenFileCreator", parameter); }
+    QPushButton* save(ParameterRef const& parameter) { return create<QPushButton>("FileNameCreator", parameter); }
+    QPushButton* savePdf(ParameterRef const& parameter) { return create<QPushButton>("FileNameCreatorPDF", parameter); }
 
     /// Clicks the button and does something with the dialog that opens.
     void click(QPushButton* button, std::function<void(QFileDialog&)> const& work) {
@@ -281,7 +273,7 @@ TEST_F(FileName, SchedulesWhatIsSavedToo) {
 TEST_F(FileName, ReportsAMissingOwnerAndSchedulesNothing) {
     auto parameter = makeText("");
     auto const object = makeObject("bound", parameter);
-    Tessera::WeakPtr<VParameter, ValueNotifierList> const gone(parameter);
+    ParameterRef const gone(parameter);
     parameter.reset();
     auto* const button = open(gone);
     EXPECT_EQ(button->text(), QStringLiteral("Select File"));

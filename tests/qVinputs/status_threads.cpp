@@ -15,7 +15,7 @@ using namespace Kolt;
 
 namespace {
 
-using Status = Tessera::StrongPtr<VValueBase>;
+using Status = ValuePtr;
 
 class OnePool : public ValuePoolSource, public ValuePoolProvider {
 public:
@@ -23,9 +23,9 @@ public:
     Tessera::StrongPtr<ValuePoolProvider> getValuePoolProvider() const override {
         return Tessera::WeakPtr<ValuePoolProvider>(const_cast<OnePool*>(this)).strong();
     }
-    Tessera::StrongPtr<ValuePool> getValuePool() const override { return pool; }
+    PoolPtr getValuePool() const override { return pool; }
 
-    Tessera::StrongPtr<ValuePool> const pool;
+    PoolPtr const pool;
 };
 
 /// Works like the display but for its destructor.
@@ -35,8 +35,7 @@ public:
         : VInputValue<VObjectStatus>(parameter, poolSource) {
         activateNotification();
     }
-    void onValueChange(Tessera::StrongPtr<VValueBase> const& newValue, VContext const&,
-                       ValueMap const* properties) override {
+    void onValueChange(ValuePtr const& newValue, VContext const&, ValueMap const* properties) override {
         take(newValue, properties);
     }
 };
@@ -50,8 +49,7 @@ std::unique_ptr<qVObjectStatus> show(ParameterPtr const& parameter, OnePool& poo
 }
 
 /// As a worker reports: it stores the status, then tells of it.
-void report(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool, Status const& value,
-            std::string const& text) {
+void report(ParameterPtr const& parameter, PoolPtr const& pool, Status const& value, std::string const& text) {
     static_cast<VTypedValueBase<VObjectStatus>&>(*value).set(VObjectStatus(text));
     parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);
 }

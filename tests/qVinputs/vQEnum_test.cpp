@@ -47,7 +47,7 @@ protected:
         }
         return places;
     }
-    Kolt::Editor openWithWrap(Tessera::StrongPtr<Kolt::VValueBase> const& wrap) {
+    Kolt::Editor openWithWrap(Kolt::ValuePtr const& wrap) {
         auto const parameter = parameterOf(Kolt::Enum(makeNames({"a", "b", "c", "d", "e"}, 0)));
         parameter->setProperty("wrap", wrap, nullptr, nullptr, nullptr);
         kept_.push_back(parameter);
@@ -302,7 +302,7 @@ TEST_F(EnumTest, APoolsValueOfAnotherTypeGivesWayToACopyOfItsOwn) {
     auto const editor = open(parameter);
     // The parameter changes its mind about the type in this pool, which happens while scripts run.
     struct OtherParameter : Kolt::VParameter {
-        OtherParameter(Tessera::StrongPtr<Kolt::VValueBase> const& value)
+        OtherParameter(Kolt::ValuePtr const& value)
             : VParameter("object.parameter", value, Values::PerPool, "Kolt::Enum") {}
     };
     Kolt::ParameterPtr const mixed(new OtherParameter(Kolt::makeValue("text"s)));

@@ -14,14 +14,14 @@ public:
     TestPools() : provider_(new Provider) {}
     Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override { return provider_; }
 
-    void use(Tessera::StrongPtr<Kolt::ValuePool> const& pool) { provider_->pool = pool; }
+    void use(Kolt::PoolPtr const& pool) { provider_->pool = pool; }
     /// From now on there is no provider at all.
     void dropProvider() { provider_.reset(); }
 
 private:
     struct Provider : Kolt::ValuePoolProvider {
-        Tessera::StrongPtr<Kolt::ValuePool> getValuePool() const override { return pool; }
-        Tessera::StrongPtr<Kolt::ValuePool> pool;
+        Kolt::PoolPtr getValuePool() const override { return pool; }
+        Kolt::PoolPtr pool;
     };
     Tessera::StrongPtr<Provider, Kolt::ValuePoolProvider> provider_;
 };
@@ -29,7 +29,7 @@ private:
 /// Hears of a parameter's changes as any other part of a host does.
 class RecordingNotifier : public Kolt::ValueNotifier {
 public:
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+    void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override {
         if (properties) {
             ++propertyChanges;
@@ -43,7 +43,7 @@ public:
 
     /// The text of each value that was told, and the pool of each change; property changes are counted apart.
     std::vector<std::string> values;
-    std::vector<Tessera::StrongPtr<Kolt::ValuePool>> pools;
+    std::vector<Kolt::PoolPtr> pools;
     int propertyChanges = 0;
     /// What else happens each time.
     std::function<void()> reaction;
@@ -66,8 +66,8 @@ protected:
         TaloTest::SetUp();
         auto const outcome = loader.load(TALO_PLUGIN_FILE);
         ASSERT_TRUE(outcome.ok) << outcome.message;
-        firstPool = Tessera::StrongPtr<Kolt::ValuePool>(new Kolt::ValuePool("draft"));
-        secondPool = Tessera::StrongPtr<Kolt::ValuePool>(new Kolt::ValuePool("final"));
+        firstPool = Kolt::PoolPtr(new Kolt::ValuePool("draft"));
+        secondPool = Kolt::PoolPtr(new Kolt::ValuePool("final"));
         pools.use(firstPool);
         parent = new QWidget;
         parent->resize(600, 400);
@@ -84,7 +84,7 @@ protected:
     }
 
     /// A parameter with a value, its preferences and its way of keeping values.
-    static Kolt::ParameterPtr makeParameter(std::string const& name, Tessera::StrongPtr<Kolt::VValueBase> const& value,
+    static Kolt::ParameterPtr makeParameter(std::string const& name, Kolt::ValuePtr const& value,
                                             std::vector<std::string> const& preferences = {},
                                             Kolt::VParameter::Values values = Kolt::VParameter::Values::Shared,
                                             std::string const& declaredType = {}) {
@@ -120,8 +120,8 @@ protected:
     Kolt::VInitialization host;
     Kolt::PluginLoader loader{host};
     TestPools pools;
-    Tessera::StrongPtr<Kolt::ValuePool> firstPool;
-    Tessera::StrongPtr<Kolt::ValuePool> secondPool;
+    Kolt::PoolPtr firstPool;
+    Kolt::PoolPtr secondPool;
     RecordedWarnings warnings;
     /// The window in which editors are opened.
     QPointer<QWidget> parent;

@@ -57,8 +57,8 @@ protected:
     void SetUp() override { history.clear(); }
     void TearDown() override {
         history.setListener({});
-        while (history.isGestureOpen())
-            history.closeGesture();
+        while (history.isMacroOpen())
+            history.endMacro();
         history.clear();
     }
 
@@ -73,8 +73,7 @@ protected:
         return names;
     }
     static std::string text(ParameterPtr const& parameter, Pool const& pool = nullptr) {
-        auto const local = parameter->getLocalValue(pool, std::string(), false);
-        return (local ? local : parameter->ownValue())->Text();
+        return parameter->effectiveValue(pool)->Text();
     }
 
     UndoHistory& history = UndoHistory::theHistory();
@@ -186,19 +185,19 @@ TEST_F(WatchedInt, AnUnwatchedParameterRecordsNothing) {
 }
 
 TEST_F(WatchedInt, AllEditsOfAGestureAreOneStep) {
-    history.openGesture();
-    history.openGesture();
+    history.beginMacro();
+    history.beginMacro();
     for (int const value : {2, 3, 4})
         input.edit(value, nullptr);
-    history.closeGesture();
+    history.endMacro();
     input.edit(5, nullptr);
     EXPECT_TRUE(history.isStepOpen());
-    history.closeGesture();
+    history.endMacro();
     EXPECT_FALSE(history.isStepOpen());
     EXPECT_THAT(names(), ElementsAre("p: 1 → 5"));
-    history.openGesture();
+    history.beginMacro();
     input.edit(6, nullptr);
-    history.closeGesture();
+    history.endMacro();
     EXPECT_THAT(names(), ElementsAre("p: 1 → 5", "p: 5 → 6"));
     EXPECT_TRUE(history.undo());
     EXPECT_EQ(text(parameter), "5");
@@ -209,26 +208,26 @@ TEST_F(WatchedInt, AllEditsOfAGestureAreOneStep) {
 TEST_F(WatchedInt, AGestureThatEndsWhereItBeganIsNoStepAndKeepsWhatCanBeMadeAgain) {
     input.edit(5, nullptr);
     history.undo();
-    history.openGesture();
+    history.beginMacro();
     editRecorded(3);
     EXPECT_THAT(names(), ElementsAre("p: 1 → 3"));
     EXPECT_THAT(history.undoneSteps(), IsEmpty());
     editRecorded(1);
-    history.closeGesture();
+    history.endMacro();
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_TRUE(history.redo());
     EXPECT_EQ(text(parameter), "5");
 }
 
 TEST_F(WatchedInt, AGestureAroundUndoGoesOnWithANewStep) {
-    history.openGesture();
+    history.beginMacro();
     input.edit(2, nullptr);
     EXPECT_TRUE(history.undo());
     EXPECT_EQ(text(parameter), "1");
-    EXPECT_TRUE(history.isGestureOpen());
+    EXPECT_TRUE(history.isMacroOpen());
     input.edit(3, nullptr);
-    history.closeGesture();
-    history.closeGesture();
+    history.endMacro();
+    history.endMacro();
     EXPECT_THAT(names(), ElementsAre("p: 1 → 3"));
     EXPECT_FALSE(history.redo());
 }
@@ -249,10 +248,10 @@ TEST_F(WatchedInt, ARecordAndItsChangeAreOneStep) {
 }
 
 TEST_F(WatchedInt, OfTheRecordsOfAGestureOnlyTheOldestIsRun) {
-    history.openGesture();
+    history.beginMacro();
     for (int const value : {2, 3, 4})
         editRecorded(value);
-    history.closeGesture();
+    history.endMacro();
     EXPECT_THAT(names(), ElementsAre("p: 1 → 4"));
     EXPECT_TRUE(history.undo());
     EXPECT_EQ(text(parameter), "1");
@@ -373,10 +372,10 @@ TEST_F(EditRecorderTest, AGestureThatEndsWhereItBeganLeavesNoCopyInThePool) {
     auto const parameter = makeParameter(1, VParameter::Values::PerPool);
     SmallInput input{parameter};
     auto const recorder = EditRecorder::watch(parameter);
-    history.openGesture();
+    history.beginMacro();
     input.edit(5, draft);
     input.edit(1, draft);
-    history.closeGesture();
+    history.endMacro();
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_EQ(parameter->getLocalValue(draft, std::string(), false), nullptr);
     input.edit(5, draft);
@@ -384,11 +383,11 @@ TEST_F(EditRecorderTest, AGestureThatEndsWhereItBeganLeavesNoCopyInThePool) {
     EXPECT_EQ(parameter->getLocalValue(draft, std::string(), false), nullptr);
 
     // What the host writes meanwhile stays.
-    history.openGesture();
+    history.beginMacro();
     input.edit(5, draft);
     input.edit(1, draft);
     parameter->ownValue()->setValueFromText("3");
-    history.closeGesture();
+    history.endMacro();
     EXPECT_EQ(text(parameter, draft), "1");
     EXPECT_THAT(names(), IsEmpty());
 }
@@ -463,10 +462,10 @@ TEST_F(EditRecorderTest, AGestureOverSeveralParametersIsOneStep) {
     SmallInput secondInput{second};
     auto const recorders = {EditRecorder::watch(first), EditRecorder::watch(second)};
     EXPECT_THAT(recorders, SizeIs(2));
-    history.openGesture();
+    history.beginMacro();
     firstInput.edit(2, nullptr);
     secondInput.edit(std::string("y"), nullptr);
-    history.closeGesture();
+    history.endMacro();
     ASSERT_THAT(history.steps(), SizeIs(1));
     EXPECT_THAT(history.steps()[0]->changes(), SizeIs(2));
     history.undo();
@@ -481,13 +480,13 @@ TEST_F(EditRecorderTest, DefaultsAreWhatAParameterHeldInEachPool) {
     parameter->rememberDefaults();
     setParameterValue(*parameter, 20, draft, std::string(), true, nullptr, nullptr);
     setParameterValue(*parameter, 1, final, std::string(), true, nullptr, nullptr);
-    EXPECT_FALSE(parameter->defaults()->holdsIn(*parameter, draft));
-    EXPECT_TRUE(parameter->defaults()->holdsIn(*parameter, final)) << "a value of its own that equals what held";
+    EXPECT_FALSE(parameter->defaults()->isEffectiveIn(*parameter, draft));
+    EXPECT_TRUE(parameter->defaults()->isEffectiveIn(*parameter, final)) << "a value of its own that equals what held";
     EXPECT_TRUE(parameter->defaults()->isOwnValueOf(*parameter));
     EXPECT_TRUE(history.store(parameter, draft, parameter->defaults()->in(draft)));
     EXPECT_EQ(text(parameter, draft), "2");
     setParameterValue(*parameter, 30, final, std::string(), true, nullptr, nullptr);
-    EXPECT_FALSE(parameter->defaults()->holdsIn(*parameter, final));
+    EXPECT_FALSE(parameter->defaults()->isEffectiveIn(*parameter, final));
     EXPECT_TRUE(history.store(parameter, final, parameter->defaults()->in(final)));
     EXPECT_EQ(parameter->getLocalValue(final, std::string(), false), nullptr);
     EXPECT_FALSE(history.store(parameter, nullptr, parameter->defaults()->in(draft))) << "there is no such place";
@@ -544,10 +543,10 @@ TEST_F(EditRecorderTest, WhateverWasDoneGoesBackToTheStartAndForthAgain) {
             break;
         }
         case 5:
-            history.openGesture();
+            history.beginMacro();
             break;
         case 6:
-            history.closeGesture();
+            history.endMacro();
             break;
         case 7:
             history.undo();

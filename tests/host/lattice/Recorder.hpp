@@ -9,9 +9,9 @@
 struct Recorder : Kolt::ValueNotifier {
     explicit Recorder(std::string recorderName = {}, std::vector<std::string>* tellings = nullptr)
         : name(std::move(recorderName)), log(tellings) {}
-    ~Recorder() override { leaveDelivery(); }
+    ~Recorder() override { stopNotifications(); }
 
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& newValue, Kolt::VContext const& context,
+    void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* map) override {
         ++count;
         value = newValue;
@@ -30,7 +30,7 @@ struct Recorder : Kolt::ValueNotifier {
     std::vector<std::string>* log;
     std::function<void()> onTold;
     int count = 0;
-    Tessera::StrongPtr<Kolt::VValueBase> value;
-    Tessera::StrongPtr<Kolt::ValuePool> pool;
+    Kolt::ValuePtr value;
+    Kolt::PoolPtr pool;
     Kolt::ValueMap const* properties = nullptr;
 };

@@ -361,7 +361,7 @@ TEST_F(Choice, ATextWithoutPreferencesWantsOneLine) {
 TEST_F(Choice, LeavesOutACreatorThatDoesNotSuitTheParameter) {
     struct Choosy : Creator {
         using Creator::Creator;
-        bool suits(VParameter const& parameter) const override { return parameter.Name() == "mine"; }
+        bool supports(VParameter const& parameter) const override { return parameter.Name() == "mine"; }
     };
     Choosy const choosy("choosy", 5, set({"QT"}), ApiKey);
     Creator const any("any", 0, set({"QT"}), ApiKey);
@@ -406,8 +406,8 @@ TEST_F(ValueCreators, AnEmptyOneIsIgnored) {
 }
 
 TEST_F(ValueCreators, AreProvidedOnceHoweverOftenTheyAreAskedFor) {
-    Kolt::provideValueCreator<std::pair<int, int>>();
-    Kolt::provideValueCreator<std::pair<int, int>>();
+    Kolt::registerValueCreatorOnce<std::pair<int, int>>();
+    Kolt::registerValueCreatorOnce<std::pair<int, int>>();
     EXPECT_EQ(Kolt::VValueCreator::registered("std::pair<int, int>"), 1);
     EXPECT_THAT(observer_.events, ElementsAre("value std::pair<int, int>"));
 }

@@ -17,8 +17,8 @@ using Tessera::StrongPtr;
 /// Leaves the delivery first thing, so that no worker finds it half destroyed.
 struct Leaving : ValueNotifier {
     explicit Leaving(std::atomic<int>& deliveries) : deliveries_(deliveries), text_("alive") {}
-    ~Leaving() override { leaveDelivery(); }
-    using ValueNotifier::leaveDelivery;
+    ~Leaving() override { stopNotifications(); }
+    using ValueNotifier::stopNotifications;
     void onValueChange(StrongPtr<Kolt::VValueBase> const& value, Kolt::VContext const&,
                        Kolt::ValueMap const*) override {
         if (text_ != "alive" || !value)
@@ -64,7 +64,7 @@ TEST_F(NotificationByWorkers, NobodyIsToldAfterLeaving) {
     parameter_->addNotifier(Tessera::WeakPtr<ValueNotifier>(&notifier));
     std::thread([&] { setParameterValue(*parameter_, std::string("x"), nullptr, "", false, {}, nullptr); }).join();
     EXPECT_EQ(deliveries_, 1);
-    notifier.leaveDelivery();
+    notifier.stopNotifications();
     std::thread([&] { setParameterValue(*parameter_, std::string("y"), nullptr, "", false, {}, nullptr); }).join();
     EXPECT_EQ(deliveries_, 1);
 }

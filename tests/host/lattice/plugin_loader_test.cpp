@@ -172,8 +172,7 @@ TEST_F(PluginLoading, IsNotUnloadedWhileAnEditorLives) {
 
 TEST_F(PluginLoading, CountsTheEditorsOfEachFileApart) {
     struct OwnEditor : Kolt::ValueNotifier {
-        void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
-                           Kolt::ValueMap const*) override {}
+        void onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) override {}
     };
     OwnEditor const own;
     ASSERT_TRUE(loader_.load(sample_).ok);

@@ -12,19 +12,18 @@ struct Shape {
 /// An editor that writes down what it is handed.
 class ShapeEditor : public QLabel, public Kolt::VInputBase {
 public:
-    ShapeEditor(Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const& parameter, QWidget* parent,
-                Kolt::ValuePoolSource* poolSource)
+    ShapeEditor(Kolt::ParameterRef const& parameter, QWidget* parent, Kolt::ValuePoolSource* poolSource)
         : QLabel(parent), VInputBase(parameter), source(poolSource) {
         activateNotification();
     }
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const& value, Kolt::VContext const& context,
+    void onValueChange(Kolt::ValuePtr const& value, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override {
         corners.push_back(Kolt::valueOr(value, Sample::Shape{-1}).corners);
         pool = context.pool();
         EXPECT_EQ(properties, nullptr);
     }
     std::vector<int> corners;
-    Tessera::StrongPtr<Kolt::ValuePool> pool;
+    Kolt::PoolPtr pool;
     Kolt::ValuePoolSource* source;
 };
 
@@ -35,9 +34,8 @@ struct ShapeCreator : Kolt::VInputCreator<Shape, Kolt::VInputCreatorBase> {
 };
 
 struct WidgetMaker : Kolt::QInputCreator {
-    std::pair<QPointer<QWidget>, Kolt::InputRef>
-    create(Tessera::WeakPtr<Kolt::VParameter, Kolt::ValueNotifierList> const& parameter, QWidget* parent,
-           Kolt::ValuePoolSource* poolSource) override {
+    std::pair<QPointer<QWidget>, Kolt::InputRef> create(Kolt::ParameterRef const& parameter, QWidget* parent,
+                                                        Kolt::ValuePoolSource* poolSource) override {
         auto* const editor = new ShapeEditor(parameter, parent, poolSource);
         return {editor, Kolt::InputRef(editor)};
     }
@@ -65,14 +63,14 @@ protected:
         return ParameterPtr(new VParameter("shape", makeValue(Shape{4}), values));
     }
     static ShapeEditor& shown(Kolt::Editor const& editor) { return dynamic_cast<ShapeEditor&>(*editor.widget); }
-    static void setLocal(ParameterPtr const& parameter, Tessera::StrongPtr<ValuePool> const& pool, int corners) {
+    static void setLocal(ParameterPtr const& parameter, PoolPtr const& pool, int corners) {
         EXPECT_TRUE(setParameterValue(*parameter, Shape{corners}, pool, "", true, {}, nullptr));
     }
 
     ShapeCreator creator_;
     TestPools pools_;
-    Tessera::StrongPtr<ValuePool> const first_{new ValuePool("first")};
-    Tessera::StrongPtr<ValuePool> const second_{new ValuePool("second")};
+    PoolPtr const first_{new ValuePool("first")};
+    PoolPtr const second_{new ValuePool("second")};
     QWidget parent_;
 };
 

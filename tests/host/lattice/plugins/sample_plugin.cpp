@@ -6,8 +6,7 @@
 namespace Sample {
 
 struct Editor : Kolt::ValueNotifier {
-    void onValueChange(Tessera::StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&,
-                       Kolt::ValueMap const*) override {}
+    void onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) override {}
 };
 
 struct Step : Kolt::VUndoAction {
