@@ -63,14 +63,14 @@ protected:
         return ParameterPtr(new VParameter("shape", makeValue(Shape{4}), values));
     }
     static ShapeEditor& shown(Kolt::Editor const& editor) { return dynamic_cast<ShapeEditor&>(*editor.widget); }
-    static void setLocal(ParameterPtr const& parameter, PoolPtr const& pool, int corners) {
+    static void setLocal(ParameterPtr const& parameter, Kolt::PoolPtr const& pool, int corners) {
         EXPECT_TRUE(setParameterValue(*parameter, Shape{corners}, pool, "", true, {}, nullptr));
     }
 
     ShapeCreator creator_;
     TestPools pools_;
-    PoolPtr const first_{new ValuePool("first")};
-    PoolPtr const second_{new ValuePool("second")};
+    Kolt::PoolPtr const first_{new ValuePool("first")};
+    Kolt::PoolPtr const second_{new ValuePool("second")};
     QWidget parent_;
 };
 
