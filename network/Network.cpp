@@ -276,7 +276,7 @@ bool Network::saveAs(QString const& file, QString* error) {
                     parameter->setProperty(key, moved, nullptr, nullptr, nullptr);
         }
     }
-    rememberDefaults();
+    rememberSaved();
     return true;
 }
 
@@ -285,20 +285,25 @@ void Network::rememberDefaults() {
         for (auto const& parameter : object->parameters())
             if (isEdited(*parameter))
                 parameter->rememberDefaults();
+    rememberSaved();
+}
+
+void Network::rememberSaved() {
+    saved_.clear();
+    for (auto const& object : objects_)
+        for (auto const& parameter : object->parameters())
+            if (isEdited(*parameter))
+                saved_.push_back({parameter, Kolt::ValueSnapshot(*parameter)});
 }
 
 bool Network::isModified() const {
-    auto const differs = [&](Kolt::ParameterPtr const& parameter) {
-        auto const* const defaults = parameter->defaults();
-        return defaults &&
-               (!defaults->isOwnValueOf(*parameter) ||
-                (parameter->keepsValuesPerPool() && !std::all_of(pools_.begin(), pools_.end(), [&](auto const& pool) {
-                     return defaults->isEffectiveIn(*parameter, pool);
-                 })));
-    };
-    return std::any_of(objects_.begin(), objects_.end(), [&](auto const& object) {
-        auto const& parameters = object->parameters();
-        return std::any_of(parameters.begin(), parameters.end(), differs);
+    return std::any_of(saved_.begin(), saved_.end(), [this](SavedValue const& saved) {
+        auto const parameter = saved.parameter.strong();
+        if (!parameter)
+            return false;
+        auto const isSaved = [&](auto const& pool) { return saved.value.isEffectiveIn(*parameter, pool); };
+        return !saved.value.isOwnValueOf(*parameter) ||
+               (parameter->keepsValuesPerPool() && !std::all_of(pools_.begin(), pools_.end(), isSaved));
     });
 }
 

@@ -63,14 +63,14 @@ public:
     /// when the file cannot be written or would not hold all of the network.
     bool save(QString const& file, QString* error) const;
 
-    /// Writes the network as `save` does and goes on with that file: relative paths start at its folder, and what it
-    /// holds is the default of every parameter.
+    /// Writes the network as `save` does and uses that file from now on: relative paths start at its folder. The
+    /// defaults of the parameters stay what they were.
     bool saveAs(QString const& file, QString* error);
 
-    /// From now on the values that people edit are the defaults of their parameters (VParameter::rememberDefaults).
-    /// A network that was loaded starts so.
+    /// From now on the values that people edit are the defaults of their parameters (VParameter::rememberDefaults), and
+    /// they count as saved. A network that was loaded starts so: its defaults are what its author wrote.
     void rememberDefaults();
-    /// Whether a value that people edit differs from its default, in a pool or in the parameter itself.
+    /// Whether a value that people edit differs from the one in the file, in a pool or in the parameter itself.
     bool isModified() const;
 
     /// The name of a parameter of this network, "object.parameter"; empty for any other.
@@ -89,10 +89,16 @@ public:
 
 private:
     friend class NetworkReader;
+    struct SavedValue {
+        Kolt::ParameterRef parameter;
+        Kolt::ValueSnapshot value;
+    };
     Network();
 
     /// Makes the actions that a parameter of the object holds, its own and those of the pools, call the handler.
     void connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const;
+    /// From now on the values count as saved.
+    void rememberSaved();
     /// The folder of the file, absolute.
     QString folder() const;
     QByteArray toJson(QString const& targetFolder) const;
@@ -105,6 +111,8 @@ private:
     std::vector<Kolt::ObjectPtr> objects_;
     // What each object is for, in the order of the objects.
     std::vector<QString> kinds_;
+    // What the file holds of the values that people edit.
+    std::vector<SavedValue> saved_;
     // Actions look here whether the network still lives.
     std::shared_ptr<Network*> const self_;
 };

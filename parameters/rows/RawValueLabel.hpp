@@ -2,7 +2,6 @@
 
 #include <atomic>
 #include <lattice/Parameter.hpp>
-#include <parameters/PoolSource.hpp>
 #include <QWidget>
 
 namespace Talo {
@@ -17,7 +16,7 @@ class RawValueLabel : public QWidget, private Kolt::ValueNotifier {
 
 public:
     /// The parameter is referred to weakly.
-    RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSource const& pools, QWidget* parent = nullptr);
+    RawValueLabel(Kolt::ParameterPtr const& parameter, Kolt::ValuePoolSource const& pools, QWidget* parent = nullptr);
     ~RawValueLabel() override;
 
     /// The shown text of the value; empty when the parameter is gone.
@@ -38,7 +37,7 @@ private:
                        Kolt::ValueMap const* properties) override;
 
     Kolt::ParameterRef const parameter_;
-    PoolSource const& pools_;
+    Kolt::ValuePoolSource const& pools_;
     QString text_;
     QString stamp_;
     std::atomic<bool> refreshWaits_{false};

@@ -47,6 +47,15 @@ TEST_F(NetworkDefaults, AnyValueThatDiffersIsAModification) {
     EXPECT_FALSE(loaded->isModified());
 }
 
+TEST_F(NetworkDefaults, AnotherDefaultSavesNothing) {
+    auto const loaded = network(withParameters(R"({ "name": "p", "type": "int", "value": 1 })"));
+    EXPECT_TRUE(set(*loaded, "2", "draft"));
+    parameterOf(*loaded)->rememberDefaults();
+    EXPECT_TRUE(loaded->isModified()) << "the file still holds 1";
+    parameterOf(*loaded)->ownValue()->setValueFromText("1");
+    EXPECT_FALSE(loaded->isModified());
+}
+
 TEST_F(NetworkDefaults, SavingElsewhereGoesOnThere) {
     auto const loaded = network(withParameters(R"(
         { "name": "p", "type": "int", "value": 1 },
@@ -59,6 +68,8 @@ TEST_F(NetworkDefaults, SavingElsewhereGoesOnThere) {
     ASSERT_TRUE(loaded->saveAs(target, &error)) << error.toStdString();
     EXPECT_EQ(loaded->file(), target);
     EXPECT_FALSE(loaded->isModified());
+    auto const& defaults = *loaded->findParameter("o.p")->defaults();
+    EXPECT_EQ(defaults.in(nullptr).value->Text(), "1") << "the author's value stays the default";
 
     auto const icon = [](Talo::Network const& of, char const* name) {
         return QDir::cleanPath(
