@@ -31,7 +31,7 @@ void UndoHistory::add(Tessera::StrongPtr<VUndoAction> const& action, int weight,
 }
 
 void UndoHistory::record(ValueChange const& change) {
-    bool const joins = !open_ && !steps_.empty() && steps_.rbegin()->second->awaitsChangeOf(change);
+    bool const joins = !steps_.empty() && steps_.rbegin()->second->awaitsChangeOf(change);
     auto& step = joins ? *steps_.rbegin()->second : currentStep();
     step.add(change);
     raiseWeight(step, ChangeWeight);

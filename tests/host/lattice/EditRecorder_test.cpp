@@ -89,11 +89,13 @@ protected:
         input.activateNotification();
     }
     void editRecorded(int value) {
-        auto const previous = std::stoi(text(parameter));
+        handOverRecord(std::stoi(text(parameter)));
+        input.edit(value, nullptr);
+    }
+    void handOverRecord(int previous) {
         parameter->AddUndoAction(StrongPtr<VUndoAction>(new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(&input),
                                                                         previous, recordsUndone)),
                                  7);
-        input.edit(value, nullptr);
     }
 
     ParameterPtr parameter = makeParameter(1);
@@ -287,6 +289,108 @@ TEST_F(WatchedInt, ANewStepForgetsWhatWasTakenBack) {
     EXPECT_THAT(history.undoneSteps(), IsEmpty());
     EXPECT_FALSE(history.redo());
     EXPECT_EQ(text(parameter), "3");
+}
+
+TEST_F(WatchedInt, NeitherUndoNorRedoRunsInsideARedo) {
+    for (int const value : {2, 3, 4})
+        input.edit(value, nullptr);
+    history.undo();
+    history.undo();
+    std::vector<bool> answers;
+    input.answer = [&] {
+        input.answer = {};
+        answers = {history.undo(), history.redo()};
+    };
+    EXPECT_TRUE(history.redo());
+    EXPECT_THAT(answers, ElementsAre(false, false));
+    EXPECT_EQ(text(parameter), "3");
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 2", "p: 2 → 3"));
+    EXPECT_THAT(history.undoneSteps(), SizeIs(1));
+}
+
+TEST_F(WatchedInt, RedoDoesNotRunInsideAnUndo) {
+    for (int const value : {2, 3})
+        input.edit(value, nullptr);
+    history.undo();
+    bool redone = true;
+    input.answer = [&] {
+        input.answer = {};
+        redone = history.redo();
+    };
+    EXPECT_TRUE(history.undo());
+    EXPECT_FALSE(redone);
+    EXPECT_EQ(text(parameter), "1");
+    EXPECT_THAT(history.undoneSteps(), SizeIs(2));
+}
+
+TEST_F(WatchedInt, AStepRecordedDuringUndoForgetsWhatCouldBeRedone) {
+    for (int const value : {2, 3})
+        input.edit(value, nullptr);
+    history.undo();
+    input.answer = [&] {
+        input.answer = {};
+        handOverRecord(1);
+    };
+    EXPECT_TRUE(history.undo());
+    EXPECT_THAT(names(), ElementsAre("record"));
+    EXPECT_THAT(history.undoneSteps(), IsEmpty());
+    EXPECT_FALSE(history.redo());
+    EXPECT_EQ(text(parameter), "1");
+}
+
+TEST_F(WatchedInt, AStepRecordedDuringRedoForgetsWhatCouldBeRedoneNext) {
+    for (int const value : {2, 3})
+        input.edit(value, nullptr);
+    history.undo();
+    history.undo();
+    input.answer = [&] {
+        input.answer = {};
+        handOverRecord(1);
+    };
+    EXPECT_TRUE(history.redo());
+    EXPECT_EQ(text(parameter), "2");
+    EXPECT_THAT(names(), ElementsAre("record", "p: 1 → 2"));
+    EXPECT_THAT(history.undoneSteps(), IsEmpty());
+    EXPECT_FALSE(history.redo());
+    EXPECT_EQ(text(parameter), "2");
+}
+
+TEST_F(WatchedInt, ARecordWaitsForTheChangeOfItsOwnParameterAlone) {
+    auto const other = makeParameter(10);
+    SmallInput otherInput{other};
+    auto const otherRecorder = EditRecorder::watch(other);
+    handOverRecord(1);
+    otherInput.edit(11, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 10 → 11"));
+    input.edit(2, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 10 → 11", "p: 1 → 2")) << "the record is no longer the latest";
+}
+
+TEST_F(WatchedInt, ARecordOfAClosedStepWaitsForNoChange) {
+    history.beginMacro();
+    handOverRecord(1);
+    history.endMacro();
+    input.edit(2, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 1 → 2"));
+}
+
+TEST_F(WatchedInt, ARecordHandedOverUnwatchedWaitsForNoChange) {
+    recorder.reset();
+    handOverRecord(1);
+    recorder = EditRecorder::watch(parameter);
+    input.edit(2, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 1 → 2"));
+}
+
+TEST_F(WatchedInt, ARecordWaitsForOneChange) {
+    editRecorded(2);
+    input.edit(3, nullptr);
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 2", "p: 2 → 3"));
+    history.clear();
+    handOverRecord(3);
+    handOverRecord(3);
+    input.edit(4, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 3 → 4"));
 }
 
 TEST_F(WatchedInt, UndoneStepsAreListedInTheOrderInWhichTheyAreMadeAgain) {

@@ -79,6 +79,35 @@ TEST_F(Undo, StepsRecordedWhileOneIsTakenBackAreKept) {
     EXPECT_THAT(names(), ElementsAre("recorded"));
 }
 
+TEST_F(Undo, NeitherUndoNorRedoRunsInsideAnUndo) {
+    history_.add(step("untouched"), 1);
+    auto* const latest = new Step("latest", undone_);
+    std::vector<bool> answers;
+    latest->during = [&] {
+        EXPECT_TRUE(history_.isRestoring());
+        answers = {history_.undo(), history_.redo()};
+    };
+    history_.add(StrongPtr<VUndoAction>(latest), 1);
+    EXPECT_TRUE(history_.undo());
+    EXPECT_THAT(answers, ElementsAre(false, false));
+    EXPECT_THAT(undone_, ElementsAre("latest"));
+    EXPECT_THAT(names(), ElementsAre("untouched"));
+    EXPECT_FALSE(history_.isRestoring());
+}
+
+TEST_F(Undo, ARecordForgottenInAnOpenGestureLeavesNoOpenStep) {
+    history_.beginMacro();
+    history_.add(step("forgotten"), 1);
+    EXPECT_TRUE(history_.isStepOpen());
+    forgetAll();
+    EXPECT_FALSE(history_.isStepOpen());
+    history_.add(step("kept"), 1);
+    EXPECT_THAT(names(), ElementsAre("kept"));
+    history_.endMacro();
+    EXPECT_THAT(names(), ElementsAre("kept"));
+    EXPECT_TRUE(history_.undo());
+}
+
 TEST_F(Undo, AFullHistoryForgetsTheOldestOfTheLightestSteps) {
     history_.add(step("heavy and oldest"), 5);
     history_.add(step("light"), 1);

@@ -169,4 +169,12 @@ TEST_F(Parameters, TheCurrentPoolIsAskedAnewAndNullWhereALinkIsMissing) {
     EXPECT_EQ(currentPool(&source), other_);
 }
 
+TEST_F(Parameters, ForgetTheValuesOfDeadPoolsWithTheNextNewOne) {
+    StrongPtr<ValuePool> brief(new ValuePool("brief"));
+    Tessera::WeakPtr<VValueBase> const value(perPool_->getLocalValue(brief, "", true));
+    brief.reset();
+    EXPECT_TRUE(perPool_->getLocalValue(pool_, "", true));
+    EXPECT_FALSE(value.alive());
+}
+
 } // namespace
