@@ -9,6 +9,7 @@
 namespace Kolt {
 
 class EditRecorder;
+class UndoHistory;
 class VParameter;
 
 using ParameterPtr = Tessera::StrongPtr<VParameter, ValueNotifierList>;
@@ -89,8 +90,14 @@ public:
     PreferencesPtr const& creationPreferences() const { return preferences_; }
     void setCreationPreferences(PreferencesPtr const& preferences) { preferences_ = preferences; }
 
-    /// Hands a record of an edit over to the history (UndoHistory), just before the value is written, with the weight
-    /// that it has there.
+    /// The history that records edits of this parameter: the one that it is attached to, else
+    /// UndoHistory::theHistory().
+    UndoHistory& history() const;
+    /// Attaches the parameter to a history, which is not owned; null detaches it. When the history is destroyed, the
+    /// parameter is detached. Steps recorded before stay in the history that recorded them.
+    void setHistory(UndoHistory* history);
+    /// Adds a record of an edit to the parameter's history, just before the value is written. Histories do not use the
+    /// weight.
     void AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight);
 
 private:
@@ -113,6 +120,7 @@ private:
     PreferencesPtr preferences_;
     std::unique_ptr<ValueSnapshot> defaults_;
     std::weak_ptr<EditRecorder> recorder_;
+    Tessera::WeakPtr<UndoHistory> history_;
 };
 
 /// The update step: marks the value that the parameter has in the pool as changed, by a new age stamp. Where the pool

@@ -66,13 +66,13 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     connect(&plugins_, &Plugins::aboutToChange, this, &MainWindow::closeEditors);
     connect(&plugins_, &Plugins::changed, this, &MainWindow::openEditors);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &MainWindow::repairActivation, Qt::QueuedConnection);
-    Kolt::UndoHistory::theHistory().setListener([this] { historyChanged(); });
+    historyConnection_ = Kolt::UndoHistory::theHistory().addListener([this] { historyChanged(); });
     updateUndo();
     updatePlugins();
 }
 
 MainWindow::~MainWindow() {
-    Kolt::UndoHistory::theHistory().setListener({});
+    historyConnection_.disconnect();
     // While the network and the pools still stand: what an editor does as it goes may need them.
     closeViews();
     closeEditors();

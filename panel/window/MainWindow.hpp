@@ -146,6 +146,7 @@ private:
     QLineEdit* const filterField_;
     QLabel* const pluginLabel_;
     QTimer modifiedTimer_;
+    Kolt::Connection historyConnection_;
     QAction* undoAction_ = nullptr;
     QAction* redoAction_ = nullptr;
     QAction* findAction_ = nullptr;
