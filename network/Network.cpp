@@ -283,7 +283,7 @@ bool Network::saveAs(QString const& file, QString* error) {
 void Network::rememberDefaults() {
     for (auto const& object : objects_)
         for (auto const& parameter : object->parameters())
-            if (isEdited(*parameter))
+            if (parameter->isEdited())
                 parameter->rememberDefaults();
 }
 

@@ -5,6 +5,7 @@
 #include <lattice/ValueNotifier.hpp>
 #include <lattice/ValueSnapshot.hpp>
 #include <memory>
+#include <optional>
 
 namespace Kolt {
 
@@ -61,6 +62,11 @@ public:
     void setLocalValue(PoolPtr const& pool, ValuePtr const& value);
     /// The living pools that have an object of their own.
     std::vector<PoolPtr> poolsWithValue() const;
+
+    /// Whether people edit the parameter, so that its edits are undone, reset, copied and pasted: what setEdited said,
+    /// else what the own value says (VValueBase::isEdited).
+    bool isEdited() const { return edited_.value_or(ownValue_->isEdited()); }
+    void setEdited(bool edited) { edited_ = edited; }
 
     /// From now on what the parameter holds, itself and in its pools, is its default.
     void rememberDefaults();
@@ -121,6 +127,7 @@ private:
     std::unique_ptr<ValueSnapshot> defaults_;
     std::weak_ptr<EditRecorder> recorder_;
     Tessera::WeakPtr<UndoHistory> history_;
+    std::optional<bool> edited_;
 };
 
 /// The update step: marks the value that the parameter has in the pool as changed, by a new age stamp. Where the pool

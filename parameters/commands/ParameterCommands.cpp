@@ -49,7 +49,7 @@ void ParameterCommands::focusChanged(QWidget* widget) {
 
 void ParameterCommands::updateActions() {
     auto const parameter = row_ ? row_->parameter() : nullptr;
-    bool const edited = parameter && isEdited(*parameter);
+    bool const edited = parameter && parameter->isEdited();
     resetAction_->setEnabled(edited && parameter->defaults());
     copyAction_->setEnabled(edited);
     pasteAction_->setEnabled(edited);

@@ -111,7 +111,7 @@ void ParameterRow::openEditor() {
         return;
     }
     editor_ = Kolt::makeEditor(parameter, this, &pools_);
-    if (editor_.widget && isEdited(*parameter))
+    if (editor_.widget && parameter->isEdited())
         recorder_ = Kolt::EditRecorder::watch(parameter);
     if (!editor_.widget)
         editor_.widget = new PlaceholderEditor(*parameter, this);
