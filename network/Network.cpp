@@ -283,7 +283,7 @@ bool Network::saveAs(QString const& file, QString* error) {
 void Network::rememberDefaults() {
     for (auto const& object : objects_)
         for (auto const& parameter : object->parameters())
-            if (isEdited(*parameter))
+            if (parameter->isEdited())
                 parameter->rememberDefaults();
     rememberSaved();
 }
@@ -292,7 +292,7 @@ void Network::rememberSaved() {
     saved_.clear();
     for (auto const& object : objects_)
         for (auto const& parameter : object->parameters())
-            if (isEdited(*parameter))
+            if (parameter->isEdited())
                 saved_.push_back({parameter, Kolt::ValueSnapshot(*parameter)});
 }
 

@@ -235,23 +235,23 @@ QJsonValue writeStringArray(Kolt::ValuePtr const& value) {
 std::vector<ValueFormat> const& formats() {
     using Tessera::Typename;
     static std::vector<ValueFormat> const all = {
-        {"bool", Typename(typeid(bool)), false, true, readBool, writeBool, copyContent<bool>},
-        {"int", Typename(typeid(int)), false, true, readInt, writeInt, copyContent<int>},
-        {"double", Typename(typeid(double)), false, true, readDouble, writeDouble, copyContent<double>},
-        {"action", Typename(typeid(ActionPtr)), false, false, readAction, writeAction, copyContent<ActionPtr>},
-        {"colour", Typename(typeid(Ferro::rgba_float_t)), false, true, readColour, writeColour,
+        {"bool", Typename(typeid(bool)), false, readBool, writeBool, copyContent<bool>},
+        {"int", Typename(typeid(int)), false, readInt, writeInt, copyContent<int>},
+        {"double", Typename(typeid(double)), false, readDouble, writeDouble, copyContent<double>},
+        {"action", Typename(typeid(ActionPtr)), false, readAction, writeAction, copyContent<ActionPtr>},
+        {"colour", Typename(typeid(Ferro::rgba_float_t)), false, readColour, writeColour,
          copyContent<Ferro::rgba_float_t>},
-        {"enum", Typename(typeid(Kolt::Enum)), true, true, readEnum, writeEnum, copyContent<Kolt::Enum>},
-        {"flags", Typename(typeid(Kolt::FlagList)), false, true, readFlags, writeFlags, copyContent<Kolt::FlagList>},
-        {"info", Typename(typeid(Kolt::info)), false, false, readInfo, writeInfo, copyContent<Kolt::info>},
-        {"selection", Typename(typeid(Kolt::VStringList)), true, true, readSelection, writeSelection,
+        {"enum", Typename(typeid(Kolt::Enum)), true, readEnum, writeEnum, copyContent<Kolt::Enum>},
+        {"flags", Typename(typeid(Kolt::FlagList)), false, readFlags, writeFlags, copyContent<Kolt::FlagList>},
+        {"info", Typename(typeid(Kolt::info)), false, readInfo, writeInfo, copyContent<Kolt::info>},
+        {"selection", Typename(typeid(Kolt::VStringList)), true, readSelection, writeSelection,
          copyContent<Kolt::VStringList>},
-        {"multiselection", Typename(typeid(Kolt::VMultipleStringList)), true, true, readMultipleSelection,
+        {"multiselection", Typename(typeid(Kolt::VMultipleStringList)), true, readMultipleSelection,
          writeMultipleSelection, copyContent<Kolt::VMultipleStringList>},
-        {"status", Typename(typeid(Kolt::VObjectStatus)), false, false, readStatus, writeStatus,
+        {"status", Typename(typeid(Kolt::VObjectStatus)), false, readStatus, writeStatus,
          copyContent<Kolt::VObjectStatus>},
-        {"string", Typename(typeid(std::string)), false, true, readString, writeString, copyContent<std::string>},
-        {"stringarray", Typename(typeid(StringArray)), false, true, readStringArray, writeStringArray,
+        {"string", Typename(typeid(std::string)), false, readString, writeString, copyContent<std::string>},
+        {"stringarray", Typename(typeid(StringArray)), false, readStringArray, writeStringArray,
          copyContent<std::string>}};
     return all;
 }
@@ -288,11 +288,6 @@ ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value) {
     else if (auto const multiple = contentOf<Kolt::VMultipleStringList>(value))
         list = multiple->get();
     return list ? &list->strings() : nullptr;
-}
-
-bool isEdited(Kolt::VParameter const& parameter) {
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
-    return format && format->edited;
 }
 
 QJsonValue realToJson(double number) {

@@ -17,8 +17,6 @@ struct ValueFormat {
     std::string typeName;
     /// Whether values choose among the entries of their parameter.
     bool choosesEntries;
-    /// Whether people edit values of the type; the others are shown, and told by objects, on any thread.
-    bool edited;
     /// A new value object; throws a FormatError for what is no value of the type.
     Kolt::ValuePtr (*read)(JsonNode const& node, Entries const& entries);
     /// The value as JSON; undefined when the object is not one that `read` makes, or holds a text that is not UTF-8.
@@ -36,9 +34,6 @@ struct ValueFormat {
 
 /// The entries among which a value chooses; null when it refers to no list.
 ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value);
-
-/// Whether people edit the values of the parameter. Not so where no network file can hold them.
-bool isEdited(Kolt::VParameter const& parameter);
 
 /// A number as JsonNode::real reads it.
 QJsonValue realToJson(double number);

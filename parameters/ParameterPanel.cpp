@@ -59,19 +59,23 @@ public:
         emptyNote->setVisible(foundNone);
     }
 
+    Kolt::UndoHistory& history() const {
+        auto const living = object.strong();
+        bool const hasParameter = living && !living->parameters().empty();
+        return hasParameter ? living->parameters().front()->history() : Kolt::UndoHistory::theHistory();
+    }
+
     void resetAll() const {
         filterOfInput->gestures().end();
         auto const living = object.strong();
         if (!living)
             return;
-        auto& history = Kolt::UndoHistory::theHistory();
-        history.beginMacro();
-        // Copies: a notifier may change the object.
+        Kolt::UndoHistory::Macro const macro(history());
+        // A copy: a notifier may change the object.
         auto const parameters = living->parameters();
         for (auto const& parameter : parameters)
             if (parameter->defaults())
                 (void)resetToDefault(parameter, Kolt::currentPool(&pools));
-        history.endMacro();
     }
 
     Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase> const object;
@@ -132,7 +136,7 @@ void ParameterPanel::setRawValuesShown(bool shown) {
 QAction* ParameterPanel::action(Command command) {
     if (command == Command::Undo || command == Command::Redo) {
         if (!d_->undoActions) {
-            d_->undoActions = new UndoActions(Kolt::UndoHistory::theHistory(), this);
+            d_->undoActions = new UndoActions(d_->history(), this);
             d_->undoActions->setNaming(d_->naming);
             connect(d_->undoActions, &UndoActions::refused, this, &ParameterPanel::refused);
             for (auto* const action : {d_->undoActions->undoAction(), d_->undoActions->redoAction()}) {

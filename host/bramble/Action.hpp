@@ -28,6 +28,7 @@ private:
 /// The text is the action's name, empty for no action. No text makes an action.
 template <>
 struct VValueTrait<Tessera::StrongPtr<VAction>> : ValueTraitDefaults<Tessera::StrongPtr<VAction>> {
+    static constexpr bool IsEdited = false;
     static std::string Text(Tessera::StrongPtr<VAction> value);
     static bool setValueFromText(Tessera::StrongPtr<VAction>& value, std::string const& text);
 };

@@ -87,6 +87,7 @@ struct VValueTrait<FlagList> : ValueTraitDefaults<FlagList> {
 /// The text itself.
 template <>
 struct VValueTrait<info> : ValueTraitDefaults<info> {
+    static constexpr bool IsEdited = false;
     static std::string Text(info const& value) { return value.text; }
     static bool setValueFromText(info& value, std::string const& text);
 };
@@ -94,6 +95,7 @@ struct VValueTrait<info> : ValueTraitDefaults<info> {
 /// The text itself.
 template <>
 struct VValueTrait<VObjectStatus> : ValueTraitDefaults<VObjectStatus> {
+    static constexpr bool IsEdited = false;
     static std::string Text(VObjectStatus const& value) { return value.text(); }
     static bool setValueFromText(VObjectStatus& value, std::string const& text);
 };

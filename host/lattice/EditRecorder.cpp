@@ -25,14 +25,14 @@ void EditRecorder::noteEdit(ParameterPtr const& parameter, PoolPtr const& pool) 
     if (held_.isEffectiveIn(*parameter, pool))
         return;
     held_.refreshIn(*parameter, pool);
-    UndoHistory::theHistory().record(ValueChange(parameter, pool, before, held_.in(pool)));
+    parameter->history().record(ValueChange(parameter, pool, before, held_.in(pool)));
 }
 
 EditRecorder::NotificationScope::NotificationScope(std::shared_ptr<EditRecorder> recorder, PoolPtr const& pool,
                                                    bool byInput)
     : recorder_(std::move(recorder)), byInput_(byInput) {
     auto const parameter = recorder_->parameter_.strong();
-    bool const restores = UndoHistory::theHistory().isRestoring();
+    bool const restores = UndoHistory::isAnyRestoring();
     if (parameter && byInput && recorder_->hostWrites_ == 0 && !restores)
         recorder_->noteEdit(parameter, pool);
     else if (parameter && restores)

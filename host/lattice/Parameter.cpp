@@ -117,8 +117,17 @@ void VParameter::setProperty(std::string const& name, ValuePtr const& value,
     notifyValueChange(effectiveValue(context), context, std::string(), source, alsoNotify, properties.get());
 }
 
-void VParameter::AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight) {
-    UndoHistory::theHistory().add(action, weight, ParameterRef(this));
+UndoHistory& VParameter::history() const {
+    auto const attached = history_.strong();
+    return attached ? *attached : UndoHistory::theHistory();
+}
+
+void VParameter::setHistory(UndoHistory* history) {
+    history_ = Tessera::WeakPtr<UndoHistory>(history);
+}
+
+void VParameter::AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int) {
+    history().add(action, ParameterRef(this));
 }
 
 void markValueChanged(VParameter const& parameter, PoolPtr const& pool) {

@@ -5,10 +5,12 @@
 #include <lattice/ValueNotifier.hpp>
 #include <lattice/ValueSnapshot.hpp>
 #include <memory>
+#include <optional>
 
 namespace Kolt {
 
 class EditRecorder;
+class UndoHistory;
 class VParameter;
 
 using ParameterPtr = Tessera::StrongPtr<VParameter, ValueNotifierList>;
@@ -61,6 +63,11 @@ public:
     /// The living pools that have an object of their own.
     std::vector<PoolPtr> poolsWithValue() const;
 
+    /// Whether people edit the parameter, so that its edits are undone, reset, copied and pasted: what setEdited said,
+    /// else what the own value says (VValueBase::isEdited).
+    bool isEdited() const { return edited_.value_or(ownValue_->isEdited()); }
+    void setEdited(bool edited) { edited_ = edited; }
+
     /// From now on what the parameter holds, itself and in its pools, is its default.
     void rememberDefaults();
     /// What the parameter held when its defaults were remembered; null as long as they never were.
@@ -89,8 +96,14 @@ public:
     PreferencesPtr const& creationPreferences() const { return preferences_; }
     void setCreationPreferences(PreferencesPtr const& preferences) { preferences_ = preferences; }
 
-    /// Hands a record of an edit over to the history (UndoHistory), just before the value is written, with the weight
-    /// that it has there.
+    /// The history that records edits of this parameter: the one that it is attached to, else
+    /// UndoHistory::theHistory().
+    UndoHistory& history() const;
+    /// Attaches the parameter to a history, which is not owned; null detaches it. When the history is destroyed, the
+    /// parameter is detached. Steps recorded before stay in the history that recorded them.
+    void setHistory(UndoHistory* history);
+    /// Adds a record of an edit to the parameter's history, just before the value is written. Histories do not use the
+    /// weight.
     void AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight);
 
 private:
@@ -113,6 +126,8 @@ private:
     PreferencesPtr preferences_;
     std::unique_ptr<ValueSnapshot> defaults_;
     std::weak_ptr<EditRecorder> recorder_;
+    Tessera::WeakPtr<UndoHistory> history_;
+    std::optional<bool> edited_;
 };
 
 /// The update step: marks the value that the parameter has in the pool as changed, by a new age stamp. Where the pool

@@ -102,8 +102,8 @@ PluginLoader::Outcome PluginLoader::unload(std::string const& file) {
     if (int const living = plugin.livingEditors())
         return {false, "The plug-in " + file + " cannot be unloaded while " + std::to_string(living) +
                            (living == 1 ? " of its editors is in use." : " of its editors are in use.")};
-    // The code that takes these steps back goes with the plug-in.
-    UndoHistory::theHistory().forget([&](VUndoAction const& action) { return plugin.defines(typeid(action)); });
+    // The code that undoes these records is unloaded with the plug-in.
+    UndoHistory::forgetEverywhere([&](VUndoAction const& action) { return plugin.defines(typeid(action)); });
     if (dlclose(plugin.handle) != 0)
         return {false, "Cannot close the plug-in " + file + ": " + loaderReason()};
     plugins_.erase(found);

@@ -78,7 +78,7 @@ bool UndoStep::changesNothing() const {
 }
 
 bool UndoStep::awaitsChangeOf(ValueChange const& change) const {
-    return awaitsChange_ && changes_.empty() && !records_.empty() && change.isOf(records_.back().parameter);
+    return awaitsChange_ && change.isOf(records_.back().parameter);
 }
 
 bool UndoStep::undo() {

@@ -86,8 +86,6 @@ private:
     std::vector<ValueChange> changes_;
     // In the order in which they were handed over.
     std::vector<Record> records_;
-    int weight_ = 0;
-    unsigned long number_ = 0;
     bool awaitsChange_ = false;
 };
 

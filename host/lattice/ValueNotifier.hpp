@@ -56,6 +56,8 @@ public:
     std::size_t size() const;
 
 protected:
+    /// How many notifiers the list remembers: the living, and those that died since the last one was added.
+    std::size_t remembered() const { return snapshot().size(); }
     /// Whether a notifier was ever added. Cheap, as a simulation changes many parameters of which few are shown.
     bool hasListeners() const { return used_.load(std::memory_order_acquire); }
     /// Notifies a snapshot of the list, in order, but for `source` and for notifiers that die meanwhile; then the

@@ -8,6 +8,9 @@ namespace Kolt {
 /// What every type of value shares unless its trait says otherwise.
 template <typename T>
 struct ValueTraitDefaults {
+    /// Whether people edit values of the type, so that edits are undone, reset, copied and pasted. False for what is
+    /// triggered or only shown.
+    static constexpr bool IsEdited = true;
     /// A copy for another place: what the copy refers to must not be shared where that could be changed in place.
     static T Clone(T const& value) { return value; }
     /// Whether both stand for the same value.

@@ -16,6 +16,10 @@ Tessera::StrongPtr<Tessera::InterfaceBase> VValueBase::getInterface() const {
     return nullptr;
 }
 
+bool VValueBase::isEdited() const {
+    return true;
+}
+
 void VValueBase::setContainerValue(Tessera::WeakPtr<VValueBase> const& container) {
     container_ = container;
 }

@@ -36,6 +36,9 @@ void Document::setNetwork(std::unique_ptr<Talo::Network> network) {
         emit aboutToClose();
     // The old one is deleted after its users have let go of it.
     auto const old = std::exchange(network_, std::move(network));
+    for (auto const& object : network_->objects())
+        for (auto const& parameter : object->parameters())
+            parameter->setHistory(&history_);
     emit opened(network_.get());
     checkModified();
 }

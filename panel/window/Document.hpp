@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <lattice/UndoHistory.hpp>
 #include <network/Network.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <QObject>
@@ -35,6 +36,8 @@ public:
 
     /// The network's title or its file name; empty without a network.
     QString title() const;
+    /// Records the edits of the open network; cleared when another one is opened.
+    Kolt::UndoHistory& history() { return history_; }
     /// Names parameters by object and name, for the network that is open at the moment.
     Talo::ParameterNaming naming() const;
 
@@ -49,6 +52,7 @@ signals:
     void modifiedChanged(bool modified);
 
 private:
+    Kolt::UndoHistory history_;
     std::unique_ptr<Talo::Network> network_;
     QTimer modifiedTimer_;
 };

@@ -1,6 +1,5 @@
 #include <panel/window/MainWindow.hpp>
 
-#include <lattice/UndoHistory.hpp>
 #include <panel/look/Look.hpp>
 #include <panel/window/ActivationRepair.hpp>
 #include <parameters/commands/ParameterFilter.hpp>
@@ -33,12 +32,12 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     : QMainWindow(parent),
       plugins_(plugins),
       fractal_(std::make_unique<Fractal::FractalController>()),
-      undoActions_(Kolt::UndoHistory::theHistory()),
+      undoActions_(document_.history()),
       commands_(nullptr),
       objectList_(new ObjectList(pools_)),
       views_(new ViewStack(pools_, *this)),
       messageDock_(new MessageDock(*this)),
-      historyView_(new Talo::HistoryView),
+      historyView_(new Talo::HistoryView(document_.history())),
       toolBar_(new PoolToolBar),
       fileMenu_(new FileMenu(document_, *this)),
       pluginMenu_(new PluginMenu(plugins, *this)),
@@ -61,7 +60,7 @@ MainWindow::~MainWindow() {
     closeEditors();
     views_->deleteViews();
     fractal_->showNetwork(nullptr, nullptr);
-    Kolt::UndoHistory::theHistory().clear();
+    document_.history().clear();
 }
 
 void MainWindow::makeCentre() {
@@ -121,7 +120,6 @@ void MainWindow::connectParts() {
     connect(&document_, &Document::loaded, this, [this](QString const& file) { report(tr("Opened %1.").arg(file)); });
     connect(&document_, &Document::saved, this, &MainWindow::showSaved);
     connect(&undoActions_, &Talo::UndoActions::historyChanged, &document_, &Document::checkModifiedLater);
-    connect(&undoActions_, &Talo::UndoActions::historyChanged, historyView_, &Talo::HistoryView::historyChanged);
     connect(&undoActions_, &Talo::UndoActions::refused, this,
             [this](QString const& reason) { messages()->add(MessageList::Source::Error, reason); });
     connect(historyView_, &Talo::HistoryView::stateChosen, &undoActions_, &Talo::UndoActions::goToState);
@@ -156,7 +154,7 @@ void MainWindow::showOpened(Talo::Network* network) {
     fractal_->showNetwork(nullptr, nullptr);
     // The old steps are about parameters that are deleted now.
     commitPendingEdit();
-    Kolt::UndoHistory::theHistory().clear();
+    document_.history().clear();
     undoActions_.setNaming(document_.naming());
     historyView_->setNaming(document_.naming());
     network->actionHandler = [this](Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,

@@ -62,6 +62,8 @@ public:
     ObjectList* objectList() const { return objectList_; }
     MessageList* messages() const { return messageDock_->messages(); }
     Talo::PoolSource& pools() { return pools_; }
+    /// Records the edits of the open network.
+    Kolt::UndoHistory& history() { return document_.history(); }
     /// Computes and shows the network's picture.
     Fractal::FractalController& fractalController() { return *fractal_; }
 

@@ -7,7 +7,7 @@
 
 namespace Talo {
 
-HistoryView::HistoryView(QWidget* parent) : QListWidget(parent) {
+HistoryView::HistoryView(Kolt::UndoHistory& history, QWidget* parent) : QListWidget(parent), history_(history) {
     setObjectName(QStringLiteral("history"));
     setAccessibleName(tr("History"));
     setAccessibleDescription(tr("The steps that can be taken back. Return goes to the state after the chosen step."));
@@ -21,6 +21,7 @@ HistoryView::HistoryView(QWidget* parent) : QListWidget(parent) {
     auto const choose = [this](QListWidgetItem* chosen) { emit stateChosen(row(chosen)); };
     connect(this, &QListWidget::itemClicked, this, choose);
     connect(this, &QListWidget::itemActivated, this, choose);
+    connection_ = history_.addListener([this] { historyChanged(); });
 }
 
 HistoryView::~HistoryView() = default;
@@ -54,10 +55,9 @@ void HistoryView::changeEvent(QEvent* event) {
 
 void HistoryView::refresh() {
     refreshWaits_ = false;
-    auto const& history = Kolt::UndoHistory::theHistory();
-    auto steps = history.steps();
+    auto steps = history_.steps();
     auto const done = static_cast<int>(steps.size());
-    auto const undone = history.undoneSteps();
+    auto const undone = history_.undoneSteps();
     steps.insert(steps.end(), undone.begin(), undone.end());
 
     // What stands there already stays, but for the step of a gesture that goes on and for the border of what was

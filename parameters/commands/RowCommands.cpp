@@ -1,7 +1,6 @@
 #include <parameters/commands/RowCommands.hpp>
 
 #include <lattice/UndoHistory.hpp>
-#include <network/ValueFormat.hpp>
 #include <parameters/commands/ValueClipboard.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/rows/ParameterRow.hpp>
@@ -25,7 +24,7 @@ bool hasDefaults(Kolt::VParameter const& parameter) {
 } // namespace
 
 bool RowCommand::isEnabledFor(Kolt::ParameterPtr const& parameter) const {
-    return parameter && isEdited(*parameter) && (!isPossible || isPossible(*parameter));
+    return parameter && parameter->isEdited() && (!isPossible || isPossible(*parameter));
 }
 
 std::vector<RowCommand> rowCommands() {
@@ -56,7 +55,7 @@ QMenu* makeRowMenu(ParameterRow& row) {
 bool resetToDefault(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool) {
     InputFilter::shared()->gestures().end();
     auto const* const defaults = parameter ? parameter->defaults() : nullptr;
-    return defaults && Kolt::UndoHistory::theHistory().store(parameter, pool, defaults->in(pool));
+    return defaults && parameter->history().store(parameter, pool, defaults->in(pool));
 }
 
 void copyValue(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
@@ -73,7 +72,7 @@ QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& poo
     if (!pasted.value)
         return pasted.error;
     auto const name = QString::fromStdString(parameter->Name());
-    if (!Kolt::UndoHistory::theHistory().store(parameter, pool, {pasted.value, false}))
+    if (!parameter->history().store(parameter, pool, {pasted.value, false}))
         return Texts::tr("%1 does not take a value in this pool.").arg(name);
     return {};
 }

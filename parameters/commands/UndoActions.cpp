@@ -24,16 +24,14 @@ UndoActions::UndoActions(Kolt::UndoHistory& history, QObject* parent)
     redoAction_->setObjectName(QStringLiteral("redo"));
     redoAction_->setShortcuts(QKeySequence::Redo);
     connect(redoAction_, &QAction::triggered, this, &UndoActions::redo);
-    history_.setListener([this] {
+    connection_ = history_.addListener([this] {
         update();
         emit historyChanged();
     });
     update();
 }
 
-UndoActions::~UndoActions() {
-    history_.setListener({});
-}
+UndoActions::~UndoActions() = default;
 
 void UndoActions::setNaming(ParameterNaming naming) {
     naming_ = std::move(naming);

@@ -43,6 +43,7 @@ private:
     QAction* const undoAction_;
     QAction* const redoAction_;
     ParameterNaming naming_;
+    Kolt::Connection connection_;
 };
 
 } // namespace Talo

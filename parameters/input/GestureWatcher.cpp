@@ -85,8 +85,9 @@ void GestureWatcher::begin(Kind kind, QWidget* target) {
     ++number_;
     // A deleted target sees neither the release nor the loss of the focus.
     connect(target, &QObject::destroyed, this, &GestureWatcher::end);
-    history_ = &dynamic_cast<GestureTarget&>(*GestureTarget::around(target)).history();
-    history_->beginMacro();
+    auto& history = dynamic_cast<GestureTarget&>(*GestureTarget::around(target)).history();
+    history_ = Tessera::WeakPtr<Kolt::UndoHistory>(&history);
+    macro_.emplace(history);
 }
 
 void GestureWatcher::end() {
@@ -97,7 +98,8 @@ void GestureWatcher::end() {
     if (target_)
         disconnect(target_, &QObject::destroyed, this, &GestureWatcher::end);
     target_.clear();
-    std::exchange(history_, nullptr)->endMacro();
+    history_ = nullptr;
+    macro_.reset();
 }
 
 void GestureWatcher::endLater() {
@@ -217,7 +219,8 @@ bool GestureWatcher::overrideShortcut(QWidget* widget, QKeyEvent* event) {
         return false;
     // The field may write its text on this occasion.
     static_cast<QObject*>(widget)->event(event);
-    bool const isUnwritten = kind_ == Kind::Text && target_ == field && !history_->isStepOpen();
+    auto const history = history_.strong();
+    bool const isUnwritten = kind_ == Kind::Text && target_ == field && history && !history->isStepOpen();
     if (!field || !isUnwritten || !hasOwnHistory(field, redo))
         event->ignore();
     return true;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lattice/UndoHistory.hpp>
+#include <optional>
 #include <QKeyEvent>
 #include <QObject>
 #include <QPointer>
@@ -52,8 +53,9 @@ private:
 
     Kind kind_ = Kind::None;
     QPointer<QWidget> target_;
-    // In which the macro of the gesture is open; null between gestures.
-    Kolt::UndoHistory* history_ = nullptr;
+    // The history in which the gesture's macro is open, and the macro; none between gestures.
+    Tessera::WeakPtr<Kolt::UndoHistory> history_;
+    std::optional<Kolt::UndoHistory::Macro> macro_;
     int key_ = 0;
     bool ending_ = false;
     // Distinguishes the gestures.

@@ -53,7 +53,7 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
     layout_->setSpacing(12);
     layout_->addWidget(names_);
     // What people do not edit has no default, and workers may change it often.
-    if (isEdited(*parameter))
+    if (parameter->isEdited())
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     showNote();
     showDefault();
@@ -71,7 +71,8 @@ ParameterRow* ParameterRow::rowOf(QWidget* widget) {
 }
 
 Kolt::UndoHistory& ParameterRow::history() const {
-    return Kolt::UndoHistory::theHistory();
+    auto const parameter = parameter_.strong();
+    return parameter ? parameter->history() : Kolt::UndoHistory::theHistory();
 }
 
 void ParameterRow::openEditor() {
@@ -83,7 +84,7 @@ void ParameterRow::openEditor() {
         showNote();
         return;
     }
-    bool const isEdited = !cell_.isPlaceholder() && Talo::isEdited(*parameter);
+    bool const isEdited = !cell_.isPlaceholder() && parameter->isEdited();
     if (isEdited)
         recorder_ = Kolt::EditRecorder::watch(parameter);
     cell_.limitWidth();

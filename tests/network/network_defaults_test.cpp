@@ -110,5 +110,5 @@ TEST_F(NetworkDefaults, AValueIsReadFromATextWithoutChangingAnything) {
     EXPECT_EQ(Talo::valueFromText(*parameter, pool, "b"), nullptr);
     EXPECT_EQ(parameter->getLocalValue(pool, std::string(), false), nullptr);
     EXPECT_FALSE(loaded->isModified());
-    EXPECT_TRUE(Talo::isEdited(*parameter));
+    EXPECT_TRUE(parameter->isEdited());
 }

@@ -356,7 +356,7 @@ TEST_F(DesktopTest, ClosingAsksForUnsavedChanges) {
 }
 
 TEST_F(DesktopTest, StepsAreChosenInTheListByMouseAndKeyboard) {
-    auto const& history = Kolt::UndoHistory::theHistory();
+    auto const& history = window->history();
     auto const start = window->network()->values();
     for (auto const* const number : {"111", "222", "333"}) {
         goTo("formula.iterations");

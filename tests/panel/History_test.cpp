@@ -28,7 +28,7 @@ protected:
             rows.push_back(list()->item(index)->text().toStdString());
         return rows;
     }
-    static bool noGesture() { return !Kolt::UndoHistory::theHistory().isMacroOpen(); }
+    bool noGesture() const { return !window->history().isMacroOpen(); }
     void undo() const { action("undo")->trigger(); }
     void redo() const { action("redo")->trigger(); }
 };
@@ -525,5 +525,5 @@ TEST_F(HistoryTest, AnotherNetworkStartsWithAnEmptyHistory) {
     ASSERT_TRUE(window->openNetwork(networkFile("other.json", lamps)));
     EXPECT_FALSE(action("undo")->isEnabled());
     EXPECT_FALSE(action("redo")->isEnabled());
-    EXPECT_THAT(Kolt::UndoHistory::theHistory().steps(), IsEmpty());
+    EXPECT_THAT(window->history().steps(), IsEmpty());
 }
