@@ -8,7 +8,7 @@ set(TALO_INSTALL_PLUGIN_DIR "${CMAKE_INSTALL_LIBDIR}/talo")
 
 function(talo_install)
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/plugin" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/talo"
-        FILES_MATCHING PATTERN "QInputWidgetCreator.hpp" PATTERN "VInputValue.hpp")
+        FILES_MATCHING PATTERN "Plugin.hpp" PATTERN "QInputWidgetCreator.hpp" PATTERN "VInputValue.hpp")
 
     set_target_properties(qtalo_inputs PROPERTIES INSTALL_RPATH "$ORIGIN/..")
     install(TARGETS qtalo_inputs LIBRARY DESTINATION "${TALO_INSTALL_PLUGIN_DIR}")

@@ -1,7 +1,8 @@
+#include <qVinputs/basics/NumberSelection.hpp>
+
 #include <algorithm>
 #include <locale>
 #include <optional>
-#include <qVinputs/basics/NumberSelection.hpp>
 #include <sstream>
 
 namespace Kolt {

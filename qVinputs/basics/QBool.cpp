@@ -1,6 +1,7 @@
+#include <qVinputs/basics/QBool.hpp>
+
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QHBoxLayout>
-#include <qVinputs/basics/QBool.hpp>
 
 namespace Kolt {
 

@@ -1,18 +1,16 @@
+#include <qVinputs/basics/QFloat.hpp>
+
 #include <algorithm>
 #include <lattice/ActionNotifier.hpp>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QDoubleValidator>
 #include <QHBoxLayout>
 #include <QMouseEvent>
-#include <QSignalBlocker>
-#include <qVinputs/basics/QFloat.hpp>
 
 namespace Kolt {
 
 namespace {
 
-constexpr char MaximumProperty[] = "max";
-constexpr char MinimumProperty[] = "min";
 constexpr char IncrementProperty[] = "increment";
 constexpr char PrecisionProperty[] = "precision";
 
@@ -147,13 +145,7 @@ QFloat::~QFloat() = default;
 
 void QFloat::makeDial(bool periodic) {
     dial_ = new MyQDial(this, "float dialer");
-    dial_->setWrapping(periodic);
-    layout()->addWidget(dial_);
-    dial_->setTracking(true);
-    dial_->setNotchesVisible(true);
-    dial_->setFixedSize(64, 64);
-    dial_->setPageStep(15);
-    dial_->setSingleStep(5);
+    addDial(*layout(), *dial_, periodic);
 }
 
 void QFloat::makeSlider() {
@@ -184,34 +176,26 @@ FloatInterval* QFloat::interval() const {
 }
 
 void QFloat::applyProperties(ValueMap const* properties) {
-    auto const property = [properties](char const* name, auto fallback) {
-        return properties ? valueOr(properties->getValue(name), fallback) : fallback;
-    };
-    resolution_ = property(IncrementProperty, resolution_);
-    if (auto* const bounds = interval()) {
-        bounds->max = property(MaximumProperty, bounds->max);
-        bounds->min = property(MinimumProperty, bounds->min);
-        bounds->setResolution(resolution_);
+    resolution_ = propertyOr(properties, IncrementProperty, resolution_);
+    if (auto* const shown = interval()) {
+        auto const bounds = boundsOr<double>(properties, {shown->min, shown->max});
+        shown->min = bounds.minimum;
+        shown->max = bounds.maximum;
+        shown->setResolution(resolution_);
         QSignalBlocker const blocker(control());
-        control()->setRange(0, bounds->lastPosition());
+        control()->setRange(0, shown->lastPosition());
     }
-    precision_ = std::clamp(property(PrecisionProperty, precision_), 0, LargestPrecision);
+    precision_ = std::clamp(propertyOr(properties, PrecisionProperty, precision_), 0, LargestPrecision);
 }
 
 void QFloat::moveHandle(double value) {
-    auto* const handle = control();
-    if (!handle)
-        return;
-    QSignalBlocker const blocker(handle);
-    handle->setValue(interval()->positionOf(value));
+    if (auto const* const bounds = interval())
+        moveSilently(control(), bounds->positionOf(value));
 }
 
 void QFloat::showText(double value) {
     shown_ = value;
-    if (!lineEdit_)
-        return;
-    lineEdit_->showText(QString::fromLatin1("%1").arg(value, precision_, 'f', precision_, QLatin1Char(' ')));
-    lineEdit_->home(false);
+    showNumberText(lineEdit_, QString::fromLatin1("%1").arg(value, precision_, 'f', precision_, QLatin1Char(' ')));
 }
 
 void QFloat::showNumber(double value) {

@@ -2,13 +2,12 @@
 
 #include <plugin/VInputValue.hpp>
 #include <qVinputs/basics/FloatInterval.hpp>
+#include <qVinputs/basics/NumberControl.hpp>
 
 #include <lattice/CreationPreferences.hpp>
-#include <QDial>
 #include <QFrame>
 #include <QPointer>
 #include <QSlider>
-#include <sorrel/QLeaveLineEdit.hpp>
 
 namespace Kolt {
 

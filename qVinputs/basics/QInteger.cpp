@@ -1,17 +1,14 @@
+#include <qVinputs/basics/QInteger.hpp>
+
 #include <lattice/ActionNotifier.hpp>
 #include <limits>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QIntValidator>
-#include <QSignalBlocker>
-#include <qVinputs/basics/QInteger.hpp>
 #include <qVinputs/basics/QIntegerIcon.hpp>
 
 namespace Kolt {
 
 namespace {
-
-constexpr char MaximumProperty[] = "max";
-constexpr char MinimumProperty[] = "min";
 
 // How much a move of the control matters to the history.
 constexpr int UndoWeight = 20;
@@ -25,10 +22,6 @@ int sliderMaximumFor(ValuePtr const& value) {
         return 100;
     constexpr int Largest = std::numeric_limits<int>::max();
     return number > Largest / 2 ? Largest : 2 * number;
-}
-
-int propertyOr(ValueMap const* properties, char const* name, int fallback) {
-    return properties ? valueOr(properties->getValue(name), fallback) : fallback;
 }
 
 } // namespace
@@ -94,13 +87,7 @@ QInteger::~QInteger() = default;
 void QInteger::makeDial(bool periodic) {
     periodic_ = periodic;
     dial_ = new QDial(this);
-    dial_->setWrapping(periodic);
-    layout_->addWidget(dial_);
-    dial_->setTracking(true);
-    dial_->setNotchesVisible(true);
-    dial_->setFixedSize(64, 64);
-    dial_->setPageStep(15);
-    dial_->setSingleStep(5);
+    addDial(*layout_, *dial_, periodic);
     setRangeFromProperties(360);
 }
 
@@ -116,7 +103,7 @@ void QInteger::setRangeFromProperties(int defaultMaximum) {
     ensureProperty(MaximumProperty, defaultMaximum);
     auto const parameter = owner().strong();
     auto const* const properties = parameter ? parameter->properties() : nullptr;
-    setRange(propertyOr(properties, MinimumProperty, 0), propertyOr(properties, MaximumProperty, defaultMaximum));
+    setRange(boundsOr<int>(properties, {0, defaultMaximum}));
 }
 
 void QInteger::makeLineEdit() {
@@ -134,7 +121,7 @@ QAbstractSlider* QInteger::control() const {
     return dial_;
 }
 
-void QInteger::setRange(int minimum, int maximum) {
+void QInteger::setRange(NumberBounds<int> const& bounds) {
     auto* const handle = control();
     if (!handle)
         return;
@@ -142,27 +129,16 @@ void QInteger::setRange(int minimum, int maximum) {
     // A dial that wraps divides by the width of its range.
     if (dial_)
         dial_->setWrapping(false);
-    handle->setRange(minimum, maximum);
+    handle->setRange(bounds.minimum, bounds.maximum);
     if (dial_)
-        dial_->setWrapping(periodic_ && minimum < maximum);
+        dial_->setWrapping(periodic_ && bounds.minimum < bounds.maximum);
     handle->setValue(shown_);
-}
-
-void QInteger::moveHandle(int value) {
-    auto* const handle = control();
-    if (!handle)
-        return;
-    QSignalBlocker const blocker(handle);
-    handle->setValue(value);
 }
 
 void QInteger::showNumber(int value) {
     shown_ = value;
-    if (lineEdit_) {
-        lineEdit_->showText(QString::number(value));
-        lineEdit_->home(false);
-    }
-    moveHandle(value);
+    showNumberText(lineEdit_, QString::number(value));
+    moveSilently(control(), value);
 }
 
 void QInteger::showAndWrite(int value) {
@@ -203,7 +179,7 @@ void QInteger::textEnter() {
     if (!isNumber)
         return;
     if (!owner()) {
-        moveHandle(number);
+        moveSilently(control(), number);
         commit(number);
         return;
     }
@@ -221,7 +197,7 @@ void QInteger::textEnter() {
 void QInteger::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
     // These defaults differ from those of the construction: a range that somebody narrows is a percentage.
     if (properties)
-        setRange(propertyOr(properties, MinimumProperty, 0), propertyOr(properties, MaximumProperty, 100));
+        setRange(boundsOr<int>(properties, {0, 100}));
 
     auto const* const typed = dynamic_cast<VValue<int> const*>(newValue.get());
     int value = 0;

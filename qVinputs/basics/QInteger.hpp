@@ -1,16 +1,15 @@
 #pragma once
 
 #include <plugin/VInputValue.hpp>
+#include <qVinputs/basics/NumberControl.hpp>
 
 #include <lattice/CreationPreferences.hpp>
 #include <lattice/UndoAction.hpp>
 #include <optional>
-#include <QDial>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QSlider>
 #include <QWidget>
-#include <sorrel/QLeaveLineEdit.hpp>
 
 namespace Kolt {
 
@@ -64,8 +63,7 @@ private:
 
     /// The slider or the dial; null when it is gone.
     QAbstractSlider* control() const;
-    void setRange(int minimum, int maximum);
-    void moveHandle(int value);
+    void setRange(NumberBounds<int> const& bounds);
     /// Shows a number in the line edit and by the handle. Writes nothing.
     void showNumber(int value);
     /// Shows a number and, where it is new, records a step and writes it.

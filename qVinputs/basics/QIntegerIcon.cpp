@@ -1,5 +1,6 @@
-#include <plugin/VInputValue.hpp>
 #include <qVinputs/basics/QIntegerIcon.hpp>
+
+#include <plugin/VInputValue.hpp>
 
 namespace Kolt {
 

@@ -1,8 +1,9 @@
+#include <qVinputs/basics/qVAction.hpp>
+
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QIcon>
 #include <QPixmap>
 #include <QPointer>
-#include <qVinputs/basics/qVAction.hpp>
 
 namespace Kolt {
 

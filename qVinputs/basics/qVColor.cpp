@@ -1,8 +1,9 @@
+#include <qVinputs/basics/qVColor.hpp>
+
 #include <algorithm>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QCloseEvent>
 #include <QSignalBlocker>
-#include <qVinputs/basics/qVColor.hpp>
 
 namespace Kolt {
 

@@ -1,3 +1,5 @@
+#include <qVinputs/basics/qVMultipleStringList.hpp>
+
 #include <algorithm>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QFontMetrics>
@@ -5,7 +7,6 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <qVinputs/basics/NumberSelection.hpp>
-#include <qVinputs/basics/qVMultipleStringList.hpp>
 
 namespace Kolt {
 

@@ -1,6 +1,7 @@
+#include <qVinputs/basics/qVObjectStatus.hpp>
+
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QThread>
-#include <qVinputs/basics/qVObjectStatus.hpp>
 
 namespace Kolt {
 

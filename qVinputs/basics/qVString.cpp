@@ -1,8 +1,9 @@
+#include <qVinputs/basics/qVString.hpp>
+
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QEvent>
 #include <QPointer>
 #include <QTextDocument>
-#include <qVinputs/basics/qVString.hpp>
 
 namespace Kolt {
 

@@ -1,10 +1,11 @@
+#include <qVinputs/basics/qVstringFileNameInput.hpp>
+
 #include <lattice/Scheduler.hpp>
 #include <limits>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
-#include <qVinputs/basics/qVstringFileNameInput.hpp>
 
 namespace Kolt {
 

@@ -1,7 +1,8 @@
+#include <qVinputs/basics/vQEnum.hpp>
+
 #include <algorithm>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QGridLayout>
-#include <qVinputs/basics/vQEnum.hpp>
 
 namespace Kolt {
 

@@ -2,7 +2,7 @@
 
 #include <lattice/Initialization.hpp>
 #include <limits>
-#include <plugin/LoadCallback.hpp>
+#include <plugin/Plugin.hpp>
 
 namespace {
 
@@ -23,7 +23,7 @@ class LoadCallback : public TaloTest {
 protected:
     std::vector<std::string> callsFor(unsigned long reason) {
         observer_.calls.clear();
-        EXPECT_EQ(Kolt::loadCallback(this, reason, this), 1) << reason;
+        EXPECT_EQ(Kolt::loadCallback("qtalo_inputs", this, reason, this), 1) << reason;
         return observer_.calls;
     }
     Observer observer_;
@@ -46,8 +46,16 @@ TEST_F(LoadCallback, CallsNobodyForAnotherReasonAndStillSucceeds) {
 }
 
 TEST_F(LoadCallback, NeedsNeitherHandleNorReservedPointer) {
-    EXPECT_EQ(Kolt::loadCallback(nullptr, 1, nullptr), 1);
+    EXPECT_EQ(Kolt::loadCallback("qtalo_inputs", nullptr, 1, nullptr), 1);
     EXPECT_THAT(observer_.calls, ElementsAre("0 qtalo_inputs TALO_API_VERSION"));
+}
+
+TEST_F(LoadCallback, ReportsAttachAndDetachForTheLifeOfALoadReport) {
+    {
+        Kolt::LoadReport const report("other_inputs");
+        EXPECT_THAT(observer_.calls, ElementsAre("0 other_inputs TALO_API_VERSION"));
+    }
+    EXPECT_THAT(observer_.calls, ElementsAre("0 other_inputs TALO_API_VERSION", "1 other_inputs TALO_API_VERSION"));
 }
 
 } // namespace
