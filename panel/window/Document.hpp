@@ -1,7 +1,7 @@
 #pragma once
 
-#include <memory>
 #include <lattice/UndoHistory.hpp>
+#include <memory>
 #include <network/Network.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <QObject>
