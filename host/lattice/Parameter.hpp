@@ -6,6 +6,7 @@
 #include <lattice/ValueSnapshot.hpp>
 #include <memory>
 #include <optional>
+#include <type_traits>
 
 namespace Kolt {
 
@@ -87,8 +88,10 @@ public:
 
     /// The properties; null as long as none was ever set.
     ValueMap const* properties() const { return properties_.get(); }
-    /// Puts a property under a name (null takes it away), then tells everybody but `source` as `notifyValueChange`
-    /// does, with the property map and the value object that holds in `pool`.
+    /// Stores a property under a name (null removes it), then notifies everybody but `source` as notifyValueChange()
+    /// does, with the property map and the value that is effective in `pool`. A property that editors know by its name
+    /// and that is not of the type that they expect ("max" of an int parameter as a double, say) is stored, too, with a
+    /// warning (VActionNotifier::Warning).
     void setProperty(std::string const& name, ValuePtr const& value, Tessera::WeakPtr<ValueNotifier> const& source,
                      ValueNotifierList const* alsoNotify, Tessera::WeakPtr<ValuePool> const& pool);
 
@@ -134,18 +137,33 @@ private:
 /// has no value of its own, the parameter's own one is stamped.
 void markValueChanged(VParameter const& parameter, PoolPtr const& pool);
 
+/// Whether values can be of type T. Of the numbers these are bool, int and double; texts are std::string.
+template <typename T>
+constexpr bool IsStorable =
+    std::is_arithmetic_v<T> ? std::is_same_v<T, bool> || std::is_same_v<T, int> || std::is_same_v<T, double>
+                            : !std::is_pointer_v<T> && !std::is_array_v<T>;
+
+/// Warns (VActionNotifier::Warning) that a value of a type cannot be stored in the parameter's value of the pool, and
+/// why. Nothing happens where the pool merely has no value yet.
+void reportRefusedStore(VParameter const& parameter, std::type_info const& valueType, PoolPtr const& pool);
+
 /// The set step: stores `newValue` in the parameter's value of the pool (made if `create` says so) and, when it is
-/// accepted, notifies. False, and nobody told, when there is no such value of type T. The caller keeps the parameter
-/// alive.
+/// accepted, notifies. False, and nobody notified, when there is no such value of type T, with a warning where the
+/// parameter's values are of another type or it needs a pool. The caller keeps the parameter alive.
 template <typename T>
 bool setParameterValue(VParameter const& parameter, T const& newValue, PoolPtr const& pool, std::string const& member,
                        bool create, Tessera::WeakPtr<ValueNotifier> const& source,
                        ValueNotifierList const* alsoNotify) {
+    static_assert(IsStorable<T>, "Parameters hold the numbers bool, int and double, std::string, or class types.");
     auto const local = parameter.keepsValuesPerPool() ? parameter.getLocalValue(pool, member, create) : nullptr;
     // The parameter's own object lives as long as the parameter.
     auto const& value = parameter.keepsValuesPerPool() ? local : parameter.ownValue();
     auto* const typed = typedValue<T>(value.get());
-    if (!typed || !typed->set(newValue))
+    if (!typed) {
+        reportRefusedStore(parameter, typeid(T), pool);
+        return false;
+    }
+    if (!typed->set(newValue))
         return false;
     parameter.notifyValueChange(value, pool, member, source, alsoNotify, nullptr);
     return true;

@@ -37,7 +37,7 @@ public:
     /// Stores a copy of the other's value; what that refers to is cloned. False, and nothing stored, when the other is
     /// not of the same type or the store is refused.
     virtual bool assign(VValueBase const& other) = 0;
-    /// Whether people edit values of this kind; VTypedValueBase answers with VValueTrait<T>::IsEdited.
+    /// Whether people edit values of this kind; VTypedValueBase answers with IsEditedType<T>.
     virtual bool isEdited() const;
     /// An interface that the value carries; null unless a derived class has one.
     virtual Tessera::StrongPtr<Tessera::InterfaceBase> getInterface() const;
@@ -88,7 +88,7 @@ public:
         T value{};
         return typed && typed->get(value) && set(VValueTrait<T>::Clone(value));
     }
-    bool isEdited() const override { return VValueTrait<T>::IsEdited; }
+    bool isEdited() const override { return IsEditedType<T>; }
 };
 
 /// A value of type T kept in the object itself. Its store always accepts, also a value equal to the old one.

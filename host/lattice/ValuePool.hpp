@@ -27,12 +27,14 @@ public:
     virtual PoolPtr getValuePool() const = 0;
 };
 
-/// Where an editor finds its value pool. The panel owns it; it must outlive the editors made with it.
-class ValuePoolSource {
+/// Where an editor finds its value pool. The host owns it. An editor that makeEditor made may outlive it and then has
+/// no pool; one that was made by its creator directly must not.
+///
+/// Plug-ins expect the order of the virtual operations: the reference hook of ReferenceBase, the destructor, the
+/// request for the provider.
+class ValuePoolSource : public Tessera::ReferenceBase<ValuePoolSource> {
 public:
-    /// Called by nobody in this library; for sources that count their users.
-    virtual void referenceHook();
-    virtual ~ValuePoolSource();
+    ~ValuePoolSource() override;
     /// The current provider; null when there is none, which counts as no pool.
     virtual Tessera::StrongPtr<ValuePoolProvider> getValuePoolProvider() const = 0;
 };

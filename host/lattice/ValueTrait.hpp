@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <type_traits>
 
 namespace Kolt {
 
@@ -27,6 +28,12 @@ struct VValueTrait : ValueTraitDefaults<T> {
     static std::string Text(T const&) { return {}; }
     static bool setValueFromText(T&, std::string const&) { return false; }
 };
+
+/// Whether people edit values of type T: VValueTrait<T>::IsEdited; true where the trait does not say.
+template <typename T, typename = void>
+constexpr bool IsEditedType = true;
+template <typename T>
+constexpr bool IsEditedType<T, std::void_t<decltype(VValueTrait<T>::IsEdited)>> = VValueTrait<T>::IsEdited;
 
 /// "true" and "false".
 template <>

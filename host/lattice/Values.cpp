@@ -105,8 +105,6 @@ ValuePool::~ValuePool() = default;
 
 ValuePoolProvider::~ValuePoolProvider() = default;
 
-void ValuePoolSource::referenceHook() {}
-
 ValuePoolSource::~ValuePoolSource() = default;
 
 PoolPtr currentPool(Tessera::StrongPtr<ValuePoolProvider> const& provider) {
