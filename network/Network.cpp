@@ -79,6 +79,33 @@ Network::LoadResult Network::load(QString const& file, ObjectFactory const& make
     }
 }
 
+std::unique_ptr<Network> Network::create(QString const& title, std::vector<std::string> const& poolNames) {
+    std::unique_ptr<Network> network(new Network);
+    network->title_ = title;
+    for (auto const& name : poolNames)
+        network->pools_.emplace_back(new Kolt::ValuePool(name));
+    return network;
+}
+
+Kolt::ObjectPtr Network::addObject(std::string const& name, std::vector<Kolt::ParameterPtr> const& parameters) {
+    Kolt::ObjectPtr const object(new Kolt::VObject(name));
+    for (auto const& parameter : parameters)
+        object->addParameter(parameter);
+    addObject(object);
+    return object;
+}
+
+void Network::addObject(Kolt::ObjectPtr const& object, QString const& kind) {
+    if (!object)
+        return;
+    objects_.push_back(object);
+    kinds_.push_back(kind);
+    for (auto const& parameter : object->parameters())
+        if (parameter->isEdited())
+            parameter->rememberDefaults();
+    rememberSaved(*object);
+}
+
 Kolt::ObjectPtr Network::findObject(QString const& name) const {
     return findNamed(objects_, name);
 }
@@ -291,9 +318,13 @@ void Network::rememberDefaults() {
 void Network::rememberSaved() {
     saved_.clear();
     for (auto const& object : objects_)
-        for (auto const& parameter : object->parameters())
-            if (parameter->isEdited())
-                saved_.push_back({parameter, Kolt::ValueSnapshot(*parameter)});
+        rememberSaved(*object);
+}
+
+void Network::rememberSaved(Kolt::VObject const& object) {
+    for (auto const& parameter : object.parameters())
+        if (parameter->isEdited())
+            saved_.push_back({parameter, Kolt::ValueSnapshot(*parameter)});
 }
 
 bool Network::isModified() const {

@@ -32,11 +32,19 @@ public:
     /// Reads a network file whole or not at all. For a file that cannot be read the line is 0. The factory makes the
     /// objects; an empty one makes objects that do nothing.
     static LoadResult load(QString const& file, ObjectFactory const& makeObject = {});
+    /// A network without objects and without a file, for a host that makes its objects itself, with new pools of these
+    /// names. REQUIRES: at least one name, each one once.
+    static std::unique_ptr<Network> create(QString const& title, std::vector<std::string> const& poolNames);
+    /// Adds an object at the end; null is ignored. `kind` says what it is for, and may be empty. Its values are its
+    /// defaults, and they count as saved. Its actions keep their handlers.
+    void addObject(Kolt::ObjectPtr const& object, QString const& kind = {});
+    /// Makes an object with these parameters, adds it in the same way and returns it.
+    Kolt::ObjectPtr addObject(std::string const& name, std::vector<Kolt::ParameterPtr> const& parameters);
     ~Network();
     Network(Network const&) = delete;
     Network& operator=(Network const&) = delete;
 
-    /// The file as it was given to `load`, or the last one that `saveAs` wrote.
+    /// The file as it was given to `load`, or the last one that `saveAs` wrote; empty for a network without a file.
     QString const& file() const { return file_; }
     QString const& title() const { return title_; }
 
@@ -99,6 +107,7 @@ private:
     void connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const;
     /// From now on the values count as saved.
     void rememberSaved();
+    void rememberSaved(Kolt::VObject const& object);
     /// The folder of the file, absolute.
     QString folder() const;
     QByteArray toJson(QString const& targetFolder) const;

@@ -25,6 +25,12 @@ std::filesystem::path pathOf(std::string const& file) {
     return real.empty() ? absolute.lexically_normal() : real;
 }
 
+// Never destroyed: plug-ins may keep a pointer to it.
+VInitialization& plainHost() {
+    static auto& host = *new VInitialization;
+    return host;
+}
+
 } // namespace
 
 class PluginLoader::Plugin {
@@ -52,6 +58,8 @@ private:
 };
 
 PluginLoader::PluginLoader(VInitialization& host) : host_(host) {}
+
+PluginLoader::PluginLoader() : PluginLoader(plainHost()) {}
 
 PluginLoader::~PluginLoader() {
     // The latest first. One whose editors live stays loaded: that is harmless, to take its code away is not.

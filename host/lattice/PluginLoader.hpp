@@ -20,6 +20,8 @@ public:
 
     /// `host` is handed to the plug-ins; it must outlive the loader.
     explicit PluginLoader(VInitialization& host);
+    /// For a host whose VInitialization does nothing of its own.
+    PluginLoader();
     ~PluginLoader();
     PluginLoader(PluginLoader const&) = delete;
     PluginLoader& operator=(PluginLoader const&) = delete;

@@ -1,5 +1,7 @@
 #include "NetworkFile.hpp"
 
+#include <lattice/TypedParameter.hpp>
+
 #include <bramble/Values.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
@@ -85,6 +87,29 @@ TEST_F(NetworkDefaults, SavingElsewhereGoesOnThere) {
     ASSERT_TRUE(again.network) << again.error.toStdString();
     EXPECT_EQ(icon(*again.network, "o.a"), path("icons/go.png"));
     EXPECT_EQ(again.network->values(), loaded->values());
+}
+
+TEST_F(NetworkDefaults, ANetworkOfAHostsOwnObjectsIsSavedLikeAnyOther) {
+    auto const made = Talo::Network::create("Lamp", {"day", "night"});
+    auto const day = made->findPool("day");
+    EXPECT_EQ(made->file(), QString());
+    Kolt::ObjectPtr const lamp(new Kolt::VObject("lamp"));
+    auto const level = Kolt::Parameter<int>::perPool("level", 3).max(9);
+    lamp->addParameter(level);
+    made->addObject(lamp, "light");
+    made->addObject(nullptr);
+    EXPECT_FALSE(made->isModified());
+    EXPECT_TRUE(level.write(7, day));
+    EXPECT_TRUE(made->isModified());
+    EXPECT_EQ(level->defaults()->in(day).value->Text(), "3");
+    QString error;
+    ASSERT_TRUE(made->saveAs(path("lamp.json"), &error)) << error.toStdString();
+    EXPECT_FALSE(made->isModified());
+    auto const again = Talo::Network::load(path("lamp.json"));
+    ASSERT_TRUE(again.network) << again.error.toStdString();
+    EXPECT_EQ(again.network->values(), made->values());
+    EXPECT_EQ(again.network->title(), QString("Lamp"));
+    EXPECT_EQ(again.network->kind(again.network->findObject("lamp")), QString("light"));
 }
 
 TEST_F(NetworkDefaults, AFailedSaveChangesNothing) {
