@@ -1,4 +1,4 @@
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <QDockWidget>
 #include <QFileDialog>
