@@ -2,7 +2,7 @@
 #include <cstdio>
 #include <fractal/objects/ObjectFactory.hpp>
 #include <functional>
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <panel/CommandLine.hpp>
 #include <panel/gallery/Gallery.hpp>
 #include <panel/InstalledFiles.hpp>

@@ -25,5 +25,6 @@ int main(int argc, char* argv[]) {
     tools->addAction("Save", [&] { panel->commitPendingEdit(), network->saveAs("lamp.json", nullptr); });
     tools->addWidget(new QLineEdit);
     QObject::connect(tools->findChild<QLineEdit*>(), &QLineEdit::textChanged, panel, &Talo::ParameterPanel::setFilter);
-    return window.show(), QApplication::exec();
+    window.show();
+    return QApplication::exec();
 }

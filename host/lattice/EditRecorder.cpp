@@ -1,4 +1,5 @@
 #include <lattice/EditRecorder.hpp>
+
 #include <lattice/UndoHistory.hpp>
 
 namespace Kolt {

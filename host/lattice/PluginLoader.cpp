@@ -1,7 +1,8 @@
+#include <lattice/PluginLoader.hpp>
+
 #include <algorithm>
 #include <dlfcn.h>
 #include <filesystem>
-#include <lattice/PluginLoader.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <lattice/ValueNotifier.hpp>
 

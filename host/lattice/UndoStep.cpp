@@ -1,5 +1,6 @@
-#include <algorithm>
 #include <lattice/UndoStep.hpp>
+
+#include <algorithm>
 
 namespace Kolt {
 

@@ -1,5 +1,6 @@
-#include <algorithm>
 #include <lattice/ValueNotifier.hpp>
+
+#include <algorithm>
 
 namespace Kolt {
 

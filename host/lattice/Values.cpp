@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <lattice/Initialization.hpp>
+#include <lattice/HostObserver.hpp>
 #include <lattice/Value.hpp>
 #include <lattice/ValueCreator.hpp>
 #include <lattice/ValueMap.hpp>

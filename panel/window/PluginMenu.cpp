@@ -1,6 +1,6 @@
 #include <panel/window/PluginMenu.hpp>
 
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <QFileDialog>
 
 namespace Panel {

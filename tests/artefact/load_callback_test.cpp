@@ -1,6 +1,6 @@
 #include "support/TaloTest.hpp"
 
-#include <lattice/Initialization.hpp>
+#include <lattice/HostObserver.hpp>
 #include <limits>
 #include <plugin/Plugin.hpp>
 

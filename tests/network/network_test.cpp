@@ -3,7 +3,7 @@
 #include <array>
 #include <bramble/Selection.hpp>
 #include <bramble/Values.hpp>
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>

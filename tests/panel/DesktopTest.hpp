@@ -4,7 +4,7 @@
 #include "support/Desktop.hpp"
 #include "support/FileDialogs.hpp"
 
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <QAbstractSlider>
 #include <QColorDialog>
 #include <QMessageBox>

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <bramble/Values.hpp>
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <map>
 #include <network/ValueFormat.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>

@@ -4,7 +4,8 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <fstream>
-#include <lattice/InputCreator.hpp>
+#include <lattice/HostObserver.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <lattice/PluginLoader.hpp>
 #include <lattice/UndoHistory.hpp>
 

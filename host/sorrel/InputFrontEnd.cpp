@@ -1,60 +1,10 @@
-#include <QApplication>
-#include <QFocusEvent>
 #include <sorrel/InputFrontEnd.hpp>
-#include <sorrel/QIconizer.hpp>
-#include <sorrel/QInputCreator.hpp>
-#include <sorrel/QLeaveLineEdit.hpp>
+
+#include <lattice/ActionNotifier.hpp>
+#include <lattice/InputRegistry.hpp>
+#include <tuple>
 
 namespace Kolt {
-
-QInputCreator::QInputCreator() = default;
-
-QInputCreator::~QInputCreator() = default;
-
-QString QInputCreator::hint() const {
-    return {};
-}
-
-VIcon::VIcon(Tessera::WeakPtr<VObject, VManagedObjectBase> const& object,
-             Tessera::StrongPtr<ValuePoolProvider> const& provider)
-    : object_(object), provider_(provider) {}
-
-VIcon::~VIcon() = default;
-
-QIconizer::QIconizer() = default;
-
-QIconizer::~QIconizer() = default;
-
-QLeaveLineEdit::QLeaveLineEdit(QWidget* parent) : QLineEdit(parent) {}
-
-QLeaveLineEdit::~QLeaveLineEdit() = default;
-
-void QLeaveLineEdit::showText(QString const& text) {
-    remembered_ = text;
-    setText(text);
-}
-
-void QLeaveLineEdit::focusOutEvent(QFocusEvent* event) {
-    QLineEdit::focusOutEvent(event);
-    disconnect(focusChanged_);
-    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
-        leave();
-        return;
-    }
-    // The user may come back, or the focus may move on meanwhile, of which this widget is not told.
-    focusChanged_ = connect(qApp, &QApplication::focusChanged, this, [this](QWidget const*, QWidget const* now) {
-        if (!now || now->window()->windowType() == Qt::Popup)
-            return;
-        disconnect(focusChanged_);
-        if (now != this)
-            leave();
-    });
-}
-
-void QLeaveLineEdit::leave() {
-    if (text() != remembered_)
-        setText(remembered_);
-}
 
 namespace {
 

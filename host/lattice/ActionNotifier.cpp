@@ -1,0 +1,41 @@
+#include <lattice/ActionNotifier.hpp>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace Kolt {
+
+namespace {
+
+// Immortal: plug-ins come and go after the statics of this library.
+std::vector<VActionNotifier*>& actionNotifiers() {
+    static auto& notifiers = *new std::vector<VActionNotifier*>;
+    return notifiers;
+}
+
+} // namespace
+
+VActionNotifier::VActionNotifier() {
+    actionNotifiers().push_back(this);
+}
+
+VActionNotifier::~VActionNotifier() {
+    auto& notifiers = actionNotifiers();
+    notifiers.erase(std::remove(notifiers.begin(), notifiers.end(), this), notifiers.end());
+}
+
+void VActionNotifier::Warning(std::string const& text) {
+    // Notifiers may come and go while they are told, a new one also at the address of one that went.
+    std::vector<Tessera::WeakPtr<VActionNotifier>> notifiers;
+    for (auto* const notifier : actionNotifiers())
+        notifiers.emplace_back(notifier);
+    if (notifiers.empty())
+        std::fprintf(stderr, "%s\n", text.c_str());
+    for (auto const& notifier : notifiers) {
+        if (auto const living = notifier.strong())
+            living->onWarning(text);
+    }
+}
+
+} // namespace Kolt

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <lattice/Object.hpp>
+#include <QWidget>
+
+namespace Kolt {
+
+/// A compact display that stands for an object, made by a QIconizer. The parent widget that it was made on owns it, or
+/// whoever made it without one. User-interface thread.
+class VIcon {
+public:
+    /// The object is referred to weakly; the provider says in which pool the icon shows values.
+    VIcon(Tessera::WeakPtr<VObject, VManagedObjectBase> const& object,
+          Tessera::StrongPtr<ValuePoolProvider> const& provider);
+    virtual ~VIcon();
+    VIcon(VIcon const&) = delete;
+    VIcon& operator=(VIcon const&) = delete;
+
+    Tessera::WeakPtr<VObject, VManagedObjectBase> const& object() const { return object_; }
+    Tessera::StrongPtr<ValuePoolProvider> const& provider() const { return provider_; }
+    /// The icon as a widget; never null.
+    virtual QWidget* widget() = 0;
+
+private:
+    Tessera::WeakPtr<VObject, VManagedObjectBase> object_;
+    Tessera::StrongPtr<ValuePoolProvider> provider_;
+};
+
+} // namespace Kolt
