@@ -10,7 +10,7 @@ namespace Talo {
 HistoryView::HistoryView(Kolt::UndoHistory& history, QWidget* parent) : QListWidget(parent), history_(history) {
     setObjectName(QStringLiteral("history"));
     setAccessibleName(tr("History"));
-    setAccessibleDescription(tr("The steps that can be taken back. Return goes to the state after the chosen step."));
+    setAccessibleDescription(tr("The undo steps. Return goes to the state after the chosen step."));
     setItemDelegate(new TextDirectionDelegate(this));
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideMiddle);
@@ -86,7 +86,7 @@ void HistoryView::showStep(int row, Kolt::UndoStep const& step, bool undone) {
     itemFont.setItalic(undone);
     shown->setFont(itemFont);
     shown->setForeground(undone ? QBrush(mutedText(palette())) : QBrush());
-    shown->setData(Qt::AccessibleTextRole, undone ? tr("%1, taken back").arg(text) : text);
+    shown->setData(Qt::AccessibleTextRole, undone ? tr("%1, undone").arg(text) : text);
 }
 
 } // namespace Talo

@@ -487,7 +487,7 @@ TEST_F(HistoryTest, TheListShowsEveryStateAndGoesToTheChosenOne) {
     EXPECT_TRUE(waitUntil([&] { return isMuted(2) && isMuted(3); }));
     EXPECT_FALSE(isMuted(1));
     EXPECT_EQ(rows(), all);
-    EXPECT_THAT(list()->item(2)->data(Qt::AccessibleTextRole).toString().toStdString(), HasSubstr("taken back"));
+    EXPECT_THAT(list()->item(2)->data(Qt::AccessibleTextRole).toString().toStdString(), HasSubstr("undone"));
 
     list()->setFocus();
     list()->setCurrentRow(0);
