@@ -168,89 +168,89 @@
     <name>Panel::Document</name>
     <message>
         <source>No network is open.</source>
-        <translation type="unfinished">Kein Netz ist geöffnet.</translation>
+        <translation>Kein Netz ist geöffnet.</translation>
     </message>
 </context>
 <context>
     <name>Panel::FileMenu</name>
     <message>
         <source>Networks (*.json);;All files (*)</source>
-        <translation type="unfinished">Netze (*.json);;Alle Dateien (*)</translation>
+        <translation>Netze (*.json);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished">&amp;Datei</translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished">Ö&amp;ffnen …</translation>
+        <translation>Ö&amp;ffnen …</translation>
     </message>
     <message>
         <source>&amp;Save values</source>
-        <translation type="unfinished">Werte &amp;speichern</translation>
+        <translation>Werte &amp;speichern</translation>
     </message>
     <message>
         <source>Save values &amp;as...</source>
-        <translation type="unfinished">Werte speichern &amp;unter …</translation>
+        <translation>Werte speichern &amp;unter …</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>
-        <translation type="unfinished">Ctrl+Shift+S</translation>
+        <translation>Ctrl+Shift+S</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished">&amp;Beenden</translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished">Ctrl+Q</translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Open a network</source>
-        <translation type="unfinished">Ein Netz öffnen</translation>
+        <translation>Ein Netz öffnen</translation>
     </message>
     <message>
         <source>The network cannot be opened</source>
-        <translation type="unfinished">Das Netz lässt sich nicht öffnen</translation>
+        <translation>Das Netz lässt sich nicht öffnen</translation>
     </message>
     <message>
         <source>Save the values</source>
-        <translation type="unfinished">Die Werte speichern</translation>
+        <translation>Die Werte speichern</translation>
     </message>
     <message>
         <source>The values cannot be saved</source>
-        <translation type="unfinished">Die Werte lassen sich nicht speichern</translation>
+        <translation>Die Werte lassen sich nicht speichern</translation>
     </message>
     <message>
         <source>Unsaved values</source>
-        <translation type="unfinished">Nicht gespeicherte Werte</translation>
+        <translation>Nicht gespeicherte Werte</translation>
     </message>
     <message>
         <source>The values of “%1” were changed.</source>
-        <translation type="unfinished">Die Werte von „%1“ wurden geändert.</translation>
+        <translation>Die Werte von „%1“ wurden geändert.</translation>
     </message>
     <message>
         <source>Unless they are saved, the changes are lost.</source>
-        <translation type="unfinished">Werden sie nicht gespeichert, gehen die Änderungen verloren.</translation>
+        <translation>Werden sie nicht gespeichert, gehen die Änderungen verloren.</translation>
     </message>
 </context>
 <context>
     <name>Panel::FilterField</name>
     <message>
         <source>&amp;Find a parameter</source>
-        <translation type="unfinished">&amp;Parameter suchen</translation>
+        <translation>&amp;Parameter suchen</translation>
     </message>
     <message>
         <source>Filter by name, object or value</source>
-        <translation type="unfinished">Nach Name, Objekt oder Wert filtern</translation>
+        <translation>Nach Name, Objekt oder Wert filtern</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filter</translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Shows the parameters whose name, object or value has all of these words</source>
-        <translation type="unfinished">Zeigt die Parameter, in deren Name, Objekt oder Wert alle diese Wörter stehen</translation>
+        <translation>Zeigt die Parameter, in deren Name, Objekt oder Wert alle diese Wörter stehen</translation>
     </message>
 </context>
 <context>
@@ -478,70 +478,70 @@
     <name>Panel::PluginMenu</name>
     <message>
         <source>&amp;Plug-ins</source>
-        <translation type="unfinished">&amp;Plug-ins</translation>
+        <translation>&amp;Plug-ins</translation>
     </message>
     <message>
         <source>&amp;Load...</source>
-        <translation type="unfinished">&amp;Laden …</translation>
+        <translation>&amp;Laden …</translation>
     </message>
     <message>
         <source>&amp;Unload</source>
-        <translation type="unfinished">&amp;Entladen</translation>
+        <translation>&amp;Entladen</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Neu laden</translation>
+        <translation>&amp;Neu laden</translation>
     </message>
     <message>
         <source>Plug-ins: %1, kinds of editors: %2</source>
-        <translation type="unfinished">Plug-ins: %1, Arten von Editoren: %2</translation>
+        <translation>Plug-ins: %1, Arten von Editoren: %2</translation>
     </message>
     <message>
         <source>Load a plug-in</source>
-        <translation type="unfinished">Ein Plug-in laden</translation>
+        <translation>Ein Plug-in laden</translation>
     </message>
     <message>
         <source>Plug-ins (*.talo);;All files (*)</source>
-        <translation type="unfinished">Plug-ins (*.talo);;Alle Dateien (*)</translation>
+        <translation>Plug-ins (*.talo);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>The plug-in cannot be loaded</source>
-        <translation type="unfinished">Das Plug-in lässt sich nicht laden</translation>
+        <translation>Das Plug-in lässt sich nicht laden</translation>
     </message>
     <message>
         <source>The plug-ins were unloaded.</source>
-        <translation type="unfinished">Die Plug-ins wurden entladen.</translation>
+        <translation>Die Plug-ins wurden entladen.</translation>
     </message>
     <message>
         <source>The plug-ins cannot be unloaded</source>
-        <translation type="unfinished">Die Plug-ins lassen sich nicht entladen</translation>
+        <translation>Die Plug-ins lassen sich nicht entladen</translation>
     </message>
     <message>
         <source>The plug-ins were loaded again.</source>
-        <translation type="unfinished">Die Plug-ins wurden neu geladen.</translation>
+        <translation>Die Plug-ins wurden neu geladen.</translation>
     </message>
     <message>
         <source>The plug-ins cannot be loaded again</source>
-        <translation type="unfinished">Die Plug-ins lassen sich nicht neu laden</translation>
+        <translation>Die Plug-ins lassen sich nicht neu laden</translation>
     </message>
 </context>
 <context>
     <name>Panel::PoolToolBar</name>
     <message>
         <source>Pool and filter</source>
-        <translation type="unfinished">Pool und Filter</translation>
+        <translation>Pool und Filter</translation>
     </message>
     <message>
         <source>P&amp;ool:</source>
-        <translation type="unfinished">P&amp;ool:</translation>
+        <translation>P&amp;ool:</translation>
     </message>
     <message>
         <source>Pool</source>
-        <translation type="unfinished">Pool</translation>
+        <translation>Pool</translation>
     </message>
     <message>
         <source>The pool whose values are edited</source>
-        <translation type="unfinished">Der Pool, dessen Werte bearbeitet werden</translation>
+        <translation>Der Pool, dessen Werte bearbeitet werden</translation>
     </message>
 </context>
 <context>

@@ -168,89 +168,89 @@
     <name>Panel::Document</name>
     <message>
         <source>No network is open.</source>
-        <translation type="unfinished">Aucun réseau n’est ouvert.</translation>
+        <translation>Aucun réseau n’est ouvert.</translation>
     </message>
 </context>
 <context>
     <name>Panel::FileMenu</name>
     <message>
         <source>Networks (*.json);;All files (*)</source>
-        <translation type="unfinished">Réseaux (*.json);;Tous les fichiers (*)</translation>
+        <translation>Réseaux (*.json);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished">&amp;Fichier</translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished">&amp;Ouvrir…</translation>
+        <translation>&amp;Ouvrir…</translation>
     </message>
     <message>
         <source>&amp;Save values</source>
-        <translation type="unfinished">&amp;Enregistrer les valeurs</translation>
+        <translation>&amp;Enregistrer les valeurs</translation>
     </message>
     <message>
         <source>Save values &amp;as...</source>
-        <translation type="unfinished">Enregistrer les valeurs &amp;sous…</translation>
+        <translation>Enregistrer les valeurs &amp;sous…</translation>
     </message>
     <message>
         <source>Ctrl+Shift+S</source>
-        <translation type="unfinished">Ctrl+Shift+S</translation>
+        <translation>Ctrl+Shift+S</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished">&amp;Quitter</translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>Ctrl+Q</source>
-        <translation type="unfinished">Ctrl+Q</translation>
+        <translation>Ctrl+Q</translation>
     </message>
     <message>
         <source>Open a network</source>
-        <translation type="unfinished">Ouvrir un réseau</translation>
+        <translation>Ouvrir un réseau</translation>
     </message>
     <message>
         <source>The network cannot be opened</source>
-        <translation type="unfinished">Le réseau ne peut pas être ouvert</translation>
+        <translation>Le réseau ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>Save the values</source>
-        <translation type="unfinished">Enregistrer les valeurs</translation>
+        <translation>Enregistrer les valeurs</translation>
     </message>
     <message>
         <source>The values cannot be saved</source>
-        <translation type="unfinished">Les valeurs ne peuvent pas être enregistrées</translation>
+        <translation>Les valeurs ne peuvent pas être enregistrées</translation>
     </message>
     <message>
         <source>Unsaved values</source>
-        <translation type="unfinished">Valeurs non enregistrées</translation>
+        <translation>Valeurs non enregistrées</translation>
     </message>
     <message>
         <source>The values of “%1” were changed.</source>
-        <translation type="unfinished">Les valeurs de « %1 » ont été modifiées.</translation>
+        <translation>Les valeurs de « %1 » ont été modifiées.</translation>
     </message>
     <message>
         <source>Unless they are saved, the changes are lost.</source>
-        <translation type="unfinished">Si elles ne sont pas enregistrées, les modifications seront perdues.</translation>
+        <translation>Si elles ne sont pas enregistrées, les modifications seront perdues.</translation>
     </message>
 </context>
 <context>
     <name>Panel::FilterField</name>
     <message>
         <source>&amp;Find a parameter</source>
-        <translation type="unfinished">Chercher un &amp;paramètre</translation>
+        <translation>Chercher un &amp;paramètre</translation>
     </message>
     <message>
         <source>Filter by name, object or value</source>
-        <translation type="unfinished">Filtrer par nom, objet ou valeur</translation>
+        <translation>Filtrer par nom, objet ou valeur</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished">Filtre</translation>
+        <translation>Filtre</translation>
     </message>
     <message>
         <source>Shows the parameters whose name, object or value has all of these words</source>
-        <translation type="unfinished">Montre les paramètres dont le nom, l’objet ou la valeur contient tous ces mots</translation>
+        <translation>Montre les paramètres dont le nom, l’objet ou la valeur contient tous ces mots</translation>
     </message>
 </context>
 <context>
@@ -478,70 +478,70 @@
     <name>Panel::PluginMenu</name>
     <message>
         <source>&amp;Plug-ins</source>
-        <translation type="unfinished">&amp;Greffons</translation>
+        <translation>&amp;Greffons</translation>
     </message>
     <message>
         <source>&amp;Load...</source>
-        <translation type="unfinished">&amp;Charger…</translation>
+        <translation>&amp;Charger…</translation>
     </message>
     <message>
         <source>&amp;Unload</source>
-        <translation type="unfinished">&amp;Décharger</translation>
+        <translation>&amp;Décharger</translation>
     </message>
     <message>
         <source>&amp;Reload</source>
-        <translation type="unfinished">&amp;Recharger</translation>
+        <translation>&amp;Recharger</translation>
     </message>
     <message>
         <source>Plug-ins: %1, kinds of editors: %2</source>
-        <translation type="unfinished">Greffons : %1, sortes d’éditeurs : %2</translation>
+        <translation>Greffons : %1, sortes d’éditeurs : %2</translation>
     </message>
     <message>
         <source>Load a plug-in</source>
-        <translation type="unfinished">Charger un greffon</translation>
+        <translation>Charger un greffon</translation>
     </message>
     <message>
         <source>Plug-ins (*.talo);;All files (*)</source>
-        <translation type="unfinished">Greffons (*.talo);;Tous les fichiers (*)</translation>
+        <translation>Greffons (*.talo);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>The plug-in cannot be loaded</source>
-        <translation type="unfinished">Le greffon ne peut pas être chargé</translation>
+        <translation>Le greffon ne peut pas être chargé</translation>
     </message>
     <message>
         <source>The plug-ins were unloaded.</source>
-        <translation type="unfinished">Les greffons ont été déchargés.</translation>
+        <translation>Les greffons ont été déchargés.</translation>
     </message>
     <message>
         <source>The plug-ins cannot be unloaded</source>
-        <translation type="unfinished">Les greffons ne peuvent pas être déchargés</translation>
+        <translation>Les greffons ne peuvent pas être déchargés</translation>
     </message>
     <message>
         <source>The plug-ins were loaded again.</source>
-        <translation type="unfinished">Les greffons ont été rechargés.</translation>
+        <translation>Les greffons ont été rechargés.</translation>
     </message>
     <message>
         <source>The plug-ins cannot be loaded again</source>
-        <translation type="unfinished">Les greffons ne peuvent pas être rechargés</translation>
+        <translation>Les greffons ne peuvent pas être rechargés</translation>
     </message>
 </context>
 <context>
     <name>Panel::PoolToolBar</name>
     <message>
         <source>Pool and filter</source>
-        <translation type="unfinished">Pool et filtre</translation>
+        <translation>Pool et filtre</translation>
     </message>
     <message>
         <source>P&amp;ool:</source>
-        <translation type="unfinished">P&amp;ool :</translation>
+        <translation>P&amp;ool :</translation>
     </message>
     <message>
         <source>Pool</source>
-        <translation type="unfinished">Pool</translation>
+        <translation>Pool</translation>
     </message>
     <message>
         <source>The pool whose values are edited</source>
-        <translation type="unfinished">Le pool dont les valeurs sont modifiées</translation>
+        <translation>Le pool dont les valeurs sont modifiées</translation>
     </message>
 </context>
 <context>

@@ -5,34 +5,34 @@
     <name>EditorCell</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
     <name>RowCommands</name>
     <message>
         <source>Reset to &amp;default</source>
-        <translation type="unfinished">Remettre la valeur par &amp;défaut</translation>
+        <translation>Remettre la valeur par &amp;défaut</translation>
     </message>
     <message>
         <source>Ctrl+D</source>
-        <translation type="unfinished">Ctrl+D</translation>
+        <translation>Ctrl+D</translation>
     </message>
     <message>
         <source>&amp;Copy value</source>
-        <translation type="unfinished">&amp;Copier la valeur</translation>
+        <translation>&amp;Copier la valeur</translation>
     </message>
     <message>
         <source>Ctrl+Shift+C</source>
-        <translation type="unfinished">Ctrl+Shift+C</translation>
+        <translation>Ctrl+Shift+C</translation>
     </message>
     <message>
         <source>&amp;Paste value</source>
-        <translation type="unfinished">C&amp;oller la valeur</translation>
+        <translation>C&amp;oller la valeur</translation>
     </message>
     <message>
         <source>Ctrl+Shift+V</source>
-        <translation type="unfinished">Ctrl+Shift+V</translation>
+        <translation>Ctrl+Shift+V</translation>
     </message>
     <message>
         <source>&amp;Set as default</source>
@@ -40,11 +40,11 @@
     </message>
     <message>
         <source>The clipboard is empty.</source>
-        <translation type="unfinished">Le presse-papiers est vide.</translation>
+        <translation>Le presse-papiers est vide.</translation>
     </message>
     <message>
         <source>%1 does not take a value in this pool.</source>
-        <translation type="unfinished">%1 n’accepte pas de valeur dans ce pool.</translation>
+        <translation>%1 n’accepte pas de valeur dans ce pool.</translation>
     </message>
 </context>
 <context>
@@ -136,11 +136,11 @@
     </message>
     <message>
         <source>%1 was removed.</source>
-        <translation type="unfinished">%1 a été supprimé.</translation>
+        <translation>%1 a été supprimé.</translation>
     </message>
     <message>
         <source>%1 has no default to go back to.</source>
-        <translation type="unfinished">%1 n’a pas de valeur par défaut à rétablir.</translation>
+        <translation>%1 n’a pas de valeur par défaut à rétablir.</translation>
     </message>
 </context>
 <context>
@@ -181,7 +181,7 @@
     <name>Talo::UndoActions</name>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>Can no longer be undone: %1</source>
