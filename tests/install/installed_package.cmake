@@ -16,6 +16,13 @@ foreach(language IN ITEMS de fr)
     endif()
 endforeach()
 
+foreach(folder IN ITEMS "${prefix}" "${core}")
+    file(STRINGS "${folder}/share/doc/qtalo_inputs/LICENSE" licence LIMIT_COUNT 1)
+    if(NOT licence STREQUAL "MIT License")
+        message(FATAL_ERROR "The licence is not installed in ${folder}")
+    endif()
+endforeach()
+
 # The core component needs nothing else, and no Qt; the others say what they miss.
 set(core_host ${configure} --fresh -S "${CMAKE_CURRENT_LIST_DIR}/core_host" -DCMAKE_DISABLE_FIND_PACKAGE_Qt5=ON)
 run(${core_host} -B "${WORK}/core_host" "-DCMAKE_PREFIX_PATH=${core}" -DCOMPONENTS=core)
