@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>Talo::ModifiedIndicator</name>
-    <message>
-        <source>Reset %1 to its default</source>
-        <translation>%1 auf den Standardwert zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Default: %1</source>
-        <translation>Standardwert: %1</translation>
-    </message>
-    <message>
-        <source>Click to reset the value.</source>
-        <translation>Ein Klick setzt den Wert zurück.</translation>
-    </message>
-</context>
-<context>
     <name>Talo::HistoryView</name>
     <message>
         <source>History</source>
@@ -40,14 +25,18 @@
     </message>
 </context>
 <context>
-    <name>Talo::PlaceholderEditor</name>
+    <name>Talo::ModifiedIndicator</name>
     <message>
-        <source>No editor is registered for the type %1 without preferences.</source>
-        <translation>Für den Typ %1 ohne Vorgaben ist kein Editor angemeldet.</translation>
+        <source>Reset %1 to its default</source>
+        <translation>%1 auf den Standardwert zurücksetzen</translation>
     </message>
     <message>
-        <source>No editor is registered for the type %1 with the preferences %2.</source>
-        <translation>Für den Typ %1 mit den Vorgaben %2 ist kein Editor angemeldet.</translation>
+        <source>Default: %1</source>
+        <translation>Standardwert: %1</translation>
+    </message>
+    <message>
+        <source>Click to reset the value.</source>
+        <translation>Ein Klick setzt den Wert zurück.</translation>
     </message>
 </context>
 <context>
@@ -134,6 +123,17 @@
     <message>
         <source>%1, type %2, no pool</source>
         <translation>%1, Typ %2, kein Pool</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::PlaceholderEditor</name>
+    <message>
+        <source>No editor is registered for the type %1 without preferences.</source>
+        <translation>Für den Typ %1 ohne Vorgaben ist kein Editor angemeldet.</translation>
+    </message>
+    <message>
+        <source>No editor is registered for the type %1 with the preferences %2.</source>
+        <translation>Für den Typ %1 mit den Vorgaben %2 ist kein Editor angemeldet.</translation>
     </message>
 </context>
 <context>

@@ -2,21 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>Talo::ModifiedIndicator</name>
-    <message>
-        <source>Reset %1 to its default</source>
-        <translation>Remettre %1 à sa valeur par défaut</translation>
-    </message>
-    <message>
-        <source>Default: %1</source>
-        <translation>Valeur par défaut : %1</translation>
-    </message>
-    <message>
-        <source>Click to reset the value.</source>
-        <translation>Un clic rétablit cette valeur.</translation>
-    </message>
-</context>
-<context>
     <name>Talo::HistoryView</name>
     <message>
         <source>History</source>
@@ -40,14 +25,18 @@
     </message>
 </context>
 <context>
-    <name>Talo::PlaceholderEditor</name>
+    <name>Talo::ModifiedIndicator</name>
     <message>
-        <source>No editor is registered for the type %1 without preferences.</source>
-        <translation>Aucun éditeur n’est inscrit pour le type %1 sans préférences.</translation>
+        <source>Reset %1 to its default</source>
+        <translation>Remettre %1 à sa valeur par défaut</translation>
     </message>
     <message>
-        <source>No editor is registered for the type %1 with the preferences %2.</source>
-        <translation>Aucun éditeur n’est inscrit pour le type %1 avec les préférences %2.</translation>
+        <source>Default: %1</source>
+        <translation>Valeur par défaut : %1</translation>
+    </message>
+    <message>
+        <source>Click to reset the value.</source>
+        <translation>Un clic rétablit cette valeur.</translation>
     </message>
 </context>
 <context>
@@ -134,6 +123,17 @@
     <message>
         <source>%1, type %2, no pool</source>
         <translation>%1, type %2, aucun pool</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::PlaceholderEditor</name>
+    <message>
+        <source>No editor is registered for the type %1 without preferences.</source>
+        <translation>Aucun éditeur n’est inscrit pour le type %1 sans préférences.</translation>
+    </message>
+    <message>
+        <source>No editor is registered for the type %1 with the preferences %2.</source>
+        <translation>Aucun éditeur n’est inscrit pour le type %1 avec les préférences %2.</translation>
     </message>
 </context>
 <context>

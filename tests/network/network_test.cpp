@@ -632,7 +632,7 @@ TEST_F(Network, TenThousandParametersAreReadAndSaved) {
 
 // ---- The examples -------------------------------------------------------------------------------------------------
 
-QString const fractalFile = TALO_EXAMPLES "/fractal.json";
+QString const fractalFile = TALO_EXAMPLES "/networks/fractal.json";
 
 std::unique_ptr<Talo::Network> fractal() {
     auto result = Talo::Network::load(fractalFile);
