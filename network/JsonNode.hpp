@@ -9,6 +9,7 @@ namespace Talo {
 
 /// What is wrong with a file, and in which line, counted from 1.
 struct FormatError {
+    /// The line of the file, counted from 1.
     int line;
     QString text; ///< "expected ..., found ..."
 };
@@ -22,12 +23,16 @@ public:
 
     /// Under which key the node stands in its object; empty elsewhere.
     QString const& key() const { return key_; }
+    /// The node as Qt reads it.
     QJsonValue const& value() const { return value_; }
+    /// Whether the node is `null`.
     bool isNull() const { return value_.isNull(); }
 
+    /// The node as a text, which may be empty.
     QString text(QString const& what) const;
     /// A text that is not empty.
     QString nonEmptyText(QString const& what) const;
+    /// The node as `true` or `false`.
     bool truth(QString const& what) const;
     /// A whole number that an int can hold.
     int integer(QString const& what) const;
@@ -41,10 +46,12 @@ public:
     std::vector<JsonNode> const& members(QString const& what, std::initializer_list<char const*> known) const;
     /// The value under a key of an object; null when there is none.
     JsonNode const* find(char const* key) const;
+    /// The value under a key of an object; refuses an object without it.
     JsonNode const& required(char const* key, QString const& what) const;
 
     /// Throws "expected ..., found ..." with a description of the node, or with the given one.
     [[noreturn]] void refuse(QString const& expected) const;
+    /// Throws "expected ..., found ..." with this description of what was found.
     [[noreturn]] void refuse(QString const& expected, QString const& found) const;
 
 private:

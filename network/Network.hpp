@@ -18,14 +18,16 @@ class NetworkReader;
 /// object must carry. It gives every object a life of its own and never null.
 using ObjectFactory = std::function<Kolt::ObjectPtr(QString const& kind, QString const& name)>;
 
-/// A network of objects with typed parameters, as a network file describes it (examples/README.md has the format), and
+/// A network of objects with typed parameters, as a network file describes it (docs/network-files.md describes the format), and
 /// the pools in which its parameters have values. It owns objects and pools: they live until the network goes or
 /// somebody takes a parameter out of its object. User-interface thread. Prints nothing and throws nothing.
 class Network {
 public:
     /// What came of a file: a network, or a null one and the reason as "FILE:LINE: what was expected, what was found".
     struct LoadResult {
+        /// Null when the file was refused.
         std::unique_ptr<Network> network;
+        /// Why it was refused; empty otherwise.
         QString error;
     };
 
@@ -38,6 +40,7 @@ public:
 
     /// The file as it was given to `load`, or the last one that `saveAs` wrote.
     QString const& file() const { return file_; }
+    /// A text for the window; empty when the file has none.
     QString const& title() const { return title_; }
 
     /// The objects in the order of the file.
@@ -51,6 +54,7 @@ public:
 
     /// The pools in the order of the file, at least one. The first is current at the start.
     std::vector<Kolt::PoolPtr> const& pools() const { return pools_; }
+    /// The pool of this name; null when there is none.
     Kolt::PoolPtr findPool(QString const& name) const;
 
     /// All values as JSON: {"object": {"parameter": {"value": ..., "values": {"pool": ...}}}}, sorted by name, with

@@ -9,6 +9,7 @@ namespace Talo {
 
 /// How the values of one type stand in a network file.
 struct ValueFormat {
+    /// The texts among which a value chooses; empty for types that do not choose.
     using Entries = std::vector<std::string>;
 
     /// The type's key in the file.
@@ -29,6 +30,7 @@ struct ValueFormat {
 
     /// The format of a key or of a readable type name; null for an unknown one. They live as long as the process.
     static ValueFormat const* ofKey(QString const& key);
+    /// The format of a readable type name; null for an unknown one.
     static ValueFormat const* ofType(std::string const& typeName);
     /// The keys of all formats, for messages.
     static QString keys();

@@ -14,6 +14,7 @@ class HistoryView : public QListWidget {
     Q_OBJECT
 
 public:
+    /// An empty list, until `historyChanged` is called.
     explicit HistoryView(QWidget* parent = nullptr);
     ~HistoryView() override;
 

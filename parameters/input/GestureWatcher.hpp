@@ -26,6 +26,7 @@ public:
     /// For how long the wheel has to rest, in milliseconds.
     static constexpr int WheelPause = 400;
 
+    /// Watches the events of the application, which exists already.
     explicit GestureWatcher(QObject* parent = nullptr);
     ~GestureWatcher() override;
 

@@ -40,11 +40,13 @@ public:
 
     /// The parameter's whole name, also when it is gone.
     QString const& parameterName() const { return parameterName_; }
+    /// The parameter; null when it is gone.
     Kolt::ParameterPtr parameter() const { return parameter_.strong(); }
     /// The chosen pool; null for none.
     Kolt::PoolPtr pool() const { return pools_.pool(); }
     /// Marks a value that is not the default; null as long as it never was another.
     ModifiedIndicator* defaultMarker() const { return marker_; }
+    /// The label that shows the name; lives as long as the row.
     QLabel* nameLabel() const { return nameLabel_; }
     /// The line below the name; empty for none.
     QString note() const { return noteLabel_ ? noteLabel_->text() : QString(); }
@@ -67,6 +69,7 @@ public:
     bool resetToDefault();
     /// Notes whether the parameter is still there.
     void checkParameter();
+    /// Shows or hides the raw value beside the editor.
     void setRawValueShown(bool shown);
     /// Gives the column of names this width, so that the rows of a view are aligned.
     void setNameWidth(int width);

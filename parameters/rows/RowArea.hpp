@@ -38,6 +38,7 @@ public:
     /// parameter.
     ParameterRow* row(QString const& parameterName);
 
+    /// Makes the editors that `closeEditors` deleted.
     void openEditors();
     /// Hides and deletes all editors; rows made from now on have none until they are opened again.
     void closeEditors();
@@ -45,6 +46,7 @@ public:
     void showPool();
     /// Has the rows note which parameters are gone.
     void checkParameters();
+    /// Shows or hides the raw values of all rows, also of those that are made later.
     void setRawValuesShown(bool shown);
     /// Leaves out the parameters for which the predicate does not hold; an empty one shows all.
     void setFilter(std::function<bool(Kolt::VParameter const&)> const& filter);
