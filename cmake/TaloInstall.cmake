@@ -25,7 +25,7 @@ endfunction()
 
 function(talo_install_plugin)
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/plugin" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/talo" COMPONENT plugin
-        FILES_MATCHING PATTERN "QInputWidgetCreator.hpp" PATTERN "VInputValue.hpp")
+        FILES_MATCHING PATTERN "*.hpp")
     talo_installed_path(libraries "${TALO_INSTALL_PLUGIN_DIR}" "${CMAKE_INSTALL_LIBDIR}")
     set_target_properties(qtalo_inputs PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
     install(TARGETS qtalo_inputs LIBRARY DESTINATION "${TALO_INSTALL_PLUGIN_DIR}" COMPONENT plugin)

@@ -15,12 +15,13 @@ namespace Talo {
 class NetworkReader;
 
 /// Makes an object of a network: of the kind that the file names, which may be empty, and with the name, which the
-/// object must carry. It gives every object a life of its own and never null.
+/// object must carry. Returns a new object, never null.
 using ObjectFactory = std::function<Kolt::ObjectPtr(QString const& kind, QString const& name)>;
 
-/// A network of objects with typed parameters, as a network file describes it (docs/network-files.md describes the format), and
-/// the pools in which its parameters have values. It owns objects and pools: they live until the network goes or
-/// somebody takes a parameter out of its object. User-interface thread. Prints nothing and throws nothing.
+/// A network of objects with typed parameters, as a network file describes it, and the pools in which its parameters
+/// have values. docs/network-files.md describes the format. The network owns objects and pools: they live until it is
+/// destroyed; a parameter also dies when it is removed from its object. User-interface thread. Prints nothing and
+/// throws nothing.
 class Network {
 public:
     /// What came of a file: a network, or a null one and the reason as "FILE:LINE: what was expected, what was found".
