@@ -32,8 +32,8 @@ public:
         QString error;
     };
 
-    /// Reads a network file whole or not at all. For a file that cannot be read the line is 0. The factory makes the
-    /// objects; an empty one makes objects that do nothing.
+    /// Reads a network file completely or not at all. For a file that cannot be read the line is 0. The factory makes
+    /// the objects; an empty one makes objects that do nothing.
     static LoadResult load(QString const& file, ObjectFactory const& makeObject = {});
     ~Network();
     Network(Network const&) = delete;
@@ -48,32 +48,32 @@ public:
     std::vector<Kolt::ObjectPtr> const& objects() const { return objects_; }
     /// An object by its name; null when there is none.
     Kolt::ObjectPtr findObject(QString const& name) const;
-    /// What the file says the object is for, a free text; empty for no object of this network.
+    /// What the object is for, a free text of the file; empty for an object of another network.
     QString kind(Kolt::ObjectPtr const& object) const;
     /// The parameter named "object.parameter", where the first dot separates the two; null when there is none.
     Kolt::ParameterPtr findParameter(QString const& objectDotParameter) const;
 
-    /// The pools in the order of the file, at least one. The first is current at the start.
+    /// The pools in the order of the file, at least one. The first one is chosen at the start.
     std::vector<Kolt::PoolPtr> const& pools() const { return pools_; }
     /// The pool of this name; null when there is none.
     Kolt::PoolPtr findPool(QString const& name) const;
 
     /// All values as JSON: {"object": {"parameter": {"value": ..., "values": {"pool": ...}}}}, sorted by name, with
-    /// "values" where the parameter keeps values per pool, for those pools that have one. Null stands for nothing
-    /// chosen and for what a network file cannot hold. Equal values give equal bytes. Ends with a line feed.
+    /// "values" where the parameter keeps values per pool, for those pools that have one. Null means that nothing
+    /// is chosen, or a value that network files cannot contain. Equal values give equal bytes. Ends with a line feed.
     QByteArray values() const;
     /// Writes the whole network with its current values, in the format that `load` reads, and replaces the file in one
     /// step or leaves it as it was. What was saved, loaded and saved there again has the same bytes; in another folder
     /// only the paths that are relative to the folder differ. False, and the reason in `error` unless that is null,
-    /// when the file cannot be written or would not hold all of the network.
+    /// when the file cannot be written or the network has something that files cannot contain.
     bool save(QString const& file, QString* error) const;
 
-    /// Writes the network as `save` does and goes on with that file: relative paths start at its folder, and what it
-    /// holds is the default of every parameter.
+    /// Writes the network as `save` does and uses that file from now on: relative paths start at its folder, and the
+    /// saved values become the defaults of the parameters.
     bool saveAs(QString const& file, QString* error);
 
     /// From now on the values that people edit are the defaults of their parameters (VParameter::rememberDefaults).
-    /// A network that was loaded starts so.
+    /// `load` does this.
     void rememberDefaults();
     /// Whether a value that people edit differs from its default, in a pool or in the parameter itself.
     bool isModified() const;
@@ -82,13 +82,13 @@ public:
     QString nameOf(Kolt::ParameterPtr const& parameter) const;
 
     /// Sets a value as the host would: the pool's value where the parameter keeps values per pool (made if it is not
-    /// there), else the parameter's own. Tells everybody once and renews the age stamp. The text is what the type's
+    /// there), else the parameter's own. Notifies everybody once and renews the age stamp. The text is what the type's
     /// VValueTrait reads. False, nothing changed, and the reason in `error` unless that is null, when there is no such
     /// parameter or pool or the text is no value of the type.
     bool setText(QString const& objectDotParameter, QString const& text, Kolt::PoolPtr const& pool, QString* error);
 
     /// Called when an action of the network is fired, with the object that holds it and the parameter and pool that it
-    /// was fired for, both of which may be null. An empty function calls nobody. An action that outlives the network
+    /// was fired for, both of which may be null. May be empty. An action that outlives the network
     /// does nothing when it is fired.
     std::function<void(Kolt::ObjectPtr const&, Kolt::ParameterPtr const&, Kolt::PoolPtr const&)> actionHandler;
 
@@ -110,7 +110,7 @@ private:
     std::vector<Kolt::ObjectPtr> objects_;
     // What each object is for, in the order of the objects.
     std::vector<QString> kinds_;
-    // Actions look here whether the network still lives.
+    // Tells actions whether the network is alive.
     std::shared_ptr<Network*> const self_;
 };
 

@@ -649,6 +649,15 @@ TEST_F(Network, TheFractalNetworkIsSavedAsTheBytesThatItHas) {
     EXPECT_EQ(bytesOf(path("again.json")), bytesOf(fractalFile));
 }
 
+TEST_F(Network, EveryExampleIsLoaded) {
+    auto const files = QDir(QStringLiteral(TALO_EXAMPLES "/networks")).entryInfoList({QStringLiteral("*.json")});
+    EXPECT_GE(files.size(), 3);
+    for (auto const& file : files) {
+        auto const read = Talo::Network::load(file.filePath());
+        EXPECT_NE(read.network, nullptr) << read.error.toStdString();
+    }
+}
+
 TEST_F(Network, TheFractalNetworkUsesEveryTypeAndPreference) {
     std::set<std::string> types;
     std::set<std::string> preferences;
@@ -734,7 +743,7 @@ TEST_F(Network, TheFractalNetworkBindsItsFileNamesAndHasItsPicture) {
 }
 
 TEST_F(Network, EveryPieceOfTheDescriptionIsRight) {
-    auto const description = QString::fromUtf8(bytesOf(TALO_EXAMPLES "/README.md"));
+    auto const description = QString::fromUtf8(bytesOf(TALO_EXAMPLES "/../docs/network-files.md"));
     QRegularExpression const block("```json\\n(.*?)```", QRegularExpression::DotMatchesEverythingOption);
     std::set<std::string> types;
     int networks = 0;
