@@ -9,7 +9,7 @@ namespace Talo {
 class PropertyFormat;
 struct ValueFormat;
 
-/// Makes a network of the text of a network file. It is used for one text.
+/// Makes a network from the text of a network file.
 class NetworkReader {
 public:
     /// The whole network; throws a FormatError when anything in the text is wrong. `file` says where relative paths

@@ -7,8 +7,9 @@
 
 namespace Talo {
 
-/// How the values of one type stand in a network file.
+/// How a network file writes the values of one type.
 struct ValueFormat {
+    /// The texts among which a value chooses; empty for types that do not choose.
     using Entries = std::vector<std::string>;
 
     /// The type's key in the file.
@@ -25,8 +26,9 @@ struct ValueFormat {
     /// Stores the content of a value object that `read` made in another one of the same kind.
     void (*copy)(Kolt::ValuePtr const& from, Kolt::ValuePtr const& to);
 
-    /// The format of a key or of a readable type name; null for an unknown one. They live as long as the process.
+    /// The format of a key; null for an unknown one. Formats live as long as the process.
     static ValueFormat const* ofKey(QString const& key);
+    /// The format of a readable type name; null for an unknown one.
     static ValueFormat const* ofType(std::string const& typeName);
     /// The keys of all formats, for messages.
     static QString keys();

@@ -18,9 +18,13 @@ namespace {
 
 constexpr int badUse = 2;
 
-/// Tells what is wrong; gives the status of a program that ends with that.
+void say(QString const& message) {
+    std::fprintf(stderr, "talo_panel: %s\n", message.toLocal8Bit().constData());
+}
+
+/// Says what is wrong; returns the status of a program that ends with that.
 int refuse(QString const& reason) {
-    std::fprintf(stderr, "talo_panel: %s\n", reason.toLocal8Bit().constData());
+    say(reason);
     return badUse;
 }
 
@@ -36,7 +40,7 @@ QStringList decoded(int count, char* const* arguments) {
     return list;
 }
 
-/// Chooses Qt's platform; says whether nobody will see the panel although it is to be seen.
+/// Chooses Qt's platform. True when there is no display for a panel that should be shown.
 bool choosePlatform(Panel::CommandLine const& commandLine) {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return false;
@@ -166,7 +170,8 @@ int run(Panel::CommandLine const& commandLine) {
         return showGallery(commandLine, pluginError);
     auto const file = commandLine.network.isEmpty() ? Panel::defaultNetworkFile() : commandLine.network;
     if (file.isEmpty())
-        return refuse(QCoreApplication::translate("main", "examples/fractal.json is missing; name a network to open."));
+        return refuse(
+            QCoreApplication::translate("main", "examples/networks/fractal.json is missing; name a network to open."));
     auto loaded = Talo::Network::load(file, Fractal::makeObject);
     if (!loaded.network)
         return refuse(loaded.error);
@@ -211,10 +216,12 @@ int main(int argc, char* argv[]) {
     std::setlocale(LC_ALL, "");
     QString error;
     auto const arguments = decoded(argc, argv);
-    auto const commandLine = Panel::CommandLine::parse(arguments, error);
+    auto commandLine = Panel::CommandLine::parse(arguments, error);
     if (!commandLine)
         return refuseCommandLine(arguments, argv[0]);
-    bool const unseen = choosePlatform(*commandLine);
+    bool const drawn = choosePlatform(*commandLine);
+    if (drawn)
+        commandLine->screenshot = QStringLiteral("panel.png");
     if (!commandLine->language.isEmpty())
         QLocale::setDefault(QLocale(commandLine->language));
 
@@ -228,9 +235,6 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationName(QStringLiteral("talo_panel"));
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Talo panel"));
     QApplication::setApplicationVersion(QStringLiteral(TALO_VERSION));
-    if (unseen)
-        refuse(QCoreApplication::translate(
-            "main", "There is no display; the panel runs unseen. --screenshot draws it into a file."));
     if (commandLine->help) {
         print(Panel::CommandLine::helpText().toUtf8());
         return 0;
@@ -242,5 +246,9 @@ int main(int argc, char* argv[]) {
     Panel::applyLook(commandLine->theme);
     if (commandLine->rightToLeft)
         QApplication::setLayoutDirection(Qt::RightToLeft);
-    return run(*commandLine);
+    int const status = run(*commandLine);
+    if (drawn && status == 0)
+        say(QCoreApplication::translate("main", "There is no display, so the panel was drawn into %1.")
+                .arg(commandLine->screenshot));
+    return status;
 }

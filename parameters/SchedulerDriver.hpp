@@ -11,6 +11,7 @@ class SchedulerDriver : public QObject {
     Q_OBJECT
 
 public:
+    /// Drives the process-wide scheduler from now on.
     explicit SchedulerDriver(QObject* parent = nullptr);
     ~SchedulerDriver() override;
 

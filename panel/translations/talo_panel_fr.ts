@@ -8,18 +8,6 @@
         <translation>Un panneau de commande pour des réseaux d’objets à paramètres typés.</translation>
     </message>
     <message>
-        <source>The network to open; examples/fractal.json unless given.</source>
-        <translation>Le réseau à ouvrir ; examples/fractal.json à défaut.</translation>
-    </message>
-    <message>
-        <source>Says how to start the program.</source>
-        <translation>Indique comment lancer le programme.</translation>
-    </message>
-    <message>
-        <source>Says which version this is.</source>
-        <translation>Indique la version du programme.</translation>
-    </message>
-    <message>
         <source>Shows the object of this name.</source>
         <translation>Montre l’objet de ce nom.</translation>
     </message>
@@ -44,16 +32,8 @@
         <translation>Montre les valeurs brutes à côté des éditeurs.</translation>
     </message>
     <message>
-        <source>Draws the panel into an image file, without a display, and ends.</source>
-        <translation>Dessine le panneau dans un fichier image, sans écran, et se termine.</translation>
-    </message>
-    <message>
         <source>FILE.png</source>
         <translation>FICHIER.png</translation>
-    </message>
-    <message>
-        <source>Gives the panel this size, as in 1200x800.</source>
-        <translation>Donne cette taille au panneau, par exemple 1200x800.</translation>
     </message>
     <message>
         <source>WIDTHxHEIGHT</source>
@@ -68,20 +48,12 @@
         <translation>light|dark</translation>
     </message>
     <message>
-        <source>Draws everything larger by this factor, from 0.5 to 4.</source>
-        <translation>Agrandit tout de ce facteur, de 0.5 à 4.</translation>
-    </message>
-    <message>
         <source>FACTOR</source>
         <translation>FACTEUR</translation>
     </message>
     <message>
         <source>Lays the panel out from right to left.</source>
         <translation>Dispose le panneau de droite à gauche.</translation>
-    </message>
-    <message>
-        <source>Speaks this language instead of the system&apos;s, as in de or fr.</source>
-        <translation>Parle cette langue au lieu de celle du système, par exemple de ou fr.</translation>
     </message>
     <message>
         <source>LANGUAGE</source>
@@ -98,10 +70,6 @@
     <message>
         <source>STATE</source>
         <translation>ÉTAT</translation>
-    </message>
-    <message>
-        <source>Neither brings the last session back nor keeps this one.</source>
-        <translation>Ne rétablit pas la dernière session et ne garde pas celle-ci.</translation>
     </message>
     <message>
         <source>Prints all values as JSON and ends.</source>
@@ -148,20 +116,52 @@
         <translation>--language attend une langue comme de ou fr et a trouvé « %1 ».</translation>
     </message>
     <message>
-        <source>The gallery opens no network, so --%1 says nothing beside --gallery.</source>
-        <translation>La galerie n’ouvre pas de réseau ; --%1 ne dit donc rien à côté de --gallery.</translation>
-    </message>
-    <message>
-        <source>The gallery opens no network, so %1 says nothing beside --gallery.</source>
-        <translation>La galerie n’ouvre pas de réseau ; %1 ne dit donc rien à côté de --gallery.</translation>
-    </message>
-    <message>
         <source>--state wants one of %1 and found &quot;%2&quot;.</source>
         <translation>--state attend l’un de %1 et a trouvé « %2 ».</translation>
     </message>
     <message>
-        <source>--state says nothing without --gallery.</source>
-        <translation>--state ne dit rien sans --gallery.</translation>
+        <source>The network to open; examples/networks/fractal.json by default.</source>
+        <translation>Le réseau à ouvrir ; examples/networks/fractal.json par défaut.</translation>
+    </message>
+    <message>
+        <source>Prints this help and ends.</source>
+        <translation>Affiche cette aide et se termine.</translation>
+    </message>
+    <message>
+        <source>Prints the version and ends.</source>
+        <translation>Affiche la version et se termine.</translation>
+    </message>
+    <message>
+        <source>Draws the panel into an image file and ends; needs no display.</source>
+        <translation>Dessine le panneau dans un fichier image et se termine ; n’a pas besoin d’écran.</translation>
+    </message>
+    <message>
+        <source>Sets the size of the window, as in 1200x800.</source>
+        <translation>Fixe la taille de la fenêtre, par exemple 1200x800.</translation>
+    </message>
+    <message>
+        <source>Scales the panel by this factor, from 0.5 to 4.</source>
+        <translation>Met le panneau à l’échelle de ce facteur, de 0.5 à 4.</translation>
+    </message>
+    <message>
+        <source>Uses this language instead of the system&apos;s, as in de or fr.</source>
+        <translation>Utilise cette langue au lieu de celle du système, par exemple de ou fr.</translation>
+    </message>
+    <message>
+        <source>Does not restore or save the session.</source>
+        <translation>Ne rétablit pas la session et ne l’enregistre pas.</translation>
+    </message>
+    <message>
+        <source>--state needs --gallery.</source>
+        <translation>--state demande --gallery.</translation>
+    </message>
+    <message>
+        <source>The gallery opens no network, so --%1 cannot be used with --gallery.</source>
+        <translation>La galerie n’ouvre pas de réseau, donc --%1 ne peut pas être utilisé avec --gallery.</translation>
+    </message>
+    <message>
+        <source>The gallery opens no network, so %1 cannot be used with --gallery.</source>
+        <translation>La galerie n’ouvre pas de réseau, donc %1 ne peut pas être utilisé avec --gallery.</translation>
     </message>
 </context>
 <context>
@@ -570,16 +570,16 @@
         <translation>L’image %1 ne peut pas être écrite.</translation>
     </message>
     <message>
-        <source>examples/fractal.json is missing; name a network to open.</source>
-        <translation>examples/fractal.json est absent ; nommez un réseau à ouvrir.</translation>
-    </message>
-    <message>
-        <source>There is no display; the panel runs unseen. --screenshot draws it into a file.</source>
-        <translation>Il n’y a pas d’écran ; le panneau fonctionne sans être vu. --screenshot le dessine dans un fichier.</translation>
+        <source>examples/networks/fractal.json is missing; name a network to open.</source>
+        <translation>examples/networks/fractal.json est absent ; nommez un réseau à ouvrir.</translation>
     </message>
     <message>
         <source>Talo panel</source>
         <translation>Panneau Talo</translation>
+    </message>
+    <message>
+        <source>There is no display, so the panel was drawn into %1.</source>
+        <translation>Il n’y a pas d’écran, donc le panneau a été dessiné dans %1.</translation>
     </message>
 </context>
 </TS>

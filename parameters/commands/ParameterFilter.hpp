@@ -13,6 +13,7 @@ public:
     /// The words of a text, between blanks.
     explicit ParameterFilter(QString const& text = {});
 
+    /// Whether there is no word, so that every parameter passes.
     bool isEmpty() const { return words_.isEmpty(); }
     /// Whether a parameter of the object is found, with the value that it has in the pool, else with its own one.
     bool finds(Kolt::VObject const& object, Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) const;

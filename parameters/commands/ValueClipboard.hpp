@@ -19,7 +19,9 @@ public:
 
     /// What came of a paste: a value object to hold, or null and the reason.
     struct Pasted {
+        /// The value; null when nothing can be pasted.
         Kolt::ValuePtr value;
+        /// Why nothing can be pasted; empty otherwise.
         QString error;
     };
     /// The value for a parameter in a pool. A typed value of the parameter's type is taken as it is; of anything else

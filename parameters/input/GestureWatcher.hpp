@@ -29,6 +29,7 @@ public:
     /// How long the wheel rests before its gesture ends, in milliseconds.
     static constexpr int WheelPause = 400;
 
+    /// Watches the events of the application, which exists already.
     explicit GestureWatcher(QObject* parent = nullptr);
     ~GestureWatcher() override;
 

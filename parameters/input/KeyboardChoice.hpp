@@ -11,6 +11,7 @@ class KeyboardChoice : public QObject {
     Q_OBJECT
 
 public:
+    /// A child of the list, which owns it.
     explicit KeyboardChoice(QAbstractItemView* list);
     ~KeyboardChoice() override;
 

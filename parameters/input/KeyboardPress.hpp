@@ -13,6 +13,7 @@ class KeyboardPress : public QObject {
     Q_OBJECT
 
 public:
+    /// A child of the control, which owns it.
     explicit KeyboardPress(QWidget* control);
     ~KeyboardPress() override;
 

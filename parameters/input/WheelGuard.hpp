@@ -16,6 +16,7 @@ class WheelGuard : public QObject {
     Q_OBJECT
 
 public:
+    /// A child of the editor, which owns it.
     explicit WheelGuard(QWidget* editor);
     ~WheelGuard() override;
 

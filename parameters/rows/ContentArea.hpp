@@ -10,6 +10,7 @@ class ContentArea : public QScrollArea {
     Q_OBJECT
 
 public:
+    /// An area without content.
     explicit ContentArea(QWidget* parent = nullptr);
     ~ContentArea() override;
 

@@ -10,6 +10,7 @@ class ModifiedIndicator : public QToolButton {
     Q_OBJECT
 
 public:
+    /// The indicator of the parameter of this name, which its texts for users mention.
     explicit ModifiedIndicator(QString const& parameterName, QWidget* parent = nullptr);
     ~ModifiedIndicator() override;
 

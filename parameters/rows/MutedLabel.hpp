@@ -14,6 +14,7 @@ class MutedLabel : public QLabel {
     Q_OBJECT
 
 public:
+    /// A label that shows this text.
     explicit MutedLabel(QString const& text = {}, QWidget* parent = nullptr);
     ~MutedLabel() override;
 

@@ -41,6 +41,7 @@ public:
 
     /// The parameter's whole name, also after the parameter was deleted.
     QString const& parameterName() const { return parameterName_; }
+    /// The parameter; null when it is gone.
     Kolt::ParameterPtr parameter() const { return parameter_.strong(); }
     /// The current pool; null for none.
     Kolt::PoolPtr pool() const { return Kolt::currentPool(&pools_); }
@@ -67,6 +68,7 @@ public:
     void showDefault();
     /// Shows whether the parameter still exists.
     void checkParameter();
+    /// Shows or hides the raw value beside the editor.
     void setRawValueShown(bool shown);
     /// Sets the width of the name column, so that the rows of a form are aligned. In pixels.
     void setNameWidth(int width);

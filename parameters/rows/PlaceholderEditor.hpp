@@ -11,6 +11,7 @@ class PlaceholderEditor : public MutedLabel {
     Q_OBJECT
 
 public:
+    /// Reads what it shows from the parameter once and keeps no reference to it.
     explicit PlaceholderEditor(Kolt::VParameter const& parameter, QWidget* parent = nullptr);
     ~PlaceholderEditor() override;
 };

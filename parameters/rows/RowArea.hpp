@@ -37,6 +37,7 @@ public:
     /// The row of a parameter by its whole name, made if it does not exist; null if there is no such parameter.
     ParameterRow* row(QString const& parameterName);
 
+    /// Makes the editors that `closeEditors` deleted.
     void openEditors();
     /// Hides and deletes all editors; rows made from now on have none until they are opened again.
     void closeEditors();
@@ -46,6 +47,7 @@ public:
     void showDefaults();
     /// Has the rows show which parameters were deleted.
     void checkParameters();
+    /// Shows or hides the raw values of all rows, also of those that are made later.
     void setRawValuesShown(bool shown);
     /// Hides the parameters for which the predicate does not hold; an empty one shows all.
     void setFilter(std::function<bool(Kolt::VParameter const&)> const& filter);

@@ -11,6 +11,7 @@ class TextDirectionDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
+    /// A delegate for any list or combo box.
     explicit TextDirectionDelegate(QObject* parent = nullptr);
     ~TextDirectionDelegate() override;
 
