@@ -59,6 +59,28 @@ QJsonObject poolValuesToJson(Kolt::VParameter const& parameter, std::vector<Kolt
     return values;
 }
 
+QJsonArray textsToJson(std::vector<std::string> const& texts) {
+    QJsonArray array;
+    for (auto const& text : texts)
+        array.append(QString::fromStdString(text));
+    return array;
+}
+
+QJsonObject propertiesToJson(Kolt::VParameter const& parameter, PropertyFormat const& format,
+                             QString const& targetFolder) {
+    QJsonObject map;
+    if (!parameter.properties())
+        return map;
+    for (auto const& [key, value] : *parameter.properties()) {
+        auto const name = QString::fromStdString(key);
+        auto const written = format.write(name, value, targetFolder);
+        if (written.isUndefined())
+            refuseToWrite("no network file can hold the property " + quoted(name));
+        map.insert(name, written);
+    }
+    return map;
+}
+
 } // namespace
 
 Network::Network() : self_(std::make_shared<Network*>(this)) {}
@@ -199,37 +221,20 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
     QJsonObject node{{"name", QString::fromStdString(parameter.Name())},
                      {"type", format->key},
                      {"value", json(parameter.ownValue())}};
-    if (format->choosesEntries) {
-        QJsonArray entries;
-        if (ownEntries)
-            for (auto const& entry : *ownEntries)
-                entries.append(QString::fromStdString(entry));
-        node.insert("entries", entries);
-    }
+    if (format->choosesEntries)
+        node.insert("entries", ownEntries ? textsToJson(*ownEntries) : QJsonArray());
     auto const poolValues = poolValuesToJson(parameter, pools_, json);
     if (!poolValues.isEmpty())
         node.insert("values", poolValues);
     else if (parameter.keepsValuesPerPool())
         node.insert("perPool", true);
     if (auto const& preferences = parameter.creationPreferences()) {
-        QJsonArray names;
-        for (auto const& name : preferences->names())
-            names.append(QString::fromStdString(name));
-        node.insert("preferences", names);
+        auto const& names = preferences->names();
+        node.insert("preferences", textsToJson({names.begin(), names.end()}));
     }
-    if (auto const* const properties = parameter.properties()) {
-        PropertyFormat const propertyFormat(format->key, folder());
-        QJsonObject map;
-        for (auto const& [key, value] : *properties) {
-            auto const name = QString::fromStdString(key);
-            auto const written = propertyFormat.write(name, value, targetFolder);
-            if (written.isUndefined())
-                refuseToWrite("no network file can hold the property " + quoted(name));
-            map.insert(name, written);
-        }
-        if (!map.isEmpty())
-            node.insert("properties", map);
-    }
+    auto const properties = propertiesToJson(parameter, PropertyFormat(format->key, folder()), targetFolder);
+    if (!properties.isEmpty())
+        node.insert("properties", properties);
     return node;
 }
 

@@ -78,6 +78,36 @@ public:
                 (void)resetToDefault(parameter, Kolt::currentPool(&pools));
     }
 
+    UndoActions& undoActionsOf(ParameterPanel& panel) {
+        if (!undoActions) {
+            undoActions = new UndoActions(history(), &panel);
+            undoActions->setNaming(naming);
+            connect(undoActions, &UndoActions::refused, &panel, &ParameterPanel::refused);
+            addActions(panel, {undoActions->undoAction(), undoActions->redoAction()});
+        }
+        return *undoActions;
+    }
+    ParameterCommands& commandsOf(ParameterPanel& panel) {
+        if (!commands) {
+            commands = new ParameterCommands(&panel, &panel);
+            addActions(panel, commands->actions());
+        }
+        return *commands;
+    }
+    QAction* resetAllActionOf(ParameterPanel& panel) {
+        if (!resetAllAction) {
+            resetAllAction = new QAction(tr("Reset &all to default"), &panel);
+            resetAllAction->setObjectName(QStringLiteral("resetAll"));
+            connect(resetAllAction, &QAction::triggered, &panel, [this] { resetAll(); });
+        }
+        return resetAllAction;
+    }
+    static void addActions(ParameterPanel& panel, QList<QAction*> const& actions) {
+        for (auto* const action : actions)
+            action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        panel.addActions(actions);
+    }
+
     Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase> const object;
     Kolt::ValuePoolSource& pools;
     std::shared_ptr<InputFilter> const filterOfInput = InputFilter::shared();
@@ -134,37 +164,23 @@ void ParameterPanel::setRawValuesShown(bool shown) {
 }
 
 QAction* ParameterPanel::action(Command command) {
-    if (command == Command::Undo || command == Command::Redo) {
-        if (!d_->undoActions) {
-            d_->undoActions = new UndoActions(d_->history(), this);
-            d_->undoActions->setNaming(d_->naming);
-            connect(d_->undoActions, &UndoActions::refused, this, &ParameterPanel::refused);
-            for (auto* const action : {d_->undoActions->undoAction(), d_->undoActions->redoAction()}) {
-                action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-                addAction(action);
-            }
-        }
-        return command == Command::Undo ? d_->undoActions->undoAction() : d_->undoActions->redoAction();
+    switch (command) {
+    case Command::Undo:
+        return d_->undoActionsOf(*this).undoAction();
+    case Command::Redo:
+        return d_->undoActionsOf(*this).redoAction();
+    case Command::Reset:
+        return d_->commandsOf(*this).action("resetValue");
+    case Command::ResetAll:
+        return d_->resetAllActionOf(*this);
+    case Command::Copy:
+        return d_->commandsOf(*this).action("copyValue");
+    case Command::Paste:
+        return d_->commandsOf(*this).action("pasteValue");
+    case Command::SetAsDefault:
+        return d_->commandsOf(*this).action("setAsDefault");
     }
-    if (command == Command::ResetAll) {
-        if (!d_->resetAllAction) {
-            d_->resetAllAction = new QAction(tr("Reset &all to default"), this);
-            d_->resetAllAction->setObjectName(QStringLiteral("resetAll"));
-            connect(d_->resetAllAction, &QAction::triggered, this, [this] { d_->resetAll(); });
-        }
-        return d_->resetAllAction;
-    }
-    if (!d_->commands) {
-        d_->commands = new ParameterCommands(this, this);
-        for (auto* const action : d_->commands->actions()) {
-            action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-            addAction(action);
-        }
-    }
-    return d_->commands->action(command == Command::Reset   ? "resetValue"
-                                : command == Command::Copy  ? "copyValue"
-                                : command == Command::Paste ? "pasteValue"
-                                                            : "setAsDefault");
+    return nullptr;
 }
 
 void ParameterPanel::setNaming(ParameterNaming naming) {

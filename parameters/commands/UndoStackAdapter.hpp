@@ -7,8 +7,8 @@
 
 namespace Talo {
 
-/// Makes the undo steps of a history commands of a QUndoStack, for hosts whose other commands are there: each new step is
-/// pushed as a command with the step's text, and undoing or redoing the command undoes or redoes the step.
+/// Makes the undo steps of a history commands of a QUndoStack, for hosts whose other commands are there: each new step
+/// is pushed as a command with the step's text, and undoing or redoing the command undoes or redoes the step.
 ///
 /// From then on the host undoes through the stack only, and does not clear or limit the stack while steps are in it.
 /// Clearing the history clears the stack. User-interface thread.

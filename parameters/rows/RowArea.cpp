@@ -1,7 +1,7 @@
 #include <parameters/rows/RowArea.hpp>
 
 #include <algorithm>
-#include <map>
+#include <parameters/rows/FormPlan.hpp>
 #include <parameters/rows/TabStops.hpp>
 #include <QApplication>
 #include <QEvent>
@@ -23,17 +23,6 @@ constexpr RowLayout::Spacing spacing{contentMargins.top(), contentMargins.bottom
 // How many rows out of sight are kept, so that scrolling a little to and fro makes no rows.
 constexpr std::size_t keptRows = 60;
 
-QString sectionOf(QString const& parameterName) {
-    return parameterName.left(qMax(0, parameterName.lastIndexOf(QLatin1Char('.'))));
-}
-
-std::string heightClassOf(Kolt::VParameter const& parameter) {
-    auto heightClass = parameter.declaredType();
-    if (auto const& preferences = parameter.creationPreferences())
-        heightClass += ' ' + Kolt::preferenceText(preferences->names());
-    return heightClass;
-}
-
 QMargins boxMargins(QString const& title) {
     QGroupBox box(title);
     box.ensurePolished();
@@ -45,44 +34,24 @@ QMargins boxMargins(QString const& title) {
 RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> const& parameters,
                  Kolt::ValuePoolSource& pools, QWidget* parent)
     : ContentArea(parent), objectName_(objectName), pools_(pools), content_(new QWidget), layout_(spacing) {
-    addEntries(parameters);
+    addEntries(FormPlan(parameters));
     measureBoxes();
     setWidget(content_);
     setAccessibleName(objectName);
     arrange();
 }
 
-void RowArea::addEntries(std::vector<Kolt::ParameterPtr> const& parameters) {
-    struct Sorted {
-        std::size_t section;
-        std::size_t heightClass;
-        Entry entry;
-    };
-    std::map<QString, std::size_t> sections;
-    std::map<std::string, std::size_t> heightClasses;
-    std::vector<Sorted> sorted;
-    QString longestName;
-    for (auto const& parameter : parameters) {
-        auto const name = QString::fromStdString(parameter->Name());
-        auto const title = sectionOf(name);
-        auto const [section, isNew] = sections.insert({title, sections_.size()});
-        if (isNew)
-            sections_.push_back({title});
-        auto const heightClass = heightClasses.insert({heightClassOf(*parameter), heightClasses.size()}).first->second;
-        sorted.push_back({section->second, heightClass, {name, parameter}});
-        if (name.size() - title.size() > longestName.size())
-            longestName = name.mid(title.isEmpty() ? 0 : title.size() + 1);
-    }
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](auto const& left, auto const& right) { return left.section < right.section; });
-    for (auto& [section, heightClass, entry] : sorted) {
+void RowArea::addEntries(FormPlan const& plan) {
+    for (auto const& title : plan.sectionTitles)
+        sections_.push_back({title});
+    for (auto const& [parameter, name, section, heightClass] : plan.rows) {
         while (layout_.sectionCount() <= section)
             layout_.addSection();
         layout_.addRow(heightClass);
-        entries_.push_back(std::move(entry));
+        entries_.push_back({name, parameter});
     }
     // Most names are narrower than the one with the most letters; a row that needs more widens the column.
-    nameWidth_ = fontMetrics().horizontalAdvance(longestName);
+    nameWidth_ = fontMetrics().horizontalAdvance(plan.longestName);
 }
 
 RowArea::~RowArea() = default;

@@ -13,6 +13,8 @@ class QGroupBox;
 
 namespace Talo {
 
+struct FormPlan;
+
 /// The rows of any number of parameters below each other, in sections by the part of their names before the last dot.
 /// Only visible rows are made, and rows far from the visible ones are deleted again, so an object with ten thousand
 /// parameters opens almost as fast as one with ten. The height of a row that was never made is estimated from rows of
@@ -85,7 +87,7 @@ private:
         QGroupBox* box = nullptr;
     };
 
-    void addEntries(std::vector<Kolt::ParameterPtr> const& parameters);
+    void addEntries(FormPlan const& plan);
     void measureBoxes();
     Entry* entryOf(QWidget const* widget);
     std::size_t placeOf(Entry const& entry) const { return static_cast<std::size_t>(&entry - entries_.data()); }
