@@ -8,7 +8,7 @@ namespace Kolt {
 
 namespace {
 
-// Immortal: plug-ins come and go after the statics of this library.
+// Never destroyed: plug-ins may be unloaded after the statics of this library are gone.
 std::vector<VActionNotifier*>& actionNotifiers() {
     static auto& notifiers = *new std::vector<VActionNotifier*>;
     return notifiers;
@@ -26,7 +26,7 @@ VActionNotifier::~VActionNotifier() {
 }
 
 void VActionNotifier::Warning(std::string const& text) {
-    // Notifiers may come and go while they are told, a new one also at the address of one that went.
+    // Weak references, as a notifier may destroy others and make new ones at the same address.
     std::vector<Tessera::WeakPtr<VActionNotifier>> notifiers;
     for (auto* const notifier : actionNotifiers())
         notifiers.emplace_back(notifier);

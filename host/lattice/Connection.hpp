@@ -11,14 +11,16 @@ namespace Kolt {
 class TALO_EXPORT Connection {
 public:
     Connection() = default;
-    /// Takes what keeps the subscription alive and is released with it.
+    /// Takes over what keeps the subscription alive and releases it at the end.
     explicit Connection(std::shared_ptr<void> subscription) : subscription_(std::move(subscription)) {}
 
     /// Ends the subscription. The function is not called any more, not even by a notification that is under way.
     void disconnect() { subscription_.reset(); }
+    /// Whether the connection holds a subscription, also to something that was destroyed.
     bool isConnected() const { return subscription_ != nullptr; }
 
     Connection(Connection&&) = default;
+    /// Ends the subscription that was held before.
     Connection& operator=(Connection&&) = default;
     ~Connection() = default;
 

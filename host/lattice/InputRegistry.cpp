@@ -84,7 +84,7 @@ InputChoice InputRegistry::choose(VParameter const& parameter, VCreationPreferen
 }
 
 std::vector<CreatorRef> InputRegistry::creatorsOf(std::string const& valueType) const {
-    // References alone: this runs for every editor.
+    // References alone, without copies of names, as this runs for every editor.
     std::vector<CreatorRef> creators;
     for (auto const& registration : registrations_) {
         if (registration.entry.valueType == valueType && registration.entry.creator.alive())

@@ -2,19 +2,21 @@
 
 #include <lattice/InputCreator.hpp>
 #include <string>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Kolt {
 
 /// A creator that was chosen for a parameter, and why.
-struct InputChoice {
+struct TALO_EXPORT InputChoice {
     CreatorRef creator;      ///< empty when there is no creator for the type
-    std::string explanation; ///< a sentence for people
+    std::string explanation; ///< a sentence for people, without a full stop
 };
 
 /// The registered creators by the readable name of their value type. The names are copies, so nothing dangles when the
-/// library that named a type is unloaded. One for the process, and never destroyed.
-class InputRegistry {
+/// library that defined a type is unloaded. There is one registry; it is never destroyed, as plug-ins may be unloaded
+/// at the end of the process. Loading thread or user-interface thread.
+class TALO_EXPORT InputRegistry {
 public:
     /// A registered creator and the type that it was registered for.
     struct Entry {
@@ -27,15 +29,15 @@ public:
     /// All living creators, in order of registration.
     std::vector<Entry> entries() const;
 
-    /// What a parameter asks of its editor: its own creation preferences, or for a text that has none (or an empty
-    /// set) the one-line preference; and whatever the front end adds.
+    /// The names that a parameter wants of its editor: its own creation preferences, or for a text without any the
+    /// one-line preference, and in either case those of the front end.
     static VCreationPreferences::Names wantedPreferences(VParameter const& parameter,
                                                          VCreationPreferences::Names const& frontEnd);
-    /// The best creator for a type and a set of wanted names. Among those whose set holds all of them: the highest
-    /// priority, then the smallest set, then the first registered. If there is none, the one that shares most names,
-    /// then the same. The order in which libraries were loaded decides only between equals.
+    /// The best creator for a type and a set of wanted names. Among the creators whose set contains all of them: the
+    /// highest priority, then the smallest set, then the first registered. If there is none, the creator that shares
+    /// most names, then the same. The order in which libraries were loaded therefore decides only between equals.
     InputChoice choose(std::string const& valueType, VCreationPreferences::Names const& wanted) const;
-    /// The best creator for a parameter among those that suit it.
+    /// The best creator for a parameter among those that support it.
     InputChoice choose(VParameter const& parameter, VCreationPreferences::Names const& frontEnd) const;
 
 private:
@@ -44,7 +46,7 @@ private:
     struct Registration {
         Entry entry;
         std::string name;
-        // The set as it stood at the registration: a creator may add names to it afterwards.
+        // A copy of the set at the registration: a creator may add names to it afterwards.
         VCreationPreferences::Names preferences;
     };
 
@@ -52,7 +54,7 @@ private:
     bool add(std::type_info const& valueType, CreatorRef const& creator);
     void remove(std::type_info const& valueType, CreatorRef const& creator);
     std::vector<CreatorRef> creatorsOf(std::string const& valueType) const;
-    // Null: whatever the parameter.
+    // A null parameter is supported by every creator.
     InputChoice choose(std::string const& valueType, VCreationPreferences::Names const& wanted,
                        VParameter const* parameter) const;
 

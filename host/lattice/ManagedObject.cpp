@@ -1,6 +1,6 @@
 #include <lattice/ManagedObject.hpp>
 
-#include <algorithm>
+#include <map>
 #include <vector>
 
 namespace Kolt {
@@ -12,10 +12,16 @@ struct Managed {
     VManagedObject* object;
 };
 
-// Immortal: plug-ins come and go after the statics of this library.
-std::vector<Managed>& managedObjects() {
-    static auto& objects = *new std::vector<Managed>;
-    return objects;
+struct Registry {
+    // By number, so in order of construction.
+    std::map<unsigned long, Managed> objects;
+    unsigned long lastNumber = 0;
+};
+
+// Never destroyed: plug-ins may be unloaded after the statics of this library are gone.
+Registry& registry() {
+    static auto& all = *new Registry;
+    return all;
 }
 
 } // namespace
@@ -27,21 +33,18 @@ VManagedObjectBase::~VManagedObjectBase() = default;
 VManagedObjectIterator::~VManagedObjectIterator() = default;
 
 VManagedObject::VManagedObject(std::type_info const& domain, std::string const& name, int priority)
-    : MutableName(name), domain_(domain.name()), priority_(priority) {
-    managedObjects().push_back({domain_, this});
+    : MutableName(name), domain_(domain.name()), priority_(priority), number_(++registry().lastNumber) {
+    registry().objects.emplace(number_, Managed{domain_, this});
 }
 
 VManagedObject::~VManagedObject() {
-    auto& objects = managedObjects();
-    objects.erase(
-        std::remove_if(objects.begin(), objects.end(), [&](auto const& managed) { return managed.object == this; }),
-        objects.end());
+    registry().objects.erase(number_);
 }
 
 void VManagedObject::traverse(std::type_info const& domain, VManagedObjectIterator& iterator, int lowestPriority,
                               int highestPriority) {
     std::vector<Tessera::WeakPtr<VManagedObject, VManagedObjectBase>> walked;
-    for (auto const& managed : managedObjects()) {
+    for (auto const& [number, managed] : registry().objects) {
         int const priority = managed.object->priority();
         if (managed.domain == domain.name() && priority >= lowestPriority && priority <= highestPriority)
             walked.emplace_back(managed.object);

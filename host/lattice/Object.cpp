@@ -14,7 +14,7 @@ void VObject::addParameter(ParameterPtr const& parameter) {
 }
 
 void VObject::removeParameter(ParameterPtr const& parameter) {
-    // Held until the list is in order again: the parameter may be told of as it dies.
+    // Destroyed last: its destruction may use the list.
     auto const held = parameter;
     parameters_.erase(std::remove(parameters_.begin(), parameters_.end(), held), parameters_.end());
 }

@@ -110,7 +110,7 @@ void VParameter::notifyValueChange(ValuePtr const& value, PoolPtr const& pool, s
                                    ValueMap const* values) const {
     if (!hasListeners() && !alsoNotify && recorder_.expired())
         return;
-    // Held here, as the caller's reference may be a part of what dies on the way.
+    // A copy, as a notifier may destroy what holds the caller's reference.
     auto const live = value;
     VContext const context(pool, nullptr);
     auto recorder = values ? nullptr : recorder_.lock();
@@ -119,7 +119,7 @@ void VParameter::notifyValueChange(ValuePtr const& value, PoolPtr const& pool, s
         return;
     }
     EditRecorder::NotificationScope const scope(std::move(recorder), context.pool(), source.alive());
-    // The recorded step may have been the end of the parameter.
+    // A listener of the history may have destroyed the parameter.
     if (scope.parameterLives())
         notify(source, alsoNotify, live, context, values);
 }

@@ -18,8 +18,8 @@ std::string loaderReason() {
 }
 
 std::filesystem::path pathOf(std::string const& file) {
-    // A bare name would be searched for in the system's library folders, an empty one would be the program itself, and
-    // a link is the file that it leads to.
+    // The system would search its library folders for a bare name and take an empty one for the program itself. Two
+    // links to one file are the same plug-in.
     std::error_code ignored;
     auto const absolute = std::filesystem::absolute(file.empty() ? "." : file, ignored);
     auto const real = std::filesystem::weakly_canonical(absolute, ignored);
@@ -39,7 +39,7 @@ public:
     Plugin(std::string fileName, void* library, void const* base)
         : file(std::move(fileName)), handle(library), base_(base) {}
 
-    // A type that the plug-in defines has its type information there.
+    // The type information of a type lies in the library that defines it.
     bool defines(std::type_info const& type) const {
         Dl_info info{};
         return dladdr(&type, &info) != 0 && info.dli_fbase == base_;
@@ -63,7 +63,7 @@ PluginLoader::PluginLoader(VInitialization& host) : host_(host) {}
 PluginLoader::PluginLoader() : PluginLoader(plainHost()) {}
 
 PluginLoader::~PluginLoader() {
-    // The latest first. One whose editors live stays loaded: that is harmless, to take its code away is not.
+    // The latest first. A file whose editors exist stays loaded, as unloading their code would crash.
     while (!plugins_.empty()) {
         if (!unload(plugins_.back()->file).ok)
             plugins_.pop_back();

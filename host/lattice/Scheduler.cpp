@@ -21,7 +21,7 @@ struct Queue {
     std::function<void()> wakeUp;
 };
 
-// Immortal: objects are scheduled as long as the process lives.
+// Never destroyed: plug-ins may use it after the statics of this library are gone.
 Queue& queue() {
     static auto& waiting = *new Queue;
     return waiting;
@@ -32,7 +32,7 @@ Queue& queue() {
 void VScheduler::schedule(ObjectPtr const& object, double time, PoolPtr const& pool) {
     if (!object)
         return;
-    // Not a number cannot be ordered; it is as due as the past.
+    // "Not a number" cannot be ordered; it is due at once.
     queue().entries.insert({time == time ? std::max(time, 0.0) : 0.0, {object, pool}});
     auto const wakeUp = queue().wakeUp;
     if (wakeUp)

@@ -6,7 +6,7 @@ namespace Kolt {
 
 namespace {
 
-// Immortal: parameters of other libraries may be destroyed after the statics of this one.
+// Never destroyed: the default history is not, either.
 std::vector<UndoHistory*>& histories() {
     static auto& all = *new std::vector<UndoHistory*>;
     return all;
@@ -209,7 +209,7 @@ void UndoHistory::forgetEverywhere(std::function<bool(VUndoAction const&)> const
 }
 
 void UndoHistory::clear() {
-    // Only afterwards do they go: a record may do anything as it goes.
+    // Destroyed last: the destructor of a record may do anything.
     auto const steps = std::exchange(steps_, {});
     auto const undone = std::exchange(undone_, {});
     auto const undoneBeforeOpen = std::exchange(undoneBeforeOpen_, {});
@@ -240,7 +240,7 @@ UndoStep& UndoHistory::currentStep() {
 }
 
 void UndoHistory::insert(OwnStep const& step) {
-    // Released last: the destructor of a record may do anything.
+    // Destroyed last: the destructor of a record may do anything.
     auto const oldest = steps_.size() >= Capacity ? steps_.front() : nullptr;
     if (oldest)
         steps_.pop_front();
@@ -256,7 +256,7 @@ void UndoHistory::remove(OwnStep const& step) {
 }
 
 void UndoHistory::changed() const {
-    // A copy, as listeners may come and go meanwhile.
+    // A copy, as a listener may add and disconnect others.
     auto const listeners = listeners_;
     for (auto const& each : listeners) {
         auto const listener = each.lock();

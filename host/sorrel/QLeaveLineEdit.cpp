@@ -21,7 +21,7 @@ void QLeaveLineEdit::focusOutEvent(QFocusEvent* event) {
         leave();
         return;
     }
-    // The user may come back, or the focus may move on meanwhile, of which this widget is not told.
+    // The focus may come back to another widget, which causes no event for this one.
     focusChanged_ = connect(qApp, &QApplication::focusChanged, this, [this](QWidget const*, QWidget const* now) {
         if (!now || now->window()->windowType() == Qt::Popup)
             return;

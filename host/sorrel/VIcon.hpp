@@ -2,20 +2,22 @@
 
 #include <lattice/Object.hpp>
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 namespace Kolt {
 
-/// A compact display that stands for an object, made by a QIconizer. The parent widget that it was made on owns it, or
-/// whoever made it without one. User-interface thread.
-class VIcon {
+/// A compact display of an object, made by a QIconizer. Owned by the parent widget that it was made with; without a
+/// parent by the caller. User-interface thread.
+class TALO_EXPORT VIcon {
 public:
-    /// The object is referred to weakly; the provider says in which pool the icon shows values.
+    /// Refers to the object weakly. The provider holds the pool in which the icon shows values; it may be null.
     VIcon(Tessera::WeakPtr<VObject, VManagedObjectBase> const& object,
           Tessera::StrongPtr<ValuePoolProvider> const& provider);
     virtual ~VIcon();
     VIcon(VIcon const&) = delete;
     VIcon& operator=(VIcon const&) = delete;
 
+    /// The displayed object, which may be destroyed.
     Tessera::WeakPtr<VObject, VManagedObjectBase> const& object() const { return object_; }
     Tessera::StrongPtr<ValuePoolProvider> const& provider() const { return provider_; }
     /// The icon as a widget; never null.

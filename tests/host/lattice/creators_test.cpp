@@ -1,4 +1,5 @@
 #include "support/TaloTest.hpp"
+#include <lattice/ActionNotifier.hpp>
 #include <lattice/HostObserver.hpp>
 #include <lattice/Initialization.hpp>
 #include <lattice/Input.hpp>

@@ -1,6 +1,7 @@
 #include "host/signature.hpp"
 #include "support/TaloTest.hpp"
 #include <bramble/Action.hpp>
+#include <lattice/ActionNotifier.hpp>
 #include <lattice/Initialization.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/InputCreator.hpp>
