@@ -46,8 +46,8 @@ private:
 #define TALO_PLUGIN_LOAD_REPORT(name) static Kolt::LoadReport const taloLoadReport(#name)
 #endif
 
-/// Makes a library the plug-in `name`: `TALO_PLUGIN(name);` stands once, outside of any namespace, in one of its
-/// sources. `name` is an identifier and the name of the plug-in's file, as talo_add_plugin names it.
+/// Makes a library the plug-in `name`: one of its sources says `TALO_PLUGIN(name);` once, outside of any namespace.
+/// `name` is an identifier and the name of the plug-in's file, as talo_add_plugin names it.
 ///
 /// It defines the one exported function, which says whether the plug-in can work with the host `host`, which must not
 /// be null. The host finds the function by its name, which carries the date of the interface, and calls it once after
