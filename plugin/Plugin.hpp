@@ -22,8 +22,9 @@ inline int loadCallback(char const* plugin, void* /*module*/, unsigned long reas
 /// of them, when the file is closed and at the end of the process.
 class LoadReport {
 public:
-    /// The name is kept as a pointer.
+    /// Reports attach. `plugin` is kept as a pointer: a literal.
     explicit LoadReport(char const* plugin) : plugin_(plugin) { loadCallback(plugin_, nullptr, 1, nullptr); }
+    /// Reports detach.
     ~LoadReport() { loadCallback(plugin_, nullptr, 0, nullptr); }
     LoadReport(LoadReport const&) = delete;
     LoadReport& operator=(LoadReport const&) = delete;
@@ -35,6 +36,7 @@ private:
 } // namespace Kolt
 
 #ifdef _WIN32
+// Windows calls the load callback by itself.
 #define TALO_PLUGIN_EXPORT __declspec(dllexport)
 #define TALO_PLUGIN_LOAD_REPORT(name)                                                                                  \
     extern "C" int __stdcall DllMain(void* module, unsigned long reason, void* reserved) {                             \

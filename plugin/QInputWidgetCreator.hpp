@@ -28,7 +28,7 @@ public:
         this->addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new QCreator(*this)));
     }
 
-    /// The creator as the Qt front end sees it.
+    /// The creator as the Qt front end finds it: an interface of the creator, which owns it.
     class QCreator : public QInputCreator {
     public:
         /// `creator` owns this object.

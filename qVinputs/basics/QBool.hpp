@@ -34,6 +34,7 @@ private:
     /// Shows a bool without writing it; nothing for any other value.
     void showValue(ValuePtr const& value);
 
+    // A child; null if it was deleted.
     QPointer<QCheckBox> checkBox_;
 };
 

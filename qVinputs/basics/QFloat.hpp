@@ -97,9 +97,11 @@ private:
     /// Shows a number and writes it. The editor may be deleted meanwhile.
     void showAndWrite(double value);
 
+    // The controls are children; each pointer is null if its control was deleted or never made.
     QPointer<MyQSlider> slider_;
     QPointer<MyQDial> dial_;
     QPointer<QLeaveLineEdit> lineEdit_;
+    // The number of decimals.
     int precision_ = 6;
     // How many positions the control has.
     double resolution_ = 100000000.0;

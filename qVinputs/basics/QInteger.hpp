@@ -80,10 +80,12 @@ private:
     /// Shows a number and, if it is new, records an undo step and writes it.
     void showAndWrite(int value);
 
+    // The controls are children; each pointer is null if its control was deleted or never made.
     QPointer<QHBoxLayout> layout_;
     QPointer<QSlider> slider_;
     QPointer<QDial> dial_;
     QPointer<QLeaveLineEdit> lineEdit_;
+    // Whether the dial wraps as soon as its range has a width.
     bool periodic_ = false;
     // The number shown last. Without a pool no other object has it.
     int shown_ = 0;

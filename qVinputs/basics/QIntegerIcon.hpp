@@ -21,6 +21,7 @@ public:
     QWidget* widget() override { return this; }
 
 private:
+    /// Shows the changes of the parameter; the icon owns it.
     class LCDNotifier;
 
     /// Shows an int; nothing for any other value.

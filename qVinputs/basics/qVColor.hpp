@@ -54,6 +54,7 @@ private:
     /// Shows a colour without writing it; false for any other value.
     bool showValue(ValuePtr const& value);
 
+    // Owned by its parent; it owns this input.
     QPointer<qVColor> label_;
 };
 
@@ -96,6 +97,7 @@ protected:
 
 private:
     Tessera::WeakPtr<qVColorInput, ValueNotifier> const input_;
+    // A child, made with the label; null if it was deleted.
     QPointer<MyColorDialog> dialog_;
 };
 

@@ -42,6 +42,7 @@ private:
     /// Makes boxes for the cached switches that have none, and puts them and the order of the Tab key in place.
     void makeMissingBoxes();
 
+    // Null if it was deleted; then no box is added.
     QPointer<QVBoxLayout> layout_;
     // By the names of the switches; null for a box that was deleted.
     std::map<std::string, QPointer<QCheckBox>> boxes_;

@@ -7,8 +7,9 @@
 
 namespace Kolt {
 
-/// Shows an informational text in a label and never writes. Texts that look like rich text are shown as such. If the
-/// parameter was deleted, the label is empty. User-interface thread: the host must report changes there.
+/// Shows an informational text in a label and never writes. The text is UTF-8, of any length, in as many lines as it
+/// has. Texts that look like rich text are shown as such. If the parameter was deleted, the label is empty.
+/// User-interface thread: the host must report changes there.
 class qVInfo : public QLabel, public VInputValue<info> {
 public:
     /// Makes an editor of `parameter` on `parent`, which owns it and may be null. The editor refers to the parameter

@@ -41,7 +41,7 @@ public:
     class AllButton : public QPushButton {
     public:
         using QPushButton::QPushButton;
-        qVMultipleStringList* owner = nullptr;
+        qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
 
     protected:
         void mousePressEvent(QMouseEvent* event) override;
@@ -51,7 +51,7 @@ public:
     class NoneButton : public QPushButton {
     public:
         using QPushButton::QPushButton;
-        qVMultipleStringList* owner = nullptr;
+        qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
 
     protected:
         void mousePressEvent(QMouseEvent* event) override;
@@ -61,7 +61,7 @@ public:
     class InverseButton : public QPushButton {
     public:
         using QPushButton::QPushButton;
-        qVMultipleStringList* owner = nullptr;
+        qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
 
     protected:
         void mousePressEvent(QMouseEvent* event) override;
@@ -71,7 +71,7 @@ public:
     class MyQListWidget : public QListWidget {
     public:
         using QListWidget::QListWidget;
-        qVMultipleStringList* owner = nullptr;
+        qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
 
     protected:
         void mouseReleaseEvent(QMouseEvent* event) override;
@@ -125,6 +125,7 @@ private:
     /// Commits the cached choice. The editor may be deleted meanwhile.
     void commitChoice();
 
+    // The controls are children; each pointer is null if its control was deleted.
     QPointer<QHBoxLayout> layout_;
     QPointer<QVBoxLayout> buttonColumn_;
     QPointer<AllButton> allButton_;

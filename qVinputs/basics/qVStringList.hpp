@@ -39,6 +39,7 @@ private:
     /// Shows the texts of the cached list, which is not null, and the selected one.
     void fill();
 
+    // The layout and the box are children. The box is null if it was deleted.
     QHBoxLayout* layout_;
     QPointer<QComboBox> comboBox_;
 };
