@@ -22,8 +22,9 @@ inline int loadCallback(char const* plugin, void* /*module*/, unsigned long reas
 /// of them, when the file is closed and at the end of the process.
 class LoadReport {
 public:
-    /// The name is kept as a pointer.
+    /// Reports attach. `plugin` is kept as a pointer: a literal.
     explicit LoadReport(char const* plugin) : plugin_(plugin) { loadCallback(plugin_, nullptr, 1, nullptr); }
+    /// Reports detach.
     ~LoadReport() { loadCallback(plugin_, nullptr, 0, nullptr); }
     LoadReport(LoadReport const&) = delete;
     LoadReport& operator=(LoadReport const&) = delete;
@@ -35,6 +36,7 @@ private:
 } // namespace Kolt
 
 #ifdef _WIN32
+// Windows calls the load callback by itself.
 #define TALO_PLUGIN_EXPORT __declspec(dllexport)
 #define TALO_PLUGIN_LOAD_REPORT(name)                                                                                  \
     extern "C" int __stdcall DllMain(void* module, unsigned long reason, void* reserved) {                             \
@@ -46,8 +48,8 @@ private:
 #define TALO_PLUGIN_LOAD_REPORT(name) static Kolt::LoadReport const taloLoadReport(#name)
 #endif
 
-/// Makes a library the plug-in `name`: `TALO_PLUGIN(name);` stands once, outside of any namespace, in one of its
-/// sources. `name` is an identifier and the name of the plug-in's file, as talo_add_plugin names it.
+/// Makes a library the plug-in `name`: one of its sources says `TALO_PLUGIN(name);` once, outside of any namespace.
+/// `name` is an identifier and the name of the plug-in's file, as talo_add_plugin names it.
 ///
 /// It defines the one exported function, which says whether the plug-in can work with the host `host`, which must not
 /// be null. The host finds the function by its name, which carries the date of the interface, and calls it once after

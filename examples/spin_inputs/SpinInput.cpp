@@ -23,8 +23,7 @@ void SpinInput::onValueChange(ValuePtr const& newValue, VContext const& context,
 }
 
 void SpinInput::showValue(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
-    if (!typed || !typed->get(cached_))
+    if (!cacheStored(value))
         return;
     QSignalBlocker const blocker(this);
     QSpinBox::setValue(cached_);

@@ -14,14 +14,13 @@ namespace {
 constexpr int UndoWeight = 20;
 
 int sliderMaximumFor(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
-    int number = 0;
-    if (!typed || !typed->get(number))
+    auto const number = storedValueIn<int>(value);
+    if (!number)
         return 256;
-    if (number < 100)
+    if (*number < 100)
         return 100;
     constexpr int Largest = std::numeric_limits<int>::max();
-    return number > Largest / 2 ? Largest : 2 * number;
+    return *number > Largest / 2 ? Largest : 2 * *number;
 }
 
 } // namespace
@@ -42,7 +41,7 @@ bool IntegerUndo::undo() {
     if (!parameter || !input->setValue(context.pool(), std::string(), previous_, nullptr))
         return false;
     markValueChanged(*parameter, context.pool());
-    // The input is the source of the change, so nobody has told it.
+    // The input is the source of the change, so it was not notified.
     if (input)
         input->onValueChange(parameter->getLocalValue(context.pool(), std::string(), false), context, nullptr);
     return true;
@@ -143,7 +142,7 @@ void QInteger::showNumber(int value) {
 
 void QInteger::showAndWrite(int value) {
     showNumber(value);
-    // The second part: whoever is told of the step may move the control again before the number is written.
+    // The second part: a listener of the history may move the control again before the number is written.
     if (value == cached_ || value == recording_)
         return;
     auto const currentPool = pool();
@@ -195,26 +194,25 @@ void QInteger::textEnter() {
 }
 
 void QInteger::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
-    // These defaults differ from those of the construction: a range that somebody narrows is a percentage.
+    // These defaults differ from those of the construction: a range that is changed later is a percentage.
     if (properties)
         setRange(boundsOr<int>(properties, {0, 100}));
 
-    auto const* const typed = dynamic_cast<VValue<int> const*>(newValue.get());
-    int value = 0;
-    if (!typed || !typed->get(value))
+    auto const value = storedValueIn<int>(newValue);
+    if (!value)
         return;
     switch (arrivalOf(newValue, context)) {
     case Arrival::OtherPool:
-        // A step taken back in another pool was written through this input; the next edit starts from what is shown.
+        // An undo in another pool was written through this input; the next edit starts from what is shown.
         cached_ = shown_;
         break;
     case Arrival::Current:
-        cached_ = value;
-        showNumber(value);
+        cached_ = *value;
+        showNumber(*value);
         break;
     case Arrival::NotYetStored:
         if (owner())
-            showAndWrite(value);
+            showAndWrite(*value);
         break;
     }
 }

@@ -39,10 +39,8 @@ IntegerIcon::~IntegerIcon() {
 }
 
 void IntegerIcon::showValue(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
-    int number = 0;
-    if (typed && typed->get(number))
-        display(number);
+    if (auto const number = storedValueIn<int>(value))
+        display(*number);
 }
 
 QIntegerIconizer::QIntegerIconizer(VInputBase const& input) : parameter_(input.owner()) {}
