@@ -16,6 +16,8 @@ function(talo_library name)
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/talo>")
     target_compile_features(${name} PUBLIC cxx_std_17)
     target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE $<BUILD_INTERFACE:talo_compile>)
+    # Every header can be included by itself.
+    set_target_properties(${name} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
     set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
     if(arg_OUTPUT_NAME)
         set_target_properties(${name} PROPERTIES OUTPUT_NAME ${arg_OUTPUT_NAME})

@@ -1,4 +1,4 @@
-#include <bramble/Values.hpp>
+#include <bramble/FlagList.hpp>
 #include <network/ValueText.hpp>
 
 namespace Talo {

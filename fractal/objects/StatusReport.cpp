@@ -1,4 +1,4 @@
-#include <bramble/Values.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <fractal/objects/StatusReport.hpp>
 
 namespace Fractal {

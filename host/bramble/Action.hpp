@@ -2,7 +2,7 @@
 
 #include <functional>
 #include <lattice/Parameter.hpp>
-#include <lattice/ValueCreator.hpp>
+#include <lattice/Value.hpp>
 
 namespace Kolt {
 

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <string>
-#include <tessera/Interface.hpp>
+#include <tessera/Intercube.hpp>
+#include <tessera/MutableName.hpp>
 #include <typeinfo>
 
 namespace Kolt {

@@ -1,56 +1,12 @@
 #pragma once
 
+#include <lattice/ValueBase.hpp>
 #include <lattice/ValueTrait.hpp>
 #include <mutex>
-#include <tessera/Ageable.hpp>
-#include <tessera/Interface.hpp>
-#include <tessera/Reference.hpp>
+#include <optional>
+#include <typeinfo>
 
 namespace Kolt {
-
-class VManagedObject;
-class VManagedObjectBase;
-class VValueBase;
-
-using ValuePtr = Tessera::StrongPtr<VValueBase>;
-
-/// A value of some type, held by a parameter, a value pool or a property map, and shared by strong references. Its
-/// age stamp tells when it was last marked as changed; a plain store does not renew it.
-class VValueBase : public Tessera::ReferenceBase<VValueBase>, public Tessera::Ageable {
-public:
-    VValueBase();
-    ~VValueBase() override;
-    VValueBase(VValueBase const&) = delete;
-    VValueBase& operator=(VValueBase const&) = delete;
-
-    /// The type of the value.
-    virtual std::type_info const& valueType() const = 0;
-    /// The value as text, as VValueTrait writes it.
-    virtual std::string Text() const = 0;
-    /// Stores what the text says; false, and nothing stored, when it is no value of the type.
-    virtual bool setValueFromText(std::string const& text) = 0;
-    /// A new value object with a copy of the value. What the value refers to is cloned, so that in-place changes of
-    /// the one do not reach the other.
-    virtual ValuePtr clone() const = 0;
-    /// Whether the other is of the same type and stands for the same value.
-    virtual bool equals(VValueBase const& other) const = 0;
-    /// Stores a copy of the other's value; what that refers to is cloned. False, and nothing stored, when the other is
-    /// not of the same type or the store is refused.
-    virtual bool assign(VValueBase const& other) = 0;
-    /// An interface that the value carries; null unless a derived class has one.
-    virtual Tessera::StrongPtr<Tessera::InterfaceBase> getInterface() const;
-
-    /// The value that this one is a part of; empty for a value of its own.
-    void setContainerValue(Tessera::WeakPtr<VValueBase> const& container);
-    Tessera::WeakPtr<VValueBase> const& containerValue() const { return container_; }
-    /// The object that produced the value; empty when nobody said.
-    void setSource(Tessera::WeakPtr<VManagedObject, VManagedObjectBase> const& source);
-    Tessera::WeakPtr<VManagedObject, VManagedObjectBase> const& source() const { return source_; }
-
-private:
-    Tessera::WeakPtr<VValueBase> container_;
-    Tessera::WeakPtr<VManagedObject, VManagedObjectBase> source_;
-};
 
 /// A value that can be read and stored as a T, wherever it is kept. Both may be called on any thread.
 template <typename T>

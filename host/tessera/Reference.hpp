@@ -2,7 +2,8 @@
 
 #include <atomic>
 #include <cstddef>
-#include <string>
+#include <tessera/SpeakPtr.hpp>
+#include <tessera/Typename.hpp>
 #include <type_traits>
 #include <typeinfo>
 #include <utility>
@@ -29,28 +30,6 @@ inline unsigned long nextPointerID() {
     PointerID.store(id, std::memory_order_relaxed);
     return id;
 }
-
-/// Hears of odd lifetimes. The pointer templates report, a host listens: it derives a class and installs it. The
-/// speaker that stands at the start writes each report as one line to standard error.
-class SpeakPtr {
-public:
-    virtual ~SpeakPtr();
-
-    /// The installed speaker; never null.
-    static SpeakPtr& theSpeaker();
-    /// Installs `speaker`, which stays the caller's and must outlive its use; null brings the first speaker back.
-    static void setSpeaker(SpeakPtr* speaker);
-
-    /// A first strong reference was made while a constructor of the object still ran. `object` is the address the
-    /// reference was made from, `base` that of its counters.
-    virtual void SelfConstruction(std::type_info const& type, void const* object, void const* base);
-    /// An adopted object was deleted although `strong` strong references (and `weak` weak ones) still stood.
-    virtual void DestructionAssertion(int strong, int weak, std::type_info const& type);
-    /// The last strong reference went, but the object's reference hook took a new one: the object lives on.
-    virtual void DestructionCancelled(int strong, int weak, std::type_info const& type);
-    /// An object that strong references only watched until now was adopted by a further one.
-    virtual void WarningUnctionChange(int strong, int weak, std::type_info const& type);
-};
 
 class ReferenceCounted;
 
@@ -301,9 +280,5 @@ private:
         return StrongPtr<T, B>(typename StrongPtr<T, B>::Counted{}, object, control);
     }
 };
-
-/// The readable name of a type, as used in messages and as the key of a type: "bool", "std::string",
-/// "Tessera::StrongPtr<Kolt::VAction>". A copy, so it outlives the library that defined the type.
-std::string Typename(std::type_info const& type);
 
 } // namespace Tessera

@@ -38,4 +38,13 @@ private:
     std::vector<std::string> strings_;
 };
 
+/// Whether both are null, or both have the same texts in the same order.
+bool sameTexts(StrongPtr<StringList> const& left, StrongPtr<StringList> const& right);
+
+/// A clone of the list, as a reference to its class; null for a null list.
+template <typename List>
+StrongPtr<List, StringList> cloned(StrongPtr<List, StringList> const& list) {
+    return list ? StrongPtr<List, StringList>(DynPtr<List, StringList>(list->clone())) : nullptr;
+}
+
 } // namespace Tessera

@@ -1,6 +1,6 @@
 #include <algorithm>
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/MultipleStringSelection.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,6 +1,5 @@
 #include "NetworkFile.hpp"
 
-#include <bramble/Values.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 

@@ -2,7 +2,6 @@
 #include "contract/EditorCase.hpp"
 
 #include <algorithm>
-#include <bramble/Values.hpp>
 #include <lattice/InputCreator.hpp>
 #include <map>
 #include <network/ValueFormat.hpp>

@@ -1,5 +1,8 @@
 #include "support/TaloTest.hpp"
-#include <bramble/Selection.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/EnumSelection.hpp>
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/StringSelection.hpp>
 
 namespace {
 

@@ -1,5 +1,6 @@
 #include "support/TaloTest.hpp"
 #include <lattice/Parameter.hpp>
+#include <lattice/ValuePoolSource.hpp>
 
 namespace {
 

@@ -1,43 +1,10 @@
+#include <bramble/MultipleStringSelection.hpp>
+
 #include <algorithm>
-#include <bramble/Selection.hpp>
+#include <lattice/ValueCreator.hpp>
 #include <sstream>
 
 namespace Kolt {
-
-VEnumSelection::VEnumSelection() = default;
-
-VEnumSelection::VEnumSelection(std::vector<std::string> names) : StringList(std::move(names)) {}
-
-VEnumSelection::~VEnumSelection() = default;
-
-void VEnumSelection::select(unsigned number) {
-    if (number < size())
-        selected_ = static_cast<int>(number);
-}
-
-Tessera::StrongPtr<Tessera::StringList> VEnumSelection::clone() const {
-    return Tessera::StrongPtr<Tessera::StringList>(new VEnumSelection(*this));
-}
-
-StringSelection::StringSelection() = default;
-
-StringSelection::StringSelection(std::vector<std::string> strings, std::string const& selected)
-    : StringList(std::move(strings)) {
-    select(selected);
-}
-
-StringSelection::~StringSelection() = default;
-
-bool StringSelection::select(std::string const& text) {
-    if (!contains(text))
-        return false;
-    selected_ = text;
-    return true;
-}
-
-Tessera::StrongPtr<Tessera::StringList> StringSelection::clone() const {
-    return Tessera::StrongPtr<Tessera::StringList>(new StringSelection(*this));
-}
 
 MultipleStringSelection::MultipleStringSelection() = default;
 
@@ -116,70 +83,6 @@ Tessera::StrongPtr<Tessera::StringList> MultipleStringSelection::clone() const {
     return Tessera::StrongPtr<Tessera::StringList>(new MultipleStringSelection(*this));
 }
 
-namespace {
-
-/// A clone, as the class of the original; null for null.
-template <typename Selection>
-Tessera::StrongPtr<Selection, Tessera::StringList>
-cloned(Tessera::StrongPtr<Selection, Tessera::StringList> const& selection) {
-    if (!selection)
-        return nullptr;
-    return Tessera::DynPtr<Selection, Tessera::StringList>(selection->clone());
-}
-
-/// Whether both are null, or both have the same texts.
-template <typename List>
-bool sameTexts(List const& left, List const& right) {
-    return left && right ? left->strings() == right->strings() : !left && !right;
-}
-
-int selectedNumber(Enum const& value) {
-    auto const* const selection = dynamic_cast<VEnumSelection const*>(value.names().get());
-    return selection ? selection->selectedNumber() : -1;
-}
-
-} // namespace
-
-std::string VValueTrait<Enum>::Text(Enum const& value) {
-    int const number = selectedNumber(value);
-    return number < 0 ? std::string() : value.names()->at(static_cast<std::size_t>(number));
-}
-
-bool VValueTrait<Enum>::setValueFromText(Enum& value, std::string const& text) {
-    auto* const selection = dynamic_cast<VEnumSelection*>(value.names().get());
-    if (!selection)
-        return false;
-    auto const found = std::find(selection->begin(), selection->end(), text);
-    if (found == selection->end())
-        return false;
-    selection->select(static_cast<unsigned>(found - selection->begin()));
-    return true;
-}
-
-Enum VValueTrait<Enum>::Clone(Enum const& value) {
-    return Enum(cloned(value.names()));
-}
-
-bool VValueTrait<Enum>::Equal(Enum const& left, Enum const& right) {
-    return sameTexts(left.names(), right.names()) && selectedNumber(left) == selectedNumber(right);
-}
-
-std::string VValueTrait<VStringList>::Text(VStringList const& value) {
-    return value ? value->selected() : std::string();
-}
-
-bool VValueTrait<VStringList>::setValueFromText(VStringList& value, std::string const& text) {
-    return value && value->select(text);
-}
-
-VStringList VValueTrait<VStringList>::Clone(VStringList const& value) {
-    return cloned(value);
-}
-
-bool VValueTrait<VStringList>::Equal(VStringList const& left, VStringList const& right) {
-    return sameTexts(left, right) && (!left || left->selected() == right->selected());
-}
-
 std::string VValueTrait<VMultipleStringList>::Text(VMultipleStringList const& value) {
     std::string text;
     if (!value)
@@ -211,20 +114,23 @@ bool VValueTrait<VMultipleStringList>::setValueFromText(VMultipleStringList& val
 }
 
 VMultipleStringList VValueTrait<VMultipleStringList>::Clone(VMultipleStringList const& value) {
-    return cloned(value);
+    return Tessera::cloned(value);
 }
 
 bool VValueTrait<VMultipleStringList>::Equal(VMultipleStringList const& left, VMultipleStringList const& right) {
-    return sameTexts(left, right) && (!left || std::all_of(left->begin(), left->end(), [&](auto const& text) {
+    return Tessera::sameTexts(left, right) && (!left || std::all_of(left->begin(), left->end(), [&](auto const& text) {
                return left->isInSelection(text) == right->isInSelection(text);
            }));
 }
 
-template class VTypedValueBase<Enum>;
-template class VTypedValueBase<VStringList>;
 template class VTypedValueBase<VMultipleStringList>;
-template class VValue<Enum>;
-template class VValue<VStringList>;
 template class VValue<VMultipleStringList>;
+
+namespace {
+
+// Makes the type known while the library loads.
+[[maybe_unused]] bool const registered = (registerValueCreatorOnce<VMultipleStringList>(), true);
+
+} // namespace
 
 } // namespace Kolt

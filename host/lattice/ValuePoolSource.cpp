@@ -1,0 +1,13 @@
+#include <lattice/ValuePoolSource.hpp>
+
+namespace Kolt {
+
+void ValuePoolSource::referenceHook() {}
+
+ValuePoolSource::~ValuePoolSource() = default;
+
+PoolPtr currentPool(ValuePoolSource const* source) {
+    return source ? currentPool(source->getValuePoolProvider()) : nullptr;
+}
+
+} // namespace Kolt
