@@ -6,10 +6,10 @@ namespace Kolt {
 
 /// The circumstances of a change: the pool in which it happened. A context lives as long as one notification; what is
 /// kept beyond it is the addendum. One thread at a time.
-class VContext {
+class TALO_EXPORT VContext {
 public:
     /// The part of a context that others may keep.
-    class Addendum : public Tessera::ReferenceBase<Addendum> {
+    class TALO_EXPORT Addendum : public Tessera::ReferenceBase<Addendum> {
     public:
         explicit Addendum(PoolPtr const& pool);
         ~Addendum() override;

@@ -17,7 +17,7 @@ using ValuePtr = Tessera::StrongPtr<VValueBase>;
 ///
 /// The value may be read and stored on any thread, if the derived class says so; the container and the source are set
 /// and read by one thread at a time. Nothing is printed, and nobody is notified of a store.
-class VValueBase : public Tessera::ReferenceBase<VValueBase>, public Tessera::Ageable {
+class TALO_EXPORT VValueBase : public Tessera::ReferenceBase<VValueBase>, public Tessera::Ageable {
 public:
     VValueBase();
     ~VValueBase() override;

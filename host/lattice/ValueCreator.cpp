@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <lattice/Initialization.hpp>
+#include <tessera/MakeStrong.hpp>
+#include <tessera/NoDestructor.hpp>
 #include <vector>
 
 namespace Kolt {
@@ -14,23 +16,17 @@ struct KnownValueCreator {
 };
 
 template <typename T>
-void addOwnCreator(std::vector<KnownValueCreator>& known) {
-    static auto* const creator = new TypedValueCreator<T>;
-    known.push_back({Tessera::Typename(typeid(T)), Tessera::WeakPtr<VValueCreator>(creator)});
+KnownValueCreator ownCreator() {
+    static Tessera::NoDestructor<TypedValueCreator<T>> creator;
+    return {Tessera::Typename(typeid(T)), Tessera::watch<VValueCreator>(creator.get())};
 }
 
 // Immortal: a plug-in may still come and go after the statics of this library.
 std::vector<KnownValueCreator>& knownValueCreators() {
-    static auto& known = *[] {
-        auto* const made = new std::vector<KnownValueCreator>;
-        addOwnCreator<bool>(*made);
-        addOwnCreator<int>(*made);
-        addOwnCreator<double>(*made);
-        addOwnCreator<std::string>(*made);
-        addOwnCreator<std::array<std::string, 1>>(*made);
-        return made;
-    }();
-    return known;
+    static Tessera::NoDestructor<std::vector<KnownValueCreator>> known(
+        std::vector<KnownValueCreator>{ownCreator<bool>(), ownCreator<int>(), ownCreator<double>(),
+                                       ownCreator<std::string>(), ownCreator<std::array<std::string, 1>>()});
+    return *known;
 }
 
 } // namespace

@@ -7,7 +7,7 @@ namespace Kolt {
 
 /// Named values, ordered by name: the properties of a parameter. Copies of a map share the value objects.
 /// User-interface thread. Prints nothing.
-class ValueMap {
+class TALO_EXPORT ValueMap {
 public:
     using Map = std::map<std::string, ValuePtr>;
 

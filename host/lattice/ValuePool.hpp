@@ -7,7 +7,7 @@ namespace Kolt {
 
 /// The context in which a parameter has a value: one parameter can have different values in different pools. Pools
 /// are distinguished by their identity; the name is for people and need not be unique. User-interface thread.
-class ValuePool : public Tessera::ReferenceBase<ValuePool> {
+class TALO_EXPORT ValuePool : public Tessera::ReferenceBase<ValuePool> {
 public:
     explicit ValuePool(std::string name = {});
     ~ValuePool() override;

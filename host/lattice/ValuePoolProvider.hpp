@@ -6,7 +6,7 @@ namespace Kolt {
 
 /// Yields the current value pool. Which pool that is may change at any time, so callers ask again for each use.
 /// User-interface thread.
-class ValuePoolProvider : public Tessera::ReferenceBase<ValuePoolProvider> {
+class TALO_EXPORT ValuePoolProvider : public Tessera::ReferenceBase<ValuePoolProvider> {
 public:
     ~ValuePoolProvider() override;
 
@@ -15,6 +15,6 @@ public:
 };
 
 /// The provider's current pool; null for a null provider.
-PoolPtr currentPool(Tessera::StrongPtr<ValuePoolProvider> const& provider);
+TALO_EXPORT PoolPtr currentPool(Tessera::StrongPtr<ValuePoolProvider> const& provider);
 
 } // namespace Kolt

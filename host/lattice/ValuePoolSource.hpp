@@ -6,7 +6,7 @@ namespace Kolt {
 
 /// Where an editor finds its value pool. The panel owns it; it must outlive the editors made with it. User-interface
 /// thread.
-class ValuePoolSource {
+class TALO_EXPORT ValuePoolSource {
 public:
     /// Empty, and called by nobody in this library. Keeps the request for the provider third in the virtual table,
     /// where plug-ins expect it.
@@ -17,6 +17,6 @@ public:
 };
 
 /// The pool that the source yields at this moment; null for a null source, provider or pool.
-PoolPtr currentPool(ValuePoolSource const* source);
+TALO_EXPORT PoolPtr currentPool(ValuePoolSource const* source);
 
 } // namespace Kolt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tessera/Export.hpp>
 #include <tessera/Interface.hpp>
 #include <vector>
 
@@ -7,7 +8,7 @@ namespace Tessera {
 
 /// An object that carries typed interfaces and keeps them alive. User-interface thread, or the loading thread while a
 /// library loads. Prints nothing.
-class Intercube {
+class TALO_EXPORT Intercube {
 public:
     virtual ~Intercube();
 

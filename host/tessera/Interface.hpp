@@ -7,7 +7,7 @@ namespace Tessera {
 
 /// Something that can be attached to an Intercube and found there by its type. The carrier keeps it alive.
 /// User-interface thread, or the loading thread while a library loads. Prints nothing.
-class InterfaceBase : public ReferenceBase<InterfaceBase> {
+class TALO_EXPORT InterfaceBase : public ReferenceBase<InterfaceBase> {
 public:
     ~InterfaceBase() override;
 

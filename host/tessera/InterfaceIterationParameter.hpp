@@ -9,7 +9,7 @@ class Intercube;
 
 /// A visitor of the interfaces of an object. One visitor is handed from interface to interface, so that it can collect
 /// what it finds. User-interface thread, or the loading thread while a library loads. Prints nothing.
-class InterfaceIterationParameter : public ReferenceBase<InterfaceIterationParameter> {
+class TALO_EXPORT InterfaceIterationParameter : public ReferenceBase<InterfaceIterationParameter> {
 public:
     ~InterfaceIterationParameter() override;
 

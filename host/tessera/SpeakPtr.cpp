@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cstdio>
+#include <tessera/NoDestructor.hpp>
 #include <tessera/Typename.hpp>
 
 namespace Tessera {
@@ -19,8 +20,8 @@ void report(char const* what, std::type_info const& type) {
 SpeakPtr::~SpeakPtr() = default;
 
 SpeakPtr& SpeakPtr::theSpeaker() {
-    // Never destroyed: objects may still go after the statics of this library.
-    static auto* const firstSpeaker = new SpeakPtr;
+    // Never destroyed: objects may be destroyed after the statics of this library.
+    static NoDestructor<SpeakPtr> firstSpeaker;
     auto* const speaker = installedSpeaker.load();
     return speaker ? *speaker : *firstSpeaker;
 }

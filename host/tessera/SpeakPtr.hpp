@@ -1,5 +1,6 @@
 #pragma once
 
+#include <tessera/Export.hpp>
 #include <typeinfo>
 
 namespace Tessera {
@@ -10,7 +11,7 @@ namespace Tessera {
 ///
 /// A report comes on the thread on which the reference was made or dropped, so a speaker must be safe on any thread.
 /// It must not make or drop references to the object of the report.
-class SpeakPtr {
+class TALO_EXPORT SpeakPtr {
 public:
     virtual ~SpeakPtr();
 

@@ -4,6 +4,7 @@
 #include <cxxabi.h>
 #include <memory>
 #include <mutex>
+#include <tessera/NoDestructor.hpp>
 #include <unordered_map>
 
 namespace Tessera {
@@ -46,10 +47,10 @@ std::string readableName(char const* mangled) {
 
 std::string Typename(std::type_info const& type) {
     // Immortal, as creators that are destroyed at the end of the process still ask.
-    static auto& mutex = *new std::mutex;
-    static auto& names = *new std::unordered_map<std::string, std::string>;
-    std::lock_guard const lock(mutex);
-    auto& name = names[type.name()];
+    static NoDestructor<std::mutex> mutex;
+    static NoDestructor<std::unordered_map<std::string, std::string>> names;
+    std::lock_guard const lock(*mutex);
+    auto& name = (*names)[type.name()];
     if (name.empty())
         name = readableName(type.name());
     return name;
