@@ -4,6 +4,7 @@
 #include <lattice/CreationPreferences.hpp>
 #include <lattice/ManagedObject.hpp>
 #include <lattice/Parameter.hpp>
+#include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
 
@@ -94,6 +95,7 @@ private:
         VCreationPreferences::Names preferences;
     };
 
+    friend Tessera::NoDestructor<InputRegistry>;
     InputRegistry() = default;
     // Null: whatever the parameter.
     InputChoice choose(std::string const& valueType, VCreationPreferences::Names const& wanted,

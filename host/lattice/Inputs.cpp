@@ -4,6 +4,7 @@
 #include <lattice/Input.hpp>
 #include <lattice/InputCreator.hpp>
 #include <lattice/ValueCreator.hpp>
+#include <tessera/NoDestructor.hpp>
 #include <tuple>
 
 namespace Kolt {
@@ -119,8 +120,8 @@ void reportRefusedRegistration(std::type_info const& creatorClass, std::type_inf
 }
 
 InputRegistry& InputRegistry::theRegistry() {
-    static auto& registry = *new InputRegistry;
-    return registry;
+    static Tessera::NoDestructor<InputRegistry> registry;
+    return *registry;
 }
 
 std::vector<InputRegistry::Entry> InputRegistry::entries() const {
@@ -134,12 +135,12 @@ std::vector<InputRegistry::Entry> InputRegistry::entries() const {
 
 VCreationPreferences::Names InputRegistry::wantedPreferences(VParameter const& parameter,
                                                              VCreationPreferences::Names const& frontEnd) {
-    static auto const& textType = *new std::string(Tessera::Typename(typeid(std::string)));
+    static Tessera::NoDestructor<std::string const> textType(Tessera::Typename(typeid(std::string)));
     auto wanted = frontEnd;
     auto const& own = parameter.creationPreferences();
     if (own && !own->names().empty())
         wanted.insert(own->names().begin(), own->names().end());
-    else if (parameter.declaredType() == textType)
+    else if (parameter.declaredType() == *textType)
         wanted.insert(VValueTrait<std::string>::OneLine());
     return wanted;
 }
@@ -231,7 +232,7 @@ HostObserver*& installedObserver() {
 } // namespace
 
 HostObserver& HostObserver::theObserver() {
-    static auto* const nobody = new HostObserver;
+    static Tessera::NoDestructor<HostObserver> nobody;
     auto* const observer = installedObserver();
     return observer ? *observer : *nobody;
 }

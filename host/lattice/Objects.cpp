@@ -6,6 +6,7 @@
 #include <lattice/Scheduler.hpp>
 #include <limits>
 #include <map>
+#include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
 
@@ -13,8 +14,8 @@ namespace {
 
 // The lists below are immortal: plug-ins come and go after the statics of this library.
 std::vector<VActionNotifier*>& actionNotifiers() {
-    static auto& notifiers = *new std::vector<VActionNotifier*>;
-    return notifiers;
+    static Tessera::NoDestructor<std::vector<VActionNotifier*>> notifiers;
+    return *notifiers;
 }
 
 struct Managed {
@@ -23,8 +24,8 @@ struct Managed {
 };
 
 std::vector<Managed>& managedObjects() {
-    static auto& objects = *new std::vector<Managed>;
-    return objects;
+    static Tessera::NoDestructor<std::vector<Managed>> objects;
+    return *objects;
 }
 
 struct Waiting {
@@ -40,8 +41,8 @@ struct Queue {
 };
 
 Queue& queue() {
-    static auto& waiting = *new Queue;
-    return waiting;
+    static Tessera::NoDestructor<Queue> waiting;
+    return *waiting;
 }
 
 } // namespace

@@ -15,8 +15,8 @@ private:
 };
 
 UndoHistory& UndoHistory::theHistory() {
-    static auto& history = *new UndoHistory;
-    return history;
+    static Tessera::NoDestructor<UndoHistory> history;
+    return *history;
 }
 
 void UndoHistory::add(Tessera::StrongPtr<VUndoAction> const& action, int weight, ParameterRef const& parameter) {

@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <set>
+#include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
 
@@ -75,6 +76,7 @@ private:
     using OwnStep = std::shared_ptr<UndoStep>;
     class Restoring;
 
+    friend Tessera::NoDestructor<UndoHistory>;
     UndoHistory() = default;
     /// The step that takes what is recorded now: that of the open gesture, or a new one.
     UndoStep& currentStep();

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <lattice/ValueNotifier.hpp>
+#include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
 
@@ -29,8 +30,8 @@ namespace {
 
 // Immortal: notifiers of a library may go after the statics of this one.
 std::mutex& livingMutex() {
-    static auto& mutex = *new std::mutex;
-    return mutex;
+    static Tessera::NoDestructor<std::mutex> mutex;
+    return *mutex;
 }
 
 // The first of the chain of all that live.
