@@ -1,6 +1,5 @@
 #include <bramble/Enum.hpp>
 
-#include <algorithm>
 #include <bramble/EnumSelection.hpp>
 #include <lattice/ValueCreator.hpp>
 
@@ -24,10 +23,10 @@ bool VValueTrait<Enum>::setValueFromText(Enum& value, std::string const& text) {
     auto* const selection = dynamic_cast<VEnumSelection*>(value.names().get());
     if (!selection)
         return false;
-    auto const found = std::find(selection->begin(), selection->end(), text);
-    if (found == selection->end())
+    auto const place = selection->find(text);
+    if (place == selection->size())
         return false;
-    selection->select(static_cast<unsigned>(found - selection->begin()));
+    selection->select(static_cast<unsigned>(place));
     return true;
 }
 
@@ -36,7 +35,7 @@ Enum VValueTrait<Enum>::Clone(Enum const& value) {
 }
 
 bool VValueTrait<Enum>::Equal(Enum const& left, Enum const& right) {
-    return Tessera::sameTexts(left.names(), right.names()) && selectedNumber(left) == selectedNumber(right);
+    return Tessera::sameTexts(left.names().get(), right.names().get()) && selectedNumber(left) == selectedNumber(right);
 }
 
 template class VTypedValueBase<Enum>;

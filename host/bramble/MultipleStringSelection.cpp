@@ -1,6 +1,5 @@
 #include <bramble/MultipleStringSelection.hpp>
 
-#include <algorithm>
 #include <lattice/ValueCreator.hpp>
 #include <sstream>
 
@@ -9,32 +8,19 @@ namespace Kolt {
 MultipleStringSelection::MultipleStringSelection() = default;
 
 MultipleStringSelection::MultipleStringSelection(std::vector<std::string> strings)
-    : StringList(std::move(strings)), chosen_(size()) {
-    indexTexts();
-}
+    : StringList(std::move(strings)), chosen_(size()) {}
 
-MultipleStringSelection::MultipleStringSelection(MultipleStringSelection const& other)
-    : StringList(other), chosen_(other.chosen_) {
-    indexTexts();
-}
+MultipleStringSelection::MultipleStringSelection(MultipleStringSelection const&) = default;
 
 MultipleStringSelection::~MultipleStringSelection() = default;
 
-void MultipleStringSelection::indexTexts() {
-    places_.reserve(size());
-    firstPlaces_.reserve(size());
-    for (auto const& text : *this)
-        firstPlaces_.push_back(places_.emplace(text, firstPlaces_.size()).first->second);
-}
-
 std::size_t MultipleStringSelection::firstPlace(std::string const& text) const {
     if (nextPlace_ < size() && strings()[nextPlace_] == text)
-        return firstPlaces_[nextPlace_++];
-    auto const found = places_.find(text);
-    if (found == places_.end())
-        return size();
-    nextPlace_ = found->second + 1;
-    return found->second;
+        return block().firstPlace(nextPlace_++);
+    auto const place = find(text);
+    if (place < size())
+        nextPlace_ = place + 1;
+    return place;
 }
 
 void MultipleStringSelection::add(std::string const& text) {
@@ -75,8 +61,18 @@ void MultipleStringSelection::removeAll() {
 std::size_t MultipleStringSelection::chosenCount() const {
     std::size_t count = 0;
     for (std::size_t place = 0; place < size(); ++place)
-        count += firstPlaces_[place] == place && chosen_[place] ? 1 : 0;
+        count += chosen_[place] && block().firstPlace(place) == place ? 1 : 0;
     return count;
+}
+
+bool MultipleStringSelection::hasSameChoice(MultipleStringSelection const& other) const {
+    if (!hasSameTexts(other))
+        return false;
+    for (std::size_t place = 0; place < size(); ++place) {
+        if (chosen_[place] != other.chosen_[place] && block().firstPlace(place) == place)
+            return false;
+    }
+    return true;
 }
 
 Tessera::StrongPtr<Tessera::StringList> MultipleStringSelection::clone() const {
@@ -118,9 +114,7 @@ VMultipleStringList VValueTrait<VMultipleStringList>::Clone(VMultipleStringList 
 }
 
 bool VValueTrait<VMultipleStringList>::Equal(VMultipleStringList const& left, VMultipleStringList const& right) {
-    return Tessera::sameTexts(left, right) && (!left || std::all_of(left->begin(), left->end(), [&](auto const& text) {
-               return left->isInSelection(text) == right->isInSelection(text);
-           }));
+    return left && right ? left->hasSameChoice(*right) : !left && !right;
 }
 
 template class VTypedValueBase<VMultipleStringList>;

@@ -8,7 +8,9 @@ StringSelection::StringSelection() = default;
 
 StringSelection::StringSelection(std::vector<std::string> strings, std::string const& selected)
     : StringList(std::move(strings)) {
-    select(selected);
+    // Without a choice the list is not searched, so its index is not built.
+    if (!selected.empty())
+        select(selected);
 }
 
 StringSelection::~StringSelection() = default;
@@ -37,7 +39,7 @@ VStringList VValueTrait<VStringList>::Clone(VStringList const& value) {
 }
 
 bool VValueTrait<VStringList>::Equal(VStringList const& left, VStringList const& right) {
-    return Tessera::sameTexts(left, right) && (!left || left->selected() == right->selected());
+    return Tessera::sameTexts(left.get(), right.get()) && (!left || left->selected() == right->selected());
 }
 
 template class VTypedValueBase<VStringList>;

@@ -5,17 +5,23 @@
 
 namespace Kolt {
 
-/// A list of texts with one selected text. Changed in place like VEnumSelection.
-class StringSelection : public Tessera::StringList {
+/// A list of texts with at most one selected text.
+///
+/// Values refer to a selection, and it is changed in place: all that share it see the change at once, and it notifies
+/// nobody by itself. User-interface thread. Prints nothing.
+class TALO_EXPORT StringSelection : public Tessera::StringList {
 public:
+    /// An empty list.
     StringSelection();
+    /// A list with one text selected; none is selected if `selected` is not in the list.
     explicit StringSelection(std::vector<std::string> strings, std::string const& selected = {});
     ~StringSelection() override;
 
-    /// Selects a text of the list; any other is refused: false, and nothing changes.
+    /// Selects a text of the list. Returns false, and changes nothing, for any other text.
     bool select(std::string const& text);
-    /// The selected text; empty until one was selected.
+    /// The selected text; empty until one is selected.
     std::string const& selected() const { return selected_; }
+    /// Another selection with the same texts and the same one selected.
     Tessera::StrongPtr<Tessera::StringList> clone() const override;
 
 private:
@@ -26,17 +32,20 @@ private:
 /// The name under which the selection is known as a value type.
 using VStringList = Tessera::StrongPtr<StringSelection, Tessera::StringList>;
 
-/// The text is the selected one; a text that is not in the list is refused. A clone has a selection of its own.
+/// How a selection is written and compared. Null has an empty text and is never set from one.
 template <>
-struct VValueTrait<VStringList> {
+struct TALO_EXPORT VValueTrait<VStringList> {
+    /// The selected text.
     static std::string Text(VStringList const& value);
+    /// Selects the text. Returns false, and changes nothing, if it is not in the list.
     static bool setValueFromText(VStringList& value, std::string const& text);
+    /// A selection of its own that shares the texts.
     static VStringList Clone(VStringList const& value);
-    /// The same texts with the same one selected.
+    /// Whether both have the same texts and selected the same one, or both are null.
     static bool Equal(VStringList const& left, VStringList const& right);
 };
 
-extern template class VTypedValueBase<VStringList>;
-extern template class VValue<VStringList>;
+extern template class TALO_EXPORT VTypedValueBase<VStringList>;
+extern template class TALO_EXPORT VValue<VStringList>;
 
 } // namespace Kolt

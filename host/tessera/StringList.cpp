@@ -1,21 +1,24 @@
 #include <tessera/StringList.hpp>
 
-#include <algorithm>
-
 namespace Tessera {
+
+StringList::StringList() : StringList(std::vector<std::string>()) {}
+
+StringList::StringList(std::vector<std::string> strings)
+    : block_(std::make_shared<StringBlock const>(std::move(strings))) {}
 
 StringList::~StringList() = default;
 
-bool StringList::contains(std::string const& text) const {
-    return std::find(strings_.begin(), strings_.end(), text) != strings_.end();
+bool StringList::hasSameTexts(StringList const& other) const {
+    return block_ == other.block_ || strings() == other.strings();
 }
 
 StrongPtr<StringList> StringList::clone() const {
     return StrongPtr<StringList>(new StringList(*this));
 }
 
-bool sameTexts(StrongPtr<StringList> const& left, StrongPtr<StringList> const& right) {
-    return left && right ? left->strings() == right->strings() : !left && !right;
+bool sameTexts(StringList const* left, StringList const* right) {
+    return left && right ? left->hasSameTexts(*right) : left == right;
 }
 
 } // namespace Tessera
