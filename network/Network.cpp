@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <bramble/Values.hpp>
 #include <network/NetworkReader.hpp>
 #include <network/PropertyFormat.hpp>
 #include <network/ValueFormat.hpp>

@@ -1,7 +1,13 @@
 #include <algorithm>
 #include <bramble/Action.hpp>
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/EnumSelection.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/ObjectStatus.hpp>
+#include <bramble/StringSelection.hpp>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -19,25 +25,17 @@ using Entries = ValueFormat::Entries;
 using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
 using StringArray = std::array<std::string, 1>;
 
-/// The T in a value object; nothing for an object of another type.
-template <typename T>
-std::optional<T> contentOf(Kolt::ValuePtr const& value) {
-    T content{};
-    auto const* const typed = dynamic_cast<Kolt::VTypedValueBase<T> const*>(value.get());
-    return typed && typed->get(content) ? std::optional<T>(content) : std::nullopt;
-}
-
 /// The content of a value object as JSON by `write`; undefined for an object of another type.
 template <typename T, typename Write>
 QJsonValue written(Kolt::ValuePtr const& value, Write const& write) {
-    auto const content = contentOf<T>(value);
+    auto const content = Kolt::valueIn<T>(value);
     return content ? QJsonValue(write(*content)) : QJsonValue(QJsonValue::Undefined);
 }
 
 template <typename T>
 void copyContent(Kolt::ValuePtr const& from, Kolt::ValuePtr const& to) {
-    auto const content = contentOf<T>(from);
-    auto* const target = dynamic_cast<Kolt::VTypedValueBase<T>*>(to.get());
+    auto const content = Kolt::valueIn<T>(from);
+    auto* const target = Kolt::typedValue<T>(to.get());
     if (content && target)
         target->set(*content);
 }
@@ -227,8 +225,8 @@ Kolt::ValuePtr readStringArray(JsonNode const& node, Entries const&) {
 }
 
 QJsonValue writeStringArray(Kolt::ValuePtr const& value) {
-    auto const array = contentOf<StringArray>(value);
-    auto const text = array ? std::optional<std::string>(array->front()) : contentOf<std::string>(value);
+    auto const array = Kolt::valueIn<StringArray>(value);
+    auto const text = array ? std::optional<std::string>(array->front()) : Kolt::valueIn<std::string>(value);
     return text ? QJsonValue(QJsonArray{textToJson(*text)}) : QJsonValue(QJsonValue::Undefined);
 }
 
@@ -281,11 +279,11 @@ QString ValueFormat::keys() {
 
 ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value) {
     Tessera::StringList const* list = nullptr;
-    if (auto const choice = contentOf<Kolt::Enum>(value))
+    if (auto const choice = Kolt::valueIn<Kolt::Enum>(value))
         list = choice->names().get();
-    else if (auto const selection = contentOf<Kolt::VStringList>(value))
+    else if (auto const selection = Kolt::valueIn<Kolt::VStringList>(value))
         list = selection->get();
-    else if (auto const multiple = contentOf<Kolt::VMultipleStringList>(value))
+    else if (auto const multiple = Kolt::valueIn<Kolt::VMultipleStringList>(value))
         list = multiple->get();
     return list ? &list->strings() : nullptr;
 }

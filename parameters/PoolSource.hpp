@@ -1,6 +1,6 @@
 #pragma once
 
-#include <lattice/ValuePool.hpp>
+#include <lattice/ValuePoolSource.hpp>
 
 namespace Talo {
 

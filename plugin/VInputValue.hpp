@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <lattice/Input.hpp>
+#include <lattice/ValuePoolSource.hpp>
 #include <optional>
 
 namespace Kolt {

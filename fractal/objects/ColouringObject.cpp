@@ -1,5 +1,6 @@
 #include <algorithm>
-#include <bramble/Selection.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/StringSelection.hpp>
 #include <fractal/engine/GimpPalette.hpp>
 #include <fractal/objects/ColouringObject.hpp>
 #include <fractal/objects/EnumNames.hpp>

@@ -34,7 +34,7 @@ protected:
     template <typename T>
     QString readText(char const* parameter, Kolt::PoolPtr const& pool) const {
         auto const found = value(parameter, pool);
-        auto const* const typed = dynamic_cast<Kolt::VTypedValueBase<T> const*>(found.get());
+        auto const* const typed = Kolt::typedValue<T>(found.get());
         return typed ? QString::fromStdString(typed->Text()) : QString();
     }
 };

@@ -1,4 +1,4 @@
-#include <bramble/Selection.hpp>
+#include <bramble/Enum.hpp>
 #include <fractal/objects/EnumNames.hpp>
 #include <fractal/objects/FormulaObject.hpp>
 

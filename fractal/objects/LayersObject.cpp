@@ -1,4 +1,4 @@
-#include <bramble/Selection.hpp>
+#include <bramble/MultipleStringSelection.hpp>
 #include <fractal/objects/LayersObject.hpp>
 #include <QStringList>
 

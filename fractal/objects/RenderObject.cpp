@@ -1,4 +1,4 @@
-#include <bramble/Values.hpp>
+#include <bramble/Info.hpp>
 #include <fractal/objects/RenderObject.hpp>
 
 namespace Fractal {

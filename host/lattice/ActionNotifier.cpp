@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <tessera/NoDestructor.hpp>
 #include <vector>
 
 namespace Kolt {
@@ -10,8 +11,8 @@ namespace {
 
 // Never destroyed: plug-ins may be unloaded after the statics of this library are gone.
 std::vector<VActionNotifier*>& actionNotifiers() {
-    static auto& notifiers = *new std::vector<VActionNotifier*>;
-    return notifiers;
+    static Tessera::NoDestructor<std::vector<VActionNotifier*>> notifiers;
+    return *notifiers;
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include <lattice/HostObserver.hpp>
+#include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
 
@@ -24,7 +25,7 @@ HostObserver*& installedObserver() {
 } // namespace
 
 HostObserver& HostObserver::theObserver() {
-    static auto* const nobody = new HostObserver;
+    static Tessera::NoDestructor<HostObserver> nobody;
     auto* const observer = installedObserver();
     return observer ? *observer : *nobody;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <lattice/HostObserver.hpp>
+#include <tessera/NoDestructor.hpp>
 #include <tuple>
 
 namespace Kolt {
@@ -21,8 +22,8 @@ Rank rankOf(VInputCreatorBase const& creator, VCreationPreferences::Names const&
 } // namespace
 
 InputRegistry& InputRegistry::theRegistry() {
-    static auto& registry = *new InputRegistry;
-    return registry;
+    static Tessera::NoDestructor<InputRegistry> registry;
+    return *registry;
 }
 
 bool InputRegistry::add(std::type_info const& valueType, CreatorRef const& creator) {
@@ -65,12 +66,12 @@ std::vector<InputRegistry::Entry> InputRegistry::entries() const {
 
 VCreationPreferences::Names InputRegistry::wantedPreferences(VParameter const& parameter,
                                                              VCreationPreferences::Names const& frontEnd) {
-    static auto const& textType = *new std::string(Tessera::Typename(typeid(std::string)));
+    static Tessera::NoDestructor<std::string const> textType(Tessera::Typename(typeid(std::string)));
     auto wanted = frontEnd;
     auto const& own = parameter.creationPreferences();
     if (own && !own->names().empty())
         wanted.insert(own->names().begin(), own->names().end());
-    else if (parameter.declaredType() == textType)
+    else if (parameter.declaredType() == *textType)
         wanted.insert(VValueTrait<std::string>::OneLine());
     return wanted;
 }

@@ -3,6 +3,7 @@
 #include <lattice/InputCreator.hpp>
 #include <string>
 #include <tessera/Export.hpp>
+#include <tessera/NoDestructor.hpp>
 #include <vector>
 
 namespace Kolt {
@@ -50,6 +51,7 @@ private:
         VCreationPreferences::Names preferences;
     };
 
+    friend Tessera::NoDestructor<InputRegistry>;
     InputRegistry() = default;
     bool add(std::type_info const& valueType, CreatorRef const& creator);
     void remove(std::type_info const& valueType, CreatorRef const& creator);

@@ -1,6 +1,7 @@
 #include <lattice/ManagedObject.hpp>
 
 #include <map>
+#include <tessera/NoDestructor.hpp>
 #include <vector>
 
 namespace Kolt {
@@ -20,8 +21,8 @@ struct Registry {
 
 // Never destroyed: plug-ins may be unloaded after the statics of this library are gone.
 Registry& registry() {
-    static auto& all = *new Registry;
-    return all;
+    static Tessera::NoDestructor<Registry> all;
+    return *all;
 }
 
 } // namespace

@@ -2,7 +2,8 @@
 
 #include <string>
 #include <tessera/Export.hpp>
-#include <tessera/Interface.hpp>
+#include <tessera/Intercube.hpp>
+#include <tessera/MutableName.hpp>
 #include <typeinfo>
 
 namespace Kolt {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <lattice/UndoHistory.hpp>
 #include <lattice/ValueNotifier.hpp>
+#include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
 
@@ -28,8 +29,8 @@ std::filesystem::path pathOf(std::string const& file) {
 
 // Never destroyed: plug-ins may keep a pointer to it.
 VInitialization& plainHost() {
-    static auto& host = *new VInitialization;
-    return host;
+    static Tessera::NoDestructor<VInitialization> host;
+    return *host;
 }
 
 } // namespace

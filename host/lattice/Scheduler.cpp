@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <map>
+#include <tessera/NoDestructor.hpp>
 #include <vector>
 
 namespace Kolt {
@@ -23,8 +24,8 @@ struct Queue {
 
 // Never destroyed: plug-ins may use it after the statics of this library are gone.
 Queue& queue() {
-    static auto& waiting = *new Queue;
-    return waiting;
+    static Tessera::NoDestructor<Queue> waiting;
+    return *waiting;
 }
 
 } // namespace

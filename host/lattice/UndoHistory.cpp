@@ -1,6 +1,7 @@
 #include <lattice/UndoHistory.hpp>
 
 #include <algorithm>
+#include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
 
@@ -8,8 +9,8 @@ namespace {
 
 // Never destroyed: the default history is not, either.
 std::vector<UndoHistory*>& histories() {
-    static auto& all = *new std::vector<UndoHistory*>;
-    return all;
+    static Tessera::NoDestructor<std::vector<UndoHistory*>> all;
+    return *all;
 }
 
 } // namespace
@@ -44,8 +45,8 @@ UndoHistory::~UndoHistory() {
 }
 
 UndoHistory& UndoHistory::theHistory() {
-    static auto& history = *new UndoHistory;
-    return history;
+    static Tessera::NoDestructor<UndoHistory> history;
+    return *history;
 }
 
 std::vector<UndoHistory*> UndoHistory::living() {

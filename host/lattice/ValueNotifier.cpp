@@ -1,4 +1,5 @@
 #include <lattice/ValueNotifier.hpp>
+#include <tessera/NoDestructor.hpp>
 
 #include <algorithm>
 
@@ -30,8 +31,8 @@ namespace {
 
 // Never destroyed: notifiers of other libraries may be destroyed after the statics of this one.
 std::mutex& livingMutex() {
-    static auto& mutex = *new std::mutex;
-    return mutex;
+    static Tessera::NoDestructor<std::mutex> mutex;
+    return *mutex;
 }
 
 // The head of the linked list of all notifiers.

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <atomic>
+#include <lattice/Context.hpp>
 #include <lattice/Value.hpp>
 #include <lattice/ValueMap.hpp>
-#include <lattice/ValuePool.hpp>
 #include <memory>
 #include <tessera/Export.hpp>
+#include <tessera/Intercube.hpp>
 #include <vector>
 
 namespace Kolt {

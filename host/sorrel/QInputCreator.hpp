@@ -2,6 +2,7 @@
 
 #include <lattice/Input.hpp>
 #include <lattice/InputCreator.hpp>
+#include <lattice/ValuePoolSource.hpp>
 #include <QPointer>
 #include <QString>
 #include <QWidget>

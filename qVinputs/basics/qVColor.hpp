@@ -2,7 +2,7 @@
 
 #include <plugin/VInputValue.hpp>
 
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
 #include <lattice/CreationPreferences.hpp>
 #include <memory>
 #include <QColorDialog>

@@ -2,7 +2,7 @@
 
 #include <plugin/VInputValue.hpp>
 
-#include <bramble/Values.hpp>
+#include <bramble/FlagList.hpp>
 #include <lattice/CreationPreferences.hpp>
 #include <QCheckBox>
 #include <QFrame>

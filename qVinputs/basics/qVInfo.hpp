@@ -1,6 +1,6 @@
 #pragma once
 
-#include <bramble/Values.hpp>
+#include <bramble/Info.hpp>
 #include <lattice/CreationPreferences.hpp>
 #include <plugin/VInputValue.hpp>
 #include <QLabel>

@@ -145,7 +145,7 @@ void qVMultipleStringList::showValue(ValuePtr const& value) {
 }
 
 int qVMultipleStringList::widthOfTexts() {
-    bool const sameTexts = measured_ && (measured_ == cached_ || measured_->strings() == cached_->strings());
+    bool const sameTexts = measured_ && measured_->hasSameTexts(*cached_);
     if (!sameTexts || measuredFont_ != list_->font()) {
         measuredFont_ = list_->font();
         measuredWidth_ = 0;

@@ -2,7 +2,7 @@
 
 #include <plugin/VInputValue.hpp>
 
-#include <bramble/Selection.hpp>
+#include <bramble/MultipleStringSelection.hpp>
 #include <lattice/CreationPreferences.hpp>
 #include <QCheckBox>
 #include <QFont>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <bramble/Values.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <lattice/CreationPreferences.hpp>
 #include <mutex>
 #include <plugin/VInputValue.hpp>

@@ -2,7 +2,7 @@
 
 #include <plugin/VInputValue.hpp>
 
-#include <bramble/Selection.hpp>
+#include <bramble/StringSelection.hpp>
 #include <lattice/CreationPreferences.hpp>
 #include <QComboBox>
 #include <QFrame>

@@ -2,7 +2,8 @@
 
 #include <plugin/VInputValue.hpp>
 
-#include <bramble/Selection.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/EnumSelection.hpp>
 #include <lattice/CreationPreferences.hpp>
 #include <QGroupBox>
 #include <QPointer>

@@ -2,7 +2,8 @@
 #include "support/FileDialogs.hpp"
 
 #include <array>
-#include <bramble/Values.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <QDir>
 #include <QLabel>
 #include <QPushButton>

@@ -1,8 +1,7 @@
 #include "NetworkFile.hpp"
 
+#include <bramble/FlagList.hpp>
 #include <lattice/TypedParameter.hpp>
-
-#include <bramble/Values.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 

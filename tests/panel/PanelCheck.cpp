@@ -2,7 +2,7 @@
 #include "contract/EditorCase.hpp"
 
 #include <algorithm>
-#include <bramble/Values.hpp>
+#include <bramble/FlagList.hpp>
 #include <lattice/InputRegistry.hpp>
 #include <map>
 #include <network/ValueFormat.hpp>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SelectionTest.hpp"
+#include <bramble/MultipleStringSelection.hpp>
 
 #include <QCheckBox>
 #include <QLabel>

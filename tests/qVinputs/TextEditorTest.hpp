@@ -1,7 +1,6 @@
 #pragma once
 
 #include "support/TestHost.hpp"
-#include <bramble/Values.hpp>
 #include <QVBoxLayout>
 #include <random>
 

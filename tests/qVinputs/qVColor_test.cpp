@@ -1,6 +1,6 @@
 #include "support/TestHost.hpp"
 
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
 #include <cmath>
 #include <cstring>
 #include <limits>

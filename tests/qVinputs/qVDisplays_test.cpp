@@ -1,4 +1,6 @@
 #include "qVinputs/TextEditorTest.hpp"
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 
 #include <QLabel>
 #include <QMetaMethod>

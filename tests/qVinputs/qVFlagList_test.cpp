@@ -1,4 +1,5 @@
 #include "SelectionTest.hpp"
+#include <bramble/FlagList.hpp>
 
 #include <QCheckBox>
 #include <QFrame>

@@ -3,6 +3,7 @@
 // members go: the race that must be reported.
 
 #include <atomic>
+#include <bramble/ObjectStatus.hpp>
 #include <cstdio>
 #include <cstring>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "host/lattice/Recorder.hpp"
 #include "support/TaloTest.hpp"
-#include <bramble/Selection.hpp>
+#include <bramble/StringSelection.hpp>
 #include <lattice/EditRecorder.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/UndoHistory.hpp>

@@ -1,7 +1,11 @@
 #include "support/TaloTest.hpp"
 #include <bramble/Action.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <lattice/Parameter.hpp>
+#include <lattice/ValuePoolSource.hpp>
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include <lattice/InputCreator.hpp>
 #include <lattice/Scheduler.hpp>
 #include <lattice/ValueCreator.hpp>
+#include <lattice/ValuePoolSource.hpp>
 #include <type_traits>
 
 namespace {
