@@ -19,6 +19,9 @@ function(talo_library name)
     # Before 1.0 the interfaces may change with every minor version.
     set_target_properties(${name} PROPERTIES
         VERIFY_INTERFACE_HEADER_SETS ON
+        # Only what is marked with TALO_EXPORT is exported.
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
         INSTALL_RPATH "$ORIGIN")

@@ -6,6 +6,7 @@
 #include <memory>
 #include <QByteArray>
 #include <QString>
+#include <tessera/Export.hpp>
 #include <vector>
 
 class QJsonObject;
@@ -22,7 +23,7 @@ using ObjectFactory = std::function<Kolt::ObjectPtr(QString const& kind, QString
 /// have values. docs/network-files.md describes the format. The network owns objects and pools: they live until it is
 /// destroyed; a parameter also dies when it is removed from its object. User-interface thread. Prints nothing and
 /// throws nothing.
-class Network {
+class TALO_EXPORT Network {
 public:
     /// What came of a file: a network, or a null one and the reason as "FILE:LINE: what was expected, what was found".
     struct LoadResult {

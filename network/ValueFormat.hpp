@@ -3,12 +3,13 @@
 #include <lattice/Parameter.hpp>
 #include <network/JsonNode.hpp>
 #include <string>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Talo {
 
 /// How a network file writes the values of one type.
-struct ValueFormat {
+struct TALO_EXPORT ValueFormat {
     /// The texts among which a value chooses; empty for types that do not choose.
     using Entries = std::vector<std::string>;
 
@@ -35,9 +36,9 @@ struct ValueFormat {
 };
 
 /// The entries among which a value chooses; null when it refers to no list.
-ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value);
+TALO_EXPORT ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value);
 
 /// A number as JsonNode::real reads it.
-QJsonValue realToJson(double number);
+TALO_EXPORT QJsonValue realToJson(double number);
 
 } // namespace Talo

@@ -5,6 +5,7 @@
 #include <parameters/commands/UndoText.hpp>
 #include <QAction>
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
@@ -16,7 +17,7 @@ class RowArea;
 /// reached by Tab and has an accessible name. Any number of panels may show one object; they stay in step.
 ///
 /// The panel refers to the object weakly. User-interface thread.
-class ParameterPanel : public QWidget {
+class TALO_EXPORT ParameterPanel : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged)
     Q_PROPERTY(bool rawValuesShown READ rawValuesShown WRITE setRawValuesShown NOTIFY rawValuesShownChanged)

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <lattice/ValuePoolSource.hpp>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// A pool source whose pool the host chooses, for the editors, icons and raw values of a panel. It must outlive the
 /// editors made with it; icons share its provider. User-interface thread.
-class PoolSource : public Kolt::ValuePoolSource {
+class TALO_EXPORT PoolSource : public Kolt::ValuePoolSource {
 public:
     /// Without a pool at first.
     PoolSource();

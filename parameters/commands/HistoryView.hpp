@@ -3,6 +3,7 @@
 #include <lattice/UndoHistory.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <QListWidget>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Talo {
@@ -10,7 +11,7 @@ namespace Talo {
 /// The steps of the host's history as a list: first the start, then the steps, the latest last, then muted what was
 /// taken back. The current row is the state that holds; a click on a row, or Return, asks for the state of that row.
 /// User-interface thread.
-class HistoryView : public QListWidget {
+class TALO_EXPORT HistoryView : public QListWidget {
     Q_OBJECT
 
 public:

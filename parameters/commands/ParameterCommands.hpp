@@ -6,12 +6,13 @@
 #include <QAction>
 #include <QObject>
 #include <QPointer>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// The commands for the value of one parameter as actions with shortcuts, for a menu or a panel. They act on the row
 /// that has the focus, or had it before a menu took it. User-interface thread.
-class ParameterCommands : public QObject {
+class TALO_EXPORT ParameterCommands : public QObject {
     Q_OBJECT
 
 public:

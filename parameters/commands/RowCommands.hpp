@@ -3,6 +3,7 @@
 #include <lattice/Parameter.hpp>
 #include <QKeySequence>
 #include <QString>
+#include <tessera/Export.hpp>
 
 class QMenu;
 
@@ -11,7 +12,7 @@ namespace Talo {
 class ParameterRow;
 
 /// A command for the value of one parameter, as menus show it.
-struct RowCommand {
+struct TALO_EXPORT RowCommand {
     char const* name; ///< the object name of its actions: "resetValue"
     QString text;     ///< with the mark of its key
     QKeySequence shortcut;
@@ -24,20 +25,20 @@ struct RowCommand {
 };
 
 /// All commands for a value, in the order in which menus show them. In the language of the translations in force.
-std::vector<RowCommand> rowCommands();
+TALO_EXPORT std::vector<RowCommand> rowCommands();
 
 /// A context menu for a row with these commands. It belongs to the row.
-QMenu* makeRowMenu(ParameterRow& row);
+TALO_EXPORT QMenu* makeRowMenu(ParameterRow& row);
 
 /// Makes the default effective in a pool, as an undo step of the parameter's history. False if there is no default, or
 /// no place for it.
-[[nodiscard]] bool resetToDefault(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
+[[nodiscard]] TALO_EXPORT bool resetToDefault(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
 
 /// Puts what the parameter holds in the pool on the clipboard (ValueClipboard).
-void copyValue(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool);
+TALO_EXPORT void copyValue(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool);
 
 /// Makes the value on the clipboard effective in the pool, as an undo step. Returns the reason if it cannot be done, a
 /// sentence, else an empty text.
-[[nodiscard]] QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
+[[nodiscard]] TALO_EXPORT QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
 
 } // namespace Talo

@@ -6,11 +6,12 @@
 #include <parameters/input/InputFilter.hpp>
 #include <QAction>
 #include <QObject>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Undo and redo of a history as actions with shortcuts. Their texts name the step. User-interface thread.
-class UndoActions : public QObject {
+class TALO_EXPORT UndoActions : public QObject {
     Q_OBJECT
 
 public:

@@ -4,6 +4,7 @@
 #include <parameters/commands/UndoText.hpp>
 #include <QObject>
 #include <QUndoStack>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
@@ -12,7 +13,7 @@ namespace Talo {
 ///
 /// From then on the host undoes through the stack only, and does not clear or limit the stack while steps are in it.
 /// Clearing the history clears the stack. User-interface thread.
-class UndoStackAdapter : public QObject {
+class TALO_EXPORT UndoStackAdapter : public QObject {
     Q_OBJECT
 
 public:

@@ -2,12 +2,13 @@
 
 #include <lattice/UndoHistory.hpp>
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// A widget in which each gesture of the user is one undo step, as a row with an editor. A class derives from its Qt
 /// class first and from this second. User-interface thread.
-class GestureTarget {
+class TALO_EXPORT GestureTarget {
 public:
     GestureTarget() = default;
     virtual ~GestureTarget() = default;

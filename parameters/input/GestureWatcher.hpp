@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
@@ -22,7 +23,7 @@ namespace Talo {
 ///
 /// In a text field of a target the keys for undo and redo belong to the history; the field itself only undoes a text
 /// that was typed and is not written yet.
-class GestureWatcher : public QObject {
+class TALO_EXPORT GestureWatcher : public QObject {
     Q_OBJECT
 
 public:

@@ -3,13 +3,14 @@
 #include <memory>
 #include <parameters/input/GestureWatcher.hpp>
 #include <QObject>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// The one event filter that this library installs on the application. It passes events on to the gesture watcher and
 /// to the wheel guards. All panels and guards share it: it is made for the first of them and removed with the last one.
 /// User-interface thread, after the application object was made.
-class InputFilter : public QObject {
+class TALO_EXPORT InputFilter : public QObject {
     Q_OBJECT
 
 public:

@@ -3,6 +3,7 @@
 #include <memory>
 #include <QObject>
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
@@ -12,7 +13,7 @@ class InputFilter;
 /// the wheel scrolls the panel instead and does not give the editor the focus. Guards the widgets that the editor has
 /// now and those that it gets later, but not its windows (drop-down lists, dialogs). A child of the editor.
 /// User-interface thread.
-class WheelGuard : public QObject {
+class TALO_EXPORT WheelGuard : public QObject {
     Q_OBJECT
 
 public:

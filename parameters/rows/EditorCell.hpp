@@ -3,6 +3,7 @@
 #include <memory>
 #include <QWidget>
 #include <sorrel/InputFrontEnd.hpp>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Talo {
@@ -13,7 +14,7 @@ namespace Talo {
 ///
 /// The editor belongs to its parent widget; the cell may be destroyed before it. The parameter is referred to weakly.
 /// User-interface thread.
-class EditorCell {
+class TALO_EXPORT EditorCell {
 public:
     /// `pools` must outlive the editor.
     EditorCell(Kolt::ParameterRef parameter, Kolt::ValuePoolSource& pools);

@@ -2,13 +2,14 @@
 
 #include <lattice/Parameter.hpp>
 #include <QString>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Talo {
 
 /// In which order and sections a form shows parameters: in sections by the part of their names before the last dot, in
 /// order of their first parameter. Within a section parameters keep their order.
-struct FormPlan {
+struct TALO_EXPORT FormPlan {
     struct Row {
         Kolt::ParameterPtr parameter;
         QString name; ///< the whole name

@@ -8,6 +8,7 @@
 #include <parameters/rows/RawValueLabel.hpp>
 #include <QLabel>
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 class QHBoxLayout;
 class QMenu;
@@ -26,7 +27,7 @@ namespace Talo {
 /// (EditRecorder).
 ///
 /// The row refers to the parameter weakly and stays usable without it. User-interface thread.
-class ParameterRow : public QWidget, public GestureTarget, private Kolt::ValueNotifier {
+class TALO_EXPORT ParameterRow : public QWidget, public GestureTarget, private Kolt::ValueNotifier {
     Q_OBJECT
 
 public:

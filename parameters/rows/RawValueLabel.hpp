@@ -3,6 +3,7 @@
 #include <atomic>
 #include <lattice/Parameter.hpp>
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
@@ -11,7 +12,7 @@ namespace Talo {
 /// on the value, so that a change lays nothing out anew.
 ///
 /// Made on the user-interface thread; changes may be reported on any thread.
-class RawValueLabel : public QWidget, private Kolt::ValueNotifier {
+class TALO_EXPORT RawValueLabel : public QWidget, private Kolt::ValueNotifier {
     Q_OBJECT
 
 public:

@@ -7,6 +7,7 @@
 #include <parameters/rows/RowLayout.hpp>
 #include <QMargins>
 #include <set>
+#include <tessera/Export.hpp>
 #include <vector>
 
 class QGroupBox;
@@ -24,7 +25,7 @@ struct FormPlan;
 /// as well, as a multi-line text keeps Tab for itself.
 ///
 /// The parameters are referred to weakly; one that is deleted before its row was made has none. User-interface thread.
-class RowArea : public ContentArea {
+class TALO_EXPORT RowArea : public ContentArea {
     Q_OBJECT
 
 public:

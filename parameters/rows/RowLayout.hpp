@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Talo {
@@ -8,7 +9,7 @@ namespace Talo {
 /// Where the rows of a long form are: rows below each other, in sections. Most rows were never made; their height is
 /// estimated from rows of their height class. Knows no widgets. All lengths are in pixels; rows and sections are
 /// numbered from 0, and the rows of one section are consecutive.
-class RowLayout {
+class TALO_EXPORT RowLayout {
 public:
     /// The room that a section adds around its rows.
     struct SectionMargins {
