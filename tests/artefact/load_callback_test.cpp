@@ -39,7 +39,7 @@ TEST_F(LoadCallback, PassesTheThreadReasonsOn) {
     EXPECT_THAT(callsFor(3), ElementsAre("3 qtalo_inputs TALO_API_VERSION"));
 }
 
-TEST_F(LoadCallback, CallsNobodyForAnotherReasonAndStillSucceeds) {
+TEST_F(LoadCallback, CallsNothingForAnotherReasonAndStillSucceeds) {
     EXPECT_THAT(callsFor(4), IsEmpty());
     EXPECT_THAT(callsFor(5), IsEmpty());
     EXPECT_THAT(callsFor(std::numeric_limits<unsigned long>::max()), IsEmpty());

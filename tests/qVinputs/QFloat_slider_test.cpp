@@ -190,7 +190,7 @@ TEST_F(QFloatKeyTest, PlusWidensTheIntervalAndKeepsTheRangeOfTheControl) {
         EXPECT_EQ(otherControl->maximum(), 200);
         EXPECT_EQ(otherControl->value(), 200) << "the middle of a thousand million positions, clamped";
         EXPECT_DOUBLE_EQ(held(other), 200 * 2.0 / 1000000000 - 0.75);
-        // Where the handle stands at the end already, it does not move.
+        // If the handle is at the end already, it does not move.
         auto const before = held(other);
         QTest::keyClick(otherControl, pressed);
         EXPECT_EQ(held(other), before);

@@ -136,7 +136,7 @@ TEST_F(QFloatTest, ThePrecisionIsTheNumberOfDecimals) {
     setProperty(parameter, "precision", Kolt::makeValue(std::numeric_limits<int>::max()));
     EXPECT_EQ(text(open(parameter)).size(), 1002U);
     setProperty(parameter, "precision", Kolt::makeValue(3.0));
-    EXPECT_EQ(text(open(parameter)), "0.125000") << "a precision that is no whole number is not used";
+    EXPECT_EQ(text(open(parameter)), "0.125000") << "a precision that is no int is not used";
 }
 
 TEST_F(QFloatTest, TheFieldWidthPadsWhatIsNoNumber) {

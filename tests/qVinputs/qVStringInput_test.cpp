@@ -244,7 +244,7 @@ TEST_F(SingleLineText, ReportsOnceAnOwnerThatGoesDuringTheCommit) {
     EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
 }
 
-TEST_F(SingleLineText, MayBeDeletedByWhoeverIsTold) {
+TEST_F(SingleLineText, MayBeDeletedByAListener) {
     auto const parameter = makeText("abc");
     watch(parameter);
     QPointer<QLineEdit> const editor = edit(parameter);
@@ -255,7 +255,7 @@ TEST_F(SingleLineText, MayBeDeletedByWhoeverIsTold) {
     EXPECT_GT(parameter->ownValue()->age(), 0U);
 }
 
-TEST_F(SingleLineText, MayBeDeletedLaterWithItsPanelByWhoeverIsTold) {
+TEST_F(SingleLineText, MayBeDeletedLaterWithItsPanelByAListener) {
     auto parameter = makeText("");
     watch(parameter);
     QPointer<QLineEdit> const editor = edit(parameter);

@@ -195,7 +195,7 @@ TEST_F(FileName, MayBeDeletedWithItsPanelWhileItsDialogIsOpen) {
     }
 }
 
-TEST_F(FileName, MayBeDeletedByWhoeverIsToldAndSchedulesAllTheSame) {
+TEST_F(FileName, MayBeDeletedByAListenerAndSchedulesAllTheSame) {
     auto const parameter = makeText("");
     auto const object = makeObject("bound", parameter);
     watch(parameter);
