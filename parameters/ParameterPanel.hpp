@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lattice/Object.hpp>
+#include <lattice/ValuePoolSource.hpp>
 #include <memory>
 #include <parameters/commands/UndoText.hpp>
 #include <QAction>

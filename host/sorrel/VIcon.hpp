@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lattice/Object.hpp>
+#include <lattice/ValuePoolProvider.hpp>
 #include <QWidget>
 #include <tessera/Export.hpp>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <lattice/Object.hpp>
-#include <lattice/ValuePool.hpp>
+#include <lattice/ValuePoolSource.hpp>
 #include <QWidget>
 #include <set>
 #include <string>

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <lattice/Parameter.hpp>
+#include <lattice/ValuePoolSource.hpp>
 #include <QWidget>
 #include <tessera/Export.hpp>
 
