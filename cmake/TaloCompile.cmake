@@ -24,8 +24,10 @@ endif()
 
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-find_program(TALO_CCACHE ccache)
-if(TALO_CCACHE)
+if(PROJECT_IS_TOP_LEVEL)
+    find_program(TALO_CCACHE ccache)
+endif()
+if(TALO_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     # The base folder lets work trees share the cache; without the rest it does not serve sources that use the
     # precompiled header of the tests.
     set(CMAKE_CXX_COMPILER_LAUNCHER env "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}"

@@ -3,14 +3,15 @@
 #include <network/JsonNode.hpp>
 #include <network/Network.hpp>
 #include <QSet>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 class PropertyFormat;
 struct ValueFormat;
 
-/// Makes a network of the text of a network file. It is used for one text.
-class NetworkReader {
+/// Makes a network from the text of a network file.
+class TALO_EXPORT NetworkReader {
 public:
     /// The whole network; throws a FormatError when anything in the text is wrong. `file` says where relative paths
     /// start; it need not exist. The factory makes the objects; an empty one makes objects that do nothing.

@@ -3,12 +3,14 @@
 #include <lattice/Parameter.hpp>
 #include <network/JsonNode.hpp>
 #include <string>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Talo {
 
-/// How the values of one type stand in a network file.
-struct ValueFormat {
+/// How a network file writes the values of one type.
+struct TALO_EXPORT ValueFormat {
+    /// The texts among which a value chooses; empty for types that do not choose.
     using Entries = std::vector<std::string>;
 
     /// The type's key in the file.
@@ -17,8 +19,6 @@ struct ValueFormat {
     std::string typeName;
     /// Whether values choose among the entries of their parameter.
     bool choosesEntries;
-    /// Whether people edit values of the type; the others are shown, and told by objects, on any thread.
-    bool edited;
     /// A new value object; throws a FormatError for what is no value of the type.
     Kolt::ValuePtr (*read)(JsonNode const& node, Entries const& entries);
     /// The value as JSON; undefined when the object is not one that `read` makes, or holds a text that is not UTF-8.
@@ -27,20 +27,18 @@ struct ValueFormat {
     /// Stores the content of a value object that `read` made in another one of the same kind.
     void (*copy)(Kolt::ValuePtr const& from, Kolt::ValuePtr const& to);
 
-    /// The format of a key or of a readable type name; null for an unknown one. They live as long as the process.
+    /// The format of a key; null for an unknown one. Formats live as long as the process.
     static ValueFormat const* ofKey(QString const& key);
+    /// The format of a readable type name; null for an unknown one.
     static ValueFormat const* ofType(std::string const& typeName);
     /// The keys of all formats, for messages.
     static QString keys();
 };
 
 /// The entries among which a value chooses; null when it refers to no list.
-ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value);
-
-/// Whether people edit the values of the parameter. Not so where no network file can hold them.
-bool isEdited(Kolt::VParameter const& parameter);
+TALO_EXPORT ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value);
 
 /// A number as JsonNode::real reads it.
-QJsonValue realToJson(double number);
+TALO_EXPORT QJsonValue realToJson(double number);
 
 } // namespace Talo

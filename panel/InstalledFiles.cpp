@@ -20,8 +20,8 @@ QString firstThatExists(QStringList const& places) {
 } // namespace
 
 QString defaultNetworkFile() {
-    return firstThatExists({QStringLiteral("../../examples/fractal.json"),
-                            QStringLiteral(TALO_DATA_FROM_PROGRAM "/examples/fractal.json")});
+    return firstThatExists({QStringLiteral("../../examples/networks/fractal.json"),
+                            QStringLiteral(TALO_DATA_FROM_PROGRAM "/examples/networks/fractal.json")});
 }
 
 QString defaultPluginFile() {

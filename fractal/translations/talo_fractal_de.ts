@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Fractal::FractalController</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Nothing in this network computes a picture.</source>
+        <translation>Nichts in diesem Netz berechnet ein Bild.</translation>
+    </message>
+</context>
+<context>
     <name>Fractal::GimpPalette</name>
     <message>
         <source>expected %1, found %2</source>
@@ -98,17 +109,6 @@
     <message>
         <source>Preview</source>
         <translation>Vorschau</translation>
-    </message>
-</context>
-<context>
-    <name>Fractal::FractalController</name>
-    <message>
-        <source>Preview</source>
-        <translation>Vorschau</translation>
-    </message>
-    <message>
-        <source>Nothing in this network computes a picture.</source>
-        <translation>Nichts in diesem Netz berechnet ein Bild.</translation>
     </message>
 </context>
 <context>

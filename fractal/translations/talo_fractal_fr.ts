@@ -17,6 +17,17 @@
     </message>
 </context>
 <context>
+    <name>Fractal::FractalController</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Nothing in this network computes a picture.</source>
+        <translation>Rien dans ce réseau ne calcule d’image.</translation>
+    </message>
+</context>
+<context>
     <name>Fractal::GimpPalette</name>
     <message>
         <source>expected %1, found %2</source>
@@ -98,17 +109,6 @@
     <message>
         <source>Preview</source>
         <translation>Aperçu</translation>
-    </message>
-</context>
-<context>
-    <name>Fractal::FractalController</name>
-    <message>
-        <source>Preview</source>
-        <translation>Aperçu</translation>
-    </message>
-    <message>
-        <source>Nothing in this network computes a picture.</source>
-        <translation>Rien dans ce réseau ne calcule d’image.</translation>
     </message>
 </context>
 <context>

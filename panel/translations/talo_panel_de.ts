@@ -8,18 +8,6 @@
         <translation>Ein Bedienfeld für Netze von Objekten mit typisierten Parametern.</translation>
     </message>
     <message>
-        <source>The network to open; examples/fractal.json unless given.</source>
-        <translation>Das Netz, das geöffnet wird; ohne Angabe examples/fractal.json.</translation>
-    </message>
-    <message>
-        <source>Says how to start the program.</source>
-        <translation>Sagt, wie das Programm gestartet wird.</translation>
-    </message>
-    <message>
-        <source>Says which version this is.</source>
-        <translation>Sagt, welche Version dies ist.</translation>
-    </message>
-    <message>
         <source>Shows the object of this name.</source>
         <translation>Zeigt das Objekt dieses Namens.</translation>
     </message>
@@ -44,16 +32,8 @@
         <translation>Zeigt die Rohwerte neben den Editoren.</translation>
     </message>
     <message>
-        <source>Draws the panel into an image file, without a display, and ends.</source>
-        <translation>Zeichnet das Bedienfeld ohne Bildschirm in eine Bilddatei und endet.</translation>
-    </message>
-    <message>
         <source>FILE.png</source>
         <translation>DATEI.png</translation>
-    </message>
-    <message>
-        <source>Gives the panel this size, as in 1200x800.</source>
-        <translation>Gibt dem Bedienfeld diese Größe, etwa 1200x800.</translation>
     </message>
     <message>
         <source>WIDTHxHEIGHT</source>
@@ -68,20 +48,12 @@
         <translation>light|dark</translation>
     </message>
     <message>
-        <source>Draws everything larger by this factor, from 0.5 to 4.</source>
-        <translation>Zeichnet alles um diesen Faktor größer, von 0.5 bis 4.</translation>
-    </message>
-    <message>
         <source>FACTOR</source>
         <translation>FAKTOR</translation>
     </message>
     <message>
         <source>Lays the panel out from right to left.</source>
         <translation>Ordnet das Bedienfeld von rechts nach links an.</translation>
-    </message>
-    <message>
-        <source>Speaks this language instead of the system&apos;s, as in de or fr.</source>
-        <translation>Spricht diese Sprache statt der des Systems, etwa de oder fr.</translation>
     </message>
     <message>
         <source>LANGUAGE</source>
@@ -98,10 +70,6 @@
     <message>
         <source>STATE</source>
         <translation>ZUSTAND</translation>
-    </message>
-    <message>
-        <source>Neither brings the last session back nor keeps this one.</source>
-        <translation>Stellt die letzte Sitzung nicht wieder her und behält diese nicht.</translation>
     </message>
     <message>
         <source>Prints all values as JSON and ends.</source>
@@ -148,20 +116,141 @@
         <translation>--language erwartet eine Sprache wie de oder fr und fand „%1“.</translation>
     </message>
     <message>
-        <source>The gallery opens no network, so --%1 says nothing beside --gallery.</source>
-        <translation>Die Galerie öffnet kein Netz, also sagt --%1 neben --gallery nichts.</translation>
-    </message>
-    <message>
-        <source>The gallery opens no network, so %1 says nothing beside --gallery.</source>
-        <translation>Die Galerie öffnet kein Netz, also sagt %1 neben --gallery nichts.</translation>
-    </message>
-    <message>
         <source>--state wants one of %1 and found &quot;%2&quot;.</source>
         <translation>--state erwartet eines von %1 und fand „%2“.</translation>
     </message>
     <message>
-        <source>--state says nothing without --gallery.</source>
-        <translation>--state sagt ohne --gallery nichts.</translation>
+        <source>The network to open; examples/networks/fractal.json by default.</source>
+        <translation>Das Netz, das geöffnet wird; ohne Angabe examples/networks/fractal.json.</translation>
+    </message>
+    <message>
+        <source>Prints this help and ends.</source>
+        <translation>Gibt diese Hilfe aus und endet.</translation>
+    </message>
+    <message>
+        <source>Prints the version and ends.</source>
+        <translation>Gibt die Version aus und endet.</translation>
+    </message>
+    <message>
+        <source>Draws the panel into an image file and ends; needs no display.</source>
+        <translation>Zeichnet das Bedienfeld in eine Bilddatei und endet; braucht keinen Bildschirm.</translation>
+    </message>
+    <message>
+        <source>Sets the size of the window, as in 1200x800.</source>
+        <translation>Setzt die Größe des Fensters, etwa 1200x800.</translation>
+    </message>
+    <message>
+        <source>Scales the panel by this factor, from 0.5 to 4.</source>
+        <translation>Skaliert das Bedienfeld mit diesem Faktor, von 0.5 bis 4.</translation>
+    </message>
+    <message>
+        <source>Uses this language instead of the system&apos;s, as in de or fr.</source>
+        <translation>Verwendet diese Sprache statt der des Systems, etwa de oder fr.</translation>
+    </message>
+    <message>
+        <source>Does not restore or save the session.</source>
+        <translation>Stellt die Sitzung nicht wieder her und speichert sie nicht.</translation>
+    </message>
+    <message>
+        <source>--state needs --gallery.</source>
+        <translation>--state braucht --gallery.</translation>
+    </message>
+    <message>
+        <source>The gallery opens no network, so --%1 cannot be used with --gallery.</source>
+        <translation>Die Galerie öffnet kein Netz, daher kann --%1 nicht mit --gallery verwendet werden.</translation>
+    </message>
+    <message>
+        <source>The gallery opens no network, so %1 cannot be used with --gallery.</source>
+        <translation>Die Galerie öffnet kein Netz, daher kann %1 nicht mit --gallery verwendet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Document</name>
+    <message>
+        <source>No network is open.</source>
+        <translation>Kein Netz ist geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileMenu</name>
+    <message>
+        <source>Networks (*.json);;All files (*)</source>
+        <translation>Netze (*.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Save values</source>
+        <translation>Werte &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save values &amp;as...</source>
+        <translation>Werte speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Open a network</source>
+        <translation>Ein Netz öffnen</translation>
+    </message>
+    <message>
+        <source>The network cannot be opened</source>
+        <translation>Das Netz lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Save the values</source>
+        <translation>Die Werte speichern</translation>
+    </message>
+    <message>
+        <source>The values cannot be saved</source>
+        <translation>Die Werte lassen sich nicht speichern</translation>
+    </message>
+    <message>
+        <source>Unsaved values</source>
+        <translation>Nicht gespeicherte Werte</translation>
+    </message>
+    <message>
+        <source>The values of “%1” were changed.</source>
+        <translation>Die Werte von „%1“ wurden geändert.</translation>
+    </message>
+    <message>
+        <source>Unless they are saved, the changes are lost.</source>
+        <translation>Werden sie nicht gespeichert, gehen die Änderungen verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FilterField</name>
+    <message>
+        <source>&amp;Find a parameter</source>
+        <translation>&amp;Parameter suchen</translation>
+    </message>
+    <message>
+        <source>Filter by name, object or value</source>
+        <translation>Nach Name, Objekt oder Wert filtern</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Shows the parameters whose name, object or value has all of these words</source>
+        <translation>Zeigt die Parameter, in deren Name, Objekt oder Wert alle diese Wörter stehen</translation>
     </message>
 </context>
 <context>
@@ -303,62 +392,6 @@
         <translation>Gespeichert.</translation>
     </message>
     <message>
-        <source>No network is open.</source>
-        <translation>Kein Netz ist geöffnet.</translation>
-    </message>
-    <message>
-        <source>Can no longer be taken back: %1</source>
-        <translation>Lässt sich nicht mehr zurücknehmen: %1</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>Networks (*.json);;All files (*)</source>
-        <translation>Netze (*.json);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Pool</source>
-        <translation>Pool</translation>
-    </message>
-    <message>
-        <source>P&amp;ool:</source>
-        <translation>P&amp;ool:</translation>
-    </message>
-    <message>
-        <source>The pool whose values are edited</source>
-        <translation>Der Pool, dessen Werte bearbeitet werden</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Open...</source>
-        <translation>Ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>&amp;Save values</source>
-        <translation>Werte &amp;speichern</translation>
-    </message>
-    <message>
-        <source>Save values &amp;as...</source>
-        <translation>Werte speichern &amp;unter …</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+S</source>
-        <translation>Ctrl+Shift+S</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
@@ -383,120 +416,12 @@
         <translation>Ctrl+R</translation>
     </message>
     <message>
-        <source>&amp;Plug-ins</source>
-        <translation>&amp;Plug-ins</translation>
-    </message>
-    <message>
-        <source>&amp;Load...</source>
-        <translation>&amp;Laden …</translation>
-    </message>
-    <message>
-        <source>&amp;Unload</source>
-        <translation>&amp;Entladen</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Neu laden</translation>
-    </message>
-    <message>
-        <source>Open a network</source>
-        <translation>Ein Netz öffnen</translation>
-    </message>
-    <message>
-        <source>The network cannot be opened</source>
-        <translation>Das Netz lässt sich nicht öffnen</translation>
-    </message>
-    <message>
-        <source>Save the values</source>
-        <translation>Die Werte speichern</translation>
-    </message>
-    <message>
-        <source>The values cannot be saved</source>
-        <translation>Die Werte lassen sich nicht speichern</translation>
-    </message>
-    <message>
-        <source>Load a plug-in</source>
-        <translation>Ein Plug-in laden</translation>
-    </message>
-    <message>
-        <source>Plug-ins (*.talo);;All files (*)</source>
-        <translation>Plug-ins (*.talo);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>The plug-in cannot be loaded</source>
-        <translation>Das Plug-in lässt sich nicht laden</translation>
-    </message>
-    <message>
-        <source>The plug-ins were unloaded.</source>
-        <translation>Die Plug-ins wurden entladen.</translation>
-    </message>
-    <message>
-        <source>The plug-ins cannot be unloaded</source>
-        <translation>Die Plug-ins lassen sich nicht entladen</translation>
-    </message>
-    <message>
-        <source>The plug-ins were loaded again.</source>
-        <translation>Die Plug-ins wurden neu geladen.</translation>
-    </message>
-    <message>
-        <source>The plug-ins cannot be loaded again</source>
-        <translation>Die Plug-ins lassen sich nicht neu laden</translation>
-    </message>
-    <message>
-        <source>Plug-ins: %1, kinds of editors: %2</source>
-        <translation>Plug-ins: %1, Arten von Editoren: %2</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
         <source>History</source>
         <translation>Verlauf</translation>
     </message>
     <message>
-        <source>Can no longer be made again: %1</source>
-        <translation>Lässt sich nicht mehr wiederholen: %1</translation>
-    </message>
-    <message>
         <source>%1[*] – Talo panel</source>
         <translation>%1[*] – Talo-Bedienfeld</translation>
-    </message>
-    <message>
-        <source>Unsaved values</source>
-        <translation>Nicht gespeicherte Werte</translation>
-    </message>
-    <message>
-        <source>The values of “%1” were changed.</source>
-        <translation>Die Werte von „%1“ wurden geändert.</translation>
-    </message>
-    <message>
-        <source>Unless they are saved, the changes are lost.</source>
-        <translation>Werden sie nicht gespeichert, gehen die Änderungen verloren.</translation>
-    </message>
-    <message>
-        <source>Pool and filter</source>
-        <translation>Pool und Filter</translation>
-    </message>
-    <message>
-        <source>Filter by name, object or value</source>
-        <translation>Nach Name, Objekt oder Wert filtern</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
-        <source>Shows the parameters whose name, object or value has all of these words</source>
-        <translation>Zeigt die Parameter, in deren Name, Objekt oder Wert alle diese Wörter stehen</translation>
-    </message>
-    <message>
-        <source>&amp;Find a parameter</source>
-        <translation>&amp;Parameter suchen</translation>
     </message>
 </context>
 <context>
@@ -550,10 +475,73 @@
     </message>
 </context>
 <context>
-    <name>Panel::ObjectView</name>
+    <name>Panel::PluginMenu</name>
     <message>
-        <source>No parameter of this object is found by the filter.</source>
-        <translation>Der Filter findet keinen Parameter dieses Objekts.</translation>
+        <source>&amp;Plug-ins</source>
+        <translation>&amp;Plug-ins</translation>
+    </message>
+    <message>
+        <source>&amp;Load...</source>
+        <translation>&amp;Laden …</translation>
+    </message>
+    <message>
+        <source>&amp;Unload</source>
+        <translation>&amp;Entladen</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>Plug-ins: %1, kinds of editors: %2</source>
+        <translation>Plug-ins: %1, Arten von Editoren: %2</translation>
+    </message>
+    <message>
+        <source>Load a plug-in</source>
+        <translation>Ein Plug-in laden</translation>
+    </message>
+    <message>
+        <source>Plug-ins (*.talo);;All files (*)</source>
+        <translation>Plug-ins (*.talo);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded</source>
+        <translation>Das Plug-in lässt sich nicht laden</translation>
+    </message>
+    <message>
+        <source>The plug-ins were unloaded.</source>
+        <translation>Die Plug-ins wurden entladen.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be unloaded</source>
+        <translation>Die Plug-ins lassen sich nicht entladen</translation>
+    </message>
+    <message>
+        <source>The plug-ins were loaded again.</source>
+        <translation>Die Plug-ins wurden neu geladen.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be loaded again</source>
+        <translation>Die Plug-ins lassen sich nicht neu laden</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PoolToolBar</name>
+    <message>
+        <source>Pool and filter</source>
+        <translation>Pool und Filter</translation>
+    </message>
+    <message>
+        <source>P&amp;ool:</source>
+        <translation>P&amp;ool:</translation>
+    </message>
+    <message>
+        <source>Pool</source>
+        <translation>Pool</translation>
+    </message>
+    <message>
+        <source>The pool whose values are edited</source>
+        <translation>Der Pool, dessen Werte bearbeitet werden</translation>
     </message>
 </context>
 <context>
@@ -582,16 +570,16 @@
         <translation>Das Bild %1 lässt sich nicht schreiben.</translation>
     </message>
     <message>
-        <source>examples/fractal.json is missing; name a network to open.</source>
-        <translation>examples/fractal.json fehlt; nennen Sie ein Netz, das geöffnet werden soll.</translation>
-    </message>
-    <message>
-        <source>There is no display; the panel runs unseen. --screenshot draws it into a file.</source>
-        <translation>Es gibt keinen Bildschirm; das Bedienfeld läuft unsichtbar. --screenshot zeichnet es in eine Datei.</translation>
+        <source>examples/networks/fractal.json is missing; name a network to open.</source>
+        <translation>examples/networks/fractal.json fehlt; nennen Sie ein Netz, das geöffnet werden soll.</translation>
     </message>
     <message>
         <source>Talo panel</source>
         <translation>Talo-Bedienfeld</translation>
+    </message>
+    <message>
+        <source>There is no display, so the panel was drawn into %1.</source>
+        <translation>Es gibt keinen Bildschirm, daher wurde das Bedienfeld in %1 gezeichnet.</translation>
     </message>
 </context>
 </TS>

@@ -8,18 +8,6 @@
         <translation>Un panneau de commande pour des réseaux d’objets à paramètres typés.</translation>
     </message>
     <message>
-        <source>The network to open; examples/fractal.json unless given.</source>
-        <translation>Le réseau à ouvrir ; examples/fractal.json à défaut.</translation>
-    </message>
-    <message>
-        <source>Says how to start the program.</source>
-        <translation>Indique comment lancer le programme.</translation>
-    </message>
-    <message>
-        <source>Says which version this is.</source>
-        <translation>Indique la version du programme.</translation>
-    </message>
-    <message>
         <source>Shows the object of this name.</source>
         <translation>Montre l’objet de ce nom.</translation>
     </message>
@@ -44,16 +32,8 @@
         <translation>Montre les valeurs brutes à côté des éditeurs.</translation>
     </message>
     <message>
-        <source>Draws the panel into an image file, without a display, and ends.</source>
-        <translation>Dessine le panneau dans un fichier image, sans écran, et se termine.</translation>
-    </message>
-    <message>
         <source>FILE.png</source>
         <translation>FICHIER.png</translation>
-    </message>
-    <message>
-        <source>Gives the panel this size, as in 1200x800.</source>
-        <translation>Donne cette taille au panneau, par exemple 1200x800.</translation>
     </message>
     <message>
         <source>WIDTHxHEIGHT</source>
@@ -68,20 +48,12 @@
         <translation>light|dark</translation>
     </message>
     <message>
-        <source>Draws everything larger by this factor, from 0.5 to 4.</source>
-        <translation>Agrandit tout de ce facteur, de 0.5 à 4.</translation>
-    </message>
-    <message>
         <source>FACTOR</source>
         <translation>FACTEUR</translation>
     </message>
     <message>
         <source>Lays the panel out from right to left.</source>
         <translation>Dispose le panneau de droite à gauche.</translation>
-    </message>
-    <message>
-        <source>Speaks this language instead of the system&apos;s, as in de or fr.</source>
-        <translation>Parle cette langue au lieu de celle du système, par exemple de ou fr.</translation>
     </message>
     <message>
         <source>LANGUAGE</source>
@@ -98,10 +70,6 @@
     <message>
         <source>STATE</source>
         <translation>ÉTAT</translation>
-    </message>
-    <message>
-        <source>Neither brings the last session back nor keeps this one.</source>
-        <translation>Ne rétablit pas la dernière session et ne garde pas celle-ci.</translation>
     </message>
     <message>
         <source>Prints all values as JSON and ends.</source>
@@ -148,20 +116,141 @@
         <translation>--language attend une langue comme de ou fr et a trouvé « %1 ».</translation>
     </message>
     <message>
-        <source>The gallery opens no network, so --%1 says nothing beside --gallery.</source>
-        <translation>La galerie n’ouvre pas de réseau ; --%1 ne dit donc rien à côté de --gallery.</translation>
-    </message>
-    <message>
-        <source>The gallery opens no network, so %1 says nothing beside --gallery.</source>
-        <translation>La galerie n’ouvre pas de réseau ; %1 ne dit donc rien à côté de --gallery.</translation>
-    </message>
-    <message>
         <source>--state wants one of %1 and found &quot;%2&quot;.</source>
         <translation>--state attend l’un de %1 et a trouvé « %2 ».</translation>
     </message>
     <message>
-        <source>--state says nothing without --gallery.</source>
-        <translation>--state ne dit rien sans --gallery.</translation>
+        <source>The network to open; examples/networks/fractal.json by default.</source>
+        <translation>Le réseau à ouvrir ; examples/networks/fractal.json par défaut.</translation>
+    </message>
+    <message>
+        <source>Prints this help and ends.</source>
+        <translation>Affiche cette aide et se termine.</translation>
+    </message>
+    <message>
+        <source>Prints the version and ends.</source>
+        <translation>Affiche la version et se termine.</translation>
+    </message>
+    <message>
+        <source>Draws the panel into an image file and ends; needs no display.</source>
+        <translation>Dessine le panneau dans un fichier image et se termine ; n’a pas besoin d’écran.</translation>
+    </message>
+    <message>
+        <source>Sets the size of the window, as in 1200x800.</source>
+        <translation>Fixe la taille de la fenêtre, par exemple 1200x800.</translation>
+    </message>
+    <message>
+        <source>Scales the panel by this factor, from 0.5 to 4.</source>
+        <translation>Met le panneau à l’échelle de ce facteur, de 0.5 à 4.</translation>
+    </message>
+    <message>
+        <source>Uses this language instead of the system&apos;s, as in de or fr.</source>
+        <translation>Utilise cette langue au lieu de celle du système, par exemple de ou fr.</translation>
+    </message>
+    <message>
+        <source>Does not restore or save the session.</source>
+        <translation>Ne rétablit pas la session et ne l’enregistre pas.</translation>
+    </message>
+    <message>
+        <source>--state needs --gallery.</source>
+        <translation>--state demande --gallery.</translation>
+    </message>
+    <message>
+        <source>The gallery opens no network, so --%1 cannot be used with --gallery.</source>
+        <translation>La galerie n’ouvre pas de réseau, donc --%1 ne peut pas être utilisé avec --gallery.</translation>
+    </message>
+    <message>
+        <source>The gallery opens no network, so %1 cannot be used with --gallery.</source>
+        <translation>La galerie n’ouvre pas de réseau, donc %1 ne peut pas être utilisé avec --gallery.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::Document</name>
+    <message>
+        <source>No network is open.</source>
+        <translation>Aucun réseau n’est ouvert.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileMenu</name>
+    <message>
+        <source>Networks (*.json);;All files (*)</source>
+        <translation>Réseaux (*.json);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Save values</source>
+        <translation>&amp;Enregistrer les valeurs</translation>
+    </message>
+    <message>
+        <source>Save values &amp;as...</source>
+        <translation>Enregistrer les valeurs &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Open a network</source>
+        <translation>Ouvrir un réseau</translation>
+    </message>
+    <message>
+        <source>The network cannot be opened</source>
+        <translation>Le réseau ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>Save the values</source>
+        <translation>Enregistrer les valeurs</translation>
+    </message>
+    <message>
+        <source>The values cannot be saved</source>
+        <translation>Les valeurs ne peuvent pas être enregistrées</translation>
+    </message>
+    <message>
+        <source>Unsaved values</source>
+        <translation>Valeurs non enregistrées</translation>
+    </message>
+    <message>
+        <source>The values of “%1” were changed.</source>
+        <translation>Les valeurs de « %1 » ont été modifiées.</translation>
+    </message>
+    <message>
+        <source>Unless they are saved, the changes are lost.</source>
+        <translation>Si elles ne sont pas enregistrées, les modifications seront perdues.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FilterField</name>
+    <message>
+        <source>&amp;Find a parameter</source>
+        <translation>Chercher un &amp;paramètre</translation>
+    </message>
+    <message>
+        <source>Filter by name, object or value</source>
+        <translation>Filtrer par nom, objet ou valeur</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Shows the parameters whose name, object or value has all of these words</source>
+        <translation>Montre les paramètres dont le nom, l’objet ou la valeur contient tous ces mots</translation>
     </message>
 </context>
 <context>
@@ -303,62 +392,6 @@
         <translation>Enregistré.</translation>
     </message>
     <message>
-        <source>No network is open.</source>
-        <translation>Aucun réseau n’est ouvert.</translation>
-    </message>
-    <message>
-        <source>Can no longer be taken back: %1</source>
-        <translation>Ne peut plus être annulé : %1</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Networks (*.json);;All files (*)</source>
-        <translation>Réseaux (*.json);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>Pool</source>
-        <translation>Pool</translation>
-    </message>
-    <message>
-        <source>P&amp;ool:</source>
-        <translation>P&amp;ool :</translation>
-    </message>
-    <message>
-        <source>The pool whose values are edited</source>
-        <translation>Le pool dont les valeurs sont modifiées</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
-    </message>
-    <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Ouvrir…</translation>
-    </message>
-    <message>
-        <source>&amp;Save values</source>
-        <translation>&amp;Enregistrer les valeurs</translation>
-    </message>
-    <message>
-        <source>Save values &amp;as...</source>
-        <translation>Enregistrer les valeurs &amp;sous…</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+S</source>
-        <translation>Ctrl+Shift+S</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>É&amp;dition</translation>
     </message>
@@ -383,120 +416,12 @@
         <translation>Ctrl+R</translation>
     </message>
     <message>
-        <source>&amp;Plug-ins</source>
-        <translation>&amp;Greffons</translation>
-    </message>
-    <message>
-        <source>&amp;Load...</source>
-        <translation>&amp;Charger…</translation>
-    </message>
-    <message>
-        <source>&amp;Unload</source>
-        <translation>&amp;Décharger</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Recharger</translation>
-    </message>
-    <message>
-        <source>Open a network</source>
-        <translation>Ouvrir un réseau</translation>
-    </message>
-    <message>
-        <source>The network cannot be opened</source>
-        <translation>Le réseau ne peut pas être ouvert</translation>
-    </message>
-    <message>
-        <source>Save the values</source>
-        <translation>Enregistrer les valeurs</translation>
-    </message>
-    <message>
-        <source>The values cannot be saved</source>
-        <translation>Les valeurs ne peuvent pas être enregistrées</translation>
-    </message>
-    <message>
-        <source>Load a plug-in</source>
-        <translation>Charger un greffon</translation>
-    </message>
-    <message>
-        <source>Plug-ins (*.talo);;All files (*)</source>
-        <translation>Greffons (*.talo);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>The plug-in cannot be loaded</source>
-        <translation>Le greffon ne peut pas être chargé</translation>
-    </message>
-    <message>
-        <source>The plug-ins were unloaded.</source>
-        <translation>Les greffons ont été déchargés.</translation>
-    </message>
-    <message>
-        <source>The plug-ins cannot be unloaded</source>
-        <translation>Les greffons ne peuvent pas être déchargés</translation>
-    </message>
-    <message>
-        <source>The plug-ins were loaded again.</source>
-        <translation>Les greffons ont été rechargés.</translation>
-    </message>
-    <message>
-        <source>The plug-ins cannot be loaded again</source>
-        <translation>Les greffons ne peuvent pas être rechargés</translation>
-    </message>
-    <message>
-        <source>Plug-ins: %1, kinds of editors: %2</source>
-        <translation>Greffons : %1, sortes d’éditeurs : %2</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1 : %2</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
         <source>History</source>
         <translation>Historique</translation>
     </message>
     <message>
-        <source>Can no longer be made again: %1</source>
-        <translation>Ne peut plus être rétabli : %1</translation>
-    </message>
-    <message>
         <source>%1[*] – Talo panel</source>
         <translation>%1[*] – Panneau Talo</translation>
-    </message>
-    <message>
-        <source>Unsaved values</source>
-        <translation>Valeurs non enregistrées</translation>
-    </message>
-    <message>
-        <source>The values of “%1” were changed.</source>
-        <translation>Les valeurs de « %1 » ont été modifiées.</translation>
-    </message>
-    <message>
-        <source>Unless they are saved, the changes are lost.</source>
-        <translation>Si elles ne sont pas enregistrées, les modifications seront perdues.</translation>
-    </message>
-    <message>
-        <source>Pool and filter</source>
-        <translation>Pool et filtre</translation>
-    </message>
-    <message>
-        <source>Filter by name, object or value</source>
-        <translation>Filtrer par nom, objet ou valeur</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtre</translation>
-    </message>
-    <message>
-        <source>Shows the parameters whose name, object or value has all of these words</source>
-        <translation>Montre les paramètres dont le nom, l’objet ou la valeur contient tous ces mots</translation>
-    </message>
-    <message>
-        <source>&amp;Find a parameter</source>
-        <translation>Chercher un &amp;paramètre</translation>
     </message>
 </context>
 <context>
@@ -550,10 +475,73 @@
     </message>
 </context>
 <context>
-    <name>Panel::ObjectView</name>
+    <name>Panel::PluginMenu</name>
     <message>
-        <source>No parameter of this object is found by the filter.</source>
-        <translation>Le filtre ne trouve aucun paramètre de cet objet.</translation>
+        <source>&amp;Plug-ins</source>
+        <translation>&amp;Greffons</translation>
+    </message>
+    <message>
+        <source>&amp;Load...</source>
+        <translation>&amp;Charger…</translation>
+    </message>
+    <message>
+        <source>&amp;Unload</source>
+        <translation>&amp;Décharger</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Recharger</translation>
+    </message>
+    <message>
+        <source>Plug-ins: %1, kinds of editors: %2</source>
+        <translation>Greffons : %1, sortes d’éditeurs : %2</translation>
+    </message>
+    <message>
+        <source>Load a plug-in</source>
+        <translation>Charger un greffon</translation>
+    </message>
+    <message>
+        <source>Plug-ins (*.talo);;All files (*)</source>
+        <translation>Greffons (*.talo);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded</source>
+        <translation>Le greffon ne peut pas être chargé</translation>
+    </message>
+    <message>
+        <source>The plug-ins were unloaded.</source>
+        <translation>Les greffons ont été déchargés.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be unloaded</source>
+        <translation>Les greffons ne peuvent pas être déchargés</translation>
+    </message>
+    <message>
+        <source>The plug-ins were loaded again.</source>
+        <translation>Les greffons ont été rechargés.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be loaded again</source>
+        <translation>Les greffons ne peuvent pas être rechargés</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PoolToolBar</name>
+    <message>
+        <source>Pool and filter</source>
+        <translation>Pool et filtre</translation>
+    </message>
+    <message>
+        <source>P&amp;ool:</source>
+        <translation>P&amp;ool :</translation>
+    </message>
+    <message>
+        <source>Pool</source>
+        <translation>Pool</translation>
+    </message>
+    <message>
+        <source>The pool whose values are edited</source>
+        <translation>Le pool dont les valeurs sont modifiées</translation>
     </message>
 </context>
 <context>
@@ -582,16 +570,16 @@
         <translation>L’image %1 ne peut pas être écrite.</translation>
     </message>
     <message>
-        <source>examples/fractal.json is missing; name a network to open.</source>
-        <translation>examples/fractal.json est absent ; nommez un réseau à ouvrir.</translation>
-    </message>
-    <message>
-        <source>There is no display; the panel runs unseen. --screenshot draws it into a file.</source>
-        <translation>Il n’y a pas d’écran ; le panneau fonctionne sans être vu. --screenshot le dessine dans un fichier.</translation>
+        <source>examples/networks/fractal.json is missing; name a network to open.</source>
+        <translation>examples/networks/fractal.json est absent ; nommez un réseau à ouvrir.</translation>
     </message>
     <message>
         <source>Talo panel</source>
         <translation>Panneau Talo</translation>
+    </message>
+    <message>
+        <source>There is no display, so the panel was drawn into %1.</source>
+        <translation>Il n’y a pas d’écran, donc le panneau a été dessiné dans %1.</translation>
     </message>
 </context>
 </TS>

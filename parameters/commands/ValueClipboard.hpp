@@ -4,12 +4,13 @@
 #include <memory>
 #include <QMimeData>
 #include <QString>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Values on their way over the clipboard: as plain text for everybody, and typed for the panel, in the way of network
 /// files, so that every value arrives exactly. User-interface thread.
-class ValueClipboard {
+class TALO_EXPORT ValueClipboard {
 public:
     /// The format of typed values, a JSON object: {"type": "int", "value": 400}.
     static QString mimeType();
@@ -19,7 +20,9 @@ public:
 
     /// What came of a paste: a value object to hold, or null and the reason.
     struct Pasted {
+        /// The value; null when nothing can be pasted.
         Kolt::ValuePtr value;
+        /// Why nothing can be pasted; empty otherwise.
         QString error;
     };
     /// The value for a parameter in a pool. A typed value of the parameter's type is taken as it is; of anything else

@@ -233,7 +233,7 @@ TEST_F(ComputingNetworkTest, ThePaletteOfTheFileIsReadWhenItIsNeeded) {
 
 TEST_F(ComputingNetworkTest, TheFractalNetworkHasWhatItsObjectsLookFor) {
     auto const fractal =
-        Talo::Network::load(QStringLiteral(TALO_EXAMPLES "/fractal.json"), Fractal::makeObject).network;
+        Talo::Network::load(QStringLiteral(TALO_EXAMPLES "/networks/fractal.json"), Fractal::makeObject).network;
     ASSERT_TRUE(fractal);
     auto const pool = [&](char const* name) { return fractal->findPool(QString::fromUtf8(name)); };
     Fractal::ComputingNetwork const computing(*fractal);

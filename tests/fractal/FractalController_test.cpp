@@ -16,7 +16,8 @@ protected:
     void SetUp() override {
         PanelTest::SetUp();
         QString error;
-        ASSERT_TRUE(window->openNetwork(QStringLiteral(TALO_EXAMPLES "/fractal.json"), &error)) << qPrintable(error);
+        ASSERT_TRUE(window->openNetwork(QStringLiteral(TALO_EXAMPLES "/networks/fractal.json"), &error))
+            << qPrintable(error);
         set("exporter.width", "96");
         window->show();
         ASSERT_TRUE(rests());
@@ -256,7 +257,7 @@ TEST_F(FractalControllerTest, APreviewThatTheUserClosedStaysClosed) {
     window->fractalController().previewAction()->trigger();
     EXPECT_FALSE(dock()->isVisible());
     EXPECT_TRUE(window->fractalController().isAtRest());
-    ASSERT_TRUE(window->openNetwork(QStringLiteral(TALO_EXAMPLES "/fractal.json")));
+    ASSERT_TRUE(window->openNetwork(QStringLiteral(TALO_EXAMPLES "/networks/fractal.json")));
     EXPECT_FALSE(dock()->isVisible());
     window->fractalController().previewAction()->trigger();
     EXPECT_TRUE(dock()->isVisible());

@@ -1,9 +1,14 @@
 #include "NetworkFile.hpp"
 
 #include <array>
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
-#include <lattice/InputCreator.hpp>
+#include <bramble/Color.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/ObjectStatus.hpp>
+#include <bramble/StringSelection.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -632,7 +637,7 @@ TEST_F(Network, TenThousandParametersAreReadAndSaved) {
 
 // ---- The examples -------------------------------------------------------------------------------------------------
 
-QString const fractalFile = TALO_EXAMPLES "/fractal.json";
+QString const fractalFile = TALO_EXAMPLES "/networks/fractal.json";
 
 std::unique_ptr<Talo::Network> fractal() {
     auto result = Talo::Network::load(fractalFile);
@@ -647,6 +652,15 @@ TEST_F(Network, TheFractalNetworkIsSavedAsTheBytesThatItHas) {
     ASSERT_NE(read.network, nullptr) << read.error.toStdString();
     ASSERT_TRUE(read.network->save(path("again.json"), nullptr));
     EXPECT_EQ(bytesOf(path("again.json")), bytesOf(fractalFile));
+}
+
+TEST_F(Network, EveryExampleIsLoaded) {
+    auto const files = QDir(QStringLiteral(TALO_EXAMPLES "/networks")).entryInfoList({QStringLiteral("*.json")});
+    EXPECT_GE(files.size(), 3);
+    for (auto const& file : files) {
+        auto const read = Talo::Network::load(file.filePath());
+        EXPECT_NE(read.network, nullptr) << read.error.toStdString();
+    }
 }
 
 TEST_F(Network, TheFractalNetworkUsesEveryTypeAndPreference) {
@@ -734,7 +748,7 @@ TEST_F(Network, TheFractalNetworkBindsItsFileNamesAndHasItsPicture) {
 }
 
 TEST_F(Network, EveryPieceOfTheDescriptionIsRight) {
-    auto const description = QString::fromUtf8(bytesOf(TALO_EXAMPLES "/README.md"));
+    auto const description = QString::fromUtf8(bytesOf(TALO_EXAMPLES "/../docs/network-files.md"));
     QRegularExpression const block("```json\\n(.*?)```", QRegularExpression::DotMatchesEverythingOption);
     std::set<std::string> types;
     int networks = 0;

@@ -18,7 +18,8 @@ protected:
     void SetUp() override {
         PanelTest::SetUp();
         QString error;
-        ASSERT_TRUE(window->openNetwork(QStringLiteral(TALO_EXAMPLES "/fractal.json"), &error)) << qPrintable(error);
+        ASSERT_TRUE(window->openNetwork(QStringLiteral(TALO_EXAMPLES "/networks/fractal.json"), &error))
+            << qPrintable(error);
         window->resize(1000, 700);
         window->show();
         window->activateWindow();

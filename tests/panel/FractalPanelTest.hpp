@@ -8,7 +8,7 @@ class FractalPanelTest : public PanelTest {
 protected:
     void SetUp() override {
         PanelTest::SetUp();
-        ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_EXAMPLES "/fractal.json"), file));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_EXAMPLES "/networks/fractal.json"), file));
         QString error;
         ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
         window->fractalController().previewAction()->trigger();

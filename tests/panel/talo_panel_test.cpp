@@ -24,6 +24,7 @@ protected:
         if (!libraries.isEmpty())
             environment.insert(QStringLiteral("LD_LIBRARY_PATH"), libraries);
         process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder.path());
         process.start(program, arguments);
         EXPECT_TRUE(process.waitForFinished(60000));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
@@ -44,7 +45,7 @@ protected:
         return file.fileName();
     }
 
-    QString const fractal = QStringLiteral(TALO_EXAMPLES "/fractal.json");
+    QString const fractal = QStringLiteral(TALO_EXAMPLES "/networks/fractal.json");
     QTemporaryDir folder;
     /// Added to the environment of the program.
     std::map<QString, QString> variables;
@@ -101,6 +102,21 @@ TEST_F(TaloPanel, DrawsThePanelWithoutADisplay) {
             colours.insert(image.pixel(x, y));
     }
     EXPECT_GT(colours.size(), 50);
+}
+
+TEST_F(TaloPanel, WithoutADisplayItDrawsItselfIntoTheCurrentFolder) {
+    for (auto const& arguments :
+         {QStringList{fractal, QStringLiteral("--size"), QStringLiteral("900x600")},
+          QStringList{QStringLiteral("--gallery"), QStringLiteral("--size"), QStringLiteral("900x600")}}) {
+        ASSERT_EQ(run(arguments), 0) << qPrintable(errors);
+        EXPECT_THAT(errors.toStdString(), HasSubstr("panel.png"));
+        auto const file = folder.filePath(QStringLiteral("panel.png"));
+        EXPECT_EQ(QImage(file).size(), QSize(900, 600));
+        QFile::remove(file);
+    }
+    // Where the options say what to do, nothing else is done.
+    EXPECT_EQ(run({fractal, QStringLiteral("--values")}), 0);
+    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("panel.png"))));
 }
 
 TEST_F(TaloPanel, DrawsTheAskedForObjectPoolAndPalette) {
@@ -177,12 +193,13 @@ TEST_F(TaloPanel, OpensANetworkWithoutItsPlugin) {
 TEST_F(TaloPanel, FindsWhatIsInstalledWithIt) {
     ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral("bin")));
     ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral(TALO_INSTALLED_PLUGINS)));
-    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral(TALO_INSTALLED_DATA "/examples")));
+    ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral(TALO_INSTALLED_DATA "/examples/networks")));
     auto const program = folder.filePath(QStringLiteral("bin/talo_panel"));
     ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PANEL), program));
     ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE),
                             folder.filePath(QStringLiteral(TALO_INSTALLED_PLUGINS "/qtalo_inputs.talo"))));
-    ASSERT_TRUE(QFile::copy(fractal, folder.filePath(QStringLiteral(TALO_INSTALLED_DATA "/examples/fractal.json"))));
+    ASSERT_TRUE(
+        QFile::copy(fractal, folder.filePath(QStringLiteral(TALO_INSTALLED_DATA "/examples/networks/fractal.json"))));
     libraries = QFileInfo(QStringLiteral(TALO_PANEL)).path();
     ASSERT_EQ(run({QStringLiteral("--list-creators"), QStringLiteral("--values")}, program), 0) << qPrintable(errors);
     EXPECT_THAT(output.toStdString(), HasSubstr("bool\tboolean\tQT\n"));
@@ -267,9 +284,9 @@ TEST_F(TaloPanel, ACallThatEndsByItselfLeavesTheSessionAlone) {
 
 TEST_F(TaloPanel, SpeaksTheAskedForLanguage) {
     ASSERT_EQ(run({QStringLiteral("--language"), QStringLiteral("de"), QStringLiteral("--help")}), 0);
-    EXPECT_THAT(output.toStdString(), HasSubstr("Sagt, wie das Programm gestartet wird."));
+    EXPECT_THAT(output.toStdString(), HasSubstr("Gibt diese Hilfe aus und endet."));
     ASSERT_EQ(run({QStringLiteral("--language=fr"), QStringLiteral("--help")}), 0);
-    EXPECT_THAT(output.toStdString(), HasSubstr("Indique comment lancer le programme."));
+    EXPECT_THAT(output.toStdString(), HasSubstr("Affiche cette aide et se termine."));
     EXPECT_EQ(run({QStringLiteral("--language"), QStringLiteral("de"), QStringLiteral("--object"),
                    QStringLiteral("door"), fractal, QStringLiteral("--values")}),
               2);
@@ -279,11 +296,11 @@ TEST_F(TaloPanel, SpeaksTheAskedForLanguage) {
 TEST_F(TaloPanel, SpeaksTheLanguageOfTheSystem) {
     variables = {{QStringLiteral("LC_ALL"), QString()}, {QStringLiteral("LANG"), QStringLiteral("de_DE.UTF-8")}};
     ASSERT_EQ(run({QStringLiteral("--help")}), 0);
-    EXPECT_THAT(output.toStdString(), HasSubstr("Sagt, wie das Programm gestartet wird."));
+    EXPECT_THAT(output.toStdString(), HasSubstr("Gibt diese Hilfe aus und endet."));
     EXPECT_EQ(run({QStringLiteral("--scale"), QStringLiteral("big")}), 2);
     EXPECT_THAT(errors.toStdString(), HasSubstr("--scale erwartet einen Faktor"));
     // Who prefers English to German reads English.
     variables[QStringLiteral("LANGUAGE")] = QStringLiteral("en_GB:de");
     ASSERT_EQ(run({QStringLiteral("--help")}), 0);
-    EXPECT_THAT(output.toStdString(), HasSubstr("Says how to start the program."));
+    EXPECT_THAT(output.toStdString(), HasSubstr("Prints this help and ends."));
 }

@@ -1,0 +1,27 @@
+# Installs the project with another folder of libraries, LIBDIR, and starts the installed program. What is compiled is
+# the same as in the project's own build folder, but for the one source that knows the folders.
+include("${CMAKE_CURRENT_LIST_DIR}/steps.cmake")
+file(REMOVE_RECURSE "${WORK}")
+set(prefix "${WORK}/prefix")
+set(ENV{CMAKE_CXX_COMPILER_LAUNCHER} "${CMAKE_CURRENT_LIST_DIR}/reuse_objects;${PROJECT_BUILD}")
+run("${CMAKE_COMMAND}" -S "${SOURCE}" -B "${WORK}/build" -G "${GENERATOR}" "-DCMAKE_CXX_COMPILER=${COMPILER}"
+    "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}" "-DCMAKE_CXX_FLAGS_DEBUG=${FLAGS_DEBUG}"
+    "-DCMAKE_CXX_FLAGS_RELEASE=${FLAGS_RELEASE}" "-DTALO_SANITIZE=${SANITIZE}" "-DTALO_COVERAGE=${COVERAGE}"
+    -DTALO_BUILD_TESTS=OFF "-DCMAKE_INSTALL_LIBDIR=${LIBDIR}" "-DCMAKE_INSTALL_PREFIX=${prefix}")
+run("${CMAKE_COMMAND}" --build "${WORK}/build")
+run("${CMAKE_COMMAND}" --install "${WORK}/build")
+# What is installed must not find the libraries there, but where they are installed.
+file(REMOVE_RECURSE "${WORK}/build")
+
+foreach(file IN ITEMS "bin/talo_panel" "${LIBDIR}/libtalo_parameters.so" "${LIBDIR}/talo/qtalo_inputs.talo")
+    run(ldd "${prefix}/${file}")
+    if(output MATCHES "not found")
+        message(FATAL_ERROR "${file} does not find its libraries:\n${output}")
+    endif()
+    if(NOT output MATCHES "/prefix/[^ ]*${LIBDIR}/[a-z./]*liblattice\\.so")
+        message(FATAL_ERROR "${file} does not take the libraries of ${LIBDIR}:\n${output}")
+    endif()
+endforeach()
+run_and_expect("^talo_panel [0-9.]+\n$" "${prefix}/bin/talo_panel" --version)
+# From the plug-in's own folder; the default network, from that of the examples.
+run_and_expect("bool\tboolean\tQT\n.*\"formula\"" "${prefix}/bin/talo_panel" --list-creators --values)
