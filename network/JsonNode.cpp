@@ -1,8 +1,9 @@
+#include <network/JsonNode.hpp>
+
 #include <algorithm>
 #include <cmath>
 #include <lattice/ValueTrait.hpp>
 #include <limits>
-#include <network/JsonNode.hpp>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -73,7 +74,7 @@ private:
         while (next_ != end_ && isBlank(*next_))
             advance();
     }
-    /// Steps over a mark after blanks, if it stands there.
+    /// Skips blanks and then a mark, if there is one.
     bool skip(char mark) {
         skipBlanks();
         if (next_ == end_ || *next_ != mark)

@@ -1,5 +1,6 @@
-#include <algorithm>
 #include <network/NetworkReader.hpp>
+
+#include <algorithm>
 #include <network/PropertyFormat.hpp>
 #include <network/ValueFormat.hpp>
 

@@ -1,6 +1,7 @@
+#include <network/PropertyFormat.hpp>
+
 #include <cmath>
 #include <limits>
-#include <network/PropertyFormat.hpp>
 #include <network/ValueFormat.hpp>
 #include <QDir>
 #include <QJsonObject>

@@ -1,3 +1,5 @@
+#include <network/ValueFormat.hpp>
+
 #include <algorithm>
 #include <bramble/Action.hpp>
 #include <bramble/Color.hpp>
@@ -11,7 +13,6 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <network/ValueFormat.hpp>
 #include <optional>
 #include <QJsonArray>
 #include <QJsonObject>

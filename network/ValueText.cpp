@@ -1,5 +1,6 @@
-#include <bramble/FlagList.hpp>
 #include <network/ValueText.hpp>
+
+#include <bramble/FlagList.hpp>
 
 namespace Talo {
 

@@ -1,4 +1,5 @@
 #include <panel/InstalledFiles.hpp>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>

@@ -1,4 +1,5 @@
 #include <panel/Translations.hpp>
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLibraryInfo>

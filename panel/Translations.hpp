@@ -9,7 +9,7 @@
 /// unless the program says otherwise; texts are English where there is no translation. User-interface thread.
 namespace Panel {
 
-/// Installs the translation FOLDER/NAME_LANGUAGE.qm for the default locale; it goes with the returned object. For
+/// Installs the translation FOLDER/NAME_LANGUAGE.qm for the default locale, until the returned object is destroyed. For
 /// "de_AT" that is the file of de_AT or else that of de. Null where there is none, and where the user prefers English
 /// to every language there is one for. A file that is no translation counts as none and gets a warning.
 std::unique_ptr<QTranslator> installTranslation(QString const& folder, QString const& name);

@@ -1,6 +1,7 @@
+#include <parameters/SchedulerDriver.hpp>
+
 #include <cmath>
 #include <lattice/Scheduler.hpp>
-#include <parameters/SchedulerDriver.hpp>
 
 namespace Talo {
 

@@ -1,6 +1,7 @@
+#include <fractal/engine/ColourScale.hpp>
+
 #include <algorithm>
 #include <cmath>
-#include <fractal/engine/ColourScale.hpp>
 
 namespace Fractal {
 

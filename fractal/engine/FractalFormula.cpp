@@ -1,7 +1,8 @@
+#include <fractal/engine/FractalFormula.hpp>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <fractal/engine/FractalFormula.hpp>
 
 namespace Fractal {
 

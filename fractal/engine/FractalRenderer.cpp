@@ -1,7 +1,8 @@
+#include <fractal/engine/FractalRenderer.hpp>
+
 #include <algorithm>
 #include <cmath>
 #include <fractal/engine/ColourScale.hpp>
-#include <fractal/engine/FractalRenderer.hpp>
 #include <fractal/engine/FractalView.hpp>
 #include <limits>
 #include <thread>

@@ -1,6 +1,7 @@
+#include <fractal/engine/FractalSettings.hpp>
+
 #include <algorithm>
 #include <cmath>
-#include <fractal/engine/FractalSettings.hpp>
 
 namespace Fractal {
 

@@ -1,6 +1,7 @@
+#include <fractal/engine/FractalView.hpp>
+
 #include <algorithm>
 #include <cmath>
-#include <fractal/engine/FractalView.hpp>
 
 namespace Fractal {
 

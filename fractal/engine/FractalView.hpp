@@ -6,7 +6,7 @@
 
 namespace Fractal {
 
-/// Which point of the plane stands at which place of a picture. Any thread.
+/// Maps places of a picture to points of the plane and back. Any thread.
 class FractalView {
 public:
     using Point = FractalFormula::Point;
@@ -17,7 +17,7 @@ public:
     /// The point at a place of the picture: 0, 0 is its upper left corner, and one is the length of a side of a point
     /// of the picture. Where there is a symmetry, mirrored into the first sector.
     Point pointAt(double x, double y) const;
-    /// The place where a point stands, without the symmetry.
+    /// The place of a point, without the symmetry.
     QPointF placeOf(Point const& point) const;
     /// The point in the middle of the picture.
     Point const& centre() const { return centre_; }

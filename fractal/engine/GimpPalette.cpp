@@ -1,4 +1,5 @@
 #include <fractal/engine/GimpPalette.hpp>
+
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>

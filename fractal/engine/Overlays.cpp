@@ -1,7 +1,8 @@
+#include <fractal/engine/Overlays.hpp>
+
 #include <algorithm>
 #include <cmath>
 #include <fractal/engine/ColourScale.hpp>
-#include <fractal/engine/Overlays.hpp>
 #include <fractal/engine/Titles.hpp>
 #include <QLinearGradient>
 

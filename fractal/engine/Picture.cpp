@@ -1,6 +1,7 @@
+#include <fractal/engine/Picture.hpp>
+
 #include <algorithm>
 #include <fractal/engine/Overlays.hpp>
-#include <fractal/engine/Picture.hpp>
 #include <fractal/engine/Titles.hpp>
 #include <QImageWriter>
 #include <QPdfWriter>

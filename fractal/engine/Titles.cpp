@@ -1,5 +1,6 @@
-#include <algorithm>
 #include <fractal/engine/Titles.hpp>
+
+#include <algorithm>
 #include <QFontMetricsF>
 
 namespace Fractal {

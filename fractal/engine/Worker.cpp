@@ -1,4 +1,5 @@
 #include <fractal/engine/Worker.hpp>
+
 #include <utility>
 
 namespace Fractal {

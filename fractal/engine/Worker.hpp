@@ -62,7 +62,7 @@ private:
     TaskPtr running_;
     std::deque<TaskPtr> done_;
     bool ends_ = false;
-    // Started with the first task, so that whoever computes nothing has no thread.
+    // Started with the first task: without tasks there is no thread.
     std::thread thread_;
 };
 

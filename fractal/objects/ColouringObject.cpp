@@ -1,8 +1,9 @@
+#include <fractal/objects/ColouringObject.hpp>
+
 #include <algorithm>
 #include <bramble/FlagList.hpp>
 #include <bramble/StringSelection.hpp>
 #include <fractal/engine/GimpPalette.hpp>
-#include <fractal/objects/ColouringObject.hpp>
 #include <fractal/objects/EnumNames.hpp>
 #include <lattice/ActionNotifier.hpp>
 

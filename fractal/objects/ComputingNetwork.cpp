@@ -1,4 +1,5 @@
 #include <fractal/objects/ComputingNetwork.hpp>
+
 #include <fractal/objects/FormulaObject.hpp>
 
 namespace Fractal {

@@ -42,8 +42,8 @@ protected:
 /// The value object that is effective in a pool; null for a null parameter.
 Kolt::ValuePtr effectiveValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
 
-/// Writes a value as the host does: everybody is told, and the age stamp is renewed. Nothing happens for a parameter
-/// that is null or of another type.
+/// Writes a value as the host does: all notifiers are called, and the age stamp is renewed. Nothing happens for a
+/// parameter that is null or of another type.
 template <typename T>
 void writeValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool, T const& value) {
     if (parameter && Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr))

@@ -1,6 +1,7 @@
+#include <fractal/objects/FormulaObject.hpp>
+
 #include <bramble/Enum.hpp>
 #include <fractal/objects/EnumNames.hpp>
-#include <fractal/objects/FormulaObject.hpp>
 
 namespace Fractal {
 

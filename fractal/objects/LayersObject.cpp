@@ -1,5 +1,6 @@
-#include <bramble/MultipleStringSelection.hpp>
 #include <fractal/objects/LayersObject.hpp>
+
+#include <bramble/MultipleStringSelection.hpp>
 #include <QStringList>
 
 namespace Fractal {

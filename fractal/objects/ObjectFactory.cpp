@@ -1,8 +1,9 @@
+#include <fractal/objects/ObjectFactory.hpp>
+
 #include <fractal/objects/ColouringObject.hpp>
 #include <fractal/objects/ExporterObject.hpp>
 #include <fractal/objects/FormulaObject.hpp>
 #include <fractal/objects/LayersObject.hpp>
-#include <fractal/objects/ObjectFactory.hpp>
 #include <fractal/objects/RenderObject.hpp>
 #include <fractal/objects/TitlesObject.hpp>
 

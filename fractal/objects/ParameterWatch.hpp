@@ -15,7 +15,7 @@ public:
     explicit ParameterWatch(QObject* parent = nullptr);
     ~ParameterWatch() override;
 
-    /// From now on a change of the parameter is told, its properties included. Null is ignored.
+    /// From now on changes of the parameter, its properties included, are signalled. Null is ignored.
     void watch(Kolt::ParameterPtr const& parameter);
     /// Whether a change is still to be told.
     bool isWaiting() const { return isWaiting_; }

@@ -1,4 +1,5 @@
 #include <fractal/objects/PictureJob.hpp>
+
 #include <QElapsedTimer>
 #include <QLocale>
 

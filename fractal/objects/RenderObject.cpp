@@ -1,5 +1,6 @@
-#include <bramble/Info.hpp>
 #include <fractal/objects/RenderObject.hpp>
+
+#include <bramble/Info.hpp>
 
 namespace Fractal {
 

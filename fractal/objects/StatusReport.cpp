@@ -1,5 +1,6 @@
-#include <bramble/ObjectStatus.hpp>
 #include <fractal/objects/StatusReport.hpp>
+
+#include <bramble/ObjectStatus.hpp>
 
 namespace Fractal {
 

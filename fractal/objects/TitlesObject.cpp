@@ -1,5 +1,6 @@
-#include <array>
 #include <fractal/objects/TitlesObject.hpp>
+
+#include <array>
 
 namespace Fractal {
 

@@ -1,4 +1,5 @@
 #include <fractal/ui/ComputingBar.hpp>
+
 #include <QHBoxLayout>
 #include <QShortcut>
 

@@ -1,6 +1,7 @@
+#include <fractal/ui/FractalController.hpp>
+
 #include <bramble/ObjectStatus.hpp>
 #include <fractal/ui/ComputingBar.hpp>
-#include <fractal/ui/FractalController.hpp>
 #include <QAction>
 #include <QLabel>
 

@@ -33,7 +33,7 @@ public:
     /// The dock with the preview, hidden until a network that computes a picture is shown. A window takes it over; it
     /// must outlive the controller.
     QDockWidget* dock() const { return dock_; }
-    /// Shows how far the computing is. The controller deletes it, whoever its parent is.
+    /// Shows how far the computing is. The controller deletes it, whatever its parent is.
     QWidget* progressWidget() const { return bar_; }
     /// Shows and hides the preview.
     QAction* previewAction() const;

@@ -1,4 +1,5 @@
 #include <fractal/ui/Preview.hpp>
+
 #include <QPainter>
 #include <QResizeEvent>
 

@@ -37,7 +37,7 @@ protected:
 private:
     /// Where picture and text stand.
     QRect room() const;
-    /// Where the picture stands.
+    /// The place of the picture in the widget.
     QRect pictureRect() const;
 
     QImage image_;

@@ -1,6 +1,7 @@
+#include <fractal/ui/PreviewRenderer.hpp>
+
 #include <algorithm>
 #include <fractal/engine/Picture.hpp>
-#include <fractal/ui/PreviewRenderer.hpp>
 #include <QGuiApplication>
 
 namespace Fractal {

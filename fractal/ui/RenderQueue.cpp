@@ -1,4 +1,5 @@
 #include <fractal/ui/RenderQueue.hpp>
+
 #include <lattice/ActionNotifier.hpp>
 #include <QPointer>
 #include <QTextDocument>
@@ -107,7 +108,7 @@ void RenderQueue::finish(PictureJob const& job) {
 
     // The name of a file may look like rich text.
     job.writeStatus(Qt::mightBeRichText(outcome) ? QStringLiteral("<p>%1</p>").arg(outcome.toHtmlEscaped()) : outcome);
-    // Whoever is told may take the network away.
+    // A receiver may remove the network.
     if (network_ && !job.summary().isEmpty()) {
         for (auto const* const object : network_->all<RenderObject>())
             object->tellProgress(job.summary(), job.pool());

@@ -7,8 +7,8 @@
 
 namespace Kolt {
 
-/// A binding of an object to one of its parameters. Whoever changes the parameter can find the slot and schedule the
-/// object to run (VScheduler). User-interface thread.
+/// A binding of an object to one of its parameters. A host that changes the parameter can find the slot and schedule
+/// the object to run (VScheduler). User-interface thread.
 class TALO_EXPORT VSlot : public Tessera::ReferenceBase<VSlot> {
 public:
     /// The slot refers to the parameter weakly. The name is UTF-8.

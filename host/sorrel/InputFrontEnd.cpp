@@ -8,7 +8,7 @@ namespace Kolt {
 
 namespace {
 
-/// Stands between an editor and the host's pool source, so that the source may be destroyed before the editor.
+/// Decouples an editor from the host's pool source, which may be destroyed before the editor.
 class TrackedPoolSource : public ValuePoolSource {
 public:
     explicit TrackedPoolSource(ValuePoolSource* source) : source_(source) {}

@@ -1,5 +1,6 @@
-#include <algorithm>
 #include <panel/gallery/Gallery.hpp>
+
+#include <algorithm>
 #include <QVBoxLayout>
 
 namespace Panel {

@@ -8,7 +8,7 @@
 namespace Panel {
 
 /// The gallery of editors: each registered creator with two editors on one value, in every state, a tab each, and the
-/// messages below. A tab is built when it is first shown. The plug-ins must stay loaded while the gallery stands.
+/// messages below. A tab is built when it is first shown. The plug-ins must stay loaded while the gallery exists.
 ///
 /// One for the process at a time, as it hears the host's warnings. User-interface thread.
 class Gallery : public QMainWindow {

@@ -1,8 +1,9 @@
+#include <panel/gallery/GalleryExample.hpp>
+
 #include <algorithm>
 #include <lattice/ValueCreator.hpp>
 #include <network/PropertyFormat.hpp>
 #include <network/ValueFormat.hpp>
-#include <panel/gallery/GalleryExample.hpp>
 #include <QDir>
 
 namespace Panel {
@@ -11,7 +12,7 @@ namespace {
 
 using Pools = std::vector<Kolt::PoolPtr>;
 
-/// The example for a type, as a parameter stands in a network file; "values" has one for each pool, in their order.
+/// The example for a type, written like a parameter of a network file; "values" has one for each pool, in their order.
 struct Example {
     char const* typeKey;
     /// Only for creators that have this preference; empty: for all others.
@@ -19,7 +20,7 @@ struct Example {
     char const* json;
 };
 
-// What is for some preference stands before what is for all others.
+// Examples for a preference precede those for all others.
 constexpr Example examples[] = {
     {"bool", "", R"({"value": true, "values": [false, true]})"},
     {"int", "", R"({"value": 42, "values": [10, 90], "properties": {"min": 0, "max": 100}})"},

@@ -1,7 +1,8 @@
+#include <panel/gallery/GalleryPage.hpp>
+
 #include <algorithm>
 #include <bramble/Action.hpp>
 #include <panel/gallery/GalleryExample.hpp>
-#include <panel/gallery/GalleryPage.hpp>
 #include <parameters/rows/ContentArea.hpp>
 #include <parameters/rows/MutedLabel.hpp>
 #include <QFrame>

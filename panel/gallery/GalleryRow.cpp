@@ -1,4 +1,5 @@
 #include <panel/gallery/GalleryRow.hpp>
+
 #include <parameters/rows/MutedLabel.hpp>
 #include <QHBoxLayout>
 
@@ -87,7 +88,7 @@ QWidget* GalleryRow::makeCell(std::size_t index) {
     if (!widget)
         return cell;
     widget->setAccessibleName(tr("%1, editor %2").arg(QString::fromStdString(creatorName_)).arg(index + 1));
-    // One that cannot fill the column stands at its beginning; some have a fixed size only once they are shown.
+    // An editor that cannot fill the column is at its beginning; some have a fixed size only once they are shown.
     layout->addWidget(widget, 1);
     layout->addStretch(0);
     return cell;

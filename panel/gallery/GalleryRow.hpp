@@ -30,7 +30,7 @@ public:
     std::string const& valueType() const { return valueType_; }
     Kolt::CreatorRef const& creator() const { return creator_; }
     Kolt::ParameterPtr parameter() const { return parameter_.strong(); }
-    /// An editor, 0 or 1, or what stands in its place.
+    /// An editor, 0 or 1, or its placeholder.
     QWidget* editor(std::size_t index) const { return editors_.at(index).widget(); }
     /// Which creator made an editor, and why.
     Kolt::InputChoice const& choice(std::size_t index) const { return editors_.at(index).choice(); }

@@ -1,5 +1,6 @@
-#include <algorithm>
 #include <panel/gallery/GalleryState.hpp>
+
+#include <algorithm>
 #include <QCoreApplication>
 #include <QStringList>
 

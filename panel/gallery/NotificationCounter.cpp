@@ -1,4 +1,5 @@
 #include <panel/gallery/NotificationCounter.hpp>
+
 #include <parameters/rows/MutedLabel.hpp>
 
 namespace Panel {

@@ -1,5 +1,6 @@
-#include <memory>
 #include <panel/look/Look.hpp>
+
+#include <memory>
 #include <panel/look/PanelStyle.hpp>
 #include <QApplication>
 #include <QFontDatabase>

@@ -1,4 +1,5 @@
 #include <panel/look/PanelStyle.hpp>
+
 #include <parameters/rows/MutedLabel.hpp>
 #include <QPainter>
 #include <QStyleOption>

@@ -1,4 +1,5 @@
 #include <panel/window/IconMaker.hpp>
+
 #include <sorrel/InputFrontEnd.hpp>
 #include <sorrel/QIconizer.hpp>
 
@@ -19,7 +20,7 @@ QWidget* IconMaker::makeIcon(Kolt::ObjectPtr const& object, Kolt::ParameterPtr c
     auto const creator = choice.creator.strong();
     if (!creator || withoutIcons_.count(creator.get()) > 0)
         return nullptr;
-    // Never shown; the editor goes with it.
+    // Never shown; it deletes the editor.
     QWidget outOfSight;
     auto const editor = Kolt::makeEditor(parameter, &outOfSight, &pools_);
     auto const input = editor.input.strong();

@@ -1,4 +1,5 @@
 #include <panel/window/IconPlace.hpp>
+
 #include <QHBoxLayout>
 
 namespace Panel {

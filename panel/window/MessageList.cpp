@@ -1,4 +1,5 @@
 #include <panel/window/MessageList.hpp>
+
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/TextDirectionDelegate.hpp>
 #include <QAction>

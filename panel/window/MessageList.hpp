@@ -25,7 +25,7 @@ public:
     explicit MessageList(QWidget* parent = nullptr);
     ~MessageList() override;
 
-    /// Adds a message. Whoever looks at the end of the list sees the new end.
+    /// Adds a message. If the end of the list is visible, the list scrolls to its new end.
     void add(Source source, QString const& text);
     /// The texts, the latest last.
     QStringList texts() const;

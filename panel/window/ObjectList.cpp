@@ -1,6 +1,7 @@
+#include <panel/window/ObjectList.hpp>
+
 #include <memory>
 #include <panel/window/IconPlace.hpp>
-#include <panel/window/ObjectList.hpp>
 
 namespace Panel {
 

@@ -1,5 +1,6 @@
-#include <panel/Translations.hpp>
 #include <panel/window/Plugins.hpp>
+
+#include <panel/Translations.hpp>
 #include <QFileInfo>
 
 namespace Panel {

@@ -36,7 +36,7 @@ public:
     QStringList const& knownFiles() const { return knownFiles_; }
 
 signals:
-    /// Creators are about to come or go: whoever hears it closes all editors and icons before returning.
+    /// Creators are about to be registered or unregistered: receivers close all editors and icons before they return.
     void aboutToChange();
     /// Creators may have come or gone: editors and icons can be opened again.
     void changed();

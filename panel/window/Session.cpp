@@ -1,6 +1,7 @@
+#include <panel/window/Session.hpp>
+
 #include <algorithm>
 #include <panel/window/MainWindow.hpp>
-#include <panel/window/Session.hpp>
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDockWidget>

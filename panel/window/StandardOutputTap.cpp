@@ -1,8 +1,9 @@
+#include <panel/window/StandardOutputTap.hpp>
+
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
-#include <panel/window/StandardOutputTap.hpp>
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>

@@ -1,5 +1,6 @@
-#include <cstdio>
 #include <panel/window/WarningListener.hpp>
+
+#include <cstdio>
 
 namespace Panel {
 

@@ -1,5 +1,6 @@
-#include <algorithm>
 #include <parameters/commands/HistoryView.hpp>
+
+#include <algorithm>
 #include <parameters/commands/UndoText.hpp>
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/TextDirectionDelegate.hpp>
@@ -60,8 +61,7 @@ void HistoryView::refresh() {
     auto const undone = history_.undoneSteps();
     steps.insert(steps.end(), undone.begin(), undone.end());
 
-    // What stands there already stays, but for the step of a gesture that goes on and for the border of what was
-    // taken back.
+    // Rows of known steps stay, but for the step of an open macro and the border of what was undone.
     int const border = std::max(std::min({shownDone_, done, static_cast<int>(shown_.size())}) - 1, 0);
     auto const differs = std::mismatch(shown_.begin(), shown_.begin() + border, steps.begin(), steps.end()).first;
     auto const kept = static_cast<int>(differs - shown_.begin());

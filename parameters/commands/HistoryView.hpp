@@ -8,8 +8,8 @@
 
 namespace Talo {
 
-/// The steps of the host's history as a list: first the start, then the steps, the latest last, then muted what was
-/// taken back. The current row is the state that holds; a click on a row, or Return, asks for the state of that row.
+/// The undo steps of a history as a list: first the start, then the steps, the latest last, then the undone ones,
+/// muted. The current row is the current state; a click on a row, or Return, chooses the state of that row.
 /// User-interface thread.
 class TALO_EXPORT HistoryView : public QListWidget {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     /// How parameters are named from now on; an empty function shows their own names.
     void setNaming(ParameterNaming naming);
 signals:
-    /// The state after that many steps is asked for, counted from the start and with what was taken back.
+    /// The user chose the state after that many steps, counted from the start, undone steps included.
     void stateChosen(int steps);
 
 protected:
@@ -38,7 +38,7 @@ private:
     Kolt::UndoHistory& history_;
     ParameterNaming naming_;
     std::vector<Kolt::UndoHistory::Step> shown_;
-    // How many of them are not taken back.
+    // How many of them are not undone.
     int shownDone_ = 0;
     bool refreshWaits_ = false;
     Kolt::Connection connection_;

@@ -1,11 +1,12 @@
-#include <algorithm>
 #include <parameters/commands/ParameterFilter.hpp>
+
+#include <algorithm>
 
 namespace Talo {
 
 namespace {
 
-/// Whether each of the words stands in a name or in a value, which is asked for only where it must be.
+/// Whether a name or a value contains each of the words. The value is read only if the name lacks a word.
 template <typename ValueText>
 bool containAll(QStringList const& words, QString const& name, ValueText const& valueText) {
     QString value;

@@ -1,7 +1,8 @@
+#include <parameters/commands/UndoText.hpp>
+
 #include <algorithm>
 #include <bramble/FlagList.hpp>
 #include <bramble/MultipleStringSelection.hpp>
-#include <parameters/commands/UndoText.hpp>
 #include <QCoreApplication>
 #include <QStringList>
 

@@ -1,8 +1,9 @@
+#include <parameters/commands/ValueClipboard.hpp>
+
 #include <algorithm>
 #include <bramble/FlagList.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
-#include <parameters/commands/ValueClipboard.hpp>
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>

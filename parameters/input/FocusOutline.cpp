@@ -1,4 +1,5 @@
 #include <parameters/input/FocusOutline.hpp>
+
 #include <QEvent>
 #include <QPainter>
 

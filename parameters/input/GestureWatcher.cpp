@@ -201,7 +201,7 @@ void GestureWatcher::type(QWidget* field) {
 }
 
 void GestureWatcher::turnWheel(QWidget* widget) {
-    // Whoever types or drags may scroll meanwhile.
+    // Scrolling while typing or dragging ends nothing.
     auto* const target = GestureTarget::around(widget);
     if (!target || kind_ == Kind::Text || (kind_ == Kind::Mouse && !ending_))
         return;

@@ -1,4 +1,5 @@
 #include <parameters/input/KeyboardChoice.hpp>
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
@@ -21,7 +22,7 @@ bool KeyboardChoice::eventFilter(QObject* watched, QEvent* event) {
         QScopedValueRollback<bool> const passing(passing_, true);
         watched->event(event);
     }
-    // Nobody is told of a key, so list and filter still stand.
+    // A key notifies nobody, so list and filter still exist.
     if (list->selectionModel()->selectedIndexes() == before)
         return true;
     // Beside all entries.

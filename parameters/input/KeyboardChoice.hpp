@@ -6,8 +6,8 @@
 
 namespace Talo {
 
-/// Lets an editor whose list takes a choice over when the mouse lets go take those over that are made by keyboard:
-/// after a key that changed what is chosen, the list hears of a released mouse button. A child of the list.
+/// Some list editors commit only on mouse release. After a key changed the selection, sends such a list a release so
+/// that it commits. A child of the list.
 class TALO_EXPORT KeyboardChoice : public QObject {
     Q_OBJECT
 

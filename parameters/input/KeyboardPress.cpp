@@ -1,4 +1,5 @@
 #include <parameters/input/KeyboardPress.hpp>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>

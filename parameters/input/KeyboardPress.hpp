@@ -7,9 +7,9 @@
 
 namespace Talo {
 
-/// Makes a control that only knows the mouse usable by keyboard: the Tab key reaches it, and Space or Return press it
-/// in its middle. A frame shows that it has the focus, but for a button, which shows that itself. A child of the
-/// control.
+/// Some editors react to mouse events only; makes such a control usable by keyboard: the Tab key reaches it, and Space
+/// or Return press it in its middle. A frame shows that it has the focus, but for a button, which shows that itself. A
+/// child of the control.
 class TALO_EXPORT KeyboardPress : public QObject {
     Q_OBJECT
 

@@ -1,4 +1,5 @@
 #include <parameters/rows/ContentArea.hpp>
+
 #include <QEvent>
 #include <QScrollBar>
 

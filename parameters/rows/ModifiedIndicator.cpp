@@ -1,4 +1,5 @@
 #include <parameters/rows/ModifiedIndicator.hpp>
+
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionToolButton>

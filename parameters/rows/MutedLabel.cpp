@@ -1,4 +1,5 @@
 #include <parameters/rows/MutedLabel.hpp>
+
 #include <QApplication>
 #include <QEvent>
 #include <QStyle>

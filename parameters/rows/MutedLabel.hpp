@@ -27,7 +27,7 @@ private:
 };
 
 /// Aligns a label's text to the side where lines begin in the layout. A label by itself follows the script of its text,
-/// so a title in Latin letters would stand at the far side of its column in a layout from right to left.
+/// so a title in Latin letters would be at the far side of its column in a layout from right to left.
 TALO_EXPORT void alignWithLayout(QLabel& label);
 
 } // namespace Talo

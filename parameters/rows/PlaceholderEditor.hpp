@@ -6,7 +6,7 @@
 
 namespace Talo {
 
-/// Stands where a parameter's editor would be when none can be made: names the type and the preferences of the
+/// Takes the place of a parameter's editor when none can be made: names the type and the preferences of the
 /// parameter and says that no editor is registered for it.
 class TALO_EXPORT PlaceholderEditor : public MutedLabel {
     Q_OBJECT

@@ -1,5 +1,6 @@
-#include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
+
+#include <parameters/rows/MutedLabel.hpp>
 #include <QPainter>
 #include <QStyle>
 

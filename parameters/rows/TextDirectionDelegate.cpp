@@ -1,4 +1,5 @@
 #include <parameters/rows/TextDirectionDelegate.hpp>
+
 #include <QStyle>
 
 namespace Talo {
