@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <bramble/Action.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
 #include <QColorDialog>
 #include <QLabel>
 #include <QPushButton>

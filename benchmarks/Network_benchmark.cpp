@@ -73,7 +73,7 @@ public:
             view_ = std::make_unique<Panel::ObjectView>(object_, QString(), pools_);
         return view_.get();
     }
-    QScrollBar* scrollBar() override { return view_->rowArea()->verticalScrollBar(); }
+    QScrollBar* scrollBar() override { return view_->panel()->rowArea()->verticalScrollBar(); }
     std::size_t rowCount() override { return view_->rows().size(); }
     void changeRows(int n) override {
         int number = 0;

@@ -1,8 +1,11 @@
 #include "BenchmarkCase.hpp"
 
 #include <algorithm>
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/EnumSelection.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/StringSelection.hpp>
 #include <cstdio>
 #include <QCheckBox>
 #include <QComboBox>

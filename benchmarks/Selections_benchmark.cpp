@@ -5,7 +5,7 @@
 #include "BenchmarkProgram.hpp"
 
 #include <benchmark/benchmark.h>
-#include <bramble/Selection.hpp>
+#include <bramble/MultipleStringSelection.hpp>
 #include <functional>
 #include <iomanip>
 #include <iostream>

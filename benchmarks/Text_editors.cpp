@@ -1,7 +1,8 @@
 #include "BenchmarkCase.hpp"
 
 #include <array>
-#include <bramble/Values.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>

@@ -4,7 +4,7 @@
 #include "Sides.hpp"
 
 #include <iostream>
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <malloc.h>
 #include <QApplication>
 

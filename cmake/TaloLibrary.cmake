@@ -15,8 +15,13 @@ function(talo_library name)
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/talo>")
     target_compile_features(${name} PUBLIC cxx_std_17)
     target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE $<BUILD_INTERFACE:talo_compile>)
+    # Every header can be included by itself.
     # Before 1.0 the interfaces may change with every minor version.
     set_target_properties(${name} PROPERTIES
+        VERIFY_INTERFACE_HEADER_SETS ON
+        # Only what is marked with TALO_EXPORT is exported.
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
         INSTALL_RPATH "$ORIGIN")

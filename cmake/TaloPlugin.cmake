@@ -2,9 +2,9 @@
 # A plug-in file FILE.talo for the host; FILE is NAME unless given. The project's own plug-in is built by this very
 # function, and it is installed with the package, so that a plug-in from elsewhere gets the same flags.
 #
-# The file exports one function, TALO_API_2023_MAR_29__FILE, which one of the sources defines as extern "C" and with
-# default visibility. Everything else in it is hidden, and it has no symbol that the loader must keep unique: a single
-# one of those would keep the file in memory after the host closed it.
+# One of the sources says TALO_PLUGIN(FILE), of <plugin/Plugin.hpp>; without it the plug-in does not link. The function
+# that this defines is the only symbol that the file exports. Everything else in it is hidden, and it has no symbol that
+# the loader must keep unique: a single one of those would keep the file in memory after the host closed it.
 function(talo_add_plugin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "OUTPUT_NAME" "")
     if(NOT arg_OUTPUT_NAME)
@@ -18,7 +18,8 @@ function(talo_add_plugin name)
 
     set(map "${CMAKE_CURRENT_BINARY_DIR}/${name}.map")
     file(CONFIGURE OUTPUT "${map}" CONTENT "{ global: TALO_API_2023_MAR_29__${arg_OUTPUT_NAME}; local: *; };\n")
-    target_link_options(${name} PRIVATE "LINKER:--version-script=${map}")
+    target_link_options(${name} PRIVATE "LINKER:--version-script=${map}"
+        "LINKER:--require-defined=TALO_API_2023_MAR_29__${arg_OUTPUT_NAME}")
     # With a sanitizer clang leaves its run-time library to the program, and a file without undefined symbols cannot be
     # linked.
     if(NOT (CMAKE_CXX_COMPILER_ID STREQUAL "Clang" AND (TALO_SANITIZE OR CMAKE_CXX_FLAGS MATCHES "-fsanitize")))

@@ -3,12 +3,13 @@
 #include <initializer_list>
 #include <QJsonValue>
 #include <QString>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Talo {
 
 /// An error in a network file. Thrown by everything that reads one.
-struct FormatError {
+struct TALO_EXPORT FormatError {
     /// The line of the file, counted from 1.
     int line;
     QString text; ///< "expected ..., found ..."
@@ -16,7 +17,7 @@ struct FormatError {
 
 /// A value of a JSON file, with the line in which it is. A function that asks for another type than the node has throws
 /// a FormatError; `what` is the name of the expected thing in its text ("the name of a pool"). Any thread.
-class JsonNode {
+class TALO_EXPORT JsonNode {
 public:
     /// Reads a whole file, whose outermost value must be an object. An object with two equal keys is
     /// refused.
@@ -66,6 +67,6 @@ private:
 };
 
 /// A text in quotation marks, shortened where it is long.
-QString quoted(QString const& text);
+TALO_EXPORT QString quoted(QString const& text);
 
 } // namespace Talo

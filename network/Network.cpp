@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <bramble/Values.hpp>
 #include <network/NetworkReader.hpp>
 #include <network/PropertyFormat.hpp>
 #include <network/ValueFormat.hpp>
@@ -59,6 +58,28 @@ QJsonObject poolValuesToJson(Kolt::VParameter const& parameter, std::vector<Kolt
     return values;
 }
 
+QJsonArray textsToJson(std::vector<std::string> const& texts) {
+    QJsonArray array;
+    for (auto const& text : texts)
+        array.append(QString::fromStdString(text));
+    return array;
+}
+
+QJsonObject propertiesToJson(Kolt::VParameter const& parameter, PropertyFormat const& format,
+                             QString const& targetFolder) {
+    QJsonObject map;
+    if (!parameter.properties())
+        return map;
+    for (auto const& [key, value] : *parameter.properties()) {
+        auto const name = QString::fromStdString(key);
+        auto const written = format.write(name, value, targetFolder);
+        if (written.isUndefined())
+            refuseToWrite("no network file can hold the property " + quoted(name));
+        map.insert(name, written);
+    }
+    return map;
+}
+
 } // namespace
 
 Network::Network() : self_(std::make_shared<Network*>(this)) {}
@@ -77,6 +98,33 @@ Network::LoadResult Network::load(QString const& file, ObjectFactory const& make
     } catch (FormatError const& error) {
         return {nullptr, file + ':' + QString::number(error.line) + ": " + error.text};
     }
+}
+
+std::unique_ptr<Network> Network::create(QString const& title, std::vector<std::string> const& poolNames) {
+    std::unique_ptr<Network> network(new Network);
+    network->title_ = title;
+    for (auto const& name : poolNames)
+        network->pools_.emplace_back(new Kolt::ValuePool(name));
+    return network;
+}
+
+Kolt::ObjectPtr Network::addObject(std::string const& name, std::vector<Kolt::ParameterPtr> const& parameters) {
+    Kolt::ObjectPtr const object(new Kolt::VObject(name));
+    for (auto const& parameter : parameters)
+        object->addParameter(parameter);
+    addObject(object);
+    return object;
+}
+
+void Network::addObject(Kolt::ObjectPtr const& object, QString const& kind) {
+    if (!object)
+        return;
+    objects_.push_back(object);
+    kinds_.push_back(kind);
+    for (auto const& parameter : object->parameters())
+        if (parameter->isEdited())
+            parameter->rememberDefaults();
+    rememberSaved(*object);
 }
 
 Kolt::ObjectPtr Network::findObject(QString const& name) const {
@@ -172,37 +220,20 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
     QJsonObject node{{"name", QString::fromStdString(parameter.Name())},
                      {"type", format->key},
                      {"value", json(parameter.ownValue())}};
-    if (format->choosesEntries) {
-        QJsonArray entries;
-        if (ownEntries)
-            for (auto const& entry : *ownEntries)
-                entries.append(QString::fromStdString(entry));
-        node.insert("entries", entries);
-    }
+    if (format->choosesEntries)
+        node.insert("entries", ownEntries ? textsToJson(*ownEntries) : QJsonArray());
     auto const poolValues = poolValuesToJson(parameter, pools_, json);
     if (!poolValues.isEmpty())
         node.insert("values", poolValues);
     else if (parameter.keepsValuesPerPool())
         node.insert("perPool", true);
     if (auto const& preferences = parameter.creationPreferences()) {
-        QJsonArray names;
-        for (auto const& name : preferences->names())
-            names.append(QString::fromStdString(name));
-        node.insert("preferences", names);
+        auto const& names = preferences->names();
+        node.insert("preferences", textsToJson({names.begin(), names.end()}));
     }
-    if (auto const* const properties = parameter.properties()) {
-        PropertyFormat const propertyFormat(format->key, folder());
-        QJsonObject map;
-        for (auto const& [key, value] : *properties) {
-            auto const name = QString::fromStdString(key);
-            auto const written = propertyFormat.write(name, value, targetFolder);
-            if (written.isUndefined())
-                refuseToWrite("no network file can hold the property " + quoted(name));
-            map.insert(name, written);
-        }
-        if (!map.isEmpty())
-            node.insert("properties", map);
-    }
+    auto const properties = propertiesToJson(parameter, PropertyFormat(format->key, folder()), targetFolder);
+    if (!properties.isEmpty())
+        node.insert("properties", properties);
     return node;
 }
 
@@ -276,29 +307,38 @@ bool Network::saveAs(QString const& file, QString* error) {
                     parameter->setProperty(key, moved, nullptr, nullptr, nullptr);
         }
     }
-    rememberDefaults();
+    rememberSaved();
     return true;
 }
 
 void Network::rememberDefaults() {
     for (auto const& object : objects_)
         for (auto const& parameter : object->parameters())
-            if (isEdited(*parameter))
+            if (parameter->isEdited())
                 parameter->rememberDefaults();
+    rememberSaved();
+}
+
+void Network::rememberSaved() {
+    saved_.clear();
+    for (auto const& object : objects_)
+        rememberSaved(*object);
+}
+
+void Network::rememberSaved(Kolt::VObject const& object) {
+    for (auto const& parameter : object.parameters())
+        if (parameter->isEdited())
+            saved_.push_back({parameter, Kolt::ValueSnapshot(*parameter)});
 }
 
 bool Network::isModified() const {
-    auto const differs = [&](Kolt::ParameterPtr const& parameter) {
-        auto const* const defaults = parameter->defaults();
-        return defaults &&
-               (!defaults->isOwnValueOf(*parameter) ||
-                (parameter->keepsValuesPerPool() && !std::all_of(pools_.begin(), pools_.end(), [&](auto const& pool) {
-                     return defaults->isEffectiveIn(*parameter, pool);
-                 })));
-    };
-    return std::any_of(objects_.begin(), objects_.end(), [&](auto const& object) {
-        auto const& parameters = object->parameters();
-        return std::any_of(parameters.begin(), parameters.end(), differs);
+    return std::any_of(saved_.begin(), saved_.end(), [this](SavedValue const& saved) {
+        auto const parameter = saved.parameter.strong();
+        if (!parameter)
+            return false;
+        auto const isSaved = [&](auto const& pool) { return saved.value.isEffectiveIn(*parameter, pool); };
+        return !saved.value.isOwnValueOf(*parameter) ||
+               (parameter->keepsValuesPerPool() && !std::all_of(pools_.begin(), pools_.end(), isSaved));
     });
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 #include <QByteArray>
 #include <QString>
+#include <tessera/Export.hpp>
 #include <vector>
 
 class QJsonObject;
@@ -22,7 +23,7 @@ using ObjectFactory = std::function<Kolt::ObjectPtr(QString const& kind, QString
 /// have values. docs/network-files.md describes the format. The network owns objects and pools: they live until it is
 /// destroyed; a parameter also dies when it is removed from its object. User-interface thread. Prints nothing and
 /// throws nothing.
-class Network {
+class TALO_EXPORT Network {
 public:
     /// What came of a file: a network, or a null one and the reason as "FILE:LINE: what was expected, what was found".
     struct LoadResult {
@@ -35,11 +36,19 @@ public:
     /// Reads a network file completely or not at all. For a file that cannot be read the line is 0. The factory makes
     /// the objects; an empty one makes objects that do nothing.
     static LoadResult load(QString const& file, ObjectFactory const& makeObject = {});
+    /// A network without objects and without a file, for a host that makes its objects itself, with new pools of these
+    /// names. REQUIRES: at least one name, each one once.
+    static std::unique_ptr<Network> create(QString const& title, std::vector<std::string> const& poolNames);
+    /// Adds an object at the end; null is ignored. `kind` says what it is for, and may be empty. Its values are its
+    /// defaults, and they count as saved. Its actions keep their handlers.
+    void addObject(Kolt::ObjectPtr const& object, QString const& kind = {});
+    /// Makes an object with these parameters, adds it in the same way and returns it.
+    Kolt::ObjectPtr addObject(std::string const& name, std::vector<Kolt::ParameterPtr> const& parameters);
     ~Network();
     Network(Network const&) = delete;
     Network& operator=(Network const&) = delete;
 
-    /// The file as it was given to `load`, or the last one that `saveAs` wrote.
+    /// The file as it was given to `load`, or the last one that `saveAs` wrote; empty for a network without a file.
     QString const& file() const { return file_; }
     /// A text for the window; empty when the file has none.
     QString const& title() const { return title_; }
@@ -68,14 +77,14 @@ public:
     /// when the file cannot be written or the network has something that files cannot contain.
     bool save(QString const& file, QString* error) const;
 
-    /// Writes the network as `save` does and uses that file from now on: relative paths start at its folder, and the
-    /// saved values become the defaults of the parameters.
+    /// Writes the network as `save` does and uses that file from now on: relative paths start at its folder. The
+    /// defaults of the parameters stay what they were.
     bool saveAs(QString const& file, QString* error);
 
-    /// From now on the values that people edit are the defaults of their parameters (VParameter::rememberDefaults).
-    /// `load` does this.
+    /// From now on the values that people edit are the defaults of their parameters (VParameter::rememberDefaults), and
+    /// they count as saved. A network that was loaded starts so: its defaults are what its author wrote.
     void rememberDefaults();
-    /// Whether a value that people edit differs from its default, in a pool or in the parameter itself.
+    /// Whether a value that people edit differs from the one in the file, in a pool or in the parameter itself.
     bool isModified() const;
 
     /// The name of a parameter of this network, "object.parameter"; empty for any other.
@@ -94,10 +103,17 @@ public:
 
 private:
     friend class NetworkReader;
+    struct SavedValue {
+        Kolt::ParameterRef parameter;
+        Kolt::ValueSnapshot value;
+    };
     Network();
 
     /// Makes the actions that a parameter of the object holds, its own and those of the pools, call the handler.
     void connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const;
+    /// From now on the values count as saved.
+    void rememberSaved();
+    void rememberSaved(Kolt::VObject const& object);
     /// The folder of the file, absolute.
     QString folder() const;
     QByteArray toJson(QString const& targetFolder) const;
@@ -110,6 +126,8 @@ private:
     std::vector<Kolt::ObjectPtr> objects_;
     // What each object is for, in the order of the objects.
     std::vector<QString> kinds_;
+    // What the file holds of the values that people edit.
+    std::vector<SavedValue> saved_;
     // Tells actions whether the network is alive.
     std::shared_ptr<Network*> const self_;
 };

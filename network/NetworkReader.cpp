@@ -21,6 +21,32 @@ std::vector<std::string> differentTexts(JsonNode const& node, QString const& wha
     return texts;
 }
 
+ValueFormat const& readFormat(JsonNode const& typeNode) {
+    auto const* const format = ValueFormat::ofKey(typeNode.text("a type"));
+    if (!format)
+        typeNode.refuse("a type, one of " + ValueFormat::keys());
+    return *format;
+}
+
+/// The entries of a parameter of this type; none for a type without entries.
+std::vector<std::string> readEntries(JsonNode const& node, ValueFormat const& format) {
+    if (format.choosesEntries)
+        return differentTexts(node.required("entries", "a parameter of type " + QString(format.key)), "the entries",
+                              "an entry");
+    if (auto const* const unwanted = node.find("entries"))
+        unwanted->refuse("no entries for the type " + QString(format.key));
+    return {};
+}
+
+void readPreferences(JsonNode const& node, Kolt::VParameter& parameter) {
+    auto const* const preferences = node.find("preferences");
+    if (!preferences)
+        return;
+    auto const names = differentTexts(*preferences, "the preferences", "the name of a preference");
+    parameter.setCreationPreferences(Kolt::PreferencesPtr(
+        new Kolt::VCreationPreferences(Kolt::VCreationPreferences::Names(names.begin(), names.end()))));
+}
+
 } // namespace
 
 NetworkReader::NetworkReader(QString const& file, ObjectFactory const& makeObject)
@@ -93,18 +119,9 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
         nameNode.refuse("a parameter name that is not taken in the object", quoted(name) + " again");
     takenNames_.insert(name);
 
-    auto const& typeNode = node.required("type", what);
-    auto const* const format = ValueFormat::ofKey(typeNode.text("a type"));
-    if (!format)
-        typeNode.refuse("a type, one of " + ValueFormat::keys());
-    std::vector<std::string> entries;
-    if (format->choosesEntries)
-        entries = differentTexts(node.required("entries", "a parameter of type " + QString(format->key)), "the entries",
-                                 "an entry");
-    else if (auto const* const unwanted = node.find("entries"))
-        unwanted->refuse("no entries for the type " + QString(format->key));
-
-    auto const ownValue = format->read(node.required("value", what), entries);
+    auto const& format = readFormat(node.required("type", what));
+    auto const entries = readEntries(node, format);
+    auto const ownValue = format.read(node.required("value", what), entries);
     auto const* const poolValues = node.find("values");
     auto const* const perPool = node.find("perPool");
     bool const keepsPerPool = perPool ? perPool->truth("\"perPool\"") : poolValues != nullptr;
@@ -112,23 +129,19 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
         perPool->refuse("true where \"values\" are given");
     using Values = Kolt::VParameter::Values;
     Kolt::ParameterPtr const parameter(new Kolt::VParameter(
-        name.toStdString(), ownValue, keepsPerPool ? Values::PerPool : Values::Shared, format->typeName));
+        name.toStdString(), ownValue, keepsPerPool ? Values::PerPool : Values::Shared, format.typeName));
     object->addParameter(parameter);
     if (poolValues)
-        readPoolValues(*poolValues, *parameter, *format, entries);
+        readPoolValues(*poolValues, *parameter, format, entries);
     // Editors change a selection in place. A pool that fell back on the parameter's own one would change it for all.
-    if (keepsPerPool && format->choosesEntries)
+    if (keepsPerPool && format.choosesEntries)
         for (auto const& pool : network_->pools_)
             parameter->getLocalValue(pool, std::string(), true);
 
     network_->connectActions(*parameter, object);
-    if (auto const* const preferences = node.find("preferences")) {
-        auto const names = differentTexts(*preferences, "the preferences", "the name of a preference");
-        parameter->setCreationPreferences(Kolt::PreferencesPtr(
-            new Kolt::VCreationPreferences(Kolt::VCreationPreferences::Names(names.begin(), names.end()))));
-    }
+    readPreferences(node, *parameter);
     if (auto const* const properties = node.find("properties"))
-        for (auto const& [key, value] : PropertyFormat(format->key, network_->folder()).read(*properties))
+        for (auto const& [key, value] : PropertyFormat(format.key, network_->folder()).read(*properties))
             parameter->setProperty(key, value, nullptr, nullptr, nullptr);
 }
 

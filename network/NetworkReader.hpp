@@ -3,6 +3,7 @@
 #include <network/JsonNode.hpp>
 #include <network/Network.hpp>
 #include <QSet>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
@@ -10,7 +11,7 @@ class PropertyFormat;
 struct ValueFormat;
 
 /// Makes a network from the text of a network file.
-class NetworkReader {
+class TALO_EXPORT NetworkReader {
 public:
     /// The whole network; throws a FormatError when anything in the text is wrong. `file` says where relative paths
     /// start; it need not exist. The factory makes the objects; an empty one makes objects that do nothing.

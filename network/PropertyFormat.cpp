@@ -8,15 +8,6 @@
 
 namespace Talo {
 
-namespace {
-
-template <typename T>
-Kolt::VTypedValueBase<T> const* typed(Kolt::ValuePtr const& value) {
-    return dynamic_cast<Kolt::VTypedValueBase<T> const*>(value.get());
-}
-
-} // namespace
-
 PropertyFormat::PropertyFormat(QString typeKey, QString folder)
     : typeKey_(std::move(typeKey)), folder_(std::move(folder)) {}
 
@@ -76,7 +67,9 @@ void PropertyFormat::checkRanges(JsonNode const& node, Kolt::ValueMap const& pro
     for (auto const* const name : {"min", "max"})
         if (!std::isfinite(Kolt::valueOr(properties.getValue(name), 0.0)))
             refuse(name, "a finite number");
-    if (typed<double>(minimum) && typed<double>(maximum) && Kolt::valueOr(minimum, 0.0) >= Kolt::valueOr(maximum, 0.0))
+    auto const least = Kolt::valueIn<double>(minimum);
+    auto const most = Kolt::valueIn<double>(maximum);
+    if (least && most && *least >= *most)
         refuse("max", "above \"min\"");
     // It counts the positions of the control.
     auto const positions = Kolt::valueOr(increment, 2.0);
@@ -94,19 +87,18 @@ Kolt::ValueMap PropertyFormat::read(JsonNode const& node) const {
 
 QJsonValue PropertyFormat::write(QString const& name, Kolt::ValuePtr const& value, QString const& targetFolder) const {
     auto const kind = kindOf(name);
-    if (typed<bool>(value))
-        return Kolt::valueOr(value, false);
-    if (typed<int>(value)) {
-        int const number = Kolt::valueOr(value, 0);
-        return kind == Kind::Real ? QJsonValue(QJsonObject{{"int", number}}) : QJsonValue(number);
-    }
-    if (typed<double>(value)) {
-        auto const number = realToJson(Kolt::valueOr(value, 0.0));
+    if (auto const on = Kolt::valueIn<bool>(value))
+        return *on;
+    if (auto const number = Kolt::valueIn<int>(value))
+        return kind == Kind::Real ? QJsonValue(QJsonObject{{"int", *number}}) : QJsonValue(*number);
+    if (auto const real = Kolt::valueIn<double>(value)) {
+        auto const number = realToJson(*real);
         return kind == Kind::Real && number.isDouble() ? number : QJsonValue(QJsonObject{{"double", number}});
     }
-    if (!typed<std::string>(value))
+    auto const content = Kolt::valueIn<std::string>(value);
+    if (!content)
         return QJsonValue::Undefined;
-    auto const text = QString::fromStdString(Kolt::valueOr(value, std::string()));
+    auto const text = QString::fromStdString(*content);
     if (!isRelative(name, value))
         return text;
     // As it was written, unless the file goes to another folder.

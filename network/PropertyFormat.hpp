@@ -3,6 +3,7 @@
 #include <lattice/Value.hpp>
 #include <lattice/ValueMap.hpp>
 #include <network/JsonNode.hpp>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
@@ -13,7 +14,7 @@ namespace Talo {
 /// numbers. A property with another name may be any of these.
 ///
 /// The path of "icon" is relative to the folder of the network file; editors get it with that folder.
-class PropertyFormat {
+class TALO_EXPORT PropertyFormat {
 public:
     /// For parameters of a type, named by its key in the file, in a network file of a folder (absolute).
     PropertyFormat(QString typeKey, QString folder);

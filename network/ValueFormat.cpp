@@ -1,7 +1,13 @@
 #include <algorithm>
 #include <bramble/Action.hpp>
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/EnumSelection.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/ObjectStatus.hpp>
+#include <bramble/StringSelection.hpp>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -19,25 +25,17 @@ using Entries = ValueFormat::Entries;
 using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
 using StringArray = std::array<std::string, 1>;
 
-/// The T in a value object; nothing for an object of another type.
-template <typename T>
-std::optional<T> contentOf(Kolt::ValuePtr const& value) {
-    T content{};
-    auto const* const typed = dynamic_cast<Kolt::VTypedValueBase<T> const*>(value.get());
-    return typed && typed->get(content) ? std::optional<T>(content) : std::nullopt;
-}
-
 /// The content of a value object as JSON by `write`; undefined for an object of another type.
 template <typename T, typename Write>
 QJsonValue written(Kolt::ValuePtr const& value, Write const& write) {
-    auto const content = contentOf<T>(value);
+    auto const content = Kolt::valueIn<T>(value);
     return content ? QJsonValue(write(*content)) : QJsonValue(QJsonValue::Undefined);
 }
 
 template <typename T>
 void copyContent(Kolt::ValuePtr const& from, Kolt::ValuePtr const& to) {
-    auto const content = contentOf<T>(from);
-    auto* const target = dynamic_cast<Kolt::VTypedValueBase<T>*>(to.get());
+    auto const content = Kolt::valueIn<T>(from);
+    auto* const target = Kolt::typedValue<T>(to.get());
     if (content && target)
         target->set(*content);
 }
@@ -227,31 +225,31 @@ Kolt::ValuePtr readStringArray(JsonNode const& node, Entries const&) {
 }
 
 QJsonValue writeStringArray(Kolt::ValuePtr const& value) {
-    auto const array = contentOf<StringArray>(value);
-    auto const text = array ? std::optional<std::string>(array->front()) : contentOf<std::string>(value);
+    auto const array = Kolt::valueIn<StringArray>(value);
+    auto const text = array ? std::optional<std::string>(array->front()) : Kolt::valueIn<std::string>(value);
     return text ? QJsonValue(QJsonArray{textToJson(*text)}) : QJsonValue(QJsonValue::Undefined);
 }
 
 std::vector<ValueFormat> const& formats() {
     using Tessera::Typename;
     static std::vector<ValueFormat> const all = {
-        {"bool", Typename(typeid(bool)), false, true, readBool, writeBool, copyContent<bool>},
-        {"int", Typename(typeid(int)), false, true, readInt, writeInt, copyContent<int>},
-        {"double", Typename(typeid(double)), false, true, readDouble, writeDouble, copyContent<double>},
-        {"action", Typename(typeid(ActionPtr)), false, false, readAction, writeAction, copyContent<ActionPtr>},
-        {"colour", Typename(typeid(Ferro::rgba_float_t)), false, true, readColour, writeColour,
+        {"bool", Typename(typeid(bool)), false, readBool, writeBool, copyContent<bool>},
+        {"int", Typename(typeid(int)), false, readInt, writeInt, copyContent<int>},
+        {"double", Typename(typeid(double)), false, readDouble, writeDouble, copyContent<double>},
+        {"action", Typename(typeid(ActionPtr)), false, readAction, writeAction, copyContent<ActionPtr>},
+        {"colour", Typename(typeid(Ferro::rgba_float_t)), false, readColour, writeColour,
          copyContent<Ferro::rgba_float_t>},
-        {"enum", Typename(typeid(Kolt::Enum)), true, true, readEnum, writeEnum, copyContent<Kolt::Enum>},
-        {"flags", Typename(typeid(Kolt::FlagList)), false, true, readFlags, writeFlags, copyContent<Kolt::FlagList>},
-        {"info", Typename(typeid(Kolt::info)), false, false, readInfo, writeInfo, copyContent<Kolt::info>},
-        {"selection", Typename(typeid(Kolt::VStringList)), true, true, readSelection, writeSelection,
+        {"enum", Typename(typeid(Kolt::Enum)), true, readEnum, writeEnum, copyContent<Kolt::Enum>},
+        {"flags", Typename(typeid(Kolt::FlagList)), false, readFlags, writeFlags, copyContent<Kolt::FlagList>},
+        {"info", Typename(typeid(Kolt::info)), false, readInfo, writeInfo, copyContent<Kolt::info>},
+        {"selection", Typename(typeid(Kolt::VStringList)), true, readSelection, writeSelection,
          copyContent<Kolt::VStringList>},
-        {"multiselection", Typename(typeid(Kolt::VMultipleStringList)), true, true, readMultipleSelection,
+        {"multiselection", Typename(typeid(Kolt::VMultipleStringList)), true, readMultipleSelection,
          writeMultipleSelection, copyContent<Kolt::VMultipleStringList>},
-        {"status", Typename(typeid(Kolt::VObjectStatus)), false, false, readStatus, writeStatus,
+        {"status", Typename(typeid(Kolt::VObjectStatus)), false, readStatus, writeStatus,
          copyContent<Kolt::VObjectStatus>},
-        {"string", Typename(typeid(std::string)), false, true, readString, writeString, copyContent<std::string>},
-        {"stringarray", Typename(typeid(StringArray)), false, true, readStringArray, writeStringArray,
+        {"string", Typename(typeid(std::string)), false, readString, writeString, copyContent<std::string>},
+        {"stringarray", Typename(typeid(StringArray)), false, readStringArray, writeStringArray,
          copyContent<std::string>}};
     return all;
 }
@@ -281,18 +279,13 @@ QString ValueFormat::keys() {
 
 ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value) {
     Tessera::StringList const* list = nullptr;
-    if (auto const choice = contentOf<Kolt::Enum>(value))
+    if (auto const choice = Kolt::valueIn<Kolt::Enum>(value))
         list = choice->names().get();
-    else if (auto const selection = contentOf<Kolt::VStringList>(value))
+    else if (auto const selection = Kolt::valueIn<Kolt::VStringList>(value))
         list = selection->get();
-    else if (auto const multiple = contentOf<Kolt::VMultipleStringList>(value))
+    else if (auto const multiple = Kolt::valueIn<Kolt::VMultipleStringList>(value))
         list = multiple->get();
     return list ? &list->strings() : nullptr;
-}
-
-bool isEdited(Kolt::VParameter const& parameter) {
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
-    return format && format->edited;
 }
 
 QJsonValue realToJson(double number) {

@@ -3,12 +3,13 @@
 #include <lattice/Parameter.hpp>
 #include <network/JsonNode.hpp>
 #include <string>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Talo {
 
 /// How a network file writes the values of one type.
-struct ValueFormat {
+struct TALO_EXPORT ValueFormat {
     /// The texts among which a value chooses; empty for types that do not choose.
     using Entries = std::vector<std::string>;
 
@@ -18,8 +19,6 @@ struct ValueFormat {
     std::string typeName;
     /// Whether values choose among the entries of their parameter.
     bool choosesEntries;
-    /// Whether people edit values of the type; the others are shown, and told by objects, on any thread.
-    bool edited;
     /// A new value object; throws a FormatError for what is no value of the type.
     Kolt::ValuePtr (*read)(JsonNode const& node, Entries const& entries);
     /// The value as JSON; undefined when the object is not one that `read` makes, or holds a text that is not UTF-8.
@@ -37,12 +36,9 @@ struct ValueFormat {
 };
 
 /// The entries among which a value chooses; null when it refers to no list.
-ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value);
-
-/// Whether people edit the values of the parameter. Not so where no network file can hold them.
-bool isEdited(Kolt::VParameter const& parameter);
+TALO_EXPORT ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value);
 
 /// A number as JsonNode::real reads it.
-QJsonValue realToJson(double number);
+TALO_EXPORT QJsonValue realToJson(double number);
 
 } // namespace Talo

@@ -1,14 +1,15 @@
-#include <bramble/Values.hpp>
+#include <bramble/FlagList.hpp>
 #include <network/ValueText.hpp>
 
 namespace Talo {
 
 Kolt::ValuePtr valueFromText(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool, QString const& text) {
     auto const value = Kolt::copyEffectiveValue(parameter, pool).value;
-    Kolt::FlagList const none;
-    auto const flags = Kolt::valueOr(value, none).size();
-    bool const isValue = value->setValueFromText(text.toStdString());
-    return isValue && Kolt::valueOr(value, none).size() == flags ? value : nullptr;
+    auto const before = Kolt::valueIn<Kolt::FlagList>(value);
+    if (!value->setValueFromText(text.toStdString()))
+        return nullptr;
+    auto const after = Kolt::valueIn<Kolt::FlagList>(value);
+    return before && after && before->size() != after->size() ? nullptr : value;
 }
 
 } // namespace Talo

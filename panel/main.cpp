@@ -2,7 +2,7 @@
 #include <cstdio>
 #include <fractal/objects/ObjectFactory.hpp>
 #include <functional>
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <panel/CommandLine.hpp>
 #include <panel/gallery/Gallery.hpp>
 #include <panel/InstalledFiles.hpp>
@@ -146,54 +146,36 @@ int showGallery(Panel::CommandLine const& commandLine, QString const& pluginErro
     return show(gallery);
 }
 
-int run(Panel::CommandLine const& commandLine) {
-    // Closes the plug-ins when everything below is gone.
-    Panel::Plugins plugins;
-    bool const otherPlugins = !commandLine.plugins.isEmpty();
-    QString pluginError;
-    for (auto const& file : otherPlugins ? commandLine.plugins : QStringList{Panel::defaultPluginFile()}) {
-        if (!plugins.load(file, &pluginError) && otherPlugins)
-            return refuse(pluginError);
-    }
-    if (!pluginError.isEmpty())
-        refuse(pluginError);
-    if (commandLine.listCreators) {
-        // A list without them would be wrong; everything else has stand-ins.
-        if (!pluginError.isEmpty())
-            return badUse;
-        printCreators();
-        if (!commandLine.values && commandLine.screenshot.isEmpty())
-            return 0;
-    }
+/// Loads the plug-ins that are asked for, or the project's own. Returns false, after saying why, if one that is asked
+/// for cannot be loaded; without the own one the program goes on, and the reason is in `error`.
+bool loadPlugins(Panel::Plugins& plugins, Panel::CommandLine const& commandLine, QString& error) {
+    bool const areAskedFor = !commandLine.plugins.isEmpty();
+    bool loaded = true;
+    for (auto const& file : areAskedFor ? commandLine.plugins : QStringList{Panel::defaultPluginFile()})
+        loaded = plugins.load(file, &error) && loaded;
+    if (!error.isEmpty())
+        refuse(error);
+    return loaded || !areAskedFor;
+}
 
-    if (commandLine.gallery)
-        return showGallery(commandLine, pluginError);
+/// The network that the command line names, prepared as it says; null, after saying why, if that cannot be done.
+std::unique_ptr<Talo::Network> openNetwork(Panel::CommandLine const& commandLine) {
     auto const file = commandLine.network.isEmpty() ? Panel::defaultNetworkFile() : commandLine.network;
-    if (file.isEmpty())
-        return refuse(
+    if (file.isEmpty()) {
+        refuse(
             QCoreApplication::translate("main", "examples/networks/fractal.json is missing; name a network to open."));
-    auto loaded = Talo::Network::load(file, Fractal::makeObject);
-    if (!loaded.network)
-        return refuse(loaded.error);
-    auto const problem = prepare(*loaded.network, commandLine);
-    if (!problem.isEmpty())
-        return refuse(problem);
-    if (commandLine.values) {
-        print(loaded.network->values());
-        if (commandLine.screenshot.isEmpty())
-            return 0;
+        return nullptr;
     }
+    auto loaded = Talo::Network::load(file, Fractal::makeObject);
+    auto const problem = loaded.network ? prepare(*loaded.network, commandLine) : loaded.error;
+    if (problem.isEmpty())
+        return std::move(loaded.network);
+    refuse(problem);
+    return nullptr;
+}
 
-    Panel::MainWindow window(plugins);
-    if (!pluginError.isEmpty())
-        window.messages()->add(Panel::MessageList::Source::Error, pluginError);
-    window.tapStandardOutput();
-    window.showNetwork(std::move(loaded.network));
-    // What is asked for on the command line comes after it, and wins.
-    Panel::Session session(Panel::Session::userFile());
-    QObject::connect(&session, &Panel::Session::failed, refuse);
-    if (commandLine.session && !commandLine.isBatch())
-        session.follow(window);
+/// Changes the window as the command line says, which wins over the session.
+void prepareWindow(Panel::MainWindow& window, Panel::CommandLine const& commandLine) {
     if (commandLine.rawValues)
         window.setRawValuesShown(true);
     if (commandLine.size.isValid()) {
@@ -204,10 +186,52 @@ int run(Panel::CommandLine const& commandLine) {
         window.choosePool(commandLine.pool);
     if (!commandLine.object.isEmpty())
         window.showObject(commandLine.object);
+}
+
+int showWindow(Panel::Plugins& plugins, std::unique_ptr<Talo::Network> network, Panel::CommandLine const& commandLine,
+               QString const& pluginError) {
+    Panel::MainWindow window(plugins);
+    if (!pluginError.isEmpty())
+        window.messages()->add(Panel::MessageList::Source::Error, pluginError);
+    window.tapStandardOutput();
+    window.showNetwork(std::move(network));
+    Panel::Session session(Panel::Session::userFile());
+    QObject::connect(&session, &Panel::Session::failed, refuse);
+    if (commandLine.session && !commandLine.isBatch())
+        session.follow(window);
+    prepareWindow(window, commandLine);
     if (!commandLine.screenshot.isEmpty())
         return draw(
             window, [&] { return window.fractalController().isAtRest(); }, commandLine.screenshot);
     return show(window);
+}
+
+int run(Panel::CommandLine const& commandLine) {
+    // Closes the plug-ins after everything else was destroyed.
+    Panel::Plugins plugins;
+    QString pluginError;
+    if (!loadPlugins(plugins, commandLine, pluginError))
+        return badUse;
+    bool const draws = !commandLine.screenshot.isEmpty();
+    if (commandLine.listCreators) {
+        // A list without them would be wrong; everything else has placeholders.
+        if (!pluginError.isEmpty())
+            return badUse;
+        printCreators();
+        if (!commandLine.values && !draws)
+            return 0;
+    }
+    if (commandLine.gallery)
+        return showGallery(commandLine, pluginError);
+    auto network = openNetwork(commandLine);
+    if (!network)
+        return badUse;
+    if (commandLine.values) {
+        print(network->values());
+        if (!draws)
+            return 0;
+    }
+    return showWindow(plugins, std::move(network), commandLine, pluginError);
 }
 
 } // namespace

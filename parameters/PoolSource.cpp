@@ -11,6 +11,10 @@ public:
 
 PoolSource::PoolSource() : provider_(new Provider) {}
 
+PoolSource::PoolSource(Kolt::PoolPtr const& pool) : PoolSource() {
+    setPool(pool);
+}
+
 PoolSource::~PoolSource() = default;
 
 Tessera::StrongPtr<Kolt::ValuePoolProvider> PoolSource::getValuePoolProvider() const {

@@ -1,23 +1,27 @@
 #pragma once
 
-#include <lattice/ValuePool.hpp>
+#include <lattice/ValuePoolSource.hpp>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
-/// The value pool that was chosen in the panel, for all its editors, icons and raw values. It must outlive the editors
-/// made with it; icons share its provider. User-interface thread.
-class PoolSource : public Kolt::ValuePoolSource {
+/// A pool source whose pool the host chooses, for the editors, icons and raw values of a panel. It must outlive the
+/// editors made with it; icons share its provider. User-interface thread.
+class TALO_EXPORT PoolSource : public Kolt::ValuePoolSource {
 public:
+    /// Without a pool at first.
     PoolSource();
+    explicit PoolSource(Kolt::PoolPtr const& pool);
     ~PoolSource() override;
     PoolSource(PoolSource const&) = delete;
     PoolSource& operator=(PoolSource const&) = delete;
 
     /// Always the same provider; never null.
     Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override;
-    /// The chosen pool; null as long as none was chosen.
+    /// The chosen pool; null for none.
     Kolt::PoolPtr pool() const;
-    /// Chooses a pool; null for none. Tells nobody: whoever chooses has the editors show the pool's values.
+    /// Chooses a pool; null for none. Notifies nobody: the caller has its panels show the pool
+    /// (ParameterPanel::showPool).
     void setPool(Kolt::PoolPtr const& pool);
 
 private:

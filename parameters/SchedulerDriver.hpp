@@ -2,12 +2,13 @@
 
 #include <QObject>
 #include <QTimer>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Runs what the host's scheduler has waiting from the event loop: never inside the call that schedules, and each entry
 /// when it is due. One for the process at a time. User-interface thread.
-class SchedulerDriver : public QObject {
+class TALO_EXPORT SchedulerDriver : public QObject {
     Q_OBJECT
 
 public:

@@ -3,15 +3,15 @@
 #include <sorrel/QInputCreator.hpp>
 #include <tuple>
 
-/// Static creators carry this, so that all of them stand before the load callback reports attach and none goes before
-/// it reported detach.
+/// Every static creator carries this initialisation priority, so that all of them are registered before TALO_PLUGIN
+/// reports attach, and none is unregistered before it reported detach.
 #define TALO_STATIC_CREATOR [[gnu::init_priority(1000)]] static
 
 namespace Kolt {
 
-/// Offers the widget class W for values of type T: an object that stands registered with the host as an input creator
-/// and builds a W for a parameter when the Qt front end asks. Made once for each name and preference set, as a static
-/// object of the library.
+/// Offers the widget class W for values of type T: it is registered with the host as an input creator as long as it
+/// lives, and makes a W for a parameter when the Qt front end asks. One static object of the plug-in for each name and
+/// preference set, at the foot of the widget's source. Loading thread; create() on the user-interface thread.
 ///
 /// W has the constructor W(ParameterRef const& parameter, QWidget* parent,
 /// ValuePoolSource* poolSource, PreferencesPtr const& preferences) and is a QWidget and a VInputBase.
@@ -19,8 +19,8 @@ template <typename T, typename W>
 class QInputWidgetCreator : public VInputCreator<T, VInputCreatorBase> {
 public:
     /// Registers the creator, adds "QT" to its preferences and attaches its QInputCreator. `prefs` becomes the
-    /// creator's set; null makes an empty one. Where the host refuses the registration, one warning is printed and
-    /// handed to the host, and the creator stays.
+    /// creator's set; null makes an empty one. `name` need not be unique. If the host refuses the registration, one
+    /// warning is printed and passed to the host, and the creator stays constructed.
     QInputWidgetCreator(std::string const& name, PreferencesPtr const& prefs)
         : VInputCreator<T, VInputCreatorBase>(name, 0, prefs ? prefs : PreferencesPtr(new VCreationPreferences),
                                               "TALO_API_VERSION") {
@@ -28,11 +28,14 @@ public:
         this->addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new QCreator(*this)));
     }
 
-    /// The creator as the Qt front end sees it.
+    /// The creator as the Qt front end finds it: an interface of the creator, which owns it.
     class QCreator : public QInputCreator {
     public:
+        /// `creator` owns this object.
         explicit QCreator(QInputWidgetCreator& creator) : creator_(creator) {}
 
+        /// Makes a W with the creator's preferences. `parent` owns it and may be null. Gives the widget, and its input,
+        /// or an empty reference if it is none.
         std::pair<QPointer<QWidget>, InputRef> create(ParameterRef const& parameter, QWidget* parent,
                                                       ValuePoolSource* poolSource) override {
             auto const preferences = mergePreferences(nullptr, creator_.preferences());

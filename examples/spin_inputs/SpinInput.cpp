@@ -1,7 +1,7 @@
 #include "SpinInput.hpp"
 
-#include <lattice/Initialization.hpp>
 #include <limits>
+#include <plugin/Plugin.hpp>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QSignalBlocker>
 
@@ -23,8 +23,7 @@ void SpinInput::onValueChange(ValuePtr const& newValue, VContext const& context,
 }
 
 void SpinInput::showValue(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
-    if (!typed || !typed->get(cached_))
+    if (!cacheStored(value))
         return;
     QSignalBlocker const blocker(this);
     QSpinBox::setValue(cached_);
@@ -43,7 +42,4 @@ TALO_STATIC_CREATOR QInputWidgetCreator<int, SpinInput> const
 
 } // namespace Kolt
 
-extern "C" __attribute__((visibility("default"))) bool
-TALO_API_2023_MAR_29__spin_inputs(Kolt::VInitialization const* host) {
-    return host->IsCompatible("TALO_API_VERSION");
-}
+TALO_PLUGIN(spin_inputs);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
 #include <QRgb>
 #include <QString>
 #include <vector>

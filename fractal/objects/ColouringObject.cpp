@@ -1,5 +1,6 @@
 #include <algorithm>
-#include <bramble/Selection.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/StringSelection.hpp>
 #include <fractal/engine/GimpPalette.hpp>
 #include <fractal/objects/ColouringObject.hpp>
 #include <fractal/objects/EnumNames.hpp>
@@ -17,7 +18,7 @@ ColouringObject::ColouringObject(std::string const& name) : ComputingObject(name
 
 ColouringObject::~ColouringObject() = default;
 
-void ColouringObject::contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) {
+void ColouringObject::applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const {
     using Palette = FractalSettings::Palette;
     using Blend = FractalSettings::Blend;
     settings.inside = read("inside", pool, settings.inside);
@@ -38,13 +39,16 @@ void ColouringObject::contribute(FractalSettings& settings, Kolt::PoolPtr const&
         if (channels.contains(name))
             isUsed = channels.isSet(name);
     }
-    if (settings.palette == Palette::FromFile) {
-        auto const file = paletteFile(pool);
-        if (file != paletteFile_)
-            readPalette(file);
-        settings.fileColours = fileColours_;
-        settings.problem = paletteProblem_;
-    }
+}
+
+void ColouringObject::readFiles(FractalSettings& settings, Kolt::PoolPtr const& pool) {
+    if (settings.palette != FractalSettings::Palette::FromFile)
+        return;
+    auto const file = paletteFile(pool);
+    if (file != paletteFile_)
+        readPalette(file);
+    settings.fileColours = fileColours_;
+    settings.problem = paletteProblem_;
 }
 
 void ColouringObject::run(Kolt::PoolPtr const& pool) {

@@ -13,9 +13,10 @@ public:
     explicit ColouringObject(std::string const& name);
     ~ColouringObject() override;
 
+    void applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const override;
     /// Reads the palette file if it is needed and was not read yet. A file that cannot be read leaves the palette
     /// without colours, and the settings say why.
-    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
+    void readFiles(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
     /// Reads the palette file, also once more, and chooses the palette "From file" in the pool. Where it cannot be read
     /// the host is warned, and the choice stays as it is.
     void run(Kolt::PoolPtr const& pool) override;

@@ -11,8 +11,10 @@ bool ComputingNetwork::computes() const {
 
 FractalSettings ComputingNetwork::settings(Kolt::PoolPtr const& pool) const {
     FractalSettings settings;
-    for (auto* const object : all<ComputingObject>())
-        object->contribute(settings, pool);
+    for (auto* const object : all<ComputingObject>()) {
+        object->applyParameters(settings, pool);
+        object->readFiles(settings, pool);
+    }
     settings.limit();
     return settings;
 }

@@ -6,6 +6,8 @@ ComputingObject::ComputingObject(std::string const& name) : VObject(name) {}
 
 ComputingObject::~ComputingObject() = default;
 
+void ComputingObject::readFiles(FractalSettings&, Kolt::PoolPtr const&) {}
+
 bool ComputingObject::shapesPicture() const {
     return true;
 }

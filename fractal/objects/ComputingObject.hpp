@@ -14,7 +14,10 @@ public:
     ~ComputingObject() override;
 
     /// Puts what the object's parameters hold in a pool into the settings.
-    virtual void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) = 0;
+    virtual void applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const = 0;
+    /// Reads the files that the settings need and that were not read yet, and puts what they hold into the settings.
+    /// Most objects read none.
+    virtual void readFiles(FractalSettings& settings, Kolt::PoolPtr const& pool);
     /// Whether the object's parameters change what a picture looks like.
     virtual bool shapesPicture() const;
 
@@ -31,7 +34,7 @@ protected:
     template <typename T>
     QString readText(char const* parameter, Kolt::PoolPtr const& pool) const {
         auto const found = value(parameter, pool);
-        auto const* const typed = dynamic_cast<Kolt::VTypedValueBase<T> const*>(found.get());
+        auto const* const typed = Kolt::typedValue<T>(found.get());
         return typed ? QString::fromStdString(typed->Text()) : QString();
     }
 };

@@ -6,7 +6,7 @@ ExporterObject::ExporterObject(std::string const& name) : ComputingObject(name) 
 
 ExporterObject::~ExporterObject() = default;
 
-void ExporterObject::contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) {
+void ExporterObject::applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const {
     settings.width = read("width", pool, settings.width);
 }
 

@@ -17,7 +17,7 @@ public:
     explicit ExporterObject(std::string const& name);
     ~ExporterObject() override;
 
-    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
+    void applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const override;
     bool shapesPicture() const override;
     /// Writes the file that was chosen last. A run does not tell which slot it is for, but choosing a file, the same
     /// one included, renews its age stamp; so it is the slot with the latest one that no run was for yet. Nothing

@@ -1,4 +1,4 @@
-#include <bramble/Selection.hpp>
+#include <bramble/Enum.hpp>
 #include <fractal/objects/EnumNames.hpp>
 #include <fractal/objects/FormulaObject.hpp>
 
@@ -8,7 +8,7 @@ FormulaObject::FormulaObject(std::string const& name) : ComputingObject(name) {}
 
 FormulaObject::~FormulaObject() = default;
 
-void FormulaObject::contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) {
+void FormulaObject::applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const {
     using Formula = FractalSettings::Formula;
     settings.formula = chosen(readText<Kolt::Enum>("kind", pool), settings.formula,
                               {{"Mandelbrot", Formula::Mandelbrot},

@@ -12,7 +12,7 @@ public:
     explicit FormulaObject(std::string const& name);
     ~FormulaObject() override;
 
-    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
+    void applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const override;
 };
 
 } // namespace Fractal

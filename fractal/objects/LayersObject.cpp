@@ -1,4 +1,4 @@
-#include <bramble/Selection.hpp>
+#include <bramble/MultipleStringSelection.hpp>
 #include <fractal/objects/LayersObject.hpp>
 #include <QStringList>
 
@@ -8,7 +8,7 @@ LayersObject::LayersObject(std::string const& name) : ComputingObject(name) {}
 
 LayersObject::~LayersObject() = default;
 
-void LayersObject::contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) {
+void LayersObject::applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const {
     auto const overlays = readText<Kolt::VMultipleStringList>("overlays", pool).split(QLatin1Char('\n'));
     settings.axes = overlays.contains(QLatin1String("Axes"));
     settings.grid = overlays.contains(QLatin1String("Grid"));

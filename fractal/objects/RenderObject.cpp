@@ -1,4 +1,4 @@
-#include <bramble/Values.hpp>
+#include <bramble/Info.hpp>
 #include <fractal/objects/RenderObject.hpp>
 
 namespace Fractal {
@@ -7,7 +7,7 @@ RenderObject::RenderObject(std::string const& name) : ComputingObject(name) {}
 
 RenderObject::~RenderObject() = default;
 
-void RenderObject::contribute(FractalSettings&, Kolt::PoolPtr const&) {}
+void RenderObject::applyParameters(FractalSettings&, Kolt::PoolPtr const&) const {}
 
 bool RenderObject::shapesPicture() const {
     return false;

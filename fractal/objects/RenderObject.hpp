@@ -12,7 +12,7 @@ public:
     ~RenderObject() override;
 
     /// Adds nothing.
-    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
+    void applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const override;
     bool shapesPicture() const override;
 
     /// Whether firing the parameter's action starts the computing.

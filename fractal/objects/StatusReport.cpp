@@ -1,4 +1,4 @@
-#include <bramble/Values.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <fractal/objects/StatusReport.hpp>
 
 namespace Fractal {
@@ -11,7 +11,7 @@ StatusReport::StatusReport(RenderObject const* object, Kolt::PoolPtr const& pool
 }
 
 void StatusReport::write(QString const& text) const {
-    auto* const typed = dynamic_cast<Kolt::VTypedValueBase<Kolt::VObjectStatus>*>(value_.get());
+    auto* const typed = Kolt::typedValue<Kolt::VObjectStatus>(value_.get());
     if (!typed || !typed->set(Kolt::VObjectStatus(text.toStdString())))
         return;
     value_->renewAge();

@@ -7,7 +7,7 @@ TitlesObject::TitlesObject(std::string const& name) : ComputingObject(name) {}
 
 TitlesObject::~TitlesObject() = default;
 
-void TitlesObject::contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) {
+void TitlesObject::applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const {
     auto const text = [&](char const* parameter) {
         return QString::fromStdString(read(parameter, pool, std::string()));
     };

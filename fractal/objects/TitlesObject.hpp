@@ -11,7 +11,7 @@ public:
     explicit TitlesObject(std::string const& name);
     ~TitlesObject() override;
 
-    void contribute(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
+    void applyParameters(FractalSettings& settings, Kolt::PoolPtr const& pool) const override;
 };
 
 } // namespace Fractal

@@ -1,4 +1,4 @@
-#include <bramble/Values.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <fractal/ui/ComputingBar.hpp>
 #include <fractal/ui/FractalController.hpp>
 #include <QAction>

@@ -2,29 +2,34 @@
 
 #include <set>
 #include <string>
+#include <tessera/Export.hpp>
 #include <tessera/Interface.hpp>
 
 namespace Kolt {
 
-/// A set of preference names ("dial", "periodic", "editable", "QT"), by which an editor is chosen and told how to
-/// look. Shared by strong references; whoever shares a set sees what is added to it. Loading thread or
+/// A set of preference names ("dial", "periodic", "editable", "QT"). The names choose an editor and configure it.
+///
+/// Sets are shared by strong references: all holders of a set see the names that are added later. Loading thread or
 /// user-interface thread.
-class VCreationPreferences : public Tessera::Interface<VCreationPreferences> {
+class TALO_EXPORT VCreationPreferences : public Tessera::Interface<VCreationPreferences> {
 public:
     using Names = std::set<std::string>;
 
+    /// The empty set, and sets of one and two names. Write two std::string arguments: braces around two string
+    /// literals would select an iterator constructor of std::string.
     VCreationPreferences();
     explicit VCreationPreferences(std::string const& name);
     VCreationPreferences(std::string const& first, std::string const& second);
-    /// The union of both sets, which stay as they are.
+    /// The union of both sets, which are not changed.
     VCreationPreferences(VCreationPreferences const& left, VCreationPreferences const& right);
     /// A copy of a shared set; null gives the empty set.
     explicit VCreationPreferences(Tessera::StrongPtr<VCreationPreferences, Tessera::InterfaceBase> const& shared);
     explicit VCreationPreferences(Names names);
     ~VCreationPreferences() override;
 
-    /// Adds one name; a name that is in the set changes nothing.
+    /// Adds a name, for all holders of the set. A name that the set contains changes nothing.
     VCreationPreferences& operator+=(std::string const& name);
+    /// Whether the set contains the name; upper and lower case differ.
     bool contains(std::string const& name) const;
     Names const& names() const { return names_; }
 
@@ -34,10 +39,10 @@ private:
 
 using PreferencesPtr = Tessera::StrongPtr<VCreationPreferences, Tessera::InterfaceBase>;
 
-/// The set that holds for an editor: the union of both when both are given, else the one that is, else null.
-PreferencesPtr mergePreferences(PreferencesPtr const& given, PreferencesPtr const& own);
+/// The effective set of an editor: a new union if both are given, the other set if only one is given, null if none is.
+TALO_EXPORT PreferencesPtr mergePreferences(PreferencesPtr const& given, PreferencesPtr const& own);
 
-/// The names as "{dial, periodic}".
-std::string preferenceText(VCreationPreferences::Names const& names);
+/// The names for people, in alphabetical order: "{dial, periodic}".
+TALO_EXPORT std::string preferenceText(VCreationPreferences::Names const& names);
 
 } // namespace Kolt

@@ -1,4 +1,5 @@
 #include <lattice/EditRecorder.hpp>
+
 #include <lattice/UndoHistory.hpp>
 
 namespace Kolt {
@@ -14,32 +15,31 @@ std::shared_ptr<EditRecorder> EditRecorder::watch(ParameterPtr const& parameter)
     return recorder;
 }
 
-EditRecorder::EditRecorder(ParameterPtr const& parameter) : parameter_(parameter), held_(*parameter) {}
+EditRecorder::EditRecorder(ParameterPtr const& parameter) : parameter_(parameter), lastValues_(*parameter) {}
 
 EditRecorder::~EditRecorder() = default;
 
 void EditRecorder::noteEdit(ParameterPtr const& parameter, PoolPtr const& pool) {
-    auto const before = held_.in(pool);
-    // A pool that only got a copy of the parameter's own value counts as one without: the step after it takes both
-    // back.
-    if (held_.isEffectiveIn(*parameter, pool))
+    auto const before = lastValues_.in(pool);
+    // A pool that only got a copy of the inherited value counts as one without a value: the next step undoes both.
+    if (lastValues_.isEffectiveIn(*parameter, pool))
         return;
-    held_.refreshIn(*parameter, pool);
-    UndoHistory::theHistory().record(ValueChange(parameter, pool, before, held_.in(pool)));
+    lastValues_.refreshIn(*parameter, pool);
+    parameter->history().record(ValueChange(parameter, pool, before, lastValues_.in(pool)));
 }
 
 EditRecorder::NotificationScope::NotificationScope(std::shared_ptr<EditRecorder> recorder, PoolPtr const& pool,
                                                    bool byInput)
     : recorder_(std::move(recorder)), byInput_(byInput) {
     auto const parameter = recorder_->parameter_.strong();
-    bool const restores = UndoHistory::theHistory().isRestoring();
+    bool const restores = UndoHistory::isAnyRestoring();
     if (parameter && byInput && recorder_->hostWrites_ == 0 && !restores)
         recorder_->noteEdit(parameter, pool);
     else if (parameter && restores)
-        recorder_->held_.refreshIn(*parameter, pool);
+        recorder_->lastValues_.refreshIn(*parameter, pool);
     else if (parameter)
-        // The host may have written the value behind several pools.
-        recorder_->held_.refresh(*parameter);
+        // The host may have written the own value, which is effective in several pools.
+        recorder_->lastValues_.refresh(*parameter);
     if (!byInput_)
         ++recorder_->hostWrites_;
 }

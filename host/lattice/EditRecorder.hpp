@@ -3,28 +3,31 @@
 #include <lattice/Parameter.hpp>
 #include <lattice/ValueSnapshot.hpp>
 #include <memory>
+#include <tessera/Export.hpp>
 
 namespace Kolt {
 
-/// Watches a parameter and records the edits of it in the history (UndoHistory). An edit is a change of the value that
-/// an input reports; what the host writes itself, without a source, is none, and neither is what an input writes in
-/// answer to it. An edit that changes nothing is not recorded.
+/// Watches a parameter and records its edits in its history (VParameter::history). An edit is a change of the value
+/// that an input reports. What the host writes itself, without a source, is no edit, and neither is what an input
+/// writes while it is notified of that or while a history restores. An edit that changes nothing is not recorded.
 ///
-/// As an edit is told of only after it was stored, the recorder keeps copies of what the parameter holds. A parameter
-/// is watched as long as somebody holds its recorder; as long, its changes may be reported on the user-interface
-/// thread alone. User-interface thread.
-class EditRecorder {
+/// Edits are notified after they were stored; the recorder therefore keeps copies of the parameter's values. A
+/// parameter is watched as long as somebody holds its recorder, and meanwhile its changes must be reported on the
+/// user-interface thread alone. User-interface thread.
+class TALO_EXPORT EditRecorder {
 public:
-    /// The recorder of a parameter, made if it has none; null for a null parameter.
-    static std::shared_ptr<EditRecorder> watch(ParameterPtr const& parameter);
+    /// The recorder of a parameter, which is made if it has none and shared otherwise; null for a null parameter.
+    [[nodiscard]] static std::shared_ptr<EditRecorder> watch(ParameterPtr const& parameter);
     ~EditRecorder();
     EditRecorder(EditRecorder const&) = delete;
     EditRecorder& operator=(EditRecorder const&) = delete;
 
-    /// A change that is being told. The parameter makes one before it tells and keeps it until everybody was told.
-    class NotificationScope {
+    /// A change of the value whose notification is under way. VParameter makes one before it notifies anybody and keeps
+    /// it until everybody was notified.
+    class TALO_EXPORT NotificationScope {
     public:
-        /// The change is stored already. The history's listener may have deleted the parameter afterwards.
+        /// Records the change, if it is an edit. REQUIRES: the change is stored already. A listener of the history may
+        /// have destroyed the parameter afterwards (parameterLives).
         NotificationScope(std::shared_ptr<EditRecorder> recorder, PoolPtr const& pool, bool byInput);
         ~NotificationScope();
         NotificationScope(NotificationScope const&) = delete;
@@ -42,8 +45,8 @@ private:
     void noteEdit(ParameterPtr const& parameter, PoolPtr const& pool);
 
     ParameterRef const parameter_;
-    ValueSnapshot held_;
-    // How many writes of the host are being told.
+    ValueSnapshot lastValues_;
+    // How many notifications of the host's own writes are under way.
     int hostWrites_ = 0;
 };
 

@@ -1,33 +1,37 @@
 #pragma once
 
 #include <string>
-#include <tessera/Interface.hpp>
+#include <tessera/Export.hpp>
+#include <tessera/Intercube.hpp>
+#include <tessera/MutableName.hpp>
 #include <typeinfo>
 
 namespace Kolt {
 
 class VManagedObject;
 
-/// The counters of a managed object.
-class VManagedObjectBase : public Tessera::ReferenceBase<VManagedObjectBase> {
+/// The reference counters of a managed object: a virtual base, so that there is one set of counters per object.
+class TALO_EXPORT VManagedObjectBase : public Tessera::ReferenceBase<VManagedObjectBase> {
 public:
     VManagedObjectBase();
     ~VManagedObjectBase() override;
 };
 
-/// What a walk over managed objects does with each of them.
-class VManagedObjectIterator {
+/// The visitor of VManagedObject::traverse.
+class TALO_EXPORT VManagedObjectIterator {
 public:
     virtual ~VManagedObjectIterator();
-    /// Called once for each object; false ends the walk.
+    /// Called once for each object; false ends the traversal.
     virtual bool visit(VManagedObject& object) = 0;
 };
 
-/// A named object that the host manages and can enumerate. It belongs to a domain, a type by whose name it is found,
-/// and has a priority. The order of an object's life is the order of the walk. Loading thread or user-interface
-/// thread.
-class VManagedObject : public Tessera::Intercube, public Tessera::MutableName, public virtual VManagedObjectBase {
+/// A named object that the host manages and can enumerate. It belongs to a domain, which is a type compared by its
+/// name, and has a priority. Loading thread or user-interface thread.
+class TALO_EXPORT VManagedObject : public Tessera::Intercube,
+                                   public Tessera::MutableName,
+                                   public virtual VManagedObjectBase {
 public:
+    /// The name is UTF-8 and need not be unique. The meaning of the priority is the domain's.
     VManagedObject(std::type_info const& domain, std::string const& name, int priority);
     ~VManagedObject() override;
     VManagedObject(VManagedObject const&) = delete;
@@ -35,14 +39,17 @@ public:
 
     int priority() const { return priority_; }
 
-    /// Shows each living object of a domain whose priority lies between both bounds, inclusive, to the iterator. Walks
-    /// a snapshot: objects made on the way are not shown, objects that die are left out.
+    /// Visits each living object of a domain whose priority lies between both bounds, inclusive, in order of
+    /// construction. Objects that are made meanwhile are left out, and so are those that are destroyed before their
+    /// turn.
     static void traverse(std::type_info const& domain, VManagedObjectIterator& iterator, int lowestPriority,
                          int highestPriority);
 
 private:
     std::string const domain_;
     int const priority_;
+    // The object's key among all managed objects.
+    unsigned long const number_;
 };
 
 /// A managed object of the domain T.

@@ -1,10 +1,29 @@
-#include <algorithm>
-#include <lattice/EditRecorder.hpp>
 #include <lattice/Parameter.hpp>
+
+#include <algorithm>
+#include <lattice/ActionNotifier.hpp>
+#include <lattice/EditRecorder.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <lattice/ValueCreator.hpp>
 
 namespace Kolt {
+
+namespace {
+
+/// The type that editors expect of a property, as a readable name; empty for names that they do not know.
+std::string expectedPropertyType(std::string const& declaredType, std::string const& name) {
+    auto const isOneOf = [&](std::initializer_list<char const*> names) {
+        return std::find(names.begin(), names.end(), name) != names.end();
+    };
+    bool const isNumber = declaredType == "int" || declaredType == "double";
+    if (isNumber && isOneOf({"min", "max", "increment"}))
+        return declaredType;
+    if (isNumber && name == "precision")
+        return "int";
+    return isOneOf({"tooltip", "icon", "inputmask", "Extension"}) ? "std::string" : std::string();
+}
+
+} // namespace
 
 VParameter::VParameter(std::string name, ValuePtr const& ownValue, Values values, std::string declaredType)
     : name_(std::move(name)),
@@ -91,7 +110,7 @@ void VParameter::notifyValueChange(ValuePtr const& value, PoolPtr const& pool, s
                                    ValueMap const* values) const {
     if (!hasListeners() && !alsoNotify && recorder_.expired())
         return;
-    // Held here, as the caller's reference may be a part of what dies on the way.
+    // A copy, as a notifier may destroy what holds the caller's reference.
     auto const live = value;
     VContext const context(pool, nullptr);
     auto recorder = values ? nullptr : recorder_.lock();
@@ -100,7 +119,7 @@ void VParameter::notifyValueChange(ValuePtr const& value, PoolPtr const& pool, s
         return;
     }
     EditRecorder::NotificationScope const scope(std::move(recorder), context.pool(), source.alive());
-    // The recorded step may have been the end of the parameter.
+    // A listener of the history may have destroyed the parameter.
     if (scope.parameterLives())
         notify(source, alsoNotify, live, context, values);
 }
@@ -108,6 +127,10 @@ void VParameter::notifyValueChange(ValuePtr const& value, PoolPtr const& pool, s
 void VParameter::setProperty(std::string const& name, ValuePtr const& value,
                              Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                              Tessera::WeakPtr<ValuePool> const& pool) {
+    auto const expected = value ? expectedPropertyType(declaredType_, name) : std::string();
+    if (!expected.empty() && expected != Tessera::Typename(value->valueType()))
+        VActionNotifier::Warning("The property \"" + name + "\" of the parameter \"" + name_ + "\" should be of type " +
+                                 expected + ", not " + Tessera::Typename(value->valueType()));
     if (!properties_)
         properties_ = std::make_shared<ValueMap>();
     properties_->setValue(name, value);
@@ -117,8 +140,29 @@ void VParameter::setProperty(std::string const& name, ValuePtr const& value,
     notifyValueChange(effectiveValue(context), context, std::string(), source, alsoNotify, properties.get());
 }
 
-void VParameter::AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight) {
-    UndoHistory::theHistory().add(action, weight, ParameterRef(this));
+UndoHistory& VParameter::history() const {
+    auto const attached = history_.strong();
+    return attached ? *attached : UndoHistory::theHistory();
+}
+
+void VParameter::setHistory(UndoHistory* history) {
+    history_ = Tessera::WeakPtr<UndoHistory>(history);
+}
+
+void VParameter::AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int) {
+    history().add(action, ParameterRef(this));
+}
+
+void reportRefusedStore(VParameter const& parameter, std::type_info const& valueType, PoolPtr const& pool) {
+    auto const parameterName = "the parameter \"" + parameter.Name() + '"';
+    auto const value =
+        parameter.keepsValuesPerPool() ? parameter.getLocalValue(pool, std::string(), false) : parameter.ownValue();
+    if (value)
+        VActionNotifier::Warning("A value of type " + Tessera::Typename(valueType) + " cannot be stored in " +
+                                 parameterName + ", whose value is of type " + Tessera::Typename(value->valueType()));
+    else if (!pool)
+        VActionNotifier::Warning("A value cannot be stored without a pool in " + parameterName +
+                                 ", which has a value for each pool");
 }
 
 void markValueChanged(VParameter const& parameter, PoolPtr const& pool) {

@@ -1,9 +1,11 @@
+#include <lattice/PluginLoader.hpp>
+
 #include <algorithm>
 #include <dlfcn.h>
 #include <filesystem>
-#include <lattice/PluginLoader.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <lattice/ValueNotifier.hpp>
+#include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
 
@@ -17,12 +19,18 @@ std::string loaderReason() {
 }
 
 std::filesystem::path pathOf(std::string const& file) {
-    // A bare name would be searched for in the system's library folders, an empty one would be the program itself, and
-    // a link is the file that it leads to.
+    // The system would search its library folders for a bare name and take an empty one for the program itself. Two
+    // links to one file are the same plug-in.
     std::error_code ignored;
     auto const absolute = std::filesystem::absolute(file.empty() ? "." : file, ignored);
     auto const real = std::filesystem::weakly_canonical(absolute, ignored);
     return real.empty() ? absolute.lexically_normal() : real;
+}
+
+// Never destroyed: plug-ins may keep a pointer to it.
+VInitialization& plainHost() {
+    static Tessera::NoDestructor<VInitialization> host;
+    return *host;
 }
 
 } // namespace
@@ -32,7 +40,7 @@ public:
     Plugin(std::string fileName, void* library, void const* base)
         : file(std::move(fileName)), handle(library), base_(base) {}
 
-    // A type that the plug-in defines has its type information there.
+    // The type information of a type lies in the library that defines it.
     bool defines(std::type_info const& type) const {
         Dl_info info{};
         return dladdr(&type, &info) != 0 && info.dli_fbase == base_;
@@ -53,8 +61,10 @@ private:
 
 PluginLoader::PluginLoader(VInitialization& host) : host_(host) {}
 
+PluginLoader::PluginLoader() : PluginLoader(plainHost()) {}
+
 PluginLoader::~PluginLoader() {
-    // The latest first. One whose editors live stays loaded: that is harmless, to take its code away is not.
+    // The latest first. A file whose editors exist stays loaded, as unloading their code would crash.
     while (!plugins_.empty()) {
         if (!unload(plugins_.back()->file).ok)
             plugins_.pop_back();
@@ -102,8 +112,8 @@ PluginLoader::Outcome PluginLoader::unload(std::string const& file) {
     if (int const living = plugin.livingEditors())
         return {false, "The plug-in " + file + " cannot be unloaded while " + std::to_string(living) +
                            (living == 1 ? " of its editors is in use." : " of its editors are in use.")};
-    // The code that takes these steps back goes with the plug-in.
-    UndoHistory::theHistory().forget([&](VUndoAction const& action) { return plugin.defines(typeid(action)); });
+    // The code that undoes these records is unloaded with the plug-in.
+    UndoHistory::forgetEverywhere([&](VUndoAction const& action) { return plugin.defines(typeid(action)); });
     if (dlclose(plugin.handle) != 0)
         return {false, "Cannot close the plug-in " + file + ": " + loaderReason()};
     plugins_.erase(found);

@@ -2,26 +2,29 @@
 
 #include <functional>
 #include <lattice/Object.hpp>
+#include <tessera/Export.hpp>
 
 namespace Kolt {
 
-/// Queues objects that are to run. Scheduling never runs anything itself: whoever owns the event loop calls `runDue`.
-/// User-interface thread.
-class VScheduler {
+/// The queue of objects that are to run. Scheduling never runs an object itself: the owner of the event loop calls
+/// runDue(), when setWakeUp() asks for it. There is one queue for the process. User-interface thread.
+class TALO_EXPORT VScheduler {
 public:
-    /// Queues an object to run in a pool. `time` is in seconds on the scheduler's clock; what lies in the past, as 0.0
-    /// always does, is due at once. The object is held weakly; a null one is ignored.
+    /// Queues an object to run in a pool, which may be null. `time` is in seconds on the scheduler's clock; an object
+    /// whose time has passed, as 0.0 always has, is due at once. The object is held weakly, the pool strongly; a null
+    /// object is ignored.
     static void schedule(ObjectPtr const& object, double time, PoolPtr const& pool);
-    /// Runs what is due, in order of time, then of arrival, each once for each time it was scheduled. What is
-    /// scheduled meanwhile waits for the next call. Returns how many objects ran.
+    /// Runs the objects that are due, in order of time, then of scheduling; an object that was scheduled several times
+    /// runs several times. What is scheduled meanwhile waits for the next call. Returns how many objects ran.
     static int runDue();
     /// How many entries wait.
     static int waiting();
     /// The seconds since the scheduler was first used.
     static double clock();
-    /// When the next entry is due, on the scheduler's clock; a negative number when none waits.
+    /// When the next entry is due, on the scheduler's clock; negative if none waits.
     static double nextTime();
-    /// Called after each `schedule`, so that an event loop can arrange for `runDue`. An empty function calls nobody.
+    /// Sets the function that is called after each schedule(), so that an event loop can arrange for runDue(). An empty
+    /// function removes it.
     static void setWakeUp(std::function<void()> wakeUp);
 };
 

@@ -1,7 +1,19 @@
-#include <algorithm>
 #include <lattice/UndoHistory.hpp>
 
+#include <algorithm>
+#include <tessera/NoDestructor.hpp>
+
 namespace Kolt {
+
+namespace {
+
+// Never destroyed: the default history is not, either.
+std::vector<UndoHistory*>& histories() {
+    static Tessera::NoDestructor<std::vector<UndoHistory*>> all;
+    return *all;
+}
+
+} // namespace
 
 class UndoHistory::Restoring {
 public:
@@ -14,42 +26,68 @@ private:
     UndoHistory& history_;
 };
 
-UndoHistory& UndoHistory::theHistory() {
-    static auto& history = *new UndoHistory;
-    return history;
+UndoHistory::Macro::Macro(UndoHistory& history) : history_(&history) {
+    history.beginMacro();
 }
 
-void UndoHistory::add(Tessera::StrongPtr<VUndoAction> const& action, int weight, ParameterRef const& parameter) {
+UndoHistory::Macro::~Macro() {
+    if (auto const history = history_.strong())
+        history->endMacro();
+}
+
+UndoHistory::UndoHistory() {
+    histories().push_back(this);
+}
+
+UndoHistory::~UndoHistory() {
+    auto& all = histories();
+    all.erase(std::remove(all.begin(), all.end(), this), all.end());
+}
+
+UndoHistory& UndoHistory::theHistory() {
+    static Tessera::NoDestructor<UndoHistory> history;
+    return *history;
+}
+
+std::vector<UndoHistory*> UndoHistory::living() {
+    theHistory();
+    return histories();
+}
+
+bool UndoHistory::isAnyRestoring() {
+    auto const& all = histories();
+    return std::any_of(all.begin(), all.end(), [](UndoHistory const* history) { return history->isRestoring(); });
+}
+
+void UndoHistory::add(Tessera::StrongPtr<VUndoAction> const& action, ParameterRef const& parameter) {
     if (!action)
         return;
     auto& step = currentStep();
     step.records_.push_back({action, parameter});
     auto const living = parameter.strong();
     step.awaitsChange_ = living && living->isWatched();
-    raiseWeight(step, weight);
     changed();
 }
 
 void UndoHistory::record(ValueChange const& change) {
-    bool const joins = !open_ && !steps_.empty() && steps_.rbegin()->second->awaitsChangeOf(change);
-    auto& step = joins ? *steps_.rbegin()->second : currentStep();
+    bool const joins = !steps_.empty() && steps_.back()->awaitsChangeOf(change);
+    auto& step = joins ? *steps_.back() : currentStep();
     step.add(change);
-    raiseWeight(step, ChangeWeight);
     changed();
 }
 
-bool UndoHistory::store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& held) {
+bool UndoHistory::store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& value) {
     if (!parameter)
         return false;
     bool const isStep = !isRestoring();
     auto const living = parameter;
     auto const before = copyEffectiveValue(*living, pool);
     bool const hasPlace = pool || !living->keepsValuesPerPool();
-    if (hasPlace && before.equals(held))
+    if (hasPlace && before.equals(value))
         return true;
     {
         Restoring const restoring(*this);
-        if (!applyValue(*living, pool, held))
+        if (!applyValue(*living, pool, value))
             return false;
     }
     ValueChange const change(living, pool, before, copyEffectiveValue(*living, pool));
@@ -59,11 +97,11 @@ bool UndoHistory::store(ParameterPtr const& parameter, PoolPtr const& pool, Effe
 }
 
 void UndoHistory::beginMacro() {
-    ++gestures_;
+    ++macros_;
 }
 
 void UndoHistory::endMacro() {
-    if (gestures_ > 0 && --gestures_ == 0)
+    if (macros_ > 0 && --macros_ == 0)
         closeStep();
 }
 
@@ -90,15 +128,15 @@ bool UndoHistory::undo() {
     closeStep();
     if (steps_.empty())
         return false;
-    auto const step = steps_.rbegin()->second;
+    auto const step = steps_.back();
     remove(step);
-    auto const lastNumber = lastNumber_;
+    auto const inserted = inserted_;
     bool undone = false;
     {
         Restoring const restoring(*this);
         undone = step->undo();
     }
-    if (undone && !step->changes().empty() && lastNumber == lastNumber_)
+    if (undone && !step->changes().empty() && inserted == inserted_)
         undone_.push_back(step);
     changed();
     return undone;
@@ -113,13 +151,13 @@ bool UndoHistory::redo() {
     auto const step = undone_.back();
     undone_.pop_back();
     auto const later = std::exchange(undone_, {});
-    auto const lastNumber = lastNumber_;
+    auto const inserted = inserted_;
     bool made = false;
     {
         Restoring const restoring(*this);
         made = step->redo();
     }
-    bool const isLatest = lastNumber == lastNumber_;
+    bool const isLatest = inserted == inserted_;
     if (made)
         insert(step);
     if (isLatest)
@@ -129,11 +167,7 @@ bool UndoHistory::redo() {
 }
 
 std::vector<UndoHistory::Step> UndoHistory::steps() const {
-    std::vector<Step> steps;
-    steps.reserve(steps_.size());
-    for (auto const& numbered : steps_)
-        steps.push_back(numbered.second);
-    return steps;
+    return {steps_.begin(), steps_.end()};
 }
 
 std::vector<UndoHistory::Step> UndoHistory::undoneSteps() const {
@@ -141,7 +175,7 @@ std::vector<UndoHistory::Step> UndoHistory::undoneSteps() const {
 }
 
 UndoHistory::Step UndoHistory::nextUndo() const {
-    return steps_.empty() ? nullptr : steps_.rbegin()->second;
+    return steps_.empty() ? nullptr : steps_.back();
 }
 
 UndoHistory::Step UndoHistory::nextRedo() const {
@@ -150,38 +184,54 @@ UndoHistory::Step UndoHistory::nextRedo() const {
 
 void UndoHistory::forget(std::function<bool(VUndoAction const&)> const& predicate) {
     auto const steps = steps_;
-    for (auto const& [number, step] : steps) {
+    for (auto const& step : steps) {
         auto& records = step->records_;
         records.erase(std::remove_if(records.begin(), records.end(),
                                      [&](auto const& record) { return predicate(*record.action); }),
                       records.end());
-        if (records.empty() && step->changes_.empty())
-            remove(step);
+        if (!records.empty() || !step->changes_.empty())
+            continue;
+        remove(step);
+        if (step == open_)
+            open_.reset();
     }
-    if (open_ && steps_.count(open_->number_) == 0)
-        open_.reset();
     changed();
 }
 
+void UndoHistory::forgetEverywhere(std::function<bool(VUndoAction const&)> const& predicate) {
+    std::vector<Tessera::WeakPtr<UndoHistory>> all;
+    for (auto* const history : living())
+        all.emplace_back(history);
+    // A listener of one history may destroy another one.
+    for (auto const& each : all) {
+        if (auto const history = each.strong())
+            history->forget(predicate);
+    }
+}
+
 void UndoHistory::clear() {
-    // Only afterwards do they go: a record may do anything as it goes.
+    // Destroyed last: the destructor of a record may do anything.
     auto const steps = std::exchange(steps_, {});
     auto const undone = std::exchange(undone_, {});
     auto const undoneBeforeOpen = std::exchange(undoneBeforeOpen_, {});
-    numbersByWeight_.clear();
     open_.reset();
     changed();
 }
 
-void UndoHistory::setListener(std::function<void()> listener) {
-    listener_ = std::move(listener);
+Connection UndoHistory::addListener(std::function<void()> listener) {
+    listeners_.erase(
+        std::remove_if(listeners_.begin(), listeners_.end(), [](auto const& each) { return each.expired(); }),
+        listeners_.end());
+    auto const subscription = std::make_shared<Listener>(std::move(listener));
+    listeners_.push_back(subscription);
+    return Connection(subscription);
 }
 
 UndoStep& UndoHistory::currentStep() {
     if (open_)
         return *open_;
     auto const step = std::make_shared<UndoStep>();
-    if (gestures_ > 0) {
+    if (macros_ > 0) {
         open_ = step;
         undoneBeforeOpen_ = undone_;
     }
@@ -191,33 +241,29 @@ UndoStep& UndoHistory::currentStep() {
 }
 
 void UndoHistory::insert(OwnStep const& step) {
-    if (steps_.size() >= Capacity)
-        remove(steps_.at(numbersByWeight_.begin()->second));
-    step->number_ = ++lastNumber_;
-    steps_.emplace(step->number_, step);
-    numbersByWeight_.emplace(step->weight_, step->number_);
+    // Destroyed last: the destructor of a record may do anything.
+    auto const oldest = steps_.size() >= Capacity ? steps_.front() : nullptr;
+    if (oldest)
+        steps_.pop_front();
+    steps_.push_back(step);
+    ++inserted_;
 }
 
 void UndoHistory::remove(OwnStep const& step) {
-    numbersByWeight_.erase({step->weight_, step->number_});
-    steps_.erase(step->number_);
-}
-
-void UndoHistory::raiseWeight(UndoStep& step, int weight) {
-    bool const isFirst = step.records_.size() + step.changes_.size() == 1;
-    auto const raised = isFirst ? weight : std::max(step.weight_, weight);
-    if (raised == step.weight_)
-        return;
-    numbersByWeight_.erase({step.weight_, step.number_});
-    step.weight_ = raised;
-    numbersByWeight_.emplace(raised, step.number_);
+    // Nearly always the last one.
+    auto const found = std::find(steps_.rbegin(), steps_.rend(), step);
+    if (found != steps_.rend())
+        steps_.erase(std::next(found).base());
 }
 
 void UndoHistory::changed() const {
-    // A copy, as the listener may replace itself.
-    auto const listener = listener_;
-    if (listener)
-        listener();
+    // A copy, as a listener may add and disconnect others.
+    auto const listeners = listeners_;
+    for (auto const& each : listeners) {
+        auto const listener = each.lock();
+        if (listener && *listener)
+            (*listener)();
+    }
 }
 
 } // namespace Kolt

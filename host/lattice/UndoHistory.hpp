@@ -1,101 +1,124 @@
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <lattice/Connection.hpp>
 #include <lattice/UndoStep.hpp>
-#include <map>
 #include <memory>
-#include <set>
 
 namespace Kolt {
 
-/// The steps that can be taken back and made again, the latest last. A step is a command of the host, or all that
-/// happens in one gesture of the user: the changes of watched parameters (EditRecorder) and the records that inputs
-/// hand over. Outside a gesture each change and each record is a step, but for a record that is handed over just before
-/// its change: both are one. What changes nothing is no step.
+/// The undo steps of one document. An undo step is a command of the host, or all that happens in one gesture of the
+/// user (a macro): the changes of watched parameters (EditRecorder) and the records that inputs hand over
+/// (VParameter::AddUndoAction). Outside a macro each change and each record is a step; a record and the change that
+/// follows it are one. What changes nothing is no step.
 ///
-/// One for the process, never destroyed; user-interface thread.
-class UndoHistory {
+/// A host makes one for each document and attaches the document's parameters (VParameter::setHistory). Parameters that
+/// are attached to none use theHistory(). When a history is destroyed, its parameters use theHistory() again; it must
+/// not be destroyed inside its own undo(), redo() or store(). User-interface thread.
+class TALO_EXPORT UndoHistory : public Tessera::ReferenceBase<UndoHistory> {
 public:
-    /// How many steps are kept.
+    /// How many steps are kept. A full history forgets its oldest step with each new one.
     static constexpr std::size_t Capacity = 1000;
-    /// How much the change of a value matters (see `add`).
-    static constexpr int ChangeWeight = 20;
 
     using Step = std::shared_ptr<UndoStep const>;
 
+    UndoHistory();
+    ~UndoHistory() override;
+    UndoHistory(UndoHistory const&) = delete;
+    UndoHistory& operator=(UndoHistory const&) = delete;
+
+    /// The history of all parameters that are attached to none. Never destroyed.
     static UndoHistory& theHistory();
+    /// All histories that exist, theHistory() included, in order of construction.
+    static std::vector<UndoHistory*> living();
 
-    /// Takes a record over, of an input of `parameter` where one is given; a null record is ignored. `weight` tells how
-    /// much its step matters (the larger, the more): where the history is full, the oldest of the lightest steps is
-    /// forgotten.
-    void add(Tessera::StrongPtr<VUndoAction> const& action, int weight, ParameterRef const& parameter = {});
-    /// Records a change that happened.
+    /// Adds a record, of an input of `parameter` where one is given; a null record is ignored. REQUIRES: `parameter`,
+    /// if it is given, uses this history.
+    void add(Tessera::StrongPtr<VUndoAction> const& action, ParameterRef const& parameter = {});
+    /// Adds a change that was stored already.
     void record(ValueChange const& change);
-    /// Makes a value hold in a pool, as a command of the host that can be taken back (applyValue). False where it
-    /// cannot be stored, and for a null parameter. Where an equal value holds already nothing happens.
-    bool store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& held);
+    /// Applies a value in a pool as a command of the host that can be undone (applyValue). An equal value that is
+    /// effective already makes no step. False where the value cannot be stored, and for a null parameter.
+    [[nodiscard]] bool store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& value);
 
-    /// From here on everything is one step, up to the matching `endMacro`. May be nested; the outermost counts.
+    /// Opens a macro: all that happens up to the matching endMacro() is one step. Macros may be nested; the outermost
+    /// counts. Prefer the scope object Macro.
     void beginMacro();
-    /// Nothing happens where no gesture is open.
+    /// Closes a macro; ignored where none is open.
     void endMacro();
-    bool isMacroOpen() const { return gestures_ > 0; }
-    /// Ends the step of the open gesture: what comes next in it is another step.
+    bool isMacroOpen() const { return macros_ > 0; }
+    /// Ends the current step of the open macro; what follows in the macro is another step.
     void closeStep();
-    /// Whether something changed in the open gesture since its step began.
+    /// Whether something changed in the open macro since its current step began.
     bool isStepOpen() const { return open_ != nullptr; }
 
-    /// Takes the latest step back, and says whether that worked. What is told meanwhile is no step, but records that
-    /// are handed over are. A step of which nothing could be taken back is dropped. False when there is none, and in
-    /// the middle of another undo or redo.
+    /// Undoes the latest step; true if anything of it could be undone, else the step is dropped. Stores of the undo are
+    /// no steps, but records that are handed over meanwhile are. False when there is no step, and inside another undo
+    /// or redo of this history.
     bool undo();
-    /// Makes the step again that was taken back last. Like `undo`; steps without a change of a value cannot be made
-    /// again. A new step forgets those that were taken back.
+    /// Redoes the step that was undone last; otherwise like undo(). A step without a change of a value cannot be
+    /// redone. A new step forgets the undone ones.
     bool redo();
-    /// Whether a step is being taken back or made again, or a command stores.
+    /// Whether an undo, redo or store() is under way.
     bool isRestoring() const { return restoring_ > 0; }
+    /// Whether any history is restoring. What an input writes meanwhile is no edit of the user.
+    static bool isAnyRestoring();
 
-    /// The steps, the latest last. That of the open gesture is among them as soon as something changed.
+    /// The steps that can be undone, the latest last. The step of an open macro is included once something changed.
     std::vector<Step> steps() const;
-    /// The steps that were taken back and can be made again, the next one first.
+    /// The steps that can be redone, the next one first.
     std::vector<Step> undoneSteps() const;
-    /// The step that `undo` takes back, or `redo` makes again; null for none.
+    /// The step that the next undo() or redo() takes; null for none.
     Step nextUndo() const;
     Step nextRedo() const;
 
-    /// Forgets the records for which `predicate` holds. A step keeps its changes of values and so can still be taken
-    /// back; one that has none goes.
+    /// Forgets the records for which `predicate` is true. A step keeps its changes of values and can still be undone; a
+    /// step without changes is removed with its last record.
     void forget(std::function<bool(VUndoAction const&)> const& predicate);
-    /// Forgets everything, also what can be made again.
+    /// The same in every history: for a library whose code is about to be unloaded.
+    static void forgetEverywhere(std::function<bool(VUndoAction const&)> const& predicate);
+    /// Forgets all steps, the undone ones included.
     void clear();
-    /// Called after each change of the history; an empty function calls nobody.
-    void setListener(std::function<void()> listener);
+
+    /// Calls `listener` after each change of the history, as long as the connection lives. Listeners are called in the
+    /// order in which they were added.
+    [[nodiscard]] Connection addListener(std::function<void()> listener);
+
+    /// A macro that is open as long as the object lives. It may outlive the history.
+    class TALO_EXPORT Macro {
+    public:
+        explicit Macro(UndoHistory& history);
+        ~Macro();
+        Macro(Macro const&) = delete;
+        Macro& operator=(Macro const&) = delete;
+
+    private:
+        Tessera::WeakPtr<UndoHistory> const history_;
+    };
 
 private:
     using OwnStep = std::shared_ptr<UndoStep>;
+    using Listener = std::function<void()>;
     class Restoring;
 
-    UndoHistory() = default;
-    /// The step that takes what is recorded now: that of the open gesture, or a new one.
+    /// The step that takes what is recorded now: that of the open macro, or a new one.
     UndoStep& currentStep();
     void insert(OwnStep const& step);
     void remove(OwnStep const& step);
-    void raiseWeight(UndoStep& step, int weight);
     void changed() const;
 
-    // By number, so in order.
-    std::map<unsigned long, OwnStep> steps_;
-    // By weight, as a full history forgets the oldest of the lightest at every further step.
-    std::set<std::pair<int, unsigned long>> numbersByWeight_;
-    unsigned long lastNumber_ = 0;
-    // The last one is made again first.
+    std::deque<OwnStep> steps_;
+    // Counts the steps ever inserted, so that undo and redo notice one that was recorded meanwhile.
+    unsigned long inserted_ = 0;
+    // The last one is redone first.
     std::vector<OwnStep> undone_;
-    // What a gesture that ends where it began has not undone after all.
+    // Restored when a macro turns out to change nothing.
     std::vector<OwnStep> undoneBeforeOpen_;
     OwnStep open_;
-    int gestures_ = 0;
+    int macros_ = 0;
     int restoring_ = 0;
-    std::function<void()> listener_;
+    std::vector<std::weak_ptr<Listener>> listeners_;
 };
 
 } // namespace Kolt

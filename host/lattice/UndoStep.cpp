@@ -1,5 +1,6 @@
-#include <algorithm>
 #include <lattice/UndoStep.hpp>
+
+#include <algorithm>
 
 namespace Kolt {
 
@@ -37,7 +38,7 @@ void ValueChange::discardLocalValue() const {
     auto const pool = pool_.strong();
     if (parameter && before_.isInherited && parameter->ownValue()->equals(*before_.value) &&
         copyEffectiveValue(*parameter, pool).equals(before_))
-        applyValue(*parameter, pool, before_);
+        static_cast<void>(applyValue(*parameter, pool, before_));
 }
 
 bool ValueChange::store(EffectiveValue const& held) const {
@@ -78,24 +79,24 @@ bool UndoStep::changesNothing() const {
 }
 
 bool UndoStep::awaitsChangeOf(ValueChange const& change) const {
-    return awaitsChange_ && changes_.empty() && !records_.empty() && change.isOf(records_.back().parameter);
+    return awaitsChange_ && change.isOf(records_.back().parameter);
 }
 
 bool UndoStep::undo() {
     bool done = false;
-    // Copies: whoever is told may forget the step or its records.
+    // Copies, as a notifier may make the history forget the step or its records.
     auto const changes = changes_;
-    // A record is worth one way back.
+    // A record can be undone once.
     auto const records = std::exchange(records_, {});
     for (auto change = changes.rbegin(); change != changes.rend(); ++change) {
         if (!change->isPossible())
             continue;
-        // The later records of a value lead in small steps to where the oldest one starts.
+        // The oldest record of a value restores the start; the later ones would restore states in between.
         auto const oldest = std::find_if(records.begin(), records.end(),
                                          [&](auto const& record) { return change->isOf(record.parameter); });
         if (oldest != records.end())
             oldest->action->undo();
-        // The record may be unable to, as when its editor is gone.
+        // The record may fail, as when its editor was destroyed.
         done = change->undo() || done;
     }
     for (auto record = records.rbegin(); record != records.rend(); ++record) {

@@ -2,43 +2,46 @@
 
 #include <lattice/Parameter.hpp>
 #include <lattice/ValueSnapshot.hpp>
+#include <tessera/Export.hpp>
 
 namespace Kolt {
 
-/// A change of a parameter's value in a pool, which can be taken back and made again. It refers to the parameter and
-/// the pool weakly. User-interface thread.
-class ValueChange {
+/// A change of a parameter's value in a pool, which can be undone and redone. It refers to the parameter and the pool
+/// weakly. User-interface thread.
+class TALO_EXPORT ValueChange {
 public:
+    /// REQUIRES: `parameter` is not null, and neither are the values of `before` and `after`.
     ValueChange(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue before, EffectiveValue after);
     ~ValueChange();
     ValueChange(ValueChange const&);
     ValueChange& operator=(ValueChange const&);
 
-    /// Null when it is gone.
+    /// The changed parameter; null if it was destroyed.
     ParameterPtr parameter() const { return parameter_.strong(); }
-    /// The parameter's name, also when it is gone.
+    /// The parameter's name, also after it was destroyed.
     std::string const& parameterName() const { return parameterName_; }
-    /// The pool of the change where the parameter keeps values per pool; null elsewhere, and when it is gone.
+    /// The pool of the change; null if the parameter has one value for all pools, and if the pool was destroyed.
     PoolPtr pool() const { return pool_.strong(); }
     EffectiveValue const& before() const { return before_; }
     EffectiveValue const& after() const { return after_; }
 
     bool isOf(ParameterRef const& parameter) const { return parameter_ == parameter; }
-    /// Whether both change the same value.
+    /// Whether both change the same parameter in the same pool.
     bool hasSameTarget(ValueChange const& other) const {
         return parameter_ == other.parameter_ && pool_ == other.pool_;
     }
-    /// From now on the change leads to where the other one leads.
+    /// Makes this change end with the other one's value. REQUIRES: hasSameTarget(other).
     void mergeWith(ValueChange const& other) { after_ = other.after_; }
+    /// Whether the value before and after the change is the same.
     bool changesNothing() const { return before_.equals(after_); }
 
-    /// Whether the place of the value is still there.
+    /// Whether parameter and pool still exist.
     bool isPossible() const;
-    /// Stores the value before the change, or the one after it (applyValue). False when that is impossible.
+    /// Stores the value before the change, or the one after it (applyValue). False if it cannot be stored.
     bool undo() const;
     bool redo() const;
-    /// For a change that changes nothing: has the pool fall back again where it did before and nothing else was written
-    /// since.
+    /// Removes the pool's value if the pool had none before the change and nothing else was written since. REQUIRES:
+    /// changesNothing().
     void discardLocalValue() const;
 
 private:
@@ -52,18 +55,18 @@ private:
     EffectiveValue after_;
 };
 
-/// What one command takes back: changes of values, and records that inputs handed over (VUndoAction). The history owns
-/// it. User-interface thread.
-class UndoStep {
+/// An undo step: changes of values, and records that inputs handed over (VUndoAction). Owned by its history
+/// (UndoHistory). User-interface thread.
+class TALO_EXPORT UndoStep {
 public:
     UndoStep();
     ~UndoStep();
     UndoStep(UndoStep const&) = delete;
     UndoStep& operator=(UndoStep const&) = delete;
 
-    /// In the order in which the values first changed; one for each value.
+    /// The changes of values, one for each value, in the order in which the values first changed.
     std::vector<ValueChange> const& changes() const { return changes_; }
-    /// For people, UTF-8: the first change as "iterations: 400 → 500", or what the first record says of itself.
+    /// The step for people, UTF-8: its first change as "iterations: 400 → 500", or the description of its first record.
     std::string description() const;
 
 private:
@@ -74,9 +77,9 @@ private:
     };
     bool knowsChangeOf(Record const& record) const;
     void add(ValueChange const& change);
-    /// Whether nothing is different after the step.
+    /// Whether all values are the same before and after the step.
     bool changesNothing() const;
-    /// Whether the step is only the record of an edit of the parameter whose change is about to be told.
+    /// Whether the step is only a record of an edit whose change is this one.
     bool awaitsChangeOf(ValueChange const& change) const;
     bool undo();
     bool redo();
@@ -86,8 +89,6 @@ private:
     std::vector<ValueChange> changes_;
     // In the order in which they were handed over.
     std::vector<Record> records_;
-    int weight_ = 0;
-    unsigned long number_ = 0;
     bool awaitsChange_ = false;
 };
 

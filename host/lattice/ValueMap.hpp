@@ -5,15 +5,19 @@
 
 namespace Kolt {
 
-/// Named values, ordered by name: the properties of a parameter. User-interface thread.
-class ValueMap {
+/// Named values, ordered by name: the properties of a parameter. Copies of a map share the value objects.
+/// User-interface thread. Prints nothing.
+class TALO_EXPORT ValueMap {
 public:
     using Map = std::map<std::string, ValuePtr>;
 
-    /// The value under a name; null when nothing stands there.
+    /// The value under a name; null if there is none.
     ValuePtr getValue(std::string const& name) const;
-    /// Puts a value under a name, in place of what stood there. Null takes the name away.
+    /// Stores a value under a name and replaces the one that is there. Null removes the name.
     void setValue(std::string const& name, ValuePtr const& value);
+
+    /// The entries, in order of their names; no value is null. Changing the map invalidates only the iterators to
+    /// removed entries.
     Map::const_iterator begin() const { return values_.begin(); }
     Map::const_iterator end() const { return values_.end(); }
 

@@ -1,10 +1,12 @@
-#include <algorithm>
 #include <lattice/ValueNotifier.hpp>
+#include <tessera/NoDestructor.hpp>
+
+#include <algorithm>
 
 namespace Kolt {
 
-/// Delivery to a notifier and its leaving exclude each other. Recursive, as a notifier may be told again, or be
-/// destroyed, while it is being told.
+/// Excludes the delivery to a notifier and its destruction from each other. The lock is recursive, as a notifier may be
+/// notified again, or be destroyed, while it is notified.
 class ValueNotifier::NotifierGuard {
 public:
     explicit NotifierGuard(ValueNotifier* notifier) : notifier_(notifier) {}
@@ -27,13 +29,13 @@ private:
 
 namespace {
 
-// Immortal: notifiers of a library may go after the statics of this one.
+// Never destroyed: notifiers of other libraries may be destroyed after the statics of this one.
 std::mutex& livingMutex() {
-    static auto& mutex = *new std::mutex;
-    return mutex;
+    static Tessera::NoDestructor<std::mutex> mutex;
+    return *mutex;
 }
 
-// The first of the chain of all that live.
+// The head of the linked list of all notifiers.
 ValueNotifier* firstLiving = nullptr;
 
 } // namespace

@@ -1,66 +1,71 @@
 #pragma once
 
 #include <atomic>
+#include <lattice/Context.hpp>
 #include <lattice/Value.hpp>
 #include <lattice/ValueMap.hpp>
-#include <lattice/ValuePool.hpp>
 #include <memory>
+#include <tessera/Export.hpp>
+#include <tessera/Intercube.hpp>
 #include <vector>
 
 namespace Kolt {
 
-/// Something that is told when a value changes. It stays its owner's; the lists that know it only watch it.
-class ValueNotifier : public Tessera::ReferenceBase<ValueNotifier>, public Tessera::Intercube {
+/// Is notified when a value changes. A notifier is owned by its maker; the lists refer to it weakly.
+class TALO_EXPORT ValueNotifier : public Tessera::ReferenceBase<ValueNotifier>, public Tessera::Intercube {
 public:
     ValueNotifier();
     ~ValueNotifier() override;
     ValueNotifier(ValueNotifier const&) = delete;
     ValueNotifier& operator=(ValueNotifier const&) = delete;
 
-    /// A value changed. `newValue` is the live value object, which may be null. `context` names the pool of the
-    /// change, if it belongs to one. `properties` is the parameter's property map when properties changed and null
-    /// when the value did. Called on the thread that reports the change.
+    /// A value changed. `newValue` is the live value object, which may be null. `context` holds the pool of the change,
+    /// if it belongs to one. `properties` is the parameter's property map if properties changed, and null if the value
+    /// did. Called on the thread that reports the change.
     virtual void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) = 0;
 
-    /// All that live, in no order: a host that unloads a library must know whose code is still in use.
+    /// All existing notifiers, in no particular order. A host that unloads a library needs them to know whose code is
+    /// still in use.
     /// User-interface thread.
     static std::vector<ValueNotifier*> living();
 
 protected:
-    /// Ends delivery to this notifier for good. A delivery that another thread is in the middle of is waited for;
-    /// one on this thread goes on. A notifier that is told from other threads calls it first thing in its
-    /// destructor; for all others the base does it.
+    /// Ends the notifications for good. Waits for a notification by another thread that is under way; one on this
+    /// thread continues. A notifier that is notified by other threads must call it first in its destructor; for all
+    /// others the base class does.
     void stopNotifications();
 
 private:
     friend class ValueNotifierList;
     class NotifierGuard;
     std::shared_ptr<NotifierGuard> guard_;
-    // The chain of all that live.
+    // The linked list of all notifiers.
     ValueNotifier* previous_ = nullptr;
     ValueNotifier* next_ = nullptr;
 };
 
-/// Notifiers in order of registration. It knows them weakly: one that dies leaves by itself.
-/// May be extended and walked on any thread.
-class ValueNotifierList : public Tessera::ReferenceBase<ValueNotifierList> {
+/// Notifiers in order of registration. The list refers to them weakly; a destroyed notifier is left out. Notifiers may
+/// be added and notified on any thread.
+class TALO_EXPORT ValueNotifierList : public Tessera::ReferenceBase<ValueNotifierList> {
 public:
     ValueNotifierList();
     ~ValueNotifierList() override;
     ValueNotifierList(ValueNotifierList const&) = delete;
     ValueNotifierList& operator=(ValueNotifierList const&) = delete;
 
-    /// Adds a notifier at the end. One that is gone, empty or already in the list is not added.
+    /// Adds a notifier at the end. Nothing happens for a destroyed or empty one, and for one that is in the list.
     void addNotifier(Tessera::WeakPtr<ValueNotifier> const& notifier) const;
-    /// How many living notifiers the list knows.
+    /// How many living notifiers the list contains.
     std::size_t size() const;
 
 protected:
-    /// Whether a notifier was ever added. Cheap, as a simulation changes many parameters of which few are shown.
+    /// How many notifiers the list remembers: the living, and those that died since the last one was added.
+    std::size_t remembered() const { return snapshot().size(); }
+    /// Whether a notifier was ever added. Cheap, as simulations change many parameters of which few are shown.
     bool hasListeners() const { return used_.load(std::memory_order_acquire); }
-    /// Notifies a snapshot of the list, in order, but for `source` and for notifiers that die meanwhile; then the
-    /// members of `alsoNotify` that were not notified yet, the source included. Touches neither list after the first
-    /// call of a notifier.
+    /// Notifies a snapshot of the list, in order, except `source` and notifiers that are destroyed meanwhile; then the
+    /// members of `alsoNotify` that were not notified yet, the source included. Neither list is used after the first
+    /// call of a notifier, so that notifiers may destroy them.
     void notify(Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                 ValuePtr const& value, VContext const& context, ValueMap const* properties) const;
 

@@ -5,73 +5,21 @@
 
 namespace Kolt {
 
-/// The context in which a parameter has a value: one parameter can have different values in different pools. A pool
-/// is told apart by its identity; the name is for people. User-interface thread.
-class ValuePool : public Tessera::ReferenceBase<ValuePool> {
+/// The context in which a parameter has a value: one parameter can have different values in different pools. Pools
+/// are distinguished by their identity; the name is for people and need not be unique. User-interface thread.
+class TALO_EXPORT ValuePool : public Tessera::ReferenceBase<ValuePool> {
 public:
     explicit ValuePool(std::string name = {});
     ~ValuePool() override;
+
+    /// The name, UTF-8.
     std::string const& Name() const { return name_; }
 
 private:
     std::string name_;
 };
 
+/// A reference that keeps a pool alive. Null means: no pool.
 using PoolPtr = Tessera::StrongPtr<ValuePool>;
-
-/// Something that yields the current value pool.
-class ValuePoolProvider : public Tessera::ReferenceBase<ValuePoolProvider> {
-public:
-    ~ValuePoolProvider() override;
-    /// The current pool; null when there is none.
-    virtual PoolPtr getValuePool() const = 0;
-};
-
-/// Where an editor finds its value pool. The panel owns it; it must outlive the editors made with it.
-class ValuePoolSource {
-public:
-    /// Called by nobody in this library; for sources that count their users.
-    virtual void referenceHook();
-    virtual ~ValuePoolSource();
-    /// The current provider; null when there is none, which counts as no pool.
-    virtual Tessera::StrongPtr<ValuePoolProvider> getValuePoolProvider() const = 0;
-};
-
-/// The provider's pool; null for no provider.
-PoolPtr currentPool(Tessera::StrongPtr<ValuePoolProvider> const& provider);
-/// The pool that the source stands for at this moment; null for a null source, provider or pool.
-PoolPtr currentPool(ValuePoolSource const* source);
-
-/// The circumstances of a change: the pool in which it happened.
-class VContext {
-public:
-    /// What a context carries and others may keep beyond it.
-    class Addendum : public Tessera::ReferenceBase<Addendum> {
-    public:
-        explicit Addendum(PoolPtr const& pool);
-        ~Addendum() override;
-        /// The pool; null for a change that belongs to no pool.
-        PoolPtr const& pool() const { return pool_; }
-
-    private:
-        PoolPtr pool_;
-    };
-
-    /// Takes the pool from the addendum; a null one gives a context without a pool.
-    explicit VContext(Tessera::StrongPtr<Addendum> const& addendum);
-    /// A context in `pool`. A null addendum makes a new one that holds the pool; a given one is kept as it is.
-    VContext(PoolPtr const& pool, Tessera::StrongPtr<Addendum> const& addendum);
-    ~VContext();
-
-    /// The pool of the change; null when it belongs to none.
-    PoolPtr const& pool() const { return pool_; }
-    Tessera::StrongPtr<Addendum> const& addendum() const;
-
-private:
-    PoolPtr pool_;
-    // Few ask for an addendum, so a new one is made for the first who does.
-    mutable Tessera::StrongPtr<Addendum> addendum_;
-    mutable bool addendumToBeMade_ = false;
-};
 
 } // namespace Kolt

@@ -1,6 +1,7 @@
+#include <lattice/ValueSnapshot.hpp>
+
 #include <algorithm>
 #include <lattice/Parameter.hpp>
-#include <lattice/ValueSnapshot.hpp>
 
 namespace Kolt {
 

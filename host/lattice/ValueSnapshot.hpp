@@ -2,49 +2,51 @@
 
 #include <lattice/Value.hpp>
 #include <lattice/ValuePool.hpp>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Kolt {
 
 class VParameter;
 
-/// What holds for a parameter in a pool at some moment.
-struct EffectiveValue {
-    /// A copy, which nobody changes; never null for a living parameter.
+/// A copy of the value that is effective for a parameter in a pool. REQUIRES, for all operations: `value` is not null.
+struct TALO_EXPORT EffectiveValue {
+    /// A copy, which must not be changed.
     ValuePtr value;
-    /// Whether the pool has no value of its own, so that the parameter's own one holds. Never for a parameter with one
-    /// value.
+    /// Whether the pool has no value of its own, so that the parameter's own value is effective. Always false for a
+    /// parameter with one value.
     bool isInherited = false;
 
-    /// Whether both have the same value, wherever it stands.
+    /// Whether both values are equal, inherited or not.
     bool equals(EffectiveValue const& other) const;
 };
 
-/// What holds now.
-EffectiveValue copyEffectiveValue(VParameter const& parameter, PoolPtr const& pool);
+/// A copy of the value that is effective now.
+[[nodiscard]] TALO_EXPORT EffectiveValue copyEffectiveValue(VParameter const& parameter, PoolPtr const& pool);
 
-/// Makes the value hold: stores a copy of it, or takes the pool's value away where the held one falls back, marks what
-/// holds then as changed and tells everybody, without a source. Where it holds already nothing happens. False, and
-/// nothing stored, where there is no place for the value: the parameter keeps values per pool and there is no pool, or
-/// the parameter's own value is of another type. The caller keeps the parameter alive.
-bool applyValue(VParameter& parameter, PoolPtr const& pool, EffectiveValue const& held);
+/// Makes a value effective: stores a copy of it, or removes the pool's value if `value` is inherited. Then marks the
+/// effective value as changed and notifies everybody, without a source. Nothing happens if the value is effective
+/// already. False, and nothing stored, if the parameter keeps values per pool and there is no pool, or if the
+/// parameter's own value is of another type. REQUIRES: the caller keeps the parameter alive.
+[[nodiscard]] TALO_EXPORT bool applyValue(VParameter& parameter, PoolPtr const& pool, EffectiveValue const& value);
 
-/// Copies of what a parameter held at some moment: its own value and those of its pools. User-interface thread.
-class ValueSnapshot {
+/// Copies of all values of a parameter: its own and those of its pools. REQUIRES: all operations of a snapshot are
+/// given the parameter that it was made of. User-interface thread.
+class TALO_EXPORT ValueSnapshot {
 public:
     explicit ValueSnapshot(VParameter const& parameter);
     ~ValueSnapshot();
 
-    /// What held in a pool.
+    /// The copy of the value that was effective in a pool.
     EffectiveValue in(PoolPtr const& pool) const;
-    /// Takes everything anew.
+    /// Copies all values again.
     void refresh(VParameter const& parameter);
-    /// Takes anew what holds in a pool, and nothing else, as a copy of a long list takes a while.
+    /// Copies the effective value of one pool again, and no other, as copying a long list is slow.
     void refreshIn(VParameter const& parameter, PoolPtr const& pool);
-    /// Whether the same value holds in the pool now. A value that the pool got since and that equals what held before
-    /// counts as the same.
+    /// Whether the value that is effective in the pool now equals the copy. A pool that got a value of its own since
+    /// then, equal to the inherited one, counts as equal.
     bool isEffectiveIn(VParameter const& parameter, PoolPtr const& pool) const;
-    /// Whether the parameter itself holds the same value now.
+    /// Whether the parameter's own value equals the copy.
     bool isOwnValueOf(VParameter const& parameter) const;
 
 private:

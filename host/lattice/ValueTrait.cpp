@@ -1,7 +1,7 @@
+#include <lattice/ValueTrait.hpp>
+
 #include <charconv>
 #include <cmath>
-#include <lattice/ValueTrait.hpp>
-#include <limits>
 
 namespace Kolt {
 

@@ -1,26 +1,32 @@
 #pragma once
 
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <sorrel/QInputCreator.hpp>
+#include <tessera/Export.hpp>
 
 namespace Kolt {
 
-/// An editor that was made for a parameter.
-struct Editor {
-    QPointer<QWidget> widget; ///< null when no editor could be made
+/// An editor that makeEditor made for a parameter.
+struct TALO_EXPORT Editor {
+    QPointer<QWidget> widget; ///< null if no editor could be made, and after the widget was destroyed
     InputRef input;           ///< lives as long as the widget
-    InputChoice choice;       ///< which creator was taken, and why
+    InputChoice choice;       ///< which creator was chosen, and why
 };
 
-/// Makes the editor for a parameter: chooses a creator among those that make Qt widgets ("QT" is wanted besides the
-/// parameter's own preferences), lets it create the widget, and shows what the current pool holds where the parameter
-/// keeps values per pool. The widget belongs to `parent`. Where no creator is registered for the type the widget is
-/// null and the choice says so. User-interface thread.
-Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource);
+/// Makes the editor for a parameter: chooses a creator among those that make Qt widgets (the preference "QT" is wanted
+/// besides the parameter's own), lets it create the widget, and shows the value of the current pool if the parameter
+/// keeps values per pool. `parent` owns the widget; null leaves it to the caller. The source is not owned; if it is
+/// destroyed before the editor, the editor has no pool from then on.
+///
+/// If no creator is registered for the type, or the parameter is null, the widget is null and the choice's explanation
+/// says why. An editor without a pool drops every edit; the explanation says so, and for a null source a warning as
+/// well (VActionNotifier::Warning). User-interface thread.
+[[nodiscard]] TALO_EXPORT Editor makeEditor(ParameterPtr const& parameter, QWidget* parent,
+                                            ValuePoolSource* poolSource);
 
-/// Shows in an editor what the source's current pool holds of a parameter that keeps values per pool, as after making
-/// the editor or switching the pool: the pool's value, else the parameter's own. Nothing is written. Other parameters
-/// show the same in every pool and are left alone.
-void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoolSource const* poolSource);
+/// Shows in an editor the value that is effective in the source's current pool: the pool's value, else the parameter's
+/// own. To be called after the pool was switched. Nothing is written. A parameter with one value shows the same in
+/// every pool, so nothing happens for it, nor for a null parameter or a destroyed editor. User-interface thread.
+TALO_EXPORT void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoolSource const* poolSource);
 
 } // namespace Kolt

@@ -8,19 +8,24 @@
 
 namespace Tessera {
 
-/// A block of memory of one element type. Elements are read and written by one thread at a time.
-class ChunkBase : public ReferenceBase<ChunkBase> {
+/// A block of memory of one element type, which is counted: TotalMemsize says how much memory all blocks need together.
+/// Made for large data of one type, such as the samples of a curve or the pixels of a picture, that an object or a
+/// value refers to. The elements are read and written by one thread at a time. Prints nothing.
+class TALO_EXPORT ChunkBase : public ReferenceBase<ChunkBase> {
 public:
-    /// The bytes that all living chunks hold together.
+    /// The bytes of all living blocks together; elements count with their own size, not with what they refer to. Any
+    /// thread.
     static std::atomic<std::size_t> TotalMemsize;
 
     ~ChunkBase() override;
     ChunkBase(ChunkBase const&) = delete;
     ChunkBase& operator=(ChunkBase const&) = delete;
 
-    /// The bytes of this block.
+    /// The bytes of this block, as counted in TotalMemsize.
     std::size_t memsize() const noexcept { return bytes_; }
+    /// The type of the elements.
     virtual std::type_info const& elementType() const = 0;
+    /// The number of elements; fixed when the block is made.
     virtual std::size_t size() const = 0;
 
 protected:
@@ -30,7 +35,8 @@ private:
     std::size_t bytes_;
 };
 
-/// A block of `size` elements of type T, value-initialised.
+/// A block of `size` elements of type T, value-initialised: numbers are 0. Throws std::bad_alloc or std::length_error
+/// if the block cannot be made; nothing is counted then.
 template <typename T>
 class Chunk : public ChunkBase {
 public:
@@ -38,12 +44,13 @@ public:
 
     std::type_info const& elementType() const override { return typeid(T); }
     std::size_t size() const override { return elements_.size(); }
-    /// An element; an index beyond the size throws std::out_of_range.
+    /// An element, from 0; throws std::out_of_range for an index beyond the size. The reference stays valid as long as
+    /// the block.
     T& at(std::size_t index) { return elements_.at(index).value; }
     T const& at(std::size_t index) const { return elements_.at(index).value; }
 
 private:
-    // A struct, so that a block of bool has addressable elements.
+    // A struct, so that the elements of a block of bool have addresses.
     struct Element {
         T value{};
     };

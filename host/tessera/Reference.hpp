@@ -2,76 +2,62 @@
 
 #include <atomic>
 #include <cstddef>
-#include <string>
+#include <tessera/Export.hpp>
+#include <tessera/SpeakPtr.hpp>
+#include <tessera/Typename.hpp>
 #include <type_traits>
 #include <typeinfo>
 #include <utility>
 
 /// Counted references.
 ///
-/// Two kinds of object are reached through them. An object that a StrongPtr once took over from a raw pointer is
-/// *adopted*: it is deleted when the last strong reference to it goes. Every other object (a static creator, a widget
-/// that belongs to its parent) is only *watched*: the references never delete it, and its destructor empties all of
-/// them, weak and strong.
+/// They refer to two kinds of object. An object that a StrongPtr was once made of from a raw pointer is *adopted*: it
+/// is deleted when the last strong reference to it is dropped. Every other object (a static creator, a widget that
+/// belongs to its parent) is only *watched*: the references never delete it, and its destructor empties all of them,
+/// weak and strong.
 ///
-/// Threads: the counts are atomic, so references to one object may be copied and dropped on any thread. One and the
-/// same pointer object must not be changed by two threads at once. A watched object must not be destroyed on one
-/// thread while another one works with a strong reference to it.
+/// Threads: the counts are atomic, so references to one object may be copied and dropped on any thread. Two threads
+/// must not change the same pointer object at once. A watched object must not be destroyed on one thread while another
+/// thread works with a strong reference to it.
+///
+/// The pointers print nothing; SpeakPtr reports odd lifetimes. Nothing here throws but std::bad_alloc.
 namespace Tessera {
 
-/// The serial number last given to a pointer. Every pointer copy takes the next one. It is counted without a lock, so
-/// copies made by two threads at the same moment may share a number.
-extern std::atomic<unsigned long> PointerID;
+/// The serial number last given to a pointer. Every new pointer to an object takes the next one, a copy too. It is
+/// counted without a lock, so copies made by two threads at the same moment may share a number.
+extern TALO_EXPORT std::atomic<unsigned long> PointerID;
 
-/// Takes the next serial number.
+/// Takes the next serial number. Any thread.
 inline unsigned long nextPointerID() {
     auto const id = PointerID.load(std::memory_order_relaxed) + 1;
     PointerID.store(id, std::memory_order_relaxed);
     return id;
 }
 
-/// Hears of odd lifetimes. The pointer templates report, a host listens: it derives a class and installs it. The
-/// speaker that stands at the start writes each report as one line to standard error.
-class SpeakPtr {
-public:
-    virtual ~SpeakPtr();
-
-    /// The installed speaker; never null.
-    static SpeakPtr& theSpeaker();
-    /// Installs `speaker`, which stays the caller's and must outlive its use; null brings the first speaker back.
-    static void setSpeaker(SpeakPtr* speaker);
-
-    /// A first strong reference was made while a constructor of the object still ran. `object` is the address the
-    /// reference was made from, `base` that of its counters.
-    virtual void SelfConstruction(std::type_info const& type, void const* object, void const* base);
-    /// An adopted object was deleted although `strong` strong references (and `weak` weak ones) still stood.
-    virtual void DestructionAssertion(int strong, int weak, std::type_info const& type);
-    /// The last strong reference went, but the object's reference hook took a new one: the object lives on.
-    virtual void DestructionCancelled(int strong, int weak, std::type_info const& type);
-    /// An object that strong references only watched until now was adopted by a further one.
-    virtual void WarningUnctionChange(int strong, int weak, std::type_info const& type);
-};
-
 class ReferenceCounted;
 
-/// The counters of one object. They outlive it until the last reference is gone. Only the pointer templates use it.
-class ReferenceControl {
+/// The counters of one object. They outlive it until the last reference is dropped. Only the pointer templates use it.
+class TALO_EXPORT ReferenceControl {
 public:
     /// False from the moment at which the object's destructor reaches its counters.
     bool alive() const noexcept { return object_.load(std::memory_order_acquire) != nullptr; }
-    /// Takes a strong count if the object lives and is not on its way out.
+    /// Takes a strong count if the object lives and is not being deleted. Returns whether it did.
     bool tryAddStrong() noexcept;
     /// Takes a strong count for the object at `address` and makes the strong references its owners.
     void adopt(std::type_info const& type, void const* address);
+    /// Takes a strong count. REQUIRES: the object lives.
     void addStrong() noexcept {
         if (strong_.fetch_add(1, std::memory_order_acq_rel) == 0)
             addWeak();
     }
+    /// Gives a strong count back; the last one deletes an adopted object. REQUIRES: a strong count was taken.
     void releaseStrong() noexcept {
         if (strong_.fetch_sub(1, std::memory_order_acq_rel) == 1)
             lastStrongGone();
     }
+    /// Takes a weak count. REQUIRES: the object lives, or the caller has a weak count already.
     void addWeak() noexcept { users_.fetch_add(1, std::memory_order_relaxed); }
+    /// Gives a weak count back; the last one deletes the counters. REQUIRES: a weak count was taken.
     void releaseWeak() noexcept;
 
 private:
@@ -92,17 +78,19 @@ private:
     std::atomic<std::type_info const*> type_{nullptr};
 };
 
-/// What all ReferenceBase<T> share.
-class ReferenceCounted {
+/// What all ReferenceBase<T> share: the counters, which each object makes for itself. A copy of an object is another
+/// object; an assignment leaves the counters of both alone.
+class TALO_EXPORT ReferenceCounted {
 public:
-    /// Called when the last strong reference to an adopted object has gone, before the object is deleted. Empty.
+    /// Called after the last strong reference to an adopted object was dropped, before the object is deleted. A
+    /// derived class may take a new strong reference here, and the object lives on. Empty.
     virtual void referenceHook();
 
+    /// The counters; never null.
     ReferenceControl* referenceControl() const noexcept { return control_; }
 
 protected:
     ReferenceCounted();
-    // The copy of an object is another object: it starts with counters of its own.
     ReferenceCounted(ReferenceCounted const&);
     ReferenceCounted& operator=(ReferenceCounted const&) { return *this; }
     virtual ~ReferenceCounted();
@@ -112,7 +100,8 @@ private:
     ReferenceControl* control_;
 };
 
-/// The base of every referenced object; T names the class that first derives from it. It holds the counters.
+/// The base of every referenced object. T names the class that first derives from it; it is the second argument, the
+/// base, of all pointers to the object.
 template <typename T>
 class ReferenceBase : public ReferenceCounted {};
 
@@ -121,10 +110,10 @@ class WeakPtr;
 template <typename T, typename B>
 class DynPtr;
 
-/// A strong reference to a T whose counters stand in its base B.
+/// A strong reference to a T that has its counters in its base B.
 ///
-/// Made from a raw pointer it adopts the object; made from a weak reference it does not. `get` is null once a watched
-/// object was destroyed; to follow a null reference is a programming error.
+/// Made from a raw pointer it adopts the object; made from a weak reference it does not. An adopted object lives as
+/// long as a strong reference to it. Two references are equal if they refer to the same object, whatever their types.
 template <typename T, typename B = T>
 class StrongPtr {
 public:
@@ -141,11 +130,14 @@ public:
         control_->adopt(typeid(*object), object);
         id_ = nextPointerID();
     }
+    /// A copy refers to the same object and takes a serial number of its own.
     StrongPtr(StrongPtr const& other) noexcept : StrongPtr(other.object_, other.control_) {}
+    /// Moving keeps the serial number and leaves `other` null.
     StrongPtr(StrongPtr&& other) noexcept
         : object_(std::exchange(other.object_, nullptr)),
           control_(std::exchange(other.control_, nullptr)),
           id_(other.id_) {}
+    /// From a reference to a derived class.
     template <typename U, typename C, typename = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     StrongPtr(StrongPtr<U, C> const& other) noexcept : StrongPtr(static_cast<T*>(other.get()), other.control_) {}
     ~StrongPtr() {
@@ -161,13 +153,17 @@ public:
         std::swap(control_, other.control_);
         std::swap(id_, other.id_);
     }
+    /// Drops the reference; the pointer is null then.
     void reset() noexcept { StrongPtr().swap(*this); }
 
+    /// The object; null for a null reference and after a watched object was destroyed.
     T* get() const noexcept { return control_ && control_->alive() ? object_ : nullptr; }
+    /// The object itself. REQUIRES: get() is not null.
     T& operator*() const noexcept { return *get(); }
     T* operator->() const noexcept { return get(); }
+    /// Whether get() is not null.
     explicit operator bool() const noexcept { return get() != nullptr; }
-    /// This pointer's serial number.
+    /// This pointer's serial number; 0 for one that was made null.
     unsigned long id() const noexcept { return id_; }
 
     template <typename U, typename C>
@@ -207,7 +203,8 @@ protected:
     unsigned long id_ = 0;
 };
 
-/// A reference that does not keep its object. It can be tested for a living object and turned into a strong one.
+/// A reference that does not keep its object alive. It can be tested for a living object and turned into a strong
+/// reference; between the two an object may die, so to use the object, make the strong reference and test that.
 template <typename T, typename B = T>
 class WeakPtr {
 public:
@@ -243,17 +240,19 @@ public:
         return *this;
     }
 
-    /// A strong reference, null when the object is gone. It never adopts.
-    StrongPtr<T, B> strong() const noexcept {
+    /// A strong reference; null if the object was destroyed or is being deleted. It never adopts.
+    [[nodiscard]] StrongPtr<T, B> strong() const noexcept {
         if (!control_ || !control_->tryAddStrong())
             return nullptr;
         return StrongPtr<T, B>(typename StrongPtr<T, B>::Counted{}, object_, control_);
     }
+    /// Whether the object lives.
     bool alive() const noexcept { return control_ && control_->alive(); }
     explicit operator bool() const noexcept { return alive(); }
+    /// This pointer's serial number; 0 for one that was made empty.
     unsigned long id() const noexcept { return id_; }
 
-    /// Whether both refer to one object, also when it is gone. Two empty references are equal.
+    /// Whether both refer to one object, even if it was destroyed. Two empty references are equal.
     template <typename U, typename C>
     bool operator==(WeakPtr<U, C> const& other) const noexcept {
         return control_ == other.control_;
@@ -280,7 +279,7 @@ private:
     unsigned long id_ = 0;
 };
 
-/// A strong reference made by a dynamic type test: null when the object is no T.
+/// A strong reference made by a dynamic type test: null if the object is no T. It never adopts.
 template <typename T, typename B = T>
 class DynPtr : public StrongPtr<T, B> {
 public:
@@ -301,9 +300,5 @@ private:
         return StrongPtr<T, B>(typename StrongPtr<T, B>::Counted{}, object, control);
     }
 };
-
-/// The readable name of a type, as used in messages and as the key of a type: "bool", "std::string",
-/// "Tessera::StrongPtr<Kolt::VAction>". A copy, so it outlives the library that defined the type.
-std::string Typename(std::type_info const& type);
 
 } // namespace Tessera

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <lattice/ValuePool.hpp>
 #include <panel/gallery/GalleryState.hpp>
 

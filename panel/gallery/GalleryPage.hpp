@@ -3,6 +3,7 @@
 #include <lattice/ValuePool.hpp>
 #include <panel/gallery/GalleryRow.hpp>
 #include <panel/gallery/GalleryState.hpp>
+#include <parameters/PoolSource.hpp>
 #include <QComboBox>
 
 class QVBoxLayout;

@@ -1,7 +1,5 @@
 #include <panel/gallery/GalleryRow.hpp>
-#include <parameters/input/WheelGuard.hpp>
 #include <parameters/rows/MutedLabel.hpp>
-#include <parameters/rows/PlaceholderEditor.hpp>
 #include <QHBoxLayout>
 
 namespace Panel {
@@ -21,13 +19,13 @@ QString preferenceList(Kolt::VCreationPreferences const& preferences) {
 } // namespace
 
 GalleryRow::GalleryRow(Kolt::InputRegistry::Entry const& entry, Kolt::ParameterPtr const& parameter,
-                       Talo::PoolSource& pools, QWidget* parent)
+                       Kolt::ValuePoolSource& pools, QWidget* parent)
     : QWidget(parent),
       creatorName_(entry.creator.strong() ? entry.creator.strong()->Name() : std::string()),
       valueType_(entry.valueType),
       creator_(entry.creator),
       parameter_(parameter),
-      pools_(pools),
+      editors_{{{parameter, pools}, {parameter, pools}}},
       rawValue_(new Talo::RawValueLabel(parameter, pools, this)),
       counter_(new NotificationCounter(parameter, this)) {
     auto* const layout = new QHBoxLayout(this);
@@ -42,7 +40,7 @@ GalleryRow::GalleryRow(Kolt::InputRegistry::Entry const& entry, Kolt::ParameterP
     layout->addWidget(rawValue_);
     layout->addWidget(counter_);
 
-    auto const chosen = editors_.front().choice.creator.strong();
+    auto const chosen = editors_.front().choice().creator.strong();
     if (!parameter)
         noteLabel_->setText(tr("Nobody can make a value of this type."));
     else if (chosen != creator_.strong())
@@ -85,23 +83,19 @@ QWidget* GalleryRow::makeCell(std::size_t index) {
     auto* const layout = new QHBoxLayout(cell);
     layout->setContentsMargins(0, 0, 0, 0);
     auto& editor = editors_.at(index);
-    auto const parameter = parameter_.strong();
-    if (!parameter)
+    auto* const widget = editor.open(cell);
+    if (!widget)
         return cell;
-    editor = Kolt::makeEditor(parameter, cell, &pools_);
-    if (!editor.widget)
-        editor.widget = new Talo::PlaceholderEditor(*parameter, cell);
-    new Talo::WheelGuard(editor.widget);
-    editor.widget->setAccessibleName(tr("%1, editor %2").arg(QString::fromStdString(creatorName_)).arg(index + 1));
+    widget->setAccessibleName(tr("%1, editor %2").arg(QString::fromStdString(creatorName_)).arg(index + 1));
     // One that cannot fill the column stands at its beginning; some have a fixed size only once they are shown.
-    layout->addWidget(editor.widget, 1);
+    layout->addWidget(widget, 1);
     layout->addStretch(0);
     return cell;
 }
 
 void GalleryRow::showPool() {
-    for (auto const& editor : editors_)
-        Kolt::showPoolValue(editor, parameter_.strong(), &pools_);
+    for (auto& editor : editors_)
+        editor.showPool();
     rawValue_->refresh();
 }
 

@@ -2,9 +2,9 @@
 
 #include <array>
 #include <panel/gallery/NotificationCounter.hpp>
+#include <parameters/rows/EditorCell.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
 #include <QWidget>
-#include <sorrel/InputFrontEnd.hpp>
 
 class QHBoxLayout;
 
@@ -21,8 +21,8 @@ class GalleryRow : public QWidget {
 public:
     /// Makes both editors. A null parameter gives a row that says that there is no value to show. `pools` must outlive
     /// the row.
-    GalleryRow(Kolt::InputRegistry::Entry const& entry, Kolt::ParameterPtr const& parameter, Talo::PoolSource& pools,
-               QWidget* parent = nullptr);
+    GalleryRow(Kolt::InputRegistry::Entry const& entry, Kolt::ParameterPtr const& parameter,
+               Kolt::ValuePoolSource& pools, QWidget* parent = nullptr);
     ~GalleryRow() override;
 
     std::string const& creatorName() const { return creatorName_; }
@@ -31,9 +31,9 @@ public:
     Kolt::CreatorRef const& creator() const { return creator_; }
     Kolt::ParameterPtr parameter() const { return parameter_.strong(); }
     /// An editor, 0 or 1, or what stands in its place.
-    QWidget* editor(std::size_t index) const { return editors_.at(index).widget; }
+    QWidget* editor(std::size_t index) const { return editors_.at(index).widget(); }
     /// Which creator made an editor, and why.
-    Kolt::InputChoice const& choice(std::size_t index) const { return editors_.at(index).choice; }
+    Kolt::InputChoice const& choice(std::size_t index) const { return editors_.at(index).choice(); }
     Talo::RawValueLabel* rawValue() const { return rawValue_; }
     NotificationCounter* counter() const { return counter_; }
     /// What is said under the name; empty where everything is as it should be.
@@ -55,8 +55,7 @@ private:
     std::string const valueType_;
     Kolt::CreatorRef const creator_;
     Kolt::ParameterRef const parameter_;
-    Talo::PoolSource& pools_;
-    std::array<Kolt::Editor, 2> editors_;
+    std::array<Talo::EditorCell, 2> editors_;
     std::array<QWidget*, 2> cells_{};
     QWidget* names_ = nullptr;
     QLabel* noteLabel_ = nullptr;

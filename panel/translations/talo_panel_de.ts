@@ -165,6 +165,95 @@
     </message>
 </context>
 <context>
+    <name>Panel::Document</name>
+    <message>
+        <source>No network is open.</source>
+        <translation>Kein Netz ist geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileMenu</name>
+    <message>
+        <source>Networks (*.json);;All files (*)</source>
+        <translation>Netze (*.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Save values</source>
+        <translation>Werte &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save values &amp;as...</source>
+        <translation>Werte speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Open a network</source>
+        <translation>Ein Netz öffnen</translation>
+    </message>
+    <message>
+        <source>The network cannot be opened</source>
+        <translation>Das Netz lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Save the values</source>
+        <translation>Die Werte speichern</translation>
+    </message>
+    <message>
+        <source>The values cannot be saved</source>
+        <translation>Die Werte lassen sich nicht speichern</translation>
+    </message>
+    <message>
+        <source>Unsaved values</source>
+        <translation>Nicht gespeicherte Werte</translation>
+    </message>
+    <message>
+        <source>The values of “%1” were changed.</source>
+        <translation>Die Werte von „%1“ wurden geändert.</translation>
+    </message>
+    <message>
+        <source>Unless they are saved, the changes are lost.</source>
+        <translation>Werden sie nicht gespeichert, gehen die Änderungen verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FilterField</name>
+    <message>
+        <source>&amp;Find a parameter</source>
+        <translation>&amp;Parameter suchen</translation>
+    </message>
+    <message>
+        <source>Filter by name, object or value</source>
+        <translation>Nach Name, Objekt oder Wert filtern</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Shows the parameters whose name, object or value has all of these words</source>
+        <translation>Zeigt die Parameter, in deren Name, Objekt oder Wert alle diese Wörter stehen</translation>
+    </message>
+</context>
+<context>
     <name>Panel::Gallery</name>
     <message>
         <source>Gallery – Talo panel</source>
@@ -303,62 +392,6 @@
         <translation>Gespeichert.</translation>
     </message>
     <message>
-        <source>No network is open.</source>
-        <translation>Kein Netz ist geöffnet.</translation>
-    </message>
-    <message>
-        <source>Can no longer be taken back: %1</source>
-        <translation>Lässt sich nicht mehr zurücknehmen: %1</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>Networks (*.json);;All files (*)</source>
-        <translation>Netze (*.json);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Pool</source>
-        <translation>Pool</translation>
-    </message>
-    <message>
-        <source>P&amp;ool:</source>
-        <translation>P&amp;ool:</translation>
-    </message>
-    <message>
-        <source>The pool whose values are edited</source>
-        <translation>Der Pool, dessen Werte bearbeitet werden</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Open...</source>
-        <translation>Ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>&amp;Save values</source>
-        <translation>Werte &amp;speichern</translation>
-    </message>
-    <message>
-        <source>Save values &amp;as...</source>
-        <translation>Werte speichern &amp;unter …</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+S</source>
-        <translation>Ctrl+Shift+S</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
@@ -383,120 +416,12 @@
         <translation>Ctrl+R</translation>
     </message>
     <message>
-        <source>&amp;Plug-ins</source>
-        <translation>&amp;Plug-ins</translation>
-    </message>
-    <message>
-        <source>&amp;Load...</source>
-        <translation>&amp;Laden …</translation>
-    </message>
-    <message>
-        <source>&amp;Unload</source>
-        <translation>&amp;Entladen</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Neu laden</translation>
-    </message>
-    <message>
-        <source>Open a network</source>
-        <translation>Ein Netz öffnen</translation>
-    </message>
-    <message>
-        <source>The network cannot be opened</source>
-        <translation>Das Netz lässt sich nicht öffnen</translation>
-    </message>
-    <message>
-        <source>Save the values</source>
-        <translation>Die Werte speichern</translation>
-    </message>
-    <message>
-        <source>The values cannot be saved</source>
-        <translation>Die Werte lassen sich nicht speichern</translation>
-    </message>
-    <message>
-        <source>Load a plug-in</source>
-        <translation>Ein Plug-in laden</translation>
-    </message>
-    <message>
-        <source>Plug-ins (*.talo);;All files (*)</source>
-        <translation>Plug-ins (*.talo);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>The plug-in cannot be loaded</source>
-        <translation>Das Plug-in lässt sich nicht laden</translation>
-    </message>
-    <message>
-        <source>The plug-ins were unloaded.</source>
-        <translation>Die Plug-ins wurden entladen.</translation>
-    </message>
-    <message>
-        <source>The plug-ins cannot be unloaded</source>
-        <translation>Die Plug-ins lassen sich nicht entladen</translation>
-    </message>
-    <message>
-        <source>The plug-ins were loaded again.</source>
-        <translation>Die Plug-ins wurden neu geladen.</translation>
-    </message>
-    <message>
-        <source>The plug-ins cannot be loaded again</source>
-        <translation>Die Plug-ins lassen sich nicht neu laden</translation>
-    </message>
-    <message>
-        <source>Plug-ins: %1, kinds of editors: %2</source>
-        <translation>Plug-ins: %1, Arten von Editoren: %2</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
         <source>History</source>
         <translation>Verlauf</translation>
     </message>
     <message>
-        <source>Can no longer be made again: %1</source>
-        <translation>Lässt sich nicht mehr wiederholen: %1</translation>
-    </message>
-    <message>
         <source>%1[*] – Talo panel</source>
         <translation>%1[*] – Talo-Bedienfeld</translation>
-    </message>
-    <message>
-        <source>Unsaved values</source>
-        <translation>Nicht gespeicherte Werte</translation>
-    </message>
-    <message>
-        <source>The values of “%1” were changed.</source>
-        <translation>Die Werte von „%1“ wurden geändert.</translation>
-    </message>
-    <message>
-        <source>Unless they are saved, the changes are lost.</source>
-        <translation>Werden sie nicht gespeichert, gehen die Änderungen verloren.</translation>
-    </message>
-    <message>
-        <source>Pool and filter</source>
-        <translation>Pool und Filter</translation>
-    </message>
-    <message>
-        <source>Filter by name, object or value</source>
-        <translation>Nach Name, Objekt oder Wert filtern</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filter</translation>
-    </message>
-    <message>
-        <source>Shows the parameters whose name, object or value has all of these words</source>
-        <translation>Zeigt die Parameter, in deren Name, Objekt oder Wert alle diese Wörter stehen</translation>
-    </message>
-    <message>
-        <source>&amp;Find a parameter</source>
-        <translation>&amp;Parameter suchen</translation>
     </message>
 </context>
 <context>
@@ -550,10 +475,73 @@
     </message>
 </context>
 <context>
-    <name>Panel::ObjectView</name>
+    <name>Panel::PluginMenu</name>
     <message>
-        <source>No parameter of this object is found by the filter.</source>
-        <translation>Der Filter findet keinen Parameter dieses Objekts.</translation>
+        <source>&amp;Plug-ins</source>
+        <translation>&amp;Plug-ins</translation>
+    </message>
+    <message>
+        <source>&amp;Load...</source>
+        <translation>&amp;Laden …</translation>
+    </message>
+    <message>
+        <source>&amp;Unload</source>
+        <translation>&amp;Entladen</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>Plug-ins: %1, kinds of editors: %2</source>
+        <translation>Plug-ins: %1, Arten von Editoren: %2</translation>
+    </message>
+    <message>
+        <source>Load a plug-in</source>
+        <translation>Ein Plug-in laden</translation>
+    </message>
+    <message>
+        <source>Plug-ins (*.talo);;All files (*)</source>
+        <translation>Plug-ins (*.talo);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded</source>
+        <translation>Das Plug-in lässt sich nicht laden</translation>
+    </message>
+    <message>
+        <source>The plug-ins were unloaded.</source>
+        <translation>Die Plug-ins wurden entladen.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be unloaded</source>
+        <translation>Die Plug-ins lassen sich nicht entladen</translation>
+    </message>
+    <message>
+        <source>The plug-ins were loaded again.</source>
+        <translation>Die Plug-ins wurden neu geladen.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be loaded again</source>
+        <translation>Die Plug-ins lassen sich nicht neu laden</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PoolToolBar</name>
+    <message>
+        <source>Pool and filter</source>
+        <translation>Pool und Filter</translation>
+    </message>
+    <message>
+        <source>P&amp;ool:</source>
+        <translation>P&amp;ool:</translation>
+    </message>
+    <message>
+        <source>Pool</source>
+        <translation>Pool</translation>
+    </message>
+    <message>
+        <source>The pool whose values are edited</source>
+        <translation>Der Pool, dessen Werte bearbeitet werden</translation>
     </message>
 </context>
 <context>

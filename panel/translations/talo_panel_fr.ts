@@ -165,6 +165,95 @@
     </message>
 </context>
 <context>
+    <name>Panel::Document</name>
+    <message>
+        <source>No network is open.</source>
+        <translation>Aucun réseau n’est ouvert.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileMenu</name>
+    <message>
+        <source>Networks (*.json);;All files (*)</source>
+        <translation>Réseaux (*.json);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>&amp;Save values</source>
+        <translation>&amp;Enregistrer les valeurs</translation>
+    </message>
+    <message>
+        <source>Save values &amp;as...</source>
+        <translation>Enregistrer les valeurs &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Open a network</source>
+        <translation>Ouvrir un réseau</translation>
+    </message>
+    <message>
+        <source>The network cannot be opened</source>
+        <translation>Le réseau ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>Save the values</source>
+        <translation>Enregistrer les valeurs</translation>
+    </message>
+    <message>
+        <source>The values cannot be saved</source>
+        <translation>Les valeurs ne peuvent pas être enregistrées</translation>
+    </message>
+    <message>
+        <source>Unsaved values</source>
+        <translation>Valeurs non enregistrées</translation>
+    </message>
+    <message>
+        <source>The values of “%1” were changed.</source>
+        <translation>Les valeurs de « %1 » ont été modifiées.</translation>
+    </message>
+    <message>
+        <source>Unless they are saved, the changes are lost.</source>
+        <translation>Si elles ne sont pas enregistrées, les modifications seront perdues.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FilterField</name>
+    <message>
+        <source>&amp;Find a parameter</source>
+        <translation>Chercher un &amp;paramètre</translation>
+    </message>
+    <message>
+        <source>Filter by name, object or value</source>
+        <translation>Filtrer par nom, objet ou valeur</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Shows the parameters whose name, object or value has all of these words</source>
+        <translation>Montre les paramètres dont le nom, l’objet ou la valeur contient tous ces mots</translation>
+    </message>
+</context>
+<context>
     <name>Panel::Gallery</name>
     <message>
         <source>Gallery – Talo panel</source>
@@ -303,62 +392,6 @@
         <translation>Enregistré.</translation>
     </message>
     <message>
-        <source>No network is open.</source>
-        <translation>Aucun réseau n’est ouvert.</translation>
-    </message>
-    <message>
-        <source>Can no longer be taken back: %1</source>
-        <translation>Ne peut plus être annulé : %1</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Networks (*.json);;All files (*)</source>
-        <translation>Réseaux (*.json);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>Pool</source>
-        <translation>Pool</translation>
-    </message>
-    <message>
-        <source>P&amp;ool:</source>
-        <translation>P&amp;ool :</translation>
-    </message>
-    <message>
-        <source>The pool whose values are edited</source>
-        <translation>Le pool dont les valeurs sont modifiées</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
-    </message>
-    <message>
-        <source>&amp;Open...</source>
-        <translation>&amp;Ouvrir…</translation>
-    </message>
-    <message>
-        <source>&amp;Save values</source>
-        <translation>&amp;Enregistrer les valeurs</translation>
-    </message>
-    <message>
-        <source>Save values &amp;as...</source>
-        <translation>Enregistrer les valeurs &amp;sous…</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+S</source>
-        <translation>Ctrl+Shift+S</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation>Ctrl+Q</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>É&amp;dition</translation>
     </message>
@@ -383,120 +416,12 @@
         <translation>Ctrl+R</translation>
     </message>
     <message>
-        <source>&amp;Plug-ins</source>
-        <translation>&amp;Greffons</translation>
-    </message>
-    <message>
-        <source>&amp;Load...</source>
-        <translation>&amp;Charger…</translation>
-    </message>
-    <message>
-        <source>&amp;Unload</source>
-        <translation>&amp;Décharger</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Recharger</translation>
-    </message>
-    <message>
-        <source>Open a network</source>
-        <translation>Ouvrir un réseau</translation>
-    </message>
-    <message>
-        <source>The network cannot be opened</source>
-        <translation>Le réseau ne peut pas être ouvert</translation>
-    </message>
-    <message>
-        <source>Save the values</source>
-        <translation>Enregistrer les valeurs</translation>
-    </message>
-    <message>
-        <source>The values cannot be saved</source>
-        <translation>Les valeurs ne peuvent pas être enregistrées</translation>
-    </message>
-    <message>
-        <source>Load a plug-in</source>
-        <translation>Charger un greffon</translation>
-    </message>
-    <message>
-        <source>Plug-ins (*.talo);;All files (*)</source>
-        <translation>Greffons (*.talo);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>The plug-in cannot be loaded</source>
-        <translation>Le greffon ne peut pas être chargé</translation>
-    </message>
-    <message>
-        <source>The plug-ins were unloaded.</source>
-        <translation>Les greffons ont été déchargés.</translation>
-    </message>
-    <message>
-        <source>The plug-ins cannot be unloaded</source>
-        <translation>Les greffons ne peuvent pas être déchargés</translation>
-    </message>
-    <message>
-        <source>The plug-ins were loaded again.</source>
-        <translation>Les greffons ont été rechargés.</translation>
-    </message>
-    <message>
-        <source>The plug-ins cannot be loaded again</source>
-        <translation>Les greffons ne peuvent pas être rechargés</translation>
-    </message>
-    <message>
-        <source>Plug-ins: %1, kinds of editors: %2</source>
-        <translation>Greffons : %1, sortes d’éditeurs : %2</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1 : %2</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
         <source>History</source>
         <translation>Historique</translation>
     </message>
     <message>
-        <source>Can no longer be made again: %1</source>
-        <translation>Ne peut plus être rétabli : %1</translation>
-    </message>
-    <message>
         <source>%1[*] – Talo panel</source>
         <translation>%1[*] – Panneau Talo</translation>
-    </message>
-    <message>
-        <source>Unsaved values</source>
-        <translation>Valeurs non enregistrées</translation>
-    </message>
-    <message>
-        <source>The values of “%1” were changed.</source>
-        <translation>Les valeurs de « %1 » ont été modifiées.</translation>
-    </message>
-    <message>
-        <source>Unless they are saved, the changes are lost.</source>
-        <translation>Si elles ne sont pas enregistrées, les modifications seront perdues.</translation>
-    </message>
-    <message>
-        <source>Pool and filter</source>
-        <translation>Pool et filtre</translation>
-    </message>
-    <message>
-        <source>Filter by name, object or value</source>
-        <translation>Filtrer par nom, objet ou valeur</translation>
-    </message>
-    <message>
-        <source>Filter</source>
-        <translation>Filtre</translation>
-    </message>
-    <message>
-        <source>Shows the parameters whose name, object or value has all of these words</source>
-        <translation>Montre les paramètres dont le nom, l’objet ou la valeur contient tous ces mots</translation>
-    </message>
-    <message>
-        <source>&amp;Find a parameter</source>
-        <translation>Chercher un &amp;paramètre</translation>
     </message>
 </context>
 <context>
@@ -550,10 +475,73 @@
     </message>
 </context>
 <context>
-    <name>Panel::ObjectView</name>
+    <name>Panel::PluginMenu</name>
     <message>
-        <source>No parameter of this object is found by the filter.</source>
-        <translation>Le filtre ne trouve aucun paramètre de cet objet.</translation>
+        <source>&amp;Plug-ins</source>
+        <translation>&amp;Greffons</translation>
+    </message>
+    <message>
+        <source>&amp;Load...</source>
+        <translation>&amp;Charger…</translation>
+    </message>
+    <message>
+        <source>&amp;Unload</source>
+        <translation>&amp;Décharger</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Recharger</translation>
+    </message>
+    <message>
+        <source>Plug-ins: %1, kinds of editors: %2</source>
+        <translation>Greffons : %1, sortes d’éditeurs : %2</translation>
+    </message>
+    <message>
+        <source>Load a plug-in</source>
+        <translation>Charger un greffon</translation>
+    </message>
+    <message>
+        <source>Plug-ins (*.talo);;All files (*)</source>
+        <translation>Greffons (*.talo);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The plug-in cannot be loaded</source>
+        <translation>Le greffon ne peut pas être chargé</translation>
+    </message>
+    <message>
+        <source>The plug-ins were unloaded.</source>
+        <translation>Les greffons ont été déchargés.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be unloaded</source>
+        <translation>Les greffons ne peuvent pas être déchargés</translation>
+    </message>
+    <message>
+        <source>The plug-ins were loaded again.</source>
+        <translation>Les greffons ont été rechargés.</translation>
+    </message>
+    <message>
+        <source>The plug-ins cannot be loaded again</source>
+        <translation>Les greffons ne peuvent pas être rechargés</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PoolToolBar</name>
+    <message>
+        <source>Pool and filter</source>
+        <translation>Pool et filtre</translation>
+    </message>
+    <message>
+        <source>P&amp;ool:</source>
+        <translation>P&amp;ool :</translation>
+    </message>
+    <message>
+        <source>Pool</source>
+        <translation>Pool</translation>
+    </message>
+    <message>
+        <source>The pool whose values are edited</source>
+        <translation>Le pool dont les valeurs sont modifiées</translation>
     </message>
 </context>
 <context>

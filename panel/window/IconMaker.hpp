@@ -1,7 +1,7 @@
 #pragma once
 
 #include <lattice/Object.hpp>
-#include <parameters/PoolSource.hpp>
+#include <lattice/ValuePoolSource.hpp>
 #include <QWidget>
 #include <set>
 #include <string>
@@ -14,7 +14,7 @@ namespace Panel {
 class IconMaker {
 public:
     /// `pools` must outlive the icons.
-    explicit IconMaker(Talo::PoolSource& pools) : pools_(pools) {}
+    explicit IconMaker(Kolt::ValuePoolSource& pools) : pools_(pools) {}
 
     /// The icon of the object's first parameter that can be shown as one, as a child of `parent`; null when there is
     /// none. Like every making of an editor it may add missing properties to a parameter.
@@ -25,7 +25,7 @@ public:
 private:
     QWidget* makeIcon(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, QWidget* parent);
 
-    Talo::PoolSource& pools_;
+    Kolt::ValuePoolSource& pools_;
     // Addresses of creators, for comparison alone.
     std::set<void const*> withoutIcons_;
 };

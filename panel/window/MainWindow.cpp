@@ -1,300 +1,267 @@
-#include <fractal/objects/ObjectFactory.hpp>
-#include <lattice/UndoHistory.hpp>
-#include <panel/look/Look.hpp>
 #include <panel/window/MainWindow.hpp>
-#include <QAction>
+
+#include <panel/look/Look.hpp>
+#include <panel/window/ActivationRepair.hpp>
+#include <parameters/commands/ParameterFilter.hpp>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDockWidget>
-#include <QSignalBlocker>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QTimer>
-#include <QWindow>
 
 namespace Panel {
 
 namespace {
 
-constexpr int keptViews = 8;
-
 // In pixels; as wide as the list of objects and half of the editors.
 constexpr int previewWidth = 400;
 
-// How often it is looked whether a popup has gone, in milliseconds.
-constexpr int popupInterval = 50;
+// How long messages stay in the status bar, in milliseconds.
+constexpr int refusalTime = 8000;
+constexpr int savedTime = 4000;
+
+QString nameOr(Kolt::ObjectPtr const& object, QString const& otherwise) {
+    return object ? QString::fromStdString(object->Name()) : otherwise;
+}
 
 } // namespace
 
 MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     : QMainWindow(parent),
       plugins_(plugins),
+      fractal_(std::make_unique<Fractal::FractalController>()),
+      undoActions_(document_.history()),
+      commands_(nullptr),
       objectList_(new ObjectList(pools_)),
-      viewStack_(new QStackedWidget),
+      views_(new ViewStack(pools_, *this)),
       messageDock_(new MessageDock(*this)),
-      historyView_(new Talo::HistoryView),
-      poolSelector_(new QComboBox),
-      filterField_(new QLineEdit),
-      pluginLabel_(new QLabel) {
+      historyView_(new Talo::HistoryView(document_.history())),
+      toolBar_(new PoolToolBar),
+      fileMenu_(new FileMenu(document_, *this)),
+      pluginMenu_(new PluginMenu(plugins, *this)),
+      rawAction_(new QAction(tr("&Raw values"), this)) {
+    makeCentre();
+    makeDocks();
+    addToolBar(toolBar_);
+    menuBar()->addMenu(fileMenu_);
+    makeEditMenu();
+    makeViewMenu();
+    menuBar()->addMenu(pluginMenu_);
+    connectParts();
+    showTitle();
+    resize(1200, 800);
+}
+
+MainWindow::~MainWindow() {
+    // While the network and the pools still exist: an editor may use them as it is deleted.
+    views_->closeViews();
+    closeEditors();
+    views_->deleteViews();
+    fractal_->showNetwork(nullptr, nullptr);
+    document_.history().clear();
+}
+
+void MainWindow::makeCentre() {
     auto* const splitter = new QSplitter;
     splitter->addWidget(objectList_);
-    splitter->addWidget(viewStack_);
+    splitter->addWidget(views_);
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({220, 780});
     splitter->setChildrenCollapsible(false);
     objectList_->setMinimumWidth(160);
     setCentralWidget(splitter);
-    // Without animation: one that goes on when the window goes is never freed.
-    setDockOptions(AllowNestedDocks | AllowTabbedDocks);
-
-    fractal_ = std::make_unique<Fractal::FractalController>();
-    addDockWidget(trailingDockArea(layoutDirection()), fractal_->dock());
-    resizeDocks({fractal_->dock()}, {previewWidth}, Qt::Horizontal);
-    statusBar()->addPermanentWidget(fractal_->progressWidget());
-    connect(fractal_.get(), &Fractal::FractalController::reported, this,
-            [this](QString const& text) { messages()->add(MessageList::Source::Panel, text); });
-    makeHistoryDock();
-    makeToolBar();
-    makeFileMenu();
-    makeEditMenu();
-    makeViewMenu();
-    makePluginMenu();
-    statusBar()->addPermanentWidget(pluginLabel_);
-    showTitle();
-    resize(1200, 800);
-
-    connect(objectList_, &ObjectList::objectChosen, this, &MainWindow::showView);
-    connect(&plugins_, &Plugins::aboutToChange, this, &MainWindow::closeEditors);
-    connect(&plugins_, &Plugins::changed, this, &MainWindow::openEditors);
-    connect(qApp, &QGuiApplication::focusWindowChanged, this, &MainWindow::repairActivation, Qt::QueuedConnection);
-    Kolt::UndoHistory::theHistory().setListener([this] { historyChanged(); });
-    updateUndo();
-    updatePlugins();
 }
 
-MainWindow::~MainWindow() {
-    Kolt::UndoHistory::theHistory().setListener({});
-    // While the network and the pools still stand: what an editor does as it goes may need them.
-    closeViews();
-    closeEditors();
-    qDeleteAll(views());
-    fractal_->showNetwork(nullptr, nullptr);
-    Kolt::UndoHistory::theHistory().clear();
+void MainWindow::makeDocks() {
+    // Qt leaks a dock animation that runs when the window is deleted.
+    setDockOptions(AllowNestedDocks | AllowTabbedDocks);
+    addDockWidget(trailingDockArea(layoutDirection()), fractal_->dock());
+    resizeDocks({fractal_->dock()}, {previewWidth}, Qt::Horizontal);
+    auto* const history = new QDockWidget(tr("History"));
+    history->setObjectName(QStringLiteral("historyDock"));
+    history->setWidget(historyView_);
+    addDockWidget(trailingDockArea(layoutDirection()), history);
+    // The view menu shows it.
+    history->hide();
+    history->toggleViewAction()->setObjectName(QStringLiteral("showHistory"));
+    statusBar()->addPermanentWidget(fractal_->progressWidget());
+    statusBar()->addPermanentWidget(pluginMenu_->statusLabel());
+}
+
+void MainWindow::makeEditMenu() {
+    auto* const menu = menuBar()->addMenu(tr("&Edit"));
+    menu->addActions({undoActions_.undoAction(), undoActions_.redoAction()});
+    menu->addSeparator();
+    menu->addActions(commands_.actions());
+    menu->addSeparator();
+    menu->addAction(toolBar_->filterField()->findAction());
+    connect(menu, &QMenu::aboutToShow, &commands_, &Talo::ParameterCommands::updateActions);
+}
+
+void MainWindow::makeViewMenu() {
+    auto* const menu = menuBar()->addMenu(tr("&View"));
+    menu->addAction(tr("&New view"), views_, &ViewStack::addView, QKeySequence(tr("Ctrl+N")));
+    menu->addSeparator();
+    rawAction_->setObjectName(QStringLiteral("rawValues"));
+    rawAction_->setCheckable(true);
+    rawAction_->setShortcut(tr("Ctrl+R"));
+    menu->addAction(rawAction_);
+    menu->addAction(messageDock_->toggleViewAction());
+    menu->addAction(static_cast<QDockWidget*>(historyView_->parentWidget())->toggleViewAction());
+    menu->addAction(fractal_->previewAction());
+}
+
+void MainWindow::connectParts() {
+    connect(&document_, &Document::aboutToClose, this, &MainWindow::networkAboutToClose);
+    connect(&document_, &Document::opened, this, &MainWindow::showOpened);
+    connect(&document_, &Document::modifiedChanged, this, &MainWindow::setWindowModified);
+    connect(&document_, &Document::loaded, this, [this](QString const& file) { report(tr("Opened %1.").arg(file)); });
+    connect(&document_, &Document::saved, this, &MainWindow::showSaved);
+    connect(&undoActions_, &Talo::UndoActions::historyChanged, &document_, &Document::checkModifiedLater);
+    connect(&undoActions_, &Talo::UndoActions::refused, this,
+            [this](QString const& reason) { messages()->add(MessageList::Source::Error, reason); });
+    connect(historyView_, &Talo::HistoryView::stateChosen, &undoActions_, &Talo::UndoActions::goToState);
+    connect(views_, &ViewStack::editorOpened, fractal_.get(), &Fractal::FractalController::followLinks);
+    connect(views_, &ViewStack::refused, this, &MainWindow::showRefusal);
+    connect(fractal_.get(), &Fractal::FractalController::reported, this, &MainWindow::report);
+    connect(fileMenu_, &FileMenu::commitRequested, this, &MainWindow::commitPendingEdit);
+    connect(fileMenu_, &FileMenu::failed, this, &MainWindow::reportError);
+    connect(pluginMenu_, &PluginMenu::reported, this, &MainWindow::report);
+    connect(pluginMenu_, &PluginMenu::failed, this, &MainWindow::reportError);
+    connect(rawAction_, &QAction::toggled, views_, &ViewStack::setRawValuesShown);
+    connect(toolBar_->filterField(), &QLineEdit::textChanged, this, &MainWindow::applyFilter);
+    connect(toolBar_->filterField(), &QLineEdit::returnPressed, this, [this] {
+        if (currentView())
+            currentView()->panel()->focusFirstEditor();
+    });
+    connect(toolBar_, &PoolToolBar::poolChosen, this, qOverload<int>(&MainWindow::choosePool));
+    connect(objectList_, &ObjectList::objectChosen, this,
+            [this](Kolt::ObjectPtr const& object) { views_->showObject(object, network()->kind(object)); });
+    connect(&plugins_, &Plugins::aboutToChange, this, &MainWindow::closeEditors);
+    connect(&plugins_, &Plugins::changed, this, &MainWindow::openEditors);
+    new ActivationRepair(*this);
 }
 
 bool MainWindow::openNetwork(QString const& file, QString* error) {
-    auto loaded = Talo::Network::load(file, Fractal::makeObject);
-    if (!loaded.network) {
-        messages()->add(MessageList::Source::Error, loaded.error);
-        if (error)
-            *error = loaded.error;
-        return false;
-    }
-    showNetwork(std::move(loaded.network));
-    messages()->add(MessageList::Source::Panel, tr("Opened %1.").arg(file));
-    return true;
+    return succeeded(document_.open(file), error);
 }
 
-void MainWindow::showNetwork(std::unique_ptr<Talo::Network> network) {
-    if (!network)
-        return;
-    if (network_)
-        emit networkAboutToClose();
-    closeViews();
+void MainWindow::showOpened(Talo::Network* network) {
+    views_->closeViews();
     objectList_->showNetwork(nullptr);
     fractal_->showNetwork(nullptr, nullptr);
-    // These steps are about parameters that go now.
-    gestures_.end();
-    Kolt::UndoHistory::theHistory().clear();
-    network_ = std::move(network);
-    historyView_->setNaming(naming());
-    network_->actionHandler = [this](Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,
-                                     Kolt::PoolPtr const& pool) {
+    // The old steps are about parameters that are deleted now.
+    commitPendingEdit();
+    document_.history().clear();
+    undoActions_.setNaming(document_.naming());
+    historyView_->setNaming(document_.naming());
+    network->actionHandler = [this](Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,
+                                    Kolt::PoolPtr const& pool) {
         fractal_->fire(object, parameter, pool);
-        messages()->add(MessageList::Source::Panel,
-                        tr("Action %1.%2 was fired in pool %3.")
-                            .arg(object ? QString::fromStdString(object->Name()) : tr("(no object)"),
-                                 parameter ? QString::fromStdString(parameter->Name()) : tr("(no parameter)"),
-                                 pool ? QString::fromStdString(pool->Name()) : tr("(no pool)")));
+        report(tr("Action %1.%2 was fired in pool %3.")
+                   .arg(nameOr(object, tr("(no object)")),
+                        parameter ? QString::fromStdString(parameter->Name()) : tr("(no parameter)"),
+                        pool ? QString::fromStdString(pool->Name()) : tr("(no pool)")));
     };
-    {
-        QSignalBlocker const blocker(poolSelector_);
-        poolSelector_->clear();
-        for (auto const& pool : network_->pools())
-            poolSelector_->addItem(QString::fromStdString(pool->Name()));
-        pools_.setPool(network_->pools().front());
-    }
+    toolBar_->showPools(*network);
+    pools_.setPool(network->pools().front());
     showTitle();
-    updateModified();
-    fractal_->showNetwork(network_.get(), pools_.pool());
-    objectList_->showNetwork(network_.get());
-    filterField_->clear();
-    if (!network_->objects().empty())
-        showObject(QString::fromStdString(network_->objects().front()->Name()));
+    fractal_->showNetwork(network, pools_.pool());
+    objectList_->showNetwork(network);
+    toolBar_->filterField()->clear();
+    if (!network->objects().empty())
+        showObject(QString::fromStdString(network->objects().front()->Name()));
     emit networkOpened();
 }
 
+void MainWindow::showSaved(QString const& file) {
+    showTitle();
+    views_->showDefaults();
+    report(tr("Saved the values to %1.").arg(file));
+    statusBar()->showMessage(tr("Saved."), savedTime);
+}
+
 bool MainWindow::saveValues(QString const& file, QString* error) {
-    QString reason;
-    if (network_ && network_->saveAs(file, &reason)) {
-        showTitle();
-        updateModified();
-        auto const rows = findChildren<Talo::ParameterRow*>();
-        for (auto* const row : rows)
-            row->showDefault();
-        messages()->add(MessageList::Source::Panel, tr("Saved the values to %1.").arg(file));
-        statusBar()->showMessage(tr("Saved."), 4000);
+    return succeeded(document_.save(file), error);
+}
+
+bool MainWindow::succeeded(QString const& reason, QString* error) {
+    if (reason.isEmpty())
         return true;
-    }
-    if (!network_)
-        reason = tr("No network is open.");
     messages()->add(MessageList::Source::Error, reason);
     if (error)
         *error = reason;
     return false;
 }
 
-bool MainWindow::showObject(QString const& name) {
-    return objectList_->chooseObject(name);
-}
-
-bool MainWindow::choosePool(QString const& name) {
-    int const index = poolSelector_->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (index >= 0)
-        poolSelector_->setCurrentIndex(index);
-    return index >= 0;
-}
-
 void MainWindow::choosePool(int index) {
-    auto const& pools = network_->pools();
-    pools_.setPool(pools.at(static_cast<std::size_t>(index)));
+    pools_.setPool(network()->pools().at(static_cast<std::size_t>(index)));
     fractal_->choosePool(pools_.pool());
-    auto const shown = views();
-    for (auto* const view : shown)
-        view->showPool();
+    views_->showPool();
     applyFilter();
-    // An icon cannot be told of another pool; a new one shows it.
+    // An icon shows one pool only; a new one shows the chosen pool.
     objectList_->closeIcons();
     objectList_->openIcons();
 }
 
-void MainWindow::showView(Kolt::ObjectPtr const& object) {
-    for (int index = 0; index < viewStack_->count(); ++index) {
-        if (static_cast<ObjectView*>(viewStack_->widget(index))->object() == object) {
-            // The last of the stack is the one that was shown last.
-            auto* const known = viewStack_->widget(index);
-            viewStack_->removeWidget(known);
-            viewStack_->addWidget(known);
-            viewStack_->setCurrentWidget(known);
-            return;
-        }
-    }
-    auto* const view = makeView(object, viewStack_);
-    viewStack_->addWidget(view);
-    viewStack_->setCurrentWidget(view);
-    while (viewStack_->count() > keptViews) {
-        auto* const oldest = viewStack_->widget(0);
-        viewStack_->removeWidget(oldest);
-        oldest->deleteLater();
-    }
-}
-
-ObjectView* MainWindow::makeView(Kolt::ObjectPtr const& object, QWidget* parent) {
-    auto* const view = new ObjectView(object, network_->kind(object), pools_, parent);
-    view->setRawValuesShown(rawAction_->isChecked());
-    view->setFilter(Talo::ParameterFilter(filterField_->text()));
-    connect(view, &ObjectView::editorOpened, this,
-            [this](Talo::ParameterRow const* row) { fractal_->followLinks(row->parameter(), row->editor()); });
-    return view;
-}
-
-ObjectView* MainWindow::addView() {
-    auto const object = currentView() ? currentView()->object() : nullptr;
-    if (!object)
-        return nullptr;
-    auto* const dock = new QDockWidget(QString::fromStdString(object->Name()), this);
-    dock->setAttribute(Qt::WA_DeleteOnClose);
-    auto* const view = makeView(object, dock);
-    dock->setWidget(view);
-    int const half = viewStack_->width() / 2;
-    addDockWidget(trailingDockArea(layoutDirection()), dock);
-    resizeDocks({dock}, {half}, Qt::Horizontal);
-    return view;
-}
-
-ObjectView* MainWindow::currentView() const {
-    return static_cast<ObjectView*>(viewStack_->currentWidget());
-}
-
-std::vector<ObjectView*> MainWindow::views() const {
-    auto const found = findChildren<ObjectView*>();
-    return {found.begin(), found.end()};
-}
-
-void MainWindow::closeViews() {
-    auto const shown = views();
-    for (auto* const view : shown) {
-        auto* const dock = qobject_cast<QDockWidget*>(view->parentWidget());
-        QWidget* const closed = dock ? dock : static_cast<QWidget*>(view);
-        closed->hide();
-        if (!dock)
-            viewStack_->removeWidget(view);
-        closed->deleteLater();
-    }
+void MainWindow::applyFilter() {
+    if (!network())
+        return;
+    Talo::ParameterFilter const filter(toolBar_->filterField()->text());
+    if (filter.isEmpty())
+        objectList_->setFilter({});
+    else
+        objectList_->setFilter([&](auto const& object) { return filter.finds(object, pools_.pool()); });
+    views_->setFilter(toolBar_->filterField()->text());
 }
 
 void MainWindow::closeEditors() {
     objectList_->closeIcons();
     objectList_->forgetCreators();
-    auto const shown = views();
-    for (auto* const view : shown)
-        view->closeEditors();
-    // Whoever asked for this is about to take away the code that deletes them.
+    views_->closeEditors();
+    // The caller is about to unload the code that deletes them.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void MainWindow::openEditors() {
     objectList_->openIcons();
-    auto const shown = views();
-    for (auto* const view : shown)
-        view->openEditors();
-    updatePlugins();
+    views_->openEditors();
+    pluginMenu_->update();
 }
 
-void MainWindow::repairActivation() {
-    if (!windowHandle() || QGuiApplication::focusWindow() != windowHandle() || QApplication::activeWindow())
-        return;
-    // Qt takes no notice of a focus that comes meanwhile, as after a file was typed into a dialog that proposes names,
-    // and keys do nothing then.
-    if (QApplication::activePopupWidget())
-        QTimer::singleShot(popupInterval, this, &MainWindow::repairActivation);
+void MainWindow::showTitle() {
+    setWindowTitle(network() ? tr("%1[*] – Talo panel").arg(document_.title()) : tr("Talo panel"));
+    setWindowFilePath(network() ? network()->file() : QString());
+}
+
+void MainWindow::showRefusal(QString const& reason) {
+    messages()->add(MessageList::Source::Error, reason);
+    statusBar()->showMessage(reason, refusalTime);
+}
+
+void MainWindow::reportError(QString const& title, QString const& text) {
+    messages()->add(MessageList::Source::Error, text);
+    auto* const box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(
+        QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"))));
+    box->open();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (fileMenu_->mayDiscardChanges())
+        QMainWindow::closeEvent(event);
     else
-        QApplication::setActiveWindow(this);
+        event->ignore();
 }
 
-void MainWindow::setRawValuesShown(bool shown) {
-    rawAction_->setChecked(shown);
-}
-
-void MainWindow::setFilter(QString const& words) {
-    filterField_->setText(words);
-}
-
-void MainWindow::applyFilter() {
-    if (!network_)
-        return;
-    auto const filter = Talo::ParameterFilter(filterField_->text());
-    auto const pool = pools_.pool();
-    if (filter.isEmpty())
-        objectList_->setFilter({});
-    else
-        objectList_->setFilter([&](auto const& object) { return filter.finds(object, pool); });
-    auto const shown = views();
-    for (auto* const view : shown)
-        view->setFilter(filter);
-}
-
-bool MainWindow::rawValuesShown() const {
-    return rawAction_->isChecked();
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    // What the host wrote by itself is noticed when the user comes back.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        document_.checkModified();
 }
 
 } // namespace Panel

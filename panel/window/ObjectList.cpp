@@ -4,7 +4,7 @@
 
 namespace Panel {
 
-ObjectList::ObjectList(Talo::PoolSource& pools, QWidget* parent) : QTreeWidget(parent), iconMaker_(pools) {
+ObjectList::ObjectList(Kolt::ValuePoolSource& pools, QWidget* parent) : QTreeWidget(parent), iconMaker_(pools) {
     setHeaderHidden(true);
     // Nothing folds out; the indentation is the left margin.
     setItemsExpandable(false);

@@ -14,7 +14,7 @@ class ObjectList : public QTreeWidget {
 
 public:
     /// `pools` must outlive the list.
-    explicit ObjectList(Talo::PoolSource& pools, QWidget* parent = nullptr);
+    explicit ObjectList(Kolt::ValuePoolSource& pools, QWidget* parent = nullptr);
     ~ObjectList() override;
 
     /// Lists the objects of a network, with their icons; null empties the list. None is chosen.

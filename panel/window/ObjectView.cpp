@@ -1,4 +1,5 @@
 #include <panel/window/ObjectView.hpp>
+
 #include <parameters/rows/MutedLabel.hpp>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -6,9 +7,6 @@
 namespace Panel {
 
 namespace {
-
-// Nobody tells of a deleted parameter, so a view looks. In milliseconds.
-constexpr int checkInterval = 250;
 
 QWidget* makeHeader(QString const& name, QString const& kind) {
     auto* const header = new QWidget;
@@ -23,7 +21,7 @@ QWidget* makeHeader(QString const& name, QString const& kind) {
         font.setPointSizeF(font.pointSizeF() * 1.3);
     title->setFont(font);
     layout->addWidget(title);
-    // Many an object is named after what it is.
+    // Some objects have the name of their kind.
     auto* const kindLabel = new Talo::MutedLabel(kind == name ? QString() : kind);
     kindLabel->setTextFormat(Qt::PlainText);
     kindLabel->setWordWrap(true);
@@ -33,49 +31,16 @@ QWidget* makeHeader(QString const& name, QString const& kind) {
 
 } // namespace
 
-ObjectView::ObjectView(Kolt::ObjectPtr const& object, QString const& kind, Talo::PoolSource& pools, QWidget* parent)
-    : QWidget(parent),
-      object_(object),
-      pools_(pools),
-      rows_(new Talo::RowArea(QString::fromStdString(object->Name()), object->parameters(), pools)),
-      emptyNote_(new Talo::MutedLabel(tr("No parameter of this object is found by the filter."))) {
+ObjectView::ObjectView(Kolt::ObjectPtr const& object, QString const& kind, Kolt::ValuePoolSource& pools,
+                       QWidget* parent)
+    : QWidget(parent), kind_(kind), panel_(new Talo::ParameterPanel(object, pools)) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(makeHeader(QString::fromStdString(object->Name()), kind));
-    layout->addWidget(rows_, 1);
-    layout->addWidget(emptyNote_, 1, Qt::AlignTop);
-    emptyNote_->setMargin(12);
-    emptyNote_->setWordWrap(true);
-    emptyNote_->hide();
-
-    checkTimer_.setInterval(checkInterval);
-    connect(rows_, &Talo::RowArea::editorOpened, this, &ObjectView::editorOpened);
-    connect(&checkTimer_, &QTimer::timeout, rows_, &Talo::RowArea::checkParameters);
+    layout->addWidget(panel_, 1);
 }
 
 ObjectView::~ObjectView() = default;
-
-void ObjectView::setFilter(Talo::ParameterFilter const& filter) {
-    auto const object = object_.strong();
-    if (!object || filter.isEmpty())
-        rows_->setFilter({});
-    else
-        rows_->setFilter([&](auto const& parameter) { return filter.finds(*object, parameter, pools_.pool()); });
-    bool const nothing = !filter.isEmpty() && rows_->shownCount() == 0;
-    rows_->setVisible(!nothing);
-    emptyNote_->setVisible(nothing);
-}
-
-void ObjectView::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    rows_->checkParameters();
-    checkTimer_.start();
-}
-
-void ObjectView::hideEvent(QHideEvent* event) {
-    QWidget::hideEvent(event);
-    checkTimer_.stop();
-}
 
 } // namespace Panel

@@ -7,10 +7,10 @@
 
 namespace Talo {
 
-HistoryView::HistoryView(QWidget* parent) : QListWidget(parent) {
+HistoryView::HistoryView(Kolt::UndoHistory& history, QWidget* parent) : QListWidget(parent), history_(history) {
     setObjectName(QStringLiteral("history"));
     setAccessibleName(tr("History"));
-    setAccessibleDescription(tr("The steps that can be taken back. Return goes to the state after the chosen step."));
+    setAccessibleDescription(tr("The undo steps. Return goes to the state after the chosen step."));
     setItemDelegate(new TextDirectionDelegate(this));
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideMiddle);
@@ -21,6 +21,7 @@ HistoryView::HistoryView(QWidget* parent) : QListWidget(parent) {
     auto const choose = [this](QListWidgetItem* chosen) { emit stateChosen(row(chosen)); };
     connect(this, &QListWidget::itemClicked, this, choose);
     connect(this, &QListWidget::itemActivated, this, choose);
+    connection_ = history_.addListener([this] { historyChanged(); });
 }
 
 HistoryView::~HistoryView() = default;
@@ -54,10 +55,9 @@ void HistoryView::changeEvent(QEvent* event) {
 
 void HistoryView::refresh() {
     refreshWaits_ = false;
-    auto const& history = Kolt::UndoHistory::theHistory();
-    auto steps = history.steps();
+    auto steps = history_.steps();
     auto const done = static_cast<int>(steps.size());
-    auto const undone = history.undoneSteps();
+    auto const undone = history_.undoneSteps();
     steps.insert(steps.end(), undone.begin(), undone.end());
 
     // What stands there already stays, but for the step of a gesture that goes on and for the border of what was
@@ -86,7 +86,7 @@ void HistoryView::showStep(int row, Kolt::UndoStep const& step, bool undone) {
     itemFont.setItalic(undone);
     shown->setFont(itemFont);
     shown->setForeground(undone ? QBrush(mutedText(palette())) : QBrush());
-    shown->setData(Qt::AccessibleTextRole, undone ? tr("%1, taken back").arg(text) : text);
+    shown->setData(Qt::AccessibleTextRole, undone ? tr("%1, undone").arg(text) : text);
 }
 
 } // namespace Talo

@@ -3,6 +3,7 @@
 #include <lattice/UndoHistory.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <QListWidget>
+#include <tessera/Export.hpp>
 #include <vector>
 
 namespace Talo {
@@ -10,19 +11,16 @@ namespace Talo {
 /// The steps of the host's history as a list: first the start, then the steps, the latest last, then muted what was
 /// taken back. The current row is the state that holds; a click on a row, or Return, asks for the state of that row.
 /// User-interface thread.
-class HistoryView : public QListWidget {
+class TALO_EXPORT HistoryView : public QListWidget {
     Q_OBJECT
 
 public:
-    /// An empty list, until `historyChanged` is called.
-    explicit HistoryView(QWidget* parent = nullptr);
+    /// The history must outlive the view.
+    explicit HistoryView(Kolt::UndoHistory& history, QWidget* parent = nullptr);
     ~HistoryView() override;
 
     /// How parameters are named from now on; an empty function shows their own names.
     void setNaming(ParameterNaming naming);
-    /// The history changed: the list is shown anew as soon as it can be seen and other events were handled.
-    void historyChanged();
-
 signals:
     /// The state after that many steps is asked for, counted from the start and with what was taken back.
     void stateChosen(int steps);
@@ -32,14 +30,18 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    /// The list is shown anew as soon as it is visible and other events were handled.
+    void historyChanged();
     void refresh();
     void showStep(int row, Kolt::UndoStep const& step, bool undone);
 
+    Kolt::UndoHistory& history_;
     ParameterNaming naming_;
     std::vector<Kolt::UndoHistory::Step> shown_;
     // How many of them are not taken back.
     int shownDone_ = 0;
     bool refreshWaits_ = false;
+    Kolt::Connection connection_;
 };
 
 } // namespace Talo

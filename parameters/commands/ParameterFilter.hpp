@@ -3,12 +3,13 @@
 #include <lattice/Object.hpp>
 #include <QString>
 #include <QStringList>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Words by which parameters are found. A parameter is found when each word stands somewhere in "object.parameter" or
 /// in the text of its value, in capitals or not. Without words every parameter is found. User-interface thread.
-class ParameterFilter {
+class TALO_EXPORT ParameterFilter {
 public:
     /// The words of a text, between blanks.
     explicit ParameterFilter(QString const& text = {});

@@ -1,6 +1,6 @@
 #include <algorithm>
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/MultipleStringSelection.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <QCoreApplication>
 #include <QStringList>
@@ -27,12 +27,9 @@ QString flagsText(Kolt::FlagList const& flags) {
 }
 
 QString wholeText(Kolt::VValueBase const& value) {
-    if (auto const* const flags = dynamic_cast<Kolt::VTypedValueBase<Kolt::FlagList> const*>(&value)) {
-        Kolt::FlagList content;
-        flags->get(content);
-        return flagsText(content);
-    }
-    bool const isList = dynamic_cast<Kolt::VTypedValueBase<Kolt::VMultipleStringList> const*>(&value);
+    if (auto const flags = Kolt::valueIn<Kolt::FlagList>(&value))
+        return flagsText(*flags);
+    bool const isList = Kolt::typedValue<Kolt::VMultipleStringList>(&value);
     auto text = QString::fromStdString(value.Text());
     return isList ? text.replace(QLatin1Char('\n'), QLatin1String(", ")) : text.simplified();
 }

@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <bramble/Values.hpp>
+#include <bramble/FlagList.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 #include <parameters/commands/ValueClipboard.hpp>

@@ -4,12 +4,13 @@
 #include <memory>
 #include <QMimeData>
 #include <QString>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Values on their way over the clipboard: as plain text for everybody, and typed for the panel, in the way of network
 /// files, so that every value arrives exactly. User-interface thread.
-class ValueClipboard {
+class TALO_EXPORT ValueClipboard {
 public:
     /// The format of typed values, a JSON object: {"type": "int", "value": 400}.
     static QString mimeType();

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// A frame inside the edges of a widget that shows that it has the focus, in two colours, so that it can be seen on
 /// every ground. It lies over the widget, as its child, leaves the mouse to it and follows its size. User-interface
 /// thread.
-class FocusOutline : public QWidget {
+class TALO_EXPORT FocusOutline : public QWidget {
     Q_OBJECT
 
 public:

@@ -1,6 +1,6 @@
-#include <lattice/UndoHistory.hpp>
 #include <parameters/input/GestureWatcher.hpp>
-#include <parameters/rows/ParameterRow.hpp>
+
+#include <parameters/input/GestureTarget.hpp>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
@@ -27,7 +27,7 @@ bool isTypedInto(QWidget const* widget) {
 /// The text field that a widget is or is a part of, null for none. The line edit of a drop-down list is a part of it.
 QWidget* textFieldOf(QWidget* widget) {
     QWidget* field = nullptr;
-    for (auto* each = widget; each && !qobject_cast<ParameterRow*>(each); each = each->parentWidget()) {
+    for (auto* each = widget; each && !dynamic_cast<GestureTarget*>(each); each = each->parentWidget()) {
         if (isText(each) || isTypedInto(each))
             field = each;
     }
@@ -51,7 +51,7 @@ bool stepsThroughValues(int key) {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
 }
 
-/// Whether the field could take back, or make again, something by itself.
+/// Whether the field itself could undo, or redo, something.
 bool hasOwnHistory(QWidget* field, bool redo) {
     auto const* line = qobject_cast<QLineEdit*>(field);
     if (!line)
@@ -72,7 +72,6 @@ GestureWatcher::GestureWatcher(QObject* parent) : QObject(parent) {
         if (kind_ == Kind::Wheel)
             end();
     });
-    QCoreApplication::instance()->installEventFilter(this);
 }
 
 GestureWatcher::~GestureWatcher() {
@@ -84,9 +83,11 @@ void GestureWatcher::begin(Kind kind, QWidget* target) {
     kind_ = kind;
     target_ = target;
     ++number_;
-    // A target that goes sees neither the release nor the loss of the focus.
+    // A deleted target sees neither the release nor the loss of the focus.
     connect(target, &QObject::destroyed, this, &GestureWatcher::end);
-    Kolt::UndoHistory::theHistory().beginMacro();
+    auto& history = dynamic_cast<GestureTarget&>(*GestureTarget::around(target)).history();
+    history_ = Tessera::WeakPtr<Kolt::UndoHistory>(&history);
+    macro_.emplace(history);
 }
 
 void GestureWatcher::end() {
@@ -97,7 +98,8 @@ void GestureWatcher::end() {
     if (target_)
         disconnect(target_, &QObject::destroyed, this, &GestureWatcher::end);
     target_.clear();
-    Kolt::UndoHistory::theHistory().endMacro();
+    history_ = nullptr;
+    macro_.reset();
 }
 
 void GestureWatcher::endLater() {
@@ -113,10 +115,9 @@ void GestureWatcher::endLater() {
         Qt::QueuedConnection);
 }
 
-bool GestureWatcher::eventFilter(QObject* watched, QEvent* event) {
-    if (!watched->isWidgetType())
-        return false;
-    auto* const widget = static_cast<QWidget*>(watched);
+bool GestureWatcher::filter(QWidget& watched, QEvent& delivered) {
+    auto* const widget = &watched;
+    auto* const event = &delivered;
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -133,14 +134,14 @@ bool GestureWatcher::eventFilter(QObject* watched, QEvent* event) {
         keyRelease(*static_cast<QKeyEvent*>(event));
         break;
     case QEvent::InputMethod:
-        if (auto* const field = ParameterRow::rowOf(widget) ? textFieldOf(widget) : nullptr)
+        if (auto* const field = GestureTarget::around(widget) ? textFieldOf(widget) : nullptr)
             type(field);
         break;
     case QEvent::Wheel:
         turnWheel(widget);
         break;
     case QEvent::FocusOut:
-        // Many a field writes its text as it loses the focus.
+        // Some fields write their text when they lose the focus.
         if (kind_ == Kind::Text && widget == target_)
             endLater();
         break;
@@ -153,10 +154,10 @@ bool GestureWatcher::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void GestureWatcher::press(QWidget* widget) {
-    // A press that the pressed widget leaves alone goes on to those around it.
+    // A press that the pressed widget ignores is delivered to the widgets around it.
     if (kind_ == Kind::Mouse && !ending_ && target_ && widget->isAncestorOf(target_))
         return;
-    if (!ParameterRow::rowOf(widget)) {
+    if (!GestureTarget::around(widget)) {
         end();
         return;
     }
@@ -169,11 +170,11 @@ void GestureWatcher::press(QWidget* widget) {
 void GestureWatcher::keyPress(QWidget* widget, QKeyEvent const& event) {
     int const key = event.key();
     bool const repeats = event.isAutoRepeat() && kind_ == Kind::Key && key == key_;
-    // A key that nobody takes goes on to the widgets around, too.
+    // A key that no widget accepts is delivered to the widgets around it, too.
     bool const goesOn = kind_ == Kind::Key && !ending_ && target_ && key == key_ && widget->isAncestorOf(target_);
     if (isModifier(key) || repeats || goesOn)
         return;
-    if (!ParameterRow::rowOf(widget)) {
+    if (!GestureTarget::around(widget)) {
         if (kind_ != Kind::Text)
             end();
         return;
@@ -201,11 +202,11 @@ void GestureWatcher::type(QWidget* field) {
 
 void GestureWatcher::turnWheel(QWidget* widget) {
     // Whoever types or drags may scroll meanwhile.
-    auto* const row = ParameterRow::rowOf(widget);
-    if (!row || kind_ == Kind::Text || (kind_ == Kind::Mouse && !ending_))
+    auto* const target = GestureTarget::around(widget);
+    if (!target || kind_ == Kind::Text || (kind_ == Kind::Mouse && !ending_))
         return;
-    if (kind_ != Kind::Wheel || target_ != row)
-        begin(Kind::Wheel, row);
+    if (kind_ != Kind::Wheel || target_ != target)
+        begin(Kind::Wheel, target);
     wheelTimer_.start();
 }
 
@@ -213,12 +214,13 @@ bool GestureWatcher::overrideShortcut(QWidget* widget, QKeyEvent* event) {
     bool const redo = event->matches(QKeySequence::Redo);
     if (!redo && !event->matches(QKeySequence::Undo))
         return false;
-    QPointer<QWidget> const field = ParameterRow::rowOf(widget) ? textFieldOf(widget) : nullptr;
+    QPointer<QWidget> const field = GestureTarget::around(widget) ? textFieldOf(widget) : nullptr;
     if (!field)
         return false;
     // The field may write its text on this occasion.
     static_cast<QObject*>(widget)->event(event);
-    bool const isUnwritten = kind_ == Kind::Text && target_ == field && !Kolt::UndoHistory::theHistory().isStepOpen();
+    auto const history = history_.strong();
+    bool const isUnwritten = kind_ == Kind::Text && target_ == field && history && !history->isStepOpen();
     if (!field || !isUnwritten || !hasOwnHistory(field, redo))
         event->ignore();
     return true;

@@ -1,29 +1,33 @@
 #pragma once
 
+#include <lattice/UndoHistory.hpp>
+#include <optional>
 #include <QKeyEvent>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
-/// Tells the host's history (UndoHistory) when the user's gestures begin and end, so that each of them is one step:
+/// Makes each gesture of the user one undo step: it opens a macro of the history (UndoHistory) when a gesture begins
+/// and closes it when the gesture ends. Gestures are
 /// - a mouse button from press to release,
 /// - a key from press to release, with all its repetitions,
-/// - turns of the wheel over one row, until it rests,
+/// - turns of the wheel over one target, until it rests,
 /// - a typed text, from its first key until Return in a single line, until the focus leaves, or until a mouse press
 ///   elsewhere.
-/// Only what happens in a ParameterRow counts, the row's popups and dialogs included. Watches the whole application as
-/// long as it lives. User-interface thread.
+/// Only what happens in a GestureTarget counts, its popups and dialogs included. InputFilter owns the one watcher and
+/// passes it the events of the whole application. User-interface thread.
 ///
-/// In a text field of a row the keys for undo and redo belong to the history; only a text that was typed and is not
-/// written yet is taken back by the field itself.
-class GestureWatcher : public QObject {
+/// In a text field of a target the keys for undo and redo belong to the history; the field itself only undoes a text
+/// that was typed and is not written yet.
+class TALO_EXPORT GestureWatcher : public QObject {
     Q_OBJECT
 
 public:
-    /// For how long the wheel has to rest, in milliseconds.
+    /// How long the wheel rests before its gesture ends, in milliseconds.
     static constexpr int WheelPause = 400;
 
     /// Watches the events of the application, which exists already.
@@ -33,11 +37,12 @@ public:
     /// Ends the gesture that goes on, as before a command.
     void end();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
+    friend class InputFilter;
     enum class Kind { None, Mouse, Key, Wheel, Text };
 
+    /// Sees an event before its widget does. True if the event ends here.
+    bool filter(QWidget& widget, QEvent& event);
     void press(QWidget* widget);
     void keyPress(QWidget* widget, QKeyEvent const& event);
     void keyRelease(QKeyEvent const& event);
@@ -45,14 +50,17 @@ private:
     void turnWheel(QWidget* widget);
     bool overrideShortcut(QWidget* widget, QKeyEvent* event);
     void begin(Kind kind, QWidget* target);
-    /// Ends the gesture when the event that is about to be delivered was handled.
+    /// Ends the gesture after the current event was delivered.
     void endLater();
 
     Kind kind_ = Kind::None;
     QPointer<QWidget> target_;
+    // The history in which the gesture's macro is open, and the macro; none between gestures.
+    Tessera::WeakPtr<Kolt::UndoHistory> history_;
+    std::optional<Kolt::UndoHistory::Macro> macro_;
     int key_ = 0;
     bool ending_ = false;
-    // Tells the gestures apart.
+    // Distinguishes the gestures.
     unsigned number_ = 0;
     QTimer wheelTimer_;
 };

@@ -2,12 +2,13 @@
 
 #include <QAbstractItemView>
 #include <QObject>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Lets an editor whose list takes a choice over when the mouse lets go take those over that are made by keyboard:
 /// after a key that changed what is chosen, the list hears of a released mouse button. A child of the list.
-class KeyboardChoice : public QObject {
+class TALO_EXPORT KeyboardChoice : public QObject {
     Q_OBJECT
 
 public:

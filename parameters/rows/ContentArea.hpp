@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QScrollArea>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Scrolls its content up and down. It is at least as wide as the content needs to be, so that nothing is cut off at
 /// the side, unless that is more than a small screen has.
-class ContentArea : public QScrollArea {
+class TALO_EXPORT ContentArea : public QScrollArea {
     Q_OBJECT
 
 public:

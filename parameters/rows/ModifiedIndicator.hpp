@@ -1,12 +1,13 @@
 #pragma once
 
 #include <QToolButton>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// A small dot beside the name of a parameter that differs from its default. A click, or the keyboard, asks for the
 /// default; the tool tip names it. User-interface thread.
-class ModifiedIndicator : public QToolButton {
+class TALO_EXPORT ModifiedIndicator : public QToolButton {
     Q_OBJECT
 
 public:

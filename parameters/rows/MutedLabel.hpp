@@ -2,15 +2,16 @@
 
 #include <QColor>
 #include <QLabel>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// The colour for texts of less weight: between the text and its background, and readable on it.
-QColor mutedText(QPalette const& palette);
+TALO_EXPORT QColor mutedText(QPalette const& palette);
 
 /// A label whose text is muted. It takes the colour from the palette of its parent and follows changes of that palette.
 /// User-interface thread.
-class MutedLabel : public QLabel {
+class TALO_EXPORT MutedLabel : public QLabel {
     Q_OBJECT
 
 public:
@@ -27,6 +28,6 @@ private:
 
 /// Aligns a label's text to the side where lines begin in the layout. A label by itself follows the script of its text,
 /// so a title in Latin letters would stand at the far side of its column in a layout from right to left.
-void alignWithLayout(QLabel& label);
+TALO_EXPORT void alignWithLayout(QLabel& label);
 
 } // namespace Talo

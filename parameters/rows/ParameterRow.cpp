@@ -1,60 +1,26 @@
-#include <algorithm>
+#include <parameters/rows/ParameterRow.hpp>
+
 #include <lattice/UndoHistory.hpp>
 #include <network/ValueFormat.hpp>
+#include <parameters/commands/RowCommands.hpp>
 #include <parameters/commands/UndoText.hpp>
-#include <parameters/input/KeyboardChoice.hpp>
-#include <parameters/input/KeyboardPress.hpp>
-#include <parameters/input/WheelGuard.hpp>
 #include <parameters/rows/MutedLabel.hpp>
-#include <parameters/rows/ParameterRow.hpp>
-#include <parameters/rows/PlaceholderEditor.hpp>
-#include <QAbstractButton>
-#include <QAbstractItemView>
+#include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QHelpEvent>
-#include <QLayoutItem>
-#include <QPushButton>
+#include <QMenu>
+#include <QThread>
 #include <QToolTip>
 
 namespace Talo {
 
 namespace {
 
-// Editors that are higher have their name beside their first line.
+// In pixels. Higher editors have their name beside their first line.
 constexpr int highestCentredEditor = 100;
 
-// In characters.
-constexpr int leastEditorWidth = 30;
-
 // In pixels, from the name.
-constexpr int markerDistance = 2;
-
-/// The width beyond which the controls of an editor only move apart.
-int usefulWidth(QLayout const& layout) {
-    if (!qobject_cast<QHBoxLayout const*>(&layout))
-        return layout.maximumSize().width();
-    int width = layout.contentsMargins().left() + layout.contentsMargins().right() +
-                qMax(0, layout.count() - 1) * qMax(0, layout.spacing());
-    for (int index = 0; index < layout.count(); ++index) {
-        auto const* const item = layout.itemAt(index);
-        // One that is aligned leaves the rest of its room empty.
-        bool const isAligned = item->alignment() & Qt::AlignHorizontal_Mask;
-        width += isAligned ? item->sizeHint().width() : item->maximumSize().width();
-    }
-    return qMin(width, QLAYOUTSIZE_MAX);
-}
-
-/// What a control says of itself; empty where it says nothing.
-QString captionOf(QWidget const& control) {
-    auto const* const button = qobject_cast<QAbstractButton const*>(&control);
-    if (!button)
-        return {};
-    // One ampersand marks the key, two are one.
-    auto caption = button->text();
-    for (int place = 0; (place = caption.indexOf(QLatin1Char('&'), place)) >= 0; ++place)
-        caption.remove(place, 1);
-    return caption;
-}
+constexpr int indicatorDistance = 2;
 
 QString lastPart(QString const& name) {
     return name.mid(name.lastIndexOf(QLatin1Char('.')) + 1);
@@ -62,7 +28,7 @@ QString lastPart(QString const& name) {
 
 } // namespace
 
-ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, PoolSource& pools,
+ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, Kolt::ValuePoolSource& pools,
                            QWidget* parent)
     : QWidget(parent),
       objectName_(objectName),
@@ -71,8 +37,9 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
       pools_(pools),
       names_(new QWidget(this)),
       nameLabel_(new QLabel(names_)),
-      layout_(new QHBoxLayout(this)) {
-    // A label with a buddy takes an ampersand for the sign of a shortcut.
+      layout_(new QHBoxLayout(this)),
+      cell_(parameter, pools) {
+    // A label with a buddy takes an ampersand for the mark of a shortcut.
     nameLabel_->setText(lastPart(parameterName_).replace(QLatin1Char('&'), QLatin1String("&&")));
     nameLabel_->setTextFormat(Qt::PlainText);
     alignWithLayout(*nameLabel_);
@@ -85,7 +52,8 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(12);
     layout_->addWidget(names_);
-    if (parameter->defaults())
+    // What people do not edit has no default, and workers may change it often.
+    if (parameter->isEdited())
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     showNote();
     showDefault();
@@ -102,58 +70,57 @@ ParameterRow* ParameterRow::rowOf(QWidget* widget) {
     return row;
 }
 
+Kolt::UndoHistory& ParameterRow::history() const {
+    auto const parameter = parameter_.strong();
+    return parameter ? parameter->history() : Kolt::UndoHistory::theHistory();
+}
+
 void ParameterRow::openEditor() {
-    if (editor_.widget)
+    if (cell_.widget())
         return;
     auto const parameter = parameter_.strong();
-    if (!parameter) {
+    auto* const editor = cell_.open(this);
+    if (!editor) {
         showNote();
         return;
     }
-    editor_ = Kolt::makeEditor(parameter, this, &pools_);
-    if (editor_.widget && isEdited(*parameter))
+    bool const isEdited = !cell_.isPlaceholder() && parameter->isEdited();
+    if (isEdited)
         recorder_ = Kolt::EditRecorder::watch(parameter);
-    if (!editor_.widget)
-        editor_.widget = new PlaceholderEditor(*parameter, this);
-    new WheelGuard(editor_.widget);
-    int const leastWidth = editor_.widget->minimumSizeHint().width();
-    auto const* const controls = editor_.widget->layout();
-    int const mostWidth = controls ? qMax(leastWidth, usefulWidth(*controls)) : QLAYOUTSIZE_MAX;
-    // A handle that cannot be moved and a number that is cut off help nobody.
-    editor_.widget->setMinimumWidth(
-        qMin(mostWidth, qMax(leastWidth, leastEditorWidth * fontMetrics().averageCharWidth())));
-    if (mostWidth < QLAYOUTSIZE_MAX)
-        editor_.widget->setMaximumWidth(mostWidth);
-    layout_->insertWidget(1, editor_.widget, 1);
-    editor_.widget->show();
-    bool const centred = editor_.widget->sizeHint().height() <= highestCentredEditor;
+    cell_.limitWidth();
+    layout_->insertWidget(1, editor, 1);
+    editor->show();
+    alignEditor();
+    nameLabel_->setBuddy(editor);
+    cell_.nameControls(lastPart(parameterName_), isEdited);
+    updateAccessibility();
+}
+
+void ParameterRow::alignEditor() {
+    auto* const editor = cell_.widget();
+    bool const centred = editor->sizeHint().height() <= highestCentredEditor;
     vertical_ = centred ? Qt::AlignVCenter : Qt::AlignTop;
     layout_->setAlignment(names_, Qt::AlignLeft | vertical_);
     if (rawValue_)
         layout_->setAlignment(rawValue_, Qt::AlignLeft | vertical_);
-    // One that cannot fill the column stands at its left end.
+    // An editor that cannot fill the column is at its left end.
     if (layout_->itemAt(1)->maximumSize().width() < QLAYOUTSIZE_MAX) {
-        layout_->setAlignment(editor_.widget, Qt::AlignLeft | Qt::AlignVCenter);
-        // The layout has just remembered how wide it is without this.
-        editor_.widget->updateGeometry();
+        layout_->setAlignment(editor, Qt::AlignLeft | Qt::AlignVCenter);
+        // The layout has just cached its width without this.
+        editor->updateGeometry();
     }
-    // What an editor only shows stands beside its name, too.
-    if (auto* const label = qobject_cast<QLabel*>(editor_.widget))
+    // A text that is only displayed begins beside its name, too.
+    if (auto* const label = qobject_cast<QLabel*>(editor))
         alignWithLayout(*label);
-    nameEditor();
 }
 
 void ParameterRow::closeEditor() {
-    if (!editor_.widget)
-        return;
-    editor_.widget->hide();
-    editor_.widget->deleteLater();
-    editor_ = {};
+    cell_.close();
     recorder_.reset();
 }
 
 void ParameterRow::showPool() {
-    Kolt::showPoolValue(editor_, parameter_.strong(), &pools_);
+    cell_.showPool();
     if (rawValue_)
         rawValue_->refresh();
     showDefault();
@@ -162,39 +129,78 @@ void ParameterRow::showPool() {
 }
 
 void ParameterRow::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const* properties) {
-    if (!properties)
+    if (properties)
+        return;
+    // Without an editor nothing keeps a worker from changing the value.
+    if (QThread::currentThread() == thread())
         showDefault();
+    else
+        QMetaObject::invokeMethod(this, &ParameterRow::showDefault, Qt::QueuedConnection);
 }
 
 void ParameterRow::showDefault() {
     auto const parameter = parameter_.strong();
     auto const* const defaults = parameter ? parameter->defaults() : nullptr;
     if (!defaults || defaults->isEffectiveIn(*parameter, pool())) {
-        if (marker_)
-            marker_->hide();
+        if (indicator_)
+            indicator_->hide();
         return;
     }
-    if (!marker_) {
-        marker_ = new ModifiedIndicator(lastPart(parameterName_), names_);
-        auto* const names = static_cast<QVBoxLayout*>(names_->layout());
-        names->removeWidget(nameLabel_);
-        auto* const firstLine = new QHBoxLayout;
-        firstLine->setSpacing(markerDistance);
-        firstLine->addWidget(nameLabel_);
-        firstLine->addWidget(marker_);
-        firstLine->addStretch(1);
-        names->insertLayout(0, firstLine);
-        connect(marker_, &ModifiedIndicator::clicked, this, &ParameterRow::resetToDefault);
-    }
-    marker_->setDefault(valueText(*defaults->in(pool()).value));
-    marker_->show();
+    if (!indicator_)
+        makeIndicator();
+    indicator_->setDefault(valueText(*defaults->in(pool()).value));
+    indicator_->show();
 }
 
-bool ParameterRow::resetToDefault() {
+void ParameterRow::makeIndicator() {
+    indicator_ = new ModifiedIndicator(lastPart(parameterName_), names_);
+    auto* const names = static_cast<QVBoxLayout*>(names_->layout());
+    names->removeWidget(nameLabel_);
+    auto* const firstLine = new QHBoxLayout;
+    firstLine->setSpacing(indicatorDistance);
+    firstLine->addWidget(nameLabel_);
+    firstLine->addWidget(indicator_);
+    firstLine->addStretch(1);
+    names->insertLayout(0, firstLine);
+    connect(indicator_, &ModifiedIndicator::clicked, this, &ParameterRow::resetToDefault);
+}
+
+QString ParameterRow::removedText() const {
+    return tr("%1 was removed.").arg(parameterName_);
+}
+
+void ParameterRow::resetToDefault() {
     auto const parameter = parameter_.strong();
-    auto const* const defaults = parameter ? parameter->defaults() : nullptr;
-    auto const chosen = pool();
-    return defaults && Kolt::UndoHistory::theHistory().store(parameter, chosen, defaults->in(chosen));
+    if (!parameter || !Talo::resetToDefault(parameter, pool()))
+        emit refused(tr("%1 has no default to go back to.").arg(parameterName_));
+}
+
+void ParameterRow::copyValue() {
+    auto const parameter = parameter_.strong();
+    if (parameter)
+        Talo::copyValue(*parameter, pool());
+    else
+        emit refused(removedText());
+}
+
+void ParameterRow::pasteValue() {
+    auto const parameter = parameter_.strong();
+    // The row may be deleted by a notifier of the new value; then nobody hears the reason.
+    QPointer<ParameterRow> const self(this);
+    auto const reason = parameter ? Talo::pasteValue(parameter, pool()) : removedText();
+    if (self && !reason.isEmpty())
+        emit refused(reason);
+}
+
+void ParameterRow::setAsDefault() {
+    auto const parameter = parameter_.strong();
+    if (!parameter) {
+        emit refused(removedText());
+        return;
+    }
+    parameter->rememberDefaults();
+    showDefault();
+    emit defaultChanged();
 }
 
 void ParameterRow::checkParameter() {
@@ -218,7 +224,7 @@ void ParameterRow::setNameWidth(int width) {
 }
 
 int ParameterRow::nameWidth() const {
-    return qMax(nameLabel_->sizeHint().width() + markerDistance + ModifiedIndicator::side(*nameLabel_),
+    return qMax(nameLabel_->sizeHint().width() + indicatorDistance + ModifiedIndicator::side(*nameLabel_),
                 note().isEmpty() ? 0 : noteLabel_->sizeHint().width());
 }
 
@@ -230,71 +236,39 @@ QSize ParameterRow::sizeHint() const {
 bool ParameterRow::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || !names_->geometry().contains(static_cast<QHelpEvent*>(event)->pos()))
         return QWidget::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), description(), names_);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), creatorToolTip(), names_);
     return true;
 }
 
-std::vector<QWidget*> ParameterRow::controls() const {
-    std::vector<QWidget*> controls;
-    auto const all = editor_.widget->findChildren<QWidget*>();
-    // What is in a dialog of the editor names itself.
-    std::copy_if(all.begin(), all.end(), std::back_inserter(controls), [this](QWidget const* each) {
-        return each->window() == editor_.widget->window() && each->focusPolicy() != Qt::NoFocus;
-    });
-    return controls;
-}
-
-void ParameterRow::nameEditor() {
-    nameLabel_->setBuddy(editor_.widget);
-    auto const name = lastPart(parameterName_);
-    auto named = controls();
-    auto* const firstControl = named.empty() ? nullptr : named.front();
-    named.push_back(editor_.widget);
-    for (auto* const control : named) {
-        auto const caption = captionOf(*control);
-        if (control->accessibleName().isEmpty())
-            control->setAccessibleName(caption.isEmpty() || caption == name ? name : tr("%1: %2").arg(name, caption));
-        // Many a button acts when the mouse presses it, and many a list takes a choice when the mouse lets go.
-        if (qobject_cast<QPushButton*>(control))
-            new KeyboardPress(control);
-        else if (auto* const list = qobject_cast<QAbstractItemView*>(control))
-            new KeyboardChoice(list);
-    }
-    // Whoever gives the focus to the editor means its first control.
-    if (firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && !editor_.widget->focusProxy())
-        editor_.widget->setFocusProxy(firstControl);
-    if (!firstControl && editor_.widget->focusPolicy() == Qt::NoFocus && recorder_)
-        new KeyboardPress(editor_.widget);
-    updateAccessibility();
+void ParameterRow::contextMenuEvent(QContextMenuEvent* event) {
+    // A part of the row with a menu of its own accepts the event before.
+    auto* const menu = makeRowMenu(*this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(event->globalPos());
+    event->accept();
 }
 
 void ParameterRow::updateAccessibility() {
     auto const parameter = parameter_.strong();
-    if (!editor_.widget || !parameter)
+    if (!cell_.widget() || !parameter)
         return;
     auto const& typeName = parameter->declaredType();
     auto const* const format = ValueFormat::ofType(typeName);
     auto const name = objectName_ + QLatin1Char('.') + parameterName_;
     auto const type = format ? QString::fromLatin1(format->key) : QString::fromStdString(typeName);
-    auto const pool = pools_.pool();
-    auto const description = !parameter->keepsValuesPerPool() ? tr("%1, type %2").arg(name, type)
-                             : pool
-                                 ? tr("%1, type %2, in pool %3").arg(name, type, QString::fromStdString(pool->Name()))
-                                 : tr("%1, type %2, no pool").arg(name, type);
-    auto described = controls();
-    described.push_back(editor_.widget);
-    for (auto* const control : described) {
-        // A description stands in for the tool tip.
-        auto const& explanation = control->toolTip();
-        control->setAccessibleDescription(explanation.isEmpty() ? description
-                                                                : description + QLatin1Char('\n') + explanation);
-    }
+    auto const current = pool();
+    if (!parameter->keepsValuesPerPool())
+        cell_.describeControls(tr("%1, type %2").arg(name, type));
+    else if (current)
+        cell_.describeControls(tr("%1, type %2, in pool %3").arg(name, type, QString::fromStdString(current->Name())));
+    else
+        cell_.describeControls(tr("%1, type %2, no pool").arg(name, type));
 }
 
-QString ParameterRow::description() const {
+QString ParameterRow::creatorToolTip() const {
     auto const title = QStringLiteral("<p><b>%1</b></p>").arg(parameterName_.toHtmlEscaped());
     auto const parameter = parameter_.strong();
-    if (!parameter || !editor_.widget)
+    if (!parameter || !cell_.widget())
         return title;
     auto const wanted = parameter->creationPreferences() ? parameter->creationPreferences()->names()
                                                          : Kolt::VCreationPreferences::Names();
@@ -302,30 +276,38 @@ QString ParameterRow::description() const {
            QStringLiteral("<p>%1<br>%2</p><p>%3</p>")
                .arg(tr("Type: %1").arg(QString::fromStdString(parameter->declaredType())).toHtmlEscaped(),
                     tr("Preferences: %1").arg(QString::fromStdString(Kolt::preferenceText(wanted))).toHtmlEscaped(),
-                    tr("Editor: %1").arg(QString::fromStdString(editor_.choice.explanation)).toHtmlEscaped());
+                    tr("Editor: %1").arg(QString::fromStdString(cell_.choice().explanation)).toHtmlEscaped());
+}
+
+QString ParameterRow::noteText() const {
+    auto const parameter = parameter_.strong();
+    if (!parameter)
+        return tr("was removed");
+    if (!parameter->keepsValuesPerPool())
+        return {};
+    auto const current = pool();
+    return current ? tr("in pool %1").arg(QString::fromStdString(current->Name())) : tr("no pool");
 }
 
 void ParameterRow::showNote() {
-    QString note;
-    auto const parameter = parameter_.strong();
-    if (!parameter)
-        note = tr("was removed");
-    else if (parameter->keepsValuesPerPool())
-        note = pools_.pool() ? tr("in pool %1").arg(QString::fromStdString(pools_.pool()->Name())) : tr("no pool");
+    auto const note = noteText();
     if (note.isEmpty() && !noteLabel_)
         return;
-    if (!noteLabel_) {
-        noteLabel_ = new MutedLabel(QString(), names_);
-        noteLabel_->setTextFormat(Qt::PlainText);
-        alignWithLayout(*noteLabel_);
-        auto font = noteLabel_->font();
-        if (font.pointSizeF() > 0)
-            font.setPointSizeF(font.pointSizeF() * 0.85);
-        noteLabel_->setFont(font);
-        names_->layout()->addWidget(noteLabel_);
-    }
+    if (!noteLabel_)
+        makeNoteLabel();
     noteLabel_->setText(note);
     noteLabel_->setVisible(!note.isEmpty());
+}
+
+void ParameterRow::makeNoteLabel() {
+    noteLabel_ = new MutedLabel(QString(), names_);
+    noteLabel_->setTextFormat(Qt::PlainText);
+    alignWithLayout(*noteLabel_);
+    auto font = noteLabel_->font();
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * 0.85);
+    noteLabel_->setFont(font);
+    names_->layout()->addWidget(noteLabel_);
 }
 
 } // namespace Talo

@@ -1,110 +1,127 @@
 #pragma once
 
 #include <lattice/EditRecorder.hpp>
-#include <parameters/PoolSource.hpp>
+#include <memory>
+#include <parameters/input/GestureTarget.hpp>
+#include <parameters/rows/EditorCell.hpp>
 #include <parameters/rows/ModifiedIndicator.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
 #include <QLabel>
-#include <QPointer>
 #include <QWidget>
-#include <sorrel/InputFrontEnd.hpp>
-#include <vector>
+#include <tessera/Export.hpp>
 
 class QHBoxLayout;
+class QMenu;
 
 namespace Talo {
 
-/// One parameter in the panel: its name, its editor or a PlaceholderEditor, and on demand its raw value. The name's
-/// tool tip tells which creator made the editor and why. Where the parameter keeps values per pool, a line below the
-/// name says which pool is edited; where somebody deleted the parameter, it says so. A dot beside the name tells that
-/// the value is not the default one and resets it.
+/// One parameter in a panel: its name, its editor or a placeholder, and on demand its raw value. The name's tool tip
+/// says which creator made the editor and why. Where the parameter keeps values per pool, a line below the name says
+/// which pool is edited; if the parameter was deleted, the line says so. A dot beside the name marks a value that is
+/// not the default and resets it. A context menu has the commands for the value.
 ///
-/// For those who do not see it, each control of the editor is named after the parameter, with its own caption behind
-/// it, and its description says the object, the type and the pool.
+/// For screen readers, each control of the editor is named after the parameter, followed by its own caption; its
+/// description contains the object, the type and the pool.
 ///
-/// As long as a value that people edit has an editor here, its edits are steps of the host's history (EditRecorder).
+/// While the row has an editor for a value that people edit, its edits are recorded in the parameter's undo history
+/// (EditRecorder).
 ///
 /// The row refers to the parameter weakly and stays usable without it. User-interface thread.
-class ParameterRow : public QWidget, private Kolt::ValueNotifier {
+class TALO_EXPORT ParameterRow : public QWidget, public GestureTarget, private Kolt::ValueNotifier {
     Q_OBJECT
 
 public:
     /// `objectName` is the name of the object that the parameter belongs to. Has no editor before `openEditor`. `pools`
     /// must outlive the row.
-    ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, PoolSource& pools,
+    ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, Kolt::ValuePoolSource& pools,
                  QWidget* parent = nullptr);
     ~ParameterRow() override;
 
-    /// The row that a widget is or lies in, its popups and dialogs included; null for none, and for null.
+    /// The row that a widget is or is in, its popups and dialogs included; null for none, and for null.
     static ParameterRow* rowOf(QWidget* widget);
 
-    /// The parameter's whole name, also when it is gone.
+    /// The parameter's whole name, also after the parameter was deleted.
     QString const& parameterName() const { return parameterName_; }
     /// The parameter; null when it is gone.
     Kolt::ParameterPtr parameter() const { return parameter_.strong(); }
-    /// The chosen pool; null for none.
-    Kolt::PoolPtr pool() const { return pools_.pool(); }
-    /// Marks a value that is not the default; null as long as it never was another.
-    ModifiedIndicator* defaultMarker() const { return marker_; }
-    /// The label that shows the name; lives as long as the row.
+    /// The current pool; null for none.
+    Kolt::PoolPtr pool() const { return Kolt::currentPool(&pools_); }
+    Kolt::UndoHistory& history() const override;
+    /// Marks a value that is not the default; null until it first differed.
+    ModifiedIndicator* modifiedIndicator() const { return indicator_; }
     QLabel* nameLabel() const { return nameLabel_; }
     /// The line below the name; empty for none.
     QString note() const { return noteLabel_ ? noteLabel_->text() : QString(); }
-    /// Null as long as it was never shown.
+    /// Null until it was first shown.
     RawValueLabel* rawValue() const { return rawValue_; }
     /// Which creator made the editor and why, as rich text; the tool tip of the name.
-    QString description() const;
-    /// The editor or the PlaceholderEditor; null while closed.
-    QWidget* editor() const { return editor_.widget; }
+    QString creatorToolTip() const;
+    /// The editor or the placeholder; null while closed.
+    QWidget* editor() const { return cell_.widget(); }
 
-    /// Makes the editor, or a PlaceholderEditor where none can be made. Nothing happens where one stands.
+    /// Makes the editor, or a placeholder where none can be made. Does nothing if there is one.
     void openEditor();
-    /// Hides the editor and deletes it as soon as Qt is done with it.
+    /// Hides the editor and deletes it as soon as control returns to the event loop.
     void closeEditor();
-    /// Shows what the chosen pool holds.
+    /// Shows what the current pool holds.
     void showPool();
-    /// Shows whether the value is the default, as after other defaults were remembered.
+    /// Shows whether the value is the default, as after the defaults changed.
     void showDefault();
-    /// Makes the default hold in the chosen pool, as a step of the history. False where there is none.
-    bool resetToDefault();
-    /// Notes whether the parameter is still there.
+    /// Shows whether the parameter still exists.
     void checkParameter();
     /// Shows or hides the raw value beside the editor.
     void setRawValueShown(bool shown);
-    /// Gives the column of names this width, so that the rows of a view are aligned.
+    /// Sets the width of the name column, so that the rows of a form are aligned. In pixels.
     void setNameWidth(int width);
-    /// The width that the name and the note need.
+    /// The width that the name and the note need, in pixels.
     int nameWidth() const;
 
-    /// An editor may ask the widget around it to adjust its size; a row keeps the width that it was given.
+    /// The commands for the value in the current pool. Reset and paste are undo steps. What cannot be done is
+    /// `refused`.
+    void resetToDefault();
+    void copyValue();
+    void pasteValue();
+    /// Makes what the parameter holds its default.
+    void setAsDefault();
+
+    /// Some editors ask the widget around them to adjust its size; a row keeps the width that it was given.
     QSize sizeHint() const override;
+
+signals:
+    /// A command did nothing, for this reason: a sentence.
+    void refused(QString const& reason);
+    /// The parameter has another default.
+    void defaultChanged();
 
 protected:
     bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
-    void nameEditor();
+    void alignEditor();
+    void makeIndicator();
     void updateAccessibility();
-    /// The editor and what is in it, as far as it takes the focus.
-    std::vector<QWidget*> controls() const;
     void showNote();
+    void makeNoteLabel();
+    QString noteText() const;
+    QString removedText() const;
 
     QString const objectName_;
     QString const parameterName_;
     Kolt::ParameterRef const parameter_;
-    PoolSource& pools_;
+    Kolt::ValuePoolSource& pools_;
     QWidget* const names_;
     QLabel* const nameLabel_;
     QHBoxLayout* const layout_;
-    // Made when they are needed first: most rows never do.
-    ModifiedIndicator* marker_ = nullptr;
+    // Made when first needed: most rows never need them.
+    ModifiedIndicator* indicator_ = nullptr;
     QLabel* noteLabel_ = nullptr;
     RawValueLabel* rawValue_ = nullptr;
-    // Where the name stands beside the editor.
+    // How the name is aligned with the editor.
     Qt::Alignment vertical_ = Qt::AlignVCenter;
-    Kolt::Editor editor_;
+    EditorCell cell_;
     std::shared_ptr<Kolt::EditRecorder> recorder_;
 };
 

@@ -2,12 +2,13 @@
 
 #include <lattice/InputCreator.hpp>
 #include <parameters/rows/MutedLabel.hpp>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Stands where a parameter's editor would be when none can be made: names the type and the preferences of the
 /// parameter and says that no editor is registered for it.
-class PlaceholderEditor : public MutedLabel {
+class TALO_EXPORT PlaceholderEditor : public MutedLabel {
     Q_OBJECT
 
 public:

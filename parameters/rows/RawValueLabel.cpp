@@ -5,7 +5,7 @@
 
 namespace Talo {
 
-RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSource const& pools, QWidget* parent)
+RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, Kolt::ValuePoolSource const& pools, QWidget* parent)
     : QWidget(parent), parameter_(parameter), pools_(pools) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
     if (parameter)
@@ -28,11 +28,12 @@ void RawValueLabel::refresh() {
     QString text;
     QString stamp;
     if (auto const parameter = parameter_.strong()) {
-        auto const value = parameter->effectiveValue(pools_.pool());
+        auto const pool = Kolt::currentPool(&pools_);
+        auto const value = parameter->effectiveValue(pool);
         text = QString::fromStdString(value->Text());
         stamp = tr("age %1").arg(value->age());
         if (parameter->keepsValuesPerPool())
-            stamp += value != parameter->ownValue() ? tr(", pool %1").arg(QString::fromStdString(pools_.pool()->Name()))
+            stamp += value != parameter->ownValue() ? tr(", pool %1").arg(QString::fromStdString(pool->Name()))
                                                     : tr(", own value");
     } else {
         stamp = tr("removed");

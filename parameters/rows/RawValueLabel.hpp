@@ -2,8 +2,9 @@
 
 #include <atomic>
 #include <lattice/Parameter.hpp>
-#include <parameters/PoolSource.hpp>
+#include <lattice/ValuePoolSource.hpp>
 #include <QWidget>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
@@ -12,12 +13,12 @@ namespace Talo {
 /// on the value, so that a change lays nothing out anew.
 ///
 /// Made on the user-interface thread; changes may be reported on any thread.
-class RawValueLabel : public QWidget, private Kolt::ValueNotifier {
+class TALO_EXPORT RawValueLabel : public QWidget, private Kolt::ValueNotifier {
     Q_OBJECT
 
 public:
     /// The parameter is referred to weakly.
-    RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSource const& pools, QWidget* parent = nullptr);
+    RawValueLabel(Kolt::ParameterPtr const& parameter, Kolt::ValuePoolSource const& pools, QWidget* parent = nullptr);
     ~RawValueLabel() override;
 
     /// The shown text of the value; empty when the parameter is gone.
@@ -38,7 +39,7 @@ private:
                        Kolt::ValueMap const* properties) override;
 
     Kolt::ParameterRef const parameter_;
-    PoolSource const& pools_;
+    Kolt::ValuePoolSource const& pools_;
     QString text_;
     QString stamp_;
     std::atomic<bool> refreshWaits_{false};

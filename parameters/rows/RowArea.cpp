@@ -1,6 +1,8 @@
-#include <algorithm>
-#include <map>
 #include <parameters/rows/RowArea.hpp>
+
+#include <algorithm>
+#include <parameters/rows/FormPlan.hpp>
+#include <parameters/rows/TabStops.hpp>
 #include <QApplication>
 #include <QEvent>
 #include <QGroupBox>
@@ -14,85 +16,42 @@ namespace {
 
 // In pixels.
 constexpr QMargins contentMargins(12, 6, 12, 12);
-constexpr QMargins groupMargins(12, 8, 12, 8);
-constexpr int groupSpacing = 12;
-constexpr int rowSpacing = 6;
-// Of a row that nothing is known of.
-constexpr int usualHeight = 36;
+constexpr QMargins sectionMargins(12, 8, 12, 8);
 
-// So many rows out of sight are kept: who scrolls a little to and fro does not wait for them.
+constexpr RowLayout::Spacing spacing{contentMargins.top(), contentMargins.bottom(), 12, 6, 36};
+
+// How many rows out of sight are kept, so that scrolling a little to and fro makes no rows.
 constexpr std::size_t keptRows = 60;
-
-QString groupOf(QString const& parameterName) {
-    return parameterName.left(qMax(0, parameterName.lastIndexOf(QLatin1Char('.'))));
-}
-
-std::string sortOf(Kolt::VParameter const& parameter) {
-    auto sort = parameter.declaredType();
-    if (auto const& preferences = parameter.creationPreferences())
-        sort += ' ' + Kolt::preferenceText(preferences->names());
-    return sort;
-}
 
 QMargins boxMargins(QString const& title) {
     QGroupBox box(title);
     box.ensurePolished();
-    return box.contentsMargins() + groupMargins;
-}
-
-/// The controls of a row that Tab stops at, in their order.
-std::vector<QWidget*> tabStops(QWidget const& row) {
-    std::vector<QWidget*> stops;
-    auto const all = row.findChildren<QWidget*>();
-    for (auto* const widget : all) {
-        if ((widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !widget->focusProxy() && widget->isEnabled() &&
-            widget->window() == row.window() && widget->isVisibleTo(&row))
-            stops.push_back(widget);
-    }
-    return stops;
-}
-
-/// Whether the user is at work in the row: it has the focus, or a dialog or a list of it is open.
-bool isInUse(QWidget const& row) {
-    if (auto const* const focus = QApplication::focusWidget())
-        if (row.isAncestorOf(focus))
-            return true;
-    auto const all = row.findChildren<QWidget*>();
-    return std::any_of(all.begin(), all.end(), [](auto const* each) { return each->isWindow() && each->isVisible(); });
+    return box.contentsMargins() + sectionMargins;
 }
 
 } // namespace
 
-RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> const& parameters, PoolSource& pools,
-                 QWidget* parent)
-    : ContentArea(parent), objectName_(objectName), pools_(pools), content_(new QWidget) {
-    std::map<QString, std::size_t> known;
-    std::map<std::string, std::size_t> sorts;
-    QString longestName;
-    for (auto const& parameter : parameters) {
-        Entry entry;
-        entry.name = QString::fromStdString(parameter->Name());
-        entry.parameter = parameter;
-        entry.sort = sorts.insert({sortOf(*parameter), sorts.size()}).first->second;
-        auto const title = groupOf(entry.name);
-        auto const [place, isNew] = known.insert({title, groups_.size()});
-        if (isNew)
-            groups_.push_back({title});
-        entry.group = place->second;
-        entry.height = usualHeight;
-        if (entry.name.size() - title.size() > longestName.size())
-            longestName = entry.name.mid(title.isEmpty() ? 0 : title.size() + 1);
-        entries_.push_back(std::move(entry));
-    }
-    heights_.resize(sorts.size());
-    std::stable_sort(entries_.begin(), entries_.end(),
-                     [](auto const& left, auto const& right) { return left.group < right.group; });
-    // Most names are narrower than the one with the most letters; a row that needs more widens the column.
-    nameWidth_ = fontMetrics().horizontalAdvance(longestName);
+RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> const& parameters,
+                 Kolt::ValuePoolSource& pools, QWidget* parent)
+    : ContentArea(parent), objectName_(objectName), pools_(pools), content_(new QWidget), layout_(spacing) {
+    addEntries(FormPlan(parameters));
     measureBoxes();
     setWidget(content_);
     setAccessibleName(objectName);
     arrange();
+}
+
+void RowArea::addEntries(FormPlan const& plan) {
+    for (auto const& title : plan.sectionTitles)
+        sections_.push_back({title});
+    for (auto const& [parameter, name, section, heightClass] : plan.rows) {
+        while (layout_.sectionCount() <= section)
+            layout_.addSection();
+        layout_.addRow(heightClass);
+        entries_.push_back({name, parameter});
+    }
+    // Most names are narrower than the one with the most letters; a row that needs more widens the column.
+    nameWidth_ = fontMetrics().horizontalAdvance(plan.longestName);
 }
 
 RowArea::~RowArea() = default;
@@ -119,9 +78,9 @@ ParameterRow* RowArea::row(QString const& parameterName) {
 
 void RowArea::openEditors() {
     editorsOpen_ = true;
-    for (auto* const row : rows()) {
-        row->openEditor();
-        emit editorOpened(row);
+    for (auto const place : std::set<std::size_t>(made_)) {
+        entries_[place].row->openEditor();
+        emitEditorOpened(entries_[place]);
     }
     measureAll();
 }
@@ -138,6 +97,11 @@ void RowArea::showPool() {
     measureAll();
 }
 
+void RowArea::showDefaults() {
+    for (auto* const row : rows())
+        row->showDefault();
+}
+
 void RowArea::checkParameters() {
     for (auto* const row : rows())
         row->checkParameter();
@@ -151,26 +115,24 @@ void RowArea::setRawValuesShown(bool shown) {
 }
 
 void RowArea::setFilter(std::function<bool(Kolt::VParameter const&)> const& filter) {
-    for (auto& entry : entries_) {
-        auto const parameter = entry.parameter.strong();
-        entry.shown = !filter || (parameter ? filter(*parameter) : false);
-        if (entry.row)
-            entry.row->setVisible(entry.shown);
+    for (std::size_t place = 0; place < entries_.size(); ++place) {
+        auto const parameter = entries_[place].parameter.strong();
+        layout_.setShown(place, !filter || (parameter ? filter(*parameter) : false));
+        if (auto* const row = entries_[place].row)
+            row->setVisible(layout_.isShown(place));
     }
     arrange();
     verticalScrollBar()->setValue(0);
     makeVisibleRows();
 }
 
-int RowArea::shownCount() const {
-    return static_cast<int>(std::count_if(entries_.begin(), entries_.end(), [](auto const& each) { //
-        return each.shown;
-    }));
-}
-
 void RowArea::measureBoxes() {
     titledBox_ = boxMargins(QStringLiteral("X"));
-    plainBox_ = boxMargins(QString());
+    auto const plainBox = boxMargins(QString());
+    for (std::size_t section = 0; section < sections_.size(); ++section) {
+        auto const& box = sections_[section].title.isEmpty() ? plainBox : titledBox_;
+        layout_.setSectionMargins(section, {box.top(), box.bottom()});
+    }
 }
 
 RowArea::Entry* RowArea::entryOf(QWidget const* widget) {
@@ -186,108 +148,97 @@ int RowArea::rowWidth() const {
 }
 
 void RowArea::make(Entry& entry) {
+    auto const place = placeOf(entry);
     auto const parameter = entry.parameter.strong();
     if (!parameter) {
-        entry.shown = false;
+        layout_.setShown(place, false);
         return;
     }
-    auto& group = groups_[entry.group];
-    if (!group.box) {
-        group.box = new QGroupBox(group.title, content_);
-        group.box->installEventFilter(this);
-        group.box->show();
+    auto& section = sections_[layout_.sectionOf(place)];
+    if (!section.box) {
+        section.box = new QGroupBox(section.title, content_);
+        section.box->installEventFilter(this);
+        section.box->show();
     }
-    entry.row = new ParameterRow(objectName_, parameter, pools_, group.box);
-    made_.insert(static_cast<std::size_t>(&entry - entries_.data()));
+    entry.row = new ParameterRow(objectName_, parameter, pools_, section.box);
+    connect(entry.row, &ParameterRow::refused, this, &RowArea::refused);
+    connect(entry.row, &ParameterRow::defaultChanged, this, &RowArea::defaultChanged);
+    made_.insert(place);
     entry.row->setRawValueShown(rawValuesShown_);
     if (editorsOpen_)
         entry.row->openEditor();
-    entry.row->setVisible(entry.shown);
-    measure(entry);
+    entry.row->setVisible(layout_.isShown(place));
+    measure(place);
     if (editorsOpen_)
-        emit editorOpened(entry.row);
+        emitEditorOpened(entry);
 }
 
-bool RowArea::measure(Entry& entry) {
-    if (entry.row->nameWidth() > nameWidth_) {
-        nameWidth_ = entry.row->nameWidth();
-        for (auto* const row : rows())
-            row->setNameWidth(nameWidth_);
+void RowArea::emitEditorOpened(Entry const& entry) {
+    auto const parameter = entry.parameter.strong();
+    if (parameter && entry.row->editor())
+        emit editorOpened(parameter, entry.row->editor());
+}
+
+void RowArea::measure(std::size_t place) {
+    auto& row = *entries_[place].row;
+    if (row.nameWidth() > nameWidth_) {
+        nameWidth_ = row.nameWidth();
+        for (auto* const each : rows())
+            each->setNameWidth(nameWidth_);
     }
-    entry.row->setNameWidth(nameWidth_);
-    auto const least = entry.row->minimumSizeHint();
+    row.setNameWidth(nameWidth_);
+    auto const least = row.minimumSizeHint();
     leastRowWidth_ = qMax(leastRowWidth_, least.width());
-    int const wanted =
-        entry.row->hasHeightForWidth() ? entry.row->heightForWidth(rowWidth()) : entry.row->sizeHint().height();
-    int const height = qMax(wanted, least.height());
-    heights_[entry.sort] = height;
-    return std::exchange(entry.height, height) != height;
+    int const wanted = row.hasHeightForWidth() ? row.heightForWidth(rowWidth()) : row.sizeHint().height();
+    layout_.setHeight(place, qMax(wanted, least.height()));
 }
 
 void RowArea::measureAll() {
     for (auto const place : made_)
-        measure(entries_[place]);
+        measure(place);
     arrangeInPlace();
     makeVisibleRows();
 }
 
 void RowArea::arrange() {
-    int top = contentMargins.top();
-    auto entry = entries_.begin();
-    for (std::size_t index = 0; index < groups_.size(); ++index) {
-        auto& group = groups_[index];
-        auto const& margins = group.title.isEmpty() ? plainBox_ : titledBox_;
-        group.top = top;
-        int bottom = top + margins.top();
-        bool isEmpty = true;
-        for (; entry != entries_.end() && entry->group == index; ++entry) {
-            entry->top = bottom;
-            if (!entry->shown)
-                continue;
-            if (!entry->row && heights_[entry->sort] > 0)
-                entry->height = heights_[entry->sort];
-            bottom += entry->height + rowSpacing;
-            isEmpty = false;
-        }
-        group.height = isEmpty ? 0 : bottom - rowSpacing + margins.bottom() - top;
-        if (!isEmpty)
-            top += group.height + groupSpacing;
-    }
-    int const height = top - groupSpacing + contentMargins.bottom();
-    int const leastWidth =
-        leastRowWidth_ + contentMargins.left() + contentMargins.right() + titledBox_.left() + titledBox_.right();
-    if (content_->minimumSize() != QSize(leastWidth, height)) {
-        bool const wider = content_->minimumWidth() != leastWidth;
-        content_->setMinimumSize(leastWidth, height);
-        // At once, as the scroll bar must know how far it goes.
-        content_->resize(viewport()->size().expandedTo(content_->minimumSize()));
-        if (wider)
-            updateGeometry();
-    }
-
+    layout_.arrange();
+    resizeContent();
     int const width = content_->width() - contentMargins.left() - contentMargins.right();
-    for (auto const& group : groups_) {
-        if (!group.box)
+    for (std::size_t section = 0; section < sections_.size(); ++section) {
+        auto* const box = sections_[section].box;
+        if (!box)
             continue;
-        group.box->setVisible(group.height > 0);
-        group.box->setGeometry(contentMargins.left(), group.top, width, group.height);
+        box->setVisible(layout_.sectionHeight(section) > 0);
+        box->setGeometry(contentMargins.left(), layout_.sectionTop(section), width, layout_.sectionHeight(section));
     }
     for (auto const place : made_) {
-        auto const& made = entries_[place];
-        made.row->setGeometry(titledBox_.left(), made.top - groups_[made.group].top, rowWidth(), made.height);
+        int const top = layout_.top(place) - layout_.sectionTop(layout_.sectionOf(place));
+        entries_[place].row->setGeometry(titledBox_.left(), top, rowWidth(), layout_.height(place));
     }
+}
+
+void RowArea::resizeContent() {
+    int const leastWidth =
+        leastRowWidth_ + contentMargins.left() + contentMargins.right() + titledBox_.left() + titledBox_.right();
+    if (content_->minimumSize() == QSize(leastWidth, layout_.totalHeight()))
+        return;
+    bool const isWider = content_->minimumWidth() != leastWidth;
+    content_->setMinimumSize(leastWidth, layout_.totalHeight());
+    // At once, as the scroll bar's range depends on it.
+    content_->resize(viewport()->size().expandedTo(content_->minimumSize()));
+    if (isWider)
+        updateGeometry();
 }
 
 void RowArea::arrangeInPlace() {
     auto const seen = std::find_if(made_.begin(), made_.end(), [this](auto const place) {
-        return entries_[place].shown && entries_[place].top + entries_[place].height > visibleTop();
+        return layout_.isShown(place) && layout_.bottom(place) > visibleTop();
     });
-    auto const* const kept = seen == made_.end() ? nullptr : &entries_[*seen];
-    int const before = kept ? kept->top : 0;
-    bool const inSight = kept && before < visibleBottom();
+    int const before = seen == made_.end() ? 0 : layout_.top(*seen);
+    bool const isVisibleRow = seen != made_.end() && before < visibleBottom();
     arrange();
-    if (inSight && kept->top != before)
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + kept->top - before);
+    if (isVisibleRow && layout_.top(*seen) != before)
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + layout_.top(*seen) - before);
 }
 
 int RowArea::visibleTop() const {
@@ -304,13 +255,11 @@ void RowArea::makeVisibleRows() {
     QScopedValueRollback const guard(making_, true);
     for (bool made = true; made;) {
         made = false;
-        auto const first =
-            std::partition_point(entries_.begin(), entries_.end(),
-                                 [top = visibleTop()](auto const& each) { return each.top + each.height <= top; });
-        for (auto entry = first; entry != entries_.end() && entry->top < visibleBottom() && !made; ++entry) {
-            if (entry->row || !entry->shown)
+        for (auto place = layout_.firstRowBelow(visibleTop());
+             place < entries_.size() && layout_.top(place) < visibleBottom() && !made; ++place) {
+            if (entries_[place].row || !layout_.isShown(place))
                 continue;
-            make(*entry);
+            make(entries_[place]);
             arrangeInPlace();
             made = true;
         }
@@ -319,12 +268,11 @@ void RowArea::makeVisibleRows() {
 }
 
 void RowArea::dropFarRows() {
-    // While a button is held somebody may be moving a handle.
+    // While a button is held, a handle may be moving.
     if (QApplication::mouseButtons() != Qt::NoButton)
         return;
     auto const distance = [this](std::size_t place) {
-        auto const& entry = entries_[place];
-        return qMax(visibleTop() - entry.top - entry.height, entry.top - visibleBottom());
+        return qMax(visibleTop() - layout_.bottom(place), layout_.top(place) - visibleBottom());
     };
     std::vector<std::size_t> outOfSight;
     std::copy_if(made_.begin(), made_.end(), std::back_inserter(outOfSight),
@@ -339,12 +287,13 @@ void RowArea::dropFarRows() {
         entry.row->hide();
         entry.row->deleteLater();
         entry.row = nullptr;
+        layout_.dropHeight(outOfSight[index]);
         made_.erase(outOfSight[index]);
     }
 }
 
 bool RowArea::eventFilter(QObject* watched, QEvent* event) {
-    // A row in a box wants another size.
+    // A row in a box has another size hint.
     if (event->type() == QEvent::LayoutRequest && watched != content_ && watched->parent() == content_)
         measureAll();
     return ContentArea::eventFilter(watched, event);
@@ -364,7 +313,7 @@ void RowArea::changeEvent(QEvent* event) {
     ContentArea::changeEvent(event);
     if (event->type() != QEvent::StyleChange && event->type() != QEvent::FontChange)
         return;
-    std::fill(heights_.begin(), heights_.end(), 0);
+    layout_.forgetEstimates();
     measureBoxes();
     measureAll();
 }
@@ -375,9 +324,9 @@ void RowArea::scrollContentsBy(int dx, int dy) {
 }
 
 bool RowArea::focusControl(Entry const& entry, bool first, bool ofEditor) {
-    auto stops = tabStops(*entry.row);
+    auto stops = tabStopsIn(*entry.row);
     if (ofEditor)
-        stops.erase(std::remove(stops.begin(), stops.end(), entry.row->defaultMarker()), stops.end());
+        stops.erase(std::remove(stops.begin(), stops.end(), entry.row->modifiedIndicator()), stops.end());
     if (stops.empty())
         return false;
     auto* const stop = first ? stops.front() : stops.back();
@@ -386,22 +335,10 @@ bool RowArea::focusControl(Entry const& entry, bool first, bool ofEditor) {
     return true;
 }
 
-bool RowArea::focusOutside(QWidget const* from, bool next) {
-    auto* widget = next ? from->nextInFocusChain() : from->previousInFocusChain();
-    for (; widget != from; widget = next ? widget->nextInFocusChain() : widget->previousInFocusChain()) {
-        if (isAncestorOf(widget) || widget == this || (widget->focusPolicy() & Qt::TabFocus) != Qt::TabFocus ||
-            widget->focusProxy() || !widget->isEnabled() || !widget->isVisible())
-            continue;
-        widget->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        return true;
-    }
-    return false;
-}
-
 bool RowArea::focusFrom(std::ptrdiff_t place, bool next, bool toEditor) {
     for (; place >= 0 && place < static_cast<std::ptrdiff_t>(entries_.size()); place += next ? 1 : -1) {
         auto& entry = entries_[static_cast<std::size_t>(place)];
-        if (!entry.shown)
+        if (!layout_.isShown(placeOf(entry)))
             continue;
         if (!entry.row) {
             make(entry);
@@ -422,7 +359,7 @@ bool RowArea::focusNextPrevChild(bool next) {
     auto const* const current = focus ? entryOf(focus) : nullptr;
     if (!current)
         return ContentArea::focusNextPrevChild(next);
-    auto const stops = tabStops(*current->row);
+    auto const stops = tabStopsIn(*current->row);
     auto const stop = std::find(stops.begin(), stops.end(), focus);
     if (stop != stops.end() && (next ? stop + 1 != stops.end() : stop != stops.begin())) {
         auto* const neighbour = next ? *(stop + 1) : *(stop - 1);
@@ -432,7 +369,7 @@ bool RowArea::focusNextPrevChild(bool next) {
     }
     if (focusFrom(current - entries_.data() + (next ? 1 : -1), next, false))
         return true;
-    return focusOutside(focus, next);
+    return focusOutside(*this, *focus, next);
 }
 
 void RowArea::keyPressEvent(QKeyEvent* event) {

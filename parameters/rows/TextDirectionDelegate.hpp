@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QStyledItemDelegate>
+#include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Draws each text of a list in the direction of its own script, at the side where lines begin in the layout. A view by
 /// itself takes the direction of the layout, so that the full stop of an English sentence would stand before its first
 /// word in a panel from right to left.
-class TextDirectionDelegate : public QStyledItemDelegate {
+class TALO_EXPORT TextDirectionDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:

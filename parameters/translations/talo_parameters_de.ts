@@ -2,45 +2,14 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name>Talo::HistoryView</name>
+    <name>EditorCell</name>
     <message>
-        <source>History</source>
-        <translation>Verlauf</translation>
-    </message>
-    <message>
-        <source>The steps that can be taken back. Return goes to the state after the chosen step.</source>
-        <translation>Die Schritte, die sich zurücknehmen lassen. Die Eingabetaste geht zum Stand nach dem gewählten Schritt.</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>Anfang</translation>
-    </message>
-    <message>
-        <source>Before all steps</source>
-        <translation>Vor allen Schritten</translation>
-    </message>
-    <message>
-        <source>%1, taken back</source>
-        <translation>%1, zurückgenommen</translation>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
-    <name>Talo::ModifiedIndicator</name>
-    <message>
-        <source>Reset %1 to its default</source>
-        <translation>%1 auf den Standardwert zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Default: %1</source>
-        <translation>Standardwert: %1</translation>
-    </message>
-    <message>
-        <source>Click to reset the value.</source>
-        <translation>Ein Klick setzt den Wert zurück.</translation>
-    </message>
-</context>
-<context>
-    <name>Talo::ParameterCommands</name>
+    <name>RowCommands</name>
     <message>
         <source>Reset to &amp;default</source>
         <translation>Auf &amp;Standardwert zurücksetzen</translation>
@@ -66,12 +35,8 @@
         <translation>Ctrl+Shift+V</translation>
     </message>
     <message>
-        <source>%1 has no default to go back to.</source>
-        <translation>%1 hat keinen Standardwert, auf den sich zurücksetzen ließe.</translation>
-    </message>
-    <message>
-        <source>%1 was removed.</source>
-        <translation>%1 wurde entfernt.</translation>
+        <source>&amp;Set as default</source>
+        <translation>Als &amp;Standard setzen</translation>
     </message>
     <message>
         <source>The clipboard is empty.</source>
@@ -80,6 +45,55 @@
     <message>
         <source>%1 does not take a value in this pool.</source>
         <translation>%1 nimmt in diesem Pool keinen Wert an.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::HistoryView</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Before all steps</source>
+        <translation>Vor allen Schritten</translation>
+    </message>
+    <message>
+        <source>The undo steps. Return goes to the state after the chosen step.</source>
+        <translation>Die Schritte, die rückgängig gemacht werden können. Die Eingabetaste führt zum Zustand nach dem gewählten Schritt.</translation>
+    </message>
+    <message>
+        <source>%1, undone</source>
+        <translation>%1, rückgängig gemacht</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::ModifiedIndicator</name>
+    <message>
+        <source>Reset %1 to its default</source>
+        <translation>%1 auf den Standardwert zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Standardwert: %1</translation>
+    </message>
+    <message>
+        <source>Click to reset the value.</source>
+        <translation>Ein Klick setzt den Wert zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::ParameterPanel</name>
+    <message>
+        <source>No parameter of this object is found by the filter.</source>
+        <translation>Der Filter findet keinen Parameter dieses Objekts.</translation>
+    </message>
+    <message>
+        <source>Reset &amp;all to default</source>
+        <translation>&amp;Alle auf Standard zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -109,10 +123,6 @@
         <translation>kein Pool</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
         <source>%1, type %2</source>
         <translation>%1, Typ %2</translation>
     </message>
@@ -123,6 +133,14 @@
     <message>
         <source>%1, type %2, no pool</source>
         <translation>%1, Typ %2, kein Pool</translation>
+    </message>
+    <message>
+        <source>%1 was removed.</source>
+        <translation>%1 wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>%1 has no default to go back to.</source>
+        <translation>%1 hat keinen Standardwert, auf den sich zurücksetzen ließe.</translation>
     </message>
 </context>
 <context>
@@ -157,6 +175,29 @@
     <message>
         <source>(empty)</source>
         <translation>(leer)</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::UndoActions</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Can no longer be undone: %1</source>
+        <translation>Kann nicht mehr rückgängig gemacht werden: %1</translation>
+    </message>
+    <message>
+        <source>Can no longer be redone: %1</source>
+        <translation>Kann nicht mehr wiederholt werden: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
     </message>
 </context>
 <context>

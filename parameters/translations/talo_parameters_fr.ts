@@ -2,45 +2,14 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name>Talo::HistoryView</name>
+    <name>EditorCell</name>
     <message>
-        <source>History</source>
-        <translation>Historique</translation>
-    </message>
-    <message>
-        <source>The steps that can be taken back. Return goes to the state after the chosen step.</source>
-        <translation>Les étapes qui peuvent être annulées. Entrée va à l’état qui suit l’étape choisie.</translation>
-    </message>
-    <message>
-        <source>Start</source>
-        <translation>Début</translation>
-    </message>
-    <message>
-        <source>Before all steps</source>
-        <translation>Avant toutes les étapes</translation>
-    </message>
-    <message>
-        <source>%1, taken back</source>
-        <translation>%1, annulé</translation>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
-    <name>Talo::ModifiedIndicator</name>
-    <message>
-        <source>Reset %1 to its default</source>
-        <translation>Remettre %1 à sa valeur par défaut</translation>
-    </message>
-    <message>
-        <source>Default: %1</source>
-        <translation>Valeur par défaut : %1</translation>
-    </message>
-    <message>
-        <source>Click to reset the value.</source>
-        <translation>Un clic rétablit cette valeur.</translation>
-    </message>
-</context>
-<context>
-    <name>Talo::ParameterCommands</name>
+    <name>RowCommands</name>
     <message>
         <source>Reset to &amp;default</source>
         <translation>Remettre la valeur par &amp;défaut</translation>
@@ -66,12 +35,8 @@
         <translation>Ctrl+Shift+V</translation>
     </message>
     <message>
-        <source>%1 has no default to go back to.</source>
-        <translation>%1 n’a pas de valeur par défaut à rétablir.</translation>
-    </message>
-    <message>
-        <source>%1 was removed.</source>
-        <translation>%1 a été supprimé.</translation>
+        <source>&amp;Set as default</source>
+        <translation>&amp;Définir par défaut</translation>
     </message>
     <message>
         <source>The clipboard is empty.</source>
@@ -80,6 +45,55 @@
     <message>
         <source>%1 does not take a value in this pool.</source>
         <translation>%1 n’accepte pas de valeur dans ce pool.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::HistoryView</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Before all steps</source>
+        <translation>Avant toutes les étapes</translation>
+    </message>
+    <message>
+        <source>The undo steps. Return goes to the state after the chosen step.</source>
+        <translation>Les étapes qui peuvent être annulées. La touche Entrée revient à l’état après l’étape choisie.</translation>
+    </message>
+    <message>
+        <source>%1, undone</source>
+        <translation>%1, annulé</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::ModifiedIndicator</name>
+    <message>
+        <source>Reset %1 to its default</source>
+        <translation>Remettre %1 à sa valeur par défaut</translation>
+    </message>
+    <message>
+        <source>Default: %1</source>
+        <translation>Valeur par défaut : %1</translation>
+    </message>
+    <message>
+        <source>Click to reset the value.</source>
+        <translation>Un clic rétablit cette valeur.</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::ParameterPanel</name>
+    <message>
+        <source>No parameter of this object is found by the filter.</source>
+        <translation>Le filtre ne trouve aucun paramètre de cet objet.</translation>
+    </message>
+    <message>
+        <source>Reset &amp;all to default</source>
+        <translation>&amp;Tout remettre par défaut</translation>
     </message>
 </context>
 <context>
@@ -109,10 +123,6 @@
         <translation>aucun pool</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1 : %2</translation>
-    </message>
-    <message>
         <source>%1, type %2</source>
         <translation>%1, type %2</translation>
     </message>
@@ -123,6 +133,14 @@
     <message>
         <source>%1, type %2, no pool</source>
         <translation>%1, type %2, aucun pool</translation>
+    </message>
+    <message>
+        <source>%1 was removed.</source>
+        <translation>%1 a été supprimé.</translation>
+    </message>
+    <message>
+        <source>%1 has no default to go back to.</source>
+        <translation>%1 n’a pas de valeur par défaut à rétablir.</translation>
     </message>
 </context>
 <context>
@@ -157,6 +175,29 @@
     <message>
         <source>(empty)</source>
         <translation>(vide)</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::UndoActions</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Can no longer be undone: %1</source>
+        <translation>Ne peut plus être annulé : %1</translation>
+    </message>
+    <message>
+        <source>Can no longer be redone: %1</source>
+        <translation>Ne peut plus être rétabli : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,8 @@
+#include <qVinputs/basics/FloatInterval.hpp>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <qVinputs/basics/FloatInterval.hpp>
 
 namespace Kolt {
 

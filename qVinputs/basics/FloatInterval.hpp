@@ -2,9 +2,9 @@
 
 namespace Kolt {
 
-/// The interval of real numbers that a control with whole positions stands for: position 0 is `min`, the last one
-/// `max`, and the others lie between them at equal distances. Every field may hold anything, infinities and NaN
-/// included: a position is then saturated to the range of int and 0 for NaN. Any thread.
+/// The interval of floating-point numbers that a control with integer positions represents: position 0 is `min`, the
+/// last one `max`, and the others lie between them at equal distances. Every field may have any value, infinities and
+/// NaN included: a position is then saturated to the range of int and 0 for NaN. Any thread; prints nothing.
 struct FloatInterval {
     double min = 0.0;       ///< lower end
     double max = 1.0;       ///< upper end
@@ -34,6 +34,7 @@ struct FloatInterval {
     int narrow(double centre);
 
 private:
+    /// The position in the middle of an interval of this width with `steps` positions.
     int middlePosition(double width) const;
 };
 

@@ -1,14 +1,15 @@
+#include <qVinputs/basics/NumberSelection.hpp>
+
 #include <algorithm>
 #include <locale>
 #include <optional>
-#include <qVinputs/basics/NumberSelection.hpp>
 #include <sstream>
 
 namespace Kolt {
 
 namespace {
 
-bool isBlank(std::string const& text) {
+bool isSpace(std::string const& text) {
     return text.find_first_not_of(" \t\n\v\f\r") == std::string::npos;
 }
 
@@ -29,7 +30,7 @@ std::optional<std::uint64_t> readRow(std::string const& text, std::uint64_t rowC
 }
 
 std::optional<RowSeries> readRange(std::string const& from, std::string const& to, std::uint64_t rowCount) {
-    if (isBlank(from) || isBlank(to))
+    if (isSpace(from) || isSpace(to))
         return std::nullopt;
     auto const a = readRow(from, rowCount);
     auto const b = readRow(to, rowCount);
@@ -38,7 +39,7 @@ std::optional<RowSeries> readRange(std::string const& from, std::string const& t
     return RowSeries{std::min(*a, *b), std::max(*a, *b) + 1, 1};
 }
 
-/// Where the suffix that makes a token one of every n-th row stands. The suffixes are tried in this order.
+/// The place of the suffix by which a token names every n-th row. The suffixes are tried in this order.
 std::size_t findSuffix(std::string const& token) {
     for (auto const* const suffix : {"th", "nd", "rd", "st"}) {
         auto const place = token.find(suffix);
@@ -62,7 +63,7 @@ std::optional<RowSeries> readToken(std::string const& token, std::uint64_t rowCo
     auto const suffix = findSuffix(token);
     if (suffix != std::string::npos)
         return readEveryNth(token, suffix, rowCount);
-    if (isBlank(token))
+    if (isSpace(token))
         return std::nullopt;
     auto const row = readRow(token, rowCount);
     return row ? std::optional(RowSeries{*row, *row + 1, 1}) : std::nullopt;

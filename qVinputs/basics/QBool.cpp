@@ -1,6 +1,7 @@
+#include <qVinputs/basics/QBool.hpp>
+
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QHBoxLayout>
-#include <qVinputs/basics/QBool.hpp>
 
 namespace Kolt {
 
@@ -25,10 +26,8 @@ void QBool::onValueChange(ValuePtr const& newValue, VContext const& context, Val
 }
 
 void QBool::showValue(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<bool> const*>(value.get());
-    if (!typed || !typed->get(cached_) || !checkBox_)
-        return;
-    checkBox_->setChecked(cached_);
+    if (cacheStored(value) && checkBox_)
+        checkBox_->setChecked(cached_);
 }
 
 void QBool::clicked(bool checked) {

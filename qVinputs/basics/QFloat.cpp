@@ -1,23 +1,38 @@
+#include <qVinputs/basics/QFloat.hpp>
+
 #include <algorithm>
 #include <lattice/ActionNotifier.hpp>
+#include <optional>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QDoubleValidator>
 #include <QHBoxLayout>
 #include <QMouseEvent>
-#include <QSignalBlocker>
-#include <qVinputs/basics/QFloat.hpp>
 
 namespace Kolt {
 
 namespace {
 
-constexpr char MaximumProperty[] = "max";
-constexpr char MinimumProperty[] = "min";
 constexpr char IncrementProperty[] = "increment";
 constexpr char PrecisionProperty[] = "precision";
 
 // A double has no more decimals than this that are not all zero.
 constexpr int LargestPrecision = 1000;
+
+/// The share of the interval to which a key of the slider leads.
+std::optional<double> shareOf(int key) {
+    switch (key) {
+    case Qt::Key_1:
+        return 0.1;
+    case Qt::Key_2:
+        return 0.33;
+    case Qt::Key_3:
+        return 0.66;
+    case Qt::Key_4:
+        return 0.9;
+    default:
+        return std::nullopt;
+    }
+}
 
 } // namespace
 
@@ -35,7 +50,7 @@ void MyQSlider::mousePressEvent(QMouseEvent* event) {
     if (width() <= 0)
         return;
     {
-        // Beside the handle the base steps by a page and goes on stepping; the user asked for one place.
+        // Beside the handle the base class steps by a page and repeats that; the user asked for one place.
         QSignalBlocker const blocker(this);
         int const position = value();
         QSlider::mousePressEvent(event);
@@ -47,13 +62,6 @@ void MyQSlider::mousePressEvent(QMouseEvent* event) {
 
 void MyQSlider::keyPressEvent(QKeyEvent* event) {
     double const current = interval.valueAt(value());
-    auto const setScale = [this, current] {
-        {
-            QSignalBlocker const blocker(this);
-            setRange(0, interval.lastPosition());
-        }
-        setValue(interval.positionOf(current));
-    };
     event->accept();
     switch (event->key()) {
     case Qt::Key_Right:
@@ -67,11 +75,11 @@ void MyQSlider::keyPressEvent(QKeyEvent* event) {
         break;
     case Qt::Key_Up:
         interval.coarsen();
-        setScale();
+        rescale(current);
         break;
     case Qt::Key_Down:
         interval.refine();
-        setScale();
+        rescale(current);
         break;
     // These two leave the control's range as it is, so the middle of the new interval may lie beyond it.
     case Qt::Key_Plus:
@@ -82,21 +90,19 @@ void MyQSlider::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Underscore:
         setValue(interval.narrow(current));
         break;
-    case Qt::Key_1:
-        setValue(interval.positionAtShare(0.1));
-        break;
-    case Qt::Key_2:
-        setValue(interval.positionAtShare(0.33));
-        break;
-    case Qt::Key_3:
-        setValue(interval.positionAtShare(0.66));
-        break;
-    case Qt::Key_4:
-        setValue(interval.positionAtShare(0.9));
-        break;
     default:
+        if (auto const share = shareOf(event->key()))
+            setValue(interval.positionAtShare(*share));
         break;
     }
+}
+
+void MyQSlider::rescale(double current) {
+    {
+        QSignalBlocker const blocker(this);
+        setRange(0, interval.lastPosition());
+    }
+    setValue(interval.positionOf(current));
 }
 
 MyQDial::MyQDial(QFloat* parent, char const*) : QDial(parent) {
@@ -147,13 +153,7 @@ QFloat::~QFloat() = default;
 
 void QFloat::makeDial(bool periodic) {
     dial_ = new MyQDial(this, "float dialer");
-    dial_->setWrapping(periodic);
-    layout()->addWidget(dial_);
-    dial_->setTracking(true);
-    dial_->setNotchesVisible(true);
-    dial_->setFixedSize(64, 64);
-    dial_->setPageStep(15);
-    dial_->setSingleStep(5);
+    addDial(*layout(), *dial_, periodic);
 }
 
 void QFloat::makeSlider() {
@@ -184,34 +184,26 @@ FloatInterval* QFloat::interval() const {
 }
 
 void QFloat::applyProperties(ValueMap const* properties) {
-    auto const property = [properties](char const* name, auto fallback) {
-        return properties ? valueOr(properties->getValue(name), fallback) : fallback;
-    };
-    resolution_ = property(IncrementProperty, resolution_);
-    if (auto* const bounds = interval()) {
-        bounds->max = property(MaximumProperty, bounds->max);
-        bounds->min = property(MinimumProperty, bounds->min);
-        bounds->setResolution(resolution_);
+    resolution_ = propertyOr(properties, IncrementProperty, resolution_);
+    if (auto* const shown = interval()) {
+        auto const bounds = boundsOr<double>(properties, {shown->min, shown->max});
+        shown->min = bounds.minimum;
+        shown->max = bounds.maximum;
+        shown->setResolution(resolution_);
         QSignalBlocker const blocker(control());
-        control()->setRange(0, bounds->lastPosition());
+        control()->setRange(0, shown->lastPosition());
     }
-    precision_ = std::clamp(property(PrecisionProperty, precision_), 0, LargestPrecision);
+    precision_ = std::clamp(propertyOr(properties, PrecisionProperty, precision_), 0, LargestPrecision);
 }
 
 void QFloat::moveHandle(double value) {
-    auto* const handle = control();
-    if (!handle)
-        return;
-    QSignalBlocker const blocker(handle);
-    handle->setValue(interval()->positionOf(value));
+    if (auto const* const bounds = interval())
+        moveSilently(control(), bounds->positionOf(value));
 }
 
 void QFloat::showText(double value) {
     shown_ = value;
-    if (!lineEdit_)
-        return;
-    lineEdit_->showText(QString::fromLatin1("%1").arg(value, precision_, 'f', precision_, QLatin1Char(' ')));
-    lineEdit_->home(false);
+    showNumberText(lineEdit_, QString::fromLatin1("%1").arg(value, precision_, 'f', precision_, QLatin1Char(' ')));
 }
 
 void QFloat::showNumber(double value) {
@@ -223,7 +215,7 @@ void QFloat::showAndWrite(double value) {
     showText(value);
     QPointer<QFloat> const self(this);
     commit(value);
-    // Whoever was told may have set another value, which is the one shown now.
+    // A listener may have set another value, which is the one shown now.
     if (self)
         moveHandle(shown_);
 }
@@ -249,23 +241,22 @@ void QFloat::textEnter() {
 void QFloat::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
     if (properties) {
         applyProperties(properties);
-        // The handle's position stands for another value now, and the text may have other decimals.
+        // The same position now means another value, and the text may have other decimals.
         showNumber(shown_);
     }
 
-    auto const* const typed = dynamic_cast<VValue<double> const*>(newValue.get());
-    double value = 0.0;
-    if (!typed || !typed->get(value))
+    auto const value = storedValueIn<double>(newValue);
+    if (!value)
         return;
     switch (arrivalOf(newValue, context)) {
     case Arrival::OtherPool:
         break;
     case Arrival::Current:
-        cached_ = value;
-        showNumber(value);
+        cached_ = *value;
+        showNumber(*value);
         break;
     case Arrival::NotYetStored:
-        showAndWrite(value);
+        showAndWrite(*value);
         break;
     }
 }

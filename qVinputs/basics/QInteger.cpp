@@ -1,34 +1,26 @@
+#include <qVinputs/basics/QInteger.hpp>
+
 #include <lattice/ActionNotifier.hpp>
 #include <limits>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QIntValidator>
-#include <QSignalBlocker>
-#include <qVinputs/basics/QInteger.hpp>
 #include <qVinputs/basics/QIntegerIcon.hpp>
 
 namespace Kolt {
 
 namespace {
 
-constexpr char MaximumProperty[] = "max";
-constexpr char MinimumProperty[] = "min";
-
 // How much a move of the control matters to the history.
 constexpr int UndoWeight = 20;
 
 int sliderMaximumFor(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
-    int number = 0;
-    if (!typed || !typed->get(number))
+    auto const number = storedValueIn<int>(value);
+    if (!number)
         return 256;
-    if (number < 100)
+    if (*number < 100)
         return 100;
     constexpr int Largest = std::numeric_limits<int>::max();
-    return number > Largest / 2 ? Largest : 2 * number;
-}
-
-int propertyOr(ValueMap const* properties, char const* name, int fallback) {
-    return properties ? valueOr(properties->getValue(name), fallback) : fallback;
+    return *number > Largest / 2 ? Largest : 2 * *number;
 }
 
 } // namespace
@@ -49,7 +41,7 @@ bool IntegerUndo::undo() {
     if (!parameter || !input->setValue(context.pool(), std::string(), previous_, nullptr))
         return false;
     markValueChanged(*parameter, context.pool());
-    // The input is the source of the change, so nobody has told it.
+    // The input is the source of the change, so it was not notified.
     if (input)
         input->onValueChange(parameter->getLocalValue(context.pool(), std::string(), false), context, nullptr);
     return true;
@@ -94,13 +86,7 @@ QInteger::~QInteger() = default;
 void QInteger::makeDial(bool periodic) {
     periodic_ = periodic;
     dial_ = new QDial(this);
-    dial_->setWrapping(periodic);
-    layout_->addWidget(dial_);
-    dial_->setTracking(true);
-    dial_->setNotchesVisible(true);
-    dial_->setFixedSize(64, 64);
-    dial_->setPageStep(15);
-    dial_->setSingleStep(5);
+    addDial(*layout_, *dial_, periodic);
     setRangeFromProperties(360);
 }
 
@@ -116,7 +102,7 @@ void QInteger::setRangeFromProperties(int defaultMaximum) {
     ensureProperty(MaximumProperty, defaultMaximum);
     auto const parameter = owner().strong();
     auto const* const properties = parameter ? parameter->properties() : nullptr;
-    setRange(propertyOr(properties, MinimumProperty, 0), propertyOr(properties, MaximumProperty, defaultMaximum));
+    setRange(boundsOr<int>(properties, {0, defaultMaximum}));
 }
 
 void QInteger::makeLineEdit() {
@@ -134,7 +120,7 @@ QAbstractSlider* QInteger::control() const {
     return dial_;
 }
 
-void QInteger::setRange(int minimum, int maximum) {
+void QInteger::setRange(NumberBounds<int> const& bounds) {
     auto* const handle = control();
     if (!handle)
         return;
@@ -142,32 +128,21 @@ void QInteger::setRange(int minimum, int maximum) {
     // A dial that wraps divides by the width of its range.
     if (dial_)
         dial_->setWrapping(false);
-    handle->setRange(minimum, maximum);
+    handle->setRange(bounds.minimum, bounds.maximum);
     if (dial_)
-        dial_->setWrapping(periodic_ && minimum < maximum);
+        dial_->setWrapping(periodic_ && bounds.minimum < bounds.maximum);
     handle->setValue(shown_);
-}
-
-void QInteger::moveHandle(int value) {
-    auto* const handle = control();
-    if (!handle)
-        return;
-    QSignalBlocker const blocker(handle);
-    handle->setValue(value);
 }
 
 void QInteger::showNumber(int value) {
     shown_ = value;
-    if (lineEdit_) {
-        lineEdit_->showText(QString::number(value));
-        lineEdit_->home(false);
-    }
-    moveHandle(value);
+    showNumberText(lineEdit_, QString::number(value));
+    moveSilently(control(), value);
 }
 
 void QInteger::showAndWrite(int value) {
     showNumber(value);
-    // The second part: whoever is told of the step may move the control again before the number is written.
+    // The second part: a listener of the history may move the control again before the number is written.
     if (value == cached_ || value == recording_)
         return;
     auto const currentPool = pool();
@@ -203,7 +178,7 @@ void QInteger::textEnter() {
     if (!isNumber)
         return;
     if (!owner()) {
-        moveHandle(number);
+        moveSilently(control(), number);
         commit(number);
         return;
     }
@@ -219,26 +194,25 @@ void QInteger::textEnter() {
 }
 
 void QInteger::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
-    // These defaults differ from those of the construction: a range that somebody narrows is a percentage.
+    // These defaults differ from those of the construction: a range that is changed later is a percentage.
     if (properties)
-        setRange(propertyOr(properties, MinimumProperty, 0), propertyOr(properties, MaximumProperty, 100));
+        setRange(boundsOr<int>(properties, {0, 100}));
 
-    auto const* const typed = dynamic_cast<VValue<int> const*>(newValue.get());
-    int value = 0;
-    if (!typed || !typed->get(value))
+    auto const value = storedValueIn<int>(newValue);
+    if (!value)
         return;
     switch (arrivalOf(newValue, context)) {
     case Arrival::OtherPool:
-        // A step taken back in another pool was written through this input; the next edit starts from what is shown.
+        // An undo in another pool was written through this input; the next edit starts from what is shown.
         cached_ = shown_;
         break;
     case Arrival::Current:
-        cached_ = value;
-        showNumber(value);
+        cached_ = *value;
+        showNumber(*value);
         break;
     case Arrival::NotYetStored:
         if (owner())
-            showAndWrite(value);
+            showAndWrite(*value);
         break;
     }
 }

@@ -1,5 +1,6 @@
-#include <plugin/VInputValue.hpp>
 #include <qVinputs/basics/QIntegerIcon.hpp>
+
+#include <plugin/VInputValue.hpp>
 
 namespace Kolt {
 
@@ -38,10 +39,8 @@ IntegerIcon::~IntegerIcon() {
 }
 
 void IntegerIcon::showValue(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<int> const*>(value.get());
-    int number = 0;
-    if (typed && typed->get(number))
-        display(number);
+    if (auto const number = storedValueIn<int>(value))
+        display(*number);
 }
 
 QIntegerIconizer::QIntegerIconizer(VInputBase const& input) : parameter_(input.owner()) {}

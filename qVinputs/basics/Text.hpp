@@ -10,9 +10,9 @@ namespace Kolt {
 // The cast name of a text editor's second base is "VInputValue<string>", and moc takes it as it is spelled.
 using std::string;
 
-/// The small bold font of a family: 8 points, weight 75. Nothing where the family cannot be had exactly. That is asked
-/// of the family in its default size, so the answer also depends on the resolution of the screen: a default size that
-/// is no whole number of pixels is not matched exactly.
+/// The small bold font of a family: 8 points, weight 75. Empty if exactly this family is not available. Qt answers that
+/// for the default size, so the answer depends on the resolution of the screen, too: a default size that is no integer
+/// number of pixels is not matched exactly. User-interface thread, with an application object.
 inline std::optional<QFont> smallBoldFont(char const* family) {
     QFont font(QString::fromUtf8(family));
     if (!font.exactMatch())
@@ -22,7 +22,8 @@ inline std::optional<QFont> smallBoldFont(char const* family) {
     return font;
 }
 
-/// The text under a property's name; empty where there is no parameter, no property, or it is no text.
+/// The text under a property's name; empty if there is no parameter, no property, or it is no text. User-interface
+/// thread.
 inline string textProperty(ParameterPtr const& parameter, string const& name) {
     auto const* const properties = parameter ? parameter->properties() : nullptr;
     return properties ? valueOr(properties->getValue(name), string()) : string();

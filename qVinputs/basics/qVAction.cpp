@@ -1,8 +1,9 @@
+#include <qVinputs/basics/qVAction.hpp>
+
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QIcon>
 #include <QPixmap>
 #include <QPointer>
-#include <qVinputs/basics/qVAction.hpp>
 
 namespace Kolt {
 
@@ -47,7 +48,7 @@ void qVAction::showDecoration() {
             setIcon(pixmap);
     }
     auto const toolTip = properties->getValue("tooltip");
-    if (auto const* const text = dynamic_cast<VTypedValueBase<std::string> const*>(toolTip.get()))
+    if (auto const* const text = typedValue<std::string>(toolTip.get()))
         setToolTip(QString::fromStdString(text->Text()));
 }
 
@@ -72,7 +73,7 @@ void qVAction::activated(bool) {
         if (action)
             action->emitAction(context.pool(), parameter);
     }
-    // A button that went along has nobody left to tell.
+    // A button that was deleted with its parameter reports nothing.
     if (self && !owner)
         reportMissingOwner();
 }

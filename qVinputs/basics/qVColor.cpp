@@ -1,8 +1,9 @@
+#include <qVinputs/basics/qVColor.hpp>
+
 #include <algorithm>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QCloseEvent>
 #include <QSignalBlocker>
-#include <qVinputs/basics/qVColor.hpp>
 
 namespace Kolt {
 
@@ -46,8 +47,7 @@ void qVColorInput::onValueChange(ValuePtr const& newValue, VContext const& conte
 }
 
 bool qVColorInput::showValue(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<Ferro::rgba_float_t> const*>(value.get());
-    if (!typed || !typed->get(cached_))
+    if (!cacheStored(value))
         return false;
     if (label_)
         label_->showColour(cached_);

@@ -1,5 +1,6 @@
-#include <plugin/QInputWidgetCreator.hpp>
 #include <qVinputs/basics/qVFlagList.hpp>
+
+#include <plugin/QInputWidgetCreator.hpp>
 
 namespace Kolt {
 
@@ -22,8 +23,7 @@ void qVFlagList::onValueChange(ValuePtr const& newValue, VContext const& context
 }
 
 void qVFlagList::showValue(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<Options> const*>(value.get());
-    if (!typed || !typed->get(cached_))
+    if (!cacheStored(value))
         return;
     makeMissingBoxes();
     for (auto const& [name, on] : cached_) {
@@ -59,7 +59,7 @@ void qVFlagList::makeMissingBoxes() {
             continue;
         if (!box->parent())
             layout_->insertWidget(place, box);
-        // The Tab key goes from box to box as they stand.
+        // The Tab key follows the order of the boxes.
         if (previous)
             setTabOrder(previous, box);
         previous = box;

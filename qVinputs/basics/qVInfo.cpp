@@ -1,5 +1,6 @@
-#include <plugin/QInputWidgetCreator.hpp>
 #include <qVinputs/basics/qVInfo.hpp>
+
+#include <plugin/QInputWidgetCreator.hpp>
 
 namespace Kolt {
 

@@ -1,11 +1,11 @@
+#include <qVinputs/basics/qVMultipleStringList.hpp>
+
 #include <algorithm>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QFontMetrics>
 #include <QItemSelection>
-#include <QLabel>
 #include <QRegularExpression>
 #include <qVinputs/basics/NumberSelection.hpp>
-#include <qVinputs/basics/qVMultipleStringList.hpp>
 
 namespace Kolt {
 
@@ -69,25 +69,11 @@ qVMultipleStringList::qVMultipleStringList(ParameterRef const& parameter, QWidge
     auto* const numberLabel = new QLabel(QLatin1String("By Number:"), this);
     removeBox_ = new QCheckBox(QLatin1String("remove"), this);
 
-    removeBox_->setToolTip(tr("Removes selections specified by Wildcard of by Numbers if checked. "));
-    auto const wildcardTip = tr("Use a common wildcard for selection: e.g. *foo*004*. Enter triggers the selection.");
-    wildcardEdit_->setToolTip(wildcardTip);
-    wildcardLabel->setToolTip(wildcardTip);
-    auto const numberTip =
-        tr("Use numbers of items for selection. e.g. 0-5,9 selects the range from 0 to 5 and item number 9. Also use "
-           "2nd, 3rd, 4th, etc to select every 2nd and so on. This can be shifted by adding a number: e.g. 4th+2 "
-           "selects every forth item and starting with the 3rd. Enter triggers the selection.");
-    numberEdit_->setToolTip(numberTip);
-    numberLabel->setToolTip(numberTip);
-
-    buttonColumn_->addWidget(allButton_);
-    buttonColumn_->addWidget(noneButton_);
-    buttonColumn_->addWidget(inverseButton_);
-    buttonColumn_->addWidget(removeBox_);
-    buttonColumn_->addWidget(wildcardLabel);
-    buttonColumn_->addWidget(wildcardEdit_);
-    buttonColumn_->addWidget(numberLabel);
-    buttonColumn_->addWidget(numberEdit_);
+    setToolTips(*wildcardLabel, *numberLabel);
+    for (QWidget* const widget :
+         std::initializer_list<QWidget*>{allButton_, noneButton_, inverseButton_, removeBox_, wildcardLabel,
+                                         wildcardEdit_, numberLabel, numberEdit_})
+        buttonColumn_->addWidget(widget);
     layout_->addLayout(buttonColumn_);
     layout_->addWidget(list_);
 
@@ -103,14 +89,26 @@ qVMultipleStringList::qVMultipleStringList(ParameterRef const& parameter, QWidge
 
 qVMultipleStringList::~qVMultipleStringList() = default;
 
+void qVMultipleStringList::setToolTips(QLabel& wildcardLabel, QLabel& numberLabel) {
+    removeBox_->setToolTip(tr("Removes selections specified by Wildcard of by Numbers if checked. "));
+    auto const wildcardTip = tr("Use a common wildcard for selection: e.g. *foo*004*. Enter triggers the selection.");
+    wildcardEdit_->setToolTip(wildcardTip);
+    wildcardLabel.setToolTip(wildcardTip);
+    auto const numberTip =
+        tr("Use numbers of items for selection. e.g. 0-5,9 selects the range from 0 to 5 and item number 9. Also use "
+           "2nd, 3rd, 4th, etc to select every 2nd and so on. This can be shifted by adding a number: e.g. 4th+2 "
+           "selects every forth item and starting with the 3rd. Enter triggers the selection.");
+    numberEdit_->setToolTip(numberTip);
+    numberLabel.setToolTip(numberTip);
+}
+
 void qVMultipleStringList::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
     if (arrivalOf(newValue, context) != Arrival::OtherPool)
         showValue(newValue);
 }
 
 void qVMultipleStringList::showValue(ValuePtr const& value) {
-    auto const* const typed = dynamic_cast<VValue<VMultipleStringList> const*>(value.get());
-    if (!typed || !typed->get(cached_) || !cached_)
+    if (!cacheStored(value) || !cached_)
         return;
     std::puts("calling getSeletion from valueChanged");
     std::fflush(stdout);
@@ -147,7 +145,7 @@ void qVMultipleStringList::showValue(ValuePtr const& value) {
 }
 
 int qVMultipleStringList::widthOfTexts() {
-    bool const sameTexts = measured_ && (measured_ == cached_ || measured_->strings() == cached_->strings());
+    bool const sameTexts = measured_ && measured_->hasSameTexts(*cached_);
     if (!sameTexts || measuredFont_ != list_->font()) {
         measuredFont_ = list_->font();
         measuredWidth_ = 0;

@@ -2,12 +2,13 @@
 
 #include <plugin/VInputValue.hpp>
 
-#include <bramble/Selection.hpp>
+#include <bramble/MultipleStringSelection.hpp>
 #include <lattice/CreationPreferences.hpp>
 #include <QCheckBox>
 #include <QFont>
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
@@ -19,19 +20,19 @@
 
 namespace Kolt {
 
-/// Edits which texts of a list are chosen. Every text is a row of a list in which clicks choose rows. Beside it stand
-/// buttons for all, none and the inverse, which act when they are pressed, and two fields that add rows, or with
-/// "remove" checked take rows away, when Return is pressed: a wildcard, which is matched against whole texts whatever
-/// their case and in which "*" and "?" stop at a "/", and a list of row numbers (rowsByNumber). Each action changes the
-/// choice in place and commits the value.
+/// Edits which texts of a list are chosen. Every text is a row of a list in which clicks choose rows. Beside the list
+/// are buttons for all, none and the inverse, which act when they are pressed, and two fields that act when Return is
+/// pressed: they add rows, or with "remove" checked remove them. One field takes a wildcard, which is matched against
+/// whole texts without regard to case and in which "*" and "?" stop at a "/"; the other takes a list of row numbers
+/// (rowsByNumber). Each action changes the choice in place and commits the value.
 ///
-/// After a click the choice is what the list shows; the other actions do to the list and to the choice what they say.
-/// Rows chosen by the keyboard are committed with the next click. A click without a pool, or where the value refers to
-/// no choice, changes the view alone.
+/// After a click the choice is what the list shows; the other actions change the list and the choice in the same way.
+/// Rows chosen by the keyboard are committed with the next click. A click without a pool, or if the value refers to no
+/// choice, changes the view alone.
 ///
 /// A change from elsewhere fills the list anew, prints a line that says so, and fixes the widget's size so that the
-/// texts fit. What an action costs grows with the number of rows and no faster. The preferences are not looked at.
-/// Where the parameter is gone the list is empty.
+/// texts fit. The time of an action is linear in the number of rows. If the parameter was deleted, the list is empty.
+/// User-interface thread.
 class qVMultipleStringList : public QFrame, public VInputValue<VMultipleStringList> {
     Q_OBJECT
 
@@ -40,7 +41,7 @@ public:
     class AllButton : public QPushButton {
     public:
         using QPushButton::QPushButton;
-        qVMultipleStringList* owner = nullptr;
+        qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
 
     protected:
         void mousePressEvent(QMouseEvent* event) override;
@@ -50,7 +51,7 @@ public:
     class NoneButton : public QPushButton {
     public:
         using QPushButton::QPushButton;
-        qVMultipleStringList* owner = nullptr;
+        qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
 
     protected:
         void mousePressEvent(QMouseEvent* event) override;
@@ -60,33 +61,37 @@ public:
     class InverseButton : public QPushButton {
     public:
         using QPushButton::QPushButton;
-        qVMultipleStringList* owner = nullptr;
+        qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
 
     protected:
         void mousePressEvent(QMouseEvent* event) override;
     };
 
-    /// The rows; a release of the mouse commits what they show.
+    /// The rows. A release of the mouse commits the rows shown as chosen.
     class MyQListWidget : public QListWidget {
     public:
         using QListWidget::QListWidget;
-        qVMultipleStringList* owner = nullptr;
+        qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
 
     protected:
         void mouseReleaseEvent(QMouseEvent* event) override;
     };
 
+    /// Makes an editor of `parameter` on `parent`, which owns it and may be null. The editor refers to the parameter
+    /// weakly. It asks `poolSource` for the pool at each use; the source must outlive it, and null means that there is
+    /// no pool. `preferences` is not read.
     qVMultipleStringList(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
                          PreferencesPtr const& preferences);
     ~qVMultipleStringList() override;
 
+    /// Fills the list with the texts of the editor's pool; writes nothing. Any other value is ignored.
     void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:
     /// Does nothing.
     void updateSelection();
-    /// Exchanges chosen and not chosen for the text of an item and commits; the list goes on to show what it showed.
-    /// Prints its name and the text, a line each. Nothing happens without an item.
+    /// Exchanges chosen and not chosen for the text of an item and commits; the list still shows the same rows as
+    /// chosen. Prints the slot's name and the text, a line each. Null: nothing.
     void updateSelectionA(QListWidgetItem* i);
     /// Adds or removes the rows that match the wildcard.
     void wildSelect();
@@ -97,18 +102,30 @@ private:
     /// One entry for each row of the list.
     using Rows = std::vector<bool>;
 
+    /// Explains the fields. The labels are those beside them.
+    void setToolTips(QLabel& wildcardLabel, QLabel& numberLabel);
+    /// Shows a selection as it is filled in. Nothing for a value of another type, or one without a selection.
     void showValue(ValuePtr const& value);
+    /// The width that the widest cached text asks for, in pixels. Texts that were measured before are not measured
+    /// again.
     int widthOfTexts();
+    /// 0 if the list was deleted.
     int rowCount() const;
+    /// The rows that the list shows as chosen.
     Rows selectedRows() const;
+    /// Has the list show these rows as chosen, and no other. Commits nothing.
     void selectRows(Rows const& rows);
+    /// Adds rows to the choice, or removes them if the box says so, and commits.
     void addOrRemoveRows(Rows const& rows);
+    // The actions of the buttons and of a click. Each one commits.
     void chooseAll();
     void chooseNone();
     void invertChoice();
     void chooseSelectedRows();
+    /// Commits the cached choice. The editor may be deleted meanwhile.
     void commitChoice();
 
+    // The controls are children; each pointer is null if its control was deleted.
     QPointer<QHBoxLayout> layout_;
     QPointer<QVBoxLayout> buttonColumn_;
     QPointer<AllButton> allButton_;
@@ -119,7 +136,7 @@ private:
     QPointer<QLineEdit> numberEdit_;
     QPointer<MyQListWidget> list_;
 
-    // The texts last measured, the font in which they were, and their width.
+    // The texts that were measured last, their font, and their width in pixels.
     VMultipleStringList measured_;
     QFont measuredFont_;
     int measuredWidth_ = 0;

@@ -1,6 +1,7 @@
+#include <qVinputs/basics/qVObjectStatus.hpp>
+
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QThread>
-#include <qVinputs/basics/qVObjectStatus.hpp>
 
 namespace Kolt {
 
@@ -20,7 +21,7 @@ qVObjectStatus::~qVObjectStatus() {
 }
 
 void qVObjectStatus::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
-    if (isForeign(newValue, context))
+    if (isForOtherPool(newValue, context))
         return;
     QString text;
     {
@@ -32,7 +33,7 @@ void qVObjectStatus::onValueChange(ValuePtr const& newValue, VContext const& con
     emit myUpdateLabelText(text);
 }
 
-bool qVObjectStatus::isForeign(ValuePtr const& newValue, VContext const& context) {
+bool qVObjectStatus::isForOtherPool(ValuePtr const& newValue, VContext const& context) {
     if (QThread::currentThread() == thread()) {
         shownPool_ = pool().get();
         return arrivalOf(newValue, context) == Arrival::OtherPool;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <bramble/Values.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <lattice/CreationPreferences.hpp>
 #include <mutex>
 #include <plugin/VInputValue.hpp>
@@ -8,16 +8,18 @@
 
 namespace Kolt {
 
-/// Shows the status message of an object in a label and never writes. The text can be selected with the mouse, and
-/// links in a rich text report `linkActivated`; nothing is opened. The preferences are not looked at. Where the
-/// parameter is gone the label is empty.
+/// Shows the status message of an object in a label and never writes. The text can be selected with the mouse. A link
+/// in a rich text emits `linkActivated` and opens nothing. If the parameter was deleted, the label is empty.
 ///
 /// A status may be reported on any thread: the label changes on the user-interface thread, in the order of the reports.
-/// One that is reported while the display is being destroyed is dropped.
+/// A report that arrives while the display is being destroyed is dropped.
 class qVObjectStatus : public QLabel, public VInputValue<VObjectStatus> {
     Q_OBJECT
 
 public:
+    /// Makes an editor of `parameter` on `parent`, which owns it and may be null. The editor refers to the parameter
+    /// weakly. It asks `poolSource` for the pool at each use; the source must outlive it, and null means that there is
+    /// no pool. `preferences` is not read.
     qVObjectStatus(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
                    PreferencesPtr const& preferences);
     ~qVObjectStatus() override;
@@ -30,11 +32,12 @@ signals:
     void myUpdateLabelText(QString const& text);
 
 private:
-    bool isForeign(ValuePtr const& newValue, VContext const& context);
+    /// Whether a change concerns another pool than the one shown. Any thread.
+    bool isForOtherPool(ValuePtr const& newValue, VContext const& context);
 
     // The front end and a worker may both report at one moment.
     std::mutex mutex_;
-    // Tells the pool in which the display works; never followed.
+    // The pool that the display shows; compared, never dereferenced.
     std::atomic<ValuePool const*> shownPool_;
 };
 

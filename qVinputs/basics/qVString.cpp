@@ -1,8 +1,9 @@
+#include <qVinputs/basics/qVString.hpp>
+
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QEvent>
 #include <QPointer>
 #include <QTextDocument>
-#include <qVinputs/basics/qVString.hpp>
 
 namespace Kolt {
 
@@ -32,8 +33,8 @@ qVString::~qVString() {
 }
 
 void qVString::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
-    // The input is told of its own commits; a long document need not be read again for each of them.
-    auto const* const typed = dynamic_cast<VTypedValueBase<string> const*>(newValue.get());
+    // The input is notified of its own commits; a long document need not be read again for each of them.
+    auto const* const typed = typedValue<string>(newValue.get());
     if (document()->revision() == committedRevision_ && typed && typed->holds(cached_))
         return;
     if (arrivalOf(newValue, context) == Arrival::OtherPool || !take(newValue, properties))
@@ -57,7 +58,7 @@ bool qVString::event(QEvent* event) {
     QPointer<qVString> const living(this);
     if (!destroying_ && isCommitTrigger(event->type()))
         newText();
-    // Whoever was told may have deleted the editor.
+    // A listener may have deleted the editor.
     return living ? QTextEdit::event(event) : true;
 }
 

@@ -8,19 +8,22 @@
 
 namespace Kolt {
 
-/// Edits a text of several lines, plain text. The whole text is written, also where it is unchanged, when the focus
-/// leaves, when the mouse leaves, and before each key takes effect: every key is offered as a shortcut first. What is
-/// being typed when the editor is destroyed is not written: whoever closes it hides it first, and the focus leaves.
+/// Edits a multi-line text, plain text. The whole text is written, also an unchanged one, when the focus leaves, when
+/// the mouse leaves, and before each key takes effect, as every key is offered as a shortcut first. Text that is being
+/// typed when the editor is destroyed is not written: close the editor by hiding it first, so that the focus leaves.
 ///
-/// What the document gives back is what is written: line ends are "\n" alone (a carriage return and U+2028 become
-/// that), a no-break space becomes a blank, and bytes that are no UTF-8 become U+FFFD.
+/// The text is written as the document returns it: line ends are "\n" alone (a carriage return and U+2028 become that),
+/// a no-break space becomes a space, and bytes that are not UTF-8 become U+FFFD.
 ///
-/// The text is shown in bold "DejaVu Sans Mono" of 8 points where that can be had exactly. The preferences are not
-/// looked at. Where the parameter is gone the text starts empty, and each commit prints the owner-fault line.
+/// The font is bold "DejaVu Sans Mono" of 8 points if exactly that is available. If the parameter was deleted, the text
+/// starts empty, and each commit prints the owner-fault line. User-interface thread.
 class qVString : public QTextEdit, public VInputValue<string> {
     Q_OBJECT
 
 public:
+    /// Makes an editor of `parameter` on `parent`, which owns it and may be null. The editor refers to the parameter
+    /// weakly. It asks `poolSource` for the pool at each use; the source must outlive it, and null means that there is
+    /// no pool. `preferences` is not read.
     qVString(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* poolSource,
              PreferencesPtr const& preferences);
     ~qVString() override;
@@ -33,6 +36,7 @@ public slots:
     void newText();
 
 protected:
+    /// Commits before the events listed above. The editor may be deleted meanwhile.
     bool event(QEvent* event) override;
 
 private:

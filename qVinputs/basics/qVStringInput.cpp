@@ -1,7 +1,8 @@
+#include <qVinputs/basics/qVStringInput.hpp>
+
 #include <array>
 #include <limits>
 #include <plugin/QInputWidgetCreator.hpp>
-#include <qVinputs/basics/qVStringInput.hpp>
 
 namespace Kolt {
 

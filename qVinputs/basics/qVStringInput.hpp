@@ -9,16 +9,17 @@
 namespace Kolt {
 
 /// Edits a text of any length in one line. Every keystroke, paste or deletion is written at once; with the preference
-/// "UpdateOnEnterOnly" the text is written as a whole when Return is pressed or the focus leaves. The parameter's own
-/// preferences, where it has any, decide that instead of the creator's.
+/// "UpdateOnEnterOnly" the text is written as a whole when Return is pressed or the focus leaves. If the parameter has
+/// preferences of its own, they decide this instead of the creator's.
 ///
-/// The property "inputmask", read once, restricts what can be typed; the mask's separators are a part of what is
-/// written. The font is bold "DejaVu Sans Mono" of 8 points where it can be had exactly, else the inherited one.
+/// The property "inputmask", read once, restricts what can be typed; the mask's separators are written with
+/// the text. The font is bold "DejaVu Sans Mono" of 8 points if exactly that is available, else the inherited one.
 ///
-/// It also serves parameters of the array type with one text. One whose value object is a text is edited like any
-/// other; one that holds an array starts empty and nothing is written.
+/// It also serves parameters of the array type with one text. If the value object is a text, it is edited like any
+/// other; if it is an array, the field starts empty and nothing is written.
 ///
-/// Where the parameter is gone the field starts empty, and each commit prints the owner-fault line.
+/// User-interface thread. If the parameter was deleted, the field starts empty, and each commit prints the owner-fault
+/// line.
 class qVStringInput : public QLineEdit, public VInputValue<string> {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
-#include <plugin/QInputWidgetCreator.hpp>
 #include <qVinputs/basics/qVStringList.hpp>
+
+#include <plugin/QInputWidgetCreator.hpp>
 
 namespace Kolt {
 
@@ -48,8 +49,7 @@ void qVStringList::fill() {
 void qVStringList::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
     if (arrivalOf(newValue, context) == Arrival::OtherPool)
         return;
-    auto const* const typed = dynamic_cast<VValue<VStringList> const*>(newValue.get());
-    if (typed && typed->get(cached_) && cached_)
+    if (cacheStored(newValue) && cached_)
         fill();
 }
 

@@ -1,10 +1,11 @@
+#include <qVinputs/basics/qVstringFileNameInput.hpp>
+
 #include <lattice/Scheduler.hpp>
 #include <limits>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
-#include <qVinputs/basics/qVstringFileNameInput.hpp>
 
 namespace Kolt {
 
@@ -31,7 +32,7 @@ VQStringFileNameInput::VQStringFileNameInput(ParameterRef const& parameter, QWid
 }
 
 VQStringFileNameInput::~VQStringFileNameInput() {
-    // An open dialog stands on the stack of the slot, so it must not die as a child of the button.
+    // An open dialog is on the stack of the slot, so it must not die as a child of the button.
     auto const dialogs = findChildren<QFileDialog*>(QString(), Qt::FindDirectChildrenOnly);
     for (auto* const dialog : dialogs) {
         dialog->reject();
@@ -85,7 +86,7 @@ void VQStringFileNameInput::myFileNameGui() {
             setText(QLatin1String("Select File"));
     }
 
-    // Copies: the button may be gone after the commit.
+    // Copies: the commit may delete the button.
     auto const parameter = owner();
     auto const currentPool = pool();
     cached_ = name.toStdString();

@@ -10,7 +10,7 @@
 namespace Kolt {
 
 /// Edits a text that names a file, with a button that opens a file dialog. The chosen name is written, also the empty
-/// one of a cancelled dialog; a name that is not empty schedules every object with a slot bound to the parameter, at
+/// one of a cancelled dialog. A name that is not empty schedules every object with a slot bound to the parameter, at
 /// once and in the current pool.
 ///
 /// With the preference "FileInput" an existing file is chosen: the button shows the file's base name and the whole name
@@ -19,7 +19,7 @@ namespace Kolt {
 /// The creator's preferences decide, not the parameter's. A value from elsewhere is shown by its base name and tool tip
 /// in every mode.
 ///
-/// The font is bold "Arial" of 8 points where it can be had exactly. Where the parameter is gone a commit prints the
+/// The font is bold "Arial" of 8 points if exactly that is available. If the parameter was deleted, a commit prints the
 /// owner-fault line and schedules nothing. The button may be destroyed while its dialog is open: the dialog is
 /// rejected, and nothing is written.
 class VQStringFileNameInput : public QPushButton, public VInputValue<string> {

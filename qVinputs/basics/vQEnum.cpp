@@ -1,7 +1,8 @@
+#include <qVinputs/basics/vQEnum.hpp>
+
 #include <algorithm>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QGridLayout>
-#include <qVinputs/basics/vQEnum.hpp>
 
 namespace Kolt {
 
@@ -60,8 +61,7 @@ int vQEnum::columnCount() const {
 void vQEnum::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
     if (arrivalOf(newValue, context) == Arrival::OtherPool)
         return;
-    auto const* const typed = dynamic_cast<VValue<Enum> const*>(newValue.get());
-    if (!typed || !typed->get(cached_))
+    if (!cacheStored(newValue))
         return;
     auto const* const names = selection();
     if (!names)
@@ -72,7 +72,7 @@ void vQEnum::onValueChange(ValuePtr const& newValue, VContext const& context, Va
         std::fflush(stdout);
         return;
     }
-    // This marks the button and so commits, after which the widget may be gone.
+    // This marks the button and so commits, which may delete the widget.
     if (auto* const button = buttons_[number].data())
         button->setChecked(true);
 }

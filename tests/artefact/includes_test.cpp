@@ -103,7 +103,7 @@ TEST_F(Includes, AreFoundInEverySpelling) {
 
 TEST_F(Includes, AgainstTheDependenciesAreObjectedTo) {
     std::pair<char const*, char const*> const wrong[] = {{"tessera", "lattice/Value.hpp"},
-                                                         {"lattice", "bramble/Values.hpp"},
+                                                         {"lattice", "bramble/Color.hpp"},
                                                          {"bramble", "sorrel/QIconizer.hpp"},
                                                          {"sorrel", "plugin/VInputValue.hpp"},
                                                          {"plugin", "qVinputs/basics/QBool.hpp"},

@@ -1,8 +1,8 @@
 #include "support/TaloTest.hpp"
 
-#include <lattice/Initialization.hpp>
+#include <lattice/HostObserver.hpp>
 #include <limits>
-#include <plugin/LoadCallback.hpp>
+#include <plugin/Plugin.hpp>
 
 namespace {
 
@@ -23,7 +23,7 @@ class LoadCallback : public TaloTest {
 protected:
     std::vector<std::string> callsFor(unsigned long reason) {
         observer_.calls.clear();
-        EXPECT_EQ(Kolt::loadCallback(this, reason, this), 1) << reason;
+        EXPECT_EQ(Kolt::loadCallback("qtalo_inputs", this, reason, this), 1) << reason;
         return observer_.calls;
     }
     Observer observer_;
@@ -39,15 +39,23 @@ TEST_F(LoadCallback, PassesTheThreadReasonsOn) {
     EXPECT_THAT(callsFor(3), ElementsAre("3 qtalo_inputs TALO_API_VERSION"));
 }
 
-TEST_F(LoadCallback, CallsNobodyForAnotherReasonAndStillSucceeds) {
+TEST_F(LoadCallback, CallsNothingForAnotherReasonAndStillSucceeds) {
     EXPECT_THAT(callsFor(4), IsEmpty());
     EXPECT_THAT(callsFor(5), IsEmpty());
     EXPECT_THAT(callsFor(std::numeric_limits<unsigned long>::max()), IsEmpty());
 }
 
 TEST_F(LoadCallback, NeedsNeitherHandleNorReservedPointer) {
-    EXPECT_EQ(Kolt::loadCallback(nullptr, 1, nullptr), 1);
+    EXPECT_EQ(Kolt::loadCallback("qtalo_inputs", nullptr, 1, nullptr), 1);
     EXPECT_THAT(observer_.calls, ElementsAre("0 qtalo_inputs TALO_API_VERSION"));
+}
+
+TEST_F(LoadCallback, ReportsAttachAndDetachForTheLifeOfALoadReport) {
+    {
+        Kolt::LoadReport const report("other_inputs");
+        EXPECT_THAT(observer_.calls, ElementsAre("0 other_inputs TALO_API_VERSION"));
+    }
+    EXPECT_THAT(observer_.calls, ElementsAre("0 other_inputs TALO_API_VERSION", "1 other_inputs TALO_API_VERSION"));
 }
 
 } // namespace

@@ -86,13 +86,13 @@ protected:
     }
 };
 
-TEST_P(Loading, RegistersThenAttachesThenDetachesThenTakesBackWhenClosed) {
+TEST_P(Loading, RegistersThenAttachesThenDetachesThenUnregistersWhenClosed) {
     auto const lines = run("close");
     expectOrder(lines, "closing");
     EXPECT_EQ(lines.back(), "closed") << "nothing is left in the registry";
 }
 
-TEST_P(Loading, RegistersThenAttachesThenDetachesThenTakesBackAtTheEndOfTheProcess) {
+TEST_P(Loading, RegistersThenAttachesThenDetachesThenUnregistersAtTheEndOfTheProcess) {
     expectOrder(run("exit"), "leaving main");
 }
 

@@ -1,6 +1,9 @@
 #include <cstdio>
 #include <cstring>
 #include <dlfcn.h>
+#include <lattice/ActionNotifier.hpp>
+#include <lattice/HostObserver.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <lattice/PluginLoader.hpp>
 #include <lattice/ValueCreator.hpp>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "EditorCase.hpp"
 
 #include <bramble/Action.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
 #include <QColorDialog>
 #include <QLabel>
 #include <QSpinBox>

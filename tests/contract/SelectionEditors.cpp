@@ -1,7 +1,10 @@
 #include "EditorCase.hpp"
 
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/EnumSelection.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/StringSelection.hpp>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>

@@ -2,7 +2,8 @@
 #include "support/FileDialogs.hpp"
 
 #include <array>
-#include <bramble/Values.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <QDir>
 #include <QLabel>
 #include <QPushButton>
@@ -20,7 +21,7 @@ EditorCase textCase(char const* name, char const* creator, std::vector<std::stri
     text.creator = creator;
     text.preferences = std::move(preferences);
     text.makeValue = makeText;
-    // The commit goes on without a pool, up to the store.
+    // Without a pool the commit gets as far as the store.
     text.reportsMissingOwnerWithoutPool = true;
     return text;
 }

@@ -29,7 +29,7 @@ protected:
             EXPECT_EQ(editorCase().shown(*editor.widget), editorCase().expected(value));
         }
     }
-    /// Makes the n-th value of the parameter's value object and tells everybody, as another editor does.
+    /// Makes the n-th value of the parameter's value object and notifies, as another editor does.
     void changeElsewhere(ParameterPtr const& parameter, Kolt::ValuePtr const& value, int n, Kolt::PoolPtr const& pool) {
         editorCase().change(*value, n);
         parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);

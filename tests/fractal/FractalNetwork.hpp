@@ -2,7 +2,6 @@
 
 #include "support/TaloTest.hpp"
 
-#include <bramble/Values.hpp>
 #include <fractal/objects/ComputingNetwork.hpp>
 #include <fractal/objects/ObjectFactory.hpp>
 #include <lattice/ActionNotifier.hpp>

@@ -40,8 +40,24 @@ refuse_and_expect("The component network of Talo needs Qt 5.15"
 refuse_and_expect("Talo has no component sprockets"
     ${core_host} -B "${WORK}/refused" "-DCMAKE_PREFIX_PATH=${prefix}" -DCOMPONENTS=sprockets)
 
-foreach(example IN ITEMS spin_inputs)
+# A user of the small host is compiled into it.
+set(user "-DCMAKE_PROJECT_small_host_INCLUDE=${CMAKE_CURRENT_LIST_DIR}/small_host_user.cmake")
+foreach(example IN ITEMS small_host spin_inputs)
     run(${configure} -S "${prefix}/share/talo/examples/${example}" -B "${WORK}/${example}"
-        "-DCMAKE_PREFIX_PATH=${prefix}")
+        "-DCMAKE_PREFIX_PATH=${prefix}" "${user}")
     run("${CMAKE_COMMAND}" --build "${WORK}/${example}")
 endforeach()
+
+# The user works with it: editors, undo, pools, filter; it is saved and drawn.
+file(MAKE_DIRECTORY "${WORK}/user")
+run("${CMAKE_COMMAND}" -E chdir "${WORK}/user" "${WORK}/small_host/small_host")
+file(READ "${WORK}/user/lamp.json" saved)
+foreach(expected IN ITEMS "\"label\"" "\"shelf\"" "\"night\": 61")
+    if(NOT saved MATCHES "${expected}")
+        message(FATAL_ERROR "The small host did not save ${expected}:\n${saved}")
+    endif()
+endforeach()
+file(SIZE "${WORK}/user/lamp.png" size)
+if(size LESS 5000)
+    message(FATAL_ERROR "The picture of the small host has ${size} bytes only")
+endif()

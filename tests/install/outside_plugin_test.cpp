@@ -36,6 +36,28 @@ TEST_F(OutsidePluginTest, ItsEditorIsChosenByItsPreferenceAndWrites) {
     EXPECT_EQ(dlopen(TALO_OUTSIDE_PLUGIN, RTLD_NOW | RTLD_NOLOAD), nullptr);
 }
 
+TEST_F(OutsidePluginTest, ItReportsToTheHostWhenItIsLoadedAndUnloaded) {
+    struct Observer : Kolt::HostObserver {
+        Observer() { setObserver(this); }
+        ~Observer() override { setObserver(nullptr); }
+        void creatorRegistered(std::string const&, Kolt::VInputCreatorBase const&) override {
+            events.emplace_back("registered");
+        }
+        void creatorUnregistered(std::string const&, Kolt::VInputCreatorBase const&) override {
+            events.emplace_back("unregistered");
+        }
+        void pluginCalled(Kolt::VInitialization::InitPluginReason reason, std::string const& plugin,
+                          std::string const& key) override {
+            events.push_back(std::to_string(reason) + " " + plugin + " " + key);
+        }
+        std::vector<std::string> events;
+    } const observer;
+    ASSERT_TRUE(loader.load(TALO_OUTSIDE_PLUGIN).ok);
+    ASSERT_TRUE(loader.unload(TALO_OUTSIDE_PLUGIN).ok);
+    EXPECT_EQ(observer.events, (std::vector<std::string>{"registered", "0 spin_inputs TALO_API_VERSION",
+                                                         "1 spin_inputs TALO_API_VERSION", "unregistered"}));
+}
+
 TEST_F(OutsidePluginTest, ItsEditorWorksInThePanel) {
     QTemporaryDir const folder;
     QFile file(folder.filePath(QLatin1String("counter.json")));

@@ -1,6 +1,7 @@
 #include "NetworkFile.hpp"
 
-#include <bramble/Values.hpp>
+#include <bramble/FlagList.hpp>
+#include <lattice/TypedParameter.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 
@@ -47,6 +48,15 @@ TEST_F(NetworkDefaults, AnyValueThatDiffersIsAModification) {
     EXPECT_FALSE(loaded->isModified());
 }
 
+TEST_F(NetworkDefaults, AnotherDefaultSavesNothing) {
+    auto const loaded = network(withParameters(R"({ "name": "p", "type": "int", "value": 1 })"));
+    EXPECT_TRUE(set(*loaded, "2", "draft"));
+    parameterOf(*loaded)->rememberDefaults();
+    EXPECT_TRUE(loaded->isModified()) << "the file still holds 1";
+    parameterOf(*loaded)->ownValue()->setValueFromText("1");
+    EXPECT_FALSE(loaded->isModified());
+}
+
 TEST_F(NetworkDefaults, SavingElsewhereGoesOnThere) {
     auto const loaded = network(withParameters(R"(
         { "name": "p", "type": "int", "value": 1 },
@@ -59,6 +69,8 @@ TEST_F(NetworkDefaults, SavingElsewhereGoesOnThere) {
     ASSERT_TRUE(loaded->saveAs(target, &error)) << error.toStdString();
     EXPECT_EQ(loaded->file(), target);
     EXPECT_FALSE(loaded->isModified());
+    auto const& defaults = *loaded->findParameter("o.p")->defaults();
+    EXPECT_EQ(defaults.in(nullptr).value->Text(), "1") << "the author's value stays the default";
 
     auto const icon = [](Talo::Network const& of, char const* name) {
         return QDir::cleanPath(
@@ -74,6 +86,29 @@ TEST_F(NetworkDefaults, SavingElsewhereGoesOnThere) {
     ASSERT_TRUE(again.network) << again.error.toStdString();
     EXPECT_EQ(icon(*again.network, "o.a"), path("icons/go.png"));
     EXPECT_EQ(again.network->values(), loaded->values());
+}
+
+TEST_F(NetworkDefaults, ANetworkOfAHostsOwnObjectsIsSavedLikeAnyOther) {
+    auto const made = Talo::Network::create("Lamp", {"day", "night"});
+    auto const day = made->findPool("day");
+    EXPECT_EQ(made->file(), QString());
+    Kolt::ObjectPtr const lamp(new Kolt::VObject("lamp"));
+    auto const level = Kolt::Parameter<int>::perPool("level", 3).max(9);
+    lamp->addParameter(level);
+    made->addObject(lamp, "light");
+    made->addObject(nullptr);
+    EXPECT_FALSE(made->isModified());
+    EXPECT_TRUE(level.write(7, day));
+    EXPECT_TRUE(made->isModified());
+    EXPECT_EQ(level->defaults()->in(day).value->Text(), "3");
+    QString error;
+    ASSERT_TRUE(made->saveAs(path("lamp.json"), &error)) << error.toStdString();
+    EXPECT_FALSE(made->isModified());
+    auto const again = Talo::Network::load(path("lamp.json"));
+    ASSERT_TRUE(again.network) << again.error.toStdString();
+    EXPECT_EQ(again.network->values(), made->values());
+    EXPECT_EQ(again.network->title(), QString("Lamp"));
+    EXPECT_EQ(again.network->kind(again.network->findObject("lamp")), QString("light"));
 }
 
 TEST_F(NetworkDefaults, AFailedSaveChangesNothing) {
@@ -99,5 +134,5 @@ TEST_F(NetworkDefaults, AValueIsReadFromATextWithoutChangingAnything) {
     EXPECT_EQ(Talo::valueFromText(*parameter, pool, "b"), nullptr);
     EXPECT_EQ(parameter->getLocalValue(pool, std::string(), false), nullptr);
     EXPECT_FALSE(loaded->isModified());
-    EXPECT_TRUE(Talo::isEdited(*parameter));
+    EXPECT_TRUE(parameter->isEdited());
 }

@@ -1,9 +1,14 @@
 #include "NetworkFile.hpp"
 
 #include <array>
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
-#include <lattice/InputCreator.hpp>
+#include <bramble/Color.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/ObjectStatus.hpp>
+#include <bramble/StringSelection.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>

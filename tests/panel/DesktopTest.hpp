@@ -4,7 +4,7 @@
 #include "support/Desktop.hpp"
 #include "support/FileDialogs.hpp"
 
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <QAbstractSlider>
 #include <QColorDialog>
 #include <QMessageBox>
@@ -33,7 +33,7 @@ protected:
         auto const name = QString::fromUtf8(parameterName);
         auto* const found = window->currentView()->row(name.mid(name.indexOf(QLatin1Char('.')) + 1));
         if (found) {
-            window->currentView()->rowArea()->ensureWidgetVisible(found);
+            window->currentView()->panel()->rowArea()->ensureWidgetVisible(found);
             QCoreApplication::processEvents();
         }
         return found;

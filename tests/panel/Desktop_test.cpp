@@ -245,7 +245,7 @@ TEST_F(DesktopTest, TwoViewsOfAnObjectStayEqualWhileBothAreUsed) {
     auto* const mine = control<QCheckBox>("formula.smooth");
     auto* const its = other->row(QStringLiteral("smooth"))->editor()->findChild<QCheckBox*>();
     for (auto* const clicked : {mine, its, mine}) {
-        auto* const area = (clicked == its ? other : window->currentView())->rowArea();
+        auto* const area = (clicked == its ? other : window->currentView())->panel()->rowArea();
         // The new view comes gliding.
         ASSERT_TRUE(waitUntil([&] {
             area->ensureWidgetVisible(clicked);
@@ -273,7 +273,7 @@ TEST_F(DesktopTest, APoolIsChosenByTheKeyboard) {
 
 TEST_F(DesktopTest, TheWheelScrollsThePanelAndChangesNothing) {
     window->resize(1000, 560);
-    auto* const area = window->currentView()->rowArea();
+    auto* const area = window->currentView()->panel()->rowArea();
     ASSERT_TRUE(waitUntil([&] { return window->height() == 560 && area->verticalScrollBar()->maximum() > 0; }));
     auto const values = window->network()->values();
     for (auto const* const name : {"formula.iterations", "formula.quality", "formula.zoom"}) {
@@ -356,7 +356,7 @@ TEST_F(DesktopTest, ClosingAsksForUnsavedChanges) {
 }
 
 TEST_F(DesktopTest, StepsAreChosenInTheListByMouseAndKeyboard) {
-    auto const& history = Kolt::UndoHistory::theHistory();
+    auto const& history = window->history();
     auto const start = window->network()->values();
     for (auto const* const number : {"111", "222", "333"}) {
         goTo("formula.iterations");
@@ -391,7 +391,7 @@ TEST_F(DesktopTest, ValuesAreCopiedPastedAndResetByTheKeyboard) {
         desktop.key("ctrl+shift+v");
         expectValue("formula.symmetry", "100");
     });
-    ASSERT_TRUE(waitUntil([&] { return row("formula.symmetry")->defaultMarker()->isVisible(); }));
+    ASSERT_TRUE(waitUntil([&] { return row("formula.symmetry")->modifiedIndicator()->isVisible(); }));
     edit("formula.symmetry", "resetting", [&] {
         desktop.key("ctrl+d");
         expectValue("formula.symmetry", "0");

@@ -103,9 +103,9 @@ protected:
         QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, place);
     }
 
-    static std::vector<std::string> steps() {
+    std::vector<std::string> steps() const {
         std::vector<std::string> steps;
-        for (auto const& step : Kolt::UndoHistory::theHistory().steps())
+        for (auto const& step : window->history().steps())
             steps.push_back(step->description());
         return steps;
     }

@@ -108,7 +108,7 @@ TEST_F(FilterTest, IsReachedByAKeyAndLeadsToWhatItFound) {
 TEST_F(FilterTest, LeadsToTheEditorAndNotToWhatResetsIt) {
     QTest::mouseClick(box("steady"), Qt::LeftButton);
     auto const* const row = window->currentView()->row(QStringLiteral("steady"));
-    ASSERT_TRUE(row->defaultMarker()->isVisible());
+    ASSERT_TRUE(row->modifiedIndicator()->isVisible());
     look("steady");
     QTest::keyClick(field(), Qt::Key_Return);
     EXPECT_EQ(QApplication::focusWidget(), box("steady"));
@@ -127,9 +127,9 @@ TEST_F(FilterTest, HoldsForViewsMadeLaterAndNotForAnotherNetwork) {
 TEST_F(FilterTest, WithoutAFindSaysSo) {
     look("nowhere");
     EXPECT_THAT(parameters(), IsEmpty());
-    EXPECT_TRUE(window->currentView()->emptyNote()->isVisible());
+    EXPECT_TRUE(window->currentView()->findChild<QLabel*>(QStringLiteral("emptyNote"))->isVisible());
     look("steady");
-    EXPECT_FALSE(window->currentView()->emptyNote()->isVisible());
+    EXPECT_FALSE(window->currentView()->findChild<QLabel*>(QStringLiteral("emptyNote"))->isVisible());
 }
 
 TEST_F(FilterTest, KeepsTheViewsOfTheObjectsChosenLast) {

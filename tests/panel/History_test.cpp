@@ -28,7 +28,7 @@ protected:
             rows.push_back(list()->item(index)->text().toStdString());
         return rows;
     }
-    static bool noGesture() { return !Kolt::UndoHistory::theHistory().isMacroOpen(); }
+    bool noGesture() const { return !window->history().isMacroOpen(); }
     void undo() const { action("undo")->trigger(); }
     void redo() const { action("redo")->trigger(); }
 };
@@ -487,7 +487,7 @@ TEST_F(HistoryTest, TheListShowsEveryStateAndGoesToTheChosenOne) {
     EXPECT_TRUE(waitUntil([&] { return isMuted(2) && isMuted(3); }));
     EXPECT_FALSE(isMuted(1));
     EXPECT_EQ(rows(), all);
-    EXPECT_THAT(list()->item(2)->data(Qt::AccessibleTextRole).toString().toStdString(), HasSubstr("taken back"));
+    EXPECT_THAT(list()->item(2)->data(Qt::AccessibleTextRole).toString().toStdString(), HasSubstr("undone"));
 
     list()->setFocus();
     list()->setCurrentRow(0);
@@ -525,5 +525,5 @@ TEST_F(HistoryTest, AnotherNetworkStartsWithAnEmptyHistory) {
     ASSERT_TRUE(window->openNetwork(networkFile("other.json", lamps)));
     EXPECT_FALSE(action("undo")->isEnabled());
     EXPECT_FALSE(action("redo")->isEnabled());
-    EXPECT_THAT(Kolt::UndoHistory::theHistory().steps(), IsEmpty());
+    EXPECT_THAT(window->history().steps(), IsEmpty());
 }

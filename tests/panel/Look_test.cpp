@@ -2,6 +2,7 @@
 
 #include <panel/look/Look.hpp>
 #include <panel/look/PanelStyle.hpp>
+#include <parameters/PoolSource.hpp>
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
 #include <parameters/rows/TextDirectionDelegate.hpp>

@@ -31,7 +31,7 @@ struct Step : Kolt::VUndoAction {
 };
 
 void addStep(std::string const& text, bool works, int& undone) {
-    Kolt::UndoHistory::theHistory().add(Tessera::StrongPtr<Kolt::VUndoAction>(new Step(text, works, undone)), 1);
+    window->history().add(Tessera::StrongPtr<Kolt::VUndoAction>(new Step(text, works, undone)));
 }
 
 } // namespace

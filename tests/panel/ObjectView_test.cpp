@@ -126,8 +126,8 @@ TEST_F(ObjectViewTest, ADeletedParameterLeavesItsRowUsableWithANote) {
     EXPECT_EQ(takeOutput(), std::vector<std::string>{line.toStdString()});
 
     window->choosePool(QStringLiteral("night"));
-    window->currentView()->closeEditors();
-    window->currentView()->openEditors();
+    window->currentView()->panel()->closeEditors();
+    window->currentView()->panel()->openEditors();
     EXPECT_EQ(row("steady")->editor(), nullptr);
     EXPECT_TRUE(box("on")->isChecked());
 }
@@ -142,9 +142,9 @@ TEST_F(ObjectViewTest, AnObjectThatIsGoneLeavesItsViewStanding) {
         EXPECT_TRUE(box(view, "flag")->isChecked());
     }
     EXPECT_EQ(view->object(), nullptr);
-    view->showPool();
+    view->panel()->showPool();
     EXPECT_EQ(view->rows().front()->note(), QStringLiteral("was removed"));
-    view->setRawValuesShown(true);
+    view->panel()->setRawValuesShown(true);
     EXPECT_EQ(view->rows().front()->rawValue()->stamp(), QStringLiteral("removed"));
 }
 
@@ -177,9 +177,9 @@ protected:
         PanelTest::TearDown();
     }
 
-    QScrollBar* bar() const { return view->rowArea()->verticalScrollBar(); }
+    QScrollBar* bar() const { return view->panel()->rowArea()->verticalScrollBar(); }
     QRect seen(QWidget const* widget) const {
-        auto const* const viewport = view->rowArea()->viewport();
+        auto const* const viewport = view->panel()->rowArea()->viewport();
         return QRect(widget->mapTo(viewport, QPoint()), widget->size()) & viewport->rect();
     }
     /// What the user sees has no gap: each row begins where the one before it ends.
@@ -189,7 +189,7 @@ protected:
         for (auto const* const row : view->rows()) {
             if (seen(row).isEmpty())
                 continue;
-            int const top = row->mapTo(view->rowArea()->viewport(), QPoint()).y();
+            int const top = row->mapTo(view->panel()->rowArea()->viewport(), QPoint()).y();
             if (bottom >= 0)
                 EXPECT_EQ(top, bottom + 6) << qPrintable(row->parameterName());
             else
@@ -197,7 +197,7 @@ protected:
             bottom = top + row->height();
             ++visible;
         }
-        EXPECT_GE(bottom, view->rowArea()->viewport()->height() - 40);
+        EXPECT_GE(bottom, view->panel()->rowArea()->viewport()->height() - 40);
         EXPECT_GE(visible, 5);
     }
 
@@ -212,7 +212,7 @@ protected:
 
 TEST_F(LongObjectView, MakesTheRowsThatCanBeSeenAlone) {
     EXPECT_LT(view->rows().size(), 30U);
-    EXPECT_EQ(view->rowArea()->shownCount(), count);
+    EXPECT_EQ(view->panel()->rowArea()->shownCount(), count);
     expectRowsWithoutGaps();
     EXPECT_EQ(view->rows().front()->parameterName(), QStringLiteral("p0"));
 }
@@ -287,16 +287,16 @@ TEST_F(LongObjectView, KeepsTheRowThatHasTheFocus) {
 }
 
 TEST_F(LongObjectView, ShowsTheParametersOfAFilterAlone) {
-    view->rowArea()->setFilter([](auto const& parameter) { return parameter.Name().size() == 2; });
-    EXPECT_EQ(view->rowArea()->shownCount(), 10);
+    view->panel()->rowArea()->setFilter([](auto const& parameter) { return parameter.Name().size() == 2; });
+    EXPECT_EQ(view->panel()->rowArea()->shownCount(), 10);
     std::vector<std::string> names;
     for (auto const* const row : view->rows())
         if (!row->isHidden())
             names.push_back(row->parameterName().toStdString());
     EXPECT_THAT(names, testing::ElementsAre("p0", "p1", "p2", "p3", "p4", "p5", "p6", "p7", "p8", "p9"));
     bar()->setValue(bar()->maximum());
-    view->rowArea()->setFilter({});
-    EXPECT_EQ(view->rowArea()->shownCount(), count);
+    view->panel()->rowArea()->setFilter({});
+    EXPECT_EQ(view->panel()->rowArea()->shownCount(), count);
     EXPECT_EQ(bar()->value(), 0);
     expectRowsWithoutGaps();
 }
@@ -307,15 +307,15 @@ TEST_F(LongObjectView, LeavesOutAParameterThatWentBeforeItsRowWasMade) {
         bar()->setValue(value);
     EXPECT_EQ(view->row(QStringLiteral("p300")), nullptr);
     EXPECT_NE(view->row(QStringLiteral("p301")), nullptr);
-    EXPECT_EQ(view->rowArea()->shownCount(), count - 1);
+    EXPECT_EQ(view->panel()->rowArea()->shownCount(), count - 1);
 }
 
 TEST_F(LongObjectView, OpensRowsMadeLaterWithoutEditorsWhileTheyAreClosed) {
-    view->closeEditors();
+    view->panel()->closeEditors();
     bar()->setValue(bar()->maximum() / 3);
     for (auto const* const row : view->rows())
         EXPECT_EQ(row->editor(), nullptr) << qPrintable(row->parameterName());
-    view->openEditors();
+    view->panel()->openEditors();
     for (auto const* const row : view->rows())
         EXPECT_NE(row->editor(), nullptr) << qPrintable(row->parameterName());
     expectRowsWithoutGaps();

@@ -2,8 +2,8 @@
 #include "contract/EditorCase.hpp"
 
 #include <algorithm>
-#include <bramble/Values.hpp>
-#include <lattice/InputCreator.hpp>
+#include <bramble/FlagList.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <map>
 #include <network/ValueFormat.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>

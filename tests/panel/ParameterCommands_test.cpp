@@ -28,6 +28,9 @@ protected:
         QApplication::sendEvent(part, &event);
         return Talo::ParameterRow::rowOf(part)->findChild<QMenu*>();
     }
+    static QAction* commandOf(QMenu* menu, char const* name) {
+        return menu->findChild<QAction*>(QString::fromUtf8(name), Qt::FindDirectChildrenOnly);
+    }
     static bool close(QPointer<QMenu> const& menu) {
         menu->close();
         return waitUntil([&] { return menu.isNull(); });
@@ -55,7 +58,7 @@ protected:
         EXPECT_EQ(window->statusBar()->currentMessage(), errors.isEmpty() ? QString() : errors.constLast());
         return errors.isEmpty() ? std::string() : errors.constLast().toStdString();
     }
-    Talo::ModifiedIndicator* marker(char const* name) const { return row(name)->defaultMarker(); }
+    Talo::ModifiedIndicator* marker(char const* name) const { return row(name)->modifiedIndicator(); }
     bool isMarked(char const* name) const { return marker(name) && marker(name)->isVisible(); }
 };
 
@@ -112,8 +115,8 @@ TEST_F(ParameterCommandsTest, NothingThatIsOnlyShownHasADefault) {
         EXPECT_TRUE(action("copyValue")->isEnabled());
         QPointer<QMenu> const menu = contextMenu(row(name));
         ASSERT_TRUE(menu) << name;
-        for (auto const* const command : {"resetValue", "copyValue", "pasteValue"})
-            EXPECT_FALSE(action(command)->isEnabled()) << name << command;
+        for (auto const* const command : {"resetValue", "copyValue", "pasteValue", "setAsDefault"})
+            EXPECT_FALSE(commandOf(menu, command)->isEnabled()) << name << command;
         EXPECT_TRUE(close(menu)) << name;
     }
 }
@@ -146,11 +149,36 @@ TEST_F(ParameterCommandsTest, ARowOffersItsCommandsInAContextMenu) {
     QTest::keyClick(slider("int"), Qt::Key_Right);
     QPointer<QMenu> const menu = contextMenu(row("int")->nameLabel());
     ASSERT_TRUE(menu);
-    EXPECT_THAT(menu->actions(), SizeIs(3));
-    auto const first = menu->actionGeometry(action("resetValue")).center();
+    EXPECT_THAT(menu->actions(), SizeIs(4));
+    auto const first = menu->actionGeometry(commandOf(menu, "resetValue")).center();
     QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, first);
     EXPECT_EQ(held("int"), "20");
     EXPECT_TRUE(waitUntil([&] { return menu.isNull(); }));
+}
+
+TEST_F(ParameterCommandsTest, AKeyActsOnTheRowWithTheFocusAfterTheMenuOfAnotherOneWasDismissed) {
+    QTest::keyClick(slider("int"), Qt::Key_Right);
+    click(choice("Blue"));
+    focus("int");
+    EXPECT_TRUE(close(contextMenu(row("enum")->nameLabel())));
+    focus("int");
+    QTest::keyClick(slider("int"), Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(held("int"), "20");
+    EXPECT_EQ(held("enum"), "Blue");
+}
+
+TEST_F(ParameterCommandsTest, SetAsDefaultMovesTheDefaultAndSavesNothing) {
+    QTest::keyClick(slider("int"), Qt::Key_Right);
+    ASSERT_TRUE(isMarked("int"));
+    auto const value = held("int");
+    focus("int");
+    action("setAsDefault")->trigger();
+    EXPECT_FALSE(isMarked("int"));
+    EXPECT_TRUE(waitUntil([this] { return window->isWindowModified(); }));
+    QTest::keyClick(slider("int"), Qt::Key_Right);
+    EXPECT_TRUE(isMarked("int"));
+    action("resetValue")->trigger();
+    EXPECT_EQ(held("int"), value);
 }
 
 TEST_F(ParameterCommandsTest, EveryTypeIsCopiedAndPastedExactly) {

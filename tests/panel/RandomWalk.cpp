@@ -316,7 +316,7 @@ void RandomWalk::write() {
     auto const parameter = oneOf(object->parameters());
     auto const name = window_.network()->nameOf(parameter);
     // The objects themselves write the others.
-    if (!Talo::isEdited(*parameter))
+    if (!parameter->isEdited())
         return;
     auto& texts = texts_[name];
     auto const pool = window_.pools().pool();
@@ -408,7 +408,7 @@ std::vector<std::string> RandomWalk::differences(QJsonObject const& expected, ch
             auto const name = object.key() + QLatin1Char('.') + parameter.key();
             auto const held = now[object.key()][parameter.key()];
             if (writtenByHost_.count(name) > 0 || held == parameter.value() ||
-                !Talo::isEdited(*window_.network()->findParameter(name)))
+                !window_.network()->findParameter(name)->isEdited())
                 continue;
             auto const text = [](QJsonValue const& value) {
                 return QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact).toStdString();
@@ -420,7 +420,7 @@ std::vector<std::string> RandomWalk::differences(QJsonObject const& expected, ch
 }
 
 std::vector<std::string> RandomWalk::goBackAndForth() {
-    auto const& history = Kolt::UndoHistory::theHistory();
+    auto const& history = window_.history();
     auto const end = values();
     // Those that the walk had taken back by itself are not to be made again.
     auto const undoneBefore = history.undoneSteps().size();

@@ -84,7 +84,7 @@ void RandomWalkOfSeed::walk() {
         waitUntil([this] { return disagreements(*window).empty(); }, 2000);
         EXPECT_THAT(disagreements(*window, &rows), IsEmpty());
         compared += rows;
-        auto const steps = Kolt::UndoHistory::theHistory().steps().size();
+        auto const steps = window->history().steps().size();
         if (steps < mostSteps && event != events)
             continue;
         EXPECT_THAT(walk.goBackAndForth(), IsEmpty())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SelectionTest.hpp"
+#include <bramble/MultipleStringSelection.hpp>
 
 #include <QCheckBox>
 #include <QLabel>
@@ -81,7 +82,7 @@ protected:
         return editor;
     }
 
-    /// What was printed but the line that tells of a list filled anew.
+    /// What was printed, without the line about a list filled anew.
     Lines printed() {
         auto lines = takeOutput();
         lines.erase(std::remove(lines.begin(), lines.end(), trace), lines.end());

@@ -6,7 +6,7 @@
 #include <QSlider>
 #include <sorrel/QLeaveLineEdit.hpp>
 
-/// What the tests of the editors of whole and of real numbers share. T is the type of the numbers.
+/// What the tests of the editors of integers and of floating-point numbers share. T is the type of the numbers.
 template <typename T>
 class NumberEditorTest : public PluginTest {
 protected:

@@ -55,11 +55,11 @@ INSTANTIATE_TEST_SUITE_P(
         Reading{"UpperEndPastTheLastRow", "0-99", noRows}, Reading{"LowerEndPastTheLastRow", "99-0", noRows},
         Reading{"JustPastTheLastRow", "3-10", noRows}, Reading{"EmptyLowerSide", "-3", noRows},
         Reading{"EmptyUpperSide", "3-", noRows}, Reading{"BothSidesEmpty", "-", noRows},
-        Reading{"BlankLowerSide", " \t-3", noRows}, Reading{"BlankUpperSide", "3- \v\f\r\n", noRows},
+        Reading{"SpaceLowerSide", " \t-3", noRows}, Reading{"SpaceUpperSide", "3- \v\f\r\n", noRows},
         Reading{"SideWithoutDigitsIsZero", "x-2", {0, 1, 2}}, Reading{"OtherSideWithoutDigitsIsZero", "2-x", {0, 1, 2}},
-        Reading{"NulByteIsNotBlank", std::string("2-\0", 3), {0, 1, 2}},
+        Reading{"NulByteIsNotSpace", std::string("2-\0", 3), {0, 1, 2}},
         Reading{"TheFirstMinusCounts", "1-2-3", {1, 2}}, Reading{"NegativeUpperEnd", "1--2", noRows},
-        Reading{"MinusBeforeTheLowerEnd", "-1-2", noRows}, Reading{"BlanksAroundNumbers", " 1 - 3 ", {1, 2, 3}},
+        Reading{"MinusBeforeTheLowerEnd", "-1-2", noRows}, Reading{"SpacesAroundNumbers", " 1 - 3 ", {1, 2, 3}},
         Reading{"PlusSigns", "+1-+3", {1, 2, 3}}, Reading{"BeatsASuffix", "2nd-4th", {2, 3, 4}},
         Reading{"MinusInsideASuffix", "2-nd", {0, 1, 2}}, Reading{"BeyondThirtyTwoBits", "0-4294967296", noRows},
         Reading{"FarBeyondThirtyTwoBits", "0-99999999999999999999999", noRows},
@@ -74,8 +74,8 @@ INSTANTIATE_TEST_SUITE_P(
         Reading{"ShiftPastTheLastRow", "2nd+20", noRows}, Reading{"ShiftToTheLastRow", "2nd+9", {9}},
         Reading{"ShiftJustPastTheLastRow", "2nd+10", noRows}, Reading{"StepZero", "0th", allRows},
         Reading{"NoStep", "th", allRows}, Reading{"NoStepShifted", "rd+7", {7, 8, 9}},
-        Reading{"BlankStep", "  nd+8", {8, 9}}, Reading{"UnreadableStep", "xst+8", {8, 9}},
-        Reading{"EmptyShift", "2nd+", evenRows}, Reading{"BlankShift", "2nd+ ", evenRows},
+        Reading{"SpaceStep", "  nd+8", {8, 9}}, Reading{"UnreadableStep", "xst+8", {8, 9}},
+        Reading{"EmptyShift", "2nd+", evenRows}, Reading{"SpaceShift", "2nd+ ", evenRows},
         Reading{"UnreadableShift", "2nd+x", evenRows}, Reading{"AnySuffixFitsAnyNumber", "3th", {0, 3, 6, 9}},
         Reading{"AnotherSuffixFitsAnyNumber", "2rd", evenRows}, Reading{"UpperCaseIsNoSuffix", "2ND", {2}},
         Reading{"MixedCaseIsNoSuffix", "2Nd", {2}}, Reading{"TextAroundTheSuffix", " 5 x th yz + 1 x", {1, 6}},
@@ -95,19 +95,19 @@ INSTANTIATE_TEST_SUITE_P(SingleRows, NumberSelectionReading,
                                          Reading{"StopsAtTheFirstOtherCharacter", "3x", {3}},
                                          Reading{"WithoutDigits", "x", {0}}, Reading{"Decimal", "010", noRows},
                                          Reading{"NotHexadecimal", "0x5", {0}},
-                                         Reading{"BlanksBefore", " \t\n\v\f\r4", {4}}, Reading{"PlusSign", "+4", {4}},
-                                         Reading{"PlusSignAlone", "+", {0}}, Reading{"ForeignDigits", "\xD9\xA3", {0}},
+                                         Reading{"SpacesBefore", " \t\n\v\f\r4", {4}}, Reading{"PlusSign", "+4", {4}},
+                                         Reading{"PlusSignAlone", "+", {0}}, Reading{"ArabicDigits", "\xD9\xA3", {0}},
                                          Reading{"SuffixOfOneLetter", "t", {0}},
                                          Reading{"BeyondThirtyTwoBits", "4294967297", noRows}),
                          readingName);
 
 INSTANTIATE_TEST_SUITE_P(Lists, NumberSelectionReading,
-                         testing::Values(Reading{"Empty", "", noRows}, Reading{"Blank", "  ", noRows},
+                         testing::Values(Reading{"Empty", "", noRows}, Reading{"Space", "  ", noRows},
                                          Reading{"CommaAlone", ",", noRows}, Reading{"EmptyTokens", "1,,2,", {1, 2}},
-                                         Reading{"BlankToken", "1, ,2", {1, 2}}, Reading{"LeadingComma", ",1", {1}},
+                                         Reading{"SpaceToken", "1, ,2", {1, 2}}, Reading{"LeadingComma", ",1", {1}},
                                          Reading{"InOrder", "9,0-2,4th", {9, 0, 1, 2, 0, 4, 8}},
                                          Reading{"BadTokensAreSkipped", "3-20,5,99", {5}},
-                                         Reading{"LineBreaksAreBlanks", "1\n,2", {1, 2}},
+                                         Reading{"LineBreaksAreSpaces", "1\n,2", {1, 2}},
                                          Reading{"NulBytesDoNotEndTheText", std::string("1\0,2", 4), {1, 2}}),
                          readingName);
 
@@ -115,7 +115,7 @@ namespace {
 
 class NumberSelectionTest : public TaloTest {};
 
-/// A locale that groups digits and has a blank of its own.
+/// A locale that groups digits and has a space character of its own.
 class GroupingNumbers : public std::numpunct<char> {
 protected:
     char do_thousands_sep() const override { return '_'; }

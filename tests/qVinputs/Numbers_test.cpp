@@ -84,7 +84,7 @@ protected:
             auto const most = anyStep();
             EXPECT_LE(recorder.values.size(), most);
         }
-        // Whoever typed without Return sees what holds once he leaves.
+        // A user who typed without Return sees the current value after leaving the field.
         parameter->notifyValueChange(parameter->ownValue(), firstPool, std::string(), nullptr, nullptr, nullptr);
         for (auto const& editor : editors)
             EXPECT_EQ(editor->findChild<QLineEdit*>()->text(), expectedText());

@@ -2,9 +2,6 @@
 
 #include "support/TestHost.hpp"
 
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
-
 /// A value that holds what it was made with and refuses every store.
 template <typename T>
 class RefusingValue : public Kolt::VValue<T> {

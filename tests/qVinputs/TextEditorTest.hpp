@@ -1,7 +1,6 @@
 #pragma once
 
 #include "support/TestHost.hpp"
-#include <bramble/Values.hpp>
 #include <QVBoxLayout>
 #include <random>
 
@@ -46,7 +45,7 @@ protected:
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
     }
 
-    /// Stores a value in the first pool as the host does, and tells everybody.
+    /// Stores a value in the first pool as the host does, and notifies.
     template <typename T>
     void change(Kolt::ParameterPtr const& parameter, T const& value) {
         change(parameter, value, firstPool);

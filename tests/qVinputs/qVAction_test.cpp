@@ -122,12 +122,12 @@ TEST_F(qVActionTest, APlainValueChangeShowsThePropertiesToo) {
     EXPECT_EQ(editor.widget->toolTip(), "Starts");
 }
 
-TEST_F(qVActionTest, APropertyMapOfSomebodyElseIsNotLookedAt) {
+TEST_F(qVActionTest, ThePropertyMapOfANotificationIsNotRead) {
     auto const parameter = actionParameter();
     auto const editor = open(parameter);
-    Kolt::ValueMap foreign;
-    foreign.setValue("tooltip", Kolt::makeValue(std::string("Foreign")));
-    parameter->notifyValueChange(parameter->ownValue(), firstPool, std::string(), nullptr, nullptr, &foreign);
+    Kolt::ValueMap other;
+    other.setValue("tooltip", Kolt::makeValue(std::string("Other")));
+    parameter->notifyValueChange(parameter->ownValue(), firstPool, std::string(), nullptr, nullptr, &other);
     EXPECT_TRUE(editor.widget->toolTip().isEmpty());
 }
 

@@ -1,6 +1,6 @@
 #include "support/TestHost.hpp"
 
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -302,7 +302,7 @@ TEST_F(qVColorTest, TheInputLivesExactlyAsLongAsTheLabel) {
     ASSERT_TRUE(editor.input.alive());
     EXPECT_EQ(dynamic_cast<QWidget*>(editor.input.strong().get()), nullptr) << "the input is no widget itself";
     EXPECT_EQ(parameter->size(), 1U);
-    // Whoever holds it does not prolong its life.
+    // A reference to it does not prolong its life.
     auto const held = editor.input.strong();
     delete editor.widget;
     EXPECT_FALSE(held);

@@ -1,4 +1,6 @@
 #include "qVinputs/TextEditorTest.hpp"
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 
 #include <QLabel>
 #include <QMetaMethod>
@@ -174,7 +176,7 @@ TEST_F(StatusDisplay, ShowsItsPoolAlone) {
     EXPECT_EQ(label->text(), QStringLiteral("here"));
 }
 
-TEST_F(StatusDisplay, MayBeDeletedByWhoeverIsTold) {
+TEST_F(StatusDisplay, MayBeDeletedByAListener) {
     auto const parameter = makeStatus("idle");
     QPointer<QLabel> const label = show(parameter, "StatusDisplay");
     QSignalSpy spy(label, SIGNAL(myUpdateLabelText(QString)));

@@ -1,4 +1,5 @@
 #include "SelectionTest.hpp"
+#include <bramble/FlagList.hpp>
 
 #include <QCheckBox>
 #include <QFrame>
@@ -92,7 +93,7 @@ TEST_F(FlagListTest, AToggleCommitsTheStateOfAllBoxes) {
     auto const editor = open(parameter);
     record(parameter);
     {
-        // One box changes unnoticed; the next toggle tells of both.
+        // One box changes unnoticed; the next toggle writes both.
         QSignalBlocker const blocker(boxes(editor)[0]);
         boxes(editor)[0]->setChecked(true);
     }

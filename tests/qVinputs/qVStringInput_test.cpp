@@ -1,7 +1,5 @@
-#include "qVinputs/TextEditorTest.hpp"
+#include "qVinputs/SingleLineTextTest.hpp"
 
-#include <array>
-#include <QLineEdit>
 #include <QMetaMethod>
 
 namespace {
@@ -9,19 +7,6 @@ namespace {
 using namespace Kolt;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-class SingleLineText : public TextEditorTest {
-protected:
-    QLineEdit* edit(ParameterRef const& parameter) { return create<QLineEdit>("simplestring", parameter); }
-    static ParameterPtr onEnterOnly(std::string const& text) {
-        auto const parameter = makeText(text);
-        parameter->setCreationPreferences(PreferencesPtr(new VCreationPreferences("UpdateOnEnterOnly")));
-        return parameter;
-    }
-    static void setProperty(ParameterPtr const& parameter, std::string const& name, ValuePtr const& value) {
-        parameter->setProperty(name, value, nullptr, nullptr, nullptr);
-    }
-};
 
 TEST_F(SingleLineText, IsKnownToQtByItsNames) {
     auto const parameter = makeText("");
@@ -259,7 +244,7 @@ TEST_F(SingleLineText, ReportsOnceAnOwnerThatGoesDuringTheCommit) {
     EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
 }
 
-TEST_F(SingleLineText, MayBeDeletedByWhoeverIsTold) {
+TEST_F(SingleLineText, MayBeDeletedByAListener) {
     auto const parameter = makeText("abc");
     watch(parameter);
     QPointer<QLineEdit> const editor = edit(parameter);
@@ -270,7 +255,7 @@ TEST_F(SingleLineText, MayBeDeletedByWhoeverIsTold) {
     EXPECT_GT(parameter->ownValue()->age(), 0U);
 }
 
-TEST_F(SingleLineText, MayBeDeletedLaterWithItsPanelByWhoeverIsTold) {
+TEST_F(SingleLineText, MayBeDeletedLaterWithItsPanelByAListener) {
     auto parameter = makeText("");
     watch(parameter);
     QPointer<QLineEdit> const editor = edit(parameter);
@@ -349,64 +334,6 @@ TEST_F(SingleLineText, CarriesRandomBytesAsFarAsTheyAreUtf8) {
     EXPECT_TRUE(textOf(parameter) == bytes);
     ASSERT_TRUE(QMetaObject::invokeMethod(editor, "newText"));
     EXPECT_TRUE(textOf(parameter) == shown(bytes));
-}
-
-class ArrayOfOneText : public SingleLineText {
-protected:
-    using Array = std::array<std::string, 1>;
-
-    // As networks keep them: declared as an array, with a text as the value.
-    static ParameterPtr makeDeclaredArray(std::string const& text, Values values = Values::Shared) {
-        return ParameterPtr(new VParameter("array", makeValue(text), values, Tessera::Typename(typeid(Array))));
-    }
-};
-
-TEST_F(ArrayOfOneText, IsEditedWhereItsValueIsAText) {
-    auto const parameter = makeDeclaredArray("abc");
-    watch(parameter);
-    auto const editor = makeEditor(parameter, parent, &pools);
-    auto* const field = dynamic_cast<QLineEdit*>(editor.widget.data());
-    EXPECT_EQ(editor.choice.creator.strong()->Name(), "singlelinestring");
-    EXPECT_EQ(field->text(), QStringLiteral("abc"));
-    QTest::keyClicks(field, QStringLiteral("d"));
-    EXPECT_THAT(recorder.values, ElementsAre("abcd"));
-    EXPECT_EQ(textOf(parameter), "abcd");
-    change(parameter, std::string("host"));
-    EXPECT_EQ(field->text(), QStringLiteral("host"));
-}
-
-TEST_F(ArrayOfOneText, IsEditedInItsPoolWhereItsValueIsAText) {
-    auto const parameter = makeDeclaredArray("abc", Values::PerPool);
-    QTest::keyClicks(create<QLineEdit>("singlelinestring", parameter), QStringLiteral("d"));
-    EXPECT_EQ(localTextOf(parameter), "abcd");
-    EXPECT_EQ(textOf(parameter), "abc");
-}
-
-TEST_F(ArrayOfOneText, StartsEmptyAndWritesNothingWhereItHoldsATrueArray) {
-    auto const parameter = makeValueParameter(Array{"kept"});
-    watch(parameter);
-    auto* const editor = create<QLineEdit>("singlelinestring", parameter);
-    EXPECT_EQ(editor->text(), QString());
-    QTest::keyClicks(editor, QStringLiteral("abc"));
-    EXPECT_EQ(editor->text(), QStringLiteral("abc"));
-    EXPECT_EQ(textOf(parameter), "kept");
-    EXPECT_EQ(parameter->ownValue()->age(), 0U);
-    EXPECT_THAT(recorder.values, IsEmpty());
-    change(parameter, Array{"host"});
-    EXPECT_EQ(editor->text(), QStringLiteral("abc"));
-}
-
-TEST_F(ArrayOfOneText, KeepsATrueArrayOfAPoolAsItIs) {
-    auto const parameter = makeValueParameter(Array{"own"}, Values::PerPool);
-    auto* const editor = create<QLineEdit>("singlelinestring", parameter);
-    QTest::keyClicks(editor, QStringLiteral("a"));
-    EXPECT_EQ(localTextOf(parameter), "(none)");
-    change(parameter, Array{"local"});
-    auto const local = parameter->getLocalValue(Kolt::currentPool(&pools), "", false);
-    QTest::keyClicks(editor, QStringLiteral("b"));
-    EXPECT_EQ(parameter->getLocalValue(Kolt::currentPool(&pools), "", false), local);
-    EXPECT_EQ(localTextOf(parameter), "local");
-    EXPECT_EQ(local->age(), 0U);
 }
 
 } // namespace

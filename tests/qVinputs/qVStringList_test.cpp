@@ -1,4 +1,5 @@
 #include "SelectionTest.hpp"
+#include <bramble/StringSelection.hpp>
 
 #include <QComboBox>
 #include <QFrame>

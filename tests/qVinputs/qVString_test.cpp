@@ -158,7 +158,7 @@ TEST_F(MultiLineText, KeepsTheCursorForAnEqualTextFromElsewhere) {
     EXPECT_NE(editor->textCursor().position(), 4);
 }
 
-TEST_F(MultiLineText, ShowsWhatSomebodyElseMakesOfItsCommit) {
+TEST_F(MultiLineText, ShowsWhatAListenerMakesOfItsCommit) {
     auto const parameter = makeText("abc");
     auto* const editor = edit(parameter);
     watch(parameter);
@@ -296,7 +296,7 @@ TEST_F(MultiLineText, StartsEmptyWithoutAnOwnerAndReportsEachCommit) {
     EXPECT_THAT(takeOutput(), ElementsAre(missingOwnerLine));
 }
 
-TEST_F(MultiLineText, MayBeDeletedByWhoeverIsTold) {
+TEST_F(MultiLineText, MayBeDeletedByAListener) {
     auto const parameter = makeText("abc");
     watch(parameter);
     QPointer<QTextEdit> const editor = edit(parameter);
@@ -306,7 +306,7 @@ TEST_F(MultiLineText, MayBeDeletedByWhoeverIsTold) {
     EXPECT_THAT(recorder.values, ElementsAre("abc"));
 }
 
-TEST_F(MultiLineText, MayBeDeletedLaterWithItsPanelByWhoeverIsTold) {
+TEST_F(MultiLineText, MayBeDeletedLaterWithItsPanelByAListener) {
     auto parameter = makeText("");
     watch(parameter);
     QPointer<QTextEdit> const editor = edit(parameter);

@@ -3,6 +3,7 @@
 // members go: the race that must be reported.
 
 #include <atomic>
+#include <bramble/ObjectStatus.hpp>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -48,7 +49,7 @@ std::unique_ptr<qVObjectStatus> show(ParameterPtr const& parameter, OnePool& poo
     return std::make_unique<qVObjectStatus>(parameter, nullptr, &pools, nullptr);
 }
 
-/// As a worker reports: it stores the status, then tells of it.
+/// As a worker reports: it stores the status, then notifies.
 void report(ParameterPtr const& parameter, PoolPtr const& pool, Status const& value, std::string const& text) {
     static_cast<VTypedValueBase<VObjectStatus>&>(*value).set(VObjectStatus(text));
     parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);

@@ -51,7 +51,7 @@ QByteArray fontFile(QString const& family) {
 class TextFonts : public TextEditorTest {
 protected:
     static int resolution() { return qRound(QGuiApplication::primaryScreen()->logicalDotsPerInchY()); }
-    // A family is matched exactly where the default size, 12 points, is a whole number of pixels.
+    // A family is matched exactly where the default size, 12 points, is an integer number of pixels.
     static bool areExact() {
         EXPECT_TRUE(resolution() == 96 || resolution() == 100) << resolution();
         return resolution() == 96;

@@ -1,4 +1,6 @@
 #include "SelectionTest.hpp"
+#include <bramble/Enum.hpp>
+#include <bramble/EnumSelection.hpp>
 
 #include <QGridLayout>
 #include <QGroupBox>

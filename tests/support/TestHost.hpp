@@ -1,8 +1,8 @@
 #pragma once
 
 #include "support/TaloTest.hpp"
+#include "support/TestWarnings.hpp"
 
-#include <lattice/ActionNotifier.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/PluginLoader.hpp>
 #include <lattice/UndoHistory.hpp>
@@ -47,13 +47,6 @@ public:
     int propertyChanges = 0;
     /// What else happens each time.
     std::function<void()> reaction;
-};
-
-/// Hears of the host's warnings.
-class RecordedWarnings : public Kolt::VActionNotifier {
-public:
-    void onWarning(std::string const& text) override { texts.push_back(text); }
-    std::vector<std::string> texts;
 };
 
 /// A small host around the built plug-in file: it is loaded before each test and must let itself be unloaded after it.

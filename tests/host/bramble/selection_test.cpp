@@ -1,5 +1,8 @@
 #include "support/TaloTest.hpp"
-#include <bramble/Selection.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/EnumSelection.hpp>
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/StringSelection.hpp>
 
 namespace {
 
@@ -239,7 +242,48 @@ TEST_F(MultipleSelections, ACloneHasASelectionOfItsOwnThatOutlivesTheFirst) {
     EXPECT_FALSE(VValueTrait<VMultipleStringList>::Equal(nullptr, clone));
 }
 
+TEST_F(MultipleSelections, ACloneSharesTheTextsAndCostsOneBitAText) {
+    Names texts;
+    for (int number = 0; number < 100000; ++number)
+        texts.push_back("a text that is too long to be kept in the object itself " + std::to_string(number));
+    value_ = VMultipleStringList(new MultipleStringSelection(std::move(texts)));
+    value_->add(value_->at(99999));
+    auto const clone = VValueTrait<VMultipleStringList>::Clone(value_);
+    EXPECT_EQ(&clone->strings(), &value_->strings());
+    EXPECT_LT(sizeof(MultipleStringSelection), 200U);
+    EXPECT_TRUE(clone->isInSelection(value_->at(99999)));
+    EXPECT_TRUE(VValueTrait<VMultipleStringList>::Equal(clone, value_));
+}
+
+TEST_F(MultipleSelections, ChoicesAreComparedByTheFirstOfEqualTexts) {
+    auto const one = VValueTrait<VMultipleStringList>::Clone(value_);
+    one->add("b");
+    one->add("a");
+    one->add("c");
+    value_->addAll();
+    EXPECT_TRUE(VValueTrait<VMultipleStringList>::Equal(one, value_)) << "whichever way all were chosen";
+    one->removeFromSelection("a");
+    EXPECT_FALSE(VValueTrait<VMultipleStringList>::Equal(one, value_));
+    value_->addOrRemove("a");
+    EXPECT_TRUE(VValueTrait<VMultipleStringList>::Equal(one, value_));
+    EXPECT_FALSE(one->hasSameChoice(MultipleStringSelection({"b", "a", "c"})));
+}
+
+TEST_F(MultipleSelections, AListThatWasMadeAnewIsComparedByItsTexts) {
+    VMultipleStringList const other(new MultipleStringSelection({"b", "a", "c", "a"}));
+    EXPECT_TRUE(VValueTrait<VMultipleStringList>::Equal(other, value_));
+    other->add("c");
+    EXPECT_FALSE(VValueTrait<VMultipleStringList>::Equal(other, value_));
+}
+
 class SelectionValues : public TaloTest {};
+
+TEST_F(SelectionValues, ShareTheirTextsWithTheirClones) {
+    Enum const enumeration(StrongPtr<StringList>(new VEnumSelection({"a", "b"})));
+    EXPECT_EQ(&VValueTrait<Enum>::Clone(enumeration).names()->strings(), &enumeration.names()->strings());
+    VStringList const single(new StringSelection({"a", "b"}));
+    EXPECT_EQ(&VValueTrait<VStringList>::Clone(single)->strings(), &single->strings());
+}
 
 TEST_F(SelectionValues, CloneDeeplySoThatAPoolsCopyIsApart) {
     auto const enumeration = makeValue(Enum(StrongPtr<StringList>(new VEnumSelection({"a", "b"}))));

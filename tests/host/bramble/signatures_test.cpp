@@ -1,8 +1,15 @@
 #include "host/signature.hpp"
 #include "support/TaloTest.hpp"
 #include <bramble/Action.hpp>
-#include <bramble/Selection.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
+#include <bramble/Enum.hpp>
+#include <bramble/EnumSelection.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/ObjectStatus.hpp>
+#include <bramble/StringSelection.hpp>
+#include <lattice/ValueCreator.hpp>
 #include <type_traits>
 
 namespace {

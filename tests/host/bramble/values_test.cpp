@@ -1,6 +1,9 @@
 #include "support/TaloTest.hpp"
 #include <bramble/Action.hpp>
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <limits>
 
 namespace {

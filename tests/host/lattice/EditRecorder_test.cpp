@@ -1,6 +1,6 @@
 #include "host/lattice/Recorder.hpp"
 #include "support/TaloTest.hpp"
-#include <bramble/Selection.hpp>
+#include <bramble/StringSelection.hpp>
 #include <lattice/EditRecorder.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/UndoHistory.hpp>
@@ -56,7 +56,6 @@ class EditRecorderTest : public TaloTest {
 protected:
     void SetUp() override { history.clear(); }
     void TearDown() override {
-        history.setListener({});
         while (history.isMacroOpen())
             history.endMacro();
         history.clear();
@@ -89,11 +88,13 @@ protected:
         input.activateNotification();
     }
     void editRecorded(int value) {
-        auto const previous = std::stoi(text(parameter));
+        handOverRecord(std::stoi(text(parameter)));
+        input.edit(value, nullptr);
+    }
+    void handOverRecord(int previous) {
         parameter->AddUndoAction(StrongPtr<VUndoAction>(new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(&input),
                                                                         previous, recordsUndone)),
                                  7);
-        input.edit(value, nullptr);
     }
 
     ParameterPtr parameter = makeParameter(1);
@@ -262,8 +263,7 @@ TEST_F(WatchedInt, OfTheRecordsOfAGestureOnlyTheOldestIsRun) {
 
 TEST_F(WatchedInt, AStepWhoseRecordsAreForgottenIsTakenBackByItsChange) {
     editRecorded(2);
-    history.add(StrongPtr<VUndoAction>(new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(&input), 1, recordsUndone)),
-                1);
+    history.add(StrongPtr<VUndoAction>(new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(&input), 1, recordsUndone)));
     history.forget([](VUndoAction const&) { return true; });
     EXPECT_THAT(names(), ElementsAre("p: 1 → 2"));
     EXPECT_TRUE(history.undo());
@@ -289,6 +289,108 @@ TEST_F(WatchedInt, ANewStepForgetsWhatWasTakenBack) {
     EXPECT_EQ(text(parameter), "3");
 }
 
+TEST_F(WatchedInt, NeitherUndoNorRedoRunsInsideARedo) {
+    for (int const value : {2, 3, 4})
+        input.edit(value, nullptr);
+    history.undo();
+    history.undo();
+    std::vector<bool> answers;
+    input.answer = [&] {
+        input.answer = {};
+        answers = {history.undo(), history.redo()};
+    };
+    EXPECT_TRUE(history.redo());
+    EXPECT_THAT(answers, ElementsAre(false, false));
+    EXPECT_EQ(text(parameter), "3");
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 2", "p: 2 → 3"));
+    EXPECT_THAT(history.undoneSteps(), SizeIs(1));
+}
+
+TEST_F(WatchedInt, RedoDoesNotRunInsideAnUndo) {
+    for (int const value : {2, 3})
+        input.edit(value, nullptr);
+    history.undo();
+    bool redone = true;
+    input.answer = [&] {
+        input.answer = {};
+        redone = history.redo();
+    };
+    EXPECT_TRUE(history.undo());
+    EXPECT_FALSE(redone);
+    EXPECT_EQ(text(parameter), "1");
+    EXPECT_THAT(history.undoneSteps(), SizeIs(2));
+}
+
+TEST_F(WatchedInt, AStepRecordedDuringUndoForgetsWhatCouldBeRedone) {
+    for (int const value : {2, 3})
+        input.edit(value, nullptr);
+    history.undo();
+    input.answer = [&] {
+        input.answer = {};
+        handOverRecord(1);
+    };
+    EXPECT_TRUE(history.undo());
+    EXPECT_THAT(names(), ElementsAre("record"));
+    EXPECT_THAT(history.undoneSteps(), IsEmpty());
+    EXPECT_FALSE(history.redo());
+    EXPECT_EQ(text(parameter), "1");
+}
+
+TEST_F(WatchedInt, AStepRecordedDuringRedoForgetsWhatCouldBeRedoneNext) {
+    for (int const value : {2, 3})
+        input.edit(value, nullptr);
+    history.undo();
+    history.undo();
+    input.answer = [&] {
+        input.answer = {};
+        handOverRecord(1);
+    };
+    EXPECT_TRUE(history.redo());
+    EXPECT_EQ(text(parameter), "2");
+    EXPECT_THAT(names(), ElementsAre("record", "p: 1 → 2"));
+    EXPECT_THAT(history.undoneSteps(), IsEmpty());
+    EXPECT_FALSE(history.redo());
+    EXPECT_EQ(text(parameter), "2");
+}
+
+TEST_F(WatchedInt, ARecordWaitsForTheChangeOfItsOwnParameterAlone) {
+    auto const other = makeParameter(10);
+    SmallInput otherInput{other};
+    auto const otherRecorder = EditRecorder::watch(other);
+    handOverRecord(1);
+    otherInput.edit(11, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 10 → 11"));
+    input.edit(2, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 10 → 11", "p: 1 → 2")) << "the record is no longer the latest";
+}
+
+TEST_F(WatchedInt, ARecordOfAClosedStepWaitsForNoChange) {
+    history.beginMacro();
+    handOverRecord(1);
+    history.endMacro();
+    input.edit(2, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 1 → 2"));
+}
+
+TEST_F(WatchedInt, ARecordHandedOverUnwatchedWaitsForNoChange) {
+    recorder.reset();
+    handOverRecord(1);
+    recorder = EditRecorder::watch(parameter);
+    input.edit(2, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 1 → 2"));
+}
+
+TEST_F(WatchedInt, ARecordWaitsForOneChange) {
+    editRecorded(2);
+    input.edit(3, nullptr);
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 2", "p: 2 → 3"));
+    history.clear();
+    handOverRecord(3);
+    handOverRecord(3);
+    input.edit(4, nullptr);
+    EXPECT_THAT(names(), ElementsAre("record", "p: 3 → 4"));
+}
+
 TEST_F(WatchedInt, UndoneStepsAreListedInTheOrderInWhichTheyAreMadeAgain) {
     for (int const value : {2, 3, 4})
         input.edit(value, nullptr);
@@ -307,7 +409,7 @@ TEST_F(WatchedInt, UndoneStepsAreListedInTheOrderInWhichTheyAreMadeAgain) {
 
 TEST_F(WatchedInt, TheListenerMayEndTheParameterWhileItsEditIsTold) {
     WeakPtr<VParameter, ValueNotifierList> const weak(parameter);
-    history.setListener([&] { parameter.reset(); });
+    auto const connection = history.addListener([&] { parameter.reset(); });
     // Nobody else holds the parameter while it tells.
     auto* const raw = parameter.get();
     auto const value = raw->ownValue();
@@ -327,6 +429,51 @@ TEST_F(WatchedInt, ACommandOfTheHostIsAStep) {
     EXPECT_THAT(names(), SizeIs(1));
     EXPECT_TRUE(history.undo());
     EXPECT_EQ(text(parameter), "1");
+}
+
+TEST_F(WatchedInt, EditsAreRecordedInTheHistoryOfTheirParameter) {
+    UndoHistory document;
+    parameter->setHistory(&document);
+    auto const other = makeParameter(10);
+    SmallInput otherInput{other};
+    auto const otherRecorder = EditRecorder::watch(other);
+    editRecorded(2);
+    otherInput.edit(11, nullptr);
+    EXPECT_THAT(names(), ElementsAre("p: 10 → 11"));
+    ASSERT_THAT(document.steps(), SizeIs(1));
+    EXPECT_EQ(document.nextUndo()->description(), "p: 1 → 2");
+    EXPECT_TRUE(document.undo());
+    EXPECT_EQ(text(parameter), "1");
+    EXPECT_EQ(text(other), "11");
+    EXPECT_TRUE(document.redo());
+    EXPECT_EQ(text(parameter), "2");
+}
+
+TEST_F(WatchedInt, WhatAnInputWritesDuringAnotherHistorysUndoIsNoStep) {
+    UndoHistory document;
+    auto const other = makeParameter(10);
+    other->setHistory(&document);
+    SmallInput otherInput{other};
+    auto const otherRecorder = EditRecorder::watch(other);
+    input.edit(2, nullptr);
+    input.answer = [&] { otherInput.edit(11, nullptr); };
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(other), "11");
+    EXPECT_THAT(document.steps(), IsEmpty());
+    otherInput.edit(12, nullptr);
+    ASSERT_THAT(document.steps(), SizeIs(1));
+    EXPECT_EQ(document.nextUndo()->description(), "p: 11 → 12");
+}
+
+TEST_F(WatchedInt, AParameterMayChangeItsHistoryBetweenEdits) {
+    UndoHistory document;
+    input.edit(2, nullptr);
+    parameter->setHistory(&document);
+    input.edit(3, nullptr);
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+    input.edit(5, nullptr);
+    EXPECT_EQ(document.nextUndo()->description(), "p: 1 → 5");
 }
 
 TEST_F(EditRecorderTest, AStepGoesBackInThePoolOfTheEdit) {
@@ -538,7 +685,7 @@ TEST_F(EditRecorderTest, WhateverWasDoneGoesBackToTheStartAndForthAgain) {
             parameters[0]->AddUndoAction(
                 StrongPtr<VUndoAction>(
                     new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(inputs[0].get()), previous, recordsUndone)),
-                upTo(30));
+                20);
             inputs[0]->edit(next, pool);
             break;
         }

@@ -1,7 +1,9 @@
 #include "support/TaloTest.hpp"
+#include <lattice/ActionNotifier.hpp>
+#include <lattice/HostObserver.hpp>
 #include <lattice/Initialization.hpp>
 #include <lattice/Input.hpp>
-#include <lattice/InputCreator.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <lattice/ValueCreator.hpp>
 #include <memory>
 

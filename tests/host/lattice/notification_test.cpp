@@ -278,4 +278,18 @@ TEST_F(Contexts, MayBelongToNoPool) {
     EXPECT_FALSE(context.addendum()->pool());
 }
 
+TEST_F(Notification, ListsForgetTheDeadWithTheNextNewcomer) {
+    struct List : ValueNotifierList {
+        using ValueNotifierList::remembered;
+    };
+    List const list;
+    for (int count = 0; count < 100; ++count)
+        list.addNotifier(Recorder().ref());
+    Recorder brief;
+    list.addNotifier(brief.ref());
+    list.addNotifier(a_.ref());
+    EXPECT_EQ(list.remembered(), 2u);
+    EXPECT_EQ(list.size(), 2u);
+}
+
 } // namespace

@@ -1,5 +1,11 @@
 #include "support/TaloTest.hpp"
+#include <bramble/Action.hpp>
+#include <bramble/Color.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <lattice/Parameter.hpp>
+#include <lattice/ValuePoolSource.hpp>
 
 namespace {
 
@@ -10,6 +16,12 @@ using Kolt::ValuePool;
 using Kolt::VParameter;
 using Kolt::VValueBase;
 using Tessera::StrongPtr;
+
+/// A type that the libraries do not know.
+struct Size {
+    int width = 0;
+    bool operator==(Size const& other) const { return width == other.width; }
+};
 
 int number(StrongPtr<VValueBase> const& value) {
     return valueOr<int>(value, -1);
@@ -167,6 +179,33 @@ TEST_F(Parameters, TheCurrentPoolIsAskedAnewAndNullWhereALinkIsMissing) {
     EXPECT_EQ(currentPool(&source), pool_);
     provider->pool = other_;
     EXPECT_EQ(currentPool(&source), other_);
+}
+
+TEST_F(Parameters, ForgetTheValuesOfDeadPoolsWithTheNextNewOne) {
+    StrongPtr<ValuePool> brief(new ValuePool("brief"));
+    Tessera::WeakPtr<VValueBase> const value(perPool_->getLocalValue(brief, "", true));
+    brief.reset();
+    EXPECT_TRUE(perPool_->getLocalValue(pool_, "", true));
+    EXPECT_FALSE(value.alive());
+}
+
+TEST_F(Parameters, AreEditedByPeopleUnlessTheirValuesAreTriggeredOrOnlyShown) {
+    EXPECT_TRUE(shared_->isEdited());
+    EXPECT_TRUE(VParameter("size", makeValue(Size{3})).isEdited()) << "a type that the libraries do not know";
+    EXPECT_TRUE(VParameter("text", makeValue(std::string()), VParameter::Values::Shared, "Foreign").isEdited());
+    EXPECT_FALSE(VParameter("action", makeValue(StrongPtr<Kolt::VAction>())).isEdited());
+    EXPECT_FALSE(VParameter("info", makeValue(Kolt::info())).isEdited());
+    EXPECT_FALSE(VParameter("status", makeValue(Kolt::VObjectStatus())).isEdited());
+}
+
+TEST_F(Parameters, MaySayThemselvesWhetherTheyAreEdited) {
+    shared_->setEdited(false);
+    EXPECT_FALSE(shared_->isEdited());
+    shared_->setEdited(true);
+    EXPECT_TRUE(shared_->isEdited());
+    VParameter note("note", makeValue(Kolt::info()));
+    note.setEdited(true);
+    EXPECT_TRUE(note.isEdited());
 }
 
 } // namespace

@@ -4,7 +4,8 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <fstream>
-#include <lattice/InputCreator.hpp>
+#include <lattice/HostObserver.hpp>
+#include <lattice/InputRegistry.hpp>
 #include <lattice/PluginLoader.hpp>
 #include <lattice/UndoHistory.hpp>
 
@@ -204,6 +205,24 @@ TEST_F(PluginLoading, TheLoaderClosesWhatItLoadedWhenItGoes) {
     }
     EXPECT_THAT(InputRegistry::theRegistry().entries(), IsEmpty());
     EXPECT_FALSE(isMapped(sample_));
+}
+
+TEST_F(PluginLoading, TheLoaderClosesTheLatestFileFirst) {
+    struct Departures : Kolt::HostObserver {
+        Departures() { setObserver(this); }
+        ~Departures() override { setObserver(nullptr); }
+        void creatorUnregistered(std::string const&, Kolt::VInputCreatorBase const& creator) override {
+            names.push_back(creator.Name());
+        }
+        std::vector<std::string> names;
+    };
+    Departures const departures;
+    {
+        PluginLoader loader(host_);
+        ASSERT_TRUE(loader.load(sample_).ok);
+        ASSERT_TRUE(loader.load(TALO_SECOND_SAMPLE_PLUGIN).ok);
+    }
+    EXPECT_THAT(departures.names, ElementsAre("second_sample_plugin", "sample_plugin"));
 }
 
 TEST_F(PluginLoading, TheLoaderLeavesAFileWhoseEditorsLiveWhenItGoes) {

@@ -1,11 +1,13 @@
 #include "host/signature.hpp"
 #include "support/TaloTest.hpp"
 #include <bramble/Action.hpp>
+#include <lattice/ActionNotifier.hpp>
 #include <lattice/Initialization.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/InputCreator.hpp>
 #include <lattice/Scheduler.hpp>
 #include <lattice/ValueCreator.hpp>
+#include <lattice/ValuePoolSource.hpp>
 #include <type_traits>
 
 namespace {
@@ -20,7 +22,7 @@ using Tessera::ReferenceBase;
 using Tessera::StrongPtr;
 using Tessera::WeakPtr;
 
-using Parameter = StrongPtr<VParameter, ValueNotifierList>;
+using StrongParameter = StrongPtr<VParameter, ValueNotifierList>;
 using WeakParameter = WeakPtr<VParameter, ValueNotifierList>;
 using Preferences = StrongPtr<VCreationPreferences, InterfaceBase>;
 using WeakCreator = WeakPtr<VInputCreatorBase, VManagedObjectBase>;
@@ -116,7 +118,7 @@ struct Step : VUndoAction {
 static_assert(is_constructible_v<Step, std::string const&>);
 static_assert(hasSignature<void (*)(Object const&, double, Pool const&)>(&VScheduler::schedule));
 static_assert(std::is_invocable_r_v<StrongPtr<VSlot>, decltype(&VSlotContainer::findSlot), VSlotContainer const&,
-                                    Parameter const&>);
+                                    StrongParameter const&>);
 static_assert(
     hasSignature<void (*)(std::type_info const&, VManagedObjectIterator&, int, int)>(&VManagedObject::traverse));
 static_assert(is_base_of_v<Intercube, VManagedObject>);

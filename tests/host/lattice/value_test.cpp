@@ -7,6 +7,7 @@
 namespace {
 
 using Kolt::makeValue;
+using Kolt::valueIn;
 using Kolt::valueOr;
 using Kolt::VValue;
 using Kolt::VValueBase;
@@ -135,6 +136,47 @@ TEST_F(Values, AreReadOutOfAnObjectOfTheirTypeOnly) {
     EXPECT_EQ(valueOr<int>(nullptr, -1), -1);
 }
 
+TEST_F(Values, AreAskedForWhatTheyHold) {
+    EXPECT_EQ(valueIn<int>(makeValue(4)), 4);
+    EXPECT_EQ(valueIn<int>(makeValue(4).get()), 4);
+    EXPECT_EQ(valueIn<std::string>(makeValue(std::string("text"))), "text");
+    EXPECT_EQ(valueIn<bool>(makeValue(false)), false) << "a false value is a value";
+    EXPECT_EQ(valueIn<int>(makeValue(4.0)), std::nullopt);
+    EXPECT_EQ(valueIn<int>(Kolt::ValuePtr()), std::nullopt);
+    EXPECT_EQ(valueIn<int>(nullptr), std::nullopt);
+}
+
+/// A text that counts how often it is copied.
+struct CountingText {
+    CountingText() = default;
+    CountingText(CountingText const& other) : text(other.text) { ++copies; }
+    CountingText(CountingText&&) = default;
+    CountingText& operator=(CountingText const& other) {
+        text = other.text;
+        ++copies;
+        return *this;
+    }
+    CountingText& operator=(CountingText&&) = default;
+    ~CountingText() = default;
+    bool operator==(CountingText const& other) const { return text == other.text; }
+    std::string text;
+    static int copies;
+};
+int CountingText::copies = 0;
+
+TEST_F(Values, AreCopiedOnceWhereTheyAreAskedFor) {
+    CountingText text;
+    text.text = "text";
+    auto const value = makeValue(text);
+    CountingText::copies = 0;
+    auto const content = valueIn<CountingText>(value);
+    ASSERT_TRUE(content);
+    EXPECT_EQ(content->text, "text");
+    EXPECT_EQ(CountingText::copies, 1);
+    EXPECT_EQ(valueOr(value, CountingText()).text, "text");
+    EXPECT_EQ(CountingText::copies, 2);
+}
+
 /// A value that is computed elsewhere: sometimes it cannot be had, and it takes only positive numbers.
 struct Computed : Kolt::VTypedValueBase<int> {
     bool get(int& out) const override {
@@ -175,8 +217,11 @@ TEST_F(Values, AreFoundByTheirTypeWhateverKeepsThem) {
     EXPECT_EQ(Kolt::typedValue<double>(kept.get()), nullptr);
     StrongPtr<VValueBase> const computed(new Computed);
     EXPECT_EQ(Kolt::typedValue<int>(computed.get()), computed.get());
+    VValueBase const& constant = *computed;
+    EXPECT_EQ(Kolt::typedValue<int>(&constant), computed.get());
+    EXPECT_EQ(valueIn<int>(computed), 1);
     EXPECT_EQ(Kolt::typedValue<bool>(computed.get()), nullptr);
-    EXPECT_EQ(Kolt::typedValue<int>(nullptr), nullptr);
+    EXPECT_EQ(Kolt::typedValue<int>(static_cast<VValueBase*>(nullptr)), nullptr);
 }
 
 TEST_F(Values, OneThatCannotBeHadHasNoText) {
@@ -190,6 +235,7 @@ TEST_F(Values, OneThatCannotBeHadHasNoText) {
     StrongPtr<VValueBase> const held(new Computed);
     static_cast<Computed&>(*held).available = false;
     EXPECT_EQ(valueOr<int>(held, -1), -1);
+    EXPECT_EQ(valueIn<int>(held), std::nullopt);
 }
 
 TEST_F(Values, RememberTheirContainerAndSourceWeakly) {

@@ -48,6 +48,7 @@ namespace {
 using Kolt::makeEditor;
 using Kolt::makeValue;
 using Kolt::ParameterPtr;
+using Kolt::PoolPtr;
 using Kolt::ValuePool;
 using Kolt::VParameter;
 using Sample::Shape;
@@ -69,6 +70,7 @@ protected:
 
     ShapeCreator creator_;
     TestPools pools_;
+    RecordedWarnings warnings_;
     PoolPtr const first_{new ValuePool("first")};
     PoolPtr const second_{new ValuePool("second")};
     QWidget parent_;
@@ -77,10 +79,13 @@ protected:
 TEST_F(FrontEnd, MakesTheEditorOnItsParentWithTheSource) {
     makeWidgets();
     auto const shape = parameter(VParameter::Values::Shared);
+    pools_.use(first_);
     auto const editor = makeEditor(shape, &parent_, &pools_);
     ASSERT_TRUE(editor.widget);
     EXPECT_EQ(editor.widget->parent(), &parent_);
-    EXPECT_EQ(shown(editor).source, &pools_);
+    EXPECT_EQ(currentPool(shown(editor).source), first_);
+    pools_.use(second_);
+    EXPECT_EQ(currentPool(shown(editor).source), second_);
     EXPECT_EQ(editor.input.strong().get(), static_cast<Kolt::VInputBase*>(&shown(editor)));
     EXPECT_EQ(editor.input.strong()->owner().strong(), shape);
     EXPECT_EQ(editor.choice.creator.strong().get(), &creator_);
@@ -88,9 +93,25 @@ TEST_F(FrontEnd, MakesTheEditorOnItsParentWithTheSource) {
     EXPECT_THAT(shown(editor).corners, IsEmpty()) << "a value that is the same in every pool needs no second look";
 }
 
+TEST_F(FrontEnd, SaysThatAnEditorWithoutAPoolDropsEveryEdit) {
+    makeWidgets();
+    auto const shape = parameter(VParameter::Values::Shared);
+    std::string const found = "\"shape\" {QT} holds all of the wanted {QT}, of 1 creator for Sample::Shape";
+    auto const withoutPool = makeEditor(shape, &parent_, &pools_);
+    EXPECT_TRUE(withoutPool.widget);
+    EXPECT_EQ(withoutPool.choice.explanation, found + ", but it drops every edit as long as its source has no pool");
+    EXPECT_THAT(warnings_.texts, IsEmpty()) << "a pool may be chosen later";
+
+    auto const withoutSource = makeEditor(shape, &parent_, nullptr);
+    EXPECT_TRUE(withoutSource.widget);
+    EXPECT_EQ(withoutSource.choice.explanation, found + ", but without a pool source it drops every edit");
+    EXPECT_THAT(warnings_.texts, ElementsAre("The editor of the parameter \"shape\" has no pool source: it drops every "
+                                             "edit"));
+}
+
 TEST_F(FrontEnd, TheInputGoesWithTheWidget) {
     makeWidgets();
-    auto const editor = makeEditor(parameter(VParameter::Values::Shared), &parent_, nullptr);
+    auto const editor = makeEditor(parameter(VParameter::Values::Shared), &parent_, &pools_);
     delete editor.widget;
     EXPECT_FALSE(editor.widget);
     EXPECT_FALSE(editor.input);

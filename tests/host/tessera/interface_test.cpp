@@ -1,5 +1,6 @@
 #include "support/TaloTest.hpp"
-#include <tessera/Interface.hpp>
+#include <tessera/Intercube.hpp>
+#include <tessera/MutableName.hpp>
 
 namespace {
 

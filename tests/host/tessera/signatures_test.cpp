@@ -2,7 +2,7 @@
 #include "support/TaloTest.hpp"
 #include <tessera/Ageable.hpp>
 #include <tessera/Chunk.hpp>
-#include <tessera/Interface.hpp>
+#include <tessera/Intercube.hpp>
 #include <tessera/Reference.hpp>
 #include <tessera/StringList.hpp>
 #include <type_traits>

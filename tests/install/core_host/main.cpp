@@ -1,4 +1,7 @@
-#include <bramble/Values.hpp>
+#include <bramble/Color.hpp>
+#include <bramble/FlagList.hpp>
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <iostream>
 #include <lattice/Parameter.hpp>
 

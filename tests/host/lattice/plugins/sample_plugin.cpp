@@ -22,7 +22,7 @@ struct RenderQueue : SampleWorkshop {
 };
 
 struct Creator : Kolt::VInputCreator<int, Kolt::VInputCreatorBase> {
-    Creator() : VInputCreator("sample", 0, nullptr, "TALO_API_VERSION") {
+    Creator() : VInputCreator(TALO_SAMPLE_NAME, 0, nullptr, "TALO_API_VERSION") {
         addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new RenderQueue));
     }
 };
@@ -31,6 +31,6 @@ struct Creator : Kolt::VInputCreator<int, Kolt::VInputCreatorBase> {
 
 static Sample::Creator const creator;
 
-extern "C" __attribute__((visibility("default"))) bool TALO_EXPORT(Kolt::VInitialization const* host) {
+extern "C" __attribute__((visibility("default"))) bool TALO_SAMPLE_EXPORT(Kolt::VInitialization const* host) {
     return host->IsCompatible(TALO_KEY);
 }

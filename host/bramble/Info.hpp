@@ -1,0 +1,28 @@
+#pragma once
+
+#include <lattice/Value.hpp>
+#include <tessera/Export.hpp>
+
+namespace Kolt {
+
+/// A text that informs the user: people read it, they do not edit it. UTF-8, empty by default. A plain value; one
+/// thread at a time.
+struct TALO_EXPORT info {
+    std::string text; ///< any number of lines
+    bool operator==(info const& other) const { return text == other.text; }
+};
+
+/// How the information is written: as the text itself.
+template <>
+struct TALO_EXPORT VValueTrait<info> : ValueTraitDefaults<info> {
+    static constexpr bool IsEdited = false;
+    /// The text.
+    static std::string Text(info const& value) { return value.text; }
+    /// Replaces the text; every text is accepted.
+    static bool setValueFromText(info& value, std::string const& text);
+};
+
+extern template class TALO_EXPORT VTypedValueBase<info>;
+extern template class TALO_EXPORT VValue<info>;
+
+} // namespace Kolt

@@ -1,0 +1,130 @@
+#include <bramble/MultipleStringSelection.hpp>
+
+#include <lattice/ValueCreator.hpp>
+#include <sstream>
+
+namespace Kolt {
+
+MultipleStringSelection::MultipleStringSelection() = default;
+
+MultipleStringSelection::MultipleStringSelection(std::vector<std::string> strings)
+    : StringList(std::move(strings)), chosen_(size()) {}
+
+MultipleStringSelection::MultipleStringSelection(MultipleStringSelection const&) = default;
+
+MultipleStringSelection::~MultipleStringSelection() = default;
+
+std::size_t MultipleStringSelection::firstPlace(std::string const& text) const {
+    if (nextPlace_ < size() && strings()[nextPlace_] == text)
+        return block().firstPlace(nextPlace_++);
+    auto const place = find(text);
+    if (place < size())
+        nextPlace_ = place + 1;
+    return place;
+}
+
+void MultipleStringSelection::add(std::string const& text) {
+    auto const place = firstPlace(text);
+    if (place < size())
+        chosen_[place] = true;
+}
+
+void MultipleStringSelection::addOrRemove(std::string const& text) {
+    auto const place = firstPlace(text);
+    if (place < size())
+        chosen_[place] = !chosen_[place];
+}
+
+bool MultipleStringSelection::isInSelection(std::string const& text) const {
+    auto const place = firstPlace(text);
+    return place < size() && chosen_[place];
+}
+
+void MultipleStringSelection::removeFromSelection(std::string const& text) {
+    auto const place = firstPlace(text);
+    if (place < size())
+        chosen_[place] = false;
+}
+
+void MultipleStringSelection::addAll() {
+    chosen_.assign(size(), true);
+}
+
+void MultipleStringSelection::invertAll() {
+    chosen_.flip();
+}
+
+void MultipleStringSelection::removeAll() {
+    chosen_.assign(size(), false);
+}
+
+std::size_t MultipleStringSelection::chosenCount() const {
+    std::size_t count = 0;
+    for (std::size_t place = 0; place < size(); ++place)
+        count += chosen_[place] && block().firstPlace(place) == place ? 1 : 0;
+    return count;
+}
+
+bool MultipleStringSelection::hasSameChoice(MultipleStringSelection const& other) const {
+    if (!hasSameTexts(other))
+        return false;
+    for (std::size_t place = 0; place < size(); ++place) {
+        if (chosen_[place] != other.chosen_[place] && block().firstPlace(place) == place)
+            return false;
+    }
+    return true;
+}
+
+Tessera::StrongPtr<Tessera::StringList> MultipleStringSelection::clone() const {
+    return Tessera::StrongPtr<Tessera::StringList>(new MultipleStringSelection(*this));
+}
+
+std::string VValueTrait<VMultipleStringList>::Text(VMultipleStringList const& value) {
+    std::string text;
+    if (!value)
+        return text;
+    bool first = true;
+    for (auto const& line : *value) {
+        if (!value->isInSelection(line))
+            continue;
+        text += (first ? "" : "\n") + line;
+        first = false;
+    }
+    return text;
+}
+
+bool VValueTrait<VMultipleStringList>::setValueFromText(VMultipleStringList& value, std::string const& text) {
+    if (!value)
+        return false;
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        if (!value->contains(line))
+            return false;
+        lines.push_back(line);
+    }
+    value->removeAll();
+    for (auto const& line : lines)
+        value->add(line);
+    return true;
+}
+
+VMultipleStringList VValueTrait<VMultipleStringList>::Clone(VMultipleStringList const& value) {
+    return Tessera::cloned(value);
+}
+
+bool VValueTrait<VMultipleStringList>::Equal(VMultipleStringList const& left, VMultipleStringList const& right) {
+    return left && right ? left->hasSameChoice(*right) : !left && !right;
+}
+
+template class VTypedValueBase<VMultipleStringList>;
+template class VValue<VMultipleStringList>;
+
+namespace {
+
+// Makes the type known while the library loads.
+[[maybe_unused]] bool const registered = (registerValueCreatorOnce<VMultipleStringList>(), true);
+
+} // namespace
+
+} // namespace Kolt

@@ -1,0 +1,9 @@
+#include <sorrel/QIconizer.hpp>
+
+namespace Kolt {
+
+QIconizer::QIconizer() = default;
+
+QIconizer::~QIconizer() = default;
+
+} // namespace Kolt

@@ -1,0 +1,39 @@
+#include <sorrel/QLeaveLineEdit.hpp>
+
+#include <QApplication>
+#include <QFocusEvent>
+
+namespace Kolt {
+
+QLeaveLineEdit::QLeaveLineEdit(QWidget* parent) : QLineEdit(parent) {}
+
+QLeaveLineEdit::~QLeaveLineEdit() = default;
+
+void QLeaveLineEdit::showText(QString const& text) {
+    remembered_ = text;
+    setText(text);
+}
+
+void QLeaveLineEdit::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    disconnect(focusChanged_);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        leave();
+        return;
+    }
+    // The focus may come back to another widget, which causes no event for this one.
+    focusChanged_ = connect(qApp, &QApplication::focusChanged, this, [this](QWidget const*, QWidget const* now) {
+        if (!now || now->window()->windowType() == Qt::Popup)
+            return;
+        disconnect(focusChanged_);
+        if (now != this)
+            leave();
+    });
+}
+
+void QLeaveLineEdit::leave() {
+    if (text() != remembered_)
+        setText(remembered_);
+}
+
+} // namespace Kolt

@@ -1,0 +1,7 @@
+#include <tessera/InterfaceIterationParameter.hpp>
+
+namespace Tessera {
+
+InterfaceIterationParameter::~InterfaceIterationParameter() = default;
+
+} // namespace Tessera

@@ -1,0 +1,76 @@
+#include <panel/window/Document.hpp>
+
+#include <fractal/objects/ObjectFactory.hpp>
+#include <QFileInfo>
+
+namespace Panel {
+
+namespace {
+
+// How long the mark in the title may lag behind the values, in milliseconds.
+constexpr int modifiedDelay = 100;
+
+} // namespace
+
+Document::Document(QObject* parent) : QObject(parent) {
+    modifiedTimer_.setSingleShot(true);
+    modifiedTimer_.setInterval(modifiedDelay);
+    connect(&modifiedTimer_, &QTimer::timeout, this, &Document::checkModified);
+}
+
+Document::~Document() = default;
+
+QString Document::open(QString const& file) {
+    auto loaded = Talo::Network::load(file, Fractal::makeObject);
+    if (!loaded.network)
+        return loaded.error;
+    setNetwork(std::move(loaded.network));
+    emit Document::loaded(file);
+    return {};
+}
+
+void Document::setNetwork(std::unique_ptr<Talo::Network> network) {
+    if (!network)
+        return;
+    if (network_)
+        emit aboutToClose();
+    // The old one is deleted after its users have let go of it.
+    auto const old = std::exchange(network_, std::move(network));
+    for (auto const& object : network_->objects())
+        for (auto const& parameter : object->parameters())
+            parameter->setHistory(&history_);
+    emit opened(network_.get());
+    checkModified();
+}
+
+QString Document::save(QString const& file) {
+    QString reason;
+    if (!network_)
+        return tr("No network is open.");
+    if (!network_->saveAs(file, &reason))
+        return reason;
+    checkModified();
+    emit saved(file);
+    return {};
+}
+
+void Document::checkModifiedLater() {
+    if (!modifiedTimer_.isActive())
+        modifiedTimer_.start();
+}
+
+void Document::checkModified() {
+    emit modifiedChanged(isModified());
+}
+
+QString Document::title() const {
+    if (!network_)
+        return {};
+    return network_->title().isEmpty() ? QFileInfo(network_->file()).fileName() : network_->title();
+}
+
+Talo::ParameterNaming Document::naming() const {
+    return [this](Kolt::ParameterPtr const& parameter) { return network_ ? network_->nameOf(parameter) : QString(); };
+}
+
+} // namespace Panel

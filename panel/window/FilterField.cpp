@@ -1,0 +1,33 @@
+#include <panel/window/FilterField.hpp>
+
+#include <QKeyEvent>
+
+namespace Panel {
+
+FilterField::FilterField(QWidget* parent) : QLineEdit(parent), findAction_(new QAction(tr("&Find a parameter"), this)) {
+    setObjectName(QStringLiteral("filter"));
+    setPlaceholderText(tr("Filter by name, object or value"));
+    setAccessibleName(tr("Filter"));
+    setToolTip(tr("Shows the parameters whose name, object or value has all of these words"));
+    setClearButtonEnabled(true);
+    // Wide enough for the placeholder text, beside the button.
+    setMaximumWidth(fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height());
+    findAction_->setObjectName(QStringLiteral("find"));
+    findAction_->setShortcut(QKeySequence::Find);
+    connect(findAction_, &QAction::triggered, this, [this] {
+        setFocus(Qt::ShortcutFocusReason);
+        selectAll();
+    });
+}
+
+FilterField::~FilterField() = default;
+
+void FilterField::keyPressEvent(QKeyEvent* event) {
+    // No shortcut: Escape as a shortcut cancels the computing that goes on.
+    if (event->key() == Qt::Key_Escape)
+        clear();
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+} // namespace Panel

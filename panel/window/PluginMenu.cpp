@@ -1,0 +1,55 @@
+#include <panel/window/PluginMenu.hpp>
+
+#include <lattice/InputRegistry.hpp>
+#include <QFileDialog>
+
+namespace Panel {
+
+PluginMenu::PluginMenu(Plugins& plugins, QWidget& window)
+    : QMenu(tr("&Plug-ins"), &window),
+      plugins_(plugins),
+      statusLabel_(new QLabel),
+      loadAction_(addAction(tr("&Load..."), this, &PluginMenu::askForPlugin)),
+      unloadAction_(addAction(tr("&Unload"), this, &PluginMenu::unload)),
+      reloadAction_(addAction(tr("&Reload"), this, &PluginMenu::reload)) {
+    loadAction_->setObjectName(QStringLiteral("load"));
+    unloadAction_->setObjectName(QStringLiteral("unload"));
+    reloadAction_->setObjectName(QStringLiteral("reload"));
+    update();
+}
+
+PluginMenu::~PluginMenu() = default;
+
+void PluginMenu::update() {
+    auto const creators = Kolt::InputRegistry::theRegistry().entries().size();
+    auto const loaded = plugins_.loadedFiles().size();
+    unloadAction_->setEnabled(loaded > 0);
+    reloadAction_->setEnabled(!plugins_.knownFiles().isEmpty());
+    statusLabel_->setText(tr("Plug-ins: %1, kinds of editors: %2").arg(loaded).arg(creators));
+}
+
+void PluginMenu::askForPlugin() {
+    auto const file = QFileDialog::getOpenFileName(parentWidget(), tr("Load a plug-in"), QString(),
+                                                   tr("Plug-ins (*.talo);;All files (*)"));
+    QString error;
+    if (!file.isEmpty() && !plugins_.load(file, &error))
+        emit failed(tr("The plug-in cannot be loaded"), error);
+}
+
+void PluginMenu::unload() {
+    QString error;
+    if (plugins_.unload(&error))
+        emit reported(tr("The plug-ins were unloaded."));
+    else
+        emit failed(tr("The plug-ins cannot be unloaded"), error);
+}
+
+void PluginMenu::reload() {
+    QString error;
+    if (plugins_.reload(&error))
+        emit reported(tr("The plug-ins were loaded again."));
+    else
+        emit failed(tr("The plug-ins cannot be loaded again"), error);
+}
+
+} // namespace Panel

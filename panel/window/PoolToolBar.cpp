@@ -1,0 +1,47 @@
+#include <panel/window/PoolToolBar.hpp>
+
+#include <QLabel>
+#include <QSignalBlocker>
+
+namespace Panel {
+
+PoolToolBar::PoolToolBar(QWidget* parent)
+    : QToolBar(tr("Pool and filter"), parent), selector_(new QComboBox), filterField_(new FilterField) {
+    setObjectName(QStringLiteral("pool"));
+    setMovable(false);
+    auto* const label = new QLabel(tr("P&ool:"));
+    label->setContentsMargins(8, 0, 6, 0);
+    label->setBuddy(selector_);
+    addWidget(label);
+    addWidget(selector_);
+    selector_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    selector_->setMinimumContentsLength(12);
+    selector_->setAccessibleName(tr("Pool"));
+    selector_->setToolTip(tr("The pool whose values are edited"));
+    auto* const gap = new QWidget;
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    addWidget(gap);
+    addWidget(filterField_);
+    connect(selector_, qOverload<int>(&QComboBox::currentIndexChanged), this, [this](int index) {
+        if (index >= 0)
+            emit poolChosen(index);
+    });
+}
+
+PoolToolBar::~PoolToolBar() = default;
+
+void PoolToolBar::showPools(Talo::Network const& network) {
+    QSignalBlocker const blocker(selector_);
+    selector_->clear();
+    for (auto const& pool : network.pools())
+        selector_->addItem(QString::fromStdString(pool->Name()));
+}
+
+bool PoolToolBar::choosePool(QString const& name) {
+    int const index = selector_->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index >= 0)
+        selector_->setCurrentIndex(index);
+    return index >= 0;
+}
+
+} // namespace Panel

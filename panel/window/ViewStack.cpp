@@ -1,0 +1,122 @@
+#include <panel/window/ViewStack.hpp>
+
+#include <panel/look/Look.hpp>
+#include <QDockWidget>
+
+namespace Panel {
+
+namespace {
+
+constexpr int keptViews = 8;
+
+} // namespace
+
+ViewStack::ViewStack(Kolt::ValuePoolSource& pools, QMainWindow& window) : pools_(pools), window_(window) {}
+
+ViewStack::~ViewStack() = default;
+
+ObjectView* ViewStack::currentView() const {
+    return static_cast<ObjectView*>(currentWidget());
+}
+
+std::vector<ObjectView*> ViewStack::views() const {
+    auto const found = window_.findChildren<ObjectView*>();
+    return {found.begin(), found.end()};
+}
+
+void ViewStack::showObject(Kolt::ObjectPtr const& object, QString const& kind) {
+    for (int index = 0; index < count(); ++index) {
+        auto* const known = widget(index);
+        if (static_cast<ObjectView*>(known)->object() != object)
+            continue;
+        // The last of the stack is the one that was shown last.
+        removeWidget(known);
+        addWidget(known);
+        setCurrentWidget(known);
+        return;
+    }
+    auto* const view = makeView(object, kind, this);
+    addWidget(view);
+    setCurrentWidget(view);
+    while (count() > keptViews) {
+        auto* const oldest = widget(0);
+        removeWidget(oldest);
+        oldest->deleteLater();
+    }
+}
+
+ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& kind, QWidget* parent) {
+    auto* const view = new ObjectView(object, kind, pools_, parent);
+    auto* const panel = view->panel();
+    panel->setRawValuesShown(rawValuesShown_);
+    panel->setFilter(filter_);
+    connect(panel, &Talo::ParameterPanel::editorOpened, this, &ViewStack::editorOpened);
+    connect(panel, &Talo::ParameterPanel::refused, this, &ViewStack::refused);
+    connect(panel, &Talo::ParameterPanel::defaultChanged, this, &ViewStack::showDefaults);
+    return view;
+}
+
+ObjectView* ViewStack::addView() {
+    auto* const current = currentView();
+    auto const object = current ? current->object() : nullptr;
+    if (!object)
+        return nullptr;
+    auto* const dock = new QDockWidget(QString::fromStdString(object->Name()), &window_);
+    dock->setAttribute(Qt::WA_DeleteOnClose);
+    auto* const view = makeView(object, current->kind(), dock);
+    dock->setWidget(view);
+    int const half = width() / 2;
+    window_.addDockWidget(trailingDockArea(layoutDirection()), dock);
+    window_.resizeDocks({dock}, {half}, Qt::Horizontal);
+    return view;
+}
+
+void ViewStack::closeViews() {
+    for (auto* const view : views()) {
+        auto* const dock = qobject_cast<QDockWidget*>(view->parentWidget());
+        QWidget* const closed = dock ? dock : static_cast<QWidget*>(view);
+        closed->hide();
+        if (!dock)
+            removeWidget(view);
+        closed->deleteLater();
+    }
+}
+
+void ViewStack::deleteViews() {
+    for (auto* const view : views())
+        delete view;
+}
+
+void ViewStack::setFilter(QString const& words) {
+    filter_ = words;
+    for (auto* const view : views())
+        view->panel()->setFilter(words);
+}
+
+void ViewStack::setRawValuesShown(bool shown) {
+    rawValuesShown_ = shown;
+    for (auto* const view : views())
+        view->panel()->setRawValuesShown(shown);
+}
+
+void ViewStack::showPool() {
+    for (auto* const view : views())
+        view->panel()->showPool();
+}
+
+void ViewStack::showDefaults() {
+    for (auto* const view : views())
+        view->panel()->showDefaults();
+}
+
+void ViewStack::closeEditors() {
+    for (auto* const view : views())
+        view->panel()->closeEditors();
+}
+
+void ViewStack::openEditors() {
+    for (auto* const view : views())
+        view->panel()->openEditors();
+}
+
+} // namespace Panel

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <panel/window/ObjectView.hpp>
+#include <QMainWindow>
+#include <QStackedWidget>
+#include <vector>
+
+namespace Panel {
+
+/// The views of objects in a window: one is shown in the middle, and the ones shown last are kept; additional views are
+/// docks. User-interface thread.
+class ViewStack : public QStackedWidget {
+    Q_OBJECT
+
+public:
+    /// `pools` must outlive the views; `window` takes the docks.
+    ViewStack(Kolt::ValuePoolSource& pools, QMainWindow& window);
+    ~ViewStack() override;
+
+    /// The view in the middle; null for none.
+    ObjectView* currentView() const;
+    /// All views, those in docks included.
+    std::vector<ObjectView*> views() const;
+
+    /// Shows an object in the middle. `kind` says what the object is for.
+    void showObject(Kolt::ObjectPtr const& object, QString const& kind);
+    /// Shows the current object once more, in a dock of its own. Null if there is none.
+    ObjectView* addView();
+    /// Closes all views, docks included. They are deleted as soon as control returns to the event loop.
+    void closeViews();
+    /// Deletes all views at once, before what they show is deleted.
+    void deleteViews();
+
+    void setFilter(QString const& words);
+    void setRawValuesShown(bool shown);
+    bool rawValuesShown() const { return rawValuesShown_; }
+    void showPool();
+    void showDefaults();
+    void closeEditors();
+    void openEditors();
+
+signals:
+    void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor);
+    /// A command did nothing, for this reason: a sentence.
+    void refused(QString const& reason);
+
+private:
+    ObjectView* makeView(Kolt::ObjectPtr const& object, QString const& kind, QWidget* parent);
+
+    Kolt::ValuePoolSource& pools_;
+    QMainWindow& window_;
+    QString filter_;
+    bool rawValuesShown_ = false;
+};
+
+} // namespace Panel

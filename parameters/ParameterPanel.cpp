@@ -1,0 +1,235 @@
+#include <parameters/ParameterPanel.hpp>
+
+#include <lattice/UndoHistory.hpp>
+#include <parameters/commands/ParameterCommands.hpp>
+#include <parameters/commands/ParameterFilter.hpp>
+#include <parameters/commands/RowCommands.hpp>
+#include <parameters/commands/UndoActions.hpp>
+#include <parameters/input/InputFilter.hpp>
+#include <parameters/input/PendingEdit.hpp>
+#include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/RowArea.hpp>
+#include <QApplication>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace Talo {
+
+namespace {
+
+// A deleted parameter is not signalled, so a visible panel looks for it. In milliseconds.
+constexpr int checkInterval = 250;
+
+QString nameOf(Kolt::ObjectPtr const& object) {
+    return object ? QString::fromStdString(object->Name()) : QString();
+}
+
+} // namespace
+
+class ParameterPanel::Private {
+public:
+    Private(ParameterPanel& panel, Kolt::ObjectPtr const& shown, Kolt::ValuePoolSource& poolSource)
+        : object(shown),
+          pools(poolSource),
+          rows(new RowArea(nameOf(shown), shown ? shown->parameters() : std::vector<Kolt::ParameterPtr>(), poolSource)),
+          emptyNote(new MutedLabel(tr("No parameter of this object is found by the filter."), &panel)) {
+        auto* const layout = new QVBoxLayout(&panel);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(0);
+        layout->addWidget(rows, 1);
+        layout->addWidget(emptyNote, 1, Qt::AlignTop);
+        emptyNote->setObjectName(QStringLiteral("emptyNote"));
+        emptyNote->setMargin(12);
+        emptyNote->setWordWrap(true);
+        emptyNote->hide();
+        checkTimer.setInterval(checkInterval);
+        QObject::connect(&checkTimer, &QTimer::timeout, rows, &RowArea::checkParameters);
+    }
+
+    void applyFilter() {
+        auto const living = object.strong();
+        ParameterFilter const words(filter);
+        if (!living || words.isEmpty())
+            rows->setFilter({});
+        else
+            rows->setFilter(
+                [&](auto const& parameter) { return words.finds(*living, parameter, Kolt::currentPool(&pools)); });
+        bool const foundNone = !words.isEmpty() && rows->shownCount() == 0;
+        rows->setVisible(!foundNone);
+        emptyNote->setVisible(foundNone);
+    }
+
+    Kolt::UndoHistory& history() const {
+        auto const living = object.strong();
+        bool const hasParameter = living && !living->parameters().empty();
+        return hasParameter ? living->parameters().front()->history() : Kolt::UndoHistory::theHistory();
+    }
+
+    void resetAll() const {
+        filterOfInput->gestures().end();
+        auto const living = object.strong();
+        if (!living)
+            return;
+        Kolt::UndoHistory::Macro const macro(history());
+        // A copy: a notifier may change the object.
+        auto const parameters = living->parameters();
+        for (auto const& parameter : parameters)
+            if (parameter->defaults())
+                (void)resetToDefault(parameter, Kolt::currentPool(&pools));
+    }
+
+    UndoActions& undoActionsOf(ParameterPanel& panel) {
+        if (!undoActions) {
+            undoActions = new UndoActions(history(), &panel);
+            undoActions->setNaming(naming);
+            connect(undoActions, &UndoActions::refused, &panel, &ParameterPanel::refused);
+            addActions(panel, {undoActions->undoAction(), undoActions->redoAction()});
+        }
+        return *undoActions;
+    }
+    ParameterCommands& commandsOf(ParameterPanel& panel) {
+        if (!commands) {
+            commands = new ParameterCommands(&panel, &panel);
+            addActions(panel, commands->actions());
+        }
+        return *commands;
+    }
+    QAction* resetAllActionOf(ParameterPanel& panel) {
+        if (!resetAllAction) {
+            resetAllAction = new QAction(tr("Reset &all to default"), &panel);
+            resetAllAction->setObjectName(QStringLiteral("resetAll"));
+            connect(resetAllAction, &QAction::triggered, &panel, [this] { resetAll(); });
+        }
+        return resetAllAction;
+    }
+    static void addActions(ParameterPanel& panel, QList<QAction*> const& actions) {
+        for (auto* const action : actions)
+            action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        panel.addActions(actions);
+    }
+
+    Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase> const object;
+    Kolt::ValuePoolSource& pools;
+    std::shared_ptr<InputFilter> const filterOfInput = InputFilter::shared();
+    RowArea* const rows;
+    MutedLabel* const emptyNote;
+    QTimer checkTimer;
+    QString filter;
+    bool rawValuesShown = false;
+    ParameterNaming naming;
+    // Made for the first who asks for an action: a window with several panels has actions of its own.
+    UndoActions* undoActions = nullptr;
+    ParameterCommands* commands = nullptr;
+    QAction* resetAllAction = nullptr;
+};
+
+ParameterPanel::ParameterPanel(Kolt::ObjectPtr const& object, Kolt::ValuePoolSource& pools, QWidget* parent)
+    : QWidget(parent), d_(std::make_unique<Private>(*this, object, pools)) {
+    if (!object)
+        qWarning("ParameterPanel: there is no object to show.");
+    connect(d_->rows, &RowArea::editorOpened, this, &ParameterPanel::editorOpened);
+    connect(d_->rows, &RowArea::refused, this, &ParameterPanel::refused);
+    connect(d_->rows, &RowArea::defaultChanged, this, &ParameterPanel::defaultChanged);
+}
+
+ParameterPanel::~ParameterPanel() {
+    // While the pool source is still used by nobody else's destructor: editors may write as they are deleted.
+    delete d_->rows;
+}
+
+Kolt::ObjectPtr ParameterPanel::object() const {
+    return d_->object.strong();
+}
+
+QString ParameterPanel::filter() const {
+    return d_->filter;
+}
+
+void ParameterPanel::setFilter(QString const& words) {
+    bool const isNew = std::exchange(d_->filter, words) != words;
+    d_->applyFilter();
+    if (isNew)
+        emit filterChanged(words);
+}
+
+bool ParameterPanel::rawValuesShown() const {
+    return d_->rawValuesShown;
+}
+
+void ParameterPanel::setRawValuesShown(bool shown) {
+    if (std::exchange(d_->rawValuesShown, shown) == shown)
+        return;
+    d_->rows->setRawValuesShown(shown);
+    emit rawValuesShownChanged(shown);
+}
+
+QAction* ParameterPanel::action(Command command) {
+    switch (command) {
+    case Command::Undo:
+        return d_->undoActionsOf(*this).undoAction();
+    case Command::Redo:
+        return d_->undoActionsOf(*this).redoAction();
+    case Command::Reset:
+        return d_->commandsOf(*this).action("resetValue");
+    case Command::ResetAll:
+        return d_->resetAllActionOf(*this);
+    case Command::Copy:
+        return d_->commandsOf(*this).action("copyValue");
+    case Command::Paste:
+        return d_->commandsOf(*this).action("pasteValue");
+    case Command::SetAsDefault:
+        return d_->commandsOf(*this).action("setAsDefault");
+    }
+    return nullptr;
+}
+
+void ParameterPanel::setNaming(ParameterNaming naming) {
+    d_->naming = std::move(naming);
+    if (d_->undoActions)
+        d_->undoActions->setNaming(d_->naming);
+}
+
+void ParameterPanel::commitPendingEdit() {
+    Talo::commitPendingEdit(*window());
+}
+
+void ParameterPanel::closeEditors() {
+    d_->rows->closeEditors();
+}
+
+void ParameterPanel::openEditors() {
+    d_->rows->openEditors();
+}
+
+void ParameterPanel::showPool() {
+    d_->rows->showPool();
+}
+
+void ParameterPanel::showDefaults() {
+    d_->rows->showDefaults();
+}
+
+void ParameterPanel::focusFirstEditor() {
+    d_->rows->focusFirstControl();
+}
+
+ParameterRow* ParameterPanel::row(QString const& parameterName) const {
+    return d_->rows->row(parameterName);
+}
+
+RowArea* ParameterPanel::rowArea() const {
+    return d_->rows;
+}
+
+void ParameterPanel::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    d_->rows->checkParameters();
+    d_->checkTimer.start();
+}
+
+void ParameterPanel::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    d_->checkTimer.stop();
+}
+
+} // namespace Talo

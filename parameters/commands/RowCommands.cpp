@@ -1,0 +1,80 @@
+#include <parameters/commands/RowCommands.hpp>
+
+#include <lattice/UndoHistory.hpp>
+#include <parameters/commands/ValueClipboard.hpp>
+#include <parameters/input/InputFilter.hpp>
+#include <parameters/rows/ParameterRow.hpp>
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QMenu>
+
+namespace Talo {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(RowCommands)
+};
+
+bool hasDefaults(Kolt::VParameter const& parameter) {
+    return parameter.defaults() != nullptr;
+}
+
+} // namespace
+
+bool RowCommand::isEnabledFor(Kolt::ParameterPtr const& parameter) const {
+    return parameter && parameter->isEdited() && (!isPossible || isPossible(*parameter));
+}
+
+std::vector<RowCommand> rowCommands() {
+    // Text fields keep the keys that they use themselves.
+    return {{"resetValue", Texts::tr("Reset to &default"), QKeySequence(Texts::tr("Ctrl+D")),
+             &ParameterRow::resetToDefault, hasDefaults},
+            {"copyValue", Texts::tr("&Copy value"), QKeySequence(Texts::tr("Ctrl+Shift+C")), &ParameterRow::copyValue,
+             nullptr},
+            {"pasteValue", Texts::tr("&Paste value"), QKeySequence(Texts::tr("Ctrl+Shift+V")),
+             &ParameterRow::pasteValue, nullptr},
+            {"setAsDefault", Texts::tr("&Set as default"), {}, &ParameterRow::setAsDefault, nullptr}};
+}
+
+QMenu* makeRowMenu(ParameterRow& row) {
+    auto* const menu = new QMenu(&row);
+    auto const parameter = row.parameter();
+    for (auto const& command : rowCommands()) {
+        // The key is only shown: the menu must not take it from the actions of a window.
+        auto const key = command.shortcut.toString(QKeySequence::NativeText);
+        auto* const action = menu->addAction(key.isEmpty() ? command.text : command.text + QLatin1Char('\t') + key);
+        action->setObjectName(QLatin1String(command.name));
+        action->setEnabled(command.isEnabledFor(parameter));
+        QObject::connect(action, &QAction::triggered, &row, command.run);
+    }
+    return menu;
+}
+
+bool resetToDefault(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool) {
+    InputFilter::shared()->gestures().end();
+    auto const* const defaults = parameter ? parameter->defaults() : nullptr;
+    return defaults && parameter->history().store(parameter, pool, defaults->in(pool));
+}
+
+void copyValue(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
+    QGuiApplication::clipboard()->setMimeData(ValueClipboard::copy(parameter, pool).release());
+}
+
+QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool) {
+    InputFilter::shared()->gestures().end();
+    auto const* const data = QGuiApplication::clipboard()->mimeData();
+    // Platforms differ in how they report an empty clipboard.
+    if (!data || data->formats().isEmpty())
+        return Texts::tr("The clipboard is empty.");
+    auto const pasted = ValueClipboard::paste(*data, *parameter, pool);
+    if (!pasted.value)
+        return pasted.error;
+    auto const name = QString::fromStdString(parameter->Name());
+    if (!parameter->history().store(parameter, pool, {pasted.value, false}))
+        return Texts::tr("%1 does not take a value in this pool.").arg(name);
+    return {};
+}
+
+} // namespace Talo

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <lattice/Parameter.hpp>
+#include <QKeySequence>
+#include <QString>
+#include <tessera/Export.hpp>
+
+class QMenu;
+
+namespace Talo {
+
+class ParameterRow;
+
+/// A command for the value of one parameter, as menus show it.
+struct TALO_EXPORT RowCommand {
+    char const* name; ///< the object name of its actions: "resetValue"
+    QString text;     ///< with the mark of its key
+    QKeySequence shortcut;
+    void (ParameterRow::*run)();
+    /// Whether the command makes sense for an edited parameter; null: it always does.
+    bool (*isPossible)(Kolt::VParameter const& parameter);
+
+    /// Whether the command can be run for a row's parameter, which may be null.
+    bool isEnabledFor(Kolt::ParameterPtr const& parameter) const;
+};
+
+/// All commands for a value, in the order in which menus show them. In the language of the translations in force.
+TALO_EXPORT std::vector<RowCommand> rowCommands();
+
+/// A context menu for a row with these commands. It belongs to the row.
+TALO_EXPORT QMenu* makeRowMenu(ParameterRow& row);
+
+/// Makes the default effective in a pool, as an undo step of the parameter's history. False if there is no default, or
+/// no place for it.
+[[nodiscard]] TALO_EXPORT bool resetToDefault(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
+
+/// Puts what the parameter holds in the pool on the clipboard (ValueClipboard).
+TALO_EXPORT void copyValue(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool);
+
+/// Makes the value on the clipboard effective in the pool, as an undo step. Returns the reason if it cannot be done, a
+/// sentence, else an empty text.
+[[nodiscard]] TALO_EXPORT QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
+
+} // namespace Talo

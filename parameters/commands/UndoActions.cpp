@@ -1,0 +1,78 @@
+#include <parameters/commands/UndoActions.hpp>
+
+namespace Talo {
+
+namespace {
+
+QString actionText(QString const& name, Kolt::UndoHistory::Step const& step, ParameterNaming const& naming) {
+    if (!step)
+        return name;
+    return UndoActions::tr("%1: %2").arg(name, undoText(*step, naming).replace(QLatin1Char('&'), QLatin1String("&&")));
+}
+
+} // namespace
+
+UndoActions::UndoActions(Kolt::UndoHistory& history, QObject* parent)
+    : QObject(parent),
+      history_(history),
+      filter_(InputFilter::shared()),
+      undoAction_(new QAction(this)),
+      redoAction_(new QAction(this)) {
+    undoAction_->setObjectName(QStringLiteral("undo"));
+    undoAction_->setShortcuts(QKeySequence::Undo);
+    connect(undoAction_, &QAction::triggered, this, &UndoActions::undo);
+    redoAction_->setObjectName(QStringLiteral("redo"));
+    redoAction_->setShortcuts(QKeySequence::Redo);
+    connect(redoAction_, &QAction::triggered, this, &UndoActions::redo);
+    connection_ = history_.addListener([this] {
+        update();
+        emit historyChanged();
+    });
+    update();
+}
+
+UndoActions::~UndoActions() = default;
+
+void UndoActions::setNaming(ParameterNaming naming) {
+    naming_ = std::move(naming);
+    update();
+}
+
+void UndoActions::undo() {
+    filter_->gestures().end();
+    auto const step = history_.nextUndo();
+    if (!step)
+        return;
+    auto const text = undoText(*step, naming_);
+    if (!history_.undo())
+        emit refused(tr("Can no longer be undone: %1").arg(text));
+}
+
+void UndoActions::redo() {
+    filter_->gestures().end();
+    auto const step = history_.nextRedo();
+    if (!step)
+        return;
+    auto const text = undoText(*step, naming_);
+    if (!history_.redo())
+        emit refused(tr("Can no longer be redone: %1").arg(text));
+}
+
+void UndoActions::goToState(int steps) {
+    auto const done = static_cast<int>(history_.steps().size());
+    for (int count = done; count > steps; --count)
+        undo();
+    for (int count = done; count < steps; ++count)
+        redo();
+}
+
+void UndoActions::update() {
+    auto const undoStep = history_.nextUndo();
+    undoAction_->setEnabled(undoStep != nullptr);
+    undoAction_->setText(actionText(tr("&Undo"), undoStep, naming_));
+    auto const redoStep = history_.nextRedo();
+    redoAction_->setEnabled(redoStep != nullptr);
+    redoAction_->setText(actionText(tr("&Redo"), redoStep, naming_));
+}
+
+} // namespace Talo

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <lattice/UndoHistory.hpp>
+#include <memory>
+#include <parameters/commands/UndoText.hpp>
+#include <parameters/input/InputFilter.hpp>
+#include <QAction>
+#include <QObject>
+#include <tessera/Export.hpp>
+
+namespace Talo {
+
+/// Undo and redo of a history as actions with shortcuts. Their texts name the step. User-interface thread.
+class TALO_EXPORT UndoActions : public QObject {
+    Q_OBJECT
+
+public:
+    /// The history must outlive the actions.
+    explicit UndoActions(Kolt::UndoHistory& history, QObject* parent = nullptr);
+    ~UndoActions() override;
+
+    QAction* undoAction() const { return undoAction_; }
+    QAction* redoAction() const { return redoAction_; }
+    /// How the texts name parameters from now on; an empty function: by their own names.
+    void setNaming(ParameterNaming naming);
+
+public slots:
+    void undo();
+    void redo();
+    /// Undoes or redoes until that many steps are done, counted from the start of the history.
+    void goToState(int steps);
+
+signals:
+    /// A step could not be undone or redone: a sentence.
+    void refused(QString const& reason);
+    /// The history changed.
+    void historyChanged();
+
+private:
+    void update();
+
+    Kolt::UndoHistory& history_;
+    std::shared_ptr<InputFilter> const filter_;
+    QAction* const undoAction_;
+    QAction* const redoAction_;
+    ParameterNaming naming_;
+    Kolt::Connection connection_;
+};
+
+} // namespace Talo

@@ -1,0 +1,140 @@
+#include <parameters/rows/EditorCell.hpp>
+
+#include <algorithm>
+#include <parameters/input/KeyboardChoice.hpp>
+#include <parameters/input/KeyboardPress.hpp>
+#include <parameters/input/WheelGuard.hpp>
+#include <parameters/rows/PlaceholderEditor.hpp>
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace Talo {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(EditorCell)
+};
+
+// In characters.
+constexpr int leastEditorWidth = 30;
+
+/// The width beyond which the controls of an editor only move apart.
+int usefulWidth(QLayout const& layout) {
+    if (!qobject_cast<QHBoxLayout const*>(&layout))
+        return layout.maximumSize().width();
+    int width = layout.contentsMargins().left() + layout.contentsMargins().right() +
+                qMax(0, layout.count() - 1) * qMax(0, layout.spacing());
+    for (int index = 0; index < layout.count(); ++index) {
+        auto const* const item = layout.itemAt(index);
+        // An aligned control leaves the rest of its room empty.
+        bool const isAligned = item->alignment() & Qt::AlignHorizontal_Mask;
+        width += isAligned ? item->sizeHint().width() : item->maximumSize().width();
+    }
+    return qMin(width, QLAYOUTSIZE_MAX);
+}
+
+/// A button's caption; empty for other controls.
+QString captionOf(QWidget const& control) {
+    auto const* const button = qobject_cast<QAbstractButton const*>(&control);
+    if (!button)
+        return {};
+    // One ampersand marks the key, two are one.
+    auto caption = button->text();
+    for (int place = 0; (place = caption.indexOf(QLatin1Char('&'), place)) >= 0; ++place)
+        caption.remove(place, 1);
+    return caption;
+}
+
+} // namespace
+
+EditorCell::EditorCell(Kolt::ParameterRef parameter, Kolt::ValuePoolSource& pools)
+    : parameter_(std::move(parameter)), pools_(pools) {}
+
+EditorCell::~EditorCell() = default;
+
+QWidget* EditorCell::open(QWidget* parent) {
+    auto const parameter = parameter_.strong();
+    if (editor_.widget || !parameter)
+        return editor_.widget;
+    editor_ = Kolt::makeEditor(parameter, parent, &pools_);
+    isPlaceholder_ = !editor_.widget;
+    if (isPlaceholder_)
+        editor_.widget = new PlaceholderEditor(*parameter, parent);
+    new WheelGuard(editor_.widget);
+    return editor_.widget;
+}
+
+void EditorCell::close() {
+    if (!editor_.widget)
+        return;
+    editor_.widget->hide();
+    editor_.widget->deleteLater();
+    editor_ = {};
+    isPlaceholder_ = false;
+}
+
+void EditorCell::limitWidth() {
+    auto& editor = *editor_.widget;
+    int const leastWidth = editor.minimumSizeHint().width();
+    auto const* const layout = editor.layout();
+    int const mostWidth = layout ? qMax(leastWidth, usefulWidth(*layout)) : QLAYOUTSIZE_MAX;
+    // Wide enough to move a handle and to read a number.
+    editor.setMinimumWidth(
+        qMin(mostWidth, qMax(leastWidth, leastEditorWidth * editor.parentWidget()->fontMetrics().averageCharWidth())));
+    if (mostWidth < QLAYOUTSIZE_MAX)
+        editor.setMaximumWidth(mostWidth);
+}
+
+std::vector<QWidget*> EditorCell::controls() const {
+    std::vector<QWidget*> controls;
+    auto const all = editor_.widget->findChildren<QWidget*>();
+    std::copy_if(all.begin(), all.end(), std::back_inserter(controls), [this](QWidget const* each) {
+        return each->window() == editor_.widget->window() && each->focusPolicy() != Qt::NoFocus;
+    });
+    return controls;
+}
+
+void EditorCell::showPool() {
+    Kolt::showPoolValue(editor_, parameter_.strong(), &pools_);
+}
+
+void EditorCell::nameControls(QString const& name, bool edited) {
+    auto& editor = *editor_.widget;
+    auto named = controls();
+    auto* const firstControl = named.empty() ? nullptr : named.front();
+    named.push_back(&editor);
+    for (auto* const control : named) {
+        auto const caption = captionOf(*control);
+        if (control->accessibleName().isEmpty())
+            control->setAccessibleName(caption.isEmpty() || caption == name ? name
+                                                                            : Texts::tr("%1: %2").arg(name, caption));
+        // Some buttons react to a mouse press only, some lists commit only on mouse release.
+        if (qobject_cast<QPushButton*>(control))
+            new KeyboardPress(control);
+        else if (auto* const list = qobject_cast<QAbstractItemView*>(control))
+            new KeyboardChoice(list);
+    }
+    if (editor.focusPolicy() != Qt::NoFocus)
+        return;
+    if (firstControl && !editor.focusProxy())
+        editor.setFocusProxy(firstControl);
+    else if (!firstControl && edited)
+        new KeyboardPress(&editor);
+}
+
+void EditorCell::describeControls(QString const& description) {
+    auto described = controls();
+    described.push_back(editor_.widget);
+    for (auto* const control : described) {
+        // A screen reader reads the description in place of the tool tip.
+        auto const& explanation = control->toolTip();
+        control->setAccessibleDescription(explanation.isEmpty() ? description
+                                                                : description + QLatin1Char('\n') + explanation);
+    }
+}
+
+} // namespace Talo

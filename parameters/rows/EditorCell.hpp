@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <QWidget>
+#include <sorrel/InputFrontEnd.hpp>
+#include <tessera/Export.hpp>
+#include <vector>
+
+namespace Talo {
+
+/// Makes one editor for a parameter and adapts it to a form: the wheel changes it only when it has the focus; on demand
+/// its width is limited, and every control gets an accessible name and can be used by keyboard. Where no editor can be
+/// made, a PlaceholderEditor takes its place.
+///
+/// The editor belongs to its parent widget; the cell may be destroyed before it. The parameter is referred to weakly.
+/// User-interface thread.
+class TALO_EXPORT EditorCell {
+public:
+    /// `pools` must outlive the editor.
+    EditorCell(Kolt::ParameterRef parameter, Kolt::ValuePoolSource& pools);
+    ~EditorCell();
+    EditorCell(EditorCell const&) = delete;
+    EditorCell& operator=(EditorCell const&) = delete;
+
+    /// Makes the editor, or its placeholder, as a child of `parent` and returns it, not yet shown. Returns the existing
+    /// one if there is one, and null if the parameter is gone.
+    QWidget* open(QWidget* parent);
+    /// Hides the editor and deletes it as soon as control returns to the event loop.
+    void close();
+
+    /// The editor or its placeholder; null while closed.
+    QWidget* widget() const { return editor_.widget; }
+    bool isPlaceholder() const { return isPlaceholder_; }
+    /// Which creator made the editor and why, or why there is none.
+    Kolt::InputChoice const& choice() const { return editor_.choice; }
+    /// The controls in the editor that take the focus, without those in its dialogs. REQUIRES: an open cell.
+    std::vector<QWidget*> controls() const;
+
+    /// Limits the editor's width to what its controls need and can use. REQUIRES: an open cell.
+    void limitWidth();
+    /// Shows what the pool source's pool holds. Nothing is written.
+    void showPool();
+    /// Names the controls that have no accessible name: `name`, followed by the control's own caption. Makes those
+    /// usable by keyboard that react to the mouse only; `edited` says whether the editor itself is such a control.
+    void nameControls(QString const& name, bool edited);
+    /// Gives every control this accessible description, followed by its tool tip.
+    void describeControls(QString const& description);
+
+private:
+    Kolt::ParameterRef const parameter_;
+    Kolt::ValuePoolSource& pools_;
+    Kolt::Editor editor_;
+    bool isPlaceholder_ = false;
+};
+
+} // namespace Talo

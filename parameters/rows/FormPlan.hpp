@@ -1,0 +1,28 @@
+#pragma once
+
+#include <lattice/Parameter.hpp>
+#include <QString>
+#include <tessera/Export.hpp>
+#include <vector>
+
+namespace Talo {
+
+/// In which order and sections a form shows parameters: in sections by the part of their names before the last dot, in
+/// order of their first parameter. Within a section parameters keep their order.
+struct TALO_EXPORT FormPlan {
+    struct Row {
+        Kolt::ParameterPtr parameter;
+        QString name; ///< the whole name
+        std::size_t section = 0;
+        std::size_t heightClass = 0; ///< equal for parameters whose editors are probably equally high
+    };
+
+    std::vector<QString> sectionTitles;
+    std::vector<Row> rows;
+    /// The longest name as rows show it, without the section.
+    QString longestName;
+
+    explicit FormPlan(std::vector<Kolt::ParameterPtr> const& parameters);
+};
+
+} // namespace Talo

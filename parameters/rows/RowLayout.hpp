@@ -1,0 +1,91 @@
+#pragma once
+
+#include <cstddef>
+#include <tessera/Export.hpp>
+#include <vector>
+
+namespace Talo {
+
+/// Where the rows of a long form are: rows below each other, in sections. Most rows were never made; their height is
+/// estimated from rows of their height class. Knows no widgets. All lengths are in pixels; rows and sections are
+/// numbered from 0, and the rows of one section are consecutive.
+class TALO_EXPORT RowLayout {
+public:
+    /// The room that a section adds around its rows.
+    struct SectionMargins {
+        int top = 0;
+        int bottom = 0;
+    };
+    /// The constant distances of the form.
+    struct Spacing {
+        int top = 0;    ///< above the first section
+        int bottom = 0; ///< below the last one
+        int betweenSections = 0;
+        int betweenRows = 0;
+        int unknownRowHeight = 0; ///< the height of a row of whose class no height is known
+    };
+
+    explicit RowLayout(Spacing const& spacing) : spacing_(spacing) {}
+
+    /// Adds a section at the end and returns its number.
+    std::size_t addSection();
+    /// Adds a row at the end of the last section and returns its number. REQUIRES: a section. Rows of one height class
+    /// share a height estimate.
+    std::size_t addRow(std::size_t heightClass);
+    void setSectionMargins(std::size_t section, SectionMargins const& margins);
+
+    /// The height of a row that exists. It becomes the estimate of its class. Says whether the row's height changed.
+    bool setHeight(std::size_t row, int height);
+    /// From now on the height of the row is estimated.
+    void dropHeight(std::size_t row);
+    /// Forgets the estimates, as after a change of the font.
+    void forgetEstimates();
+    /// A row that is not shown takes no room. Rows are shown at first.
+    void setShown(std::size_t row, bool shown) { rows_[row].shown = shown; }
+
+    /// Computes the places of all rows and sections. To be called after changes, before places are asked for.
+    void arrange();
+
+    std::size_t rowCount() const { return rows_.size(); }
+    std::size_t sectionCount() const { return sections_.size(); }
+    bool isShown(std::size_t row) const { return rows_[row].shown; }
+    std::size_t shownCount() const;
+    std::size_t sectionOf(std::size_t row) const { return rows_[row].section; }
+    /// From the top of the form; of a row that is not shown the place at which it would begin.
+    int top(std::size_t row) const { return rows_[row].top; }
+    int height(std::size_t row) const { return rows_[row].height; }
+    int bottom(std::size_t row) const { return top(row) + height(row); }
+    int sectionTop(std::size_t section) const { return sections_[section].top; }
+    /// 0 for a section without a shown row.
+    int sectionHeight(std::size_t section) const { return sections_[section].height; }
+    int totalHeight() const { return totalHeight_; }
+    /// The first row that ends below `y`; rowCount() if there is none. It may be one that is not shown.
+    std::size_t firstRowBelow(int y) const;
+
+private:
+    struct Row {
+        std::size_t section = 0;
+        std::size_t heightClass = 0;
+        int top = 0;
+        int height = 0;
+        bool measured = false;
+        bool shown = true;
+    };
+    struct Section {
+        SectionMargins margins;
+        std::size_t firstRow = 0;
+        std::size_t rowCount = 0;
+        int top = 0;
+        int height = 0;
+    };
+    void arrange(Section& section);
+
+    Spacing const spacing_;
+    std::vector<Row> rows_;
+    std::vector<Section> sections_;
+    // By class; 0 for one of which no row was measured.
+    std::vector<int> estimates_;
+    int totalHeight_ = 0;
+};
+
+} // namespace Talo

@@ -1,0 +1,153 @@
+#include "support/TaloTest.hpp"
+
+#include <parameters/input/GestureTarget.hpp>
+#include <parameters/input/InputFilter.hpp>
+#include <parameters/input/WheelGuard.hpp>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace {
+
+class Target : public QWidget, public Talo::GestureTarget {
+public:
+    Kolt::UndoHistory& history() const override { return Kolt::UndoHistory::theHistory(); }
+};
+
+/// A target with a button-like area, a text and a spin box, and a text beside it.
+class InputFilterTest : public TaloTest {
+protected:
+    void SetUp() override {
+        TaloTest::SetUp();
+        auto* const rows = new QVBoxLayout(&window);
+        rows->addWidget(target = new Target);
+        rows->addWidget(outside = new QLineEdit);
+        auto* const layout = new QVBoxLayout(target);
+        layout->addWidget(text = new QLineEdit);
+        layout->addWidget(spinBox = new QSpinBox);
+        layout->addWidget(area = new QWidget);
+        area->setFocusPolicy(Qt::StrongFocus);
+        area->setMinimumSize(50, 50);
+        window.show();
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    void TearDown() override {
+        filter.reset();
+        EXPECT_FALSE(isMacroOpen());
+        TaloTest::TearDown();
+    }
+
+    static bool isMacroOpen() { return Kolt::UndoHistory::theHistory().isMacroOpen(); }
+    static bool closes() {
+        return waitUntil([] { return !isMacroOpen(); });
+    }
+
+    std::shared_ptr<Talo::InputFilter> filter = Talo::InputFilter::shared();
+    QWidget window;
+    Target* target = nullptr;
+    QLineEdit* text = nullptr;
+    QSpinBox* spinBox = nullptr;
+    QWidget* area = nullptr;
+    QLineEdit* outside = nullptr;
+};
+
+} // namespace
+
+TEST_F(InputFilterTest, IsOneForAllWhoHoldIt) {
+    auto const* const first = filter.get();
+    EXPECT_EQ(Talo::InputFilter::shared().get(), first);
+    QPointer<QObject> const watched(filter.get());
+    auto* const guard = new Talo::WheelGuard(spinBox);
+    filter.reset();
+    EXPECT_TRUE(watched) << "the guard still needs it";
+    delete guard;
+    EXPECT_FALSE(watched);
+}
+
+TEST_F(InputFilterTest, APressToItsReleaseIsOneGesture) {
+    QTest::mousePress(area, Qt::LeftButton);
+    EXPECT_TRUE(isMacroOpen());
+    QTest::mousePress(area, Qt::RightButton);
+    QTest::mouseRelease(area, Qt::LeftButton);
+    QTest::mouseRelease(area, Qt::RightButton);
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(InputFilterTest, APressBesideTheTargetsIsNone) {
+    QTest::mousePress(outside, Qt::LeftButton);
+    EXPECT_FALSE(isMacroOpen());
+    QTest::mouseRelease(outside, Qt::LeftButton);
+    outside->setFocus();
+    QTest::keyPress(outside, Qt::Key_A);
+    EXPECT_FALSE(isMacroOpen());
+    QTest::keyRelease(outside, Qt::Key_A);
+}
+
+TEST_F(InputFilterTest, AKeyWithItsRepetitionsIsOneGesture) {
+    area->setFocus();
+    QTest::keyPress(area, Qt::Key_Right);
+    EXPECT_TRUE(isMacroOpen());
+    QKeyEvent repeat(QEvent::KeyRelease, Qt::Key_Right, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(area, &repeat);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(isMacroOpen()) << "the release of a repetition ends nothing";
+    QTest::keyRelease(area, Qt::Key_Right);
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(InputFilterTest, AModifierIsNoGesture) {
+    area->setFocus();
+    QTest::keyPress(area, Qt::Key_Shift);
+    EXPECT_FALSE(isMacroOpen());
+    QTest::keyRelease(area, Qt::Key_Shift);
+}
+
+TEST_F(InputFilterTest, ATypedTextIsOneGestureUntilReturn) {
+    text->setFocus();
+    QTest::keyClicks(text, QStringLiteral("ab"));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(isMacroOpen());
+    QTest::keyClick(text, Qt::Key_Return);
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(InputFilterTest, ATypedTextEndsWhenTheFieldIsLeft) {
+    text->setFocus();
+    QTest::keyClicks(text, QStringLiteral("ab"));
+    outside->setFocus();
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(InputFilterTest, ArrowKeysInASpinBoxAreGesturesOfTheirOwn) {
+    spinBox->setFocus();
+    QTest::keyPress(spinBox, Qt::Key_Up);
+    EXPECT_TRUE(isMacroOpen());
+    QTest::keyRelease(spinBox, Qt::Key_Up);
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(InputFilterTest, TheWheelIsOneGestureUntilItRests) {
+    spinBox->setFocus();
+    QPointF const place = spinBox->rect().center();
+    QWheelEvent event(place, spinBox->mapToGlobal(place.toPoint()), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(spinBox, &event);
+    EXPECT_TRUE(isMacroOpen());
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(InputFilterTest, ADeletedTargetEndsItsGesture) {
+    QTest::mousePress(area, Qt::LeftButton);
+    EXPECT_TRUE(isMacroOpen());
+    delete area;
+    EXPECT_FALSE(isMacroOpen());
+}
+
+TEST_F(InputFilterTest, ACommandEndsTheGesture) {
+    QTest::mousePress(area, Qt::LeftButton);
+    filter->gestures().end();
+    EXPECT_FALSE(isMacroOpen());
+    QTest::mouseRelease(area, Qt::LeftButton);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "NumberEditorTest.hpp"
+
+#include <limits>
+
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+
+/// Editors of parameters of the type double.
+class QFloatTest : public NumberEditorTest<double> {
+protected:
+    using ParameterPtr = Kolt::ParameterPtr;
+    using Values = Kolt::VParameter::Values;
+
+    static void press(QSlider* control, Qt::MouseButton button, QPointF const& place) {
+        QMouseEvent event(QEvent::MouseButtonPress, place, button, button, Qt::NoModifier);
+        QApplication::sendEvent(control, &event);
+        QMouseEvent release(QEvent::MouseButtonRelease, place, button, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(control, &release);
+    }
+
+    static ParameterPtr real(double value, std::vector<std::string> const& preferences = {},
+                             Values values = Values::Shared) {
+        return makeParameter("scale", Kolt::makeValue(value), preferences, values);
+    }
+    /// A parameter whose control has the positions 0 to `increment`, which holds for the numbers used here.
+    static ParameterPtr bounded(double value, double minimum, double maximum, double increment,
+                                std::vector<std::string> const& preferences = {}) {
+        auto const parameter = real(value, preferences);
+        setBounds(parameter, minimum, maximum);
+        setProperty(parameter, "increment", Kolt::makeValue(increment));
+        return parameter;
+    }
+    static double held(ParameterPtr const& parameter) { return Kolt::valueOr(parameter->ownValue(), NotANumber); }
+};

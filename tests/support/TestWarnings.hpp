@@ -1,0 +1,12 @@
+#pragma once
+
+#include "support/TaloTest.hpp"
+
+#include <lattice/ActionNotifier.hpp>
+
+/// Hears of the host's warnings.
+class RecordedWarnings : public Kolt::VActionNotifier {
+public:
+    void onWarning(std::string const& text) override { texts.push_back(text); }
+    std::vector<std::string> texts;
+};
