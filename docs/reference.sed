@@ -3,3 +3,4 @@
 /\b(event|eventFilter|[a-z][A-Za-z]*Event|sizeHint|minimumSizeHint|focusNextPrevChild|scrollContentsBy|initStyleOption)\(.*\boverride;/s/.*//
 /\boperator=\(.*;$/s/.*//
 /^ *([A-Z][A-Za-z]*)\(\1 (const ?)?&.*;$/s/.*//
+/^ *friend /s/.*//

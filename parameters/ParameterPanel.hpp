@@ -24,6 +24,7 @@ class TALO_EXPORT ParameterPanel : public QWidget {
     Q_PROPERTY(bool rawValuesShown READ rawValuesShown WRITE setRawValuesShown NOTIFY rawValuesShownChanged)
 
 public:
+    /// What `action` offers.
     enum class Command { Undo, Redo, Reset, ResetAll, Copy, Paste, SetAsDefault };
     Q_ENUM(Command)
 
@@ -38,9 +39,11 @@ public:
     /// The words of the filter: only parameters that contain all of them in "object.parameter" or in their value are
     /// shown. Values count as they are when the filter or the pool is set: a parameter that is being edited stays.
     QString filter() const;
+    /// Replaces the words of the filter; an empty text shows all parameters.
     void setFilter(QString const& words);
     /// Whether the parameters' texts are shown beside the editors.
     bool rawValuesShown() const;
+    /// Shows or hides the parameters' texts.
     void setRawValuesShown(bool shown);
 
     /// A command as an action with its shortcut, for menus and tool bars; it is made when it is first asked for and
@@ -54,6 +57,7 @@ public:
     void commitPendingEdit();
     /// Deletes all editors, before a plug-in is unloaded; openEditors() makes them again.
     void closeEditors();
+    /// Makes the editors that closeEditors() deleted.
     void openEditors();
     /// Shows the current pool's values after another pool was chosen. Scroll position and focus stay.
     void showPool();
@@ -67,7 +71,9 @@ public:
     RowArea* rowArea() const;
 
 signals:
+    /// The filter has other words.
     void filterChanged(QString const& words);
+    /// The parameters' texts were shown or hidden.
     void rawValuesShownChanged(bool shown);
     /// An editor was made for a parameter, when its row was first shown or editors were opened again.
     void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor);

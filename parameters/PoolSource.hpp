@@ -11,6 +11,7 @@ class TALO_EXPORT PoolSource : public Kolt::ValuePoolSource {
 public:
     /// Without a pool at first.
     PoolSource();
+    /// With this pool at first; null for none.
     explicit PoolSource(Kolt::PoolPtr const& pool);
     ~PoolSource() override;
     PoolSource(PoolSource const&) = delete;

@@ -33,6 +33,7 @@ private:
 /// How a reference to an action is written. Two references are equal if they refer to the same action.
 template <>
 struct TALO_EXPORT VValueTrait<Tessera::StrongPtr<VAction>> : ValueTraitDefaults<Tessera::StrongPtr<VAction>> {
+    /// People do not edit values of the type.
     static constexpr bool IsEdited = false;
     /// The action's name; empty for null.
     static std::string Text(Tessera::StrongPtr<VAction> value);

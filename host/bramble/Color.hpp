@@ -7,8 +7,11 @@ namespace Ferro {
 
 /// A colour as four channels, nominally 0 to 1; other numbers are kept as they are. Opaque black by default.
 struct TALO_EXPORT rgba_float_t {
+    /// Red, nominally from 0 to 1.
     float red = 0.0F;
+    /// Green, nominally from 0 to 1.
     float green = 0.0F;
+    /// Blue, nominally from 0 to 1.
     float blue = 0.0F;
     float alpha = 1.0F; ///< 0 is transparent, 1 is opaque
 };

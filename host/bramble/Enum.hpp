@@ -11,6 +11,7 @@ class TALO_EXPORT Enum {
 public:
     /// A value that refers to no list.
     Enum() = default;
+    /// A choice among these names, with none chosen.
     explicit Enum(Tessera::StrongPtr<Tessera::StringList> names) : names_(std::move(names)) {}
 
     /// The list; null for a value that refers to none.

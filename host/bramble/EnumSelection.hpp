@@ -12,6 +12,7 @@ class TALO_EXPORT VEnumSelection : public Tessera::StringList {
 public:
     /// No place is selected at first.
     VEnumSelection();
+    /// These names, in this order.
     explicit VEnumSelection(std::vector<std::string> names);
     ~VEnumSelection() override;
 

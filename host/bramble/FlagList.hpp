@@ -11,10 +11,12 @@ namespace Kolt {
 /// Prints nothing.
 class TALO_EXPORT FlagList {
 public:
+    /// Flags by name.
     using Map = std::map<std::string, bool>;
 
     /// An empty list.
     FlagList();
+    /// These flags; the first of equal names counts.
     FlagList(std::initializer_list<Map::value_type> flags);
     FlagList(FlagList const&);
     FlagList& operator=(FlagList const&);
@@ -30,6 +32,7 @@ public:
     std::size_t size() const { return flags_.size(); }
     /// The names and their switches, in order of the names.
     Map::const_iterator begin() const { return flags_.begin(); }
+    /// Past the last flag.
     Map::const_iterator end() const { return flags_.end(); }
     /// Whether both have the same names with the same switches on.
     bool operator==(FlagList const& other) const { return flags_ == other.flags_; }

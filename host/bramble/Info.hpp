@@ -9,12 +9,14 @@ namespace Kolt {
 /// thread at a time.
 struct TALO_EXPORT info {
     std::string text; ///< any number of lines
+    /// Whether the texts are the same.
     bool operator==(info const& other) const { return text == other.text; }
 };
 
 /// How the information is written: as the text itself.
 template <>
 struct TALO_EXPORT VValueTrait<info> : ValueTraitDefaults<info> {
+    /// People do not edit values of the type.
     static constexpr bool IsEdited = false;
     /// The text.
     static std::string Text(info const& value) { return value.text; }

@@ -15,6 +15,7 @@ class TALO_EXPORT MultipleStringSelection : public Tessera::StringList {
 public:
     /// Nothing is chosen at first.
     MultipleStringSelection();
+    /// A selection among these texts, with none chosen.
     explicit MultipleStringSelection(std::vector<std::string> strings);
     ~MultipleStringSelection() override;
 

@@ -11,6 +11,7 @@ class TALO_EXPORT VObjectStatus {
 public:
     /// An empty message.
     VObjectStatus();
+    /// A status with this text, UTF-8.
     explicit VObjectStatus(std::string text);
     VObjectStatus(VObjectStatus const&);
     VObjectStatus& operator=(VObjectStatus const&);
@@ -28,6 +29,7 @@ private:
 /// How a status is written: as the message itself.
 template <>
 struct TALO_EXPORT VValueTrait<VObjectStatus> : ValueTraitDefaults<VObjectStatus> {
+    /// People do not edit values of the type.
     static constexpr bool IsEdited = false;
     /// The message.
     static std::string Text(VObjectStatus const& value) { return value.text(); }

@@ -19,6 +19,7 @@ public:
     /// Whether the connection holds a subscription, also to something that was destroyed.
     bool isConnected() const { return subscription_ != nullptr; }
 
+    /// Takes over what the other one keeps alive.
     Connection(Connection&&) = default;
     /// Ends the subscription that was held before.
     Connection& operator=(Connection&&) = default;

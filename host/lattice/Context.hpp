@@ -11,6 +11,7 @@ public:
     /// The part of a context that others may keep.
     class TALO_EXPORT Addendum : public Tessera::ReferenceBase<Addendum> {
     public:
+        /// Holds this pool.
         explicit Addendum(PoolPtr const& pool);
         ~Addendum() override;
 

@@ -13,17 +13,21 @@ namespace Kolt {
 /// user-interface thread.
 class TALO_EXPORT VCreationPreferences : public Tessera::Interface<VCreationPreferences> {
 public:
+    /// Names in alphabetical order.
     using Names = std::set<std::string>;
 
     /// The empty set, and sets of one and two names. Write two std::string arguments: braces around two string
     /// literals would select an iterator constructor of std::string.
     VCreationPreferences();
+    /// One name.
     explicit VCreationPreferences(std::string const& name);
+    /// Two names.
     VCreationPreferences(std::string const& first, std::string const& second);
     /// The union of both sets, which are not changed.
     VCreationPreferences(VCreationPreferences const& left, VCreationPreferences const& right);
     /// A copy of a shared set; null gives the empty set.
     explicit VCreationPreferences(Tessera::StrongPtr<VCreationPreferences, Tessera::InterfaceBase> const& shared);
+    /// These names; equal ones count once.
     explicit VCreationPreferences(Names names);
     ~VCreationPreferences() override;
 
@@ -31,6 +35,7 @@ public:
     VCreationPreferences& operator+=(std::string const& name);
     /// Whether the set contains the name; upper and lower case differ.
     bool contains(std::string const& name) const;
+    /// All names.
     Names const& names() const { return names_; }
 
 private:

@@ -33,6 +33,7 @@ public:
         NotificationScope(NotificationScope const&) = delete;
         NotificationScope& operator=(NotificationScope const&) = delete;
 
+        /// Whether the parameter was not deleted meanwhile.
         bool parameterLives() const { return recorder_->parameter_.alive(); }
 
     private:

@@ -19,6 +19,7 @@ public:
 
     /// The creator's own preference set; never null.
     PreferencesPtr const& preferences() const { return preferences_; }
+    /// The interface key with which it was built.
     std::string const& apiKey() const { return apiKey_; }
 
     /// Whether the creator can serve a parameter of its type. True unless a derived class is selective.
@@ -46,6 +47,7 @@ TALO_EXPORT void reportRefusedRegistration(std::type_info const& creatorClass, s
 template <typename T, typename Base>
 class VInputCreator : public Base {
 public:
+    /// Registers with the host for values of type T.
     VInputCreator(std::string const& name, int priority, PreferencesPtr const& prefs, char const* apiKey)
         : Base(name, priority, prefs, apiKey) {
         if (!registerVInput(typeid(T), CreatorRef(this)))

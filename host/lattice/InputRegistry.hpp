@@ -21,10 +21,13 @@ class TALO_EXPORT InputRegistry {
 public:
     /// A registered creator and the type that it was registered for.
     struct Entry {
+        /// The readable name of the type of its values.
         std::string valueType;
+        /// The creator, which is only watched.
         CreatorRef creator;
     };
 
+    /// The registry of the process; never destroyed.
     static InputRegistry& theRegistry();
 
     /// All living creators, in order of registration.

@@ -37,6 +37,7 @@ public:
     VManagedObject(VManagedObject const&) = delete;
     VManagedObject& operator=(VManagedObject const&) = delete;
 
+    /// The priority; its meaning is the domain's.
     int priority() const { return priority_; }
 
     /// Visits each living object of a domain whose priority lies between both bounds, inclusive, in order of
@@ -56,6 +57,7 @@ private:
 template <typename T>
 class VManagedDomainObject : public VManagedObject {
 public:
+    /// The name is UTF-8. The meaning of the priority is the domain's.
     explicit VManagedDomainObject(std::string const& name, int priority = 0)
         : VManagedObject(typeid(T), name, priority) {}
 };

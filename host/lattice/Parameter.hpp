@@ -43,10 +43,12 @@ public:
 
     /// The name, UTF-8. In a name with dots the part after the last one names the parameter, the rest its group.
     std::string Name() const { return name_; }
+    /// The readable name of the type by which editors are chosen.
     std::string const& declaredType() const { return declaredType_; }
 
     /// The value object that the parameter itself holds.
     ValuePtr const& ownValue() const { return ownValue_; }
+    /// Whether pools can have values of their own.
     bool keepsValuesPerPool() const { return values_ == Values::PerPool; }
     /// The value object of a pool. A parameter with one value returns its own object for every pool, null included.
     /// A parameter that keeps values per pool returns the pool's object; if the pool has none, null, or with `create` a
@@ -68,6 +70,7 @@ public:
     /// Whether people edit the parameter, so that its edits are undone, reset, copied and pasted: what setEdited said,
     /// else what the own value says (VValueBase::isEdited).
     bool isEdited() const { return edited_.value_or(ownValue_->isEdited()); }
+    /// Says whether people edit the parameter, whatever its type says.
     void setEdited(bool edited) { edited_ = edited; }
 
     /// Copies the parameter's values, its own and those of its pools, as its defaults.
@@ -99,6 +102,7 @@ public:
 
     /// The preferences with which an editor for this parameter is chosen; null for none. The set is shared, not copied.
     PreferencesPtr const& creationPreferences() const { return preferences_; }
+    /// Replaces the preferences; null for none. Editors that exist stay.
     void setCreationPreferences(PreferencesPtr const& preferences) { preferences_ = preferences; }
 
     /// The history that records edits of this parameter: the one that it is attached to, else

@@ -16,7 +16,9 @@ class TALO_EXPORT PluginLoader {
 public:
     /// The result of an operation. The message is a sentence for people if it failed, and empty otherwise.
     struct [[nodiscard]] Outcome {
+        /// Whether it succeeded.
         bool ok;
+        /// Why it failed, a sentence for people; empty when it succeeded.
         std::string message;
     };
 

@@ -14,6 +14,7 @@ public:
     /// The slot refers to the parameter weakly. The name is UTF-8.
     VSlot(std::string name, ParameterPtr const& parameter);
     ~VSlot() override;
+    /// The name, UTF-8.
     std::string const& Name() const { return name_; }
     /// The bound parameter; null if it was destroyed.
     ParameterPtr parameter() const { return parameter_.strong(); }
@@ -31,6 +32,7 @@ public:
     void addSlot(Tessera::StrongPtr<VSlot> const& slot);
     /// The first slot that is bound to the parameter; null if there is none, and for a null parameter.
     Tessera::StrongPtr<VSlot> findSlot(ParameterPtr const& parameter) const;
+    /// The slots, in the order in which they were added.
     std::vector<Tessera::StrongPtr<VSlot>> const& slotList() const { return slots_; }
 
 private:

@@ -22,8 +22,10 @@ constexpr bool
 template <typename T>
 class ChangeSubscription : public ValueNotifier {
 public:
+    /// Gets the new value and the pool of the change.
     using Function = std::function<void(T const&, PoolPtr const&)>;
 
+    /// Calls this function, which must not be empty.
     explicit ChangeSubscription(Function function) : function_(std::make_shared<Function>(std::move(function))) {}
     ~ChangeSubscription() override { stopNotifications(); }
 
@@ -71,10 +73,12 @@ public:
     Parameter min(U const& value) const {
         return bound("min", value);
     }
+    /// The largest value that editors offer.
     template <typename U>
     Parameter max(U const& value) const {
         return bound("max", value);
     }
+    /// The step of the controls.
     template <typename U>
     Parameter increment(U const& value) const {
         return bound("increment", value);
@@ -135,8 +139,11 @@ public:
 
     /// The parameter itself; never null.
     ParameterPtr const& pointer() const { return parameter_; }
+    /// The parameter itself; never null.
     operator ParameterPtr const&() const { return parameter_; }
+    /// The parameter itself; never null.
     VParameter* operator->() const { return parameter_.get(); }
+    /// The parameter itself.
     VParameter& operator*() const { return *parameter_; }
 
 private:

@@ -14,6 +14,7 @@ public:
     explicit VUndoAction(std::string const& description);
     ~VUndoAction() override;
 
+    /// What it undoes, for people, UTF-8.
     std::string const& description() const { return description_; }
     /// Undoes the edit. Called once at most. False if that is no longer possible, as when the input was destroyed.
     virtual bool undo() = 0;

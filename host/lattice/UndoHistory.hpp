@@ -21,6 +21,7 @@ public:
     /// How many steps are kept. A full history forgets its oldest step with each new one.
     static constexpr std::size_t Capacity = 1000;
 
+    /// A step, which lives as long as somebody refers to it.
     using Step = std::shared_ptr<UndoStep const>;
 
     UndoHistory();
@@ -47,6 +48,7 @@ public:
     void beginMacro();
     /// Closes a macro; ignored where none is open.
     void endMacro();
+    /// Whether a macro is open.
     bool isMacroOpen() const { return macros_ > 0; }
     /// Ends the current step of the open macro; what follows in the macro is another step.
     void closeStep();
@@ -71,6 +73,7 @@ public:
     std::vector<Step> undoneSteps() const;
     /// The step that the next undo() or redo() takes; null for none.
     Step nextUndo() const;
+    /// The step that the next redo() takes; null for none.
     Step nextRedo() const;
 
     /// Forgets the records for which `predicate` is true. A step keeps its changes of values and can still be undone; a
@@ -88,6 +91,7 @@ public:
     /// A macro that is open as long as the object lives. It may outlive the history.
     class TALO_EXPORT Macro {
     public:
+        /// Opens a macro of the history.
         explicit Macro(UndoHistory& history);
         ~Macro();
         Macro(Macro const&) = delete;

@@ -22,9 +22,12 @@ public:
     std::string const& parameterName() const { return parameterName_; }
     /// The pool of the change; null if the parameter has one value for all pools, and if the pool was destroyed.
     PoolPtr pool() const { return pool_.strong(); }
+    /// The value before the change.
     EffectiveValue const& before() const { return before_; }
+    /// The value after the change.
     EffectiveValue const& after() const { return after_; }
 
+    /// Whether it is a change of this parameter.
     bool isOf(ParameterRef const& parameter) const { return parameter_ == parameter; }
     /// Whether both change the same parameter in the same pool.
     bool hasSameTarget(ValueChange const& other) const {
@@ -39,6 +42,7 @@ public:
     bool isPossible() const;
     /// Stores the value before the change, or the one after it (applyValue). False if it cannot be stored.
     bool undo() const;
+    /// Applies the value after the change; false if that is impossible.
     bool redo() const;
     /// Removes the pool's value if the pool had none before the change and nothing else was written since. REQUIRES:
     /// changesNothing().

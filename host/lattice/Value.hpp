@@ -52,6 +52,7 @@ public:
 template <typename T>
 class VValue : public VTypedValueBase<T> {
 public:
+    /// Has this value.
     explicit VValue(T const& value = T()) : value_(value) {}
 
     bool get(T& out) const override {

@@ -9,6 +9,7 @@ namespace Kolt {
 /// User-interface thread. Prints nothing.
 class TALO_EXPORT ValueMap {
 public:
+    /// Values by name.
     using Map = std::map<std::string, ValuePtr>;
 
     /// The value under a name; null if there is none.
@@ -19,6 +20,7 @@ public:
     /// The entries, in order of their names; no value is null. Changing the map invalidates only the iterators to
     /// removed entries.
     Map::const_iterator begin() const { return values_.begin(); }
+    /// Past the last property.
     Map::const_iterator end() const { return values_.end(); }
 
 private:

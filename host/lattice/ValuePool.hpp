@@ -9,6 +9,7 @@ namespace Kolt {
 /// are distinguished by their identity; the name is for people and need not be unique. User-interface thread.
 class TALO_EXPORT ValuePool : public Tessera::ReferenceBase<ValuePool> {
 public:
+    /// A pool with this name, UTF-8.
     explicit ValuePool(std::string name = {});
     ~ValuePool() override;
 

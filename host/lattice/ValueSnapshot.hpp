@@ -34,6 +34,7 @@ struct TALO_EXPORT EffectiveValue {
 /// given the parameter that it was made of. User-interface thread.
 class TALO_EXPORT ValueSnapshot {
 public:
+    /// Copies what the parameter has now.
     explicit ValueSnapshot(VParameter const& parameter);
     ~ValueSnapshot();
 

@@ -26,7 +26,9 @@ struct ValueTraitDefaults {
 /// A type without a specialisation has no text: it is written as the empty text and is never set from one.
 template <typename T>
 struct VValueTrait : ValueTraitDefaults<T> {
+    /// The value as text.
     static std::string Text(T const&) { return {}; }
+    /// Reads a value from text; false, and the value unchanged, if the text is none.
     static bool setValueFromText(T&, std::string const&) { return false; }
 };
 
@@ -39,14 +41,18 @@ constexpr bool IsEditedType<T, std::void_t<decltype(VValueTrait<T>::IsEdited)>> 
 /// Written as "true" and "false"; no other text is read.
 template <>
 struct TALO_EXPORT VValueTrait<bool> : ValueTraitDefaults<bool> {
+    /// The value as text.
     static std::string Text(bool value);
+    /// Reads a value from text; false, and the value unchanged, if the text is none.
     static bool setValueFromText(bool& value, std::string const& text);
 };
 
 /// Written as a decimal number. The whole text is read: no space, no "+", no separators, and in the range of int.
 template <>
 struct TALO_EXPORT VValueTrait<int> : ValueTraitDefaults<int> {
+    /// The value as text.
     static std::string Text(int value);
+    /// Reads a value from text; false, and the value unchanged, if the text is none.
     static bool setValueFromText(int& value, std::string const& text);
 };
 
@@ -54,7 +60,9 @@ struct TALO_EXPORT VValueTrait<int> : ValueTraitDefaults<int> {
 /// read; a number beyond the range of double is refused.
 template <>
 struct TALO_EXPORT VValueTrait<double> : ValueTraitDefaults<double> {
+    /// The value as text.
     static std::string Text(double value);
+    /// Reads a value from text; false, and the value unchanged, if the text is none.
     static bool setValueFromText(double& value, std::string const& text);
     /// Compares the numbers; two that are not a number count as equal.
     static bool Equal(double left, double right);
@@ -63,7 +71,9 @@ struct TALO_EXPORT VValueTrait<double> : ValueTraitDefaults<double> {
 /// Written as the text itself; any bytes are read.
 template <>
 struct TALO_EXPORT VValueTrait<std::string> : ValueTraitDefaults<std::string> {
+    /// The value as text.
     static std::string Text(std::string const& value) { return value; }
+    /// Reads a value from text; false, and the value unchanged, if the text is none.
     static bool setValueFromText(std::string& value, std::string const& text);
     /// The preference name of a one-line text: "OneLine".
     static std::string OneLine();
@@ -74,7 +84,9 @@ struct TALO_EXPORT VValueTrait<std::string> : ValueTraitDefaults<std::string> {
 /// Written as the one element itself; any bytes are read.
 template <>
 struct TALO_EXPORT VValueTrait<std::array<std::string, 1>> : ValueTraitDefaults<std::array<std::string, 1>> {
+    /// The value as text.
     static std::string Text(std::array<std::string, 1> const& value) { return value[0]; }
+    /// Reads a value from text; false, and the value unchanged, if the text is none.
     static bool setValueFromText(std::array<std::string, 1>& value, std::string const& text);
 };
 

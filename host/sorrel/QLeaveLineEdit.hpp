@@ -12,6 +12,7 @@ class TALO_EXPORT QLeaveLineEdit : public QLineEdit {
     Q_OBJECT
 
 public:
+    /// An empty line that remembers the empty text.
     explicit QLeaveLineEdit(QWidget* parent = nullptr);
     ~QLeaveLineEdit() override;
 

@@ -20,6 +20,7 @@ public:
 
     /// The displayed object, which may be destroyed.
     Tessera::WeakPtr<VObject, VManagedObjectBase> const& object() const { return object_; }
+    /// Says which pool the icon shows; may be null.
     Tessera::StrongPtr<ValuePoolProvider> const& provider() const { return provider_; }
     /// The icon as a widget; never null.
     virtual QWidget* widget() = 0;

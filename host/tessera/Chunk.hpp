@@ -29,6 +29,7 @@ public:
     virtual std::size_t size() const = 0;
 
 protected:
+    /// Counts these bytes as used, until it is destroyed.
     explicit ChunkBase(std::size_t bytes);
 
 private:
@@ -40,6 +41,7 @@ private:
 template <typename T>
 class Chunk : public ChunkBase {
 public:
+    /// Elements with the value that their default constructor gives.
     explicit Chunk(std::size_t size) : ChunkBase(size * sizeof(T)), elements_(size) {}
 
     std::type_info const& elementType() const override { return typeid(T); }
@@ -47,6 +49,7 @@ public:
     /// An element, from 0; throws std::out_of_range for an index beyond the size. The reference stays valid as long as
     /// the block.
     T& at(std::size_t index) { return elements_.at(index).value; }
+    /// The element at an index below size().
     T const& at(std::size_t index) const { return elements_.at(index).value; }
 
 private:

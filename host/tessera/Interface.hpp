@@ -26,6 +26,7 @@ public:
 template <typename T>
 class Interface : public InterfaceBase {
 public:
+    /// The type `T`.
     std::type_info const& interfaceType() const override { return typeid(T); }
 };
 

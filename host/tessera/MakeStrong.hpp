@@ -12,7 +12,7 @@ B* counted(ReferenceBase<B> const*);
 
 } // namespace detail
 
-/// The class from which T inherits its reference counters: B where T derives from ReferenceBase<B>.
+/// The class from which T inherits its reference counters: B where T derives from `ReferenceBase<B>`.
 template <typename T>
 using CountedBase = std::remove_pointer_t<decltype(detail::counted(std::declval<T*>()))>;
 

@@ -9,6 +9,7 @@ namespace Tessera {
 /// thread at a time.
 class MutableName {
 public:
+    /// Has this name, UTF-8.
     explicit MutableName(std::string name) : name_(std::move(name)) {}
 
     /// The current name. The reference stays valid until the name is changed or the object is destroyed.

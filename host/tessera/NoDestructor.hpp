@@ -26,7 +26,9 @@ public:
 
     /// The T; never null.
     T* get() noexcept { return std::launder(reinterpret_cast<T*>(storage_)); }
+    /// The object.
     T& operator*() noexcept { return *get(); }
+    /// The object.
     T* operator->() noexcept { return get(); }
 
 private:

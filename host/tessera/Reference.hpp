@@ -92,6 +92,7 @@ public:
 protected:
     ReferenceCounted();
     ReferenceCounted(ReferenceCounted const&);
+    /// Keeps the counts: they belong to the object.
     ReferenceCounted& operator=(ReferenceCounted const&) { return *this; }
     virtual ~ReferenceCounted();
 
@@ -117,9 +118,11 @@ class DynPtr;
 template <typename T, typename B = T>
 class StrongPtr {
 public:
+    /// The type of the object.
     using element_type = T;
 
     StrongPtr() noexcept = default;
+    /// Null.
     StrongPtr(std::nullptr_t) noexcept {}
     /// Adopts `object`; null gives a null reference.
     explicit StrongPtr(T* object) : object_(object) {
@@ -144,10 +147,12 @@ public:
         if (control_)
             control_->releaseStrong();
     }
+    /// Refers to what the other one refers to.
     StrongPtr& operator=(StrongPtr other) noexcept {
         swap(other);
         return *this;
     }
+    /// Exchanges what both refer to.
     void swap(StrongPtr& other) noexcept {
         std::swap(object_, other.object_);
         std::swap(control_, other.control_);
@@ -160,21 +165,26 @@ public:
     T* get() const noexcept { return control_ && control_->alive() ? object_ : nullptr; }
     /// The object itself. REQUIRES: get() is not null.
     T& operator*() const noexcept { return *get(); }
+    /// The object. REQUIRES: it is not null.
     T* operator->() const noexcept { return get(); }
     /// Whether get() is not null.
     explicit operator bool() const noexcept { return get() != nullptr; }
     /// This pointer's serial number; 0 for one that was made null.
     unsigned long id() const noexcept { return id_; }
 
+    /// Whether both refer to the same object.
     template <typename U, typename C>
     bool operator==(StrongPtr<U, C> const& other) const noexcept {
         return get() == other.get();
     }
+    /// Whether it refers to another object.
     template <typename U, typename C>
     bool operator!=(StrongPtr<U, C> const& other) const noexcept {
         return get() != other.get();
     }
+    /// Whether it is null, or its object is gone.
     bool operator==(std::nullptr_t) const noexcept { return get() == nullptr; }
+    /// Whether it refers to a living object.
     bool operator!=(std::nullptr_t) const noexcept { return get() != nullptr; }
 
 protected:
@@ -186,6 +196,7 @@ protected:
     friend class DynPtr;
     struct Counted {};
 
+    /// One more reference to an object with these counts; null if either is null.
     StrongPtr(T* object, ReferenceControl* control) noexcept {
         if (!object || !control)
             return;
@@ -194,12 +205,15 @@ protected:
         control_ = control;
         id_ = nextPointerID();
     }
-    // The strong count was taken already.
+    /// A reference whose strong count was taken already.
     StrongPtr(Counted, T* object, ReferenceControl* control) noexcept
         : object_(object), control_(control), id_(nextPointerID()) {}
 
+    /// The object; null for a null reference.
     T* object_ = nullptr;
+    /// The counts of the object; null for a null reference.
     ReferenceControl* control_ = nullptr;
+    /// The serial number of this reference.
     unsigned long id_ = 0;
 };
 
@@ -209,6 +223,7 @@ template <typename T, typename B = T>
 class WeakPtr {
 public:
     WeakPtr() noexcept = default;
+    /// Refers to nothing.
     WeakPtr(std::nullptr_t) noexcept {}
     /// Watches `object`; null gives an empty reference.
     explicit WeakPtr(T* object) noexcept : object_(object) {
@@ -217,22 +232,27 @@ public:
         B const* base = object;
         take(base->referenceControl());
     }
+    /// One more reference to the same object.
     WeakPtr(WeakPtr const& other) noexcept : object_(other.object_) { take(other.control_); }
+    /// Takes the reference over; the other one refers to nothing.
     WeakPtr(WeakPtr&& other) noexcept
         : object_(std::exchange(other.object_, nullptr)),
           control_(std::exchange(other.control_, nullptr)),
           id_(other.id_) {}
+    /// A reference that does not keep the object alive.
     template <typename U, typename C, typename = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     WeakPtr(StrongPtr<U, C> const& other) noexcept : object_(other.get()) {
         take(object_ ? other.control_ : nullptr);
     }
     // Finding a virtual base reads the object, so the object is held meanwhile.
+    /// One more reference to the same object, as an object of its base class.
     template <typename U, typename C, typename = std::enable_if_t<std::is_convertible_v<U*, T*>>>
     WeakPtr(WeakPtr<U, C> const& other) noexcept : WeakPtr(other.strong()) {}
     ~WeakPtr() {
         if (control_)
             control_->releaseWeak();
     }
+    /// Refers to what the other one refers to.
     WeakPtr& operator=(WeakPtr other) noexcept {
         std::swap(object_, other.object_);
         std::swap(control_, other.control_);
@@ -248,6 +268,7 @@ public:
     }
     /// Whether the object lives.
     bool alive() const noexcept { return control_ && control_->alive(); }
+    /// Whether the object is alive.
     explicit operator bool() const noexcept { return alive(); }
     /// This pointer's serial number; 0 for one that was made empty.
     unsigned long id() const noexcept { return id_; }
@@ -257,6 +278,7 @@ public:
     bool operator==(WeakPtr<U, C> const& other) const noexcept {
         return control_ == other.control_;
     }
+    /// Whether it refers to another object, alive or not.
     template <typename U, typename C>
     bool operator!=(WeakPtr<U, C> const& other) const noexcept {
         return control_ != other.control_;
@@ -284,6 +306,7 @@ template <typename T, typename B = T>
 class DynPtr : public StrongPtr<T, B> {
 public:
     DynPtr() noexcept = default;
+    /// A strong reference to the object if it is of this type, else null; found by a dynamic type test.
     template <typename U, typename C>
     DynPtr(StrongPtr<U, C> const& other) : StrongPtr<T, B>(cast(other)) {}
 

@@ -16,6 +16,7 @@ namespace Tessera {
 /// texts; from then on a search does not depend on it. Any thread. Prints nothing.
 class TALO_EXPORT StringBlock {
 public:
+    /// These texts, in this order.
     explicit StringBlock(std::vector<std::string> strings);
     ~StringBlock();
     // The index refers to the texts of this block.

@@ -11,19 +11,25 @@ namespace Tessera {
 /// at a time; a list and its clone may be used on different threads. Prints nothing.
 class TALO_EXPORT StringList : public ReferenceBase<StringList> {
 public:
+    /// Goes through the texts in order.
     using const_iterator = std::vector<std::string>::const_iterator;
 
     /// A list without texts.
     StringList();
+    /// These texts, in this order.
     explicit StringList(std::vector<std::string> strings);
     ~StringList() override;
     StringList& operator=(StringList const&) = delete;
 
+    /// The number of texts.
     std::size_t size() const { return strings().size(); }
+    /// Whether there is no text.
     bool empty() const { return strings().empty(); }
     /// A text by its place, from 0; throws std::out_of_range for a place beyond the list.
     std::string const& at(std::size_t index) const { return strings().at(index); }
+    /// The first text.
     const_iterator begin() const { return strings().begin(); }
+    /// Past the last text.
     const_iterator end() const { return strings().end(); }
     /// All texts. The reference stays valid as long as the list or one of its clones lives.
     std::vector<std::string> const& strings() const { return block_->strings(); }

@@ -15,7 +15,9 @@ class ParameterRow;
 struct TALO_EXPORT RowCommand {
     char const* name; ///< the object name of its actions: "resetValue"
     QString text;     ///< with the mark of its key
+    /// The key that runs the command; may be empty.
     QKeySequence shortcut;
+    /// Runs the command for a row.
     void (ParameterRow::*run)();
     /// Whether the command makes sense for an edited parameter; null: it always does.
     bool (*isPossible)(Kolt::VParameter const& parameter);

@@ -19,13 +19,17 @@ public:
     explicit UndoActions(Kolt::UndoHistory& history, QObject* parent = nullptr);
     ~UndoActions() override;
 
+    /// Undoes the latest step; disabled if there is none.
     QAction* undoAction() const { return undoAction_; }
+    /// Redoes the step that was undone last; disabled if there is none.
     QAction* redoAction() const { return redoAction_; }
     /// How the texts name parameters from now on; an empty function: by their own names.
     void setNaming(ParameterNaming naming);
 
 public slots:
+    /// Ends the gesture that goes on and undoes the latest step.
     void undo();
+    /// Ends the gesture that goes on and redoes the step that was undone last.
     void redo();
     /// Undoes or redoes until that many steps are done, counted from the start of the history.
     void goToState(int steps);

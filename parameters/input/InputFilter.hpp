@@ -18,6 +18,7 @@ public:
     static std::shared_ptr<InputFilter> shared();
     ~InputFilter() override;
 
+    /// Opens and closes the macros of the user's gestures.
     GestureWatcher& gestures() { return gestures_; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -30,6 +30,7 @@ public:
 
     /// The editor or its placeholder; null while closed.
     QWidget* widget() const { return editor_.widget; }
+    /// Whether the open cell has a placeholder instead of an editor.
     bool isPlaceholder() const { return isPlaceholder_; }
     /// Which creator made the editor and why, or why there is none.
     Kolt::InputChoice const& choice() const { return editor_.choice; }

@@ -49,6 +49,7 @@ public:
     Kolt::UndoHistory& history() const override;
     /// Marks a value that is not the default; null until it first differed.
     ModifiedIndicator* modifiedIndicator() const { return indicator_; }
+    /// The label that shows the name; lives as long as the row.
     QLabel* nameLabel() const { return nameLabel_; }
     /// The line below the name; empty for none.
     QString note() const { return noteLabel_ ? noteLabel_->text() : QString(); }
@@ -79,7 +80,9 @@ public:
     /// The commands for the value in the current pool. Reset and paste are undo steps. What cannot be done is
     /// `refused`.
     void resetToDefault();
+    /// Copies the value to the clipboard.
     void copyValue();
+    /// Makes the value on the clipboard effective.
     void pasteValue();
     /// Makes what the parameter holds its default.
     void setAsDefault();

@@ -13,18 +13,23 @@ class TALO_EXPORT RowLayout {
 public:
     /// The room that a section adds around its rows.
     struct SectionMargins {
+        /// Above the first row.
         int top = 0;
+        /// Below the last row.
         int bottom = 0;
     };
     /// The constant distances of the form.
     struct Spacing {
         int top = 0;    ///< above the first section
         int bottom = 0; ///< below the last one
+        /// Between two sections.
         int betweenSections = 0;
+        /// Between two rows of a section.
         int betweenRows = 0;
         int unknownRowHeight = 0; ///< the height of a row of whose class no height is known
     };
 
+    /// A form without sections.
     explicit RowLayout(Spacing const& spacing) : spacing_(spacing) {}
 
     /// Adds a section at the end and returns its number.
@@ -32,6 +37,7 @@ public:
     /// Adds a row at the end of the last section and returns its number. REQUIRES: a section. Rows of one height class
     /// share a height estimate.
     std::size_t addRow(std::size_t heightClass);
+    /// Sets the room around the rows of a section; 0 at first.
     void setSectionMargins(std::size_t section, SectionMargins const& margins);
 
     /// The height of a row that exists. It becomes the estimate of its class. Says whether the row's height changed.
@@ -46,18 +52,27 @@ public:
     /// Computes the places of all rows and sections. To be called after changes, before places are asked for.
     void arrange();
 
+    /// The number of rows, shown or not.
     std::size_t rowCount() const { return rows_.size(); }
+    /// The number of sections.
     std::size_t sectionCount() const { return sections_.size(); }
+    /// Whether the row is shown.
     bool isShown(std::size_t row) const { return rows_[row].shown; }
+    /// The number of shown rows.
     std::size_t shownCount() const;
+    /// The number of the row's section.
     std::size_t sectionOf(std::size_t row) const { return rows_[row].section; }
     /// From the top of the form; of a row that is not shown the place at which it would begin.
     int top(std::size_t row) const { return rows_[row].top; }
+    /// The height of the row, measured or estimated.
     int height(std::size_t row) const { return rows_[row].height; }
+    /// Where the row ends, from the top of the form.
     int bottom(std::size_t row) const { return top(row) + height(row); }
+    /// Where the section begins, from the top of the form.
     int sectionTop(std::size_t section) const { return sections_[section].top; }
     /// 0 for a section without a shown row.
     int sectionHeight(std::size_t section) const { return sections_[section].height; }
+    /// The height of the form.
     int totalHeight() const { return totalHeight_; }
     /// The first row that ends below `y`; rowCount() if there is none. It may be one that is not shown.
     std::size_t firstRowBelow(int y) const;

@@ -23,6 +23,11 @@ foreach(folder IN ITEMS "${prefix}" "${core}")
     endif()
 endforeach()
 
+# The library that a program was linked with is that of one minor version.
+if(NOT EXISTS "${core}/${LIBDIR}/liblattice.so.${SOVERSION}")
+    message(FATAL_ERROR "There is no liblattice.so.${SOVERSION}")
+endif()
+
 # The core component needs nothing else, and no Qt; the others say what they miss.
 set(core_host ${configure} --fresh -S "${CMAKE_CURRENT_LIST_DIR}/core_host" -DCMAKE_DISABLE_FIND_PACKAGE_Qt5=ON)
 run(${core_host} -B "${WORK}/core_host" "-DCMAKE_PREFIX_PATH=${core}" -DCOMPONENTS=core)
