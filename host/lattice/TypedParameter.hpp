@@ -8,7 +8,8 @@
 
 namespace Kolt {
 
-/// Whether a U can be written to a parameter of type T without losing anything: a number only where every U is a T.
+/// Whether a U can be written to a parameter of type T without loss. A number can if every value of U is a value of T,
+/// so an int or a float can be written to a double, but neither a double nor an unsigned int to an int.
 template <typename T, typename U>
 constexpr bool
     IsWritableTo = std::is_arithmetic_v<T> || std::is_arithmetic_v<U>
@@ -18,7 +19,8 @@ constexpr bool
                              (std::is_same_v<T, int> && (std::is_same_v<U, short> || std::is_same_v<U, unsigned short>))
                        : std::is_convertible_v<U const&, T>;
 
-/// Calls a function after each change of a parameter's value of type T. The owner of the subscription is a Connection.
+/// Calls a function after each change of a parameter's value of type T. Made by Parameter<T>::onChange and owned by the
+/// Connection that it returns.
 template <typename T>
 class ChangeSubscription : public ValueNotifier {
 public:
@@ -83,7 +85,7 @@ public:
     Parameter increment(U const& value) const {
         return bound("increment", value);
     }
-    /// What editors show under the mouse, UTF-8.
+    /// The text that editors show under the mouse, UTF-8.
     Parameter toolTip(std::string const& text) const { return property("tooltip", text); }
     /// Any other property that an editor knows; the editor says of which type it must be.
     template <typename U>
@@ -100,7 +102,8 @@ public:
             PreferencesPtr(new VCreationPreferences(VCreationPreferences::Names{std::string(names)...})));
         return *this;
     }
-    /// Attaches the parameter to a document's history (VParameter::setHistory).
+    /// Attaches the parameter to a document's history (VParameter::setHistory), which is not owned and may be destroyed
+    /// before the parameter.
     Parameter history(UndoHistory& history) const {
         parameter_->setHistory(&history);
         return *this;
