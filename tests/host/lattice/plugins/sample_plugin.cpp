@@ -31,6 +31,6 @@ struct Creator : Kolt::VInputCreator<int, Kolt::VInputCreatorBase> {
 
 static Sample::Creator const creator;
 
-extern "C" __attribute__((visibility("default"))) bool TALO_EXPORT(Kolt::VInitialization const* host) {
+extern "C" __attribute__((visibility("default"))) bool TALO_SAMPLE_ENTRY(Kolt::VInitialization const* host) {
     return host->IsCompatible(TALO_KEY);
 }
