@@ -1,6 +1,6 @@
 #include "host/lattice/EditRecorderTest.hpp"
 #include "host/lattice/Recorder.hpp"
-#include <bramble/Selection.hpp>
+#include <bramble/StringSelection.hpp>
 #include <random>
 
 namespace {
