@@ -1,6 +1,7 @@
 #include "support/TestHost.hpp"
 
 #include <dlfcn.h>
+#include <lattice/HostObserver.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <QSpinBox>
 #include <QTemporaryDir>
