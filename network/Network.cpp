@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <network/NetworkReader.hpp>
 #include <network/PropertyFormat.hpp>
+#include <network/SaveFile.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 #include <QDir>
@@ -8,7 +9,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 namespace Talo {
 
@@ -284,9 +284,10 @@ bool Network::save(QString const& file, QString* error) const {
         return refused(problem.text);
     }
     QSaveFile target(file);
-    if (!target.open(QIODevice::WriteOnly) || target.write(json) != json.size() || !target.commit())
+    if (!target.open(QIODevice::WriteOnly) || target.write(json) != json.size())
         return refused(target.errorString());
-    return true;
+    auto const reason = commitSaveFile(target);
+    return reason.isEmpty() || refused(reason);
 }
 
 bool Network::saveAs(QString const& file, QString* error) {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <fractal/engine/Overlays.hpp>
 #include <fractal/engine/Titles.hpp>
+#include <network/SaveFile.hpp>
 #include <QImageWriter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 namespace Fractal {
 
@@ -13,6 +13,12 @@ namespace {
 
 QString refusal(QString const& file, QString const& reason) {
     return QStringLiteral("%1: %2").arg(file, reason);
+}
+
+/// Empty, or the reason why the written file cannot replace the old one.
+QString commit(QSaveFile& target, QString const& file) {
+    auto const reason = Talo::commitSaveFile(target);
+    return reason.isEmpty() ? QString() : refusal(file, reason);
 }
 
 } // namespace
@@ -47,7 +53,7 @@ QString Picture::writePng(QImage const& image, QString const& file) {
     QImageWriter writer(&target, "png");
     if (!writer.write(image))
         return refusal(file, writer.errorString());
-    return target.commit() ? QString() : refusal(file, target.errorString());
+    return commit(target, file);
 }
 
 QString Picture::writePdf(QImage const& image, FractalSettings const& settings, QString const& file) {
@@ -67,7 +73,7 @@ QString Picture::writePdf(QImage const& image, FractalSettings const& settings, 
         if (!painter.end())
             return refusal(file, tr("the page cannot be drawn"));
     }
-    return target.commit() ? QString() : refusal(file, target.errorString());
+    return commit(target, file);
 }
 
 } // namespace Fractal

@@ -1,8 +1,10 @@
 #include "Rendering.hpp"
+#include "support/FullDisk.hpp"
 #include "support/TaloTest.hpp"
 
 #include <functional>
 #include <QTemporaryDir>
+#include <random>
 
 using Fractal::FractalSettings;
 using Rendering::picture;
@@ -175,6 +177,30 @@ TEST_F(PictureTest, IsWrittenAsAPageWithItsTitles) {
     settings.legendText = QString(1000, QLatin1Char('\n'));
     auto const titled = page(settings, "titled.pdf");
     EXPECT_TRUE(titled.contains("/Type /Font"));
+}
+
+TEST_F(PictureTest, AFullDiskIsReportedAndKeepsTheOldFile) {
+    auto const png = folder.filePath(QStringLiteral("kept.png"));
+    auto const pdf = folder.filePath(QStringLiteral("kept.pdf"));
+    QImage small(2, 2, QImage::Format_RGB32);
+    small.fill(Qt::red);
+    ASSERT_EQ(Fractal::Picture::writePng(small, png), QString());
+    ASSERT_EQ(Fractal::Picture::writePdf(small, quick(), pdf), QString());
+    auto const pdfSize = QFileInfo(pdf).size();
+    // Noise does not compress: what is left for the last flush is more than the disk takes.
+    std::minstd_rand random;
+    QImage noise(40, 30, QImage::Format_RGB32);
+    for (int y = 0; y < noise.height(); ++y)
+        for (int x = 0; x < noise.width(); ++x)
+            noise.setPixel(x, y, static_cast<uint>(random()));
+    {
+        FullDisk const disk(1000);
+        EXPECT_THAT(Fractal::Picture::writePng(noise, png).toStdString(), StartsWith(png.toStdString() + ": "));
+        EXPECT_THAT(Fractal::Picture::writePdf(noise, quick(), pdf).toStdString(),
+                    StartsWith(pdf.toStdString() + ": "));
+    }
+    EXPECT_EQ(QImage(png), small);
+    EXPECT_EQ(QFileInfo(pdf).size(), pdfSize);
 }
 
 TEST_F(PictureTest, WhatCannotBeWrittenIsSaidAndNothingIsLost) {

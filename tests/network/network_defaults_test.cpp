@@ -1,4 +1,5 @@
 #include "NetworkFile.hpp"
+#include "support/FullDisk.hpp"
 
 #include <bramble/FlagList.hpp>
 #include <lattice/TypedParameter.hpp>
@@ -109,6 +110,27 @@ TEST_F(NetworkDefaults, ANetworkOfAHostsOwnObjectsIsSavedLikeAnyOther) {
     EXPECT_EQ(again.network->values(), made->values());
     EXPECT_EQ(again.network->title(), QString("Lamp"));
     EXPECT_EQ(again.network->kind(again.network->findObject("lamp")), QString("light"));
+}
+
+TEST_F(NetworkDefaults, ASaveOnAFullDiskFailsAndKeepsTheOldFile) {
+    auto const loaded = network(withParameters(R"({ "name": "p", "type": "string", "value": "short" })"));
+    auto const before = bytesOf(loaded->file());
+    // Less than what is buffered: the last flush fails. More: a write fails.
+    for (std::size_t const size : {5000U, 500000U}) {
+        ASSERT_TRUE(parameterOf(*loaded)->ownValue()->setValueFromText(std::string(size, 'x')));
+        QString error;
+        {
+            FullDisk const disk(1000);
+            EXPECT_FALSE(loaded->saveAs(loaded->file(), &error)) << size;
+        }
+        EXPECT_THAT(error.toStdString(), HasSubstr(loaded->file().toStdString() + ": "));
+        EXPECT_FALSE(error.endsWith(": ")) << "there is a reason";
+        EXPECT_EQ(bytesOf(loaded->file()), before);
+        EXPECT_TRUE(loaded->isModified());
+    }
+    QString error;
+    EXPECT_TRUE(loaded->saveAs(loaded->file(), &error)) << error.toStdString();
+    EXPECT_FALSE(loaded->isModified());
 }
 
 TEST_F(NetworkDefaults, AFailedSaveChangesNothing) {
