@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QFocusEvent>
+#include <QKeyEvent>
+#include <QPointer>
 
 namespace Kolt {
 
@@ -32,8 +34,20 @@ void QLeaveLineEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 void QLeaveLineEdit::leave() {
-    if (text() != remembered_)
+    if (text() == remembered_)
+        return;
+    QPointer<QLeaveLineEdit> const self(this);
+    if (hasAcceptableInput())
+        emit returnPressed();
+    if (self && text() != remembered_)
         setText(remembered_);
+}
+
+void QLeaveLineEdit::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && text() != remembered_)
+        setText(remembered_);
+    else
+        QLineEdit::keyPressEvent(event);
 }
 
 } // namespace Kolt

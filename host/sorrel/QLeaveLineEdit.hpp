@@ -5,9 +5,11 @@
 
 namespace Kolt {
 
-/// A line edit that restores the text last shown in it when the focus leaves it, so that it never shows a text that is
-/// no value. The Return key commits what was typed. The typed text stays while the window is inactive or a menu is
-/// open, unless the focus then comes back to another widget. User-interface thread.
+/// A line edit that commits a typed text when the focus leaves it, as the Return key does, so that nothing typed is
+/// lost (QLineEdit::returnPressed). A text that is not acceptable, and one that its receiver does not show, gives way
+/// to the text last shown, so that the field never shows a text that is no value. Escape restores that text, too. The
+/// typed text stays while the window is inactive or a menu is open, unless the focus then comes back to another widget.
+/// User-interface thread.
 class TALO_EXPORT QLeaveLineEdit : public QLineEdit {
     Q_OBJECT
 
@@ -22,8 +24,10 @@ public:
     QString const& rememberedText() const { return remembered_; }
 
 protected:
-    /// Restores the remembered text, now or when the focus comes back to another widget.
+    /// Commits or restores, now or when the focus comes back to another widget. A receiver may delete the field.
     void focusOutEvent(QFocusEvent* event) override;
+    /// Escape restores the remembered text if another one was typed.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void leave();

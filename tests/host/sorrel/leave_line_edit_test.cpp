@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QHBoxLayout>
+#include <QIntValidator>
 #include <sorrel/QLeaveLineEdit.hpp>
 
 namespace {
@@ -44,6 +45,71 @@ TEST_F(LeaveLineEdit, ShowsTheRememberedTextAgainToWhoeverLeavesItByMouse) {
     QTest::keyClicks(&edit_, "345");
     other_.setFocus(Qt::MouseFocusReason);
     EXPECT_EQ(edit_.text(), "12");
+}
+
+TEST_F(LeaveLineEdit, CommitsAnAcceptableTextOnceWhenItIsLeft) {
+    int commits = 0;
+    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [&] {
+        ++commits;
+        edit_.showText(edit_.text());
+    });
+    QTest::keyClicks(&edit_, "345");
+    QTest::keyClick(&edit_, Qt::Key_Tab);
+    ASSERT_TRUE(waitUntil([&] { return other_.hasFocus(); }));
+    EXPECT_EQ(edit_.text(), "345");
+    EXPECT_EQ(commits, 1);
+    edit_.setFocus();
+    other_.setFocus();
+    EXPECT_EQ(commits, 1) << "an untouched field commits nothing";
+}
+
+TEST_F(LeaveLineEdit, RestoresATextThatIsNotAcceptable) {
+    edit_.setValidator(new QIntValidator(0, 99, &edit_));
+    int commits = 0;
+    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [&] { ++commits; });
+    for (auto const* const text : {"", "-"}) {
+        edit_.setFocus();
+        edit_.setText(QLatin1String(text));
+        other_.setFocus(Qt::MouseFocusReason);
+        EXPECT_EQ(edit_.text(), "12") << text;
+    }
+    EXPECT_EQ(commits, 0);
+}
+
+TEST_F(LeaveLineEdit, RestoresATextThatTheReceiverDoesNotShow) {
+    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [] {});
+    QTest::keyClicks(&edit_, "345");
+    other_.setFocus();
+    EXPECT_EQ(edit_.text(), "12");
+}
+
+TEST_F(LeaveLineEdit, EscapeRestoresTheTextAndKeepsTheFocus) {
+    int commits = 0;
+    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [&] { ++commits; });
+    QTest::keyClicks(&edit_, "345");
+    QTest::keyClick(&edit_, Qt::Key_Escape);
+    EXPECT_EQ(edit_.text(), "12");
+    EXPECT_TRUE(edit_.hasFocus());
+    other_.setFocus();
+    EXPECT_EQ(commits, 0);
+}
+
+TEST_F(LeaveLineEdit, LeavesEscapeInAnUntouchedFieldToOthers) {
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(&edit_, &escape);
+    EXPECT_FALSE(escape.isAccepted());
+}
+
+TEST_F(LeaveLineEdit, MayBeDeletedByItsOwnCommit) {
+    QPointer<QLeaveLineEdit> const brief = new QLeaveLineEdit(&window_);
+    window_.layout()->addWidget(brief);
+    brief->showText("1");
+    brief->setFocus();
+    ASSERT_TRUE(waitUntil([&] { return brief->hasFocus(); }));
+    QObject::connect(brief, &QLineEdit::returnPressed, &window_, [&] { delete brief; });
+    QTest::keyClicks(brief, "2");
+    other_.setFocus();
+    EXPECT_FALSE(brief);
 }
 
 TEST_F(LeaveLineEdit, KeepsATextThatReturnHadShown) {
