@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>&amp;Set as default</source>
-        <translation>Als &amp;Standard setzen</translation>
+        <translation>Als Sta&amp;ndard setzen</translation>
     </message>
     <message>
         <source>The clipboard is empty.</source>

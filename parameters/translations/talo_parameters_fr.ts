@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>&amp;Set as default</source>
-        <translation>&amp;Définir par défaut</translation>
+        <translation>Définir par dé&amp;faut</translation>
     </message>
     <message>
         <source>The clipboard is empty.</source>

@@ -100,7 +100,7 @@ TEST_F(AccessibilityTest, EachControlIsDescribedByObjectTypeAndPool) {
     window->choosePool(QStringLiteral("final"));
     EXPECT_EQ(description(lineEdit("iterations")), "formula.iterations, type int, in pool final");
     window->pools().setPool(nullptr);
-    window->currentView()->showPool();
+    window->currentView()->panel()->showPool();
     EXPECT_EQ(description(lineEdit("iterations")), "formula.iterations, type int, no pool");
 }
 

@@ -260,7 +260,7 @@ TEST_F(HistoryTest, TwoDragsAreTwoSteps) {
 TEST_F(HistoryTest, ADragThatComesBackIsNoStep) {
     drag(slider("int"), {30, 20, -50});
     EXPECT_EQ(valuesNow(), text);
-    EXPECT_TRUE(waitUntil(noGesture));
+    EXPECT_TRUE(waitUntil([this] { return noGesture(); }));
     EXPECT_THAT(steps(), IsEmpty());
     EXPECT_FALSE(action("undo")->isEnabled());
 }
@@ -272,7 +272,7 @@ TEST_F(HistoryTest, ATypedWordIsOneStepUntilTheFieldIsLeft) {
     EXPECT_EQ(held("line"), "edge of it");
     EXPECT_THAT(steps(), SizeIs(1));
     field("array")->setFocus();
-    EXPECT_TRUE(waitUntil(noGesture));
+    EXPECT_TRUE(waitUntil([this] { return noGesture(); }));
     line->setFocus();
     line->end(false);
     QTest::keyClicks(line, QStringLiteral("self"));
@@ -287,7 +287,7 @@ TEST_F(HistoryTest, ReturnEndsATypedWord) {
     line->setFocus();
     QTest::keyClicks(line, QStringLiteral("a"));
     QTest::keyClick(line, Qt::Key_Return);
-    EXPECT_TRUE(waitUntil(noGesture));
+    EXPECT_TRUE(waitUntil([this] { return noGesture(); }));
     QTest::keyClicks(line, QStringLiteral("b"));
     EXPECT_THAT(steps(), ElementsAre("line: edge → edgea", "line: edgea → edgeab"));
 }
@@ -382,7 +382,7 @@ TEST_F(HistoryTest, TurnsOfTheWheelAreOneStepUntilItRests) {
     turnWheel(*handle, 1);
     turnWheel(*handle, 1);
     EXPECT_THAT(steps(), SizeIs(1));
-    EXPECT_TRUE(waitUntil(noGesture));
+    EXPECT_TRUE(waitUntil([this] { return noGesture(); }));
     turnWheel(*handle, -1);
     EXPECT_THAT(steps(), SizeIs(2));
 }

@@ -11,15 +11,6 @@ using testing::HasSubstr;
 
 namespace {
 
-class MainWindowTest : public PanelTest {
-protected:
-    QComboBox* poolSelector() const { return window->findChild<QToolBar*>()->findChild<QComboBox*>(); }
-    std::string lastMessage() const {
-        auto const texts = window->messages()->texts();
-        return texts.isEmpty() ? std::string() : texts.constLast().toStdString();
-    }
-};
-
 struct Step : Kolt::VUndoAction {
     Step(std::string const& text, bool works, int& undone) : VUndoAction(text), works_(works), undone_(undone) {}
     bool undo() override {
@@ -30,9 +21,17 @@ struct Step : Kolt::VUndoAction {
     int& undone_;
 };
 
-void addStep(std::string const& text, bool works, int& undone) {
-    window->history().add(Tessera::StrongPtr<Kolt::VUndoAction>(new Step(text, works, undone)));
-}
+class MainWindowTest : public PanelTest {
+protected:
+    QComboBox* poolSelector() const { return window->findChild<QToolBar*>()->findChild<QComboBox*>(); }
+    std::string lastMessage() const {
+        auto const texts = window->messages()->texts();
+        return texts.isEmpty() ? std::string() : texts.constLast().toStdString();
+    }
+    void addStep(std::string const& text, bool works, int& undone) const {
+        window->history().add(Tessera::StrongPtr<Kolt::VUndoAction>(new Step(text, works, undone)));
+    }
+};
 
 } // namespace
 
