@@ -52,8 +52,7 @@ public:
         if (!living || words.isEmpty())
             rows->setFilter({});
         else
-            rows->setFilter(
-                [&](auto const& parameter) { return words.finds(*living, parameter, Kolt::currentPool(&pools)); });
+            rows->setFilter([&](auto const& parameter) { return words.finds(*living, parameter, pools.pool()); });
         bool const foundNone = !words.isEmpty() && rows->shownCount() == 0;
         rows->setVisible(!foundNone);
         emptyNote->setVisible(foundNone);
@@ -75,7 +74,7 @@ public:
         auto const parameters = living->parameters();
         for (auto const& parameter : parameters)
             if (parameter->defaults())
-                (void)resetToDefault(parameter, Kolt::currentPool(&pools));
+                (void)resetToDefault(parameter, pools.pool());
     }
 
     UndoActions& undoActionsOf(ParameterPanel& panel) {
@@ -109,7 +108,7 @@ public:
     }
 
     Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase> const object;
-    Kolt::ValuePoolSource& pools;
+    PoolSourceRef const pools;
     std::shared_ptr<InputFilter> const filterOfInput = InputFilter::shared();
     RowArea* const rows;
     MutedLabel* const emptyNote;

@@ -28,8 +28,9 @@ public:
     enum class Command { Undo, Redo, Reset, ResetAll, Copy, Paste, SetAsDefault };
     Q_ENUM(Command)
 
-    /// `pools` says which pool is edited; it must outlive the panel. Undo and Redo act on the history of the object's
-    /// first parameter, which must outlive the panel. A null object gives an empty panel and a warning of Qt.
+    /// `pools` says which pool is edited; after it was destroyed edits are dropped. Undo and Redo act on the history of
+    /// the object's first parameter, which must outlive the panel. A null object gives an empty panel and a warning of
+    /// Qt.
     ParameterPanel(Kolt::ObjectPtr const& object, Kolt::ValuePoolSource& pools, QWidget* parent = nullptr);
     ~ParameterPanel() override;
 

@@ -20,6 +20,7 @@ ParameterCommands::ParameterCommands(QWidget* scope, QObject* parent)
         actions_ << action;
     }
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusChanged(now); });
+    focusChanged(QApplication::focusWidget());
     updateActions();
 }
 

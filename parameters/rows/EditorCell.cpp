@@ -51,7 +51,7 @@ QString captionOf(QWidget const& control) {
 
 } // namespace
 
-EditorCell::EditorCell(Kolt::ParameterRef parameter, Kolt::ValuePoolSource& pools)
+EditorCell::EditorCell(Kolt::ParameterRef parameter, PoolSourceRef const& pools)
     : parameter_(std::move(parameter)), pools_(pools) {}
 
 EditorCell::~EditorCell() = default;
@@ -60,7 +60,7 @@ QWidget* EditorCell::open(QWidget* parent) {
     auto const parameter = parameter_.strong();
     if (editor_.widget || !parameter)
         return editor_.widget;
-    editor_ = Kolt::makeEditor(parameter, parent, &pools_);
+    editor_ = Kolt::makeEditor(parameter, parent, pools_.source());
     isPlaceholder_ = !editor_.widget;
     if (isPlaceholder_)
         editor_.widget = new PlaceholderEditor(*parameter, parent);
@@ -99,7 +99,7 @@ std::vector<QWidget*> EditorCell::controls() const {
 }
 
 void EditorCell::showPool() {
-    Kolt::showPoolValue(editor_, parameter_.strong(), &pools_);
+    Kolt::showPoolValue(editor_, parameter_.strong(), pools_.source());
 }
 
 void EditorCell::nameControls(QString const& name, bool edited) {

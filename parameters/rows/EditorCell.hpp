@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <parameters/PoolSourceRef.hpp>
 #include <QWidget>
 #include <sorrel/InputFrontEnd.hpp>
 #include <tessera/Export.hpp>
@@ -16,8 +17,8 @@ namespace Talo {
 /// User-interface thread.
 class TALO_EXPORT EditorCell {
 public:
-    /// `pools` must outlive the editor.
-    EditorCell(Kolt::ParameterRef parameter, Kolt::ValuePoolSource& pools);
+    /// Without a pool after `pools` was destroyed.
+    EditorCell(Kolt::ParameterRef parameter, PoolSourceRef const& pools);
     ~EditorCell();
     EditorCell(EditorCell const&) = delete;
     EditorCell& operator=(EditorCell const&) = delete;
@@ -49,7 +50,7 @@ public:
 
 private:
     Kolt::ParameterRef const parameter_;
-    Kolt::ValuePoolSource& pools_;
+    PoolSourceRef const pools_;
     Kolt::Editor editor_;
     bool isPlaceholder_ = false;
 };

@@ -28,7 +28,7 @@ QString lastPart(QString const& name) {
 
 } // namespace
 
-ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, Kolt::ValuePoolSource& pools,
+ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools,
                            QWidget* parent)
     : QWidget(parent),
       objectName_(objectName),

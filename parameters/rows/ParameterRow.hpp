@@ -31,9 +31,9 @@ class TALO_EXPORT ParameterRow : public QWidget, public GestureTarget, private K
     Q_OBJECT
 
 public:
-    /// `objectName` is the name of the object that the parameter belongs to. Has no editor before `openEditor`. `pools`
-    /// must outlive the row.
-    ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, Kolt::ValuePoolSource& pools,
+    /// `objectName` is the name of the object that the parameter belongs to. Has no editor before `openEditor`. After
+    /// `pools` was destroyed there is no pool.
+    ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools,
                  QWidget* parent = nullptr);
     ~ParameterRow() override;
 
@@ -45,7 +45,7 @@ public:
     /// The parameter; null when it is gone.
     Kolt::ParameterPtr parameter() const { return parameter_.strong(); }
     /// The current pool; null for none.
-    Kolt::PoolPtr pool() const { return Kolt::currentPool(&pools_); }
+    Kolt::PoolPtr pool() const { return pools_.pool(); }
     Kolt::UndoHistory& history() const override;
     /// Marks a value that is not the default; null until it first differed.
     ModifiedIndicator* modifiedIndicator() const { return indicator_; }
@@ -114,7 +114,7 @@ private:
     QString const objectName_;
     QString const parameterName_;
     Kolt::ParameterRef const parameter_;
-    Kolt::ValuePoolSource& pools_;
+    PoolSourceRef const pools_;
     QWidget* const names_;
     QLabel* const nameLabel_;
     QHBoxLayout* const layout_;

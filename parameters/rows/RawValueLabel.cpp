@@ -6,7 +6,7 @@
 
 namespace Talo {
 
-RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, Kolt::ValuePoolSource const& pools, QWidget* parent)
+RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools, QWidget* parent)
     : QWidget(parent), parameter_(parameter), pools_(pools) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
     if (parameter)
@@ -29,7 +29,7 @@ void RawValueLabel::refresh() {
     QString text;
     QString stamp;
     if (auto const parameter = parameter_.strong()) {
-        auto const pool = Kolt::currentPool(&pools_);
+        auto const pool = pools_.pool();
         auto const value = parameter->effectiveValue(pool);
         text = QString::fromStdString(value->Text());
         stamp = tr("age %1").arg(value->age());

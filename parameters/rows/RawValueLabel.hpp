@@ -2,7 +2,7 @@
 
 #include <atomic>
 #include <lattice/Parameter.hpp>
-#include <lattice/ValuePoolSource.hpp>
+#include <parameters/PoolSourceRef.hpp>
 #include <QWidget>
 #include <tessera/Export.hpp>
 
@@ -18,7 +18,7 @@ class TALO_EXPORT RawValueLabel : public QWidget, private Kolt::ValueNotifier {
 
 public:
     /// The parameter is referred to weakly.
-    RawValueLabel(Kolt::ParameterPtr const& parameter, Kolt::ValuePoolSource const& pools, QWidget* parent = nullptr);
+    RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools, QWidget* parent = nullptr);
     ~RawValueLabel() override;
 
     /// The shown text of the value; empty when the parameter is gone.
@@ -39,7 +39,7 @@ private:
                        Kolt::ValueMap const* properties) override;
 
     Kolt::ParameterRef const parameter_;
-    Kolt::ValuePoolSource const& pools_;
+    PoolSourceRef const pools_;
     QString text_;
     QString stamp_;
     std::atomic<bool> refreshWaits_{false};

@@ -32,7 +32,7 @@ QMargins boxMargins(QString const& title) {
 } // namespace
 
 RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> const& parameters,
-                 Kolt::ValuePoolSource& pools, QWidget* parent)
+                 PoolSourceRef const& pools, QWidget* parent)
     : ContentArea(parent), objectName_(objectName), pools_(pools), content_(new QWidget), layout_(spacing) {
     addEntries(FormPlan(parameters));
     measureBoxes();

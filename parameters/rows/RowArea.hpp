@@ -29,9 +29,9 @@ class TALO_EXPORT RowArea : public ContentArea {
     Q_OBJECT
 
 public:
-    /// `objectName` is the name of the object that the parameters belong to. `pools` must outlive the area. Editors are
-    /// open.
-    RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> const& parameters, Kolt::ValuePoolSource& pools,
+    /// `objectName` is the name of the object that the parameters belong to. After `pools` was destroyed there is no
+    /// pool. Editors are open.
+    RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> const& parameters, PoolSourceRef const& pools,
             QWidget* parent = nullptr);
     ~RowArea() override;
 
@@ -112,7 +112,7 @@ private:
     bool focusControl(Entry const& entry, bool first, bool ofEditor);
 
     QString const objectName_;
-    Kolt::ValuePoolSource& pools_;
+    PoolSourceRef const pools_;
     QWidget* const content_;
     RowLayout layout_;
     // By the numbers of the layout.

@@ -106,6 +106,7 @@ TEST_F(RowLayoutTest, AHighHiddenRowDoesNotHideTheRowsAfterIt) {
     layout.setHeight(1, 500);
     layout.setShown(1, false);
     layout.arrange();
-    EXPECT_EQ(layout.firstRowBelow(layout.bottom(0)), 2U);
+    EXPECT_EQ(layout.firstRowBelow(layout.bottom(0)), 1U) << "the place of the hidden row";
     EXPECT_EQ(layout.firstRowBelow(layout.top(2) + 1), 2U);
+    EXPECT_EQ(layout.firstRowBelow(layout.bottom(2)), 3U);
 }
