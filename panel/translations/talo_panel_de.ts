@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>MessageTexts</name>
+    <message>
+        <source>Action %1.%2 was fired in pool %3.</source>
+        <translation>Die Aktion %1.%2 wurde im Pool %3 ausgelöst.</translation>
+    </message>
+    <message>
+        <source>(no object)</source>
+        <translation>(kein Objekt)</translation>
+    </message>
+    <message>
+        <source>(no parameter)</source>
+        <translation>(kein Parameter)</translation>
+    </message>
+    <message>
+        <source>(no pool)</source>
+        <translation>(kein Pool)</translation>
+    </message>
+</context>
+<context>
     <name>Panel::CommandLine</name>
     <message>
         <source>A control panel for networks of objects with typed parameters.</source>
@@ -366,22 +385,6 @@
     <message>
         <source>Opened %1.</source>
         <translation>%1 wurde geöffnet.</translation>
-    </message>
-    <message>
-        <source>Action %1.%2 was fired in pool %3.</source>
-        <translation>Die Aktion %1.%2 wurde im Pool %3 ausgelöst.</translation>
-    </message>
-    <message>
-        <source>(no object)</source>
-        <translation>(kein Objekt)</translation>
-    </message>
-    <message>
-        <source>(no parameter)</source>
-        <translation>(kein Parameter)</translation>
-    </message>
-    <message>
-        <source>(no pool)</source>
-        <translation>(kein Pool)</translation>
     </message>
     <message>
         <source>Saved the values to %1.</source>

@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>MessageTexts</name>
+    <message>
+        <source>Action %1.%2 was fired in pool %3.</source>
+        <translation>L’action %1.%2 a été déclenchée dans le pool %3.</translation>
+    </message>
+    <message>
+        <source>(no object)</source>
+        <translation>(aucun objet)</translation>
+    </message>
+    <message>
+        <source>(no parameter)</source>
+        <translation>(aucun paramètre)</translation>
+    </message>
+    <message>
+        <source>(no pool)</source>
+        <translation>(aucun pool)</translation>
+    </message>
+</context>
+<context>
     <name>Panel::CommandLine</name>
     <message>
         <source>A control panel for networks of objects with typed parameters.</source>
@@ -366,22 +385,6 @@
     <message>
         <source>Opened %1.</source>
         <translation>%1 a été ouvert.</translation>
-    </message>
-    <message>
-        <source>Action %1.%2 was fired in pool %3.</source>
-        <translation>L’action %1.%2 a été déclenchée dans le pool %3.</translation>
-    </message>
-    <message>
-        <source>(no object)</source>
-        <translation>(aucun objet)</translation>
-    </message>
-    <message>
-        <source>(no parameter)</source>
-        <translation>(aucun paramètre)</translation>
-    </message>
-    <message>
-        <source>(no pool)</source>
-        <translation>(aucun pool)</translation>
     </message>
     <message>
         <source>Saved the values to %1.</source>

@@ -39,6 +39,9 @@ void Document::setNetwork(std::unique_ptr<Talo::Network> network) {
     for (auto const& object : network_->objects())
         for (auto const& parameter : object->parameters())
             parameter->setHistory(&history_);
+    network_->actionHandler = [this](auto const& object, auto const& parameter, auto const& pool) {
+        emit actionFired(object, parameter, pool);
+    };
     emit opened(network_.get());
     checkModified();
 }

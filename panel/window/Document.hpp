@@ -50,6 +50,8 @@ signals:
     void loaded(QString const& file);
     void saved(QString const& file);
     void modifiedChanged(bool modified);
+    /// An action of the network was fired; the object that holds it and the parameter may be null, and so may the pool.
+    void actionFired(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
 
 private:
     Kolt::UndoHistory history_;

@@ -2,12 +2,12 @@
 
 #include <panel/look/Look.hpp>
 #include <panel/window/ActivationRepair.hpp>
+#include <panel/window/MessageTexts.hpp>
 #include <parameters/commands/ParameterFilter.hpp>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QSplitter>
 #include <QStatusBar>
 
@@ -21,10 +21,6 @@ constexpr int previewWidth = 400;
 // How long messages stay in the status bar, in milliseconds.
 constexpr int refusalTime = 8000;
 constexpr int savedTime = 4000;
-
-QString nameOr(Kolt::ObjectPtr const& object, QString const& otherwise) {
-    return object ? QString::fromStdString(object->Name()) : otherwise;
-}
 
 } // namespace
 
@@ -119,6 +115,11 @@ void MainWindow::connectParts() {
     connect(&document_, &Document::modifiedChanged, this, &MainWindow::setWindowModified);
     connect(&document_, &Document::loaded, this, [this](QString const& file) { report(tr("Opened %1.").arg(file)); });
     connect(&document_, &Document::saved, this, &MainWindow::showSaved);
+    connect(&document_, &Document::actionFired, this,
+            [this](auto const& object, auto const& parameter, auto const& pool) {
+                fractal_->fire(object, parameter, pool);
+                report(actionMessage(object, parameter, pool));
+            });
     connect(&undoActions_, &Talo::UndoActions::historyChanged, &document_, &Document::checkModifiedLater);
     connect(&undoActions_, &Talo::UndoActions::refused, this,
             [this](QString const& reason) { messages()->add(MessageList::Source::Error, reason); });
@@ -144,10 +145,6 @@ void MainWindow::connectParts() {
     new ActivationRepair(*this);
 }
 
-bool MainWindow::openNetwork(QString const& file, QString* error) {
-    return succeeded(document_.open(file), error);
-}
-
 void MainWindow::showOpened(Talo::Network* network) {
     views_->closeViews();
     objectList_->showNetwork(nullptr);
@@ -157,14 +154,6 @@ void MainWindow::showOpened(Talo::Network* network) {
     document_.history().clear();
     undoActions_.setNaming(document_.naming());
     historyView_->setNaming(document_.naming());
-    network->actionHandler = [this](Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter,
-                                    Kolt::PoolPtr const& pool) {
-        fractal_->fire(object, parameter, pool);
-        report(tr("Action %1.%2 was fired in pool %3.")
-                   .arg(nameOr(object, tr("(no object)")),
-                        parameter ? QString::fromStdString(parameter->Name()) : tr("(no parameter)"),
-                        pool ? QString::fromStdString(pool->Name()) : tr("(no pool)")));
-    };
     toolBar_->showPools(*network);
     pools_.setPool(network->pools().front());
     showTitle();
@@ -181,10 +170,6 @@ void MainWindow::showSaved(QString const& file) {
     views_->showDefaults();
     report(tr("Saved the values to %1.").arg(file));
     statusBar()->showMessage(tr("Saved."), savedTime);
-}
-
-bool MainWindow::saveValues(QString const& file, QString* error) {
-    return succeeded(document_.save(file), error);
 }
 
 bool MainWindow::succeeded(QString const& reason, QString* error) {
@@ -243,11 +228,7 @@ void MainWindow::showRefusal(QString const& reason) {
 
 void MainWindow::reportError(QString const& title, QString const& text) {
     messages()->add(MessageList::Source::Error, text);
-    auto* const box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::Ok, this);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(
-        QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"))));
-    box->open();
+    showFailure(*this, title, text);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

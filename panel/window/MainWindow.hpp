@@ -34,14 +34,14 @@ public:
 
     /// Opens a network file in place of what is open. False if the file is no network: what is open stays, and the
     /// reason is in `error` unless that is null.
-    bool openNetwork(QString const& file, QString* error = nullptr);
+    bool openNetwork(QString const& file, QString* error = nullptr) { return succeeded(document_.open(file), error); }
     /// Shows a network in place of the one that is open; null is ignored.
     void showNetwork(std::unique_ptr<Talo::Network> network) { document_.setNetwork(std::move(network)); }
     /// The open network; null until one was opened.
     Talo::Network* network() const { return document_.network(); }
     /// Writes the network with its values and uses that file from now on. False if that fails; the reason is in `error`
     /// unless that is null.
-    bool saveValues(QString const& file, QString* error = nullptr);
+    bool saveValues(QString const& file, QString* error = nullptr) { return succeeded(document_.save(file), error); }
 
     /// Chooses an object by its name; false if there is none.
     bool showObject(QString const& name) { return objectList_->chooseObject(name); }

@@ -1,0 +1,35 @@
+#include <panel/window/MessageTexts.hpp>
+
+#include <QCoreApplication>
+#include <QMessageBox>
+
+namespace Panel {
+
+namespace {
+
+struct Texts {
+    Q_DECLARE_TR_FUNCTIONS(MessageTexts)
+};
+
+template <typename Pointer>
+QString nameOr(Pointer const& named, QString const& otherwise) {
+    return named ? QString::fromStdString(named->Name()) : otherwise;
+}
+
+} // namespace
+
+QString actionMessage(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool) {
+    return Texts::tr("Action %1.%2 was fired in pool %3.")
+        .arg(nameOr(object, Texts::tr("(no object)")), nameOr(parameter, Texts::tr("(no parameter)")),
+             nameOr(pool, Texts::tr("(no pool)")));
+}
+
+void showFailure(QWidget& window, QString const& title, QString const& reason) {
+    auto* const box = new QMessageBox(QMessageBox::Warning, title, title, QMessageBox::Ok, &window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(
+        QStringLiteral("<p>%1</p>").arg(reason.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"))));
+    box->open();
+}
+
+} // namespace Panel

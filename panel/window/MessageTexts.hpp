@@ -1,0 +1,14 @@
+#pragma once
+
+#include <lattice/Object.hpp>
+#include <QWidget>
+
+namespace Panel {
+
+/// The message for an action that was fired in a pool; all three may be null.
+QString actionMessage(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
+
+/// Shows what failed and why in a dialog on the window, and returns at once.
+void showFailure(QWidget& window, QString const& title, QString const& reason);
+
+} // namespace Panel
