@@ -117,6 +117,8 @@ private:
     }
     QString checkNetwork() {
         auto const networks = parser.positionalArguments();
+        if (networks.contains(QString()))
+            return tr("The name of a network is empty.");
         return networks.size() > 1 ? tr("More than one network is named: %1.").arg(networks.join(QLatin1String(", ")))
                                    : QString();
     }

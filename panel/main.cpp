@@ -1,5 +1,8 @@
+#include <cerrno>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <fractal/objects/ObjectFactory.hpp>
 #include <functional>
 #include <lattice/InputRegistry.hpp>
@@ -28,8 +31,13 @@ int refuse(QString const& reason) {
     return badUse;
 }
 
-void print(QByteArray const& text) {
-    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+/// Prints the text to standard output. Gives the status of a program that ends with that.
+int print(QByteArray const& text) {
+    auto const size = static_cast<std::size_t>(text.size());
+    if (std::fwrite(text.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
+        return 0;
+    return refuse(QCoreApplication::translate("main", "Cannot write to standard output: %1.")
+                      .arg(QString::fromLocal8Bit(std::strerror(errno))));
 }
 
 // The arguments before there is an application object, which is given only what it needs to know.
@@ -69,18 +77,18 @@ void passOnMessages(QtMsgType, QMessageLogContext const&, QString const& message
         std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
 }
 
-void printCreators() {
+int printCreators() {
+    QStringList lines;
     for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
         auto const creator = entry.creator.strong();
         QStringList names;
         for (auto const& name : creator->preferences()->names())
             names << QString::fromStdString(name);
-        print((QStringList{QString::fromStdString(entry.valueType), QString::fromStdString(creator->Name()),
-                           names.join(QLatin1Char(','))}
-                   .join(QLatin1Char('\t')) +
-               QLatin1Char('\n'))
-                  .toUtf8());
+        QStringList const columns{QString::fromStdString(entry.valueType), QString::fromStdString(creator->Name()),
+                                  names.join(QLatin1Char(','))};
+        lines << columns.join(QLatin1Char('\t')) + QLatin1Char('\n');
     }
+    return print(lines.join(QString()).toUtf8());
 }
 
 // Prepares the network as the options say; gives the reason when something of it cannot be done.
@@ -217,9 +225,9 @@ int run(Panel::CommandLine const& commandLine) {
         // A list without them would be wrong; everything else has placeholders.
         if (!pluginError.isEmpty())
             return badUse;
-        printCreators();
-        if (!commandLine.values && !draws)
-            return 0;
+        int const status = printCreators();
+        if (status != 0 || (!commandLine.values && !draws))
+            return status;
     }
     if (commandLine.gallery)
         return showGallery(commandLine, pluginError);
@@ -227,9 +235,9 @@ int run(Panel::CommandLine const& commandLine) {
     if (!network)
         return badUse;
     if (commandLine.values) {
-        print(network->values());
-        if (!draws)
-            return 0;
+        int const status = print(network->values());
+        if (status != 0 || !draws)
+            return status;
     }
     return showWindow(plugins, std::move(network), commandLine, pluginError);
 }
@@ -238,6 +246,8 @@ int run(Panel::CommandLine const& commandLine) {
 
 int main(int argc, char* argv[]) {
     std::setlocale(LC_ALL, "");
+    // A reader of standard output that ends must not end the panel; the write fails instead.
+    std::signal(SIGPIPE, SIG_IGN);
     QString error;
     auto const arguments = decoded(argc, argv);
     auto commandLine = Panel::CommandLine::parse(arguments, error);
@@ -260,12 +270,10 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Talo panel"));
     QApplication::setApplicationVersion(QStringLiteral(TALO_VERSION));
     if (commandLine->help) {
-        print(Panel::CommandLine::helpText().toUtf8());
-        return 0;
+        return print(Panel::CommandLine::helpText().toUtf8());
     }
     if (commandLine->version) {
-        print("talo_panel " TALO_VERSION "\n");
-        return 0;
+        return print("talo_panel " TALO_VERSION "\n");
     }
     Panel::applyLook(commandLine->theme);
     if (commandLine->rightToLeft)

@@ -33,7 +33,7 @@ void PictureJob::run(Worker& worker) {
     auto const tell = [&](int percent) {
         percent_ = percent;
         writeStatus(QStringLiteral("%1 <a href=\"%2\">%3</a>")
-                        .arg(tr("Computing %1: %2 %.").arg(title_.toHtmlEscaped()).arg(percent),
+                        .arg(tr("Computing %1: %2 %.").arg(title_.toHtmlEscaped(), QString::number(percent)),
                              QLatin1String(CancelLink), tr("Cancel")));
         worker.reportProgress();
     };

@@ -182,6 +182,10 @@
         <source>The gallery opens no network, so %1 cannot be used with --gallery.</source>
         <translation>Die Galerie öffnet kein Netz, daher kann %1 nicht mit --gallery verwendet werden.</translation>
     </message>
+    <message>
+        <source>The name of a network is empty.</source>
+        <translation>Der Name eines Netzes ist leer.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::Document</name>
@@ -583,6 +587,10 @@
     <message>
         <source>There is no display, so the panel was drawn into %1.</source>
         <translation>Es gibt keinen Bildschirm, daher wurde das Bedienfeld in %1 gezeichnet.</translation>
+    </message>
+    <message>
+        <source>Cannot write to standard output: %1.</source>
+        <translation>Die Standardausgabe kann nicht geschrieben werden: %1.</translation>
     </message>
 </context>
 </TS>

@@ -182,6 +182,10 @@
         <source>The gallery opens no network, so %1 cannot be used with --gallery.</source>
         <translation>La galerie n’ouvre pas de réseau, donc %1 ne peut pas être utilisé avec --gallery.</translation>
     </message>
+    <message>
+        <source>The name of a network is empty.</source>
+        <translation>Le nom d’un réseau est vide.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::Document</name>
@@ -583,6 +587,10 @@
     <message>
         <source>There is no display, so the panel was drawn into %1.</source>
         <translation>Il n’y a pas d’écran, donc le panneau a été dessiné dans %1.</translation>
+    </message>
+    <message>
+        <source>Cannot write to standard output: %1.</source>
+        <translation>Impossible d’écrire sur la sortie standard : %1.</translation>
     </message>
 </context>
 </TS>

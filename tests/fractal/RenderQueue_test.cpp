@@ -217,6 +217,13 @@ TEST_F(RenderQueueTest, ANameThatLooksLikeRichTextIsShownAsItIs) {
     EXPECT_THAT(reports->texts(), testing::Each(testing::Not(HasSubstr("<b>"))));
 }
 
+TEST_F(RenderQueueTest, ANameWithAPercentSignIsShownAsItIs) {
+    chooseFile("exporter.picture", path("50%2.png"));
+    ASSERT_TRUE(ends());
+    EXPECT_THAT(reports->texts(), testing::Contains(testing::AllOf(HasSubstr("Computing"), HasSubstr("50%2.png"))));
+    EXPECT_THAT(told, ElementsAre("Wrote " + path("50%2.png").toStdString() + "."));
+}
+
 TEST_F(RenderQueueTest, TheNetworkMayGoWhileItIsComputed) {
     makeEndless();
     renderQueue.start(draft);

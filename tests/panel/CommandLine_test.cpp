@@ -91,6 +91,7 @@ TEST_F(CommandLineTest, ASettingEndsItsNameAtTheFirstEqualsSign) {
 TEST_F(CommandLineTest, RefusesWhatItDoesNotUnderstand) {
     EXPECT_THAT(refusal({QStringLiteral("--colour")}), HasSubstr("colour"));
     EXPECT_THAT(refusal({QStringLiteral("one.json"), QStringLiteral("two.json")}), HasSubstr("one.json, two.json"));
+    EXPECT_THAT(refusal({QString()}), HasSubstr("empty"));
     EXPECT_THAT(refusal({QStringLiteral("--set"), QStringLiteral("lamp.on")}), HasSubstr("lamp.on"));
     EXPECT_THAT(refusal({QStringLiteral("--palette"), QStringLiteral("green")}), HasSubstr("green"));
     EXPECT_THAT(refusal({QStringLiteral("--object")}), HasSubstr("object"));

@@ -25,6 +25,8 @@ protected:
             environment.insert(QStringLiteral("LD_LIBRARY_PATH"), libraries);
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder.path());
+        if (!outputFile.isEmpty())
+            process.setStandardOutputFile(outputFile);
         process.start(program, arguments);
         EXPECT_TRUE(process.waitForFinished(60000));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
@@ -49,6 +51,8 @@ protected:
     QTemporaryDir folder;
     /// Added to the environment of the program.
     std::map<QString, QString> variables;
+    /// Where standard output goes; empty: to `output`.
+    QString outputFile;
     /// Where a copy of the program finds the host's libraries.
     QString libraries;
     QByteArray output;
@@ -65,6 +69,21 @@ TEST_F(TaloPanel, ListsTheCreatorsOfThePlugin) {
     EXPECT_EQ(lines.last(), QByteArray());
     for (int index = 0; index + 1 < lines.size(); ++index)
         EXPECT_EQ(lines[index].count('\t'), 2) << lines[index].constData();
+}
+
+TEST_F(TaloPanel, OutputThatCannotBeWrittenIsAFailureWithAReason) {
+    outputFile = QStringLiteral("/dev/full");
+    for (auto const* const option : {"--values", "--list-creators", "--help", "--version"}) {
+        EXPECT_EQ(run({QString::fromLatin1(option)}), 2) << option;
+        EXPECT_THAT(errors.toStdString(), HasSubstr("standard output")) << option;
+    }
+}
+
+TEST_F(TaloPanel, AReaderThatIsGoneIsAFailureAndNoSignal) {
+    // The reader of the pipe has ended when the program writes.
+    auto const script = QStringLiteral("exec 3> >(exit); wait $!; \"$0\" --values >&3");
+    EXPECT_EQ(run({QStringLiteral("-c"), script, QStringLiteral(TALO_PANEL)}, QStringLiteral("bash")), 2);
+    EXPECT_THAT(errors.toStdString(), HasSubstr("standard output"));
 }
 
 TEST_F(TaloPanel, PrintsTheValuesOfTheDefaultNetwork) {
