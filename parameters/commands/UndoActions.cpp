@@ -24,6 +24,9 @@ UndoActions::UndoActions(Kolt::UndoHistory& history, QObject* parent)
     redoAction_->setObjectName(QStringLiteral("redo"));
     redoAction_->setShortcuts(QKeySequence::Redo);
     connect(redoAction_, &QAction::triggered, this, &UndoActions::redo);
+    // A tool button has no room for the step; its tool tip names it.
+    undoAction_->setIconText(tr("&Undo").remove(QLatin1Char('&')));
+    redoAction_->setIconText(tr("&Redo").remove(QLatin1Char('&')));
     connection_ = history_.addListener([this] {
         update();
         emit historyChanged();

@@ -77,6 +77,8 @@ TEST_F(ParameterPanelTest, EditsAreStepsOfTheDocumentsHistory) {
     EXPECT_THAT(Kolt::UndoHistory::theHistory().steps(), IsEmpty());
     EXPECT_TRUE(undo->isEnabled());
     EXPECT_THAT(undo->text().toStdString(), HasSubstr("on: false → true"));
+    EXPECT_EQ(undo->iconText(), QStringLiteral("Undo")) << "a tool button stays narrow";
+    EXPECT_THAT(undo->toolTip().toStdString(), HasSubstr("on: false → true"));
     undo->trigger();
     EXPECT_FALSE(on.read());
     panel->action(Command::Redo)->trigger();
