@@ -34,9 +34,9 @@ struct VValueTrait : ValueTraitDefaults<T> {
 
 /// Whether people edit values of type T: VValueTrait<T>::IsEdited; true where the trait does not say.
 template <typename T, typename = void>
-constexpr bool IsEditedType = true;
+inline constexpr bool IsEditedType = true;
 template <typename T>
-constexpr bool IsEditedType<T, std::void_t<decltype(VValueTrait<T>::IsEdited)>> = VValueTrait<T>::IsEdited;
+inline constexpr bool IsEditedType<T, std::void_t<decltype(VValueTrait<T>::IsEdited)>> = VValueTrait<T>::IsEdited;
 
 /// Written as "true" and "false"; no other text is read.
 template <>

@@ -32,7 +32,7 @@ public:
     T* operator->() noexcept { return get(); }
 
 private:
-    alignas(T) unsigned char storage_[sizeof(T)];
+    alignas(T) unsigned char storage_[sizeof(T)] = {};
 };
 
 } // namespace Tessera

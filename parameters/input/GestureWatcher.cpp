@@ -115,38 +115,36 @@ void GestureWatcher::endLater() {
         Qt::QueuedConnection);
 }
 
-bool GestureWatcher::filter(QWidget& watched, QEvent& delivered) {
-    auto* const widget = &watched;
-    auto* const event = &delivered;
-    switch (event->type()) {
+bool GestureWatcher::filter(QWidget& widget, QEvent& event) {
+    switch (event.type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        press(widget);
+        press(&widget);
         break;
     case QEvent::MouseButtonRelease:
-        if (kind_ == Kind::Mouse && static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton)
+        if (kind_ == Kind::Mouse && static_cast<QMouseEvent*>(&event)->buttons() == Qt::NoButton)
             endLater();
         break;
     case QEvent::KeyPress:
-        keyPress(widget, *static_cast<QKeyEvent*>(event));
+        keyPress(&widget, static_cast<QKeyEvent const&>(event));
         break;
     case QEvent::KeyRelease:
-        keyRelease(*static_cast<QKeyEvent*>(event));
+        keyRelease(static_cast<QKeyEvent const&>(event));
         break;
     case QEvent::InputMethod:
-        if (auto* const field = GestureTarget::around(widget) ? textFieldOf(widget) : nullptr)
+        if (auto* const field = GestureTarget::around(&widget) ? textFieldOf(&widget) : nullptr)
             type(field);
         break;
     case QEvent::Wheel:
-        turnWheel(widget);
+        turnWheel(&widget);
         break;
     case QEvent::FocusOut:
         // Some fields write their text when they lose the focus.
-        if (kind_ == Kind::Text && widget == target_)
+        if (kind_ == Kind::Text && &widget == target_)
             endLater();
         break;
     case QEvent::ShortcutOverride:
-        return overrideShortcut(widget, static_cast<QKeyEvent*>(event));
+        return overrideShortcut(&widget, static_cast<QKeyEvent*>(&event));
     default:
         break;
     }
