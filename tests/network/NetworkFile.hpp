@@ -54,3 +54,17 @@ T content(Kolt::ValuePtr const& value) {
     EXPECT_TRUE(typed && typed->get(read)) << "the value is no " << Tessera::Typename(typeid(T));
     return read;
 }
+
+using Network = NetworkFileTest;
+
+/// What a property holds, as its type and its text.
+inline std::string propertyOf(Kolt::ParameterPtr const& parameter, char const* name) {
+    auto const value = parameter->properties() ? parameter->properties()->getValue(name) : nullptr;
+    return value ? Tessera::Typename(value->valueType()) + " " + value->Text() : "none";
+}
+
+/// The name of a type of values.
+template <typename T>
+std::string nameOfType() {
+    return Tessera::Typename(typeid(T));
+}

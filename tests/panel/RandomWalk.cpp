@@ -1,5 +1,6 @@
 #include "RandomWalk.hpp"
 
+#include "RandomStrokes.hpp"
 #include "support/TaloTest.hpp"
 #include <lattice/UndoHistory.hpp>
 #include <network/ValueFormat.hpp>
@@ -9,68 +10,6 @@
 #include <QPushButton>
 
 namespace {
-
-struct Stroke {
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-};
-
-constexpr Qt::KeyboardModifiers none;
-constexpr auto controlShift = Qt::ControlModifier | Qt::ShiftModifier;
-
-std::vector<Stroke> const strokes = {
-    {Qt::Key_A, none},
-    {Qt::Key_E, none},
-    {Qt::Key_M, Qt::ShiftModifier},
-    {Qt::Key_0, none},
-    {Qt::Key_1, none},
-    {Qt::Key_2, none},
-    {Qt::Key_5, none},
-    {Qt::Key_9, none},
-    {Qt::Key_Minus, none},
-    {Qt::Key_Plus, none},
-    {Qt::Key_Period, none},
-    {Qt::Key_Asterisk, none},
-    {Qt::Key_Left, none},
-    {Qt::Key_Right, none},
-    {Qt::Key_Right, Qt::ShiftModifier},
-    {Qt::Key_Up, none},
-    {Qt::Key_Down, none},
-    {Qt::Key_Home, none},
-    {Qt::Key_End, none},
-    {Qt::Key_PageUp, none},
-    {Qt::Key_PageDown, none},
-    {Qt::Key_Tab, none},
-    {Qt::Key_Tab, none},
-    {Qt::Key_Backtab, Qt::ShiftModifier},
-    {Qt::Key_Return, none},
-    {Qt::Key_Return, none},
-    {Qt::Key_Space, none},
-    {Qt::Key_Space, none},
-    {Qt::Key_Escape, none},
-    {Qt::Key_Backspace, none},
-    {Qt::Key_Delete, none},
-    {Qt::Key_Menu, none},
-    {Qt::Key_A, Qt::ControlModifier},
-    {Qt::Key_C, Qt::ControlModifier},
-    {Qt::Key_V, Qt::ControlModifier},
-    {Qt::Key_X, Qt::ControlModifier},
-    {Qt::Key_Z, Qt::ControlModifier},
-    {Qt::Key_Z, Qt::ControlModifier},
-    {Qt::Key_Z, controlShift},
-    {Qt::Key_D, Qt::ControlModifier},
-    {Qt::Key_C, controlShift},
-    {Qt::Key_V, controlShift},
-    {Qt::Key_F, Qt::ControlModifier},
-    {Qt::Key_R, Qt::ControlModifier},
-    {Qt::Key_O, Qt::AltModifier},
-};
-
-// Those that take longer come now and then.
-std::vector<Stroke> const rareStrokes = {
-    {Qt::Key_N, Qt::ControlModifier}, {Qt::Key_O, Qt::ControlModifier}, {Qt::Key_S, Qt::ControlModifier},
-    {Qt::Key_S, controlShift},        {Qt::Key_Q, Qt::ControlModifier},
-};
 
 constexpr int mostViews = 3;
 
@@ -270,7 +209,7 @@ void RandomWalk::pressKey() {
         window_.activateWindow();
         return;
     }
-    auto const& stroke = below(60) == 0 ? oneOf(rareStrokes) : oneOf(strokes);
+    auto const& stroke = below(60) == 0 ? oneOf(rareStrokes()) : oneOf(strokes());
     if (stroke.key == Qt::Key_N && window_.findChildren<Panel::ObjectView*>().size() >= mostViews)
         return;
     QString text;

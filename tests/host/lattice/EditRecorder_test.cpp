@@ -12,8 +12,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-using Pool = PoolPtr;
-
 } // namespace
 
 TEST_F(WatchedInt, AnEditIsAStepThatGoesBackAndForth) {
@@ -220,7 +218,7 @@ TEST_F(EditRecorderTest, AStepOfAPoolThatIsGoneIsDropped) {
     auto const parameter = makeParameter(1, VParameter::Values::PerPool);
     SmallInput input{parameter};
     auto const recorder = EditRecorder::watch(parameter);
-    Pool third(new ValuePool("third"));
+    PoolPtr third(new ValuePool("third"));
     input.edit(20, third);
     third.reset();
     EXPECT_FALSE(history.undo());
@@ -304,69 +302,78 @@ TEST_F(EditRecorderTest, DefaultsAreWhatAParameterHeldInEachPool) {
     EXPECT_FALSE(history.store(parameter, nullptr, parameter->defaults()->in(draft))) << "there is no such place";
 }
 
-TEST_F(EditRecorderTest, WhateverWasDoneGoesBackToTheStartAndForthAgain) {
-    VStringList const selection(new StringSelection({"a", "b", "c"}, "a"));
-    std::vector<ParameterPtr> const parameters{makeParameter(1), makeParameter(1, VParameter::Values::PerPool),
-                                               makeParameter(selection)};
-    std::vector<std::unique_ptr<SmallInput>> inputs;
-    std::vector<std::shared_ptr<EditRecorder>> recorders;
-    for (auto const& parameter : parameters) {
-        inputs.push_back(std::make_unique<SmallInput>(parameter));
-        inputs.back()->activateNotification();
-        recorders.push_back(EditRecorder::watch(parameter));
+/// Edits three parameters at random, in both pools, and takes steps back and makes them again.
+class RandomEdits : public EditRecorderTest {
+protected:
+    RandomEdits() {
+        VStringList const selection(new StringSelection({"a", "b", "c"}, "a"));
+        parameters_ = {makeParameter(1), makeParameter(1, VParameter::Values::PerPool), makeParameter(selection)};
+        for (auto const& parameter : parameters_) {
+            inputs_.push_back(std::make_unique<SmallInput>(parameter));
+            inputs_.back()->activateNotification();
+            recorders_.push_back(EditRecorder::watch(parameter));
+        }
     }
-    auto const state = [&] {
+
+    std::string state() const {
         std::string all;
-        for (auto const& parameter : parameters)
+        for (auto const& parameter : parameters_)
             for (auto const& pool : {draft, final})
                 all += text(parameter, pool) + ' ';
         return all;
-    };
-    auto const start = state();
-    std::mt19937 random(20230329);
-    auto const upTo = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
-    int recordsUndone = 0;
-    for (int count = 0; count < 20000; ++count) {
+    }
+
+    void step() {
         auto const pool = upTo(2) == 0 ? draft : final;
-        switch (upTo(9)) {
-        case 0:
-        case 1:
-            inputs[0]->edit(upTo(4), pool);
-            break;
-        case 2:
-            inputs[1]->edit(upTo(4), pool);
-            break;
-        case 3: {
-            auto const list = valueOr(parameters[2]->ownValue(), VStringList());
-            list->select(list->at(static_cast<std::size_t>(upTo(3))));
-            inputs[2]->edit(list, pool);
-            break;
-        }
-        case 4: {
-            int const next = upTo(4);
-            int const previous = valueOr(parameters[0]->ownValue(), 0);
-            if (next == previous)
-                break;
-            parameters[0]->AddUndoAction(
-                StrongPtr<VUndoAction>(
-                    new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(inputs[0].get()), previous, recordsUndone)),
-                20);
-            inputs[0]->edit(next, pool);
-            break;
-        }
-        case 5:
+        auto const way = upTo(9);
+        if (way < 2)
+            inputs_[0]->edit(upTo(4), pool);
+        else if (way == 2)
+            inputs_[1]->edit(upTo(4), pool);
+        else if (way == 3)
+            choose(pool);
+        else if (way == 4)
+            editWithRecord(pool);
+        else if (way == 5)
             history.beginMacro();
-            break;
-        case 6:
+        else if (way == 6)
             history.endMacro();
-            break;
-        case 7:
+        else if (way == 7)
             history.undo();
-            break;
-        default:
+        else
             history.redo();
-            break;
-        }
+    }
+
+    int recordsUndone = 0;
+
+private:
+    int upTo(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+    void choose(PoolPtr const& pool) {
+        auto const list = valueOr(parameters_[2]->ownValue(), VStringList());
+        list->select(list->at(static_cast<std::size_t>(upTo(3))));
+        inputs_[2]->edit(list, pool);
+    }
+    // As an editor that makes its own undo record.
+    void editWithRecord(PoolPtr const& pool) {
+        int const next = upTo(4);
+        int const previous = valueOr(parameters_[0]->ownValue(), 0);
+        if (next == previous)
+            return;
+        WeakPtr<SmallInput, ValueNotifier> const input(inputs_[0].get());
+        parameters_[0]->AddUndoAction(StrongPtr<VUndoAction>(new SmallRecord(input, previous, recordsUndone)), 20);
+        inputs_[0]->edit(next, pool);
+    }
+
+    std::vector<ParameterPtr> parameters_;
+    std::vector<std::unique_ptr<SmallInput>> inputs_;
+    std::vector<std::shared_ptr<EditRecorder>> recorders_;
+    std::mt19937 random_{20230329};
+};
+
+TEST_F(RandomEdits, GoBackToTheStartAndForthAgain) {
+    auto const start = state();
+    for (int count = 0; count < 20000; ++count) {
+        step();
         // Often enough that the history never forgets a step.
         if (count % 200 != 0)
             continue;
