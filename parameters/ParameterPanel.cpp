@@ -9,7 +9,7 @@
 #include <parameters/input/PendingEdit.hpp>
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/RowArea.hpp>
-#include <QApplication>
+#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -65,16 +65,17 @@ public:
     }
 
     void resetAll() const {
-        filterOfInput->gestures().end();
+        inputFilter->gestures().end();
         auto const living = object.strong();
         if (!living)
             return;
         Kolt::UndoHistory::Macro const macro(history());
-        // A copy: a notifier may change the object.
+        // Copies: a notifier may change the object or delete the panel.
         auto const parameters = living->parameters();
+        auto const source = pools;
         for (auto const& parameter : parameters)
             if (parameter->defaults())
-                (void)resetToDefault(parameter, pools.pool());
+                (void)resetToDefault(parameter, source.pool());
     }
 
     UndoActions& undoActionsOf(ParameterPanel& panel) {
@@ -109,14 +110,14 @@ public:
 
     Tessera::WeakPtr<Kolt::VObject, Kolt::VManagedObjectBase> const object;
     PoolSourceRef const pools;
-    std::shared_ptr<InputFilter> const filterOfInput = InputFilter::shared();
+    std::shared_ptr<InputFilter> const inputFilter = InputFilter::shared();
     RowArea* const rows;
     MutedLabel* const emptyNote;
     QTimer checkTimer;
     QString filter;
     bool rawValuesShown = false;
     ParameterNaming naming;
-    // Made for the first who asks for an action: a window with several panels has actions of its own.
+    // Made on demand: a window with several panels has actions of its own instead.
     UndoActions* undoActions = nullptr;
     ParameterCommands* commands = nullptr;
     QAction* resetAllAction = nullptr;
@@ -132,7 +133,7 @@ ParameterPanel::ParameterPanel(Kolt::ObjectPtr const& object, Kolt::ValuePoolSou
 }
 
 ParameterPanel::~ParameterPanel() {
-    // While the pool source is still used by nobody else's destructor: editors may write as they are deleted.
+    // Before d_: editors may write when they are deleted, and the panel still reacts to that.
     delete d_->rows;
 }
 
@@ -147,8 +148,10 @@ QString ParameterPanel::filter() const {
 void ParameterPanel::setFilter(QString const& words) {
     bool const isNew = std::exchange(d_->filter, words) != words;
     d_->applyFilter();
-    if (isNew)
-        emit filterChanged(words);
+    if (!isNew)
+        return;
+    d_->rows->verticalScrollBar()->setValue(0);
+    emit filterChanged(words);
 }
 
 bool ParameterPanel::rawValuesShown() const {
@@ -202,6 +205,8 @@ void ParameterPanel::openEditors() {
 
 void ParameterPanel::showPool() {
     d_->rows->showPool();
+    if (!d_->filter.isEmpty())
+        d_->applyFilter();
 }
 
 void ParameterPanel::showDefaults() {

@@ -40,7 +40,7 @@ public:
     /// The words of the filter: only parameters that contain all of them in "object.parameter" or in their value are
     /// shown. Values count as they are when the filter or the pool is set: a parameter that is being edited stays.
     QString filter() const;
-    /// Replaces the words of the filter; an empty text shows all parameters.
+    /// Replaces the words of the filter; an empty text shows all parameters. Other words scroll to the top.
     void setFilter(QString const& words);
     /// Whether the parameters' texts are shown beside the editors.
     bool rawValuesShown() const;
@@ -60,7 +60,8 @@ public:
     void closeEditors();
     /// Makes the editors that closeEditors() deleted.
     void openEditors();
-    /// Shows the current pool's values after another pool was chosen. Scroll position and focus stay.
+    /// Shows the current pool's values after another pool was chosen, and filters by them. Scroll position and focus
+    /// stay.
     void showPool();
     /// Shows which values are not the default after the defaults were changed.
     void showDefaults();

@@ -69,18 +69,18 @@ public:
         return Parameter(VParameter::Values::PerPool, std::move(name), value);
     }
 
-    /// The smallest and the largest value that editors offer, and the step of their controls. Editors keep to them;
-    /// write() does not.
+    /// The smallest value that editors offer. write() takes smaller ones, too.
     template <typename U>
     Parameter min(U const& value) const {
         return bound("min", value);
     }
-    /// The largest value that editors offer.
+    /// The largest value that editors offer. write() takes larger ones, too.
     template <typename U>
     Parameter max(U const& value) const {
         return bound("max", value);
     }
-    /// The step of the controls.
+    /// How many positions the control of a double has from min to max, at least 2; without it 100 million.
+    /// Editors of integers ignore it.
     template <typename U>
     Parameter increment(U const& value) const {
         return bound("increment", value);

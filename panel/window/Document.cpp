@@ -21,11 +21,11 @@ Document::Document(QObject* parent) : QObject(parent) {
 Document::~Document() = default;
 
 QString Document::open(QString const& file) {
-    auto loaded = Talo::Network::load(file, Fractal::makeObject);
-    if (!loaded.network)
-        return loaded.error;
-    setNetwork(std::move(loaded.network));
-    emit Document::loaded(file);
+    auto result = Talo::Network::load(file, Fractal::makeObject);
+    if (!result.network)
+        return result.error;
+    setNetwork(std::move(result.network));
+    emit loaded(file);
     return {};
 }
 

@@ -185,7 +185,7 @@ void MainWindow::choosePool(int index) {
     pools_.setPool(network()->pools().at(static_cast<std::size_t>(index)));
     fractal_->choosePool(pools_.pool());
     views_->showPool();
-    applyFilter();
+    filterObjects();
     // An icon shows one pool only; a new one shows the chosen pool.
     objectList_->closeIcons();
     objectList_->openIcons();
@@ -194,12 +194,16 @@ void MainWindow::choosePool(int index) {
 void MainWindow::applyFilter() {
     if (!network())
         return;
+    filterObjects();
+    views_->setFilter(toolBar_->filterField()->text());
+}
+
+void MainWindow::filterObjects() {
     Talo::ParameterFilter const filter(toolBar_->filterField()->text());
     if (filter.isEmpty())
         objectList_->setFilter({});
     else
         objectList_->setFilter([&](auto const& object) { return filter.finds(object, pools_.pool()); });
-    views_->setFilter(toolBar_->filterField()->text());
 }
 
 void MainWindow::closeEditors() {

@@ -98,6 +98,7 @@ private:
     void showSaved(QString const& file);
     void choosePool(int index);
     void applyFilter();
+    void filterObjects();
     void closeEditors();
     void openEditors();
     void showTitle();

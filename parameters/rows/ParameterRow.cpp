@@ -171,7 +171,9 @@ QString ParameterRow::removedText() const {
 
 void ParameterRow::resetToDefault() {
     auto const parameter = parameter_.strong();
-    if (!parameter || !Talo::resetToDefault(parameter, pool()))
+    if (!parameter)
+        emit refused(removedText());
+    else if (!Talo::resetToDefault(parameter, pool()))
         emit refused(tr("%1 has no default to go back to.").arg(parameterName_));
 }
 

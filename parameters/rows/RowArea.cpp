@@ -78,7 +78,10 @@ ParameterRow* RowArea::row(QString const& parameterName) {
 
 void RowArea::openEditors() {
     editorsOpen_ = true;
+    // A copy, and a look at each row: a receiver of the signal may scroll, which makes and deletes rows.
     for (auto const place : std::set<std::size_t>(made_)) {
+        if (!entries_[place].row)
+            continue;
         entries_[place].row->openEditor();
         emitEditorOpened(entries_[place]);
     }
@@ -121,8 +124,7 @@ void RowArea::setFilter(std::function<bool(Kolt::VParameter const&)> const& filt
         if (auto* const row = entries_[place].row)
             row->setVisible(layout_.isShown(place));
     }
-    arrange();
-    verticalScrollBar()->setValue(0);
+    arrangeInPlace();
     makeVisibleRows();
 }
 

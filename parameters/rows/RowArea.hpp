@@ -52,7 +52,7 @@ public:
     void checkParameters();
     /// Shows or hides the raw values of all rows, also of those that are made later.
     void setRawValuesShown(bool shown);
-    /// Hides the parameters for which the predicate does not hold; an empty one shows all.
+    /// Hides the parameters for which the predicate does not hold; an empty one shows all. The scroll position stays.
     void setFilter(std::function<bool(Kolt::VParameter const&)> const& filter);
     /// Gives the focus to the first control of an editor in the first shown row that has one; false if there is none.
     bool focusFirstControl();

@@ -110,7 +110,7 @@ protected:
     static QString iconOf(Talo::Network const& network) {
         return QString::fromStdString(content<std::string>(parameterOf(network)->properties()->getValue("icon")));
     }
-    /// What stands in the file after saving.
+    /// The text of the file after saving.
     QString saved(QString const& name) {
         QDir().mkpath(QFileInfo(path(name)).path());
         QString error;

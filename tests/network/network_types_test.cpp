@@ -17,7 +17,7 @@ namespace {
 using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
 using StringArray = std::array<std::string, 1>;
 
-/// A parameter of one type: how it stands in the file, and what its value reads as.
+/// A parameter of one type: its text in the file, and the type and text of the value that is read from it.
 struct KindOfParameter {
     char const* name;
     QByteArray rest;

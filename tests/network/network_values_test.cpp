@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Counts what it is told and keeps the age that the value had then.
+/// Counts the notifications of a parameter and keeps the text, age and pool of the last one.
 class Listener : public Kolt::ValueNotifier {
 public:
     explicit Listener(Kolt::ParameterPtr const& parameter) {

@@ -56,7 +56,7 @@ protected:
     }
 
 private:
-    // Each edits in the way it is told, if it knows that one.
+    // Each makes one edit in the named way. False if it does not know the name.
     bool editsNumber(std::string const& way) {
         if (way == "int/drag")
             drag(slider("int"), {30, 30, -10});

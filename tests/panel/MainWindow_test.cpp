@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScrollBar>
 
 using testing::Contains;
 using testing::HasSubstr;
@@ -90,6 +91,17 @@ TEST_F(MainWindowTest, AClosedViewIsHiddenAtOnceAndDeletedLater) {
     ASSERT_TRUE(view);
     EXPECT_TRUE(dock->isHidden());
     EXPECT_TRUE(waitUntil([&] { return view.isNull(); }));
+}
+
+TEST_F(MainWindowTest, SwitchingThePoolKeepsTheScrollPosition) {
+    window->resize(500, 200);
+    window->show();
+    auto* const bar = window->currentView()->panel()->rowArea()->verticalScrollBar();
+    ASSERT_TRUE(waitUntil([&] { return bar->maximum() > 0; }));
+    bar->setValue(bar->maximum());
+    int const position = bar->value();
+    poolSelector()->setCurrentIndex(1);
+    EXPECT_EQ(bar->value(), position);
 }
 
 TEST_F(MainWindowTest, SwitchingThePoolSwitchesEveryEditor) {

@@ -152,6 +152,37 @@ TEST_F(ParameterPanelTest, ShowsAnotherPoolAndKeepsItsScrollPosition) {
     EXPECT_EQ(bar->value(), position);
 }
 
+TEST_F(ParameterPanelTest, FiltersByTheValuesOfTheShownPool) {
+    ASSERT_TRUE(level.write(77, secondPool));
+    panel->setFilter(QStringLiteral("77"));
+    EXPECT_EQ(panel->rowArea()->shownCount(), 0);
+    pools.use(secondPool);
+    panel->showPool();
+    EXPECT_EQ(panel->rowArea()->shownCount(), 1);
+}
+
+TEST_F(ParameterPanelTest, OnlyOtherWordsScrollToTheTop) {
+    panel->resize(600, 60);
+    auto* const bar = panel->rowArea()->verticalScrollBar();
+    EXPECT_TRUE(waitUntil([&] { return bar->maximum() > 0; }));
+    bar->setValue(bar->maximum());
+    int const position = bar->value();
+    panel->setFilter({});
+    EXPECT_EQ(bar->value(), position);
+    panel->setFilter(QStringLiteral("l"));
+    EXPECT_EQ(bar->value(), 0);
+}
+
+TEST_F(ParameterPanelTest, MayBeDeletedWhileItResetsAll) {
+    ASSERT_TRUE(on.write(true));
+    ASSERT_TRUE(level.write(7, firstPool));
+    auto const connection = on.onChange([this](bool) { delete panel; });
+    panel->action(Command::ResetAll)->trigger();
+    EXPECT_EQ(panel, nullptr);
+    EXPECT_FALSE(on.read());
+    EXPECT_EQ(level.read(firstPool), 40);
+}
+
 TEST_F(ParameterPanelTest, ResetsOneOrAllAsOneStep) {
     ASSERT_TRUE(on.write(true));
     ASSERT_TRUE(level.write(7, firstPool));
