@@ -1,25 +1,42 @@
-# One interface target holds how every target of the project is compiled.
-add_library(talo_compile INTERFACE)
-target_compile_features(talo_compile INTERFACE cxx_std_17)
-target_compile_options(talo_compile INTERFACE
+# Interface targets hold how every target of the project is compiled: talo_compile the product, talo_compile_test the
+# tests.
+add_library(talo_warnings INTERFACE)
+target_compile_features(talo_warnings INTERFACE cxx_std_17)
+target_compile_options(talo_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
     -Wconversion -Wdouble-promotion -Wformat=2
     $<$<BOOL:${TALO_WARNINGS_AS_ERRORS}>:-Werror>
     # Values must not depend on whether the target can fuse a multiplication with an addition.
     -ffp-contract=off)
-target_compile_definitions(talo_compile INTERFACE QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY)
+target_compile_definitions(talo_warnings INTERFACE QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY)
 
-if(TALO_SANITIZE)
-    target_compile_options(talo_compile INTERFACE -fsanitize=${TALO_SANITIZE} -fno-omit-frame-pointer
+add_library(talo_compile INTERFACE)
+add_library(talo_compile_test INTERFACE)
+target_link_libraries(talo_compile INTERFACE talo_warnings)
+target_link_libraries(talo_compile_test INTERFACE talo_warnings)
+
+# talo_sanitize(TARGET SANITIZERS)
+function(talo_sanitize target sanitizers)
+    target_compile_options(${target} INTERFACE -fsanitize=${sanitizers} -fno-omit-frame-pointer
         -fno-sanitize-recover=all
         # The code that the sanitizers add makes g++ see uninitialised members in the standard library.
         -Wno-maybe-uninitialized)
-    target_link_options(talo_compile INTERFACE -fsanitize=${TALO_SANITIZE})
+    # What is linked together needs the run-time libraries of all.
+    target_link_options(${target} INTERFACE -fsanitize=${TALO_SANITIZE})
+endfunction()
+
+if(TALO_SANITIZE)
+    talo_sanitize(talo_compile ${TALO_SANITIZE})
+    # Undefined behaviour is looked for in what is tested. In the assertions of the tests it would take more than half
+    # of the whole build.
+    string(REPLACE ",undefined" "" sanitizers_of_tests "${TALO_SANITIZE}")
+    talo_sanitize(talo_compile_test ${sanitizers_of_tests})
 endif()
 if(TALO_COVERAGE)
     # Threads that count the same line must not lose or turn round each other's counts.
-    target_compile_options(talo_compile INTERFACE --coverage -Og -fprofile-update=atomic)
+    target_compile_options(talo_compile INTERFACE --coverage -fprofile-update=atomic)
     target_link_options(talo_compile INTERFACE --coverage)
+    target_link_options(talo_compile_test INTERFACE --coverage)
 endif()
 
 set(CMAKE_CXX_EXTENSIONS OFF)

@@ -31,7 +31,7 @@ template class VValue<Tessera::StrongPtr<VAction>>;
 namespace {
 
 // Makes the type known while the library loads.
-[[maybe_unused]] bool const registered = (registerValueCreatorOnce<Tessera::StrongPtr<VAction>>(), true);
+[[maybe_unused]] bool const actionIsRegistered = (registerValueCreatorOnce<Tessera::StrongPtr<VAction>>(), true);
 
 } // namespace
 

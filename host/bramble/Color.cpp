@@ -58,7 +58,7 @@ template class VValue<Ferro::rgba_float_t>;
 namespace {
 
 // Makes the type known while the library loads.
-[[maybe_unused]] bool const registered = (registerValueCreatorOnce<Ferro::rgba_float_t>(), true);
+[[maybe_unused]] bool const colorIsRegistered = (registerValueCreatorOnce<Ferro::rgba_float_t>(), true);
 
 } // namespace
 

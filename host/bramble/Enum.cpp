@@ -44,7 +44,7 @@ template class VValue<Enum>;
 namespace {
 
 // Makes the type known while the library loads.
-[[maybe_unused]] bool const registered = (registerValueCreatorOnce<Enum>(), true);
+[[maybe_unused]] bool const enumIsRegistered = (registerValueCreatorOnce<Enum>(), true);
 
 } // namespace
 

@@ -46,7 +46,7 @@ template class VValue<FlagList>;
 namespace {
 
 // Makes the type known while the library loads.
-[[maybe_unused]] bool const registered = (registerValueCreatorOnce<FlagList>(), true);
+[[maybe_unused]] bool const flagListIsRegistered = (registerValueCreatorOnce<FlagList>(), true);
 
 } // namespace
 

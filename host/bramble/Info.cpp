@@ -15,7 +15,7 @@ template class VValue<info>;
 namespace {
 
 // Makes the type known while the library loads.
-[[maybe_unused]] bool const registered = (registerValueCreatorOnce<info>(), true);
+[[maybe_unused]] bool const infoIsRegistered = (registerValueCreatorOnce<info>(), true);
 
 } // namespace
 

@@ -123,7 +123,7 @@ template class VValue<VMultipleStringList>;
 namespace {
 
 // Makes the type known while the library loads.
-[[maybe_unused]] bool const registered = (registerValueCreatorOnce<VMultipleStringList>(), true);
+[[maybe_unused]] bool const choicesAreRegistered = (registerValueCreatorOnce<VMultipleStringList>(), true);
 
 } // namespace
 

@@ -25,7 +25,7 @@ template class VValue<VObjectStatus>;
 namespace {
 
 // Makes the type known while the library loads.
-[[maybe_unused]] bool const registered = (registerValueCreatorOnce<VObjectStatus>(), true);
+[[maybe_unused]] bool const objectStatusIsRegistered = (registerValueCreatorOnce<VObjectStatus>(), true);
 
 } // namespace
 

@@ -48,7 +48,7 @@ template class VValue<VStringList>;
 namespace {
 
 // Makes the type known while the library loads.
-[[maybe_unused]] bool const registered = (registerValueCreatorOnce<VStringList>(), true);
+[[maybe_unused]] bool const stringSelectionIsRegistered = (registerValueCreatorOnce<VStringList>(), true);
 
 } // namespace
 

@@ -13,7 +13,7 @@ namespace Talo {
 
 namespace {
 
-struct Texts {
+struct CommandTexts {
     Q_DECLARE_TR_FUNCTIONS(RowCommands)
 };
 
@@ -29,13 +29,13 @@ bool RowCommand::isEnabledFor(Kolt::ParameterPtr const& parameter) const {
 
 std::vector<RowCommand> rowCommands() {
     // Text fields keep the keys that they use themselves.
-    return {{"resetValue", Texts::tr("Reset to &default"), QKeySequence(Texts::tr("Ctrl+D")),
+    return {{"resetValue", CommandTexts::tr("Reset to &default"), QKeySequence(CommandTexts::tr("Ctrl+D")),
              &ParameterRow::resetToDefault, hasDefaults},
-            {"copyValue", Texts::tr("&Copy value"), QKeySequence(Texts::tr("Ctrl+Shift+C")), &ParameterRow::copyValue,
-             nullptr},
-            {"pasteValue", Texts::tr("&Paste value"), QKeySequence(Texts::tr("Ctrl+Shift+V")),
+            {"copyValue", CommandTexts::tr("&Copy value"), QKeySequence(CommandTexts::tr("Ctrl+Shift+C")),
+             &ParameterRow::copyValue, nullptr},
+            {"pasteValue", CommandTexts::tr("&Paste value"), QKeySequence(CommandTexts::tr("Ctrl+Shift+V")),
              &ParameterRow::pasteValue, nullptr},
-            {"setAsDefault", Texts::tr("&Set as default"), {}, &ParameterRow::setAsDefault, nullptr}};
+            {"setAsDefault", CommandTexts::tr("&Set as default"), {}, &ParameterRow::setAsDefault, nullptr}};
 }
 
 QMenu* makeRowMenu(ParameterRow& row) {
@@ -67,13 +67,13 @@ QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& poo
     auto const* const data = QGuiApplication::clipboard()->mimeData();
     // Platforms differ in how they report an empty clipboard.
     if (!data || data->formats().isEmpty())
-        return Texts::tr("The clipboard is empty.");
+        return CommandTexts::tr("The clipboard is empty.");
     auto const pasted = ValueClipboard::paste(*data, *parameter, pool);
     if (!pasted.value)
         return pasted.error;
     auto const name = QString::fromStdString(parameter->Name());
     if (!parameter->history().store(parameter, pool, {pasted.value, false}))
-        return Texts::tr("%1 does not take a value in this pool.").arg(name);
+        return CommandTexts::tr("%1 does not take a value in this pool.").arg(name);
     return {};
 }
 

@@ -15,7 +15,7 @@ constexpr int longestText = 28;
 // How much is shown before the first difference.
 constexpr int leadIn = 8;
 
-struct Texts {
+struct UndoTexts {
     Q_DECLARE_TR_FUNCTIONS(UndoText)
 };
 
@@ -37,7 +37,7 @@ QString wholeText(Kolt::VValueBase const& value) {
 
 QString shortened(QString const& text, int from) {
     if (text.isEmpty())
-        return Texts::tr("(empty)");
+        return UndoTexts::tr("(empty)");
     auto part = from > 0 ? QChar(0x2026) + text.mid(from) : text;
     return part.size() > longestText ? part.left(longestText - 1) + QChar(0x2026) : part;
 }
@@ -55,8 +55,8 @@ QString changeText(Kolt::ValueChange const& change, ParameterNaming const& namin
         name = QString::fromStdString(change.parameterName());
     auto const pool = change.pool();
     if (!pool)
-        return Texts::tr("%1: %2 → %3").arg(name, shortened(before, from), shortened(after, from));
-    return Texts::tr("%1: %2 → %3 (%4)")
+        return UndoTexts::tr("%1: %2 → %3").arg(name, shortened(before, from), shortened(after, from));
+    return UndoTexts::tr("%1: %2 → %3 (%4)")
         .arg(name, shortened(before, from), shortened(after, from), QString::fromStdString(pool->Name()));
 }
 
@@ -72,7 +72,7 @@ QString undoText(Kolt::UndoStep const& step, ParameterNaming const& naming) {
         return QString::fromStdString(step.description());
     auto const text = changeText(changes.front(), naming);
     auto const further = static_cast<int>(changes.size()) - 1;
-    return further == 0 ? text : Texts::tr("%1, and %n more", nullptr, further).arg(text);
+    return further == 0 ? text : UndoTexts::tr("%1, and %n more", nullptr, further).arg(text);
 }
 
 } // namespace Talo

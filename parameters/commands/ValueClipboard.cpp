@@ -12,7 +12,7 @@ namespace Talo {
 
 namespace {
 
-struct Texts {
+struct ClipboardTexts {
     Q_DECLARE_TR_FUNCTIONS(ValueClipboard)
 };
 
@@ -38,7 +38,7 @@ Kolt::ValuePtr typedValue(QByteArray const& json, ValueFormat const& format, Kol
         auto const value = held->clone();
         if (haveSameFlags(held, read) && value->assign(*read))
             return value;
-        error = Texts::tr("it has other flags");
+        error = ClipboardTexts::tr("it has other flags");
     } catch (FormatError const& problem) {
         error = problem.text;
     }
@@ -77,16 +77,16 @@ ValueClipboard::Pasted ValueClipboard::paste(QMimeData const& data, Kolt::VParam
         if (auto const value = typedValue(data.data(mimeType()), *format, held, reason))
             return {value, QString()};
         if (!reason.isEmpty())
-            return {nullptr, Texts::tr("The copied value does not fit %1: %2.").arg(name, reason)};
+            return {nullptr, ClipboardTexts::tr("The copied value does not fit %1: %2.").arg(name, reason)};
     }
     if (!data.hasText())
-        return {nullptr, Texts::tr("There is no value to paste into %1.").arg(name)};
+        return {nullptr, ClipboardTexts::tr("There is no value to paste into %1.").arg(name)};
     auto const text = data.text();
     if (auto const value = valueFromText(parameter, pool, text))
         return {value, QString()};
     if (auto const value = valueFromText(parameter, pool, text.trimmed()))
         return {value, QString()};
-    return {nullptr, Texts::tr("%1 is no value of %2, which is of type %3.")
+    return {nullptr, ClipboardTexts::tr("%1 is no value of %2, which is of type %3.")
                          .arg(quoted(text), name,
                               format ? QLatin1String(format->key) : QString::fromStdString(parameter.declaredType()))};
 }

@@ -265,9 +265,9 @@ namespace {
 
 TALO_STATIC_CREATOR QInputWidgetCreator<double, QFloat> const doubleCreator("double", nullptr);
 TALO_STATIC_CREATOR QInputWidgetCreator<double, QFloat> const
-    dialCreator("FltDial", PreferencesPtr(new VCreationPreferences("dial")));
+    numberDialCreator("FltDial", PreferencesPtr(new VCreationPreferences("dial")));
 TALO_STATIC_CREATOR QInputWidgetCreator<double, QFloat> const
-    periodicDialCreator("Periodic FltDial", PreferencesPtr(new VCreationPreferences("dial", "periodic")));
+    periodicNumberDialCreator("Periodic FltDial", PreferencesPtr(new VCreationPreferences("dial", "periodic")));
 
 } // namespace
 

@@ -221,9 +221,9 @@ namespace {
 
 TALO_STATIC_CREATOR QInputWidgetCreator<int, QInteger> const integerCreator("int", nullptr);
 TALO_STATIC_CREATOR QInputWidgetCreator<int, QInteger> const
-    dialCreator("intDial", PreferencesPtr(new VCreationPreferences("dial")));
+    integerDialCreator("intDial", PreferencesPtr(new VCreationPreferences("dial")));
 TALO_STATIC_CREATOR QInputWidgetCreator<int, QInteger> const
-    periodicDialCreator("intDialPeriodic", PreferencesPtr(new VCreationPreferences("dial", "periodic")));
+    periodicIntegerDialCreator("intDialPeriodic", PreferencesPtr(new VCreationPreferences("dial", "periodic")));
 
 } // namespace
 
