@@ -1,9 +1,11 @@
 #include <algorithm>
+#include <bramble/Info.hpp>
+#include <bramble/ObjectStatus.hpp>
 #include <network/NetworkReader.hpp>
+#include <network/PoolValues.hpp>
 #include <network/PropertyFormat.hpp>
 #include <network/SaveFile.hpp>
 #include <network/ValueFormat.hpp>
-#include <network/ValueText.hpp>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -27,10 +29,6 @@ bool failed(QString* error, QString const& reason) {
     return false;
 }
 
-QString nameOfPool(Kolt::PoolPtr const& pool) {
-    return QString::fromStdString(pool->Name());
-}
-
 /// The element of a list with the name; null when there is none.
 template <typename List>
 typename List::value_type findNamed(List const& list, QString const& name) {
@@ -39,23 +37,10 @@ typename List::value_type findNamed(List const& list, QString const& name) {
     return found == list.end() ? nullptr : *found;
 }
 
-/// A value as JSON; undefined when it is of another type than its parameter or cannot be written.
-QJsonValue valueToJson(Kolt::VParameter const& parameter, Kolt::ValuePtr const& value) {
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
-    return format ? format->write(value) : QJsonValue(QJsonValue::Undefined);
-}
-
-/// The values of the pools by `convert`; pools without a value of their own are left out.
-template <typename Convert>
-QJsonObject poolValuesToJson(Kolt::VParameter const& parameter, std::vector<Kolt::PoolPtr> const& pools,
-                             Convert const& convert) {
-    QJsonObject values;
-    if (!parameter.keepsValuesPerPool())
-        return values;
-    for (auto const& pool : pools)
-        if (auto const value = parameter.getLocalValue(pool, std::string(), false))
-            values.insert(nameOfPool(pool), convert(value));
-    return values;
+/// Whether the parameter shows how something stands, which nobody saves.
+bool showsState(Kolt::VParameter const& parameter) {
+    auto const& type = parameter.ownValue()->valueType();
+    return type == typeid(Kolt::info) || type == typeid(Kolt::VObjectStatus);
 }
 
 QJsonArray textsToJson(std::vector<std::string> const& texts) {
@@ -71,6 +56,8 @@ QJsonObject propertiesToJson(Kolt::VParameter const& parameter, PropertyFormat c
     if (!parameter.properties())
         return map;
     for (auto const& [key, value] : *parameter.properties()) {
+        if (parameter.isFilledIn(key))
+            continue;
         auto const name = QString::fromStdString(key);
         auto const written = format.write(name, value, targetFolder);
         if (written.isUndefined())
@@ -121,9 +108,7 @@ void Network::addObject(Kolt::ObjectPtr const& object, QString const& kind) {
         return;
     objects_.push_back(object);
     kinds_.push_back(kind);
-    for (auto const& parameter : object->parameters())
-        if (parameter->isEdited())
-            parameter->rememberDefaults();
+    rememberOpened(*object);
     rememberSaved(*object);
 }
 
@@ -182,31 +167,14 @@ void Network::connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr 
             connect(parameter.getLocalValue(pool, std::string(), false));
 }
 
-QByteArray Network::values() const {
-    QJsonObject objects;
-    for (auto const& object : objects_) {
-        QJsonObject parameters;
-        for (auto const& parameter : object->parameters()) {
-            auto const json = [&](Kolt::ValuePtr const& value) {
-                auto const written = valueToJson(*parameter, value);
-                return written.isUndefined() ? QJsonValue() : written;
-            };
-            QJsonObject entry{{"value", json(parameter->ownValue())}};
-            if (parameter->keepsValuesPerPool())
-                entry.insert("values", poolValuesToJson(*parameter, pools_, json));
-            parameters.insert(QString::fromStdString(parameter->Name()), entry);
-        }
-        objects.insert(QString::fromStdString(object->Name()), parameters);
-    }
-    return QJsonDocument(objects).toJson();
-}
-
 QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString const& targetFolder) const {
     auto const* const format = ValueFormat::ofType(parameter.declaredType());
     if (!format)
         refuseToWrite("no network file can hold a parameter of type " +
                       QString::fromStdString(parameter.declaredType()));
-    auto const* const ownEntries = entriesOf(parameter.ownValue());
+    auto const* const opened = whenOpened(parameter);
+    auto const ownValue = opened ? opened->in(nullptr).value : parameter.ownValue();
+    auto const* const ownEntries = entriesOf(ownValue);
     auto const json = [&](Kolt::ValuePtr const& value) {
         auto const written = format->write(value);
         if (written.isUndefined())
@@ -217,12 +185,11 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
         return written;
     };
 
-    QJsonObject node{{"name", QString::fromStdString(parameter.Name())},
-                     {"type", format->key},
-                     {"value", json(parameter.ownValue())}};
+    QJsonObject node{
+        {"name", QString::fromStdString(parameter.Name())}, {"type", format->key}, {"value", json(ownValue)}};
     if (format->choosesEntries)
         node.insert("entries", ownEntries ? textsToJson(*ownEntries) : QJsonArray());
-    auto const poolValues = poolValuesToJson(parameter, pools_, json);
+    auto const poolValues = poolValuesToJson(pools_, poolValuesOf(parameter, opened), json);
     if (!poolValues.isEmpty())
         node.insert("values", poolValues);
     else if (parameter.keepsValuesPerPool())
@@ -314,10 +281,24 @@ bool Network::saveAs(QString const& file, QString* error) {
 
 void Network::rememberDefaults() {
     for (auto const& object : objects_)
-        for (auto const& parameter : object->parameters())
-            if (parameter->isEdited())
-                parameter->rememberDefaults();
+        rememberOpened(*object);
     rememberSaved();
+}
+
+void Network::rememberOpened(Kolt::VObject const& object) {
+    for (auto const& parameter : object.parameters()) {
+        displayed_.erase(parameter.get());
+        if (parameter->isEdited())
+            parameter->rememberDefaults();
+        if (showsState(*parameter))
+            displayed_.emplace(parameter.get(), SavedValue{parameter, Kolt::ValueSnapshot(*parameter)});
+    }
+}
+
+Kolt::ValueSnapshot const* Network::whenOpened(Kolt::VParameter const& parameter) const {
+    auto const found = displayed_.find(&parameter);
+    // Another one may have been made in its place.
+    return found == displayed_.end() || !found->second.parameter.alive() ? nullptr : &found->second.value;
 }
 
 void Network::rememberSaved() {
@@ -330,39 +311,6 @@ void Network::rememberSaved(Kolt::VObject const& object) {
     for (auto const& parameter : object.parameters())
         if (parameter->isEdited())
             saved_.push_back({parameter, Kolt::ValueSnapshot(*parameter)});
-}
-
-bool Network::isModified() const {
-    return std::any_of(saved_.begin(), saved_.end(), [this](SavedValue const& saved) {
-        auto const parameter = saved.parameter.strong();
-        if (!parameter)
-            return false;
-        auto const isSaved = [&](auto const& pool) { return saved.value.isEffectiveIn(*parameter, pool); };
-        return !saved.value.isOwnValueOf(*parameter) ||
-               (parameter->keepsValuesPerPool() && !std::all_of(pools_.begin(), pools_.end(), isSaved));
-    });
-}
-
-bool Network::setText(QString const& objectDotParameter, QString const& text, Kolt::PoolPtr const& pool,
-                      QString* error) {
-    auto const parameter = findParameter(objectDotParameter);
-    if (!parameter)
-        return failed(error, "there is no parameter " + quoted(objectDotParameter) + " in the network");
-    bool const perPool = parameter->keepsValuesPerPool();
-    if (perPool && std::find(pools_.begin(), pools_.end(), pool) == pools_.end())
-        return failed(error, quoted(objectDotParameter) + " keeps a value per pool and needs a pool of the network");
-
-    // Read before anything is made: with a wrong text a pool that has no value gets none.
-    auto const read = valueFromText(*parameter, pool, text);
-    if (!read)
-        return failed(error, quoted(text) + " is no value of " + quoted(objectDotParameter) + ", which is of type " +
-                                 QString::fromStdString(parameter->declaredType()));
-
-    auto const value = parameter->getLocalValue(pool, std::string(), true);
-    value->assign(*read);
-    Kolt::markValueChanged(*parameter, pool);
-    parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);
-    return true;
 }
 
 } // namespace Talo

@@ -3,9 +3,11 @@
 #include <bramble/Action.hpp>
 #include <functional>
 #include <lattice/Object.hpp>
+#include <map>
 #include <memory>
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <tessera/Export.hpp>
 #include <vector>
 
@@ -26,6 +28,7 @@ using ObjectFactory = std::function<Kolt::ObjectPtr(QString const& kind, QString
 class TALO_EXPORT Network {
 public:
     /// What came of a file: a network, or a null one and the reason as "FILE:LINE: what was expected, what was found".
+    /// What a parameter has wrong is said after its name, as "FILE:LINE: object.parameter: what was expected, ...".
     struct LoadResult {
         /// Null when the file was refused.
         std::unique_ptr<Network> network;
@@ -73,7 +76,9 @@ public:
     QByteArray values() const;
     /// Writes the whole network with its current values, in the format that `load` reads, and replaces the file in one
     /// step or leaves it as it was. What was saved, loaded and saved there again has the same bytes; in another folder
-    /// only the paths that are relative to the folder differ. False, and the reason in `error` unless that is null,
+    /// only the paths that are relative to the folder differ. Not written are properties that an editor filled in
+    /// (VParameter::isFilledIn), and what shows a state: a status or an information is written as it was at the
+    /// start. False, and the reason in `error` unless that is null,
     /// when the file cannot be written or the network has something that files cannot contain.
     bool save(QString const& file, QString* error) const;
 
@@ -86,6 +91,13 @@ public:
     void rememberDefaults();
     /// Whether a value that people edit differs from the one in the file, in a pool or in the parameter itself.
     bool isModified() const;
+    /// The values of the parameters that differ so, as JSON: {"object.parameter": {"value": ..., "values": ...}}, as
+    /// `values` writes them.
+    QByteArray unsavedValues() const;
+    /// Takes over what `unsavedValues` gave, of this network or of one that was loaded from the same file before or
+    /// after it was changed. Notifies everybody. Each parameter takes all of its values or none. Returns why for those
+    /// that take none, as "object.parameter: what was expected, what was found".
+    QStringList takeValues(QByteArray const& json);
 
     /// The name of a parameter of this network, "object.parameter"; empty for any other.
     QString nameOf(Kolt::ParameterPtr const& parameter) const;
@@ -111,6 +123,11 @@ private:
 
     /// Makes the actions that a parameter of the object holds, its own and those of the pools, call the handler.
     void connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const;
+    bool isSaved(SavedValue const& saved) const;
+    /// Keeps what an object says at the start: defaults, and texts that are shown to people.
+    void rememberOpened(Kolt::VObject const& object);
+    /// What a parameter that shows a state showed at the start; null for any other.
+    Kolt::ValueSnapshot const* whenOpened(Kolt::VParameter const& parameter) const;
     /// From now on the values count as saved.
     void rememberSaved();
     void rememberSaved(Kolt::VObject const& object);
@@ -126,6 +143,8 @@ private:
     std::vector<Kolt::ObjectPtr> objects_;
     // What each object is for, in the order of the objects.
     std::vector<QString> kinds_;
+    // What was shown at the start.
+    std::map<Kolt::VParameter const*, SavedValue> displayed_;
     // What the file holds of the values that people edit.
     std::vector<SavedValue> saved_;
     // Tells actions whether the network is alive.

@@ -112,14 +112,22 @@ void NetworkReader::readObject(JsonNode const& node) {
 }
 
 void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& object) {
-    QString const what = "a parameter";
-    node.members(what, {"entries", "name", "perPool", "preferences", "properties", "type", "value", "values"});
-    auto const& nameNode = node.required("name", what);
+    auto const& nameNode = node.required("name", "a parameter");
     auto const name = nameNode.nonEmptyText("the name of a parameter");
     if (takenNames_.contains(name))
         nameNode.refuse("a parameter name that is not taken in the object", quoted(name) + " again");
     takenNames_.insert(name);
+    try {
+        readParameter(node, object, name);
+    } catch (FormatError& error) {
+        error.text.prepend(QString::fromStdString(object->Name()) + '.' + name + ": ");
+        throw;
+    }
+}
 
+void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& object, QString const& name) {
+    QString const what = "a parameter";
+    node.members(what, {"entries", "name", "perPool", "preferences", "properties", "type", "value", "values"});
     auto const& format = readFormat(node.required("type", what));
     auto const entries = readEntries(node, format);
     auto const ownValue = format.read(node.required("value", what), entries);

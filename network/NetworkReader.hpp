@@ -24,6 +24,8 @@ private:
     void readPool(JsonNode const& node);
     void readObject(JsonNode const& node);
     void readParameter(JsonNode const& node, Kolt::ObjectPtr const& object);
+    /// The parameter with that name, which is not taken.
+    void readParameter(JsonNode const& node, Kolt::ObjectPtr const& object, QString const& name);
     void readPoolValues(JsonNode const& node, Kolt::VParameter const& parameter, ValueFormat const& format,
                         std::vector<std::string> const& entries) const;
     void readSlots(JsonNode const& node, Kolt::ObjectPtr const& object);

@@ -2,11 +2,13 @@
 #include <clocale>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fractal/objects/ObjectFactory.hpp>
 #include <functional>
 #include <lattice/InputRegistry.hpp>
 #include <panel/CommandLine.hpp>
+#include <panel/EndSignals.hpp>
 #include <panel/gallery/Gallery.hpp>
 #include <panel/InstalledFiles.hpp>
 #include <panel/Translations.hpp>
@@ -114,8 +116,24 @@ QString prepare(Talo::Network& network, Panel::CommandLine const& commandLine) {
     return {};
 }
 
-/// Shows the window for as long as somebody uses it.
+// Null unless a panel with unsaved values could end.
+Panel::Recovery* currentRecovery = nullptr;
+
+/// Qt ends the process by exit() when the display is lost. What is on the stack is not destroyed then, so what the rest
+/// of the exit would run must not look at it either.
+void endWithoutDisplay() {
+    if (!currentRecovery)
+        return;
+    currentRecovery->write();
+    say(QCoreApplication::translate("main", "The display is gone."));
+    std::fflush(nullptr);
+    std::_Exit(1);
+}
+
+/// Shows the window for as long as somebody uses it. The status is 0, also where a signal ended the process.
 int show(QWidget& window) {
+    Panel::EndSignals const endSignals;
+    QObject::connect(&endSignals, &Panel::EndSignals::endRequested, [] { QApplication::exit(0); });
     // Drawn larger, a window may outgrow the screen.
     auto const size = window.size().boundedTo(window.screen()->availableSize());
     if (size != window.size() && !window.isMaximized() && !window.isFullScreen())
@@ -196,6 +214,31 @@ void prepareWindow(Panel::MainWindow& window, Panel::CommandLine const& commandL
         window.showObject(commandLine.object);
 }
 
+/// Shows the window with what was kept of earlier starts, and keeps what would be lost.
+int showKept(Panel::MainWindow& window, Panel::CommandLine const& commandLine) {
+    Panel::Session session(Panel::Session::userFile());
+    QObject::connect(&session, &Panel::Session::failed, refuse);
+    if (commandLine.session)
+        session.follow(window);
+    prepareWindow(window, commandLine);
+    Panel::Recovery recovery(window.document(), Panel::Recovery::userFolder());
+    window.follow(recovery);
+    currentRecovery = &recovery;
+    // Registered last, it runs before what Qt, the libraries and the plug-ins do at the end.
+    std::atexit(endWithoutDisplay);
+    int const status = show(window);
+    currentRecovery = nullptr;
+    // A window that was closed has no unsaved values that somebody wants. One that is still there was ended from
+    // outside, by a signal.
+    if (window.isVisible()) {
+        window.commitPendingEdit();
+        recovery.write();
+    } else {
+        recovery.discard();
+    }
+    return status;
+}
+
 int showWindow(Panel::Plugins& plugins, std::unique_ptr<Talo::Network> network, Panel::CommandLine const& commandLine,
                QString const& pluginError) {
     Panel::MainWindow window(plugins);
@@ -203,15 +246,11 @@ int showWindow(Panel::Plugins& plugins, std::unique_ptr<Talo::Network> network, 
         window.messages()->add(Panel::MessageList::Source::Error, pluginError);
     window.tapStandardOutput();
     window.showNetwork(std::move(network));
-    Panel::Session session(Panel::Session::userFile());
-    QObject::connect(&session, &Panel::Session::failed, refuse);
-    if (commandLine.session && !commandLine.isBatch())
-        session.follow(window);
+    if (commandLine.screenshot.isEmpty())
+        return showKept(window, commandLine);
     prepareWindow(window, commandLine);
-    if (!commandLine.screenshot.isEmpty())
-        return draw(
-            window, [&] { return window.fractalController().isAtRest(); }, commandLine.screenshot);
-    return show(window);
+    return draw(
+        window, [&] { return window.fractalController().isAtRest(); }, commandLine.screenshot);
 }
 
 int run(Panel::CommandLine const& commandLine) {

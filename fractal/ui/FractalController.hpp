@@ -39,6 +39,8 @@ public:
     QAction* previewAction() const;
     PreviewRenderer const& previewRenderer() const { return *previewRenderer_; }
     RenderQueue const& renderQueue() const { return *renderQueue_; }
+    /// Says which picture is still being written to a file; empty where none is.
+    QString unwrittenPicture() const { return renderQueue_->unwritten(); }
     /// Whether the preview stays as it is unless something changes.
     bool isAtRest() const { return previewRenderer_->isAtRest(); }
 

@@ -75,6 +75,13 @@ QString RenderQueue::description() const {
     return jobs_.empty() ? QString() : tr("Computing %1").arg(jobs_.front()->title());
 }
 
+QString RenderQueue::unwritten() const {
+    for (auto const& job : jobs_)
+        if (job->isToBeWritten())
+            return tr("%1 is still being written.").arg(job->title());
+    return {};
+}
+
 void RenderQueue::post(std::shared_ptr<PictureJob> const& job) {
     jobs_.push_back(job);
     worker_->post(job);

@@ -32,6 +32,8 @@ public:
     int percent() const;
     /// What is being computed, for people; empty while nothing is.
     QString description() const;
+    /// What is still to be written to a file, for people; empty where nothing is.
+    QString unwritten() const;
 
 signals:
     /// It began or ended to compute, or made progress.

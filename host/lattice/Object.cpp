@@ -6,17 +6,32 @@ namespace Kolt {
 
 VObject::VObject(std::string const& name) : VManagedDomainObject<VObject>(name) {}
 
-VObject::~VObject() = default;
+VObject::~VObject() {
+    for (auto const& parameter : parameters_)
+        leave(*parameter);
+}
 
 void VObject::addParameter(ParameterPtr const& parameter) {
-    if (parameter)
-        parameters_.push_back(parameter);
+    if (!parameter)
+        return;
+    parameters_.push_back(parameter);
+    parameter->object_ = this;
+}
+
+void VObject::leave(VParameter& parameter) const {
+    // Another object may have it, too.
+    if (parameter.object_ == this)
+        parameter.object_ = nullptr;
 }
 
 void VObject::removeParameter(ParameterPtr const& parameter) {
     // Destroyed last: its destruction may use the list.
     auto const held = parameter;
-    parameters_.erase(std::remove(parameters_.begin(), parameters_.end(), held), parameters_.end());
+    auto const found = std::find(parameters_.begin(), parameters_.end(), held);
+    if (found == parameters_.end())
+        return;
+    leave(*held);
+    parameters_.erase(found);
 }
 
 ParameterPtr VObject::findParameter(std::string const& name) const {

@@ -28,6 +28,9 @@ public:
     virtual void run(PoolPtr const& pool);
 
 private:
+    /// The parameter is no longer one of this object.
+    void leave(VParameter& parameter) const;
+
     std::vector<ParameterPtr> parameters_;
 };
 

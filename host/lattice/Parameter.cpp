@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/EditRecorder.hpp>
+#include <lattice/Object.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <lattice/ValueCreator.hpp>
 
@@ -124,15 +125,23 @@ void VParameter::notifyValueChange(ValuePtr const& value, PoolPtr const& pool, s
         notify(source, alsoNotify, live, context, values);
 }
 
+std::string VParameter::fullName() const {
+    return object_ ? object_->Name() + '.' + name_ : name_;
+}
+
 void VParameter::setProperty(std::string const& name, ValuePtr const& value,
                              Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                              Tessera::WeakPtr<ValuePool> const& pool) {
     auto const expected = value ? expectedPropertyType(declaredType_, name) : std::string();
     if (!expected.empty() && expected != Tessera::Typename(value->valueType()))
-        VActionNotifier::Warning("The property \"" + name + "\" of the parameter \"" + name_ + "\" should be of type " +
-                                 expected + ", not " + Tessera::Typename(value->valueType()));
+        VActionNotifier::Warning("The property \"" + name + "\" of the parameter \"" + fullName() +
+                                 "\" should be of type " + expected + ", not " + Tessera::Typename(value->valueType()));
     if (!properties_)
         properties_ = std::make_shared<ValueMap>();
+    if (source.alive() && !properties_->getValue(name))
+        filledIn_.insert(name);
+    else
+        filledIn_.erase(name);
     properties_->setValue(name, value);
 
     auto const properties = properties_;
@@ -154,7 +163,7 @@ void VParameter::AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, in
 }
 
 void reportRefusedStore(VParameter const& parameter, std::type_info const& valueType, PoolPtr const& pool) {
-    auto const parameterName = "the parameter \"" + parameter.Name() + '"';
+    auto const parameterName = "the parameter \"" + parameter.fullName() + '"';
     auto const value =
         parameter.keepsValuesPerPool() ? parameter.getLocalValue(pool, std::string(), false) : parameter.ownValue();
     if (value)

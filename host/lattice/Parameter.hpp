@@ -6,6 +6,7 @@
 #include <lattice/ValueSnapshot.hpp>
 #include <memory>
 #include <optional>
+#include <set>
 #include <tessera/Export.hpp>
 #include <type_traits>
 
@@ -13,6 +14,7 @@ namespace Kolt {
 
 class EditRecorder;
 class UndoHistory;
+class VObject;
 class VParameter;
 
 using ParameterPtr = Tessera::StrongPtr<VParameter, ValueNotifierList>;
@@ -43,6 +45,8 @@ public:
 
     /// The name, UTF-8. In a name with dots the part after the last one names the parameter, the rest its group.
     std::string Name() const { return name_; }
+    /// "object.parameter", for messages; the name alone while no object has the parameter.
+    std::string fullName() const;
     /// The readable name of the type by which editors are chosen.
     std::string const& declaredType() const { return declaredType_; }
 
@@ -99,6 +103,9 @@ public:
     /// warning (VActionNotifier::Warning).
     void setProperty(std::string const& name, ValuePtr const& value, Tessera::WeakPtr<ValueNotifier> const& source,
                      ValueNotifierList const* alsoNotify, Tessera::WeakPtr<ValuePool> const& pool);
+    /// Whether an editor filled the property in because it was missing, and nobody has set it since: a notifier was the
+    /// source. Such a property says nothing about the parameter and is not saved.
+    bool isFilledIn(std::string const& property) const { return filledIn_.count(property) != 0; }
 
     /// The preferences with which an editor for this parameter is chosen; null for none. The set is shared, not copied.
     PreferencesPtr const& creationPreferences() const { return preferences_; }
@@ -117,6 +124,7 @@ public:
 
 private:
     friend class EditRecorder;
+    friend class VObject;
     struct LocalValue {
         Tessera::WeakPtr<ValuePool> pool;
         ValuePtr value;
@@ -132,11 +140,14 @@ private:
     mutable std::vector<LocalValue> localValues_;
     // Shared, as a notifier may destroy the parameter during a notification.
     std::shared_ptr<ValueMap> properties_;
+    std::set<std::string> filledIn_;
     PreferencesPtr preferences_;
     std::unique_ptr<ValueSnapshot> defaults_;
     std::weak_ptr<EditRecorder> recorder_;
     Tessera::WeakPtr<UndoHistory> history_;
     std::optional<bool> edited_;
+    // The object that has the parameter, which tells when it no longer has it; null for none.
+    VObject const* object_ = nullptr;
 };
 
 /// The update step: marks the value that is effective in the pool as changed, by a new age stamp.

@@ -24,7 +24,7 @@ private:
 void explainMissingPool(Editor& editor, VParameter const& parameter, ValuePoolSource const* poolSource) {
     if (!poolSource) {
         editor.choice.explanation += ", but without a pool source it drops every edit";
-        VActionNotifier::Warning("The editor of the parameter \"" + parameter.Name() +
+        VActionNotifier::Warning("The editor of the parameter \"" + parameter.fullName() +
                                  "\" has no pool source: it drops every edit");
     } else if (!currentPool(poolSource)) {
         editor.choice.explanation += ", but it drops every edit as long as its source has no pool";

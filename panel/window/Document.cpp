@@ -16,6 +16,7 @@ Document::Document(QObject* parent) : QObject(parent) {
     modifiedTimer_.setSingleShot(true);
     modifiedTimer_.setInterval(modifiedDelay);
     connect(&modifiedTimer_, &QTimer::timeout, this, &Document::checkModified);
+    connect(&guard_, &FileGuard::changed, this, &Document::fileChanged);
 }
 
 Document::~Document() = default;
@@ -36,6 +37,7 @@ void Document::setNetwork(std::unique_ptr<Talo::Network> network) {
         emit aboutToClose();
     // The old one is deleted after its users have let go of it.
     auto const old = std::exchange(network_, std::move(network));
+    guard_.remember(network_->file());
     for (auto const& object : network_->objects())
         for (auto const& parameter : object->parameters())
             parameter->setHistory(&history_);
@@ -52,6 +54,7 @@ QString Document::save(QString const& file) {
         return tr("No network is open.");
     if (!network_->saveAs(file, &reason))
         return reason;
+    guard_.remember(file);
     checkModified();
     emit saved(file);
     return {};

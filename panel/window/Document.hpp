@@ -3,6 +3,7 @@
 #include <lattice/UndoHistory.hpp>
 #include <memory>
 #include <network/Network.hpp>
+#include <panel/window/FileGuard.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <QObject>
 #include <QTimer>
@@ -28,6 +29,9 @@ public:
     /// Writes the network with its values and uses that file from now on. Returns the reason if that fails.
     QString save(QString const& file);
 
+    /// Whether the file still holds what was opened or saved last.
+    FileGuard::State fileState() const { return guard_.state(); }
+
     /// Compares the values with the saved ones.
     bool isModified() const { return network_ && network_->isModified(); }
     /// Emits `modifiedChanged` a moment from now: to compare all values takes a while.
@@ -49,6 +53,8 @@ signals:
     /// A network file was opened.
     void loaded(QString const& file);
     void saved(QString const& file);
+    /// Another program changed or removed the file.
+    void fileChanged();
     void modifiedChanged(bool modified);
     /// An action of the network was fired; the object that holds it and the parameter may be null, and so may the pool.
     void actionFired(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
@@ -56,6 +62,7 @@ signals:
 private:
     Kolt::UndoHistory history_;
     std::unique_ptr<Talo::Network> network_;
+    FileGuard guard_;
     QTimer modifiedTimer_;
 };
 

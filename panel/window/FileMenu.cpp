@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace Panel {
 
@@ -17,15 +18,10 @@ FileMenu::FileMenu(Document& document, QWidget& window)
     : QMenu(tr("&File"), &window), document_(document), window_(window) {
     auto* const openAction = addAction(tr("&Open..."), this, &FileMenu::askForNetwork, QKeySequence::Open);
     openAction->setObjectName(QStringLiteral("open"));
-    auto* const saveAction = addAction(
-        tr("&Save values"), this,
-        [this] {
-            if (document_.network())
-                save(document_.network()->file());
-        },
-        QKeySequence::Save);
+    auto* const saveAction = addAction(tr("&Save values"), this, &FileMenu::saveOpen, QKeySequence::Save);
     saveAction->setObjectName(QStringLiteral("save"));
-    addAction(tr("Save values &as..."), this, &FileMenu::askForSaveFile, QKeySequence(tr("Ctrl+Shift+S")));
+    addAction(tr("Save values &as..."), this, &FileMenu::askForSaveFile, QKeySequence(tr("Ctrl+Shift+S")))
+        ->setObjectName(QStringLiteral("saveAs"));
     addSeparator();
     addAction(tr("&Quit"), &window_, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
 }
@@ -33,7 +29,7 @@ FileMenu::FileMenu(Document& document, QWidget& window)
 FileMenu::~FileMenu() = default;
 
 void FileMenu::askForNetwork() {
-    if (!mayDiscardChanges())
+    if (!mayClose())
         return;
     auto const current = document_.network() ? document_.network()->file() : QString();
     auto const file = QFileDialog::getOpenFileName(&window_, tr("Open a network"), current, networkFilter());
@@ -43,8 +39,54 @@ void FileMenu::askForNetwork() {
 }
 
 void FileMenu::askForSaveFile() {
-    auto const current = document_.network() ? document_.network()->file() : QString();
-    save(QFileDialog::getSaveFileName(&window_, tr("Save the values"), current, networkFilter()));
+    QFileDialog dialog(&window_, tr("Save the values"), QString(), networkFilter());
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    // What is saved is then among what Open lists.
+    dialog.setDefaultSuffix(QStringLiteral("json"));
+    if (document_.network())
+        dialog.selectFile(document_.network()->file());
+    if (dialog.exec() == QDialog::Accepted)
+        save(dialog.selectedFiles().value(0));
+}
+
+bool FileMenu::saveOpen() {
+    return document_.network() && mayOverwrite() && save(document_.network()->file());
+}
+
+bool FileMenu::mayOverwrite() {
+    auto const state = document_.fileState();
+    if (state == FileGuard::State::Same)
+        return true;
+    auto const file = document_.network()->file();
+    bool const isGone = state == FileGuard::State::Vanished;
+    QMessageBox box(QMessageBox::Warning, isGone ? tr("The file is gone") : tr("The file was changed"),
+                    isGone ? tr("%1 is gone since it was opened or saved here.").arg(file)
+                           : tr("Another program has changed %1 since it was opened or saved here.").arg(file),
+                    QMessageBox::Save | QMessageBox::Cancel, &window_);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(isGone ? tr("Shall it be written again?")
+                                  : tr("Saving overwrites what the other program wrote."));
+    box.setDefaultButton(QMessageBox::Cancel);
+    return box.exec() == QMessageBox::Save;
+}
+
+bool FileMenu::mayClose() {
+    return mayEndWork() && mayDiscardChanges();
+}
+
+bool FileMenu::mayEndWork() {
+    auto const work = runningWork_ ? runningWork_() : QString();
+    if (work.isEmpty())
+        return true;
+    QMessageBox box(QMessageBox::Warning, tr("Unfinished work"), work, QMessageBox::Cancel, &window_);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("It ends with the network, and its file is not written."));
+    auto* const end = box.addButton(tr("&End it"), QMessageBox::DestructiveRole);
+    end->setObjectName(QStringLiteral("endWork"));
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == end;
 }
 
 bool FileMenu::save(QString const& file) {
@@ -69,7 +111,7 @@ bool FileMenu::mayDiscardChanges() {
     box.setDefaultButton(QMessageBox::Save);
     box.setEscapeButton(QMessageBox::Cancel);
     int const answer = box.exec();
-    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save(document_.network()->file()));
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && saveOpen());
 }
 
 } // namespace Panel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <panel/window/Document.hpp>
 #include <QMenu>
 
@@ -14,8 +15,11 @@ public:
     FileMenu(Document& document, QWidget& window);
     ~FileMenu() override;
 
-    /// Whether the open values may be lost: they are saved, or the user agrees. Saves them if the user wants it.
-    bool mayDiscardChanges();
+    /// Whether the network may be closed: the user agrees that running work ends, and the open values are saved or may
+    /// be lost. Saves them if the user wants it.
+    bool mayClose();
+    /// `work` says what goes on that ends with the network, as a sentence; it is empty while nothing does.
+    void setRunningWork(std::function<QString()> work) { runningWork_ = std::move(work); }
 
 signals:
     /// The network is about to be saved or its unsaved changes to be looked at: pending edits are to be written.
@@ -26,10 +30,15 @@ signals:
 private:
     void askForNetwork();
     void askForSaveFile();
+    bool mayEndWork();
+    bool mayDiscardChanges();
+    bool mayOverwrite();
+    bool saveOpen();
     bool save(QString const& file);
 
     Document& document_;
     QWidget& window_;
+    std::function<QString()> runningWork_;
 };
 
 } // namespace Panel

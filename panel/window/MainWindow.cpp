@@ -2,13 +2,15 @@
 
 #include <panel/look/Look.hpp>
 #include <panel/window/ActivationRepair.hpp>
+#include <panel/window/Centre.hpp>
 #include <panel/window/MessageTexts.hpp>
 #include <parameters/commands/ParameterFilter.hpp>
+#include <parameters/input/FileDialogHelp.hpp>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QFileInfo>
 #include <QMenuBar>
-#include <QSplitter>
 #include <QStatusBar>
 
 namespace Panel {
@@ -35,15 +37,20 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
       messageDock_(new MessageDock(*this)),
       historyView_(new Talo::HistoryView(document_.history())),
       toolBar_(new PoolToolBar),
+      noticeBar_(new NoticeBar),
+      notices_(new FileNotices(document_, *noticeBar_, this)),
       fileMenu_(new FileMenu(document_, *this)),
       pluginMenu_(new PluginMenu(plugins, *this)),
-      rawAction_(new QAction(tr("&Raw values"), this)) {
-    makeCentre();
+      historyDock_(new QDockWidget(tr("History"))),
+      viewMenu_(new ViewMenu(
+          *views_, {messageDock_->toggleViewAction(), historyDock_->toggleViewAction(), fractal_->previewAction()},
+          this)) {
+    setCentralWidget(new Centre(noticeBar_, objectList_, views_));
     makeDocks();
     addToolBar(toolBar_);
     menuBar()->addMenu(fileMenu_);
     makeEditMenu();
-    makeViewMenu();
+    menuBar()->addMenu(viewMenu_);
     menuBar()->addMenu(pluginMenu_);
     connectParts();
     showTitle();
@@ -59,29 +66,17 @@ MainWindow::~MainWindow() {
     document_.history().clear();
 }
 
-void MainWindow::makeCentre() {
-    auto* const splitter = new QSplitter;
-    splitter->addWidget(objectList_);
-    splitter->addWidget(views_);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({220, 780});
-    splitter->setChildrenCollapsible(false);
-    objectList_->setMinimumWidth(160);
-    setCentralWidget(splitter);
-}
-
 void MainWindow::makeDocks() {
     // Qt leaks a dock animation that runs when the window is deleted.
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
     addDockWidget(trailingDockArea(layoutDirection()), fractal_->dock());
     resizeDocks({fractal_->dock()}, {previewWidth}, Qt::Horizontal);
-    auto* const history = new QDockWidget(tr("History"));
-    history->setObjectName(QStringLiteral("historyDock"));
-    history->setWidget(historyView_);
-    addDockWidget(trailingDockArea(layoutDirection()), history);
+    historyDock_->setObjectName(QStringLiteral("historyDock"));
+    historyDock_->setWidget(historyView_);
+    addDockWidget(trailingDockArea(layoutDirection()), historyDock_);
     // The view menu shows it.
-    history->hide();
-    history->toggleViewAction()->setObjectName(QStringLiteral("showHistory"));
+    historyDock_->hide();
+    historyDock_->toggleViewAction()->setObjectName(QStringLiteral("showHistory"));
     statusBar()->addPermanentWidget(fractal_->progressWidget());
     statusBar()->addPermanentWidget(pluginMenu_->statusLabel());
 }
@@ -94,19 +89,6 @@ void MainWindow::makeEditMenu() {
     menu->addSeparator();
     menu->addAction(toolBar_->filterField()->findAction());
     connect(menu, &QMenu::aboutToShow, &commands_, &Talo::ParameterCommands::updateActions);
-}
-
-void MainWindow::makeViewMenu() {
-    auto* const menu = menuBar()->addMenu(tr("&View"));
-    menu->addAction(tr("&New view"), views_, &ViewStack::addView, QKeySequence(tr("Ctrl+N")));
-    menu->addSeparator();
-    rawAction_->setObjectName(QStringLiteral("rawValues"));
-    rawAction_->setCheckable(true);
-    rawAction_->setShortcut(tr("Ctrl+R"));
-    menu->addAction(rawAction_);
-    menu->addAction(messageDock_->toggleViewAction());
-    menu->addAction(static_cast<QDockWidget*>(historyView_->parentWidget())->toggleViewAction());
-    menu->addAction(fractal_->previewAction());
 }
 
 void MainWindow::connectParts() {
@@ -127,11 +109,13 @@ void MainWindow::connectParts() {
     connect(views_, &ViewStack::editorOpened, fractal_.get(), &Fractal::FractalController::followLinks);
     connect(views_, &ViewStack::refused, this, &MainWindow::showRefusal);
     connect(fractal_.get(), &Fractal::FractalController::reported, this, &MainWindow::report);
+    fileMenu_->setRunningWork([this] { return fractal_->unwrittenPicture(); });
     connect(fileMenu_, &FileMenu::commitRequested, this, &MainWindow::commitPendingEdit);
     connect(fileMenu_, &FileMenu::failed, this, &MainWindow::reportError);
+    connect(notices_, &FileNotices::failed, this, &MainWindow::reportError);
+    connect(notices_, &FileNotices::reported, this, &MainWindow::report);
     connect(pluginMenu_, &PluginMenu::reported, this, &MainWindow::report);
     connect(pluginMenu_, &PluginMenu::failed, this, &MainWindow::reportError);
-    connect(rawAction_, &QAction::toggled, views_, &ViewStack::setRawValuesShown);
     connect(toolBar_->filterField(), &QLineEdit::textChanged, this, &MainWindow::applyFilter);
     connect(toolBar_->filterField(), &QLineEdit::returnPressed, this, [this] {
         if (currentView())
@@ -223,6 +207,8 @@ void MainWindow::openEditors() {
 void MainWindow::showTitle() {
     setWindowTitle(network() ? tr("%1[*] – Talo panel").arg(document_.title()) : tr("Talo panel"));
     setWindowFilePath(network() ? network()->file() : QString());
+    auto const file = windowFilePath();
+    setProperty(Talo::FileFolderProperty, file.isEmpty() ? QString() : QFileInfo(file).absolutePath());
 }
 
 void MainWindow::showRefusal(QString const& reason) {
@@ -236,7 +222,7 @@ void MainWindow::reportError(QString const& title, QString const& text) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (fileMenu_->mayDiscardChanges())
+    if (fileMenu_->mayClose())
         QMainWindow::closeEvent(event);
     else
         event->ignore();

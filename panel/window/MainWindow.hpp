@@ -4,10 +4,12 @@
 #include <memory>
 #include <panel/window/Document.hpp>
 #include <panel/window/FileMenu.hpp>
+#include <panel/window/FileNotices.hpp>
 #include <panel/window/MessageDock.hpp>
 #include <panel/window/ObjectList.hpp>
 #include <panel/window/PluginMenu.hpp>
 #include <panel/window/PoolToolBar.hpp>
+#include <panel/window/ViewMenu.hpp>
 #include <panel/window/ViewStack.hpp>
 #include <parameters/commands/HistoryView.hpp>
 #include <parameters/commands/ParameterCommands.hpp>
@@ -50,8 +52,8 @@ public:
     /// Shows the chosen object once more, in a view of its own that can be moved out of the window. Null if no object
     /// is chosen.
     ObjectView* addView() { return views_->addView(); }
-    void setRawValuesShown(bool shown) { rawAction_->setChecked(shown); }
-    bool rawValuesShown() const { return rawAction_->isChecked(); }
+    void setRawValuesShown(bool shown) { viewMenu_->rawValuesAction()->setChecked(shown); }
+    bool rawValuesShown() const { return viewMenu_->rawValuesAction()->isChecked(); }
     /// Shows the parameters that these words find (ParameterFilter), and the objects that have some.
     void setFilter(QString const& words) { toolBar_->filterField()->setText(words); }
     /// From now on lines on standard output are messages, too.
@@ -66,6 +68,11 @@ public:
     Kolt::UndoHistory& history() { return document_.history(); }
     /// Computes and shows the network's picture.
     Fractal::FractalController& fractalController() { return *fractal_; }
+
+    /// Says when another panel has the network's file open, and asks whether values that a panel left behind are to be
+    /// restored. `recovery`, of this window's document, must outlive the window's event loop.
+    void follow(Recovery& recovery) { notices_->follow(recovery); }
+    Document& document() { return document_; }
 
     /// Ends the edit that goes on: a typed text that waits for its field to be left is written.
     void commitPendingEdit() { Talo::commitPendingEdit(*this); }
@@ -88,10 +95,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void makeCentre();
     void makeDocks();
     void makeEditMenu();
-    void makeViewMenu();
     void connectParts();
 
     void showOpened(Talo::Network* network);
@@ -124,9 +129,12 @@ private:
     MessageDock* const messageDock_;
     Talo::HistoryView* const historyView_;
     PoolToolBar* const toolBar_;
+    NoticeBar* const noticeBar_;
+    FileNotices* const notices_;
     FileMenu* const fileMenu_;
     PluginMenu* const pluginMenu_;
-    QAction* const rawAction_;
+    QDockWidget* const historyDock_;
+    ViewMenu* const viewMenu_;
 };
 
 } // namespace Panel

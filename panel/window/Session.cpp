@@ -71,7 +71,7 @@ bool Session::eventFilter(QObject* watched, QEvent* event) {
 
 void Session::restoreWindow() {
     window_->restoreGeometry(unsealed(settings_.value(QStringLiteral("window/geometry"))));
-    if (auto* const splitter = qobject_cast<QSplitter*>(window_->centralWidget()))
+    if (auto* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         splitter->restoreState(unsealed(settings_.value(QStringLiteral("window/columns"))));
     window_->setRawValuesShown(settings_.value(QStringLiteral("window/rawValues"), false).toBool());
 }
@@ -107,7 +107,7 @@ void Session::keep() {
     settings_.setValue(QStringLiteral("window/geometry"), sealed(window_->saveGeometry()));
     settings_.setValue(QStringLiteral("window/docks"), sealed(docks));
     settings_.setValue(QStringLiteral("window/rawValues"), window_->rawValuesShown());
-    if (auto const* const splitter = qobject_cast<QSplitter*>(window_->centralWidget()))
+    if (auto const* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         settings_.setValue(QStringLiteral("window/columns"), sealed(splitter->saveState()));
     if (window_->network()) {
         auto const pool = window_->pools().pool();

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <fcntl.h>
 #include <poll.h>
@@ -12,16 +13,18 @@ namespace Panel {
 
 namespace {
 
-void writeAll(int file, char const* data, ssize_t size) {
-    while (size > 0) {
-        auto const written = write(file, data, static_cast<std::size_t>(size));
-        if (written < 0 && errno != EINTR)
-            return;
-        if (written > 0) {
-            data += written;
-            size -= written;
-        }
-    }
+// A pipe that can be written to takes this much at once without a wait.
+constexpr int chunk = PIPE_BUF;
+
+// What is kept for a reader that does not read, in bytes; what is printed beyond that is not forwarded.
+constexpr int mostUnread = 1 << 20;
+
+// How long the end waits for a reader that does not read, in milliseconds.
+constexpr int lastWait = 500;
+
+bool canBeWritten(int file) {
+    pollfd waited{file, POLLOUT, 0};
+    return poll(&waited, 1, 0) > 0;
 }
 
 } // namespace
@@ -55,26 +58,45 @@ StandardOutputTap::~StandardOutputTap() {
 }
 
 void StandardOutputTap::listen() {
-    std::array<pollfd, 2> waited{{{pipe_, POLLIN, 0}, {stop_, POLLIN, 0}}};
+    std::array<pollfd, 3> waited{{{pipe_, POLLIN, 0}, {stop_, POLLIN, 0}, {realOutput_, POLLOUT, 0}}};
     bool stopped = false;
     while (!stopped) {
-        if (poll(waited.data(), waited.size(), -1) < 0 && errno != EINTR)
+        // The real output is waited for only where something is to be written: it is nearly always ready.
+        if (poll(waited.data(), unwritten_.isEmpty() ? 2 : 3, -1) < 0 && errno != EINTR)
             break;
         stopped = waited[1].revents != 0;
-        while (forward())
+        while (take())
             tellLines(false);
+        forward();
     }
+    // Nothing else comes; a reader that merely is slow gets the rest.
+    pollfd output{realOutput_, POLLOUT, 0};
+    while (!unwritten_.isEmpty() && poll(&output, 1, lastWait) > 0)
+        forward();
     tellLines(true);
 }
 
-bool StandardOutputTap::forward() {
-    std::array<char, 4096> buffer{};
+bool StandardOutputTap::take() {
+    std::array<char, chunk> buffer{};
     auto const count = read(pipe_, buffer.data(), buffer.size());
     if (count <= 0)
         return false;
-    writeAll(realOutput_, buffer.data(), count);
+    if (unwritten_.size() < mostUnread)
+        unwritten_.append(buffer.data(), static_cast<int>(count));
     pending_.append(buffer.data(), static_cast<int>(count));
+    forward();
     return true;
+}
+
+void StandardOutputTap::forward() {
+    while (!unwritten_.isEmpty() && canBeWritten(realOutput_)) {
+        auto const size = static_cast<std::size_t>(qMin(unwritten_.size(), chunk));
+        auto const written = write(realOutput_, unwritten_.constData(), size);
+        if (written < 0 && errno == EINTR)
+            continue;
+        // Nobody reads any more, or the disk is full.
+        unwritten_.remove(0, written < 0 ? unwritten_.size() : static_cast<int>(written));
+    }
 }
 
 void StandardOutputTap::tellLines(bool all) {

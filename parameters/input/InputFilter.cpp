@@ -1,5 +1,6 @@
 #include <parameters/input/InputFilter.hpp>
 
+#include <parameters/input/FileDialogHelp.hpp>
 #include <parameters/input/WheelGuard.hpp>
 #include <QCoreApplication>
 #include <QEvent>
@@ -26,6 +27,7 @@ bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
     if (!watched->isWidgetType())
         return false;
     auto* const widget = static_cast<QWidget*>(watched);
+    helpFileDialog(*widget, *event);
     // A guarded wheel changes nothing, so it begins no gesture.
     return WheelGuard::filter(*widget, *event) || gestures_.filter(*widget, *event);
 }

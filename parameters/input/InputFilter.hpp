@@ -7,9 +7,9 @@
 
 namespace Talo {
 
-/// The one event filter that this library installs on the application. It passes events on to the gesture watcher and
-/// to the wheel guards. All panels and guards share it: it is made for the first of them and removed with the last one.
-/// User-interface thread, after the application object was made.
+/// The one event filter that this library installs on the application. It passes events on to the gesture watcher,
+/// the wheel guards and the help for file dialogs. All panels and guards share it: it is made for the first of them and
+/// removed with the last one. User-interface thread, after the application object was made.
 class TALO_EXPORT InputFilter : public QObject {
     Q_OBJECT
 

@@ -235,6 +235,32 @@ TEST_F(FractalControllerTest, TheWindowIsClosedWhileItComputes) {
     window.reset();
 }
 
+TEST_F(FractalControllerTest, ClosingAsksWhileAPictureIsWritten) {
+    makeEndless();
+    set("exporter.picture", path("a.png").toUtf8().constData());
+    ASSERT_TRUE(window->saveValues(path("endless.json")));
+    window->network()->findObject(QStringLiteral("exporter"))->run(window->pools().pool());
+    ASSERT_TRUE(window->fractalController().renderQueue().isComputing());
+    QString question;
+    auto const close = [&](char const* button) {
+        return withModalDialog<QMessageBox>([&] { window->close(); },
+                                            [&](QMessageBox& box) {
+                                                question = box.text();
+                                                auto* const other = box.findChild<QPushButton*>(QLatin1String(button));
+                                                QTest::mouseClick(other ? other : box.button(QMessageBox::Cancel),
+                                                                  Qt::LeftButton);
+                                            });
+    };
+    EXPECT_TRUE(close("cancel"));
+    EXPECT_TRUE(question.contains(path("a.png"))) << qPrintable(question);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(window->fractalController().renderQueue().isComputing());
+    EXPECT_TRUE(close("endWork"));
+    EXPECT_FALSE(window->isVisible());
+    window.reset();
+    EXPECT_FALSE(QFile::exists(path("a.png")));
+}
+
 TEST_F(FractalControllerTest, AnotherNetworkIsOpenedWhileItComputes) {
     makeEndless();
     start();

@@ -65,7 +65,7 @@ TEST_F(NetworkNotSaved, WithAPoolThatChoosesAmongOtherEntries) {
 TEST_F(NetworkNotSaved, WithWhatCouldNotBeLoadedAgain) {
     auto const read = network(withParameters(R"({ "name": "p", "type": "enum", "value": "a", "entries": ["a"] })"));
     parameterOf(*read)->setProperty("wrap", Kolt::makeValue(0), nullptr, nullptr, nullptr);
-    expectRefused(*read, "expected the property \"wrap\", at least 1, found the number 0");
+    expectRefused(*read, "o.p: expected the property \"wrap\", at least 1, found the number 0");
 }
 
 TEST_F(NetworkNotSaved, WhereNoFileCanBe) {
@@ -74,6 +74,51 @@ TEST_F(NetworkNotSaved, WhereNoFileCanBe) {
     EXPECT_FALSE(read->save(path("missing folder/x.json"), &error));
     EXPECT_THAT(error.toStdString(), testing::StartsWith("cannot save " + path("missing folder/x.json").toStdString()));
     EXPECT_FALSE(read->save(path("missing folder/x.json"), nullptr));
+}
+
+/// Something with a reference of its own that hears of a parameter, as an editor does.
+class Listener : public Kolt::ValueNotifier {
+public:
+    void onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) override {}
+};
+
+TEST_F(Network, WhatAnEditorFilledInIsNotSavedUntilSomebodySetsIt) {
+    auto const read =
+        network(withParameters(R"({ "name": "p", "type": "double", "value": 2.5, "properties": { "min": 2.5 } })"));
+    auto const parameter = parameterOf(*read);
+    Tessera::StrongPtr<Kolt::ValueNotifier> const editor(new Listener);
+    parameter->setProperty("max", Kolt::makeValue(1.0), Tessera::WeakPtr<Kolt::ValueNotifier>(editor), nullptr,
+                           nullptr);
+    auto const savedMaximum = [&] {
+        QString error;
+        EXPECT_TRUE(read->save(path("saved.json"), &error)) << error.toStdString();
+        auto const again = Talo::Network::load(path("saved.json"));
+        return again.network ? propertyOf(parameterOf(*again.network), "max") : again.error.toStdString();
+    };
+    EXPECT_EQ(savedMaximum(), "none");
+    parameter->setProperty("max", Kolt::makeValue(5.0), nullptr, nullptr, nullptr);
+    EXPECT_EQ(savedMaximum(), "double 5");
+    parameter->setProperty("max", Kolt::makeValue(6.0), Tessera::WeakPtr<Kolt::ValueNotifier>(editor), nullptr,
+                           nullptr);
+    EXPECT_EQ(savedMaximum(), "double 6") << "a person set it, by the editor";
+}
+
+TEST_F(Network, WhatOnlyShowsAStateIsSavedAsItWasAtTheStart) {
+    auto const read = network(withParameters(
+        R"({ "name": "p", "type": "status", "value": "Ready.", "values": { "draft": "Resting." } },
+           { "name": "q", "type": "info", "value": "0 %" })"));
+    ASSERT_TRUE(read->setText("o.p", "Computing.", read->findPool("draft"), nullptr));
+    ASSERT_TRUE(read->setText("o.p", "Waiting.", read->findPool("final"), nullptr));
+    ASSERT_TRUE(read->setText("o.q", "50 %", nullptr, nullptr));
+    EXPECT_FALSE(read->isModified());
+    ASSERT_TRUE(read->saveAs(path("saved.json"), nullptr));
+    auto const again = Talo::Network::load(path("saved.json"));
+    ASSERT_NE(again.network, nullptr) << again.error.toStdString();
+    EXPECT_EQ(parameterOf(*again.network)->ownValue()->Text(), "Ready.");
+    EXPECT_EQ(parameterOf(*again.network)->effectiveValue(again.network->findPool("draft"))->Text(), "Resting.");
+    EXPECT_EQ(parameterOf(*again.network)->poolsWithValue().size(), 1U);
+    EXPECT_EQ(again.network->findParameter("o.q")->ownValue()->Text(), "0 %");
+    EXPECT_EQ(read->findParameter("o.q")->ownValue()->Text(), "50 %") << "saving changes nothing";
 }
 
 TEST_F(Network, AFreshValueOfAPoolIsSavedAsNothingChosen) {

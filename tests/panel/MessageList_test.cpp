@@ -1,5 +1,6 @@
 #include "support/TaloTest.hpp"
 
+#include <array>
 #include <lattice/ActionNotifier.hpp>
 #include <panel/window/MessageList.hpp>
 #include <panel/window/StandardOutputTap.hpp>
@@ -7,6 +8,7 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <thread>
+#include <unistd.h>
 
 using testing::ElementsAre;
 using Source = Panel::MessageList::Source;
@@ -78,6 +80,60 @@ TEST_F(StandardOutputTapTest, ALongTextPrintedAtOnceBlocksNobody) {
     std::fflush(stdout);
     EXPECT_TRUE(waitUntil([&] { return lines.size() == 2000; }));
     EXPECT_EQ(takeOutput().size(), 2000U);
+}
+
+namespace {
+
+/// Standard output is a pipe with a reader that has not read yet.
+class UnreadPipe {
+public:
+    UnreadPipe() : old_(dup(STDOUT_FILENO)) {
+        std::fflush(stdout);
+        EXPECT_EQ(pipe(ends_.data()), 0);
+        dup2(ends_[1], STDOUT_FILENO);
+        close(ends_[1]);
+    }
+    ~UnreadPipe() {
+        restore();
+        close(ends_[0]);
+    }
+    /// Standard output is what it was before. Returns how much the reader gets until the end.
+    int restore() {
+        std::fflush(stdout);
+        if (old_ < 0)
+            return 0;
+        dup2(old_, STDOUT_FILENO);
+        close(std::exchange(old_, -1));
+        std::array<char, 4096> buffer{};
+        ssize_t count = 0;
+        int all = 0;
+        while ((count = read(ends_[0], buffer.data(), buffer.size())) > 0)
+            all += static_cast<int>(count);
+        return all;
+    }
+
+private:
+    int old_;
+    std::array<int, 2> ends_{};
+};
+
+} // namespace
+
+TEST_F(StandardOutputTapTest, AReaderThatStopsToReadBlocksNobody) {
+    std::string const line(999, 'x');
+    UnreadPipe output;
+    {
+        Panel::StandardOutputTap tap;
+        listenTo(tap);
+        // More than the pipe holds and more than is kept for the reader.
+        for (int count = 0; count < 2000; ++count)
+            std::puts(line.c_str());
+        std::fflush(stdout);
+        EXPECT_TRUE(waitUntil([&] { return lines.size() == 2000; }));
+    }
+    int const received = output.restore();
+    EXPECT_GE(received, 4096);
+    EXPECT_LT(received, 2000 * 1000);
 }
 
 TEST_F(StandardOutputTapTest, HearsChildProcessesAndEndsBeforeThem) {

@@ -72,7 +72,7 @@ TEST_F(SessionTest, BringsBackHowTheWindowStood) {
     window->setRawValuesShown(true);
     window->setGeometry(40, 50, 820, 610);
     window->addDockWidget(Qt::TopDockWidgetArea, messageDock());
-    auto* const splitter = qobject_cast<QSplitter*>(window->centralWidget());
+    auto* const splitter = window->findChild<QSplitter*>("columns");
     splitter->setSizes({300, 500});
     auto const columns = splitter->sizes();
     ASSERT_TRUE(window->close());
@@ -83,7 +83,7 @@ TEST_F(SessionTest, BringsBackHowTheWindowStood) {
     EXPECT_TRUE(window->rawValuesShown());
     EXPECT_EQ(window->geometry(), QRect(40, 50, 820, 610));
     EXPECT_EQ(window->dockWidgetArea(messageDock()), Qt::TopDockWidgetArea);
-    EXPECT_EQ(qobject_cast<QSplitter*>(window->centralWidget())->sizes(), columns);
+    EXPECT_EQ(window->findChild<QSplitter*>("columns")->sizes(), columns);
     EXPECT_EQ(failures, QStringList());
 }
 

@@ -1,50 +1,11 @@
-#include "EditingTest.hpp"
 #include "support/FileDialogs.hpp"
+#include "UnsavedChangesTest.hpp"
 
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QTextEdit>
 #include <QToolButton>
 
 using testing::HasSubstr;
-
-namespace {
-
-class UnsavedChangesTest : public EditingTest {
-protected:
-    QString file() const { return folder.filePath(QStringLiteral("values.json")); }
-    static QByteArray bytesOf(QString const& name) {
-        QFile source(name);
-        EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << qPrintable(name);
-        return source.readAll();
-    }
-    /// Does something that may ask about changes, and answers. Says whether it was asked.
-    static bool answer(QMessageBox::StandardButton button, std::function<void()> const& asking) {
-        bool asked = false;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                asked = true;
-                QTest::mouseClick(box->button(button), Qt::LeftButton);
-            }
-        });
-        timer.start(0);
-        asking();
-        return asked;
-    }
-    bool close(QMessageBox::StandardButton button) const {
-        return answer(button, [this] { window->close(); });
-    }
-    void edit() { click(choice("Blue")); }
-    bool isMarked() const {
-        return waitUntil([this] { return window->isWindowModified(); });
-    }
-    bool isUnmarked() const {
-        return waitUntil([this] { return !window->isWindowModified(); });
-    }
-};
-
-} // namespace
 
 TEST_F(UnsavedChangesTest, TheTitleMarksThem) {
     EXPECT_FALSE(window->isWindowModified());

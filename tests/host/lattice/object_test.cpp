@@ -160,6 +160,19 @@ TEST_F(Objects, AParameterMayBeGivenUpByItsOwnReferenceInTheList) {
     EXPECT_THAT(object_->parameters(), ElementsAre(b_));
 }
 
+TEST_F(Objects, NameTheirParametersInMessages) {
+    EXPECT_EQ(a_->fullName(), "a");
+    object_->addParameter(a_);
+    EXPECT_EQ(a_->fullName(), "object.a");
+    ObjectPtr other(new VObject("other"));
+    other->addParameter(a_);
+    EXPECT_EQ(a_->fullName(), "other.a");
+    object_->removeParameter(a_);
+    EXPECT_EQ(a_->fullName(), "other.a");
+    other.reset();
+    EXPECT_EQ(a_->fullName(), "a");
+}
+
 TEST_F(Objects, TheFirstSlotBoundToAParameterIsFound) {
     StrongPtr<VSlot> const first(new VSlot("first", a_));
     object_->addSlot(first);

@@ -1,0 +1,170 @@
+// What a network says of its values without the rest of a network file, and what it takes over in the same form.
+
+#include <network/Network.hpp>
+
+#include <algorithm>
+#include <network/PoolValues.hpp>
+#include <network/ValueFormat.hpp>
+#include <network/ValueText.hpp>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace Talo {
+
+namespace {
+
+bool failed(QString* error, QString const& reason) {
+    if (error)
+        *error = reason;
+    return false;
+}
+
+/// All values of a parameter; null for what no file can contain.
+QJsonObject valuesToJson(Kolt::VParameter const& parameter, std::vector<Kolt::PoolPtr> const& pools) {
+    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    auto const json = [&](Kolt::ValuePtr const& value) {
+        auto const written = format ? format->write(value) : QJsonValue(QJsonValue::Undefined);
+        return written.isUndefined() ? QJsonValue() : written;
+    };
+    QJsonObject entry{{"value", json(parameter.ownValue())}};
+    if (parameter.keepsValuesPerPool())
+        entry.insert("values", poolValuesToJson(pools, poolValuesOf(parameter), json));
+    return entry;
+}
+
+/// The values of one parameter as valuesToJson wrote them.
+struct ReadValues {
+    Kolt::ValuePtr own;
+    /// For each pool of the network, in their order; null where the pool has no value of its own.
+    std::vector<Kolt::ValuePtr> inPools;
+};
+
+/// Throws a FormatError for what does not fit the parameter or the pools.
+ReadValues readValues(JsonNode const& node, Kolt::VParameter const& parameter,
+                      std::vector<Kolt::PoolPtr> const& pools) {
+    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    if (!format || !parameter.isEdited())
+        node.refuse("a parameter that people edit");
+    auto const* const entries = entriesOf(parameter.ownValue());
+    auto const read = [&](JsonNode const& value) {
+        return format->read(value, entries ? *entries : ValueFormat::Entries());
+    };
+    ReadValues all{read(node.required("value", "the values of a parameter")),
+                   std::vector<Kolt::ValuePtr>(pools.size())};
+    auto const* const values = node.find("values");
+    if (!values)
+        return all;
+    for (auto const& value : values->members("the values of pools")) {
+        auto const pool =
+            std::find_if(pools.begin(), pools.end(), [&](auto const& each) { return nameOfPool(each) == value.key(); });
+        if (pool == pools.end() || !parameter.keepsValuesPerPool())
+            value.refuse("values of the pools of the network", "the pool " + quoted(value.key()));
+        all.inPools[static_cast<std::size_t>(pool - pools.begin())] = read(value);
+    }
+    return all;
+}
+
+/// Stores them and notifies everybody of what changed.
+void applyValues(Kolt::VParameter& parameter, ReadValues const& values, std::vector<Kolt::PoolPtr> const& pools) {
+    auto const& own = parameter.ownValue();
+    bool const isOther = !own->equals(*values.own);
+    if (isOther)
+        own->assign(*values.own);
+    if (!parameter.keepsValuesPerPool()) {
+        if (isOther) {
+            Kolt::markValueChanged(parameter, nullptr);
+            parameter.notifyValueChange(own, nullptr, std::string(), nullptr, nullptr, nullptr);
+        }
+        return;
+    }
+    for (std::size_t index = 0; index < pools.size(); ++index) {
+        auto const& pool = pools[index];
+        auto const& value = values.inPools[index];
+        if (!value)
+            parameter.removeLocalValue(pool);
+        else if (auto const local = parameter.getLocalValue(pool, std::string(), true); !local->assign(*value))
+            parameter.setLocalValue(pool, value);
+        Kolt::markValueChanged(parameter, pool);
+        parameter.notifyValueChange(parameter.effectiveValue(pool), pool, std::string(), nullptr, nullptr, nullptr);
+    }
+}
+
+} // namespace
+
+QByteArray Network::values() const {
+    QJsonObject objects;
+    for (auto const& object : objects_) {
+        QJsonObject parameters;
+        for (auto const& parameter : object->parameters())
+            parameters.insert(QString::fromStdString(parameter->Name()), valuesToJson(*parameter, pools_));
+        objects.insert(QString::fromStdString(object->Name()), parameters);
+    }
+    return QJsonDocument(objects).toJson();
+}
+
+bool Network::isSaved(SavedValue const& saved) const {
+    auto const parameter = saved.parameter.strong();
+    if (!parameter)
+        return true;
+    auto const isEffective = [&](auto const& pool) { return saved.value.isEffectiveIn(*parameter, pool); };
+    return saved.value.isOwnValueOf(*parameter) &&
+           (!parameter->keepsValuesPerPool() || std::all_of(pools_.begin(), pools_.end(), isEffective));
+}
+
+bool Network::isModified() const {
+    return !std::all_of(saved_.begin(), saved_.end(), [this](auto const& saved) { return isSaved(saved); });
+}
+
+QByteArray Network::unsavedValues() const {
+    QJsonObject parameters;
+    for (auto const& saved : saved_)
+        if (!isSaved(saved)) {
+            auto const parameter = saved.parameter.strong();
+            parameters.insert(nameOf(parameter), valuesToJson(*parameter, pools_));
+        }
+    return QJsonDocument(parameters).toJson();
+}
+
+QStringList Network::takeValues(QByteArray const& json) {
+    QStringList refused;
+    try {
+        auto const root = JsonNode::parse(json);
+        for (auto const& node : root.members("values of parameters")) {
+            auto const parameter = findParameter(node.key());
+            try {
+                if (!parameter)
+                    node.refuse("a parameter of the network");
+                applyValues(*parameter, readValues(node, *parameter, pools_), pools_);
+            } catch (FormatError const& error) {
+                refused << node.key() + ": " + error.text;
+            }
+        }
+    } catch (FormatError const& error) {
+        refused << error.text;
+    }
+    return refused;
+}
+
+bool Network::setText(QString const& objectDotParameter, QString const& text, Kolt::PoolPtr const& pool,
+                      QString* error) {
+    auto const parameter = findParameter(objectDotParameter);
+    if (!parameter)
+        return failed(error, "there is no parameter " + quoted(objectDotParameter) + " in the network");
+    bool const perPool = parameter->keepsValuesPerPool();
+    if (perPool && std::find(pools_.begin(), pools_.end(), pool) == pools_.end())
+        return failed(error, quoted(objectDotParameter) + " keeps a value per pool and needs a pool of the network");
+
+    // Read before anything is made: with a wrong text a pool that has no value gets none.
+    auto const read = valueFromText(*parameter, pool, text);
+    if (!read)
+        return failed(error, quoted(text) + " is no value of " + quoted(objectDotParameter) + ", which is of type " +
+                                 QString::fromStdString(parameter->declaredType()));
+
+    auto const value = parameter->getLocalValue(pool, std::string(), true);
+    value->assign(*read);
+    Kolt::markValueChanged(*parameter, pool);
+    parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);
+    return true;
+}
+
+} // namespace Talo

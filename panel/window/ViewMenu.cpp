@@ -1,0 +1,21 @@
+#include <panel/window/ViewMenu.hpp>
+
+#include <panel/window/ViewStack.hpp>
+
+namespace Panel {
+
+ViewMenu::ViewMenu(ViewStack& views, QList<QAction*> const& parts, QWidget* parent)
+    : QMenu(tr("&View"), parent), rawValues_(new QAction(tr("&Raw values"), this)) {
+    addAction(tr("&New view"), &views, &ViewStack::addView, QKeySequence(tr("Ctrl+N")));
+    addSeparator();
+    rawValues_->setObjectName(QStringLiteral("rawValues"));
+    rawValues_->setCheckable(true);
+    rawValues_->setShortcut(tr("Ctrl+R"));
+    addAction(rawValues_);
+    addActions(parts);
+    connect(rawValues_, &QAction::toggled, &views, &ViewStack::setRawValuesShown);
+}
+
+ViewMenu::~ViewMenu() = default;
+
+} // namespace Panel

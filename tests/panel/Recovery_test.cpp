@@ -1,0 +1,183 @@
+#include "support/FullDisk.hpp"
+#include "UnsavedChangesTest.hpp"
+
+#include <panel/window/NoticeBar.hpp>
+#include <panel/window/Recovery.hpp>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using testing::HasSubstr;
+
+namespace {
+
+class RecoveryTest : public UnsavedChangesTest {
+protected:
+    void SetUp() override {
+        UnsavedChangesTest::SetUp();
+        recovery = std::make_unique<Panel::Recovery>(window->document(), states());
+    }
+    void TearDown() override {
+        recovery.reset();
+        UnsavedChangesTest::TearDown();
+    }
+
+    QString states() const { return folder.filePath(QStringLiteral("states")); }
+    QStringList kept() const { return QDir(states()).entryList({QStringLiteral("*.json")}, QDir::Files); }
+    QJsonObject keptValues() const {
+        auto const content = QJsonDocument::fromJson(bytesOf(states() + '/' + kept().value(0))).object();
+        return content.value(QStringLiteral("values")).toObject();
+    }
+    bool isKept() const {
+        return waitUntil([this] { return !kept().isEmpty(); });
+    }
+    /// The panel ends without its close, and another one opens the file.
+    void crash() {
+        recovery.reset();
+        window = std::make_unique<Panel::MainWindow>(plugins);
+        ASSERT_TRUE(window->openNetwork(file()));
+        window->show();
+        recovery = std::make_unique<Panel::Recovery>(window->document(), states());
+    }
+    /// Follows the recovery and answers the question by the button. Says whether there was one.
+    bool answerQuestion(char const* button) {
+        bool asked = false;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                auto* const chosen = box->findChild<QPushButton*>(QLatin1String(button));
+                QTest::keyClick(box, Qt::Key_Escape);
+                if (!chosen)
+                    return;
+                asked = true;
+                question = box->text() + ' ' + box->informativeText();
+                EXPECT_TRUE(box->isVisible()) << "the question must be answered";
+                QTest::mouseClick(chosen, Qt::LeftButton);
+            }
+        });
+        timer.start(0);
+        window->follow(*recovery);
+        QTest::qWait(50);
+        return asked;
+    }
+
+    std::unique_ptr<Panel::Recovery> recovery;
+    QString question;
+};
+
+} // namespace
+
+TEST_F(RecoveryTest, KeepsWhatIsUnsavedAFewSecondsAfterAnEdit) {
+    edit();
+    EXPECT_TRUE(kept().isEmpty());
+    ASSERT_TRUE(isKept());
+    EXPECT_EQ(keptValues(), (QJsonObject{{"all.enum", QJsonObject{{"value", "Blue"}}}}));
+    action("undo")->trigger();
+    EXPECT_TRUE(waitUntil([this] { return kept().isEmpty(); })) << "nothing is unsaved any more";
+}
+
+TEST_F(RecoveryTest, ForgetsWhatIsSaved) {
+    edit();
+    ASSERT_TRUE(isKept());
+    ASSERT_TRUE(window->saveValues(file()));
+    EXPECT_TRUE(kept().isEmpty());
+}
+
+TEST_F(RecoveryTest, GivesBackWhatAPanelLeftBehind) {
+    edit();
+    set("all.int", "99");
+    recovery->write();
+    auto const edited = valuesNow();
+    crash();
+    EXPECT_NE(valuesNow(), edited);
+    EXPECT_TRUE(answerQuestion("restore"));
+    EXPECT_THAT(question.toStdString(), HasSubstr("Values"));
+    EXPECT_THAT(question.toStdString(),
+                HasSubstr(QLocale().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString()));
+    EXPECT_EQ(valuesNow(), edited);
+    EXPECT_TRUE(isMarked());
+    EXPECT_EQ(kept().size(), 1) << "they are still not saved";
+    EXPECT_THAT(row("enum")->modifiedIndicator()->toolTip().toStdString(), HasSubstr("Default: Red"));
+}
+
+TEST_F(RecoveryTest, GivesUpWhatIsDiscarded) {
+    edit();
+    recovery->write();
+    crash();
+    EXPECT_TRUE(answerQuestion("discard"));
+    EXPECT_EQ(held("enum"), "Red");
+    EXPECT_TRUE(kept().isEmpty());
+    crash();
+    EXPECT_FALSE(answerQuestion("discard"));
+}
+
+TEST_F(RecoveryTest, WhatNobodyDecidedUponStays) {
+    edit();
+    recovery->write();
+    crash();
+    window->document().checkModified();
+    crash();
+    EXPECT_TRUE(answerQuestion("restore"));
+    EXPECT_EQ(held("enum"), "Blue");
+}
+
+TEST_F(RecoveryTest, WhatTheFileNoLongerHasIsTold) {
+    edit();
+    set("all.int", "99");
+    recovery->write();
+    auto bytes = bytesOf(file());
+    QFile changed(file());
+    ASSERT_TRUE(changed.open(QIODevice::WriteOnly));
+    changed.write(bytes.replace("\"Blue\"", "\"Grey\""));
+    changed.close();
+    crash();
+    EXPECT_TRUE(answerQuestion("restore"));
+    EXPECT_EQ(held("int"), "99");
+    EXPECT_EQ(held("enum"), "Red");
+    EXPECT_THAT(window->messages()->texts(Panel::MessageList::Source::Error).join(' ').toStdString(),
+                HasSubstr("all.enum"));
+}
+
+TEST_F(RecoveryTest, ASecondPanelSaysSoAndKeepsItsOwn) {
+    EXPECT_FALSE(recovery->isOpenElsewhere());
+    edit();
+    recovery->write();
+    Panel::MainWindow second(plugins);
+    ASSERT_TRUE(second.openNetwork(file()));
+    second.show();
+    Panel::Recovery others(second.document(), states());
+    EXPECT_TRUE(others.isOpenElsewhere());
+    EXPECT_FALSE(others.found().written.isValid()) << "the first panel still has its values";
+    second.follow(others);
+    auto const* const notice = second.findChild<Panel::NoticeBar*>();
+    EXPECT_TRUE(waitUntil([&] { return notice->isVisible(); }));
+    EXPECT_THAT(notice->accessibleName().toStdString(), HasSubstr("another panel"));
+    QString error;
+    ASSERT_TRUE(second.network()->setText("all.int", "7", second.pools().pool(), &error));
+    others.write();
+    EXPECT_EQ(kept().size(), 2);
+}
+
+TEST_F(RecoveryTest, AnotherNetworkHasFilesOfItsOwn) {
+    edit();
+    recovery->write();
+    ASSERT_TRUE(window->openNetwork(networkFile("other.json", lamps)));
+    EXPECT_TRUE(kept().isEmpty()) << "whoever opened it was asked before";
+    EXPECT_FALSE(recovery->isOpenElsewhere());
+    set("lamp.steady", "false");
+    recovery->write();
+    EXPECT_TRUE(keptValues().contains("lamp.steady"));
+}
+
+TEST_F(RecoveryTest, AFullDiskIsToldOnce) {
+    QStringList reasons;
+    QObject::connect(recovery.get(), &Panel::Recovery::failed, [&](QString const& reason) { reasons << reason; });
+    edit();
+    {
+        FullDisk const disk(10);
+        recovery->write();
+        recovery->write();
+    }
+    ASSERT_EQ(reasons.size(), 1);
+    EXPECT_THAT(reasons[0].toStdString(), HasSubstr(states().toStdString()));
+    EXPECT_TRUE(kept().isEmpty());
+}
