@@ -165,6 +165,7 @@ void RowArea::make(Entry& entry) {
     entry.row = new ParameterRow(objectName_, parameter, pools_, section.box);
     connect(entry.row, &ParameterRow::refused, this, &RowArea::refused);
     connect(entry.row, &ParameterRow::defaultChanged, this, &RowArea::defaultChanged);
+    connect(entry.row, &ParameterRow::editorReplaced, this, [this, &entry] { emitEditorOpened(entry); });
     made_.insert(place);
     entry.row->setRawValueShown(rawValuesShown_);
     if (editorsOpen_)
