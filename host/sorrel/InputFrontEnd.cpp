@@ -67,10 +67,9 @@ void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoo
     auto const pool = currentPool(poolSource);
     bool const hadValue = living->getLocalValue(pool, std::string(), false) != nullptr;
     input->onValueChange(living->effectiveValue(pool), VContext(pool, nullptr), nullptr);
-    // Some editors store what they are shown. To look at a pool must not give it a value.
-    auto const stored = living->getLocalValue(pool, std::string(), false);
-    if (!hadValue && stored && stored->equals(*living->ownValue()))
-        living->removeLocalValue(pool);
+    // To look at a pool must not give it a value.
+    if (!hadValue)
+        removeCopyOfOwnValue(*living, pool);
 }
 
 } // namespace Kolt
