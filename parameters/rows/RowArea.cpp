@@ -76,6 +76,12 @@ ParameterRow* RowArea::row(QString const& parameterName) {
     return entry->row;
 }
 
+void RowArea::showRow(QString const& parameterName) {
+    auto* const found = row(parameterName);
+    if (found && found->isVisible())
+        ensureWidgetVisible(found);
+}
+
 void RowArea::openEditors() {
     editorsOpen_ = true;
     // A copy, and a look at each row: a receiver of the signal may scroll, which makes and deletes rows.

@@ -49,8 +49,9 @@ void UnenteredMark::refresh() {
     if (sign_ || !isUnentered(held))
         return;
     toolTip_ = field_.toolTip();
-    auto const reason = held.isEmpty() ? tr("This text is not complete and was not entered. Nothing is held.")
-                                       : tr("This text is not complete and was not entered. %1 is held.").arg(held);
+    auto const reason = held.isEmpty()
+                            ? tr("The text is incomplete, so it was not entered. The value is still empty.")
+                            : tr("The text is incomplete, so it was not entered. The value is still %1.").arg(held);
     sign_ = field_.addAction(field_.style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition);
     sign_->setObjectName(QStringLiteral("unentered"));
     sign_->setToolTip(reason);
