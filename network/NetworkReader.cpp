@@ -142,10 +142,6 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
     object->addParameter(parameter);
     if (poolValues)
         readPoolValues(*poolValues, *parameter, format, entries);
-    // Editors change a selection in place. A pool that fell back on the parameter's own one would change it for all.
-    if (keepsPerPool && format.choosesEntries)
-        for (auto const& pool : network_->pools_)
-            parameter->getLocalValue(pool, std::string(), true);
 
     network_->connectActions(*parameter, object);
     readPreferences(node, *parameter);

@@ -217,6 +217,10 @@ void ParameterPanel::focusFirstEditor() {
     d_->rows->focusFirstControl();
 }
 
+void ParameterPanel::showParameter(QString const& parameterName) {
+    d_->rows->showRow(parameterName);
+}
+
 ParameterRow* ParameterPanel::row(QString const& parameterName) const {
     return d_->rows->row(parameterName);
 }

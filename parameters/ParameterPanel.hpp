@@ -67,6 +67,8 @@ public:
     void showDefaults();
     /// Gives the focus to the first control of the first shown row.
     void focusFirstEditor();
+    /// Scrolls to a parameter by its whole name; nothing if there is none, or the filter hides it.
+    void showParameter(QString const& parameterName);
     /// The row of a parameter by its whole name; made if it does not exist; null if there is no such parameter.
     ParameterRow* row(QString const& parameterName) const;
     /// The scroll area with the rows.

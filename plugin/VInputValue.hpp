@@ -113,8 +113,9 @@ protected:
     }
 
     /// Call it before an edit changes what the cached value refers to. If the owner keeps values per pool, the cache
-    /// takes the value of the input's pool, which is created if it is missing, so that neither the owner's own value
-    /// nor that of another pool changes with it. Without a pool, and if values are shared, the cache is unchanged.
+    /// takes the value of the input's pool; if the pool has none, a copy of the owner's own value, which the commit
+    /// stores. So neither the owner's own value nor that of another pool changes with the edit, and an edit that is
+    /// refused leaves the pool without a value. Without a pool, and if values are shared, the cache is unchanged.
     void cachePoolValue();
 
     /// What a change from elsewhere is to this input. Any thread if the owner's values are shared.
@@ -216,11 +217,12 @@ void VInputValue<T>::cachePoolValue() {
     auto const currentPool = pool();
     if (!parameter || !currentPool || !parameter->keepsValuesPerPool())
         return;
-    bool const isTyped = storedValue<T>(parameter->effectiveValue(currentPool));
-    T value{};
-    // A value of another type is replaced by the edited one, which must not share what the cache refers to either.
-    if (!isTyped || !this->getValue(currentPool, std::string(), value))
-        cached_ = VValueTrait<T>::Clone(cached_);
+    if (this->fetchValue(currentPool, std::string()))
+        return;
+    // A pool's value of another type is replaced by the edited one.
+    if (!parameter->getLocalValue(currentPool, std::string(), false))
+        readOwnValue();
+    cached_ = VValueTrait<T>::Clone(cached_);
 }
 
 template <typename T>

@@ -6,6 +6,7 @@
 #include <fractal/engine/GimpPalette.hpp>
 #include <fractal/objects/EnumNames.hpp>
 #include <lattice/ActionNotifier.hpp>
+#include <lattice/UndoHistory.hpp>
 
 namespace Fractal {
 
@@ -62,12 +63,15 @@ void ColouringObject::run(Kolt::PoolPtr const& pool) {
         Kolt::VActionNotifier::Warning(paletteProblem_.toStdString());
 }
 
+Kolt::ParameterPtr ColouringObject::paletteFileParameter() const {
+    auto const& all = slotList();
+    auto const found =
+        std::find_if(all.begin(), all.end(), [](auto const& slot) { return slot->Name() == "palette file"; });
+    return found == all.end() ? nullptr : (*found)->parameter();
+}
+
 QString ColouringObject::paletteFile(Kolt::PoolPtr const& pool) const {
-    for (auto const& slot : slotList()) {
-        if (slot->Name() == "palette file")
-            return QString::fromStdString(Kolt::valueOr(effectiveValue(slot->parameter(), pool), std::string()));
-    }
-    return {};
+    return QString::fromStdString(Kolt::valueOr(effectiveValue(paletteFileParameter(), pool), std::string()));
 }
 
 bool ColouringObject::readPalette(QString const& file) {
@@ -81,12 +85,20 @@ bool ColouringObject::readPalette(QString const& file) {
 
 void ColouringObject::chooseFilePalette(Kolt::PoolPtr const& pool) {
     auto const parameter = findParameter("palette");
-    // A selection is changed in place, so the pool has to have one of its own first.
-    auto const value = parameter ? parameter->getLocalValue(pool, std::string(), true) : nullptr;
-    auto const selection = Kolt::valueOr(value, Kolt::VStringList());
-    // Also where it is chosen already: the choice is the same, the colours are not.
-    if (selection && selection->select(fromFile))
-        writeValue(parameter, pool, selection);
+    if (!parameter)
+        return;
+    auto const choice = Kolt::copyEffectiveValue(*parameter, pool).value;
+    auto const selection = Kolt::valueOr(choice, Kolt::VStringList());
+    if (!selection || !selection->select(fromFile))
+        return;
+    if (!choice->equals(*parameter->effectiveValue(pool))) {
+        // Undone together with the choice of the file.
+        static_cast<void>(parameter->history().store(parameter, pool, {choice, false}, paletteFileParameter()));
+        return;
+    }
+    // The choice is the same, the colours are not.
+    Kolt::markValueChanged(*parameter, pool);
+    parameter->notifyValueChange(parameter->effectiveValue(pool), pool, std::string(), nullptr, nullptr, nullptr);
 }
 
 } // namespace Fractal

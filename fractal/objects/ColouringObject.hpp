@@ -17,11 +17,14 @@ public:
     /// Reads the palette file if it is needed and was not read yet. A file that cannot be read leaves the palette
     /// without colours, and the settings say why.
     void readFiles(FractalSettings& settings, Kolt::PoolPtr const& pool) override;
-    /// Reads the palette file, also once more, and chooses the palette "From file" in the pool. Where it cannot be read
+    /// Reads the palette file, also once more, and chooses the palette "From file" in the pool; that is undone together
+    /// with the choice of the file. Where it cannot be read
     /// the host is warned, and the choice stays as it is.
     void run(Kolt::PoolPtr const& pool) override;
 
 private:
+    /// The parameter that names the palette file; null for none.
+    Kolt::ParameterPtr paletteFileParameter() const;
     QString paletteFile(Kolt::PoolPtr const& pool) const;
     /// Reads a file and remembers its colours, or why there are none. Whether there are.
     bool readPalette(QString const& file);

@@ -1,7 +1,7 @@
 #include <bramble/FlagList.hpp>
 
+#include <bramble/TextLines.hpp>
 #include <lattice/ValueCreator.hpp>
-#include <sstream>
 
 namespace Kolt {
 
@@ -23,14 +23,16 @@ bool FlagList::isSet(std::string const& name) const {
 std::string VValueTrait<FlagList>::Text(FlagList const& value) {
     std::string text;
     for (auto const& [name, on] : value)
-        text += (text.empty() ? "" : "\n") + name + "=" + VValueTrait<bool>::Text(on);
+        text += (text.empty() ? "" : "\n") + lineOfText(name) + "=" + VValueTrait<bool>::Text(on);
     return text;
 }
 
 bool VValueTrait<FlagList>::setValueFromText(FlagList& value, std::string const& text) {
     auto read = value;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);) {
+    auto lines = textsOfLines(text);
+    if (!lines.empty() && lines.back().empty())
+        lines.pop_back();
+    for (auto const& line : lines) {
         auto const sign = line.rfind('=');
         if (sign == std::string::npos ||
             !VValueTrait<bool>::setValueFromText(read[line.substr(0, sign)], line.substr(sign + 1)))

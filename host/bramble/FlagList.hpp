@@ -46,7 +46,8 @@ using Options = FlagList;
 /// How a list of flags is written. A clone is a copy, and two lists are compared by operator==.
 template <>
 struct TALO_EXPORT VValueTrait<FlagList> : ValueTraitDefaults<FlagList> {
-    /// A line "name=true" or "name=false" for each flag, in order of the names.
+    /// A line "name=true" or "name=false" for each flag, in order of the names. A line feed in a name is written as
+    /// "\n", and a backslash before "n" or another backslash is doubled.
     static std::string Text(FlagList const& value);
     /// Sets the flags that the text names and adds new names; other flags stay as they are. Returns false, and changes
     /// nothing, if the text has any other line.

@@ -1,7 +1,8 @@
 #include <bramble/MultipleStringSelection.hpp>
 
+#include <algorithm>
+#include <bramble/TextLines.hpp>
 #include <lattice/ValueCreator.hpp>
-#include <sstream>
 
 namespace Kolt {
 
@@ -84,28 +85,28 @@ std::string VValueTrait<VMultipleStringList>::Text(VMultipleStringList const& va
     if (!value)
         return text;
     bool first = true;
-    for (auto const& line : *value) {
-        if (!value->isInSelection(line))
+    for (auto const& chosen : *value) {
+        if (!value->isInSelection(chosen))
             continue;
-        text += (first ? "" : "\n") + line;
+        text += (first ? "" : "\n") + lineOfText(chosen);
         first = false;
     }
-    return text;
+    // No line would mean that nothing is chosen.
+    return !first && text.empty() ? "\n" : text;
 }
 
 bool VValueTrait<VMultipleStringList>::setValueFromText(VMultipleStringList& value, std::string const& text) {
     if (!value)
         return false;
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);) {
-        if (!value->contains(line))
-            return false;
-        lines.push_back(line);
-    }
+    auto chosen = textsOfLines(text);
+    // Files and clipboards end their last line, too.
+    if (!chosen.empty() && chosen.back().empty() && !value->contains(std::string()))
+        chosen.pop_back();
+    if (!std::all_of(chosen.begin(), chosen.end(), [&](auto const& each) { return value->contains(each); }))
+        return false;
     value->removeAll();
-    for (auto const& line : lines)
-        value->add(line);
+    for (auto const& each : chosen)
+        value->add(each);
     return true;
 }
 

@@ -58,9 +58,11 @@ using VMultipleStringList = Tessera::StrongPtr<MultipleStringSelection, Tessera:
 /// How a selection is written and compared. Null has an empty text and is never set from one.
 template <>
 struct TALO_EXPORT VValueTrait<VMultipleStringList> {
-    /// The chosen texts in the order of the list, one a line.
+    /// The chosen texts in the order of the list, with a line feed between them. The empty text as the only choice is a
+    /// line feed. A line feed in a text is written as "\n", and a backslash before "n" or another backslash is doubled.
     static std::string Text(VMultipleStringList const& value);
-    /// Replaces the choice. Returns false, and changes nothing, if a line is not in the list.
+    /// Replaces the choice. A line feed at the end is ignored if the list has no empty text. Returns false, and changes
+    /// nothing, if a line is not in the list.
     static bool setValueFromText(VMultipleStringList& value, std::string const& text);
     /// A selection of its own that shares the texts.
     static VMultipleStringList Clone(VMultipleStringList const& value);

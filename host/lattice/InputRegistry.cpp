@@ -68,10 +68,12 @@ VCreationPreferences::Names InputRegistry::wantedPreferences(VParameter const& p
                                                              VCreationPreferences::Names const& frontEnd) {
     static Tessera::NoDestructor<std::string const> textType(Tessera::Typename(typeid(std::string)));
     auto wanted = frontEnd;
-    auto const& own = parameter.creationPreferences();
-    if (own && !own->names().empty())
-        wanted.insert(own->names().begin(), own->names().end());
-    else if (parameter.declaredType() == *textType)
+    auto const& set = parameter.creationPreferences();
+    auto const own = set ? set->names() : VCreationPreferences::Names();
+    wanted.insert(own.begin(), own.end());
+    // A name that configures an editor chooses none.
+    bool const namesEditor = own.size() > own.count("UpdateOnEnterOnly");
+    if (!namesEditor && parameter.declaredType() == *textType)
         wanted.insert(VValueTrait<std::string>::OneLine());
     return wanted;
 }

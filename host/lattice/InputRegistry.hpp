@@ -33,8 +33,8 @@ public:
     /// All living creators, in order of registration.
     std::vector<Entry> entries() const;
 
-    /// The names that a parameter wants of its editor: its own creation preferences, or for a text without any the
-    /// one-line preference, and in either case those of the front end.
+    /// The names that a parameter wants of its editor: its own creation preferences and those of the front end, and for
+    /// a text the one-line preference, if it has no preferences of its own but "UpdateOnEnterOnly".
     static VCreationPreferences::Names wantedPreferences(VParameter const& parameter,
                                                          VCreationPreferences::Names const& frontEnd);
     /// The best creator for a type and a set of wanted names. Among the creators whose set contains all of them: the

@@ -76,7 +76,15 @@ void UndoHistory::record(ValueChange const& change) {
     changed();
 }
 
-bool UndoHistory::store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& value) {
+UndoStep* UndoHistory::continueStepOf(ParameterRef const& cause) {
+    if (steps_.empty() || !cause || !steps_.back()->hasChanged(cause))
+        return nullptr;
+    undone_.clear();
+    return steps_.back().get();
+}
+
+bool UndoHistory::store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& value,
+                        ParameterRef const& cause) {
     if (!parameter)
         return false;
     bool const isStep = !isRestoring();
@@ -91,8 +99,14 @@ bool UndoHistory::store(ParameterPtr const& parameter, PoolPtr const& pool, Effe
             return false;
     }
     ValueChange const change(living, pool, before, copyEffectiveValue(*living, pool));
-    if (isStep && !change.changesNothing())
+    if (!isStep || change.changesNothing())
+        return true;
+    if (auto* const step = continueStepOf(cause)) {
+        step->add(change);
+        changed();
+    } else {
         record(change);
+    }
     return true;
 }
 

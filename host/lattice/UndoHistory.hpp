@@ -40,8 +40,11 @@ public:
     /// Adds a change that was stored already.
     void record(ValueChange const& change);
     /// Applies a value in a pool as a command of the host that can be undone (applyValue). An equal value that is
-    /// effective already makes no step. False where the value cannot be stored, and for a null parameter.
-    [[nodiscard]] bool store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& value);
+    /// effective already makes no step. False where the value cannot be stored, and for a null parameter. If `cause` is
+    /// given and the latest step changed it, the change belongs to that step: what an edit brings about is undone with
+    /// it.
+    [[nodiscard]] bool store(ParameterPtr const& parameter, PoolPtr const& pool, EffectiveValue const& value,
+                             ParameterRef const& cause = {});
 
     /// Opens a macro: all that happens up to the matching endMacro() is one step. Macros may be nested; the outermost
     /// counts. Prefer the scope object Macro.
@@ -108,6 +111,8 @@ private:
 
     /// The step that takes what is recorded now: that of the open macro, or a new one.
     UndoStep& currentStep();
+    /// The latest step, if it changed the parameter, which then has no undone steps after it; null otherwise.
+    UndoStep* continueStepOf(ParameterRef const& cause);
     void insert(OwnStep const& step);
     void remove(OwnStep const& step);
     void changed() const;

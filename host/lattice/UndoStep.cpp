@@ -58,9 +58,12 @@ std::string UndoStep::description() const {
     return records_.empty() ? std::string() : records_.front().action->description();
 }
 
+bool UndoStep::hasChanged(ParameterRef const& parameter) const {
+    return std::any_of(changes_.begin(), changes_.end(), [&](auto const& change) { return change.isOf(parameter); });
+}
+
 bool UndoStep::knowsChangeOf(Record const& record) const {
-    return std::any_of(changes_.begin(), changes_.end(),
-                       [&](auto const& change) { return change.isOf(record.parameter); });
+    return hasChanged(record.parameter);
 }
 
 void UndoStep::add(ValueChange const& change) {

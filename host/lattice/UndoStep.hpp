@@ -70,6 +70,8 @@ public:
 
     /// The changes of values, one for each value, in the order in which the values first changed.
     std::vector<ValueChange> const& changes() const { return changes_; }
+    /// Whether it changed a parameter, in whatever pool.
+    bool hasChanged(ParameterRef const& parameter) const;
     /// The step for people, UTF-8: its first change as "iterations: 400 → 500", or the description of its first record.
     std::string description() const;
 

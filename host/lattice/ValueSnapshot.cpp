@@ -37,7 +37,17 @@ bool applyValue(VParameter& parameter, PoolPtr const& pool, EffectiveValue const
     }
     markValueChanged(parameter, pool);
     parameter.notifyValueChange(local, pool, std::string(), nullptr, nullptr, nullptr);
+    if (held.isInherited)
+        removeCopyOfOwnValue(parameter, pool);
     return true;
+}
+
+void removeCopyOfOwnValue(VParameter& parameter, PoolPtr const& pool) {
+    if (!parameter.keepsValuesPerPool())
+        return;
+    auto const local = parameter.getLocalValue(pool, std::string(), false);
+    if (local && local->equals(*parameter.ownValue()))
+        parameter.removeLocalValue(pool);
 }
 
 ValueSnapshot::ValueSnapshot(VParameter const& parameter) : perPool_(parameter.keepsValuesPerPool()) {

@@ -30,6 +30,10 @@ struct TALO_EXPORT EffectiveValue {
 /// parameter's own value is of another type. REQUIRES: the caller keeps the parameter alive.
 [[nodiscard]] TALO_EXPORT bool applyValue(VParameter& parameter, PoolPtr const& pool, EffectiveValue const& value);
 
+/// Removes the pool's value if it equals the parameter's own value, which is then effective. For callers that show an
+/// inherited value, as some editors store a copy of what they are shown. Notifies nobody.
+TALO_EXPORT void removeCopyOfOwnValue(VParameter& parameter, PoolPtr const& pool);
+
 /// Copies of all values of a parameter: its own and those of its pools. REQUIRES: all operations of a snapshot are
 /// given the parameter that it was made of. User-interface thread.
 class TALO_EXPORT ValueSnapshot {

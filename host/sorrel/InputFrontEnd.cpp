@@ -63,8 +63,13 @@ void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoo
     auto const input = editor.input.strong();
     if (!input || !parameter || !parameter->keepsValuesPerPool())
         return;
+    auto const living = parameter;
     auto const pool = currentPool(poolSource);
-    input->onValueChange(parameter->effectiveValue(pool), VContext(pool, nullptr), nullptr);
+    bool const hadValue = living->getLocalValue(pool, std::string(), false) != nullptr;
+    input->onValueChange(living->effectiveValue(pool), VContext(pool, nullptr), nullptr);
+    // To look at a pool must not give it a value.
+    if (!hadValue)
+        removeCopyOfOwnValue(*living, pool);
 }
 
 } // namespace Kolt

@@ -25,7 +25,8 @@ struct TALO_EXPORT Editor {
                                             ValuePoolSource* poolSource);
 
 /// Shows in an editor the value that is effective in the source's current pool: the pool's value, else the parameter's
-/// own. To be called after the pool was switched. Nothing is written. A parameter with one value shows the same in
+/// own. To be called after the pool was switched. Nothing is written: a copy of the own value that the editor stores
+/// when it is shown the value is removed again. A parameter with one value shows the same in
 /// every pool, so nothing happens for it, nor for a null parameter or a destroyed editor. User-interface thread.
 TALO_EXPORT void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoolSource const* poolSource);
 

@@ -105,6 +105,7 @@ void MainWindow::connectParts() {
     connect(&undoActions_, &Talo::UndoActions::historyChanged, &document_, &Document::checkModifiedLater);
     connect(&undoActions_, &Talo::UndoActions::refused, this,
             [this](QString const& reason) { messages()->add(MessageList::Source::Error, reason); });
+    connect(&undoActions_, &Talo::UndoActions::restored, this, &MainWindow::showChange);
     connect(historyView_, &Talo::HistoryView::stateChosen, &undoActions_, &Talo::UndoActions::goToState);
     connect(views_, &ViewStack::editorOpened, fractal_.get(), &Fractal::FractalController::followLinks);
     connect(views_, &ViewStack::refused, this, &MainWindow::showRefusal);
@@ -209,6 +210,18 @@ void MainWindow::showTitle() {
     setWindowFilePath(network() ? network()->file() : QString());
     auto const file = windowFilePath();
     setProperty(Talo::FileFolderProperty, file.isEmpty() ? QString() : QFileInfo(file).absolutePath());
+}
+
+void MainWindow::showChange(Kolt::UndoStep const& step) {
+    auto const parameter = step.changes().empty() ? nullptr : step.changes().front().parameter();
+    auto const name = parameter ? network()->nameOf(parameter).section(QLatin1Char('.'), 0, 0) : QString();
+    if (name.isEmpty())
+        return;
+    auto const object = network()->findObject(name);
+    if (!views_->visibleView(object))
+        showObject(name);
+    if (auto const* const view = views_->visibleView(object))
+        view->panel()->showParameter(QString::fromStdString(parameter->Name()));
 }
 
 void MainWindow::showRefusal(QString const& reason) {

@@ -107,6 +107,8 @@ private:
     void closeEditors();
     void openEditors();
     void showTitle();
+    /// Shows the first parameter that a step changed, in a view of its object.
+    void showChange(Kolt::UndoStep const& step);
     /// Reports a failure, if there is a reason for one; says whether there is none.
     bool succeeded(QString const& reason, QString* error);
     void report(QString const& text) { messages()->add(MessageList::Source::Panel, text); }

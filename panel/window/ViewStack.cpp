@@ -1,5 +1,6 @@
 #include <panel/window/ViewStack.hpp>
 
+#include <algorithm>
 #include <panel/look/Look.hpp>
 #include <QDockWidget>
 
@@ -17,6 +18,14 @@ ViewStack::~ViewStack() = default;
 
 ObjectView* ViewStack::currentView() const {
     return static_cast<ObjectView*>(currentWidget());
+}
+
+ObjectView* ViewStack::visibleView(Kolt::ObjectPtr const& object) const {
+    auto const all = views();
+    auto const found = std::find_if(all.begin(), all.end(), [&](auto const* view) {
+        return view->object() == object && !view->visibleRegion().isEmpty();
+    });
+    return found == all.end() ? nullptr : *found;
 }
 
 std::vector<ObjectView*> ViewStack::views() const {

@@ -19,6 +19,8 @@ public:
 
     /// The view in the middle; null for none.
     ObjectView* currentView() const;
+    /// A view of the object that can be seen; null for none.
+    ObjectView* visibleView(Kolt::ObjectPtr const& object) const;
     /// All views, those in docks included.
     std::vector<ObjectView*> views() const;
 

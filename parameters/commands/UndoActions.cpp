@@ -41,32 +41,51 @@ void UndoActions::setNaming(ParameterNaming naming) {
     update();
 }
 
-void UndoActions::undo() {
+Kolt::UndoHistory::Step UndoActions::undoStep() {
     filter_->gestures().end();
     auto const step = history_.nextUndo();
     if (!step)
-        return;
+        return nullptr;
     auto const text = undoText(*step, naming_);
-    if (!history_.undo())
-        emit refused(tr("Can no longer be undone: %1").arg(text));
+    if (history_.undo())
+        return step;
+    emit refused(tr("Can no longer be undone: %1").arg(text));
+    return nullptr;
 }
 
-void UndoActions::redo() {
+Kolt::UndoHistory::Step UndoActions::redoStep() {
     filter_->gestures().end();
     auto const step = history_.nextRedo();
     if (!step)
-        return;
+        return nullptr;
     auto const text = undoText(*step, naming_);
-    if (!history_.redo())
-        emit refused(tr("Can no longer be redone: %1").arg(text));
+    if (history_.redo())
+        return step;
+    emit refused(tr("Can no longer be redone: %1").arg(text));
+    return nullptr;
+}
+
+void UndoActions::undo() {
+    if (auto const step = undoStep())
+        emit restored(*step);
+}
+
+void UndoActions::redo() {
+    if (auto const step = redoStep())
+        emit restored(*step);
 }
 
 void UndoActions::goToState(int steps) {
     auto const done = static_cast<int>(history_.steps().size());
+    Kolt::UndoHistory::Step last;
     for (int count = done; count > steps; --count)
-        undo();
+        if (auto const step = undoStep())
+            last = step;
     for (int count = done; count < steps; ++count)
-        redo();
+        if (auto const step = redoStep())
+            last = step;
+    if (last)
+        emit restored(*last);
 }
 
 void UndoActions::update() {

@@ -31,16 +31,22 @@ public slots:
     void undo();
     /// Ends the gesture that goes on and redoes the step that was undone last.
     void redo();
-    /// Undoes or redoes until that many steps are done, counted from the start of the history.
+    /// Undoes or redoes until that many steps are done, counted from the start of the history. The last one is
+    /// `restored`.
     void goToState(int steps);
 
 signals:
     /// A step could not be undone or redone: a sentence.
     void refused(QString const& reason);
+    /// A step was undone or redone.
+    void restored(Kolt::UndoStep const& step);
     /// The history changed.
     void historyChanged();
 
 private:
+    /// Ends the gesture that goes on and undoes or redoes a step; null if there is none, or it could not be done.
+    Kolt::UndoHistory::Step undoStep();
+    Kolt::UndoHistory::Step redoStep();
     void update();
 
     Kolt::UndoHistory& history_;

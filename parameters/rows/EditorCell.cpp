@@ -1,15 +1,17 @@
 #include <parameters/rows/EditorCell.hpp>
 
 #include <algorithm>
+#include <bramble/EnumSelection.hpp>
 #include <parameters/input/KeyboardChoice.hpp>
 #include <parameters/input/KeyboardPress.hpp>
 #include <parameters/input/WheelGuard.hpp>
+#include <parameters/rows/ButtonCaption.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
-#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace Talo {
 
@@ -40,13 +42,12 @@ int usefulWidth(QLayout const& layout) {
 /// A button's caption; empty for other controls.
 QString captionOf(QWidget const& control) {
     auto const* const button = qobject_cast<QAbstractButton const*>(&control);
-    if (!button)
-        return {};
-    // One ampersand marks the key, two are one.
-    auto caption = button->text();
-    for (int place = 0; (place = caption.indexOf(QLatin1Char('&'), place)) >= 0; ++place)
-        caption.remove(place, 1);
-    return caption;
+    return button ? shownCaption(*button) : QString();
+}
+
+/// The names among which an enumeration chooses; null for a value of another type.
+Tessera::StrongPtr<Tessera::StringList> namesIn(Kolt::ValuePtr const& value) {
+    return Kolt::valueOr(value, Kolt::Enum()).names();
 }
 
 } // namespace
@@ -60,6 +61,7 @@ QWidget* EditorCell::open(QWidget* parent) {
     auto const parameter = parameter_.strong();
     if (editor_.widget || !parameter)
         return editor_.widget;
+    names_ = namesIn(parameter->effectiveValue(pools_.pool()));
     editor_ = Kolt::makeEditor(parameter, parent, pools_.source());
     isPlaceholder_ = !editor_.widget;
     if (isPlaceholder_)
@@ -96,6 +98,19 @@ std::vector<QWidget*> EditorCell::controls() const {
         return each->window() == editor_.widget->window() && each->focusPolicy() != Qt::NoFocus;
     });
     return controls;
+}
+
+bool EditorCell::canShowValue() const {
+    auto const parameter = parameter_.strong();
+    if (!parameter || !editor_.widget || parameter->declaredType() != Tessera::Typename(typeid(Kolt::Enum)))
+        return true;
+    auto const names = namesIn(parameter->effectiveValue(pools_.pool()));
+    if (!Tessera::sameTexts(names.get(), names_.get()))
+        return false;
+    auto const* const selection = dynamic_cast<Kolt::VEnumSelection const*>(names.get());
+    auto const buttons = editor_.widget->findChildren<QRadioButton*>();
+    return (selection && selection->selectedNumber() >= 0) ||
+           std::none_of(buttons.begin(), buttons.end(), [](auto const* button) { return button->isChecked(); });
 }
 
 void EditorCell::showPool() {

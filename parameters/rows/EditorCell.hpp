@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bramble/Enum.hpp>
 #include <memory>
 #include <parameters/PoolSourceRef.hpp>
 #include <QWidget>
@@ -40,6 +41,10 @@ public:
 
     /// Limits the editor's width to what its controls need and can use. REQUIRES: an open cell.
     void limitWidth();
+    /// Whether the editor can show what the pool source's pool holds. The buttons of an enumeration are those of the
+    /// value with which it was made, and once one is marked, one stays marked. An editor that cannot is to be closed
+    /// and opened again. True for a closed cell.
+    bool canShowValue() const;
     /// Shows what the pool source's pool holds. Nothing is written.
     void showPool();
     /// Names the controls that have no accessible name: `name`, followed by the control's own caption. Makes those
@@ -53,6 +58,8 @@ private:
     PoolSourceRef const pools_;
     Kolt::Editor editor_;
     bool isPlaceholder_ = false;
+    // Those of an enumeration when its editor was made; null for other types.
+    Tessera::StrongPtr<Tessera::StringList> names_;
 };
 
 } // namespace Talo

@@ -5,6 +5,8 @@
 #include <parameters/commands/RowCommands.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/UnenteredMark.hpp>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QHelpEvent>
@@ -93,7 +95,36 @@ void ParameterRow::openEditor() {
     alignEditor();
     nameLabel_->setBuddy(editor);
     cell_.nameControls(lastPart(parameterName_), isEdited);
+    if (isEdited)
+        watchEditor(parameter);
     updateAccessibility();
+}
+
+void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {
+    fileText_ = FileButtonText::makeFor(*cell_.widget(), parameter, pools_);
+    if (auto const* const mark = UnenteredMark::makeFor(*cell_.widget(), parameter, pools_))
+        connect(mark, &UnenteredMark::changed, this, &ParameterRow::updateAccessibility);
+    // Made after the editor, so that it finds what the editor shows.
+    afterEditor_ = std::make_unique<ChangeListener>(parameter, [this] { checkEditor(); });
+}
+
+void ParameterRow::checkEditor() {
+    if (!cell_.canShowValue())
+        reopenEditor();
+    if (!fileText_)
+        return;
+    fileText_->refresh();
+    updateAccessibility();
+}
+
+void ParameterRow::reopenEditor() {
+    auto const* const focus = QApplication::focusWidget();
+    bool const hadFocus = focus && cell_.widget()->isAncestorOf(focus);
+    closeEditor();
+    openEditor();
+    if (hadFocus)
+        cell_.widget()->setFocus();
+    emit editorReplaced();
 }
 
 void ParameterRow::alignEditor() {
@@ -115,12 +146,18 @@ void ParameterRow::alignEditor() {
 }
 
 void ParameterRow::closeEditor() {
+    afterEditor_.reset();
     cell_.close();
     recorder_.reset();
 }
 
 void ParameterRow::showPool() {
-    cell_.showPool();
+    if (cell_.canShowValue())
+        cell_.showPool();
+    else
+        reopenEditor();
+    if (fileText_)
+        fileText_->refresh();
     if (rawValue_)
         rawValue_->refresh();
     showDefault();

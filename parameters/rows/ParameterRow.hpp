@@ -3,7 +3,9 @@
 #include <lattice/EditRecorder.hpp>
 #include <memory>
 #include <parameters/input/GestureTarget.hpp>
+#include <parameters/rows/ChangeListener.hpp>
 #include <parameters/rows/EditorCell.hpp>
+#include <parameters/rows/FileButtonText.hpp>
 #include <parameters/rows/ModifiedIndicator.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
 #include <QLabel>
@@ -95,6 +97,8 @@ signals:
     void refused(QString const& reason);
     /// The parameter has another default.
     void defaultChanged();
+    /// Another editor was made, as the one before could not show the value.
+    void editorReplaced();
 
 protected:
     bool event(QEvent* event) override;
@@ -104,6 +108,10 @@ private:
     void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
     void alignEditor();
+    void watchEditor(Kolt::ParameterPtr const& parameter);
+    /// After a change of the value: makes an editor anew that cannot show it.
+    void checkEditor();
+    void reopenEditor();
     void makeIndicator();
     void updateAccessibility();
     void showNote();
@@ -125,6 +133,9 @@ private:
     // How the name is aligned with the editor.
     Qt::Alignment vertical_ = Qt::AlignVCenter;
     EditorCell cell_;
+    // A child of a file button; null for other editors, and after the editor was deleted.
+    QPointer<FileButtonText> fileText_;
+    std::unique_ptr<ChangeListener> afterEditor_;
     std::shared_ptr<Kolt::EditRecorder> recorder_;
 };
 

@@ -76,6 +76,12 @@ ParameterRow* RowArea::row(QString const& parameterName) {
     return entry->row;
 }
 
+void RowArea::showRow(QString const& parameterName) {
+    auto* const found = row(parameterName);
+    if (found && found->isVisible())
+        ensureWidgetVisible(found);
+}
+
 void RowArea::openEditors() {
     editorsOpen_ = true;
     // A copy, and a look at each row: a receiver of the signal may scroll, which makes and deletes rows.
@@ -165,6 +171,7 @@ void RowArea::make(Entry& entry) {
     entry.row = new ParameterRow(objectName_, parameter, pools_, section.box);
     connect(entry.row, &ParameterRow::refused, this, &RowArea::refused);
     connect(entry.row, &ParameterRow::defaultChanged, this, &RowArea::defaultChanged);
+    connect(entry.row, &ParameterRow::editorReplaced, this, [this, &entry] { emitEditorOpened(entry); });
     made_.insert(place);
     entry.row->setRawValueShown(rawValuesShown_);
     if (editorsOpen_)

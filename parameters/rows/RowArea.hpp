@@ -39,6 +39,8 @@ public:
     std::vector<ParameterRow*> rows() const;
     /// The row of a parameter by its whole name, made if it does not exist; null if there is no such parameter.
     ParameterRow* row(QString const& parameterName);
+    /// Scrolls to the row of a parameter by its whole name; nothing if there is none, or the filter hides it.
+    void showRow(QString const& parameterName);
 
     /// Makes the editors that `closeEditors` deleted.
     void openEditors();

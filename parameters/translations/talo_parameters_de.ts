@@ -48,6 +48,13 @@
     </message>
 </context>
 <context>
+    <name>Talo::FileButtonText</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Talo::HistoryView</name>
     <message>
         <source>History</source>
@@ -198,6 +205,17 @@
     <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederholen</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::UnenteredMark</name>
+    <message>
+        <source>The text is incomplete, so it was not entered. The value is still empty.</source>
+        <translation>Der Text ist unvollständig und wurde daher nicht übernommen. Der Wert ist weiterhin leer.</translation>
+    </message>
+    <message>
+        <source>The text is incomplete, so it was not entered. The value is still %1.</source>
+        <translation>Der Text ist unvollständig und wurde daher nicht übernommen. Der Wert ist weiterhin %1.</translation>
     </message>
 </context>
 <context>

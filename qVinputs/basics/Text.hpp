@@ -3,6 +3,7 @@
 #include <lattice/Parameter.hpp>
 #include <optional>
 #include <QFont>
+#include <QString>
 #include <string>
 
 namespace Kolt {
@@ -20,6 +21,12 @@ inline std::optional<QFont> smallBoldFont(char const* family) {
     font.setPointSize(8);
     font.setWeight(QFont::Bold);
     return font;
+}
+
+/// A text as the caption of a button that shows it as it is: an ampersand is a letter of it and marks no keyboard
+/// shortcut. Any thread.
+inline QString literalCaption(QString text) {
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 /// The text under a property's name; empty if there is no parameter, no property, or it is no text. User-interface

@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QPointer>
+#include <qVinputs/basics/Text.hpp>
 
 namespace Kolt {
 
@@ -13,9 +14,7 @@ QString labelOf(ParameterPtr const& parameter) {
     if (!parameter)
         return QLatin1String("[doit]");
     auto const name = parameter->Name();
-    auto label = QString::fromStdString(name.substr(name.rfind('.') + 1));
-    // An ampersand of a name is a letter, not the mark of a keyboard shortcut.
-    return label.replace(QLatin1Char('&'), QLatin1String("&&"));
+    return literalCaption(QString::fromStdString(name.substr(name.rfind('.') + 1)));
 }
 
 } // namespace

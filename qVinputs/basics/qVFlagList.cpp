@@ -1,6 +1,7 @@
 #include <qVinputs/basics/qVFlagList.hpp>
 
 #include <plugin/QInputWidgetCreator.hpp>
+#include <qVinputs/basics/Text.hpp>
 
 namespace Kolt {
 
@@ -48,7 +49,7 @@ void qVFlagList::makeMissingBoxes() {
         auto& box = boxes_[name];
         made = made || !box;
         if (!box)
-            box = new QCheckBox(QString::fromStdString(name));
+            box = new QCheckBox(literalCaption(QString::fromStdString(name)));
     }
     if (!made)
         return;

@@ -43,6 +43,11 @@ QItemSelection maximalRuns(std::vector<bool> const& rows, QAbstractItemModel con
     return runs;
 }
 
+/// The number of the last chosen row; -1 for none.
+int lastOf(std::vector<bool> const& rows) {
+    return static_cast<int>(rows.rend() - std::find(rows.rbegin(), rows.rend(), true)) - 1;
+}
+
 std::string rowText(QListWidgetItem const& item) {
     return item.data(Qt::DisplayRole).toString().toStdString();
 }
@@ -126,18 +131,20 @@ void qVMultipleStringList::showValue(ValuePtr const& value) {
         chosen.push_back(cached_->isInSelection(text));
     }
     list_->insertItems(0, texts);
-    selectRows(chosen);
+    int const lastChosen = lastOf(chosen);
+    // Of rows that are filled in one by one, the next row ends the selection of the one before.
+    bool const isLastRow = lastChosen != NoRow && lastChosen == rowCount() - 1;
+    if (isLastRow)
+        chosen.back() = false;
+    showRows(chosen, isLastRow ? lastChosen : NoRow, true);
 
     auto const hint = list_->sizeHint();
     int const width = std::min(std::max(widthOfTexts(), hint.width()), QWIDGETSIZE_MAX);
     int const height = static_cast<int>(hint.height() * 1.3);
     list_->resize(width, height);
-    auto const lastChosen = std::find(chosen.rbegin(), chosen.rend(), true);
-    if (lastChosen != chosen.rend()) {
-        auto const row = static_cast<int>(chosen.rend() - lastChosen) - 1;
-        // To become current by itself would toggle the row.
-        list_->setCurrentRow(row, QItemSelectionModel::NoUpdate);
-    }
+    // To become current by itself would toggle the row.
+    if (lastChosen != NoRow)
+        list_->setCurrentRow(lastChosen, QItemSelectionModel::NoUpdate);
     resize(width, height);
     setFixedSize(width, height);
     if (auto* const parent = parentWidget())
@@ -171,13 +178,16 @@ qVMultipleStringList::Rows qVMultipleStringList::selectedRows() const {
     return rows;
 }
 
-void qVMultipleStringList::selectRows(Rows const& rows) {
+void qVMultipleStringList::showRows(Rows const& rows, int last, bool chosen) {
     if (!list_)
         return;
     DrawingPause const pause(list_);
     // A selection of many ranges on top of another one would compare each range with each.
     list_->selectionModel()->clearSelection();
     list_->selectionModel()->select(maximalRuns(rows, *list_->model()), QItemSelectionModel::Select);
+    // This ends the selection of the ranges.
+    list_->selectionModel()->select(list_->model()->index(last, 0),
+                                    chosen ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
 }
 
 void qVMultipleStringList::commitChoice() {
@@ -201,7 +211,10 @@ void qVMultipleStringList::chooseSelectedRows() {
 
 void qVMultipleStringList::chooseAll() {
     cachePoolValue();
-    selectRows(Rows(static_cast<std::size_t>(rowCount()), true));
+    Rows rows(static_cast<std::size_t>(rowCount()), true);
+    if (!rows.empty())
+        rows.back() = selectedRows().back();
+    showRows(rows, rowCount() - 1, true);
     if (cached_)
         cached_->addAll();
     commitChoice();
@@ -209,7 +222,13 @@ void qVMultipleStringList::chooseAll() {
 
 void qVMultipleStringList::chooseNone() {
     cachePoolValue();
-    selectRows(Rows(static_cast<std::size_t>(rowCount()), false));
+    auto const selected = list_ ? list_->selectedItems() : QList<QListWidgetItem*>();
+    if (!selected.isEmpty()) {
+        int const last = list_->row(selected.last());
+        Rows rows(static_cast<std::size_t>(rowCount()));
+        rows[static_cast<std::size_t>(last)] = true;
+        showRows(rows, last, false);
+    }
     if (cached_)
         cached_->removeAll();
     commitChoice();
@@ -218,23 +237,25 @@ void qVMultipleStringList::chooseNone() {
 void qVMultipleStringList::invertChoice() {
     cachePoolValue();
     auto rows = selectedRows();
+    bool const wasLastChosen = !rows.empty() && rows.back();
     rows.flip();
-    selectRows(rows);
+    if (!rows.empty())
+        rows.back() = wasLastChosen;
+    showRows(rows, rowCount() - 1, !wasLastChosen);
     if (cached_)
         cached_->invertAll();
     commitChoice();
 }
 
-void qVMultipleStringList::addOrRemoveRows(Rows const& rows) {
+void qVMultipleStringList::addOrRemoveRows(AppliedRows const& series) {
     cachePoolValue();
     bool const add = !removeBox_ || !removeBox_->isChecked();
     auto selected = selectedRows();
     for (int row = 0; row < rowCount(); ++row) {
         auto const place = static_cast<std::size_t>(row);
-        if (!rows[place])
-            continue;
-        selected[place] = add;
-        if (!cached_)
+        if (series.rows[place])
+            selected[place] = add;
+        if (!cached_ || (!series.rows[place] && row != series.last))
             continue;
         auto const text = rowText(*list_->item(row));
         if (add)
@@ -242,7 +263,8 @@ void qVMultipleStringList::addOrRemoveRows(Rows const& rows) {
         else
             cached_->removeFromSelection(text);
     }
-    selectRows(selected);
+    if (series.last != NoRow)
+        showRows(selected, series.last, add);
     commitChoice();
 }
 
@@ -267,20 +289,22 @@ void qVMultipleStringList::wildSelect() {
     QRegularExpression const pattern(
         QRegularExpression::wildcardToRegularExpression(wildcardEdit_ ? wildcardEdit_->text() : QString()),
         QRegularExpression::CaseInsensitiveOption);
-    Rows rows(static_cast<std::size_t>(rowCount()));
-    for (int row = 0; pattern.isValid() && row < rowCount(); ++row)
-        rows[static_cast<std::size_t>(row)] = pattern.match(list_->item(row)->text()).hasMatch();
-    addOrRemoveRows(rows);
+    AppliedRows matching{Rows(static_cast<std::size_t>(rowCount()))};
+    for (int row = 0; pattern.isValid() && row < rowCount(); ++row) {
+        if (pattern.match(list_->item(row)->text()).hasMatch())
+            matching.append(static_cast<std::size_t>(row));
+    }
+    addOrRemoveRows(matching);
 }
 
 void qVMultipleStringList::numberSelect() {
-    Rows rows(static_cast<std::size_t>(rowCount()));
+    AppliedRows named{Rows(static_cast<std::size_t>(rowCount()))};
     for (auto const& series :
-         rowsByNumber(numberEdit_ ? numberEdit_->text().toStdString() : std::string(), rows.size())) {
+         rowsByNumber(numberEdit_ ? numberEdit_->text().toStdString() : std::string(), named.rows.size())) {
         for (auto row = series.first; row < series.end; row += series.step)
-            rows[row] = true;
+            named.append(row);
     }
-    addOrRemoveRows(rows);
+    addOrRemoveRows(named);
 }
 
 void qVMultipleStringList::AllButton::mousePressEvent(QMouseEvent* event) {

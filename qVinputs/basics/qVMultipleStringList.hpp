@@ -101,6 +101,21 @@ public slots:
 private:
     /// One entry for each row of the list.
     using Rows = std::vector<bool>;
+    /// No row of the list.
+    static constexpr int NoRow = -1;
+
+    /// Rows to which an action is applied one after the other. The last one is kept apart (showRows).
+    struct AppliedRows {
+        Rows rows;        ///< all but the last one, unless that is applied more than once
+        int last = NoRow; ///< NoRow if there are none
+
+        /// Appends a row.
+        void append(std::size_t row) {
+            if (last != NoRow)
+                rows[static_cast<std::size_t>(last)] = true;
+            last = static_cast<int>(row);
+        }
+    };
 
     /// Explains the fields. The labels are those beside them.
     void setToolTips(QLabel& wildcardLabel, QLabel& numberLabel);
@@ -113,10 +128,13 @@ private:
     int rowCount() const;
     /// The rows that the list shows as chosen.
     Rows selectedRows() const;
-    /// Has the list show these rows as chosen, and no other. Commits nothing.
-    void selectRows(Rows const& rows);
+    /// Has the list show these rows as chosen, and no other, and then the last row as chosen or not; no other if there
+    /// is no last row. Commits nothing.
+    /// While the mouse holds a row, Qt takes back what was selected last as soon as the mouse moves; so that is one
+    /// row, as if each had been selected by itself, and not all of them.
+    void showRows(Rows const& rows, int last, bool chosen);
     /// Adds rows to the choice, or removes them if the box says so, and commits.
-    void addOrRemoveRows(Rows const& rows);
+    void addOrRemoveRows(AppliedRows const& series);
     // The actions of the buttons and of a click. Each one commits.
     void chooseAll();
     void chooseNone();

@@ -31,8 +31,12 @@ qVStringInput::qVStringInput(ParameterRef const& parameter, QWidget* parent, Val
 qVStringInput::~qVStringInput() = default;
 
 void qVStringInput::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
-    if (arrivalOf(newValue, context) != Arrival::OtherPool && take(newValue, properties))
-        setText(QString::fromStdString(cached_));
+    if (arrivalOf(newValue, context) == Arrival::OtherPool || !take(newValue, properties))
+        return;
+    // Qt moves the cursor to the end for an equal text, too.
+    auto const shown = QString::fromStdString(cached_);
+    if (text() != shown)
+        setText(shown);
 }
 
 void qVStringInput::newText() {

@@ -29,7 +29,7 @@ public:
                   PreferencesPtr const& preferences);
     ~qVStringInput() override;
 
-    /// Shows a text; any other value is ignored.
+    /// Shows a text; any other value is ignored. Cursor and selection stay where the text is the shown one.
     void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 public slots:

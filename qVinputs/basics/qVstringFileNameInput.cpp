@@ -47,7 +47,7 @@ void VQStringFileNameInput::onValueChange(ValuePtr const& newValue, VContext con
 }
 
 void VQStringFileNameInput::showName(QString const& name) {
-    setText(QFileInfo(name).baseName());
+    setText(literalCaption(QFileInfo(name).baseName()));
     setToolTip(name);
 }
 

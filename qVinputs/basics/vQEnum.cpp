@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QGridLayout>
+#include <qVinputs/basics/Text.hpp>
 
 namespace Kolt {
 
@@ -26,7 +27,7 @@ vQEnum::vQEnum(ParameterRef const& parameter, QWidget* parent, ValuePoolSource* 
         int column = 0;
         int x = 3;
         for (auto const& name : *names) {
-            auto* const button = new QRadioButton(QString::fromStdString(name), this);
+            auto* const button = new QRadioButton(literalCaption(QString::fromStdString(name)), this);
             layout->addWidget(button, row, column);
             if (names->selectedNumber() == static_cast<int>(buttons_.size()))
                 button->setChecked(true);

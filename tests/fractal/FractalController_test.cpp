@@ -6,6 +6,7 @@
 
 using testing::Contains;
 using testing::HasSubstr;
+using testing::SizeIs;
 using testing::StartsWith;
 
 namespace {
@@ -335,6 +336,35 @@ TEST_F(FractalControllerTest, ChoosingAPaletteColoursThePicture) {
     EXPECT_TRUE(preview()->image() != before);
     EXPECT_EQ(control<QComboBox>("colouring", "palette")->currentText(), QStringLiteral("From file"));
     EXPECT_FALSE(window->fractalController().renderQueue().isComputing());
+}
+
+TEST_F(FractalControllerTest, UndoOfChoosingAPaletteFileTakesItsChoiceBackInOneStep) {
+    auto const file = networkFile("reds.gpl", "GIMP Palette\nName: Reds\n255 0 0\n64 0 0\n");
+    auto* const button = control<QPushButton>("exporter", "palette");
+    auto const choose = [&] {
+        ASSERT_TRUE(withFileDialog([&] { QTest::mouseClick(button, Qt::LeftButton); },
+                                   [&](QFileDialog& dialog) { enterFileName(dialog, file); }));
+        ASSERT_TRUE(waitUntil([&] { return valueOf("colouring.palette") == "From file"; }));
+    };
+    auto const before = window->network()->values();
+    choose();
+    EXPECT_THAT(window->history().steps(), SizeIs(1));
+    window->undo();
+    EXPECT_EQ(valueOf("colouring.palette"), "Embers");
+    EXPECT_EQ(valueOf("exporter.palette"), "");
+    EXPECT_EQ(window->network()->values(), before);
+    window->redo();
+    EXPECT_EQ(valueOf("colouring.palette"), "From file");
+    EXPECT_EQ(valueOf("exporter.palette"), file.toStdString());
+
+    QTest::keyClick(control<QComboBox>("colouring", "palette"), Qt::Key_Home);
+    ASSERT_EQ(valueOf("colouring.palette"), "Embers");
+    window->showObject(QStringLiteral("exporter"));
+    choose();
+    ASSERT_THAT(window->history().steps(), SizeIs(3)) << "the same file again is another choice of the palette";
+    window->undo();
+    EXPECT_EQ(valueOf("colouring.palette"), "Embers");
+    EXPECT_EQ(valueOf("exporter.palette"), file.toStdString());
 }
 
 TEST_F(FractalControllerTest, ABadPaletteAndABadFolderAreWarnedOf) {

@@ -1,5 +1,8 @@
 #include "HistoryTest.hpp"
 
+#include <parameters/rows/RowArea.hpp>
+#include <QScrollBar>
+
 #include "support/WheelTurn.hpp"
 #include <parameters/input/FocusOutline.hpp>
 #include <QColorDialog>
@@ -209,6 +212,45 @@ TEST_F(HistoryTest, UndoWorksInThePoolOfTheEditWhicheverIsChosen) {
     EXPECT_EQ(field("int")->text(), QStringLiteral("40")) << "the chosen pool is still the other one";
     window->choosePool(QStringLiteral("draft"));
     EXPECT_EQ(field("int")->text(), QStringLiteral("20"));
+}
+
+TEST_F(HistoryTest, UndoAndRedoShowTheObjectOfTheChange) {
+    QTest::keyClick(slider("int"), Qt::Key_Right);
+    EXPECT_TRUE(waitUntil([this] { return noGesture(); }));
+    ASSERT_TRUE(window->showObject(QStringLiteral("others")));
+    ASSERT_EQ(window->currentView()->object()->Name(), "others");
+    undo();
+    EXPECT_EQ(window->currentView()->object()->Name(), "all");
+    EXPECT_EQ(window->objectList()->currentItem()->text(0), QStringLiteral("all"));
+    ASSERT_TRUE(window->showObject(QStringLiteral("others")));
+    redo();
+    EXPECT_EQ(window->currentView()->object()->Name(), "all");
+    ASSERT_TRUE(window->showObject(QStringLiteral("others")));
+    window->goToState(0);
+    EXPECT_EQ(window->currentView()->object()->Name(), "all");
+}
+
+TEST_F(HistoryTest, UndoScrollsToTheChange) {
+    window->resize(1000, 400);
+    auto* const area = window->currentView()->panel()->rowArea();
+    auto* const bar = area->verticalScrollBar();
+    EXPECT_TRUE(waitUntil([&] { return bar->maximum() > 0; }));
+    QTest::keyClick(slider("int"), Qt::Key_Right);
+    EXPECT_TRUE(waitUntil([this] { return noGesture(); }));
+    bar->setValue(bar->maximum());
+    EXPECT_TRUE(row("int")->visibleRegion().isEmpty());
+    undo();
+    EXPECT_EQ(row("int")->visibleRegion().boundingRect(), row("int")->rect());
+}
+
+TEST_F(HistoryTest, AViewThatShowsTheChangeAlreadyIsEnough) {
+    QTest::keyClick(slider("int"), Qt::Key_Right);
+    EXPECT_TRUE(waitUntil([this] { return noGesture(); }));
+    auto const* const other = window->addView();
+    EXPECT_TRUE(waitUntil([&] { return !other->visibleRegion().isEmpty(); }));
+    ASSERT_TRUE(window->showObject(QStringLiteral("others")));
+    undo();
+    EXPECT_EQ(window->currentView()->object()->Name(), "others");
 }
 
 TEST_F(HistoryTest, StepsOutliveTheViewOfTheirEdit) {

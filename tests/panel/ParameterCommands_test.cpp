@@ -167,6 +167,25 @@ TEST_F(ParameterCommandsTest, AKeyActsOnTheRowWithTheFocusAfterTheMenuOfAnotherO
     EXPECT_EQ(held("enum"), "Blue");
 }
 
+TEST_F(ParameterCommandsTest, PasteActsOnTheRowWithTheFocusAfterTheMenuOfAnotherOneWasDismissed) {
+    focus("int");
+    QPointer<QMenu> const menu = contextMenu(row("line")->nameLabel());
+    ASSERT_TRUE(menu);
+    QTest::keyClick(menu, Qt::Key_Escape);
+    EXPECT_TRUE(waitUntil([&] { return menu.isNull(); }));
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ASSERT_EQ(Talo::ParameterRow::rowOf(QApplication::focusWidget()), row("int")) << "a menu takes no focus";
+    putText("33");
+    QTest::keyClick(slider("int"), Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(held("int"), "33");
+    EXPECT_EQ(held("line"), "edge");
+    QTest::keyClick(slider("int"), Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(held("int"), "20");
+    action("pasteValue")->trigger();
+    EXPECT_EQ(held("int"), "33");
+}
+
 TEST_F(ParameterCommandsTest, SetAsDefaultMovesTheDefaultAndSavesNothing) {
     QTest::keyClick(slider("int"), Qt::Key_Right);
     ASSERT_TRUE(isMarked("int"));

@@ -7,6 +7,7 @@
 #include <QColorDialog>
 #include <QDockWidget>
 #include <QJsonDocument>
+#include <QListWidget>
 #include <QPushButton>
 
 namespace {
@@ -176,7 +177,22 @@ void RandomWalk::press(QWidget& widget) {
     }
 }
 
+void RandomWalk::disturb(Talo::ParameterRow& row) {
+    auto const parameter = row.parameter();
+    auto const buttons = row.findChild<QListWidget*>() ? row.findChildren<QPushButton*>() : QList<QPushButton*>();
+    if (!buttons.isEmpty() && below(2) == 0)
+        QTest::mouseClick(oneOf(buttons), Qt::LeftButton);
+    else if (parameter && parameter->isEdited())
+        parameter->notifyValueChange(parameter->effectiveValue(row.pool()), row.pool(), std::string(), nullptr, nullptr,
+                                     nullptr);
+}
+
 void RandomWalk::moveOrRelease() {
+    auto* const row = Talo::ParameterRow::rowOf(held_);
+    if (row && below(4) == 0) {
+        disturb(*row);
+        return;
+    }
     auto* const widget = held_ && held_->isVisible() ? held_.data() : static_cast<QWidget*>(&window_);
     auto* const window = widget->window()->windowHandle();
     auto const spread = [&](int length) { return static_cast<int>(below(static_cast<unsigned>(length) + 40)) - 20; };

@@ -43,6 +43,8 @@ private:
     void useMouse();
     void press(QWidget& widget);
     void moveOrRelease();
+    /// The host tells the value of the row that the mouse holds, or one of the row's buttons is pressed meanwhile.
+    void disturb(Talo::ParameterRow& row);
     void turnWheel();
     void pressKey();
     void useHost();

@@ -58,6 +58,12 @@ protected:
         rows->scrollToItem(rows->item(row));
         QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, rows->visualItemRect(rows->item(row)).center());
     }
+    /// Moves the mouse over a list while its left button is held.
+    static void move(QListWidget const& list, QPoint const& place) {
+        QMouseEvent event(QEvent::MouseMove, place, list.viewport()->mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(list.viewport(), &event);
+    }
     static void enter(QLineEdit* edit, QString const& text) {
         edit->setText(text);
         QTest::keyClick(edit, Qt::Key_Return);

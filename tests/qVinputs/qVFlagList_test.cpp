@@ -193,3 +193,12 @@ TEST_F(FlagListTest, ALostBoxIsLeftOutAndMadeAnewWithTheNextValue) {
     toggle(editor, 0);
     EXPECT_FALSE(valueOf(parameter).isSet("a"));
 }
+
+TEST_F(FlagListTest, AnAmpersandOfANameIsShownAndIsNoShortcut) {
+    auto const parameter = parameterOf(FlagList{{"R&D", true}});
+    auto const editor = open(parameter);
+    EXPECT_EQ(texts(editor), QStringList{"R&&D"}) << "which Qt draws as R&D";
+    EXPECT_TRUE(boxes(editor)[0]->shortcut().isEmpty());
+    toggle(editor, 0);
+    EXPECT_EQ(valueOf(parameter), (FlagList{{"R&D", false}}));
+}

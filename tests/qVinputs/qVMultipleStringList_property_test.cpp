@@ -1,6 +1,7 @@
 #include "MultipleSelectionTest.hpp"
 
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <random>
 
 namespace {
@@ -12,7 +13,16 @@ class RowByRow {
 public:
     explicit RowByRow(Kolt::VMultipleStringList const& selection) : selection_(selection) {
         list_.setSelectionMode(QAbstractItemView::MultiSelection);
+        list_.setMovement(QListView::Static);
         fill();
+    }
+    /// Looks like another list, so that the mouse finds the same rows at the same places.
+    void imitate(QListWidget const& other) {
+        list_.setAttribute(Qt::WA_DontShowOnScreen);
+        list_.resize(other.size());
+        list_.show();
+        list_.doItemsLayout();
+        list_.verticalScrollBar()->setValue(other.verticalScrollBar()->value());
     }
 
     void fill() {
@@ -51,6 +61,13 @@ public:
     }
     void click(int clicked) {
         list_.item(clicked)->setSelected(!list_.item(clicked)->isSelected());
+        selection_->removeAll();
+        for (auto const* const item : list_.selectedItems())
+            selection_->add(text(*item));
+    }
+    QListWidget& shownList() { return list_; }
+    void release(QPoint const& place) {
+        QTest::mouseRelease(list_.viewport(), Qt::LeftButton, {}, place);
         selection_->removeAll();
         for (auto const* const item : list_.selectedItems())
             selection_->add(text(*item));
@@ -178,6 +195,36 @@ protected:
         return "numbers " + numbers;
     }
 
+    /// Presses, moves or releases the mouse at a place of the editor's list and of the reference, and says what.
+    QString useMouse(QWidget& widget, RowByRow& literal) {
+        auto& rows = *list(widget);
+        rows.doItemsLayout();
+        literal.imitate(rows);
+        auto const& area = rows.viewport()->size();
+        QPoint const place(below(static_cast<std::size_t>(area.width())),
+                           below(static_cast<std::size_t>(area.height())));
+        if (!isHeld_) {
+            isHeld_ = true;
+            QTest::mousePress(rows.viewport(), Qt::LeftButton, {}, place);
+            QTest::mousePress(literal.shownList().viewport(), Qt::LeftButton, {}, place);
+            return "press";
+        }
+        if (below(2) && mayMove_) {
+            move(rows, place);
+            move(literal.shownList(), place);
+            return "move";
+        }
+        isHeld_ = false;
+        QTest::mouseRelease(rows.viewport(), Qt::LeftButton, {}, place);
+        literal.release(place);
+        return "release";
+    }
+
+    /// Whether the mouse was pressed on a row and not released yet.
+    bool isHeld_ = false;
+    /// "None" takes the rows back in an order that is not laid down, and a move brings the last of them back.
+    bool mayMove_ = true;
+
 private:
     std::mt19937 random_{GetParam()};
 };
@@ -197,14 +244,18 @@ TEST_P(QuickWayTest, DoesWhatRowByRowDoes) {
     EXPECT_EQ(widget.size(), literal.size());
     EXPECT_EQ(list(widget)->currentRow(), literal.list().currentRow());
 
-    for (int action = 0; action < 25; ++action) {
+    for (int action = 0; action < 40; ++action) {
         bool const remove = below(2) != 0;
         removeBox(widget)->setChecked(remove);
-        int const kind = below(8);
+        int const kind = below(11);
+        bool const usesMouse = kind > RefillKind || (isHeld_ && isClick(kind));
+        bool const wasHeld = isHeld_;
+        auto const before = commits();
         bool const isVoid = isClick(kind) && list(widget)->count() == 0;
-        auto const expectedCommits = commits() + (isVoid ? 0U : 1U);
         QString done = "refill";
-        if (kind < RefillKind) {
+        if (usesMouse) {
+            done = useMouse(widget, literal);
+        } else if (kind < RefillKind) {
             done = act(kind, widget, literal, remove);
         } else {
             if (below(2)) {
@@ -216,9 +267,12 @@ TEST_P(QuickWayTest, DoesWhatRowByRowDoes) {
             EXPECT_EQ(list(widget)->currentRow(), literal.list().currentRow());
             EXPECT_EQ(widget.size(), literal.size());
         }
-        ASSERT_EQ(selectedRows(widget), selectedRows(literal.list())) << qPrintable(done);
-        ASSERT_EQ(chosen(selection), chosen(literalSelection)) << qPrintable(done);
-        ASSERT_EQ(commits(), expectedCommits) << qPrintable(done);
+        if (!usesMouse)
+            mayMove_ = done != "None";
+        bool const isCommit = usesMouse ? wasHeld && !isHeld_ : !isVoid;
+        ASSERT_EQ(selectedRows(widget), selectedRows(literal.list())) << qPrintable(done) << action;
+        ASSERT_EQ(chosen(selection), chosen(literalSelection)) << qPrintable(done) << action;
+        ASSERT_EQ(commits(), before + (isCommit ? 1U : 0U)) << qPrintable(done) << action;
     }
 }
 

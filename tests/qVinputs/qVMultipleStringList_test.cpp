@@ -306,3 +306,31 @@ TEST_F(MultipleStringListTest, AllAndInverseReachRowsWithASlash) {
     EXPECT_EQ(selectedRows(*editor.widget), Rows{0});
     EXPECT_EQ(chosen(selection), "a");
 }
+
+TEST_F(MultipleStringListTest, AClickInAListWithoutASelectionGivesThePoolNoValue) {
+    auto const parameter = parameterOf(makeSelection(rowNames(3)), Values::PerPool);
+    auto const editor = openShown(parameter);
+    ASSERT_TRUE(parameter->ownValue()->assign(*Kolt::makeValue(Selection())));
+    record(parameter);
+    click(*editor.widget, 1);
+    EXPECT_FALSE(parameter->getLocalValue(firstPool, std::string(), false));
+    EXPECT_EQ(commits(), 0U);
+}
+
+TEST_F(MultipleStringListTest, RowsThatWereShownWhileOneIsPressedStayChosenWhenTheMouseMoves) {
+    // Qt takes back the row that was selected last, unless another row was filled in after it.
+    for (auto const& [rowCount, expected] : {std::pair<int, Rows>{8, {1, 2, 3, 5}}, {10, {1, 2, 3, 5, 7}}}) {
+        auto const selection = makeSelection(rowNames(rowCount), {"row 1", "row 2", "row 5", "row 7"});
+        auto const parameter = parameterOf(selection);
+        auto const editor = openShown(parameter);
+        auto* const rows = list(*editor.widget);
+        auto const place = rows->visualItemRect(rows->item(3)).center();
+        QTest::mousePress(rows->viewport(), Qt::LeftButton, {}, place);
+        tellOfChange(parameter);
+        EXPECT_EQ(selectedRows(*editor.widget), (Rows{1, 2, 5, 7}));
+        move(*rows, place + QPoint(1, 0));
+        QTest::mouseRelease(rows->viewport(), Qt::LeftButton, {}, place + QPoint(1, 0));
+        EXPECT_EQ(selectedRows(*editor.widget), expected);
+        EXPECT_EQ(selection->chosenCount(), expected.size());
+    }
+}

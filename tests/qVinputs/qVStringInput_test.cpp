@@ -207,6 +207,21 @@ TEST_F(SingleLineText, KeepsATextBeingTypedWhenAPropertyChanges) {
     EXPECT_EQ(editor->text(), QStringLiteral("abcdef"));
 }
 
+TEST_F(SingleLineText, KeepsItsCursorWhenItIsToldTheTextThatItShows) {
+    auto const parameter = makeText("abcdef");
+    auto* const editor = edit(parameter);
+    editor->setCursorPosition(2);
+    QTest::keyClicks(editor, QStringLiteral("x"));
+    change(parameter, std::string("abxcdef"));
+    EXPECT_EQ(editor->cursorPosition(), 3);
+    EXPECT_TRUE(editor->isUndoAvailable());
+    editor->setSelection(1, 2);
+    change(parameter, std::string("abxcdef"));
+    EXPECT_EQ(editor->selectedText(), QStringLiteral("bx"));
+    change(parameter, std::string("other"));
+    EXPECT_EQ(editor->text(), QStringLiteral("other"));
+}
+
 TEST_F(SingleLineText, DropsAnEditWithoutAPoolSilently) {
     auto const parameter = makeText("abc");
     watch(parameter);

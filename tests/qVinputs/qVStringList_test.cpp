@@ -243,6 +243,26 @@ TEST_F(StringListTest, AChoiceForAPoolLeavesTheParametersOwnAlone) {
     EXPECT_EQ(made.first->findChild<QComboBox*>()->currentText(), "tiff") << "the first value is the pool's";
 }
 
+TEST_F(StringListTest, ARefusedTextGivesThePoolNoValue) {
+    auto const parameter = parameterOf(makeStrings({"png", "tiff"}, "png"), Values::PerPool, {"editable"});
+    auto const editor = open(parameter);
+    type(editor, "webp");
+    EXPECT_EQ(takeOutput(), Lines{failedLine});
+    EXPECT_FALSE(parameter->getLocalValue(firstPool, std::string(), false));
+    type(editor, "tiff");
+    ASSERT_TRUE(parameter->getLocalValue(firstPool, std::string(), false));
+    EXPECT_EQ(parameter->getLocalValue(firstPool, std::string(), false)->Text(), "tiff");
+    EXPECT_EQ(parameter->ownValue()->Text(), "png");
+}
+
+TEST_F(StringListTest, ARefusedChoiceWithoutASelectionGivesThePoolNoValue) {
+    auto const parameter = parameterOf(VStringList(), Values::PerPool);
+    auto const editor = open(parameter);
+    EXPECT_TRUE(QMetaObject::invokeMethod(editor.widget, "selectItem", Q_ARG(QString, "png")));
+    EXPECT_EQ(takeOutput(), Lines{failedLine});
+    EXPECT_FALSE(parameter->getLocalValue(firstPool, std::string(), false));
+}
+
 TEST_F(StringListTest, SurvivesTheLossOfItsComboBox) {
     auto const strings = makeStrings({"png", "tiff"}, "png");
     auto const parameter = parameterOf(strings);

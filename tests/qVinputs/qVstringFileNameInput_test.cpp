@@ -58,6 +58,16 @@ TEST_F(FileName, StartsWithTheBaseNameToOpenAndTheCaptionToSave) {
     EXPECT_EQ(savePdf(parameter)->text(), QStringLiteral("Save as PDF"));
 }
 
+TEST_F(FileName, ShowsAnAmpersandOfANameWithoutAShortcut) {
+    auto const parameter = makeText("/data/R&D.txt");
+    auto* const button = open(parameter);
+    EXPECT_EQ(button->text(), QStringLiteral("R&&D")) << "which Qt draws as R&D";
+    EXPECT_TRUE(button->shortcut().isEmpty());
+    EXPECT_EQ(button->toolTip(), QStringLiteral("/data/R&D.txt"));
+    change(parameter, std::string("/data/Q&A.txt"));
+    EXPECT_EQ(button->text(), QStringLiteral("Q&&A"));
+}
+
 TEST_F(FileName, TakesItsModeFromTheCreatorAndNotFromTheParameter) {
     auto const parameter = makeText("");
     parameter->setCreationPreferences(PreferencesPtr(new VCreationPreferences("FileInput")));

@@ -333,3 +333,26 @@ TEST_F(EnumTest, SurvivesTheLossOfItsButtons) {
     EXPECT_EQ(commits(), 1U);
     EXPECT_EQ(names->selectedNumber(), 1);
 }
+
+TEST_F(EnumTest, AnAmpersandOfANameIsShownAndIsNoShortcut) {
+    auto const parameter = parameterOf(Kolt::Enum(makeNames({"R&D", "sales"}, 0)));
+    auto const editor = open(parameter);
+    EXPECT_EQ(buttons(editor)[0]->text(), "R&&D") << "which Qt draws as R&D";
+    EXPECT_TRUE(buttons(editor)[0]->shortcut().isEmpty());
+    EXPECT_EQ(buttons(editor)[1]->text(), "sales");
+}
+
+TEST_F(EnumTest, AShownPoolWithoutAValueStaysWithoutOne) {
+    auto const parameter = parameterOf(Kolt::Enum(makeNames({"a", "b", "c"}, 0)), Values::PerPool);
+    parameter->getLocalValue(firstPool, std::string(), true)->setValueFromText("c");
+    auto const editor = open(parameter);
+    EXPECT_EQ(marked(editor), 2);
+    pools.use(secondPool);
+    Kolt::showPoolValue(editor, parameter, &pools);
+    EXPECT_EQ(marked(editor), 0);
+    EXPECT_FALSE(parameter->getLocalValue(secondPool, std::string(), false));
+    choose(editor, 1);
+    EXPECT_EQ(parameter->getLocalValue(secondPool, std::string(), false)->Text(), "b");
+    EXPECT_EQ(parameter->getLocalValue(firstPool, std::string(), false)->Text(), "c");
+    EXPECT_EQ(parameter->ownValue()->Text(), "a");
+}

@@ -226,6 +226,48 @@ TEST_F(MultipleSelections, TheTextReadsBackAsTheSameChoiceWhereATextIsEmpty) {
     EXPECT_TRUE(VValueTrait<VMultipleStringList>::Equal(copy, value));
 }
 
+TEST_F(MultipleSelections, EveryChoiceReadsBackFromItsText) {
+    Names const texts = {"a", "", "b\nc", "c", "b", "d\\", "\\n", "d\\nb", "\\\\", "\n", "\\\n"};
+    VMultipleStringList const value(new MultipleStringSelection(texts));
+    auto copy = VValueTrait<VMultipleStringList>::Clone(value);
+    for (unsigned choice = 0; choice < 1U << texts.size(); ++choice) {
+        value->removeAll();
+        copy->addAll();
+        for (std::size_t place = 0; place < texts.size(); ++place)
+            if (choice >> place & 1U)
+                value->add(texts[place]);
+        auto const written = VValueTrait<VMultipleStringList>::Text(value);
+        ASSERT_TRUE(VValueTrait<VMultipleStringList>::setValueFromText(copy, written)) << written;
+        ASSERT_TRUE(VValueTrait<VMultipleStringList>::Equal(copy, value)) << written;
+    }
+}
+
+TEST_F(MultipleSelections, AChosenEmptyTextIsALineOfItsOwn) {
+    VMultipleStringList value(new MultipleStringSelection({"a", ""}));
+    value->addAll();
+    EXPECT_EQ(VValueTrait<VMultipleStringList>::Text(value), "a\n");
+    value->removeFromSelection("");
+    EXPECT_EQ(VValueTrait<VMultipleStringList>::Text(value), "a");
+    EXPECT_TRUE(VValueTrait<VMultipleStringList>::setValueFromText(value, "\n"));
+    EXPECT_TRUE(value->isInSelection(""));
+    EXPECT_FALSE(value->isInSelection("a"));
+    EXPECT_EQ(VValueTrait<VMultipleStringList>::Text(value), "\n");
+}
+
+TEST_F(MultipleSelections, ALineFeedAtTheEndOfATextIsIgnoredWhereNoTextIsEmpty) {
+    EXPECT_TRUE(VValueTrait<VMultipleStringList>::setValueFromText(value_, "b\nc\n"));
+    EXPECT_THAT(chosen(), ElementsAre("b", "c"));
+}
+
+TEST_F(MultipleSelections, ATextWithALineFeedIsOneLine) {
+    VMultipleStringList value(new MultipleStringSelection({"x\ny", "x", "y"}));
+    value->add("x\ny");
+    EXPECT_EQ(VValueTrait<VMultipleStringList>::Text(value), "x\\ny");
+    EXPECT_TRUE(VValueTrait<VMultipleStringList>::setValueFromText(value, "x\ny"));
+    EXPECT_FALSE(value->isInSelection("x\ny"));
+    EXPECT_TRUE(value->isInSelection("x"));
+}
+
 TEST_F(MultipleSelections, ACloneHasASelectionOfItsOwnThatOutlivesTheFirst) {
     value_->add("a");
     auto const clone = VValueTrait<VMultipleStringList>::Clone(value_);

@@ -109,6 +109,14 @@ TEST_F(FlagLists, TheTextHasALineForEachFlag) {
     EXPECT_EQ(flags.size(), 3U);
 }
 
+TEST_F(FlagLists, ANameWithALineFeedIsOneLine) {
+    FlagList const flags{{"a=true\nb", true}, {"\\", false}, {"", true}};
+    auto const text = VValueTrait<FlagList>::Text(flags);
+    FlagList read{{"a=true\nb", false}, {"\\", true}, {"", false}};
+    EXPECT_TRUE(VValueTrait<FlagList>::setValueFromText(read, text)) << text;
+    EXPECT_EQ(read, flags) << text;
+}
+
 TEST_F(FlagLists, AWrongTextChangesNothing) {
     for (auto const* const wrong : {"b", "a=true\nb", "a=1", "a=True", "a=true\nb=", "=", "a = true"}) {
         FlagList flags{{"a", false}, {"b", true}};

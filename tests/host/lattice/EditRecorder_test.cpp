@@ -126,6 +126,35 @@ TEST_F(WatchedInt, TheListenerMayEndTheParameterWhileItsEditIsTold) {
     EXPECT_FALSE(weak.alive());
 }
 
+TEST_F(WatchedInt, WhatAnEditBroughtAboutBelongsToItsStep) {
+    auto const other = makeParameter(std::string("a"));
+    auto const cause = Kolt::ParameterRef(parameter);
+    EXPECT_TRUE(input.edit(5, nullptr));
+    EXPECT_TRUE(history.store(other, nullptr, {makeValue(std::string("b")), false}, cause));
+    ASSERT_THAT(history.steps(), SizeIs(1));
+    EXPECT_THAT(history.steps()[0]->changes(), SizeIs(2));
+    EXPECT_TRUE(history.undo());
+    EXPECT_EQ(text(parameter), "1");
+    EXPECT_EQ(text(other), "a");
+    EXPECT_TRUE(history.redo());
+    EXPECT_EQ(text(parameter), "5");
+    EXPECT_EQ(text(other), "b");
+}
+
+TEST_F(WatchedInt, WhatALaterStepFollowedIsAStepOfItsOwn) {
+    auto const other = makeParameter(std::string("a"));
+    auto const cause = Kolt::ParameterRef(parameter);
+    EXPECT_TRUE(input.edit(5, nullptr));
+    EXPECT_TRUE(history.store(other, nullptr, {makeValue(std::string("b")), false}));
+    EXPECT_TRUE(history.store(other, nullptr, {makeValue(std::string("c")), false}, cause));
+    EXPECT_THAT(history.steps(), SizeIs(3)) << "the latest step is not the cause's";
+    EXPECT_TRUE(history.undo());
+    EXPECT_TRUE(history.undo());
+    EXPECT_TRUE(history.store(other, nullptr, {makeValue(std::string("d")), false}, cause));
+    EXPECT_THAT(history.steps(), SizeIs(1)) << "now it is";
+    EXPECT_THAT(history.undoneSteps(), IsEmpty()) << "a new change forgets what was undone";
+}
+
 TEST_F(WatchedInt, ACommandOfTheHostIsAStep) {
     EXPECT_TRUE(history.store(parameter, nullptr, {makeValue(12), false}));
     EXPECT_EQ(text(parameter), "12");

@@ -304,6 +304,20 @@ TEST_F(Choice, ATextWithoutPreferencesWantsOneLine) {
         << "the order of registration decides nothing";
 }
 
+TEST_F(Choice, ATextThatIsOnlyWrittenOnEnterWantsOneLineToo) {
+    VInputCreator<std::string, VInputCreatorBase> const file("file", 0, set({"QT", "FileInput"}), ApiKey);
+    VInputCreator<std::string, VInputCreatorBase> const lines("lines", 0, set({"QT", "MultiLine"}), ApiKey);
+    VInputCreator<std::string, VInputCreatorBase> const line("line", 0, set({"QT", "OneLine"}), ApiKey);
+    VParameter text("text", makeValue(std::string()));
+    auto const chosen = [&](Names const& names) {
+        text.setCreationPreferences(set(names));
+        return InputRegistry::theRegistry().choose(text, {"QT"}).creator.strong()->Name();
+    };
+    EXPECT_EQ(chosen({"UpdateOnEnterOnly"}), "line") << "the order of registration decides nothing";
+    EXPECT_EQ(chosen({"MultiLine", "UpdateOnEnterOnly"}), "lines");
+    EXPECT_EQ(chosen({"FileInput", "UpdateOnEnterOnly"}), "file");
+}
+
 TEST_F(Choice, LeavesOutACreatorThatDoesNotSuitTheParameter) {
     struct Choosy : Creator {
         using Creator::Creator;

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <lattice/Parameter.hpp>
+#include <parameters/PoolSourceRef.hpp>
+#include <QLineEdit>
+
+namespace Talo {
+
+/// Marks a text field with an input mask that was left half filled, so that its text was not taken over: a sign in the
+/// field, and a tool tip that says what is held. The mark goes with the next text that is held or complete. Owned by
+/// the field. User-interface thread.
+class UnenteredMark : public QObject {
+    Q_OBJECT
+
+public:
+    /// The mark of a field with an input mask; null for any other editor, which gets none.
+    static UnenteredMark* makeFor(QWidget& editor, Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools);
+    ~UnenteredMark() override;
+
+signals:
+    /// The mark appeared or went.
+    void changed();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    UnenteredMark(QLineEdit& field, Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools);
+    /// Whether the field shows a half filled text that the parameter does not hold.
+    bool isUnentered(QString const& held) const;
+    /// Shows the mark where it is due.
+    void refresh();
+    /// Removes the mark where it is due no longer.
+    void removeIfEntered();
+    QString heldText() const;
+
+    QLineEdit& field_;
+    Kolt::ParameterRef const parameter_;
+    PoolSourceRef const pools_;
+    // A child of the field; null while there is no mark.
+    QAction* sign_ = nullptr;
+    // The tool tip that the field had before.
+    QString toolTip_;
+};
+
+} // namespace Talo
