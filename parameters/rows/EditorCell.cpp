@@ -77,6 +77,11 @@ void EditorCell::close() {
     isPlaceholder_ = false;
 }
 
+void EditorCell::removeMargins() {
+    if (auto* const layout = editor_.widget->layout())
+        layout->setContentsMargins(0, 0, 0, 0);
+}
+
 void EditorCell::limitWidth() {
     auto& editor = *editor_.widget;
     int const leastWidth = editor.minimumSizeHint().width();
@@ -127,14 +132,18 @@ void EditorCell::nameControls(QString const& name, bool edited) {
 }
 
 void EditorCell::describeControls(QString const& description) {
+    description_ = description;
     auto described = controls();
     described.push_back(editor_.widget);
-    for (auto* const control : described) {
-        // A screen reader reads the description in place of the tool tip.
-        auto const& explanation = control->toolTip();
-        control->setAccessibleDescription(explanation.isEmpty() ? description
-                                                                : description + QLatin1Char('\n') + explanation);
-    }
+    for (auto* const control : described)
+        describe(*control);
+}
+
+void EditorCell::describe(QWidget& control) const {
+    // A screen reader reads the description in place of the tool tip.
+    auto const& explanation = control.toolTip();
+    control.setAccessibleDescription(explanation.isEmpty() ? description_
+                                                           : description_ + QLatin1Char('\n') + explanation);
 }
 
 } // namespace Talo

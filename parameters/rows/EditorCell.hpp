@@ -38,6 +38,9 @@ public:
     /// The controls in the editor that take the focus, without those in its dialogs. REQUIRES: an open cell.
     std::vector<QWidget*> controls() const;
 
+    /// Removes the margins around the editor's controls, so that the controls of all rows begin at one edge. REQUIRES:
+    /// an open cell.
+    void removeMargins();
     /// Limits the editor's width to what its controls need and can use. REQUIRES: an open cell.
     void limitWidth();
     /// Shows what the pool source's pool holds. Nothing is written.
@@ -47,12 +50,16 @@ public:
     void nameControls(QString const& name, bool edited);
     /// Gives every control this accessible description, followed by its tool tip.
     void describeControls(QString const& description);
+    /// Gives a control the accessible description again, after its tool tip changed.
+    void describe(QWidget& control) const;
 
 private:
     Kolt::ParameterRef const parameter_;
     PoolSourceRef const pools_;
     Kolt::Editor editor_;
     bool isPlaceholder_ = false;
+    // The accessible description of every control, without its tool tip.
+    QString description_;
 };
 
 } // namespace Talo

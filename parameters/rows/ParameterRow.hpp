@@ -90,8 +90,11 @@ public:
     /// Some editors ask the widget around them to adjust its size; a row keeps the width that it was given.
     QSize sizeHint() const override;
 
+    /// Follows the tool tip of a number field in its accessible description.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 signals:
-    /// A command did nothing, for this reason: a sentence.
+    /// A command did nothing, or a typed number was not taken over, for this reason: a sentence.
     void refused(QString const& reason);
     /// The parameter has another default.
     void defaultChanged();
@@ -104,6 +107,7 @@ private:
     void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
     void alignEditor();
+    void connectNumberFields();
     void makeIndicator();
     void updateAccessibility();
     void showNote();
