@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QCoreApplication>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QPushButton>
 
@@ -78,7 +79,10 @@ void EditorCell::close() {
 }
 
 void EditorCell::removeMargins() {
-    if (auto* const layout = editor_.widget->layout())
+    auto const* const frame = qobject_cast<QFrame*>(editor_.widget);
+    bool const isFramed = frame && frame->frameShape() != QFrame::NoFrame;
+    auto* const layout = editor_.widget->layout();
+    if (layout && !isFramed)
         layout->setContentsMargins(0, 0, 0, 0);
 }
 

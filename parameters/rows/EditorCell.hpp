@@ -38,8 +38,8 @@ public:
     /// The controls in the editor that take the focus, without those in its dialogs. REQUIRES: an open cell.
     std::vector<QWidget*> controls() const;
 
-    /// Removes the margins around the editor's controls, so that the controls of all rows begin at one edge. REQUIRES:
-    /// an open cell.
+    /// Removes the margins around the controls of an editor without a frame, so that the controls of all rows begin at
+    /// one edge. REQUIRES: an open cell.
     void removeMargins();
     /// Limits the editor's width to what its controls need and can use. REQUIRES: an open cell.
     void limitWidth();
