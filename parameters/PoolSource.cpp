@@ -1,5 +1,7 @@
 #include <parameters/PoolSource.hpp>
 
+#include <parameters/input/PendingEdit.hpp>
+
 namespace Talo {
 
 class PoolSource::Provider : public Kolt::ValuePoolProvider {
@@ -12,7 +14,7 @@ public:
 PoolSource::PoolSource() : provider_(new Provider) {}
 
 PoolSource::PoolSource(Kolt::PoolPtr const& pool) : PoolSource() {
-    setPool(pool);
+    provider_->pool = pool;
 }
 
 PoolSource::~PoolSource() = default;
@@ -26,7 +28,13 @@ Kolt::PoolPtr PoolSource::pool() const {
 }
 
 void PoolSource::setPool(Kolt::PoolPtr const& pool) {
-    provider_->pool = pool;
+    if (provider_->pool == pool)
+        return;
+    // What was typed belongs to the pool in which it was typed. Copies: a notifier may destroy this source.
+    auto const provider = provider_;
+    auto const chosen = pool;
+    commitPendingEdits();
+    provider->pool = chosen;
 }
 
 } // namespace Talo

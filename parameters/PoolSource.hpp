@@ -21,8 +21,8 @@ public:
     Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override;
     /// The chosen pool; null for none.
     Kolt::PoolPtr pool() const;
-    /// Chooses a pool; null for none. Notifies nobody: the caller has its panels show the pool
-    /// (ParameterPanel::showPool).
+    /// Chooses a pool; null for none. A typed text that waits for its field to be left is written before, into the pool
+    /// in which it was typed. Notifies nobody else: the caller has its panels show the pool (ParameterPanel::showPool).
     void setPool(Kolt::PoolPtr const& pool);
 
 private:

@@ -26,6 +26,8 @@ set(plugin_sources
     NumberControl.hpp
     NumberSelection.cpp
     NumberSelection.hpp
+    NumberToolTip.cpp
+    NumberToolTip.hpp
     Text.hpp)
 foreach(editor IN LISTS editors)
     list(APPEND plugin_sources ${editor}.cpp ${editor}.hpp)

@@ -137,5 +137,9 @@
         <source>Computed %1.</source>
         <translation>Berechnet: %1.</translation>
     </message>
+    <message>
+        <source>%1 is still being written.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -2,6 +2,8 @@
 
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/InputRegistry.hpp>
+#include <sorrel/CommitOnDrop.hpp>
+#include <sorrel/QLeaveLineEdit.hpp>
 #include <tuple>
 
 namespace Kolt {
@@ -31,6 +33,34 @@ void explainMissingPool(Editor& editor, VParameter const& parameter, ValuePoolSo
     }
 }
 
+/// Writes what the input's parameter holds once more, as an edit by the input. False if there is nothing of the
+/// parameter's type to write.
+bool writeCurrentValue(VInputBase& input, ValuePoolSource const* poolSource) {
+    auto const parameter = input.owner().strong();
+    if (!parameter)
+        return false;
+    auto const pool = currentPool(poolSource);
+    if (!pool)
+        return true; // an edit without a pool is dropped
+    if (Tessera::Typename(parameter->effectiveValue(pool)->valueType()) != parameter->declaredType())
+        return false;
+    parameter->notifyValueChange(parameter->getLocalValue(pool, std::string(), true), pool, std::string(),
+                                 Tessera::WeakPtr<ValueNotifier>(&input), nullptr, nullptr);
+    markValueChanged(*parameter, pool);
+    return true;
+}
+
+/// What the editor's fields need to know of its input, which lives as long as they do.
+void connectFields(Editor const& editor, ValuePoolSource const* poolSource) {
+    auto const fields = editor.widget->findChildren<QLeaveLineEdit*>();
+    for (auto* const field : fields)
+        field->setValueWriter([input = editor.input, poolSource] {
+            auto const living = input.strong();
+            return living && writeCurrentValue(*living, poolSource);
+        });
+    CommitOnDrop::addTo(*editor.widget, editor.input, poolSource);
+}
+
 } // namespace
 
 Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource) {
@@ -54,6 +84,8 @@ Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSourc
         QObject::connect(editor.widget, &QObject::destroyed, [tracked] { delete tracked; });
     else
         delete tracked;
+    if (editor.widget)
+        connectFields(editor, tracked);
     explainMissingPool(editor, *parameter, poolSource);
     showPoolValue(editor, parameter, poolSource);
     return editor;

@@ -256,6 +256,97 @@
         <source>Unless they are saved, the changes are lost.</source>
         <translation>Werden sie nicht gespeichert, gehen die Änderungen verloren.</translation>
     </message>
+    <message>
+        <source>The file is gone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file was changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is gone since it was opened or saved here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed %1 since it was opened or saved here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shall it be written again?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving overwrites what the other program wrote.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unfinished work</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It ends with the network, and its file is not written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;End it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileNotices</name>
+    <message>
+        <source>%1 is gone. The values are still here; saving writes the file again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. Saving will ask before it overwrites the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Load it again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The network cannot be opened</source>
+        <translation type="unfinished">Das Netz lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>%1 is open in another panel, too. Who saves last overwrites what the other one saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unsaved values</source>
+        <translation type="unfinished">Nicht gespeicherte Werte</translation>
+    </message>
+    <message>
+        <source>The panel ended while values of “%1” were not saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They were kept on %1. Shall they be restored?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restored unsaved values.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not all values could be restored</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Panel::FilterField</name>
@@ -403,26 +494,6 @@
         <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;New view</source>
-        <translation>&amp;Neue Ansicht</translation>
-    </message>
-    <message>
-        <source>Ctrl+N</source>
-        <translation>Ctrl+N</translation>
-    </message>
-    <message>
-        <source>&amp;Raw values</source>
-        <translation>&amp;Rohwerte</translation>
-    </message>
-    <message>
-        <source>Ctrl+R</source>
-        <translation>Ctrl+R</translation>
-    </message>
-    <message>
         <source>History</source>
         <translation>Verlauf</translation>
     </message>
@@ -472,6 +543,13 @@
     <message>
         <source>Copy</source>
         <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::NoticeBar</name>
+    <message>
+        <source>Close this notice</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -552,10 +630,40 @@
     </message>
 </context>
 <context>
+    <name>Panel::Recovery</name>
+    <message>
+        <source>The unsaved values cannot be kept in %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Panel::Session</name>
     <message>
         <source>The session cannot be kept in %1.</source>
         <translation>Die Sitzung lässt sich nicht in %1 behalten.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ViewMenu</name>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished">&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Raw values</source>
+        <translation type="unfinished">&amp;Rohwerte</translation>
+    </message>
+    <message>
+        <source>&amp;New view</source>
+        <translation type="unfinished">&amp;Neue Ansicht</translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation type="unfinished">Ctrl+N</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation type="unfinished">Ctrl+R</translation>
     </message>
 </context>
 <context>
@@ -591,6 +699,10 @@
     <message>
         <source>Cannot write to standard output: %1.</source>
         <translation>Die Standardausgabe kann nicht geschrieben werden: %1.</translation>
+    </message>
+    <message>
+        <source>The display is gone.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

@@ -22,4 +22,15 @@ void commitPendingEdit(QWidget& window) {
     InputFilter::shared()->gestures().end();
 }
 
+void commitPendingEdits() {
+    QList<QPointer<QWidget>> windows;
+    auto const all = QApplication::topLevelWidgets();
+    for (auto* const window : all)
+        if (GestureTarget::around(window->focusWidget()))
+            windows << window;
+    for (auto const& window : windows)
+        if (window)
+            commitPendingEdit(*window);
+}
+
 } // namespace Talo

@@ -10,4 +10,7 @@ namespace Talo {
 /// may delete the field.
 TALO_EXPORT void commitPendingEdit(QWidget& window);
 
+/// Does so in every window of the program.
+TALO_EXPORT void commitPendingEdits();
+
 } // namespace Talo

@@ -9,6 +9,7 @@
 #include <parameters/rows/PlaceholderEditor.hpp>
 #include <QAbstractItemView>
 #include <QCoreApplication>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
@@ -79,6 +80,14 @@ void EditorCell::close() {
     isPlaceholder_ = false;
 }
 
+void EditorCell::removeMargins() {
+    auto const* const frame = qobject_cast<QFrame*>(editor_.widget);
+    bool const isFramed = frame && frame->frameShape() != QFrame::NoFrame;
+    auto* const layout = editor_.widget->layout();
+    if (layout && !isFramed)
+        layout->setContentsMargins(0, 0, 0, 0);
+}
+
 void EditorCell::limitWidth() {
     auto& editor = *editor_.widget;
     int const leastWidth = editor.minimumSizeHint().width();
@@ -142,14 +151,18 @@ void EditorCell::nameControls(QString const& name, bool edited) {
 }
 
 void EditorCell::describeControls(QString const& description) {
+    description_ = description;
     auto described = controls();
     described.push_back(editor_.widget);
-    for (auto* const control : described) {
-        // A screen reader reads the description in place of the tool tip.
-        auto const& explanation = control->toolTip();
-        control->setAccessibleDescription(explanation.isEmpty() ? description
-                                                                : description + QLatin1Char('\n') + explanation);
-    }
+    for (auto* const control : described)
+        describe(*control);
+}
+
+void EditorCell::describe(QWidget& control) const {
+    // A screen reader reads the description in place of the tool tip.
+    auto const& explanation = control.toolTip();
+    control.setAccessibleDescription(explanation.isEmpty() ? description_
+                                                           : description_ + QLatin1Char('\n') + explanation);
 }
 
 } // namespace Talo

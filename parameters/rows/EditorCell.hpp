@@ -39,6 +39,9 @@ public:
     /// The controls in the editor that take the focus, without those in its dialogs. REQUIRES: an open cell.
     std::vector<QWidget*> controls() const;
 
+    /// Removes the margins around the controls of an editor without a frame, so that the controls of all rows begin at
+    /// one edge. REQUIRES: an open cell.
+    void removeMargins();
     /// Limits the editor's width to what its controls need and can use. REQUIRES: an open cell.
     void limitWidth();
     /// Whether the editor can show what the pool source's pool holds. The buttons of an enumeration are those of the
@@ -52,6 +55,8 @@ public:
     void nameControls(QString const& name, bool edited);
     /// Gives every control this accessible description, followed by its tool tip.
     void describeControls(QString const& description);
+    /// Gives a control the accessible description again, after its tool tip changed.
+    void describe(QWidget& control) const;
 
 private:
     Kolt::ParameterRef const parameter_;
@@ -60,6 +65,8 @@ private:
     bool isPlaceholder_ = false;
     // Those of an enumeration when its editor was made; null for other types.
     Tessera::StrongPtr<Tessera::StringList> names_;
+    // The accessible description of every control, without its tool tip.
+    QString description_;
 };
 
 } // namespace Talo

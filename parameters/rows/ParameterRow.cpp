@@ -5,6 +5,7 @@
 #include <parameters/commands/RowCommands.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/RefusedNumber.hpp>
 #include <parameters/rows/UnenteredMark.hpp>
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -13,6 +14,7 @@
 #include <QMenu>
 #include <QThread>
 #include <QToolTip>
+#include <sorrel/QLeaveLineEdit.hpp>
 
 namespace Talo {
 
@@ -89,6 +91,7 @@ void ParameterRow::openEditor() {
     bool const isEdited = !cell_.isPlaceholder() && parameter->isEdited();
     if (isEdited)
         recorder_ = Kolt::EditRecorder::watch(parameter);
+    cell_.removeMargins();
     cell_.limitWidth();
     layout_->insertWidget(1, editor, 1);
     editor->show();
@@ -98,6 +101,26 @@ void ParameterRow::openEditor() {
     if (isEdited)
         watchEditor(parameter);
     updateAccessibility();
+    connectNumberFields();
+}
+
+void ParameterRow::connectNumberFields() {
+    auto const fields = cell_.widget()->findChildren<Kolt::QLeaveLineEdit*>();
+    for (auto* const field : fields)
+        connect(field, &Kolt::QLeaveLineEdit::refused, this,
+                [this, field](QString const& text) { emit refused(refusedNumberText(parameterName_, text, *field)); });
+    // Their tool tips follow the value.
+    if (fields.isEmpty())
+        return;
+    cell_.widget()->installEventFilter(this);
+    for (auto* const control : cell_.controls())
+        control->installEventFilter(this);
+}
+
+bool ParameterRow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ToolTipChange)
+        cell_.describe(*static_cast<QWidget*>(watched));
+    return QWidget::eventFilter(watched, event);
 }
 
 void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {

@@ -92,8 +92,11 @@ public:
     /// Some editors ask the widget around them to adjust its size; a row keeps the width that it was given.
     QSize sizeHint() const override;
 
+    /// Follows the tool tip of a number field in its accessible description.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 signals:
-    /// A command did nothing, for this reason: a sentence.
+    /// A command did nothing, or a typed number was not taken over, for this reason: a sentence.
     void refused(QString const& reason);
     /// The parameter has another default.
     void defaultChanged();
@@ -112,6 +115,7 @@ private:
     /// After a change of the value: makes an editor anew that cannot show it.
     void checkEditor();
     void reopenEditor();
+    void connectNumberFields();
     void makeIndicator();
     void updateAccessibility();
     void showNote();

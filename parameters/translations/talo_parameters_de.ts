@@ -9,6 +9,29 @@
     </message>
 </context>
 <context>
+    <name>RefusedNumber</name>
+    <message>
+        <source>Write a whole number without separators.</source>
+        <translation>Schreiben Sie eine ganze Zahl ohne Trennzeichen.</translation>
+    </message>
+    <message>
+        <source>Write the number without group separators and with a point before the decimals.</source>
+        <translation>Schreiben Sie die Zahl ohne Tausendertrennzeichen und mit einem Punkt vor den Nachkommastellen.</translation>
+    </message>
+    <message>
+        <source>The number is too large.</source>
+        <translation>Die Zahl ist zu groß.</translation>
+    </message>
+    <message>
+        <source>This is no number.</source>
+        <translation>Das ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;. %3</source>
+        <translation>%1 nimmt „%2“ nicht an. %3</translation>
+    </message>
+</context>
+<context>
     <name>RowCommands</name>
     <message>
         <source>Reset to &amp;default</source>

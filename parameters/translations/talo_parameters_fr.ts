@@ -9,6 +9,29 @@
     </message>
 </context>
 <context>
+    <name>RefusedNumber</name>
+    <message>
+        <source>Write a whole number without separators.</source>
+        <translation>Écrivez un nombre entier sans séparateurs.</translation>
+    </message>
+    <message>
+        <source>Write the number without group separators and with a point before the decimals.</source>
+        <translation>Écrivez le nombre sans séparateurs de milliers et avec un point devant les décimales.</translation>
+    </message>
+    <message>
+        <source>The number is too large.</source>
+        <translation>Le nombre est trop grand.</translation>
+    </message>
+    <message>
+        <source>This is no number.</source>
+        <translation>Ce n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;. %3</source>
+        <translation>%1 n’accepte pas « %2 ». %3</translation>
+    </message>
+</context>
+<context>
     <name>RowCommands</name>
     <message>
         <source>Reset to &amp;default</source>

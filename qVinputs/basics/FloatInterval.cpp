@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <limits>
 
 namespace Kolt {
@@ -20,17 +21,34 @@ int saturated(double number) {
     return static_cast<int>(std::trunc(number));
 }
 
+constexpr double Largest = std::numeric_limits<double>::max();
+
+/// The factor by which numbers of this size are multiplied before they are used in a formula. A power of two changes no
+/// digit, and positions times widths stay below the largest double.
+double scaleFor(std::initializer_list<double> numbers) {
+    bool const isLarge =
+        std::any_of(numbers.begin(), numbers.end(), [](double number) { return std::abs(number) > 0x1p900; });
+    return isLarge ? 0x1p-200 : 1.0;
+}
+
+/// A length in place of one that is too large for a double.
+double limited(double length) {
+    return std::clamp(length, -Largest, Largest);
+}
+
 } // namespace
 
 // The formulas are evaluated in double and in the order in which they are written: another association would round
 // differently and move handles.
 
 int FloatInterval::lastPosition() const {
-    return std::max(saturated((max - min) / delta + 1.0), 1);
+    double const scale = scaleFor({min, max, delta});
+    return std::max(saturated((max * scale - min * scale) / (delta * scale) + 1.0), 1);
 }
 
 double FloatInterval::valueAt(int position) const {
-    double value = position * (max - min) / lastPosition() + min;
+    double const scale = scaleFor({min, max});
+    double value = (position * (max * scale - min * scale) / lastPosition() + min * scale) / scale;
     if (value < min)
         value = min;
     if (value > max)
@@ -39,7 +57,9 @@ double FloatInterval::valueAt(int position) const {
 }
 
 int FloatInterval::positionOf(double value) const {
-    return saturated(lastPosition() * (value - min) / (max - min) + 0.5);
+    double const scale = scaleFor({min, max, value});
+    double const distance = value * scale - min * scale;
+    return saturated(lastPosition() * distance / (max * scale - min * scale) + 0.5);
 }
 
 int FloatInterval::positionAtFraction(double fraction) const {
@@ -47,41 +67,45 @@ int FloatInterval::positionAtFraction(double fraction) const {
 }
 
 int FloatInterval::positionAtShare(double share) const {
-    double const width = max - min;
+    double const width = scaledWidth();
     return saturated(share * width * lastPosition() / width + 0.5);
 }
 
 void FloatInterval::setResolution(double positions) {
+    double const scale = scaleFor({min, max});
     // In double, as the smallest int has no predecessor.
-    delta = (max - min) / (static_cast<double>(saturated(positions)) - 1.0);
+    delta = limited(scaledWidth() / (static_cast<double>(saturated(positions)) - 1.0) / scale);
 }
 
 void FloatInterval::coarsen() {
-    delta = std::min(2.0 * delta, max - min);
+    delta = limited(std::min(2.0 * delta, max - min));
 }
 
 void FloatInterval::refine() {
-    delta = std::max(0.5 * delta, 1e-8 * (max - min));
+    delta = std::max(0.5 * delta, 1e-8 * scaledWidth() / scaleFor({min, max}));
 }
 
 int FloatInterval::widen(double centre) {
-    double const width = max - min;
-    min = centre - width;
-    max = centre + width;
-    delta = 2.0 * width / (steps - 1);
-    return middlePosition(width);
+    return resize(centre, 1.0);
 }
 
 int FloatInterval::narrow(double centre) {
-    double const width = max - min;
-    min = centre - width / 4.0;
-    max = centre + width / 4.0;
-    delta = width / 2.0 / (steps - 1);
-    return middlePosition(width);
+    return resize(centre, 0.25);
 }
 
-int FloatInterval::middlePosition(double width) const {
+int FloatInterval::resize(double centre, double reach) {
+    double const scale = scaleFor({min, max});
+    double const width = scaledWidth();
+    double const distance = width * reach / scale;
+    min = limited(centre - distance);
+    max = limited(centre + distance);
+    delta = limited(2.0 * reach * width / (steps - 1) / scale);
     return saturated(saturated((steps - 1) + 1.0) * width / (2.0 * width) + 0.5);
+}
+
+double FloatInterval::scaledWidth() const {
+    double const scale = scaleFor({min, max});
+    return max * scale - min * scale;
 }
 
 } // namespace Kolt

@@ -4,7 +4,8 @@ namespace Kolt {
 
 /// The interval of floating-point numbers that a control with integer positions represents: position 0 is `min`, the
 /// last one `max`, and the others lie between them at equal distances. Every field may have any value, infinities and
-/// NaN included: a position is then saturated to the range of int and 0 for NaN. Any thread; prints nothing.
+/// NaN included: a position is then saturated to the range of int and 0 for NaN. While `min` and `max` are finite,
+/// every value of the interval is, also where it is wider than the largest double. Any thread; prints nothing.
 struct FloatInterval {
     double min = 0.0;       ///< lower end
     double max = 1.0;       ///< upper end
@@ -34,8 +35,11 @@ struct FloatInterval {
     int narrow(double centre);
 
 private:
-    /// The position in the middle of an interval of this width with `steps` positions.
-    int middlePosition(double width) const;
+    /// Centres the interval, with `steps` positions, and lets it reach a multiple of its width to both sides. Ends that
+    /// became too large for a double stop at the largest one. Gives the middle position.
+    int resize(double centre, double reach);
+    /// The width, multiplied by a power of two so that it is finite where both ends are.
+    double scaledWidth() const;
 };
 
 } // namespace Kolt

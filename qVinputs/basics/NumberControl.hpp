@@ -55,12 +55,21 @@ inline void moveSilently(QAbstractSlider* control, int position) {
         control->setValue(position);
 }
 
+/// What becomes of a text that is being typed when a number is shown.
+enum class TypedText {
+    Keep,   ///< it stays until it is entered or left: the number came from elsewhere
+    Replace ///< it gives way: the user entered it or moved the control
+};
+
 /// Shows the text of a number and remembers it as the line edit's last one; the cursor goes to the start and nothing is
 /// selected. Null: nothing.
-inline void showNumberText(QLeaveLineEdit* lineEdit, QString const& text) {
+inline void showNumberText(QLeaveLineEdit* lineEdit, QString const& text, TypedText typed) {
     if (!lineEdit)
         return;
-    lineEdit->showText(text);
+    if (typed == TypedText::Replace)
+        lineEdit->showText(text);
+    else if (!lineEdit->updateText(text))
+        return;
     lineEdit->home(false);
 }
 

@@ -4,9 +4,11 @@
 #include <lattice/ActionNotifier.hpp>
 #include <optional>
 #include <plugin/QInputWidgetCreator.hpp>
+#include <QAccessible>
 #include <QDoubleValidator>
 #include <QHBoxLayout>
 #include <QMouseEvent>
+#include <qVinputs/basics/NumberToolTip.hpp>
 
 namespace Kolt {
 
@@ -17,6 +19,9 @@ constexpr char PrecisionProperty[] = "precision";
 
 // A double has no more decimals than this that are not all zero.
 constexpr int LargestPrecision = 1000;
+
+// Single steps that one notch of the wheel makes by default.
+constexpr int WheelLines = 3;
 
 /// The share of the interval to which a key of the slider leads.
 std::optional<double> shareOf(int key) {
@@ -35,6 +40,10 @@ std::optional<double> shareOf(int key) {
 }
 
 } // namespace
+
+IntervalControl::State IntervalControl::numberState() const {
+    return {number, interval.min, interval.max, interval.delta};
+}
 
 MyQSlider::MyQSlider(QFloat* parent, char const*) : QSlider(Qt::Horizontal, parent) {
     setFocusPolicy(Qt::WheelFocus);
@@ -57,7 +66,26 @@ void MyQSlider::mousePressEvent(QMouseEvent* event) {
         setRepeatAction(SliderNoAction);
         setValue(position);
     }
-    setValue(interval.positionAtFraction(static_cast<double>(qRound(event->localPos().x())) / width()));
+    setValue(positionAt(*event));
+}
+
+void MyQSlider::mouseMoveEvent(QMouseEvent* event) {
+    // The base class measures from the handle's edge, which would throw the value back where the press put the handle.
+    if ((event->buttons() & Qt::LeftButton) && width() > 0)
+        setSliderPosition(positionAt(*event));
+    else
+        QSlider::mouseMoveEvent(event);
+}
+
+int MyQSlider::positionAt(QMouseEvent const& event) const {
+    return interval.positionAtFraction(static_cast<double>(qRound(event.localPos().x())) / width());
+}
+
+void MyQSlider::takeRange() {
+    int const last = interval.lastPosition();
+    setRange(0, last);
+    setSingleStep(std::max(1, last / (100 * WheelLines)));
+    setPageStep(std::max(1, last / 10));
 }
 
 void MyQSlider::keyPressEvent(QKeyEvent* event) {
@@ -100,7 +128,7 @@ void MyQSlider::keyPressEvent(QKeyEvent* event) {
 void MyQSlider::rescale(double current) {
     {
         QSignalBlocker const blocker(this);
-        setRange(0, interval.lastPosition());
+        takeRange();
     }
     setValue(interval.positionOf(current));
 }
@@ -177,21 +205,29 @@ QAbstractSlider* QFloat::control() const {
     return dial_;
 }
 
-FloatInterval* QFloat::interval() const {
+IntervalControl* QFloat::intervalControl() const {
     if (slider_)
-        return &slider_->interval;
-    return dial_ ? &dial_->interval : nullptr;
+        return slider_;
+    return dial_;
+}
+
+FloatInterval* QFloat::interval() const {
+    auto* const shown = intervalControl();
+    return shown ? &shown->interval : nullptr;
 }
 
 void QFloat::applyProperties(ValueMap const* properties) {
     resolution_ = propertyOr(properties, IncrementProperty, resolution_);
     if (auto* const shown = interval()) {
-        auto const bounds = boundsOr<double>(properties, {shown->min, shown->max});
-        shown->min = bounds.minimum;
-        shown->max = bounds.maximum;
+        bounds_ = boundsOr<double>(properties, {shown->min, shown->max});
+        shown->min = bounds_.minimum;
+        shown->max = bounds_.maximum;
         shown->setResolution(resolution_);
         QSignalBlocker const blocker(control());
-        control()->setRange(0, shown->lastPosition());
+        if (slider_)
+            slider_->takeRange();
+        else
+            dial_->setRange(0, shown->lastPosition());
     }
     precision_ = std::clamp(propertyOr(properties, PrecisionProperty, precision_), 0, LargestPrecision);
 }
@@ -201,18 +237,38 @@ void QFloat::moveHandle(double value) {
         moveSilently(control(), bounds->positionOf(value));
 }
 
-void QFloat::showText(double value) {
+void QFloat::showText(double value, TypedText typed) {
     shown_ = value;
-    showNumberText(lineEdit_, QString::fromLatin1("%1").arg(value, precision_, 'f', precision_, QLatin1Char(' ')));
+    showNumberText(lineEdit_, QString::fromLatin1("%1").arg(value, precision_, 'f', precision_, QLatin1Char(' ')),
+                   typed);
+    markNumber(lineEdit_, isOutside(value, bounds_), [this] { return numberTip(); });
+    auto* const shown = intervalControl();
+    if (!shown)
+        return;
+    shown->number = value;
+    if (QAccessible::isActive()) {
+        QAccessibleValueChangeEvent change(control(), value);
+        QAccessible::updateAccessibility(&change);
+    }
+}
+
+QString QFloat::numberTip() const {
+    return numberToolTip(factsOf(shown_, bounds_), slider_ ? floatSliderKeys() : QString());
+}
+
+bool QFloat::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && showNumberToolTip(*this, *static_cast<QHelpEvent*>(event), numberTip()))
+        return true;
+    return QFrame::event(event);
 }
 
 void QFloat::showNumber(double value) {
-    showText(value);
+    showText(value, TypedText::Keep);
     moveHandle(value);
 }
 
-void QFloat::showAndWrite(double value) {
-    showText(value);
+void QFloat::showAndWrite(double value, TypedText typed) {
+    showText(value, typed);
     QPointer<QFloat> const self(this);
     commit(value);
     // A listener may have set another value, which is the one shown now.
@@ -222,7 +278,7 @@ void QFloat::showAndWrite(double value) {
 
 void QFloat::sliderValueChanged(int position) {
     if (auto const* const bounds = interval())
-        showAndWrite(bounds->valueAt(position));
+        showAndWrite(bounds->valueAt(position), TypedText::Replace);
 }
 
 void QFloat::textEnter() {
@@ -235,7 +291,7 @@ void QFloat::textEnter() {
     QPointer<QFloat> const self(this);
     commit(number);
     if (self)
-        showText(shown_);
+        showText(shown_, TypedText::Replace);
 }
 
 void QFloat::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
@@ -256,7 +312,7 @@ void QFloat::onValueChange(ValuePtr const& newValue, VContext const& context, Va
         showNumber(*value);
         break;
     case Arrival::NotYetStored:
-        showAndWrite(*value);
+        showAndWrite(*value, TypedText::Keep);
         break;
     }
 }

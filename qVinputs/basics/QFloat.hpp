@@ -8,39 +8,55 @@
 #include <QFrame>
 #include <QPointer>
 #include <QSlider>
+#include <sorrel/AccessibleNumber.hpp>
 
 namespace Kolt {
 
 class QFloat;
 
-/// A horizontal slider that represents an interval of floating-point numbers. A click with the left button puts the
-/// handle under the pointer. Keys, besides those that move the focus: Right one step up; Left, Home and End one step
-/// down; Up and Down make the steps coarser and finer; + and - widen and narrow the interval around the current value;
-/// 1, 2, 3 and 4 move to 10, 33, 66 and 90 per cent. All other keys are accepted and do nothing.
-class MyQSlider : public QSlider {
+/// What the slider and the dial of a floating-point number have in common.
+class IntervalControl : public AccessibleNumber {
+public:
+    FloatInterval interval;
+    /// The number that the editor shows; it may lie between two positions and outside the interval.
+    double number = 0.0;
+
+    State numberState() const override;
+    int positionOf(double value) const override { return interval.positionOf(value); }
+};
+
+/// A horizontal slider that represents an interval of floating-point numbers. A press of the left button puts the
+/// handle under the pointer, and the handle stays there until the release. The wheel moves it by a hundredth of the
+/// positions, with Ctrl or Shift by a tenth, and by one at least. Keys, besides those that move the focus: Right one
+/// step up; Left, Home and End one step down; Up and Down make the steps coarser and finer; + and - widen and narrow
+/// the interval around the current value; 1, 2, 3 and 4 move to 10, 33, 66 and 90 per cent. All other keys are accepted
+/// and do nothing.
+class MyQSlider : public QSlider, public IntervalControl {
 public:
     /// `parent` owns the control. The name is a note for readers of the code and is not kept.
     MyQSlider(QFloat* parent, char const* name);
 
-    FloatInterval interval;
+    /// Takes the range, and the steps of the wheel, from the interval.
+    void takeRange();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// The position under a pointer. REQUIRES: a width.
+    int positionAt(QMouseEvent const& event) const;
     /// Takes the range from the interval, whose steps were changed, and moves to the position of `current`, a value.
     void rescale(double current);
 };
 
 /// A dial that represents an interval of floating-point numbers. It is turned by dragging, releasing and the wheel:
 /// keys and the press of a button do nothing.
-class MyQDial : public QDial {
+class MyQDial : public QDial, public IntervalControl {
 public:
     /// `parent` owns the control. The name is a note for readers of the code and is not kept.
     MyQDial(QFloat* parent, char const* name);
-
-    FloatInterval interval;
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -77,6 +93,10 @@ public slots:
     /// deleted meanwhile.
     void textEnter();
 
+protected:
+    /// Shows the tool tip.
+    bool event(QEvent* event) override;
+
 private:
     // Parts of the construction.
     void makeDial(bool periodic);
@@ -85,17 +105,20 @@ private:
 
     /// The slider or the dial, and its interval; null if it was deleted.
     QAbstractSlider* control() const;
+    IntervalControl* intervalControl() const;
     FloatInterval* interval() const;
     /// Takes interval, resolution and precision from properties. What is missing stays as it is; null: everything.
     void applyProperties(ValueMap const* properties);
     /// Moves the control to a number. Writes nothing.
     void moveHandle(double value);
-    /// Shows a number in the line edit. Writes nothing.
-    void showText(double value);
+    /// The tool tip of the number shown.
+    QString numberTip() const;
+    /// Shows a number in the line edit, with a mark outside the range, and to screen readers. Writes nothing.
+    void showText(double value, TypedText typed);
     /// Shows a number in the line edit and by the handle. Writes nothing.
     void showNumber(double value);
     /// Shows a number and writes it. The editor may be deleted meanwhile.
-    void showAndWrite(double value);
+    void showAndWrite(double value, TypedText typed);
 
     // The controls are children; each pointer is null if its control was deleted or never made.
     QPointer<MyQSlider> slider_;
@@ -103,6 +126,8 @@ private:
     QPointer<QLeaveLineEdit> lineEdit_;
     // The number of decimals.
     int precision_ = 6;
+    // The parameter's own range; keys widen and narrow that of the control.
+    NumberBounds<double> bounds_{0.0, 1.0};
     // How many positions the control has.
     double resolution_ = 100000000.0;
     // The number shown last. Without a pool no other object has it.

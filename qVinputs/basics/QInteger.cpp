@@ -4,7 +4,9 @@
 #include <limits>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QIntValidator>
+#include <qVinputs/basics/NumberToolTip.hpp>
 #include <qVinputs/basics/QIntegerIcon.hpp>
+#include <utility>
 
 namespace Kolt {
 
@@ -13,14 +15,15 @@ namespace {
 // How much a move of the control matters to the history.
 constexpr int UndoWeight = 20;
 
+constexpr int LargestInt = std::numeric_limits<int>::max();
+
 int sliderMaximumFor(ValuePtr const& value) {
     auto const number = storedValueIn<int>(value);
     if (!number)
         return 256;
     if (*number < 100)
         return 100;
-    constexpr int Largest = std::numeric_limits<int>::max();
-    return *number > Largest / 2 ? Largest : 2 * *number;
+    return *number > LargestInt / 2 ? LargestInt : 2 * *number;
 }
 
 } // namespace
@@ -69,7 +72,7 @@ QInteger::QInteger(ParameterRef const& parameter, QWidget* parent, ValuePoolSour
     setLayout(layout_);
     show();
     if (owner())
-        showNumber(cached_);
+        showNumber(cached_, TypedText::Replace);
 
     if (slider_)
         connect(slider_, &QSlider::valueChanged, this, &QInteger::valueChanged);
@@ -132,16 +135,39 @@ void QInteger::setRange(NumberBounds<int> const& bounds) {
     if (dial_)
         dial_->setWrapping(periodic_ && bounds.minimum < bounds.maximum);
     handle->setValue(shown_);
+    showMark();
 }
 
-void QInteger::showNumber(int value) {
+void QInteger::showNumber(int value, TypedText typed) {
     shown_ = value;
-    showNumberText(lineEdit_, QString::number(value));
+    showNumberText(lineEdit_, QString::number(value), typed);
     moveSilently(control(), value);
+    showMark();
 }
 
-void QInteger::showAndWrite(int value) {
-    showNumber(value);
+NumberBounds<int> QInteger::bounds() const {
+    auto const* const handle = control();
+    // Without a control nothing says what the range is.
+    return handle ? NumberBounds<int>{handle->minimum(), handle->maximum()}
+                  : NumberBounds<int>{LargestInt, std::numeric_limits<int>::min()};
+}
+
+QString QInteger::numberTip() const {
+    return numberToolTip(factsOf(shown_, bounds()), sliderKeys());
+}
+
+void QInteger::showMark() {
+    markNumber(lineEdit_, isOutside(shown_, bounds()), [this] { return numberTip(); });
+}
+
+bool QInteger::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && showNumberToolTip(*this, *static_cast<QHelpEvent*>(event), numberTip()))
+        return true;
+    return QWidget::event(event);
+}
+
+void QInteger::showAndWrite(int value, TypedText typed) {
+    showNumber(value, typed);
     // The second part: a listener of the history may move the control again before the number is written.
     if (value == cached_ || value == recording_)
         return;
@@ -161,15 +187,17 @@ void QInteger::showAndWrite(int value) {
         return;
     recording_ = outerRecording;
     if (shown_ != value)
-        showNumber(value);
+        showNumber(value, TypedText::Replace);
     commit(value);
 }
 
 void QInteger::valueChanged(int value) {
+    // A typed number moved the handle as far as it goes; what is shown, written and told is the number.
+    int const number = std::exchange(typed_, std::nullopt).value_or(value);
     if (owner())
-        showAndWrite(value);
+        showAndWrite(number, TypedText::Replace);
     else
-        commit(value);
+        commit(number);
 }
 
 void QInteger::textEnter() {
@@ -184,12 +212,16 @@ void QInteger::textEnter() {
     }
     // The control's signal stays live: a handle that moves records the step.
     QPointer<QInteger> const self(this);
+    typed_ = number;
     if (auto* const handle = control())
         handle->setValue(number);
-    // An owner that went meanwhile was reported by the control's slot.
-    if (!self || !owner())
+    if (!self)
         return;
-    showNumber(number);
+    typed_.reset();
+    // An owner that went meanwhile was reported by the control's slot.
+    if (!owner())
+        return;
+    showNumber(number, TypedText::Replace);
     commit(number);
 }
 
@@ -208,11 +240,11 @@ void QInteger::onValueChange(ValuePtr const& newValue, VContext const& context, 
         break;
     case Arrival::Current:
         cached_ = *value;
-        showNumber(*value);
+        showNumber(*value, TypedText::Keep);
         break;
     case Arrival::NotYetStored:
         if (owner())
-            showAndWrite(*value);
+            showAndWrite(*value, TypedText::Keep);
         break;
     }
 }

@@ -63,6 +63,10 @@ public slots:
     /// ignored. The editor may be deleted meanwhile.
     void textEnter();
 
+protected:
+    /// Shows the tool tip.
+    bool event(QEvent* event) override;
+
 private:
     // Parts of the construction.
     void makeDial(bool periodic);
@@ -76,9 +80,15 @@ private:
     /// Sets the control's range and moves it to the number shown. Writes nothing.
     void setRange(NumberBounds<int> const& bounds);
     /// Shows a number in the line edit and by the handle. Writes nothing.
-    void showNumber(int value);
+    void showNumber(int value, TypedText typed);
+    /// The range of the control, which may have been deleted.
+    NumberBounds<int> bounds() const;
+    /// The tool tip of the number shown.
+    QString numberTip() const;
+    /// Marks a number outside the range.
+    void showMark();
     /// Shows a number and, if it is new, records an undo step and writes it.
-    void showAndWrite(int value);
+    void showAndWrite(int value, TypedText typed);
 
     // The controls are children; each pointer is null if its control was deleted or never made.
     QPointer<QHBoxLayout> layout_;
@@ -91,6 +101,8 @@ private:
     int shown_ = 0;
     // The number whose undo step is being recorded; the listeners of the history may move the control meanwhile.
     std::optional<int> recording_;
+    // The number that was typed, while the handle moves to the position nearest to it.
+    std::optional<int> typed_;
 };
 
 } // namespace Kolt

@@ -1,6 +1,7 @@
 #include <qVinputs/basics/qVStringList.hpp>
 
 #include <plugin/QInputWidgetCreator.hpp>
+#include <QLineEdit>
 
 namespace Kolt {
 
@@ -46,11 +47,32 @@ void qVStringList::fill() {
     comboBox_->setCurrentIndex(current);
 }
 
-void qVStringList::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const*) {
+void qVStringList::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
     if (arrivalOf(newValue, context) == Arrival::OtherPool)
         return;
-    if (cacheStored(newValue) && cached_)
-        fill();
+    auto const shown = cached_;
+    if (!cacheStored(newValue) || !cached_)
+        return;
+    // A property is not shown, and a text that is being typed must stay.
+    if (properties && VValueTrait<VStringList>::Equal(shown, cached_))
+        return;
+    refill();
+}
+
+void qVStringList::refill() {
+    auto* const field = comboBox_ ? comboBox_->lineEdit() : nullptr;
+    bool const isTyped = field && field->hasFocus() && field->text() != comboBox_->itemText(comboBox_->currentIndex());
+    auto const typed = isTyped ? field->text() : QString();
+    int const cursor = isTyped ? field->cursorPosition() : 0;
+    // Qt completes a text by characters that are selected behind the cursor.
+    auto const selected = isTyped ? field->selectedText().size() : 0;
+    fill();
+    if (!isTyped)
+        return;
+    field->setText(typed);
+    field->setCursorPosition(cursor);
+    if (selected > 0)
+        field->setSelection(cursor + selected, -selected);
 }
 
 void qVStringList::selectItem(QString const& what) {

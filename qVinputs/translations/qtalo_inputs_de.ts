@@ -39,4 +39,41 @@
         <translation>Wählt nach Nummern aus. 0-5,9 etwa wählt den Bereich von 0 bis 5 und den Eintrag Nummer 9. Mit 2nd, 3rd, 4th usw. wird jeder zweite, dritte, vierte usw. gewählt. Eine angehängte Zahl verschiebt das: 4th+2 wählt jeden vierten Eintrag, beginnend mit dem dritten. Die Eingabetaste löst die Auswahl aus.</translation>
     </message>
 </context>
+<context>
+    <name>NumberToolTip</name>
+    <message>
+        <source>outside %1 to %2</source>
+        <translation>außerhalb %1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Arrow keys: one step
+Page Up, Page Down: a page
+Home, End: to the ends</source>
+        <translation>Pfeiltasten: ein Schritt
+Bild auf, Bild ab: eine Seite
+Pos1, Ende: an die Enden</translation>
+    </message>
+    <message>
+        <source>Right: one step up
+Left, Home, End: one step down
+Up, Down: coarser and finer steps
++, -: wider and narrower around the value
+1, 2, 3, 4: to 10, 33, 66, 90 per cent</source>
+        <translation>Rechts: ein Schritt aufwärts
+Links, Pos1, Ende: ein Schritt abwärts
+Auf, Ab: gröbere und feinere Schritte
++, -: weiter und enger um den Wert
+1, 2, 3, 4: auf 10, 33, 66, 90 Prozent</translation>
+    </message>
+    <message>
+        <source>Return: enter
+Escape: restore</source>
+        <translation>Eingabe: übernehmen
+Esc: wiederherstellen</translation>
+    </message>
+</context>
 </TS>

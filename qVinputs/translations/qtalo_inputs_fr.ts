@@ -39,4 +39,41 @@
         <translation>Sélectionne par numéros. 0-5,9 choisit par exemple la plage de 0 à 5 et l’élément numéro 9. Avec 2nd, 3rd, 4th, etc., un élément sur deux, trois, quatre, etc. est choisi. Un nombre ajouté décale ce choix : 4th+2 choisit un élément sur quatre à partir du troisième. Entrée lance la sélection.</translation>
     </message>
 </context>
+<context>
+    <name>NumberToolTip</name>
+    <message>
+        <source>outside %1 to %2</source>
+        <translation>hors de %1 à %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>Arrow keys: one step
+Page Up, Page Down: a page
+Home, End: to the ends</source>
+        <translation>Flèches : un pas
+Page préc., Page suiv. : une page
+Début, Fin : aux extrémités</translation>
+    </message>
+    <message>
+        <source>Right: one step up
+Left, Home, End: one step down
+Up, Down: coarser and finer steps
++, -: wider and narrower around the value
+1, 2, 3, 4: to 10, 33, 66, 90 per cent</source>
+        <translation>Droite : un pas vers le haut
+Gauche, Début, Fin : un pas vers le bas
+Haut, Bas : pas plus grands et plus petits
++, - : plus large et plus étroit autour de la valeur
+1, 2, 3, 4 : à 10, 33, 66, 90 pour cent</translation>
+    </message>
+    <message>
+        <source>Return: enter
+Escape: restore</source>
+        <translation>Entrée : valider
+Échap : restaurer</translation>
+    </message>
+</context>
 </TS>

@@ -82,6 +82,11 @@ protected:
     /// The text of a value of the object "all" in the chosen pool.
     std::string held(char const* name) const { return valueOf(("all." + std::string(name)).c_str()); }
 
+    /// The text of a value in one of the pools.
+    std::string valueInPool(char const* name, std::size_t pool) const {
+        return parameter(name)->effectiveValue(window->network()->pools().at(pool))->Text();
+    }
+
     /// Moves the handle of a slider as the mouse does, from where it is by a number of pixels each time.
     static void drag(QSlider* slider, std::initializer_list<int> distances) {
         QStyleOptionSlider option;

@@ -230,3 +230,43 @@ TEST_F(RandomIntervals, TheEndsAreTheFirstAndTheLastPosition) {
         EXPECT_EQ(bounds.valueAt(0), bounds.min);
     });
 }
+
+TEST(FloatIntervalTest, FiniteEndsGiveFiniteValuesHoweverFarApart) {
+    constexpr double Largest = std::numeric_limits<double>::max();
+    for (auto const& [min, max] : std::vector<std::pair<double, double>>{
+             {-1e308, 1e308}, {-Largest, Largest}, {0.0, 1e305}, {1e-300, 1e300}, {-Largest, -1e308}}) {
+        auto bounds = interval(min, max, 1e8);
+        for (int round = 0; round < 12; ++round) {
+            SCOPED_TRACE(testing::Message() << min << ' ' << max << ' ' << round);
+            ASSERT_TRUE(std::isfinite(bounds.min) && std::isfinite(bounds.max) && std::isfinite(bounds.delta));
+            int const last = bounds.lastPosition();
+            EXPECT_GT(last, 2);
+            EXPECT_EQ(bounds.valueAt(0), bounds.min);
+            EXPECT_EQ(bounds.valueAt(last), bounds.max);
+            EXPECT_EQ(bounds.positionOf(bounds.max), last);
+            EXPECT_EQ(bounds.positionOf(bounds.min), 0);
+            EXPECT_NEAR(bounds.positionOf(bounds.valueAt(last / 3)), last / 3, 1);
+            EXPECT_NEAR(bounds.positionAtShare(0.9), 0.9 * last, 1.0);
+            EXPECT_LT(bounds.valueAt(last / 3), bounds.valueAt(last / 2));
+            double const middle = bounds.valueAt(last / 2);
+            if (round % 4 == 0)
+                bounds.widen(middle);
+            else if (round % 4 == 1)
+                bounds.refine();
+            else if (round % 4 == 2)
+                bounds.narrow(middle);
+            else
+                bounds.coarsen();
+        }
+    }
+}
+
+TEST(FloatIntervalTest, HugeIntervalsHaveThePositionsOfSmallOnes) {
+    auto const huge = interval(-0x1p1023, 0x1p1023, 1000);
+    auto const small = interval(-1.0, 1.0, 1000);
+    ASSERT_EQ(huge.lastPosition(), small.lastPosition());
+    for (int position = 0; position <= small.lastPosition(); ++position) {
+        EXPECT_EQ(huge.valueAt(position), small.valueAt(position) * 0x1p1023);
+        EXPECT_EQ(huge.positionOf(huge.valueAt(position)), small.positionOf(small.valueAt(position)));
+    }
+}

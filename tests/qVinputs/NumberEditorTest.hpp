@@ -3,7 +3,9 @@
 #include "support/TestHost.hpp"
 
 #include <QDial>
+#include <QHelpEvent>
 #include <QSlider>
+#include <QToolTip>
 #include <sorrel/QLeaveLineEdit.hpp>
 
 /// What the tests of the editors of integers and of floating-point numbers share. T is the type of the numbers.
@@ -21,6 +23,15 @@ protected:
         lineEdit(editor)->selectAll();
         QTest::keyClicks(lineEdit(editor), typed);
         QTest::keyClick(lineEdit(editor), Qt::Key_Return);
+    }
+
+    /// What the mouse is shown that rests on a widget.
+    static std::string toolTip(QWidget* widget) {
+        QToolTip::hideText();
+        auto const place = widget->rect().center();
+        QHelpEvent event(QEvent::ToolTip, place, widget->mapToGlobal(place));
+        QApplication::sendEvent(widget, &event);
+        return QToolTip::text().toStdString();
     }
 
     static void setProperty(Kolt::ParameterPtr const& parameter, char const* name, Kolt::ValuePtr const& value) {

@@ -84,10 +84,13 @@ protected:
             auto const most = anyStep();
             EXPECT_LE(recorder.values.size(), most);
         }
-        // A user who typed without Return sees the current value after leaving the field.
+        // A text that is still being typed stays; a user who gives it up sees the current value.
         parameter->notifyValueChange(parameter->ownValue(), firstPool, std::string(), nullptr, nullptr, nullptr);
-        for (auto const& editor : editors)
-            EXPECT_EQ(editor->findChild<QLineEdit*>()->text(), expectedText());
+        for (auto const& editor : editors) {
+            auto* const lineEdit = editor->findChild<QLineEdit*>();
+            QTest::keyClick(lineEdit, Qt::Key_Escape);
+            EXPECT_EQ(lineEdit->text(), expectedText());
+        }
     }
 
     std::mt19937 generator{20230329};

@@ -20,6 +20,13 @@ protected:
         QApplication::sendEvent(control, &release);
     }
 
+    /// Moves the mouse along a control while its left button is pressed.
+    static void drag(QSlider* control, int x) {
+        QMouseEvent move(QEvent::MouseMove, QPointF(x, control->height() / 2), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(control, &move);
+    }
+
     static ParameterPtr real(double value, std::vector<std::string> const& preferences = {},
                              Values values = Values::Shared) {
         return makeParameter("scale", Kolt::makeValue(value), preferences, values);

@@ -70,6 +70,52 @@ TEST_F(QFloatTest, TheHandleCanBeDraggedAfterAPressOnIt) {
     EXPECT_EQ(held(parameter), control->value() / 1000.0);
 }
 
+TEST_F(QFloatTest, APressBesideTheHandleAndADragMovesItOnFromThere) {
+    for (int const from : {10, 70, 200}) {
+        auto const parameter = bounded(0.5, 0.0, 1.0, 100000000);
+        auto const editor = open(parameter);
+        auto* const control = slider(editor);
+        control->resize(260, control->height());
+        record(parameter);
+        QTest::mousePress(control, Qt::LeftButton, {}, {from, control->height() / 2});
+        EXPECT_EQ(recorder.values.size(), 1U) << "one notification for the press";
+        auto const pressed = held(parameter);
+        EXPECT_NEAR(pressed, static_cast<double>(from) / control->width(), 1e-6);
+        drag(control, from);
+        EXPECT_EQ(held(parameter), pressed) << "a move to the place of the press changes nothing";
+        drag(control, from + 1);
+        EXPECT_NEAR(held(parameter), (from + 1.0) / control->width(), 1e-6);
+        drag(control, from + 20);
+        EXPECT_NEAR(held(parameter), (from + 20.0) / control->width(), 1e-6);
+        drag(control, 5000);
+        EXPECT_EQ(held(parameter), 1.0);
+        drag(control, -5000);
+        EXPECT_EQ(held(parameter), 0.0);
+        QTest::mouseRelease(control, Qt::LeftButton, {}, {from, control->height() / 2});
+        recorder.values.clear();
+        QMouseEvent hover(QEvent::MouseMove, QPointF(from, 5), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(control, &hover);
+        EXPECT_TRUE(recorder.values.empty());
+        delete editor.widget;
+    }
+}
+
+TEST_F(QFloatTest, APressOnTheHandleDoesNotThrowTheValueBackAtTheFirstMove) {
+    auto const parameter = bounded(0.5, 0.0, 1.0, 100000000);
+    auto const editor = open(parameter);
+    auto* const control = slider(editor);
+    control->resize(260, control->height());
+    for (int const beside : {-4, 0, 4}) {
+        changeElsewhere(parameter, 0.5, firstPool);
+        int const place = control->width() / 2 + beside;
+        QTest::mousePress(control, Qt::LeftButton, {}, {place, control->height() / 2});
+        auto const pressed = held(parameter);
+        drag(control, place + 1);
+        EXPECT_NEAR(held(parameter) - pressed, 1.0 / control->width(), 1e-6);
+        QTest::mouseRelease(control, Qt::LeftButton, {}, {place + 1, control->height() / 2});
+    }
+}
+
 TEST_F(QFloatTest, OtherButtonsDoWhatTheyDoWithEverySlider) {
     auto const parameter = bounded(0.0, 0.0, 1.0, 1000);
     auto const editor = open(parameter);
@@ -234,6 +280,50 @@ TEST_F(QFloatKeyTest, TabMovesTheFocus) {
     EXPECT_TRUE(control->hasFocus());
     key(Qt::Key_Tab);
     EXPECT_FALSE(control->hasFocus());
+}
+
+TEST_F(QFloatTest, TheWheelMovesTheHandleVisiblyAndByWholePositions) {
+    for (double const positions : {2.0, 50.0, 200.0, 1000.0, 1e8, 1e9}) {
+        auto const parameter = bounded(0.5, 0.0, 1.0, positions);
+        auto const editor = open(parameter);
+        auto* const control = slider(editor);
+        int const before = control->value();
+        turnWheel(*control, 1);
+        int const moved = control->value() - before;
+        EXPECT_GE(moved, 1) << positions;
+        EXPECT_GE(moved, control->maximum() / 110) << "a hundredth of the positions";
+        EXPECT_LE(moved, std::max(3, control->maximum() / 90));
+        EXPECT_EQ(held(parameter), control->value() / static_cast<double>(control->maximum()));
+        QTest::keyClick(control, Qt::Key_Left);
+        EXPECT_EQ(control->value(), before + moved - 1) << "the keys stay as they are";
+        delete editor.widget;
+    }
+}
+
+TEST_F(QFloatKeyTest, TheWheelFollowsTheScale) {
+    for (int n = 0; n < 20; ++n)
+        key(Qt::Key_Down);
+    int const before = control->value();
+    turnWheel(*control, 1);
+    EXPECT_NEAR(control->value() - before, control->maximum() / 100.0, 3.0);
+}
+
+TEST_F(QFloatTest, FiniteBoundsNeverGiveNaN) {
+    for (auto const& [minimum, maximum] : std::vector<std::pair<double, double>>{
+             {-1e308, 1e308}, {0.0, 1.7e308}, {-1.7e308, -1.6e308}, {0.0, 1e305}, {-1.7976e308, 1.7976e308}}) {
+        for (double const start : {minimum, 0.0, 0.5 * minimum + 0.5 * maximum, maximum}) {
+            auto const parameter = bounded(start, minimum, maximum, 1e8);
+            auto const editor = open(parameter);
+            auto* const control = slider(editor);
+            for (auto const pressed :
+                 {Qt::Key_Right, Qt::Key_Left, Qt::Key_Plus, Qt::Key_Right, Qt::Key_Up, Qt::Key_1, Qt::Key_Down,
+                  Qt::Key_4, Qt::Key_Minus, Qt::Key_Down, Qt::Key_2, Qt::Key_Plus, Qt::Key_Plus, Qt::Key_Left}) {
+                QTest::keyClick(control, pressed);
+                EXPECT_TRUE(std::isfinite(held(parameter))) << minimum << ' ' << maximum << ' ' << pressed;
+            }
+            delete editor.widget;
+        }
+    }
 }
 
 TEST_F(QFloatKeyTest, TheWheelMovesTheHandle) {

@@ -1,4 +1,5 @@
 #include "SelectionTest.hpp"
+#include "support/TextDrop.hpp"
 #include <bramble/StringSelection.hpp>
 
 #include <QComboBox>
@@ -271,4 +272,55 @@ TEST_F(StringListTest, SurvivesTheLossOfItsComboBox) {
     tellOfChange(parameter);
     EXPECT_TRUE(QMetaObject::invokeMethod(editor.widget, "selectItem", Q_ARG(QString, "tiff")));
     EXPECT_EQ(strings->selected(), "tiff");
+}
+
+TEST_F(StringListTest, ATextThatIsBeingTypedStaysWhenSomethingElseChanges) {
+    auto const parameter = parameterOf(makeStrings({"one", "two", "three"}, "one"), Values::Shared, {"editable"});
+    auto const editor = open(parameter);
+    parent->show();
+    parent->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(parent));
+    combo(editor)->setFocus();
+    auto* const field = combo(editor)->lineEdit();
+    field->selectAll();
+    QTest::keyClicks(combo(editor), QStringLiteral("tw"));
+    ASSERT_EQ(field->text(), QStringLiteral("two")) << "completed by Qt";
+    auto const typed = field->text();
+    parameter->setProperty("comment", Kolt::makeValue(1), nullptr, nullptr, nullptr);
+    EXPECT_EQ(field->text(), typed);
+    setElsewhere(parameter, makeStrings({"one", "two", "three", "four"}, "three"));
+    EXPECT_EQ(field->text(), typed);
+    EXPECT_EQ(combo(editor)->count(), 4);
+    EXPECT_EQ(combo(editor)->currentIndex(), 2);
+    QTest::keyClicks(combo(editor), QStringLiteral("x"));
+    EXPECT_EQ(field->text(), QStringLiteral("twx")) << "the completion gives way to what is typed";
+    combo(editor)->clearFocus();
+    setElsewhere(parameter, makeStrings({"one", "two"}, "one"));
+    EXPECT_EQ(field->text(), QStringLiteral("one")) << "nothing is being typed any more";
+}
+
+TEST_F(StringListTest, ADroppedTextIsTakenOverOrNotShown) {
+    auto const parameter = parameterOf(makeStrings({"one", "two", "twone"}, "one"), Values::Shared, {"editable"});
+    auto const editor = open(parameter);
+    auto* const field = combo(editor)->lineEdit();
+    record(parameter);
+    dropText(*field, QStringLiteral("x"));
+    EXPECT_EQ(field->text(), QStringLiteral("one"));
+    EXPECT_EQ(commits(), 0U);
+    dropText(*field, QStringLiteral("tw"));
+    EXPECT_EQ(field->text(), QStringLiteral("twone"));
+    EXPECT_EQ(commits(), 1U);
+    EXPECT_EQ(combo(editor)->currentIndex(), 2);
+    EXPECT_EQ(combo(editor)->count(), 3);
+}
+
+TEST_F(StringListTest, AListenerMayDeleteTheEditorThatATextWasDroppedOn) {
+    auto const parameter = parameterOf(makeStrings({"one", "twone"}, "one"), Values::Shared, {"editable"});
+    auto const editor = open(parameter);
+    record(parameter);
+    recorder.reaction = [&] { editor.widget->deleteLater(); };
+    dropText(*combo(editor)->lineEdit(), QStringLiteral("tw"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(editor.widget);
+    EXPECT_EQ(commits(), 1U);
 }
