@@ -139,7 +139,7 @@
     </message>
     <message>
         <source>%1 is still being written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est encore en cours d’écriture.</translation>
     </message>
 </context>
 </TS>

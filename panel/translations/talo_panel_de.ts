@@ -258,94 +258,94 @@
     </message>
     <message>
         <source>The file is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist weg</translation>
     </message>
     <message>
         <source>The file was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wurde geändert</translation>
     </message>
     <message>
         <source>%1 is gone since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gibt es nicht mehr, seit die Datei hier geöffnet oder gespeichert wurde.</translation>
     </message>
     <message>
         <source>Another program has changed %1 since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat %1 geändert, seit die Datei hier geöffnet oder gespeichert wurde.</translation>
     </message>
     <message>
         <source>Shall it be written again?</source>
-        <translation type="unfinished"></translation>
+        <translation>Soll sie neu geschrieben werden?</translation>
     </message>
     <message>
         <source>Saving overwrites what the other program wrote.</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern überschreibt, was das andere Programm geschrieben hat.</translation>
     </message>
     <message>
         <source>Unfinished work</source>
-        <translation type="unfinished"></translation>
+        <translation>Unfertige Arbeit</translation>
     </message>
     <message>
         <source>It ends with the network, and its file is not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie endet mit dem Netzwerk, und ihre Datei wird nicht geschrieben.</translation>
     </message>
     <message>
         <source>&amp;End it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
 </context>
 <context>
     <name>Panel::FileNotices</name>
     <message>
         <source>%1 is gone. The values are still here; saving writes the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gibt es nicht mehr. Die Werte sind noch hier; Speichern schreibt die Datei neu.</translation>
     </message>
     <message>
         <source>Another program has changed %1. Saving will ask before it overwrites the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat %1 geändert. Speichern fragt, bevor es die Datei überschreibt.</translation>
     </message>
     <message>
         <source>Another program has changed %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat %1 geändert.</translation>
     </message>
     <message>
         <source>&amp;Load it again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu laden</translation>
     </message>
     <message>
         <source>The network cannot be opened</source>
-        <translation type="unfinished">Das Netz lässt sich nicht öffnen</translation>
+        <translation>Das Netzwerk kann nicht geöffnet werden</translation>
     </message>
     <message>
         <source>%1 is open in another panel, too. Who saves last overwrites what the other one saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist auch in einem anderen Panel offen. Wer zuletzt speichert, überschreibt, was der andere gespeichert hat.</translation>
     </message>
     <message>
         <source>Unsaved values</source>
-        <translation type="unfinished">Nicht gespeicherte Werte</translation>
+        <translation>Ungespeicherte Werte</translation>
     </message>
     <message>
         <source>The panel ended while values of “%1” were not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Panel wurde beendet, während Werte von „%1“ nicht gespeichert waren.</translation>
     </message>
     <message>
         <source>They were kept on %1. Shall they be restored?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie wurden am %1 aufgehoben. Sollen sie wiederhergestellt werden?</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verwerfen</translation>
     </message>
     <message>
         <source>Restored unsaved values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungespeicherte Werte wurden wiederhergestellt.</translation>
     </message>
     <message>
         <source>Not all values could be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht alle Werte konnten wiederhergestellt werden</translation>
     </message>
 </context>
 <context>
@@ -549,7 +549,7 @@
     <name>Panel::NoticeBar</name>
     <message>
         <source>Close this notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Hinweis schließen</translation>
     </message>
 </context>
 <context>
@@ -633,7 +633,7 @@
     <name>Panel::Recovery</name>
     <message>
         <source>The unsaved values cannot be kept in %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ungespeicherten Werte können nicht in %1 aufgehoben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -647,23 +647,23 @@
     <name>Panel::ViewMenu</name>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished">&amp;Ansicht</translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Raw values</source>
-        <translation type="unfinished">&amp;Rohwerte</translation>
+        <translation>&amp;Rohwerte</translation>
     </message>
     <message>
         <source>&amp;New view</source>
-        <translation type="unfinished">&amp;Neue Ansicht</translation>
+        <translation>&amp;Neue Ansicht</translation>
     </message>
     <message>
         <source>Ctrl+N</source>
-        <translation type="unfinished">Ctrl+N</translation>
+        <translation>Ctrl+N</translation>
     </message>
     <message>
         <source>Ctrl+R</source>
-        <translation type="unfinished">Ctrl+R</translation>
+        <translation>Ctrl+R</translation>
     </message>
 </context>
 <context>
@@ -702,7 +702,7 @@
     </message>
     <message>
         <source>The display is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Anzeige ist weg.</translation>
     </message>
 </context>
 </TS>

@@ -258,94 +258,94 @@
     </message>
     <message>
         <source>The file is gone</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier a disparu</translation>
     </message>
     <message>
         <source>The file was changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier a été modifié</translation>
     </message>
     <message>
         <source>%1 is gone since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a disparu depuis son ouverture ou son enregistrement ici.</translation>
     </message>
     <message>
         <source>Another program has changed %1 since it was opened or saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié %1 depuis son ouverture ou son enregistrement ici.</translation>
     </message>
     <message>
         <source>Shall it be written again?</source>
-        <translation type="unfinished"></translation>
+        <translation>Faut-il l’écrire à nouveau ?</translation>
     </message>
     <message>
         <source>Saving overwrites what the other program wrote.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer écrase ce que l’autre programme a écrit.</translation>
     </message>
     <message>
         <source>Unfinished work</source>
-        <translation type="unfinished"></translation>
+        <translation>Travail inachevé</translation>
     </message>
     <message>
         <source>It ends with the network, and its file is not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il s’arrête avec le réseau, et son fichier n’est pas écrit.</translation>
     </message>
     <message>
         <source>&amp;End it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter</translation>
     </message>
 </context>
 <context>
     <name>Panel::FileNotices</name>
     <message>
         <source>%1 is gone. The values are still here; saving writes the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a disparu. Les valeurs sont encore là ; enregistrer écrit le fichier à nouveau.</translation>
     </message>
     <message>
         <source>Another program has changed %1. Saving will ask before it overwrites the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié %1. L’enregistrement demandera avant d’écraser le fichier.</translation>
     </message>
     <message>
         <source>Another program has changed %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié %1.</translation>
     </message>
     <message>
         <source>&amp;Load it again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recharger</translation>
     </message>
     <message>
         <source>The network cannot be opened</source>
-        <translation type="unfinished">Le réseau ne peut pas être ouvert</translation>
+        <translation>Le réseau ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>%1 is open in another panel, too. Who saves last overwrites what the other one saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est aussi ouvert dans un autre panneau. Le dernier qui enregistre écrase ce que l’autre a enregistré.</translation>
     </message>
     <message>
         <source>Unsaved values</source>
-        <translation type="unfinished">Valeurs non enregistrées</translation>
+        <translation>Valeurs non enregistrées</translation>
     </message>
     <message>
         <source>The panel ended while values of “%1” were not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le panneau s’est arrêté alors que des valeurs de « %1 » n’étaient pas enregistrées.</translation>
     </message>
     <message>
         <source>They were kept on %1. Shall they be restored?</source>
-        <translation type="unfinished"></translation>
+        <translation>Elles ont été conservées le %1. Faut-il les restaurer ?</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurer</translation>
     </message>
     <message>
         <source>&amp;Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;bandonner</translation>
     </message>
     <message>
         <source>Restored unsaved values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs non enregistrées ont été restaurées.</translation>
     </message>
     <message>
         <source>Not all values could be restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Certaines valeurs n’ont pas pu être restaurées</translation>
     </message>
 </context>
 <context>
@@ -549,7 +549,7 @@
     <name>Panel::NoticeBar</name>
     <message>
         <source>Close this notice</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer cet avis</translation>
     </message>
 </context>
 <context>
@@ -633,7 +633,7 @@
     <name>Panel::Recovery</name>
     <message>
         <source>The unsaved values cannot be kept in %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs non enregistrées ne peuvent pas être conservées dans %1 : %2</translation>
     </message>
 </context>
 <context>
@@ -647,23 +647,23 @@
     <name>Panel::ViewMenu</name>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished">&amp;Affichage</translation>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Raw values</source>
-        <translation type="unfinished">Valeurs &amp;brutes</translation>
+        <translation>Valeurs &amp;brutes</translation>
     </message>
     <message>
         <source>&amp;New view</source>
-        <translation type="unfinished">&amp;Nouvelle vue</translation>
+        <translation>&amp;Nouvelle vue</translation>
     </message>
     <message>
         <source>Ctrl+N</source>
-        <translation type="unfinished">Ctrl+N</translation>
+        <translation>Ctrl+N</translation>
     </message>
     <message>
         <source>Ctrl+R</source>
-        <translation type="unfinished">Ctrl+R</translation>
+        <translation>Ctrl+R</translation>
     </message>
 </context>
 <context>
@@ -702,7 +702,7 @@
     </message>
     <message>
         <source>The display is gone.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’affichage a disparu.</translation>
     </message>
 </context>
 </TS>
