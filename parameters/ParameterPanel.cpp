@@ -129,7 +129,6 @@ ParameterPanel::ParameterPanel(Kolt::ObjectPtr const& object, Kolt::ValuePoolSou
         qWarning("ParameterPanel: there is no object to show.");
     connect(d_->rows, &RowArea::editorOpened, this, &ParameterPanel::editorOpened);
     connect(d_->rows, &RowArea::refused, this, &ParameterPanel::refused);
-    connect(d_->rows, &RowArea::defaultChanged, this, &ParameterPanel::defaultChanged);
 }
 
 ParameterPanel::~ParameterPanel() {
@@ -207,22 +206,6 @@ void ParameterPanel::showPool() {
     d_->rows->showPool();
     if (!d_->filter.isEmpty())
         d_->applyFilter();
-}
-
-void ParameterPanel::showDefaults() {
-    d_->rows->showDefaults();
-}
-
-void ParameterPanel::focusFirstEditor() {
-    d_->rows->focusFirstControl();
-}
-
-void ParameterPanel::showParameter(QString const& parameterName) {
-    d_->rows->showRow(parameterName);
-}
-
-ParameterRow* ParameterPanel::row(QString const& parameterName) const {
-    return d_->rows->row(parameterName);
 }
 
 RowArea* ParameterPanel::rowArea() const {

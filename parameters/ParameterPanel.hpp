@@ -10,7 +10,6 @@
 
 namespace Talo {
 
-class ParameterRow;
 class RowArea;
 
 /// Shows the parameters of one object with their editors. Editors come from the plug-ins that are loaded. Each gesture
@@ -63,15 +62,7 @@ public:
     /// Shows the current pool's values after another pool was chosen, and filters by them. Scroll position and focus
     /// stay.
     void showPool();
-    /// Shows which values are not the default after the defaults were changed.
-    void showDefaults();
-    /// Gives the focus to the first control of the first shown row.
-    void focusFirstEditor();
-    /// Scrolls to a parameter by its whole name; nothing if there is none, or the filter hides it.
-    void showParameter(QString const& parameterName);
-    /// The row of a parameter by its whole name; made if it does not exist; null if there is no such parameter.
-    ParameterRow* row(QString const& parameterName) const;
-    /// The scroll area with the rows.
+    /// The scroll area with the rows: to find, show and focus one.
     RowArea* rowArea() const;
 
 signals:
@@ -83,8 +74,6 @@ signals:
     void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor);
     /// A command did nothing, for this reason: a sentence.
     void refused(QString const& reason);
-    /// A parameter has another default.
-    void defaultChanged();
 
 protected:
     void showEvent(QShowEvent* event) override;

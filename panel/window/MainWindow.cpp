@@ -120,7 +120,7 @@ void MainWindow::connectParts() {
     connect(toolBar_->filterField(), &QLineEdit::textChanged, this, &MainWindow::applyFilter);
     connect(toolBar_->filterField(), &QLineEdit::returnPressed, this, [this] {
         if (currentView())
-            currentView()->panel()->focusFirstEditor();
+            currentView()->panel()->rowArea()->focusFirstControl();
     });
     connect(toolBar_, &PoolToolBar::poolChosen, this, qOverload<int>(&MainWindow::choosePool));
     connect(objectList_, &ObjectList::objectChosen, this,
@@ -152,7 +152,6 @@ void MainWindow::showOpened(Talo::Network* network) {
 
 void MainWindow::showSaved(QString const& file) {
     showTitle();
-    views_->showDefaults();
     report(tr("Saved the values to %1.").arg(file));
     statusBar()->showMessage(tr("Saved."), savedTime);
 }
@@ -221,7 +220,7 @@ void MainWindow::showChange(Kolt::UndoStep const& step) {
     if (!views_->visibleView(object))
         showObject(name);
     if (auto const* const view = views_->visibleView(object))
-        view->panel()->showParameter(QString::fromStdString(parameter->Name()));
+        view->panel()->rowArea()->showRow(QString::fromStdString(parameter->Name()));
 }
 
 void MainWindow::showRefusal(QString const& reason) {

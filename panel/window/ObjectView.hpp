@@ -25,7 +25,7 @@ public:
     /// The rows that exist; all of them where the object has few parameters and the view was shown.
     std::vector<Talo::ParameterRow*> rows() const { return panel_->rowArea()->rows(); }
     /// The row of a parameter by its whole name, made if it does not exist; null if there is no such parameter.
-    Talo::ParameterRow* row(QString const& parameterName) const { return panel_->row(parameterName); }
+    Talo::ParameterRow* row(QString const& parameterName) const { return panel_->rowArea()->row(parameterName); }
 
 private:
     QString const kind_;

@@ -61,7 +61,7 @@ ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& ki
     panel->setFilter(filter_);
     connect(panel, &Talo::ParameterPanel::editorOpened, this, &ViewStack::editorOpened);
     connect(panel, &Talo::ParameterPanel::refused, this, &ViewStack::refused);
-    connect(panel, &Talo::ParameterPanel::defaultChanged, this, &ViewStack::showDefaults);
+    connect(panel->rowArea(), &Talo::RowArea::defaultChanged, this, &ViewStack::showDefaults);
     return view;
 }
 
@@ -115,7 +115,7 @@ void ViewStack::showPool() {
 
 void ViewStack::showDefaults() {
     for (auto* const view : views())
-        view->panel()->showDefaults();
+        view->panel()->rowArea()->showDefaults();
 }
 
 void ViewStack::closeEditors() {

@@ -51,7 +51,7 @@ void work() {
     for (auto* const row : panel->rowArea()->rows())
         require(row->editor() && !row->editor()->inherits("Talo::PlaceholderEditor"), "an editor is missing");
 
-    auto* const box = panel->row(QStringLiteral("on"))->editor()->findChild<QCheckBox*>();
+    auto* const box = panel->rowArea()->row(QStringLiteral("on"))->editor()->findChild<QCheckBox*>();
     require(box && box->isChecked(), "the lamp is not on");
     click(*box);
     QApplication::processEvents();
@@ -60,7 +60,7 @@ void work() {
     require(box->isChecked(), "the click was not undone");
 
     toolNamed(*window, "night")->trigger();
-    auto* const slider = panel->row(QStringLiteral("brightness"))->editor()->findChild<QSlider*>();
+    auto* const slider = panel->rowArea()->row(QStringLiteral("brightness"))->editor()->findChild<QSlider*>();
     require(slider, "the brightness has no slider");
     press(*slider, Qt::Key_Right);
 
@@ -69,7 +69,7 @@ void work() {
     require(panel->rowArea()->shownCount() == 1, "the filter shows other parameters");
     filter->clear();
 
-    auto* const editor = panel->row(QStringLiteral("label"))->editor();
+    auto* const editor = panel->rowArea()->row(QStringLiteral("label"))->editor();
     auto* const itself = qobject_cast<QLineEdit*>(editor);
     auto* const field = itself ? itself : editor->findChild<QLineEdit*>();
     require(field, "the label has no field");

@@ -45,12 +45,12 @@ protected:
     }
     template <typename Control>
     Control* control(char const* name) const {
-        auto* const editor = panel->row(QLatin1String(name))->editor();
+        auto* const editor = panel->rowArea()->row(QLatin1String(name))->editor();
         auto* const self = qobject_cast<Control*>(editor);
         return self ? self : editor->findChild<Control*>();
     }
     QList<QRadioButton*> choices() const {
-        return panel->row(QStringLiteral("kind"))->editor()->findChildren<QRadioButton*>();
+        return panel->rowArea()->row(QStringLiteral("kind"))->editor()->findChildren<QRadioButton*>();
     }
     /// The caption of the marked choice; empty for none.
     std::string marked() const {
@@ -112,7 +112,7 @@ TEST_F(RowEditorsTest, AnEditorThatIsMadeAnewKeepsTheFocusAndIsReported) {
     write(kind, makeEnum({"a", "b"}));
     EXPECT_EQ(marked(), "");
     EXPECT_EQ(reported, 1);
-    EXPECT_EQ(Talo::ParameterRow::rowOf(QApplication::focusWidget()), panel->row(QStringLiteral("kind")));
+    EXPECT_EQ(Talo::ParameterRow::rowOf(QApplication::focusWidget()), panel->rowArea()->row(QStringLiteral("kind")));
 }
 
 TEST_F(RowEditorsTest, APoolWithoutAChoiceShowsNone) {
