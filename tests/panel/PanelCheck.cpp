@@ -8,10 +8,12 @@
 #include <network/ValueFormat.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
 #include <QAbstractSlider>
+#include <QAccessible>
 #include <QComboBox>
 #include <QDial>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace {
 
@@ -58,6 +60,13 @@ std::string expectedText(EditorCase const& editor, Talo::ParameterRow& row, Kolt
         return QString::number(real, 'f', precision(parameter)).toStdString();
     }
     return editor.expected(value);
+}
+
+/// What the editor shows. In a row the tool tip of a file button has its caption, too.
+std::string shownText(EditorCase const& editor, QWidget& widget) {
+    return qobject_cast<QPushButton*>(&widget)
+               ? QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Value).toStdString()
+               : editor.shown(widget);
 }
 
 /// Whether the editor shows something that is no value: half of a date, that a colour is being picked, or a text that
@@ -107,7 +116,7 @@ std::string disagreement(Talo::ParameterRow& row, std::map<Creator, EditorCase c
         return {};
     ++compared;
     auto const expected = expectedText(editor, row, *value);
-    auto const shown = editor.shown(*row.editor());
+    auto const shown = shownText(editor, *row.editor());
     if (shown != expected)
         return "shows \"" + shown + "\", not \"" + expected + "\"";
     return misplacedHandle(*row.editor(), *value);
