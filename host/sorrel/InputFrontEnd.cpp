@@ -2,6 +2,7 @@
 
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/InputRegistry.hpp>
+#include <sorrel/EventLoopDelivery.hpp>
 #include <tuple>
 
 namespace Kolt {
@@ -34,6 +35,7 @@ void explainMissingPool(Editor& editor, VParameter const& parameter, ValuePoolSo
 } // namespace
 
 Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource) {
+    EventLoopDelivery::install();
     Editor editor;
     if (!parameter) {
         editor.choice.explanation = "there is no parameter";
@@ -64,7 +66,7 @@ void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoo
     if (!input || !parameter || !parameter->keepsValuesPerPool())
         return;
     auto const pool = currentPool(poolSource);
-    input->onValueChange(parameter->effectiveValue(pool), VContext(pool, nullptr), nullptr);
+    input->notify(parameter->effectiveValue(pool), VContext(pool, nullptr));
 }
 
 } // namespace Kolt
