@@ -154,12 +154,12 @@ TEST_F(RenderQueueTest, WithoutMemoryItSaysSoAndGoesOn) {
     ASSERT_TRUE(ends());
     set("exporter.width", "4096");
     {
-        // Enough for the image of 50 MB, not for what else is noted of each of its points.
-        MemoryLimit const limit(60 << 20);
+        // The image takes 50 MB and what else is noted of each of its points as much; the thread has 64 MB in reserve.
+        MemoryLimit const limit(20 << 20);
         renderQueue.start(draft);
         ASSERT_TRUE(ends());
     }
-    EXPECT_EQ(computed.size(), 1U) << computed.back().width();
+    EXPECT_EQ(computed.size(), 1U);
     EXPECT_THAT(warnings.texts, ElementsAre(HasSubstr("There is not enough memory")));
     EXPECT_THAT(status(), HasSubstr("There is not enough memory"));
     set("exporter.width", "96");
