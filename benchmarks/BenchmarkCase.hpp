@@ -52,7 +52,9 @@ BenchmarkCase benchmarkCase(std::string const& creator, std::vector<std::string>
         return parameter;
     };
     made.change = [=](Kolt::VParameter& parameter, int n) {
-        Kolt::setParameterValue(parameter, n == 0 ? first : second, nullptr, std::string(), false, nullptr, nullptr);
+        if (!Kolt::setParameterValue(parameter, n == 0 ? first : second, nullptr, std::string(), false, nullptr,
+                                     nullptr))
+            qFatal("The benchmark cannot write the value.");
     };
     return made;
 }

@@ -87,7 +87,8 @@ public:
     }
     void changeNumbers(double number) override {
         for (auto const& parameter : simulation_->parameters())
-            Kolt::setParameterValue(*parameter, number, nullptr, std::string(), false, nullptr, nullptr);
+            if (!Kolt::setParameterValue(*parameter, number, nullptr, std::string(), false, nullptr, nullptr))
+                qFatal("The benchmark cannot write the value.");
     }
 
 private:

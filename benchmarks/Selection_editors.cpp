@@ -210,7 +210,9 @@ BenchmarkCase selectionCase(std::string const& creator, std::vector<std::string>
         return parameter;
     };
     made.change = [first = make(0), second = make(1)](Kolt::VParameter& parameter, int n) {
-        Kolt::setParameterValue(parameter, n == 0 ? first : second, nullptr, std::string(), false, nullptr, nullptr);
+        if (!Kolt::setParameterValue(parameter, n == 0 ? first : second, nullptr, std::string(), false, nullptr,
+                                     nullptr))
+            qFatal("The benchmark cannot write the value.");
     };
     return made;
 }

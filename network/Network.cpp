@@ -11,12 +11,16 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <tessera/FileContent.hpp>
 
 namespace Talo {
 
 namespace {
 
 using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
+
+// In bytes. A network of 100,000 parameters takes some 30 MB.
+constexpr std::uintmax_t largestFile = 64 << 20;
 
 /// Something of a network that no file can hold; the line has no meaning.
 [[noreturn]] void refuseToWrite(QString const& text) {
@@ -74,14 +78,12 @@ Network::Network() : self_(std::make_shared<Network*>(this)) {}
 Network::~Network() = default;
 
 Network::LoadResult Network::load(QString const& file, ObjectFactory const& makeObject) {
-    QFile source(file);
-    if (!source.open(QIODevice::ReadOnly))
-        return {nullptr, file + ":0: expected a file that can be read, found: " + source.errorString()};
-    auto const json = source.readAll();
-    if (source.error() != QFileDevice::NoError)
-        return {nullptr, file + ":0: expected a file that can be read, found: " + source.errorString()};
+    auto const content = Tessera::FileContent::read(QFile::encodeName(file).toStdString(), largestFile);
+    if (!content)
+        return {nullptr, file + ":0: expected a file that can be read, found: " +
+                             QString::fromLocal8Bit(content.reason().c_str())};
     try {
-        return {NetworkReader::read(json, file, makeObject), QString()};
+        return {NetworkReader::read(QByteArray::fromStdString(content.bytes()), file, makeObject), QString()};
     } catch (FormatError const& error) {
         return {nullptr, file + ':' + QString::number(error.line) + ": " + error.text};
     }

@@ -36,7 +36,8 @@ public:
         QString error;
     };
 
-    /// Reads a network file completely or not at all. For a file that cannot be read the line is 0. The factory makes
+    /// Reads a network file completely or not at all. Only a regular file of at most 64 MB is read. For a file that
+    /// cannot be read the line is 0. The factory makes
     /// the objects; an empty one makes objects that do nothing.
     static LoadResult load(QString const& file, ObjectFactory const& makeObject = {});
     /// A network without objects and without a file, for a host that makes its objects itself, with new pools of these

@@ -18,13 +18,15 @@
 #include <QFile>
 #include <QLocale>
 #include <QScreen>
+#include <tessera/TerminalText.hpp>
 
 namespace {
 
 constexpr int badUse = 2;
 
 void say(QString const& message) {
-    std::fprintf(stderr, "talo_panel: %s\n", message.toLocal8Bit().constData());
+    auto const line = QString::fromStdString(Tessera::terminalText(message.toStdString()));
+    std::fprintf(stderr, "talo_panel: %s\n", line.toLocal8Bit().constData());
 }
 
 /// Says what is wrong; returns the status of a program that ends with that.
@@ -75,8 +77,12 @@ int refuseCommandLine(QStringList const& arguments, char* program) {
 
 // The offscreen platform says of every window what it cannot do, which tells the user nothing.
 void passOnMessages(QtMsgType, QMessageLogContext const&, QString const& message) {
-    if (!message.startsWith(QLatin1String("This plugin does not support ")))
-        std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
+    if (message.startsWith(QLatin1String("This plugin does not support ")))
+        return;
+    for (auto const& line : message.split(QLatin1Char('\n'))) {
+        auto const text = QString::fromStdString(Tessera::terminalText(line.toStdString()));
+        std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+    }
 }
 
 int printCreators() {
@@ -179,8 +185,8 @@ bool loadPlugins(Panel::Plugins& plugins, Panel::CommandLine const& commandLine,
     bool loaded = true;
     for (auto const& file : areAskedFor ? commandLine.plugins : QStringList{Panel::defaultPluginFile()})
         loaded = plugins.load(file, &error) && loaded;
-    if (!error.isEmpty())
-        refuse(error);
+    for (auto const& reason : error.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        say(reason);
     return loaded || !areAskedFor;
 }
 

@@ -23,6 +23,8 @@ set(editors
 set(plugin_sources
     FloatInterval.cpp
     FloatInterval.hpp
+    IconFile.cpp
+    IconFile.hpp
     NumberControl.hpp
     NumberSelection.cpp
     NumberSelection.hpp

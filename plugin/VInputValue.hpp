@@ -172,8 +172,9 @@ bool VInputValue<T>::setValue(PoolPtr const& pool, std::string const& member, T 
         return false;
     bool const accepted = stored->set(newValue);
     cached_ = newValue;
-    // No member is used from here on: a notifier may delete this input.
-    setParameterValue(*parameter, newValue, pool, member, perPool, Tessera::WeakPtr<ValueNotifier>(this), alsoNotify);
+    // No member is used from here on: a notifier may delete this input. The first store says whether it is accepted.
+    static_cast<void>(setParameterValue(*parameter, newValue, pool, member, perPool,
+                                        Tessera::WeakPtr<ValueNotifier>(this), alsoNotify));
     return accepted;
 }
 

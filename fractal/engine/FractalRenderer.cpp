@@ -5,6 +5,8 @@
 #include <fractal/engine/ColourScale.hpp>
 #include <fractal/engine/FractalView.hpp>
 #include <limits>
+#include <new>
+#include <system_error>
 #include <thread>
 
 namespace Fractal {
@@ -70,6 +72,30 @@ private:
     std::atomic<bool> const& cancelled_;
 };
 
+/// Threads that do the same work; their end is waited for.
+class Helpers {
+public:
+    /// As many of `count` as the system has: the thread that renders works in any case.
+    Helpers(int count, std::function<void()> const& work) {
+        try {
+            threads_.reserve(static_cast<std::size_t>(std::max(0, count)));
+            while (static_cast<int>(threads_.size()) < count)
+                threads_.emplace_back(work);
+        } catch (std::system_error const&) {
+        } catch (std::bad_alloc const&) {
+        }
+    }
+    ~Helpers() {
+        for (auto& thread : threads_)
+            thread.join();
+    }
+    Helpers(Helpers const&) = delete;
+    Helpers& operator=(Helpers const&) = delete;
+
+private:
+    std::vector<std::thread> threads_;
+};
+
 } // namespace
 
 FractalRenderer::FractalRenderer(int threads) : threads_(std::max(1, threads)) {}
@@ -95,12 +121,10 @@ std::optional<FractalPoints> FractalRenderer::render(FractalSettings const& sett
                 tell(told = percent);
         }
     };
-    std::vector<std::thread> threads;
-    for (int count = 1; count < std::min(threads_, size.height()); ++count)
-        threads.emplace_back(work, Progress());
-    work(progress);
-    for (auto& thread : threads)
-        thread.join();
+    {
+        Helpers const helpers(std::min(threads_, size.height()) - 1, [&] { work({}); });
+        work(progress);
+    }
     if (doneRows < size.height())
         return std::nullopt;
     // The last row may have been that of another thread.

@@ -1,14 +1,14 @@
 #include <fractal/engine/GimpPalette.hpp>
 
 #include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
+#include <tessera/FileContent.hpp>
 
 namespace Fractal {
 
 namespace {
 
-constexpr qint64 longestFile = 1 << 20;
+constexpr std::uintmax_t longestFile = 1 << 20;
 constexpr std::size_t mostColours = 4096;
 
 } // namespace
@@ -61,25 +61,20 @@ std::vector<QRgb> GimpPalette::parse(QByteArray const& text, QString& error) {
 }
 
 std::vector<QRgb> GimpPalette::read(QString const& file, QString& error) {
-    QFile source(file);
+    using Problem = Tessera::FileContent::Problem;
+    auto const content = Tessera::FileContent::read(QFile::encodeName(file).toStdString(), longestFile);
     int line = 0;
     QString problem;
     std::vector<QRgb> colours;
-    // What is no file, as a pipe, may never end, or never begin.
-    if (QFileInfo const info(file); info.exists() && !info.isFile())
+    if (content)
+        colours = parse(QByteArray::fromStdString(content.bytes()), line, problem);
+    else if (content.problem() == Problem::Folder || content.problem() == Problem::NotRegular)
         problem = tr("expected a file, found something else");
-    // One byte more tells a file that is too long.
-    else if (source.open(QIODevice::ReadOnly)) {
-        auto const text = source.read(longestFile + 1);
-        if (source.error() == QFileDevice::NoError) {
-            if (text.size() > longestFile)
-                problem = tr("expected a palette of at most one megabyte, found a longer file");
-            else
-                colours = parse(text, line, problem);
-        }
-    }
-    if (colours.empty() && problem.isEmpty())
-        problem = tr("expected a file that can be read, found: %1").arg(source.errorString());
+    else if (content.problem() == Problem::TooLarge)
+        problem = tr("expected a palette of at most one megabyte, found a longer file");
+    else
+        problem =
+            tr("expected a file that can be read, found: %1").arg(QString::fromLocal8Bit(content.reason().c_str()));
     if (colours.empty())
         error = file + QLatin1Char(':') + QString::number(line) + QLatin1String(": ") + problem;
     return colours;

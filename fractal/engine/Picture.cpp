@@ -38,6 +38,8 @@ std::optional<FractalPoints> Picture::compute(RenderRequest request, FractalRend
         return std::nullopt;
     if (coarseness > 1)
         points->image = points->image.scaled(request.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (points->image.isNull())
+        return std::nullopt;
     QPainter painter(&points->image);
     Overlays(settings, request.size).paint(painter, *points);
     if (request.hasTexts)

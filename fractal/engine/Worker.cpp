@@ -1,5 +1,8 @@
 #include <fractal/engine/Worker.hpp>
 
+#include <algorithm>
+#include <new>
+#include <system_error>
 #include <utility>
 
 namespace Fractal {
@@ -7,6 +10,16 @@ namespace Fractal {
 Worker::Task::Task() = default;
 
 Worker::Task::~Task() = default;
+
+/// A thread of Qt, as painting starts timers of Qt now and then, which no other thread can have.
+class Worker::Thread : public QThread {
+public:
+    explicit Thread(Worker& worker) : worker_(worker) {}
+    void run() override { worker_.work(); }
+
+private:
+    Worker& worker_;
+};
 
 Worker::Worker(QObject* parent) : QObject(parent) {}
 
@@ -17,8 +30,8 @@ Worker::~Worker() {
         ends_ = true;
     }
     wakeUp_.notify_all();
-    if (thread_.joinable())
-        thread_.join();
+    if (thread_)
+        thread_->wait();
 }
 
 void Worker::post(TaskPtr const& task) {
@@ -27,8 +40,15 @@ void Worker::post(TaskPtr const& task) {
         waiting_.push_back(task);
     }
     wakeUp_.notify_all();
-    if (!thread_.joinable())
-        thread_ = std::thread([this] { work(); });
+    if (thread_)
+        return;
+    thread_ = std::make_unique<Thread>(*this);
+    thread_->start();
+    // The system has no thread to give; perhaps it has one for the next task.
+    if (!thread_->isRunning()) {
+        thread_.reset();
+        giveUp();
+    }
 }
 
 void Worker::cancel() {
@@ -65,13 +85,38 @@ void Worker::work() {
         auto& task = *running_;
         lock.unlock();
         if (!task.cancelled)
-            task.run(*this);
+            run(task);
         lock.lock();
         done_.push_back(std::exchange(running_, nullptr));
         lock.unlock();
         emit done();
         lock.lock();
     }
+}
+
+void Worker::run(Task& task) {
+    try {
+        task.run(*this);
+    } catch (std::bad_alloc const&) {
+        task.failure_ = tr("There is not enough memory.");
+    } catch (std::system_error const& error) {
+        task.failure_ = tr("The system refuses: %1.").arg(QString::fromLocal8Bit(error.what()));
+    }
+}
+
+void Worker::giveUp() {
+    int count = 0;
+    {
+        std::lock_guard const lock(mutex_);
+        for (auto const& task : waiting_)
+            task->failure_ = tr("The system has no thread for it.");
+        count = static_cast<int>(waiting_.size());
+        std::move(waiting_.begin(), waiting_.end(), std::back_inserter(done_));
+        waiting_.clear();
+    }
+    // Later, as by a thread: the caller has not yet noted what it posted.
+    for (int each = 0; each < count; ++each)
+        QMetaObject::invokeMethod(this, &Worker::done, Qt::QueuedConnection);
 }
 
 } // namespace Fractal

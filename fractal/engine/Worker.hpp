@@ -6,12 +6,13 @@
 #include <memory>
 #include <mutex>
 #include <QObject>
-#include <thread>
+#include <QThread>
 
 namespace Fractal {
 
-/// Does tasks one after the other on a thread of its own. Made, asked and destroyed on the user-interface thread. Its
-/// destructor cancels everything and waits for the running task to end.
+/// Does tasks one after the other on a thread of its own, which may paint on images. Made, asked and destroyed on the
+/// user-interface thread. Its destructor cancels everything and waits for the running task to end. A task that cannot
+/// be run to its end, as memory or threads are lacking, is done, too, with a problem.
 class Worker : public QObject {
     Q_OBJECT
 
@@ -25,11 +26,18 @@ public:
         Task& operator=(Task const&) = delete;
 
         /// The work, on the worker's thread; it looks at `cancelled` often and ends early. `worker` can be told of
-        /// progress.
+        /// progress. It may throw std::bad_alloc and std::system_error, and ends with it.
         virtual void run(Worker& worker) = 0;
+        /// What kept the task from being run to its end, a sentence; empty if it was, or was cancelled. To be asked
+        /// when it is done.
+        QString const& failure() const { return failure_; }
 
         /// True from the moment at which nobody wants the result any more. Any thread.
         std::atomic<bool> cancelled{false};
+
+    private:
+        friend class Worker;
+        QString failure_;
     };
     using TaskPtr = std::shared_ptr<Task>;
 
@@ -54,7 +62,10 @@ signals:
     void progressed();
 
 private:
+    class Thread;
     void work();
+    void run(Task& task);
+    void giveUp();
 
     mutable std::mutex mutex_;
     std::condition_variable wakeUp_;
@@ -63,7 +74,7 @@ private:
     std::deque<TaskPtr> done_;
     bool ends_ = false;
     // Started with the first task: without tasks there is no thread.
-    std::thread thread_;
+    std::unique_ptr<QThread> thread_;
 };
 
 } // namespace Fractal

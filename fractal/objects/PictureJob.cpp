@@ -53,6 +53,10 @@ void PictureJob::run(Worker& worker) {
     summary_ = summaryOf(*points, static_cast<double>(clock.elapsed()) / 1000);
 }
 
+QString PictureJob::problem() const {
+    return failure().isEmpty() ? problem_ : tr("%1 Given up: %2.").arg(failure(), title_);
+}
+
 void PictureJob::writeStatus(QString const& text) const {
     for (auto const& report : reports_)
         report.write(text);

@@ -39,7 +39,7 @@ public:
     /// Null where it was cancelled before it was complete, or where there is not enough memory.
     QImage const& image() const { return image_; }
     /// Why the picture could not be computed or written; else empty.
-    QString const& problem() const { return problem_; }
+    QString problem() const;
     /// What was computed, in a sentence.
     QString const& summary() const { return summary_; }
 

@@ -103,6 +103,10 @@
         <source>%1 × %2 points, %3 steps at most, %4 × %4 samples: %5 s. %6 % of the points stay.</source>
         <translation>%1 × %2 Punkte, höchstens %3 Schritte, %4 × %4 Proben: %5 s. %6 % der Punkte bleiben.</translation>
     </message>
+    <message>
+        <source>%1 Given up: %2.</source>
+        <translation>%1 Aufgegeben: %2.</translation>
+    </message>
 </context>
 <context>
     <name>Fractal::Preview</name>
@@ -140,6 +144,21 @@
     <message>
         <source>%1 is still being written.</source>
         <translation>%1 wird noch geschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::Worker</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Es ist nicht genug Speicher da.</translation>
+    </message>
+    <message>
+        <source>The system refuses: %1.</source>
+        <translation>Das System lehnt ab: %1.</translation>
+    </message>
+    <message>
+        <source>The system has no thread for it.</source>
+        <translation>Das System hat keinen Thread dafür.</translation>
     </message>
 </context>
 </TS>

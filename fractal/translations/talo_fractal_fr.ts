@@ -103,6 +103,10 @@
         <source>%1 × %2 points, %3 steps at most, %4 × %4 samples: %5 s. %6 % of the points stay.</source>
         <translation>%1 × %2 points, au plus %3 pas, %4 × %4 échantillons : %5 s. %6 % des points restent.</translation>
     </message>
+    <message>
+        <source>%1 Given up: %2.</source>
+        <translation>%1 Abandonné : %2.</translation>
+    </message>
 </context>
 <context>
     <name>Fractal::Preview</name>
@@ -140,6 +144,21 @@
     <message>
         <source>%1 is still being written.</source>
         <translation>%1 est encore en cours d’écriture.</translation>
+    </message>
+</context>
+<context>
+    <name>Fractal::Worker</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Il n’y a pas assez de mémoire.</translation>
+    </message>
+    <message>
+        <source>The system refuses: %1.</source>
+        <translation>Le système refuse : %1.</translation>
+    </message>
+    <message>
+        <source>The system has no thread for it.</source>
+        <translation>Le système n’a pas de thread pour cela.</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include <fractal/ui/ComputingBar.hpp>
 
+#include <network/PlainText.hpp>
 #include <QHBoxLayout>
 #include <QShortcut>
 
@@ -30,7 +31,7 @@ ComputingBar::~ComputingBar() = default;
 
 void ComputingBar::refresh() {
     progress_->setValue(renderQueue_.percent());
-    progress_->setToolTip(renderQueue_.description());
+    progress_->setToolTip(Talo::plainToolTip(renderQueue_.description()));
     setVisible(renderQueue_.isComputing());
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fractal/engine/Picture.hpp>
+#include <new>
 #include <QGuiApplication>
 
 namespace Fractal {
@@ -31,10 +32,12 @@ public:
         auto points = Picture::compute(request_, FractalRenderer(std::max(2, processors - 1)), cancelled);
         if (points)
             image = points->image;
+        else if (!cancelled)
+            throw std::bad_alloc();
     }
 
     bool isFine() const { return fine_; }
-    QString const& problem() const { return request_.settings.problem; }
+    QString const& problem() const { return failure().isEmpty() ? request_.settings.problem : failure(); }
 
     QImage image;
 

@@ -5,7 +5,7 @@
 namespace Kolt {
 
 bool VValueTrait<info>::setValueFromText(info& value, std::string const& text) {
-    value.text = text;
+    value = info(text);
     return true;
 }
 

@@ -1,12 +1,13 @@
 #include <bramble/ObjectStatus.hpp>
 
+#include <bramble/HarmlessText.hpp>
 #include <lattice/ValueCreator.hpp>
 
 namespace Kolt {
 
 VObjectStatus::VObjectStatus() = default;
 
-VObjectStatus::VObjectStatus(std::string text) : text_(std::move(text)) {}
+VObjectStatus::VObjectStatus(std::string const& text) : text_(harmlessText(text)) {}
 
 VObjectStatus::VObjectStatus(VObjectStatus const&) = default;
 

@@ -11,8 +11,8 @@ class TALO_EXPORT VObjectStatus {
 public:
     /// An empty message.
     VObjectStatus();
-    /// A status with this text, UTF-8.
-    explicit VObjectStatus(std::string text);
+    /// A status with this text, UTF-8. Labels show it as it is, so only what is harmless is taken over (harmlessText).
+    explicit VObjectStatus(std::string const& text);
     VObjectStatus(VObjectStatus const&);
     VObjectStatus& operator=(VObjectStatus const&);
     ~VObjectStatus();
@@ -33,7 +33,7 @@ struct TALO_EXPORT VValueTrait<VObjectStatus> : ValueTraitDefaults<VObjectStatus
     static constexpr bool IsEdited = false;
     /// The message.
     static std::string Text(VObjectStatus const& value) { return value.text(); }
-    /// Replaces the message; every text is accepted.
+    /// Replaces the message; every text is accepted, as by the constructor.
     static bool setValueFromText(VObjectStatus& value, std::string const& text);
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <tessera/NoDestructor.hpp>
+#include <tessera/TerminalText.hpp>
 #include <vector>
 
 namespace Kolt {
@@ -32,7 +33,7 @@ void VActionNotifier::Warning(std::string const& text) {
     for (auto* const notifier : actionNotifiers())
         notifiers.emplace_back(notifier);
     if (notifiers.empty())
-        std::fprintf(stderr, "%s\n", text.c_str());
+        std::fprintf(stderr, "%s\n", Tessera::terminalText(text).c_str());
     for (auto const& notifier : notifiers) {
         if (auto const living = notifier.strong())
             living->onWarning(text);

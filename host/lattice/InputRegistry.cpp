@@ -38,7 +38,7 @@ bool InputRegistry::add(std::type_info const& valueType, CreatorRef const& creat
         HostObserver::theObserver().creatorRefused(typeName);
         return false;
     }
-    registrations_.push_back({{typeName, creator}, living->Name(), living->preferences()->names()});
+    registrations_.push_back({{typeName, creator}, living.get(), living->Name(), living->preferences()->names()});
     HostObserver::theObserver().creatorRegistered(typeName, *living);
     return true;
 }
@@ -50,9 +50,10 @@ void InputRegistry::remove(std::type_info const& valueType, CreatorRef const& cr
     });
     if (found == registrations_.end())
         return;
+    auto const* const leaving = found->creator;
     registrations_.erase(found);
-    if (auto const living = creator.strong())
-        HostObserver::theObserver().creatorUnregistered(typeName, *living);
+    if (creator.alive())
+        HostObserver::theObserver().creatorUnregistered(typeName, *leaving);
 }
 
 std::vector<InputRegistry::Entry> InputRegistry::entries() const {

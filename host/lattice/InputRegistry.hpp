@@ -49,6 +49,8 @@ private:
     friend void unregisterVInput(std::type_info const&, CreatorRef const&);
     struct Registration {
         Entry entry;
+        // Used while the entry's creator is alive: the strong references to one that is being destroyed are empty.
+        VInputCreatorBase const* creator;
         std::string name;
         // A copy of the set at the registration: a creator may add names to it afterwards.
         VCreationPreferences::Names preferences;

@@ -167,9 +167,9 @@ TALO_EXPORT void reportRefusedStore(VParameter const& parameter, std::type_info 
 /// accepted, notifies. False, and nobody notified, when there is no such value of type T, with a warning where the
 /// parameter's values are of another type or it needs a pool. The caller keeps the parameter alive.
 template <typename T>
-bool setParameterValue(VParameter const& parameter, T const& newValue, PoolPtr const& pool, std::string const& member,
-                       bool create, Tessera::WeakPtr<ValueNotifier> const& source,
-                       ValueNotifierList const* alsoNotify) {
+[[nodiscard]] bool
+setParameterValue(VParameter const& parameter, T const& newValue, PoolPtr const& pool, std::string const& member,
+                  bool create, Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify) {
     static_assert(IsStorable<T>, "Parameters hold the numbers bool, int and double, std::string, or class types.");
     auto const local = parameter.keepsValuesPerPool() ? parameter.getLocalValue(pool, member, create) : nullptr;
     // The parameter's own object lives as long as the parameter.

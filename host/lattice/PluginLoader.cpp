@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <lattice/UndoHistory.hpp>
 #include <lattice/ValueNotifier.hpp>
+#include <tessera/FileContent.hpp>
 #include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
@@ -12,6 +13,9 @@ namespace Kolt {
 namespace {
 
 using Export = bool (*)(VInitialization*);
+
+// In bytes.
+constexpr std::uintmax_t largestFile = 256 << 20;
 
 std::string loaderReason() {
     char const* const reason = dlerror();
@@ -83,6 +87,10 @@ PluginLoader::Plugins::const_iterator PluginLoader::find(std::string const& file
 PluginLoader::Outcome PluginLoader::load(std::string const& file) {
     if (find(file) != plugins_.end())
         return {false, "The plug-in " + file + " is loaded already."};
+    // The system would wait for a pipe. Of a file that is missing it says more itself.
+    auto const looked = Tessera::FileContent::check(pathOf(file).string(), largestFile);
+    if (!looked && looked.problem() != Tessera::FileContent::Problem::NotOpened)
+        return {false, "Cannot open the plug-in " + file + ": " + looked.reason()};
     void* const handle = dlopen(pathOf(file).c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!handle)
         return {false, "Cannot open the plug-in " + file + ": " + loaderReason()};

@@ -30,7 +30,8 @@ public:
     PluginLoader(PluginLoader const&) = delete;
     PluginLoader& operator=(PluginLoader const&) = delete;
 
-    /// Opens the file, finds its export (exportName) and calls it. Fails if the file cannot be opened, lacks the
+    /// Opens the file, finds its export (exportName) and calls it. Fails if it is no regular file of at most 256 MB, if
+    /// the file cannot be opened, lacks the
     /// export, or says that it is not compatible with the host; the message names the step and the system's reason, and
     /// the file is closed again. Also fails, without an effect, for a file that is loaded already.
     Outcome load(std::string const& file);

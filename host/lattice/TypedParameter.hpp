@@ -127,7 +127,8 @@ public:
     }
 
     /// Calls `function(value)` or `function(value, pool)` after each change of the value, in whatever pool, as long as
-    /// the connection lives. Changes of properties are left out. Called on the thread that reports the change.
+    /// the connection lives. Changes of properties are left out. Called on the thread that
+    /// ValueNotifier::onValueChange is called on.
     template <typename Function>
     [[nodiscard]] Connection onChange(Function function) const {
         std::shared_ptr<ChangeSubscription<T>> subscription;

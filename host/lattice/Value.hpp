@@ -2,6 +2,7 @@
 
 #include <lattice/ValueBase.hpp>
 #include <lattice/ValueTrait.hpp>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <typeinfo>
@@ -47,38 +48,38 @@ public:
 };
 
 /// A value of type T kept in the object itself, T() unless another one is given. Every store is accepted, also one of
-/// an equal value, and reading never fails. A lock guards the value, so that a worker may store a status while the
-/// user interface reads it.
+/// an equal value, and reading never fails. A worker may store a status while the user interface reads it. No code of T
+/// runs under the lock, so copying, comparing or destroying a T may use the value object again.
 template <typename T>
 class VValue : public VTypedValueBase<T> {
 public:
     /// Has this value.
-    explicit VValue(T const& value = T()) : value_(value) {}
+    explicit VValue(T const& value = T()) : content_(std::make_shared<T const>(value)) {}
 
     bool get(T& out) const override {
-        std::lock_guard const lock(mutex_);
-        out = value_;
+        out = *content();
         return true;
     }
     bool set(T const& value) override {
+        // Made before the lock is taken; the old one is destroyed after it is given back.
+        auto content = std::make_shared<T const>(value);
         std::lock_guard const lock(mutex_);
-        value_ = value;
+        content_.swap(content);
         return true;
     }
     // Compared in place, so that a long text is not copied.
-    bool holds(T const& value) const override {
-        std::lock_guard const lock(mutex_);
-        return VValueTrait<T>::Equal(value_, value);
-    }
-    ValuePtr clone() const override {
-        T value{};
-        get(value);
-        return ValuePtr(new VValue(VValueTrait<T>::Clone(value)));
-    }
+    bool holds(T const& value) const override { return VValueTrait<T>::Equal(*content(), value); }
+    ValuePtr clone() const override { return ValuePtr(new VValue(VValueTrait<T>::Clone(*content()))); }
 
 private:
+    std::shared_ptr<T const> content() const {
+        std::lock_guard const lock(mutex_);
+        return content_;
+    }
+
     mutable std::mutex mutex_;
-    T value_;
+    // Replaced as a whole by each store.
+    std::shared_ptr<T const> content_;
 };
 
 /// The object as one of values of type T, found by a dynamic type test; null if it is null or of another type. To

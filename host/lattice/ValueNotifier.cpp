@@ -1,31 +1,10 @@
 #include <lattice/ValueNotifier.hpp>
-#include <tessera/NoDestructor.hpp>
 
 #include <algorithm>
+#include <lattice/NotifierGuard.hpp>
+#include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
-
-/// Excludes the delivery to a notifier and its destruction from each other. The lock is recursive, as a notifier may be
-/// notified again, or be destroyed, while it is notified.
-class ValueNotifier::NotifierGuard {
-public:
-    explicit NotifierGuard(ValueNotifier* notifier) : notifier_(notifier) {}
-
-    void close() {
-        std::lock_guard const lock(mutex_);
-        notifier_ = nullptr;
-    }
-    void deliver(ValuePtr const& value, VContext const& context, ValueMap const* properties) {
-        std::lock_guard const lock(mutex_);
-        if (auto* const notifier = notifier_.load())
-            notifier->onValueChange(value, context, properties);
-    }
-    ValueNotifier* notifier() const { return notifier_; }
-
-private:
-    std::recursive_mutex mutex_;
-    std::atomic<ValueNotifier*> notifier_;
-};
 
 namespace {
 
@@ -68,6 +47,12 @@ void ValueNotifier::stopNotifications() {
     guard_->close();
 }
 
+void ValueNotifier::notify(ValuePtr const& newValue, VContext const& context) {
+    // A notifier may destroy itself.
+    auto const guard = guard_;
+    guard->deliver({nullptr, newValue, context, nullptr});
+}
+
 ValueNotifierList::ValueNotifierList() = default;
 
 ValueNotifierList::~ValueNotifierList() = default;
@@ -101,14 +86,15 @@ void ValueNotifierList::notify(Tessera::WeakPtr<ValueNotifier> const& source, Va
     auto const further = alsoNotify ? alsoNotify->snapshot() : Guards();
     auto const from = source.strong();
     auto const sourceGuard = from ? from->guard_ : nullptr;
+    NotifierGuard::Report const report{this, value, context, properties};
     for (auto const& guard : guards) {
         if (guard != sourceGuard)
-            guard->deliver(value, context, properties);
+            guard->deliver(report);
     }
     for (auto const& guard : further) {
         bool const notified = guard != sourceGuard && std::find(guards.begin(), guards.end(), guard) != guards.end();
         if (!notified)
-            guard->deliver(value, context, properties);
+            guard->deliver(report);
     }
 }
 

@@ -11,7 +11,13 @@
 
 namespace Kolt {
 
+class NotifierGuard;
+
 /// Is notified when a value changes. A notifier is owned by its maker; the lists refer to it weakly.
+///
+/// Notifications of one notifier exclude each other: one that another thread reports meanwhile follows afterwards. No
+/// lock is held while a notifier is notified, so it may notify, change and destroy what it likes, itself included. But
+/// it must not wait for a thread that may be destroying it, as its destructor waits for the notification to end.
 class TALO_EXPORT ValueNotifier : public Tessera::ReferenceBase<ValueNotifier>, public Tessera::Intercube {
 public:
     ValueNotifier();
@@ -21,8 +27,12 @@ public:
 
     /// A value changed. `newValue` is the live value object, which may be null. `context` holds the pool of the change,
     /// if it belongs to one. `properties` is the parameter's property map if properties changed, and null if the value
-    /// did. Called on the thread that reports the change.
+    /// did. Called on the thread that reports the change, or on the NotificationThread if one is installed. If another
+    /// thread is notifying this notifier at that moment, that one calls.
     virtual void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) = 0;
+
+    /// Notifies this notifier alone, as a list that contains it would. The context holds the pool, as above.
+    void notify(ValuePtr const& newValue, VContext const& context);
 
     /// All existing notifiers, in no particular order. A host that unloads a library needs them to know whose code is
     /// still in use.
@@ -37,7 +47,6 @@ protected:
 
 private:
     friend class ValueNotifierList;
-    class NotifierGuard;
     std::shared_ptr<NotifierGuard> guard_;
     // The linked list of all notifiers.
     ValueNotifier* previous_ = nullptr;
@@ -63,14 +72,14 @@ protected:
     std::size_t remembered() const { return snapshot().size(); }
     /// Whether a notifier was ever added. Cheap, as simulations change many parameters of which few are shown.
     bool hasListeners() const { return used_.load(std::memory_order_acquire); }
-    /// Notifies a snapshot of the list, in order, except `source` and notifiers that are destroyed meanwhile; then the
-    /// members of `alsoNotify` that were not notified yet, the source included. Neither list is used after the first
-    /// call of a notifier, so that notifiers may destroy them.
+    /// Notifies a snapshot of the list, in order and as ValueNotifier says, except `source` and notifiers that are
+    /// destroyed meanwhile; then the members of `alsoNotify` that were not notified yet, the source included. Neither
+    /// list is used after the first call of a notifier, so that notifiers may destroy them.
     void notify(Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                 ValuePtr const& value, VContext const& context, ValueMap const* properties) const;
 
 private:
-    using Guards = std::vector<std::shared_ptr<ValueNotifier::NotifierGuard>>;
+    using Guards = std::vector<std::shared_ptr<NotifierGuard>>;
     Guards snapshot() const;
 
     mutable std::mutex mutex_;

@@ -3,6 +3,7 @@
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/InputRegistry.hpp>
 #include <sorrel/CommitOnDrop.hpp>
+#include <sorrel/EventLoopDelivery.hpp>
 #include <sorrel/QLeaveLineEdit.hpp>
 #include <tuple>
 
@@ -64,6 +65,7 @@ void connectFields(Editor const& editor, ValuePoolSource const* poolSource) {
 } // namespace
 
 Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource) {
+    EventLoopDelivery::install();
     Editor editor;
     if (!parameter) {
         editor.choice.explanation = "there is no parameter";
@@ -98,7 +100,7 @@ void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoo
     auto const living = parameter;
     auto const pool = currentPool(poolSource);
     bool const hadValue = living->getLocalValue(pool, std::string(), false) != nullptr;
-    input->onValueChange(living->effectiveValue(pool), VContext(pool, nullptr), nullptr);
+    input->notify(living->effectiveValue(pool), VContext(pool, nullptr));
     // To look at a pool must not give it a value.
     if (!hadValue)
         removeCopyOfOwnValue(*living, pool);

@@ -19,8 +19,9 @@ struct TALO_EXPORT Editor {
 /// destroyed before the editor, the editor has no pool from then on.
 ///
 /// If no creator is registered for the type, or the parameter is null, the widget is null and the choice's explanation
-/// says why. An editor without a pool drops every edit; the explanation says so, and for a null source a warning as
-/// well (VActionNotifier::Warning). User-interface thread.
+/// says why. From the first call on, changes that other threads report reach all notifiers on the user-interface thread
+/// (EventLoopDelivery). An editor without a pool drops every edit; the explanation says so, and for a null source a
+/// warning as well (VActionNotifier::Warning). User-interface thread.
 [[nodiscard]] TALO_EXPORT Editor makeEditor(ParameterPtr const& parameter, QWidget* parent,
                                             ValuePoolSource* poolSource);
 

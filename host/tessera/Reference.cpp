@@ -34,17 +34,17 @@ void ReferenceControl::adopt(std::type_info const& type, void const* address) {
 }
 
 void ReferenceControl::lastStrongGone() noexcept {
-    if (adopted_.load(std::memory_order_acquire) && !dying_.load(std::memory_order_acquire)) {
-        if (auto* const object = object_.load(std::memory_order_acquire)) {
-            object->referenceHook();
-            if (strong_.load(std::memory_order_acquire) > 0) {
-                // The reference that is going still counts as a user, but no longer among the strong ones.
-                SpeakPtr::theSpeaker().DestructionCancelled(strong_.load(), weakCount() - 1, *type_.load());
-            } else {
-                dying_ = true;
-                delete object;
-            }
+    auto* const object = object_.load(std::memory_order_acquire);
+    if (object && adopted_.load(std::memory_order_acquire) && !dying_.load(std::memory_order_acquire)) {
+        // Counted during the hook, so that a reference that the hook takes and drops again is not the last one.
+        strong_.fetch_add(1, std::memory_order_acq_rel);
+        object->referenceHook();
+        if (int const left = strong_.fetch_sub(1, std::memory_order_acq_rel) - 1; left > 0) {
+            SpeakPtr::theSpeaker().DestructionCancelled(left, weakCount(), *type_.load());
+            return;
         }
+        dying_ = true;
+        delete object;
     }
     releaseWeak();
 }

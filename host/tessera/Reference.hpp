@@ -83,7 +83,8 @@ private:
 class TALO_EXPORT ReferenceCounted {
 public:
     /// Called after the last strong reference to an adopted object was dropped, before the object is deleted. A
-    /// derived class may take a new strong reference here, and the object lives on. Empty.
+    /// derived class may take a new strong reference here; if it keeps it, the object lives on, and the hook is called
+    /// again after that one. Empty.
     virtual void referenceHook();
 
     /// The counters; never null.

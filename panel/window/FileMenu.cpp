@@ -107,6 +107,8 @@ bool FileMenu::mayDiscardChanges() {
     QMessageBox box(QMessageBox::Warning, tr("Unsaved values"),
                     tr("The values of “%1” were changed.").arg(document_.title()),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &window_);
+    // The title is a text of the file.
+    box.setTextFormat(Qt::PlainText);
     box.setInformativeText(tr("Unless they are saved, the changes are lost."));
     box.setDefaultButton(QMessageBox::Save);
     box.setEscapeButton(QMessageBox::Cancel);

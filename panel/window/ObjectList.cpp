@@ -1,6 +1,7 @@
 #include <panel/window/ObjectList.hpp>
 
 #include <memory>
+#include <network/PlainText.hpp>
 #include <panel/window/IconPlace.hpp>
 
 namespace Panel {
@@ -31,7 +32,7 @@ void ObjectList::showNetwork(Talo::Network const* network) {
         auto* const item = new QTreeWidgetItem(this, {QString::fromStdString(object->Name())});
         // Room for an icon, also where there is none, so that the rows are even.
         item->setSizeHint(0, {0, 34});
-        item->setToolTip(0, network->kind(object));
+        item->setToolTip(0, Talo::plainToolTip(network->kind(object)));
         objects_.emplace_back(object);
     }
     openIcons();

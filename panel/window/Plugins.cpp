@@ -2,6 +2,7 @@
 
 #include <panel/Translations.hpp>
 #include <QFileInfo>
+#include <tessera/TerminalText.hpp>
 
 namespace Panel {
 
@@ -12,7 +13,8 @@ void append(QString* error, std::string const& message) {
         return;
     if (!error->isEmpty())
         *error += QLatin1Char('\n');
-    *error += QString::fromStdString(message);
+    // A newline separates the reasons, so there is none in a reason.
+    *error += QString::fromStdString(Tessera::terminalText(message));
 }
 
 } // namespace

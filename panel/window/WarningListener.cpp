@@ -1,6 +1,7 @@
 #include <panel/window/WarningListener.hpp>
 
 #include <cstdio>
+#include <tessera/TerminalText.hpp>
 
 namespace Panel {
 
@@ -9,7 +10,7 @@ WarningListener::WarningListener(QObject* parent) : QObject(parent) {}
 WarningListener::~WarningListener() = default;
 
 void WarningListener::onWarning(std::string const& text) {
-    std::fprintf(stderr, "%s\n", text.c_str());
+    std::fprintf(stderr, "%s\n", Tessera::terminalText(text).c_str());
     emit warned(QString::fromStdString(text));
 }
 

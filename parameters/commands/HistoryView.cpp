@@ -1,6 +1,7 @@
 #include <parameters/commands/HistoryView.hpp>
 
 #include <algorithm>
+#include <network/PlainText.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/TextDirectionDelegate.hpp>
@@ -81,7 +82,7 @@ void HistoryView::showStep(int row, Kolt::UndoStep const& step, bool undone) {
     auto* const shown = item(row);
     auto const text = undoText(step, naming_);
     shown->setText(text);
-    shown->setToolTip(text);
+    shown->setToolTip(plainToolTip(text));
     auto itemFont = font();
     itemFont.setItalic(undone);
     shown->setFont(itemFont);

@@ -1,13 +1,21 @@
 #include <parameters/commands/UndoActions.hpp>
 
+#include <network/PlainText.hpp>
+
 namespace Talo {
 
 namespace {
 
-QString actionText(QString const& name, Kolt::UndoHistory::Step const& step, ParameterNaming const& naming) {
-    if (!step)
-        return name;
-    return UndoActions::tr("%1: %2").arg(name, undoText(*step, naming).replace(QLatin1Char('&'), QLatin1String("&&")));
+void describe(QAction& action, QString const& name, Kolt::UndoHistory::Step const& step,
+              ParameterNaming const& naming) {
+    action.setEnabled(step != nullptr);
+    auto const what = step ? undoText(*step, naming) : QString();
+    auto const with = [&](QString const& shownName, QString const& shownWhat) {
+        return step ? UndoActions::tr("%1: %2").arg(shownName, shownWhat) : shownName;
+    };
+    // One ampersand marks the key, two are one.
+    action.setText(with(name, QString(what).replace(QLatin1Char('&'), QLatin1String("&&"))));
+    action.setToolTip(plainToolTip(with(action.iconText(), what)));
 }
 
 } // namespace
@@ -89,12 +97,8 @@ void UndoActions::goToState(int steps) {
 }
 
 void UndoActions::update() {
-    auto const undoStep = history_.nextUndo();
-    undoAction_->setEnabled(undoStep != nullptr);
-    undoAction_->setText(actionText(tr("&Undo"), undoStep, naming_));
-    auto const redoStep = history_.nextRedo();
-    redoAction_->setEnabled(redoStep != nullptr);
-    redoAction_->setText(actionText(tr("&Redo"), redoStep, naming_));
+    describe(*undoAction_, tr("&Undo"), history_.nextUndo(), naming_);
+    describe(*redoAction_, tr("&Redo"), history_.nextRedo(), naming_);
 }
 
 } // namespace Talo

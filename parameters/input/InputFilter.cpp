@@ -1,5 +1,6 @@
 #include <parameters/input/InputFilter.hpp>
 
+#include <parameters/input/EditorToolTip.hpp>
 #include <parameters/input/FileDialogHelp.hpp>
 #include <parameters/input/WheelGuard.hpp>
 #include <QCoreApplication>
@@ -29,7 +30,8 @@ bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
     auto* const widget = static_cast<QWidget*>(watched);
     helpFileDialog(*widget, *event);
     // A guarded wheel changes nothing, so it begins no gesture.
-    return WheelGuard::filter(*widget, *event) || gestures_.filter(*widget, *event);
+    return WheelGuard::filter(*widget, *event) || showEditorToolTip(*widget, *event) ||
+           gestures_.filter(*widget, *event);
 }
 
 } // namespace Talo

@@ -8,14 +8,6 @@ namespace Talo {
 
 namespace {
 
-/// The guarded editor around a widget, or the widget itself; null for none.
-QWidget* guardedEditor(QWidget* widget) {
-    for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget())
-        if (widget->findChild<WheelGuard*>(QString(), Qt::FindDirectChildrenOnly))
-            return widget;
-    return nullptr;
-}
-
 void keepFromFocus(QWidget& widget) {
     // Qt sets the focus before any filter sees the wheel.
     if (widget.focusPolicy() == Qt::WheelFocus)
@@ -28,16 +20,23 @@ WheelGuard::WheelGuard(QWidget* editor) : QObject(editor), filter_(InputFilter::
     keepFromFocus(*editor);
     auto const widgets = editor->findChildren<QWidget*>();
     for (auto* const widget : widgets)
-        if (guardedEditor(widget) == editor)
+        if (editorAround(widget) == editor)
             keepFromFocus(*widget);
 }
 
 WheelGuard::~WheelGuard() = default;
 
+QWidget* WheelGuard::editorAround(QWidget* widget) {
+    for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget())
+        if (widget->findChild<WheelGuard*>(QString(), Qt::FindDirectChildrenOnly))
+            return widget;
+    return nullptr;
+}
+
 bool WheelGuard::filter(QWidget& widget, QEvent& event) {
     if (event.type() != QEvent::Wheel && event.type() != QEvent::Polish)
         return false;
-    auto const* const editor = guardedEditor(&widget);
+    auto const* const editor = editorAround(&widget);
     if (!editor)
         return false;
     if (event.type() == QEvent::Polish) {

@@ -21,6 +21,9 @@ public:
     explicit WheelGuard(QWidget* editor);
     ~WheelGuard() override;
 
+    /// The guarded editor around a widget, or the widget itself; null for none.
+    static QWidget* editorAround(QWidget* widget);
+
 private:
     friend class InputFilter;
     /// Sees the events of the whole application before their widgets do: a filter on each widget of an editor would

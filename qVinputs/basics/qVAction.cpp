@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QPixmap>
 #include <QPointer>
+#include <qVinputs/basics/IconFile.hpp>
 #include <qVinputs/basics/Text.hpp>
 
 namespace Kolt {
@@ -42,7 +43,7 @@ void qVAction::showDecoration() {
     if (!properties)
         return;
     if (auto const icon = properties->getValue("icon")) {
-        QPixmap const pixmap(QString::fromStdString(valueOr(icon, std::string())));
+        auto const pixmap = readIconFile(QString::fromStdString(valueOr(icon, std::string())));
         if (!pixmap.isNull())
             setIcon(pixmap);
     }

@@ -21,16 +21,8 @@ qVObjectStatus::~qVObjectStatus() {
 }
 
 void qVObjectStatus::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {
-    if (isForOtherPool(newValue, context))
-        return;
-    QString text;
-    {
-        std::lock_guard const lock(mutex_);
-        if (!take(newValue, properties))
-            return;
-        text = QString::fromStdString(cached_.text());
-    }
-    emit myUpdateLabelText(text);
+    if (!isForOtherPool(newValue, context) && take(newValue, properties))
+        emit myUpdateLabelText(QString::fromStdString(cached_.text()));
 }
 
 bool qVObjectStatus::isForOtherPool(ValuePtr const& newValue, VContext const& context) {

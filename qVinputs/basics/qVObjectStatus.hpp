@@ -1,8 +1,8 @@
 #pragma once
 
+#include <atomic>
 #include <bramble/ObjectStatus.hpp>
 #include <lattice/CreationPreferences.hpp>
-#include <mutex>
 #include <plugin/VInputValue.hpp>
 #include <QLabel>
 
@@ -24,7 +24,8 @@ public:
                    PreferencesPtr const& preferences);
     ~qVObjectStatus() override;
 
-    /// Passes the text of a status on to the label; any other value is ignored. Any thread.
+    /// Passes the text of a status on to the label; any other value is ignored. Any thread, one at a time: the host's
+    /// deliveries to one notifier exclude each other.
     void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) override;
 
 signals:
@@ -35,8 +36,6 @@ private:
     /// Whether a change concerns another pool than the one shown. Any thread.
     bool isForOtherPool(ValuePtr const& newValue, VContext const& context);
 
-    // The front end and a worker may both report at one moment.
-    std::mutex mutex_;
     // The pool that the display shows; compared, never dereferenced.
     std::atomic<ValuePool const*> shownPool_;
 };

@@ -1,4 +1,5 @@
 #include "Rendering.hpp"
+#include "support/MemoryLimit.hpp"
 #include "support/TaloTest.hpp"
 
 #include <cmath>
@@ -174,4 +175,12 @@ TEST_F(FractalRendererTest, APictureWithoutPointsIsNone) {
     std::atomic<bool> const cancelled{false};
     for (auto const& size : {QSize(0, 10), QSize(10, 0), QSize(), QSize(-4, 3)})
         EXPECT_FALSE(Fractal::FractalRenderer(1).render(quick(), size, cancelled));
+}
+
+TEST_F(FractalRendererTest, WorksWithAsManyThreadsAsThereAre) {
+    if (!MemoryLimit::works())
+        GTEST_SKIP() << "a sanitizer needs the memory for itself";
+    auto const usual = points(quick()).image;
+    MemoryLimit const limit(4 << 20);
+    EXPECT_EQ(points(quick(), {80, 60}, 16).image, usual);
 }

@@ -1,4 +1,5 @@
 #include "FractalNetwork.hpp"
+#include "support/MemoryLimit.hpp"
 
 #include <fractal/ui/RenderQueue.hpp>
 #include <mutex>
@@ -143,6 +144,28 @@ TEST_F(RenderQueueTest, TheInformationIsToldOnTheUserInterfaceThreadAlone) {
     ASSERT_TRUE(ends());
     EXPECT_EQ(progress.texts().size(), 1U);
     EXPECT_EQ(progress.fromElsewhere(), 0);
+}
+
+TEST_F(RenderQueueTest, WithoutMemoryItSaysSoAndGoesOn) {
+    if (!MemoryLimit::works())
+        GTEST_SKIP() << "a sanitizer needs the memory for itself";
+    // Its thread exists from now on.
+    renderQueue.start(draft);
+    ASSERT_TRUE(ends());
+    set("exporter.width", "4096");
+    {
+        // The image takes 50 MB and what else is noted of each of its points as much; the thread has 64 MB in reserve.
+        MemoryLimit const limit(20 << 20);
+        renderQueue.start(draft);
+        ASSERT_TRUE(ends());
+    }
+    EXPECT_EQ(computed.size(), 1U);
+    EXPECT_THAT(warnings.texts, ElementsAre(HasSubstr("There is not enough memory")));
+    EXPECT_THAT(status(), HasSubstr("There is not enough memory"));
+    set("exporter.width", "96");
+    renderQueue.start(draft);
+    ASSERT_TRUE(ends());
+    EXPECT_EQ(computed.size(), 2U);
 }
 
 TEST_F(RenderQueueTest, IsCancelled) {

@@ -1,6 +1,12 @@
+#include "support/MemoryLimit.hpp"
 #include "support/TaloTest.hpp"
 
 #include <fractal/engine/Worker.hpp>
+#include <future>
+#include <new>
+#include <QTimer>
+#include <system_error>
+#include <thread>
 
 using Fractal::Worker;
 
@@ -94,4 +100,66 @@ TEST_F(WorkerTest, EndsWhileATaskRuns) {
 TEST_F(WorkerTest, EndsWithoutEverHavingWorked) {
     Worker const idle;
     EXPECT_FALSE(idle.isBusy());
+}
+
+namespace {
+
+/// Does what it is told to do.
+class Doing : public Worker::Task {
+public:
+    explicit Doing(std::function<void()> work) : work_(std::move(work)) {}
+    void run(Worker&) override { work_(); }
+
+private:
+    std::function<void()> const work_;
+};
+
+} // namespace
+
+TEST_F(WorkerTest, TasksMayUseTimersOfQtAsPaintingDoes) {
+    // Qt warns where that is impossible.
+    worker.post(std::make_shared<Doing>([] {
+        QTimer timer;
+        timer.start(1);
+    }));
+    EXPECT_TRUE(waitUntil([&] { return taken.size() == 1; }));
+}
+
+TEST_F(WorkerTest, ATaskWithoutMemoryOrThreadsIsDoneWithAReason) {
+    worker.post(std::make_shared<Doing>([] { throw std::bad_alloc(); }));
+    worker.post(std::make_shared<Doing>([] { throw std::system_error(EAGAIN, std::generic_category()); }));
+    worker.post(std::make_shared<Task>());
+    EXPECT_TRUE(waitUntil([&] { return taken.size() == 3; }));
+    EXPECT_EQ(taken[0]->failure(), QStringLiteral("There is not enough memory."));
+    EXPECT_THAT(taken[1]->failure().toStdString(), testing::StartsWith("The system refuses: "));
+    EXPECT_EQ(taken[2]->failure(), QString());
+    EXPECT_EQ(static_cast<Task const&>(*taken[2]).result, 42);
+}
+
+TEST_F(WorkerTest, WithoutAThreadTasksAreDoneWithAReason) {
+    if (!MemoryLimit::works())
+        GTEST_SKIP() << "a sanitizer needs the memory for itself";
+    expectQtWarning("Thread creation error");
+    {
+        MemoryLimit const limit(1 << 20);
+        // Threads that ended may have left room for others.
+        std::promise<void> end;
+        std::vector<std::thread> others;
+        auto const wait = [ended = end.get_future().share()] { ended.wait(); };
+        try {
+            for (;;)
+                others.emplace_back(wait);
+        } catch (std::system_error const&) {
+            worker.post(std::make_shared<Task>());
+        }
+        end.set_value();
+        for (auto& other : others)
+            other.join();
+    }
+    EXPECT_TRUE(taken.empty());
+    EXPECT_TRUE(waitUntil([&] { return taken.size() == 1; }));
+    EXPECT_EQ(taken[0]->failure(), QStringLiteral("The system has no thread for it."));
+    worker.post(std::make_shared<Task>());
+    EXPECT_TRUE(waitUntil([&] { return taken.size() == 2; })) << "it tries again";
+    EXPECT_EQ(taken[1]->failure(), QString());
 }

@@ -1,4 +1,5 @@
 #include "NetworkFile.hpp"
+#include <sys/stat.h>
 
 namespace {
 
@@ -224,6 +225,22 @@ TEST_F(NetworkFileErrors, AFolderIsNoFile) {
     auto const result = Talo::Network::load(path("."));
     EXPECT_EQ(result.network, nullptr);
     EXPECT_THAT(result.error.toStdString(), testing::HasSubstr(":0: expected a file that can be read, found: "));
+}
+
+TEST_F(NetworkFileErrors, WhatIsNoFileOrTooLargeIsRefusedAtOnce) {
+    auto const refusal = [](QString const& file) {
+        auto const result = Talo::Network::load(file);
+        EXPECT_EQ(result.network, nullptr);
+        return result.error.mid(file.size()).toStdString();
+    };
+    auto const pipe = path("pipe");
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_EQ(refusal(pipe), ":0: expected a file that can be read, found: it is no regular file");
+    EXPECT_EQ(refusal("/dev/zero"), ":0: expected a file that can be read, found: it is no regular file");
+    EXPECT_EQ(refusal(path(".")), ":0: expected a file that can be read, found: it is a folder");
+    QFile large(path("large.json"));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize((64 << 20) + 1));
+    EXPECT_EQ(refusal(large.fileName()), ":0: expected a file that can be read, found: it is larger than 64 MB");
 }
 
 TEST_F(NetworkFileErrors, LinesAreCountedThroughEscapesBracesInTextsAndAByteOrderMark) {

@@ -1,6 +1,7 @@
 #include "PanelTest.hpp"
 
 #include <QLCDNumber>
+#include <QTextDocumentFragment>
 
 namespace {
 
@@ -75,4 +76,12 @@ TEST_F(ObjectListTest, AnEditorWithoutAnIconIsAskedForOneOnlyOnce) {
     action("reload")->trigger();
     EXPECT_EQ(window->objectList()->icon(QStringLiteral("choice")), nullptr);
     EXPECT_THAT(takeOutput(), testing::Not(testing::IsEmpty()));
+}
+
+TEST_F(ObjectListTest, TheKindOfAnObjectIsNoRichText) {
+    QString error;
+    auto const* const file = R"({ "pools": ["a"], "objects": [{ "name": "one", "kind": "<img src='x'>" }] })";
+    ASSERT_TRUE(window->openNetwork(networkFile("kind.json", file), &error)) << qPrintable(error);
+    auto const toolTip = window->objectList()->topLevelItem(0)->toolTip(0);
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(toolTip).toPlainText(), QStringLiteral("<img src='x'>"));
 }

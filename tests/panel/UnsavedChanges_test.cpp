@@ -41,6 +41,21 @@ TEST_F(UnsavedChangesTest, WhatIsOnlyShownIsNoChange) {
     EXPECT_FALSE(close(QMessageBox::Cancel));
 }
 
+TEST_F(UnsavedChangesTest, TheQuestionShowsTheTitleAsItIs) {
+    edit();
+    auto format = Qt::AutoText;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            format = box->textFormat();
+            QTest::mouseClick(box->button(QMessageBox::Cancel), Qt::LeftButton);
+        }
+    });
+    timer.start(0);
+    EXPECT_FALSE(window->close());
+    EXPECT_EQ(format, Qt::PlainText);
+}
+
 TEST_F(UnsavedChangesTest, CancelKeepsTheWindow) {
     edit();
     EXPECT_TRUE(close(QMessageBox::Cancel));

@@ -107,6 +107,25 @@ TEST_F(TaloPanel, SetsValuesInTheChosenPool) {
     EXPECT_EQ(formula[QStringLiteral("symmetry")][QStringLiteral("value")], QJsonValue(7));
 }
 
+TEST_F(TaloPanel, ScriptsNeedNoDisplayAlsoWhereTheNamedOneIsDead) {
+    variables[QStringLiteral("DISPLAY")] = QStringLiteral(":4711");
+    EXPECT_EQ(run({QStringLiteral("--values")}), 0) << qPrintable(errors);
+    EXPECT_THAT(output.toStdString(), HasSubstr("\"formula\""));
+    EXPECT_EQ(run({QStringLiteral("--screenshot"), QStringLiteral("dead.png")}), 0) << qPrintable(errors);
+    EXPECT_FALSE(QImage(folder.filePath(QStringLiteral("dead.png"))).isNull());
+    variables[QStringLiteral("WAYLAND_DISPLAY")] = QStringLiteral("wayland-4711");
+    EXPECT_EQ(run({QStringLiteral("--values")}), 0) << qPrintable(errors);
+}
+
+TEST_F(TaloPanel, NamesWithControlCharactersDoNotCommandTheTerminal) {
+    auto const name = QStringLiteral("a\x1b[2J\nb.json");
+    auto const said = refusal({name});
+    EXPECT_THAT(said, HasSubstr("a\\x1b[2J\\nb.json:0: expected a file that can be read"));
+    EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1);
+    EXPECT_THAT(refusal({QStringLiteral("--plugin"), QStringLiteral("a\x1b[2J\nb.talo")}),
+                HasSubstr("a\\x1b[2J\\nb.talo"));
+}
+
 TEST_F(TaloPanel, DrawsThePanelWithoutADisplay) {
     auto const file = folder.filePath(QStringLiteral("panel.png"));
     ASSERT_EQ(run({fractal, QStringLiteral("--screenshot"), file, QStringLiteral("--size"), QStringLiteral("900x600")}),

@@ -7,10 +7,14 @@
 #include <parameters/rows/ParameterRow.hpp>
 #include <parameters/rows/RowArea.hpp>
 #include <QCheckBox>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QSlider>
+#include <QTextDocumentFragment>
+#include <QToolTip>
+#include <thread>
 
 using Command = Talo::ParameterPanel::Command;
 using Kolt::Parameter;
@@ -83,6 +87,26 @@ TEST_F(ParameterPanelTest, EditsAreStepsOfTheDocumentsHistory) {
     EXPECT_FALSE(on.read());
     panel->action(Command::Redo)->trigger();
     EXPECT_TRUE(on.read());
+}
+
+TEST_F(ParameterPanelTest, TextsOfAFileInToolTipsAreShownAsTheyAre) {
+    auto const* const text = "<b>not bold</b><img src='/etc/passwd'>";
+    label->setProperty("tooltip", Kolt::makeValue(std::string(text)), nullptr, nullptr, nullptr);
+    ASSERT_TRUE(label.write(std::string(text)));
+    // An editor that shows a tool tip of its parameter sets it as it is.
+    field()->setToolTip(text);
+    QHelpEvent event(QEvent::ToolTip, QPoint(3, 3), field()->mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(field(), &event);
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), QLatin1String(text));
+    QToolTip::hideText();
+    EXPECT_TRUE(waitUntil([] { return !QToolTip::isVisible(); }));
+
+    auto* const undo = panel->action(Command::Undo);
+    field()->setText("<img src=x>");
+    field()->setFocus();
+    QTest::keyClick(field(), Qt::Key_X);
+    QTest::keyClick(field(), Qt::Key_Return);
+    EXPECT_THAT(undo->toolTip().toStdString(), HasSubstr("&lt;img src=x&gt;x"));
 }
 
 TEST_F(ParameterPanelTest, TheKeysOfItsActionsWorkInThePanel) {
@@ -244,6 +268,21 @@ TEST_F(ParameterPanelTest, ClosesAndOpensEditorsAroundAnUnload) {
     panel->openEditors();
     EXPECT_TRUE(box());
     EXPECT_THAT(opened, ElementsAre("on", "level", "label", "on", "level", "label")) << "placeholders, then editors";
+}
+
+TEST_F(ParameterPanelTest, AWorkerMayReportAParameterThatHasAPlaceholder) {
+    panel->closeEditors();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_TRUE(loader.unload(TALO_PLUGIN_FILE).ok);
+    panel->openEditors();
+    std::thread([&] {
+        EXPECT_TRUE(setParameterValue(*on, true, nullptr, std::string(), false, nullptr, nullptr));
+    }).join();
+    EXPECT_EQ(row("on")->modifiedIndicator(), nullptr) << "the worker touches no widget";
+    EXPECT_TRUE(waitUntil([&] { return row("on")->modifiedIndicator() != nullptr; }));
+    panel->closeEditors();
+    ASSERT_TRUE(loader.load(TALO_PLUGIN_FILE).ok);
+    panel->openEditors();
 }
 
 TEST_F(ParameterPanelTest, WritesWhatIsTypedOnDemand) {

@@ -42,7 +42,7 @@ protected:
         setProperty(parameter, "max", Kolt::makeValue(maximum));
     }
     static void changeElsewhere(Kolt::ParameterPtr const& parameter, T value, Kolt::PoolPtr const& pool) {
-        Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
+        EXPECT_TRUE(Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr));
     }
     void record(Kolt::ParameterPtr const& parameter) {
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));

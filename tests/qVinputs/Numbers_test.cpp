@@ -104,7 +104,7 @@ protected:
 class WholeNumbersTest : public NumbersTest {
 protected:
     void change(int number) override {
-        Kolt::setParameterValue(*parameter, number, firstPool, std::string(), true, nullptr, nullptr);
+        EXPECT_TRUE(Kolt::setParameterValue(*parameter, number, firstPool, std::string(), true, nullptr, nullptr));
     }
     Kolt::ValuePtr bound(int number) override { return Kolt::makeValue(number); }
     QString expectedText() override { return QString::fromStdString(parameter->ownValue()->Text()); }
@@ -113,7 +113,8 @@ protected:
 class RealNumbersTest : public NumbersTest {
 protected:
     void change(int number) override {
-        Kolt::setParameterValue(*parameter, number / 8.0, firstPool, std::string(), true, nullptr, nullptr);
+        EXPECT_TRUE(
+            Kolt::setParameterValue(*parameter, number / 8.0, firstPool, std::string(), true, nullptr, nullptr));
     }
     Kolt::ValuePtr bound(int number) override { return Kolt::makeValue(number / 8.0); }
     QString expectedText() override { return QString::number(Kolt::valueOr(parameter->ownValue(), 0.0), 'f', 6); }

@@ -68,7 +68,7 @@ TEST_F(QBoolTest, AChangeFromElsewhereChecksTheBoxWithoutAClick) {
     auto const parameter = makeParameter("switch", Kolt::makeValue(false));
     auto const editor = open(parameter);
     QSignalSpy const clicks(box(editor), &QCheckBox::clicked);
-    Kolt::setParameterValue(*parameter, true, firstPool, std::string(), false, nullptr, nullptr);
+    EXPECT_TRUE(Kolt::setParameterValue(*parameter, true, firstPool, std::string(), false, nullptr, nullptr));
     EXPECT_TRUE(box(editor)->isChecked());
     EXPECT_EQ(clicks.count(), 0);
 }
@@ -102,7 +102,7 @@ TEST_F(QBoolTest, SurvivesTheLossOfItsCheckBox) {
     auto const parameter = makeParameter("switch", Kolt::makeValue(false));
     auto const editor = open(parameter);
     delete box(editor);
-    Kolt::setParameterValue(*parameter, true, firstPool, std::string(), false, nullptr, nullptr);
+    EXPECT_TRUE(Kolt::setParameterValue(*parameter, true, firstPool, std::string(), false, nullptr, nullptr));
     EXPECT_EQ(box(editor), nullptr);
     EXPECT_TRUE(QMetaObject::invokeMethod(editor.widget, "clicked", Q_ARG(bool, false)));
     EXPECT_EQ(parameter->ownValue()->Text(), "false");

@@ -153,8 +153,8 @@ TEST_F(QFloatTest, AListenerThatCorrectsTheNumberHasTheLastWord) {
     for (bool const isTyped : {false, true}) {
         recorder.reaction = [&] {
             recorder.reaction = nullptr;
-            Kolt::setParameterValue(*parameter, 0.3, firstPool, std::string(), false,
-                                    Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder), nullptr);
+            EXPECT_TRUE(Kolt::setParameterValue(*parameter, 0.3, firstPool, std::string(), false,
+                                                Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder), nullptr));
         };
         if (isTyped)
             type(editor, "0.75");

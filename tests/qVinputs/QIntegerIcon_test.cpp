@@ -23,7 +23,7 @@ protected:
     }
     static double shown(Kolt::VIcon* icon) { return dynamic_cast<QLCDNumber*>(icon->widget())->value(); }
     static void changeElsewhere(Kolt::ParameterPtr const& parameter, int value, Kolt::PoolPtr const& pool) {
-        Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
+        EXPECT_TRUE(Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr));
     }
 
     Kolt::ObjectPtr object{new Kolt::VObject("object")};

@@ -74,8 +74,8 @@ TEST_F(QIntegerTest, AListenerThatCorrectsTheNumberHasTheLastWord) {
     record(parameter);
     recorder.reaction = [&] {
         recorder.reaction = nullptr;
-        Kolt::setParameterValue(*parameter, 30, firstPool, std::string(), false,
-                                Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder), nullptr);
+        EXPECT_TRUE(Kolt::setParameterValue(*parameter, 30, firstPool, std::string(), false,
+                                            Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder), nullptr));
     };
     type(editor, "33");
     EXPECT_EQ(parameter->ownValue()->Text(), text(editor));

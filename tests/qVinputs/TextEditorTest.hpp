@@ -52,7 +52,7 @@ protected:
     }
     template <typename T>
     static void change(Kolt::ParameterPtr const& parameter, T const& value, Kolt::PoolPtr const& pool) {
-        Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr);
+        EXPECT_TRUE(Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr));
     }
 
     static std::string textOf(Kolt::ParameterPtr const& parameter) { return parameter->ownValue()->Text(); }

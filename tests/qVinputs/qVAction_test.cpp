@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <sys/resource.h>
+#include <sys/stat.h>
 
 using Kolt::ParameterPtr;
 using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
@@ -145,6 +147,60 @@ TEST_F(qVActionTest, AnIconThatCannotBeLoadedIsNotReported) {
     EXPECT_TRUE(warnings.texts.empty());
 }
 
+TEST_F(qVActionTest, AnIconThatIsNoFileIsNotWaitedFor) {
+    auto const pipe = folder.filePath("pipe.png").toStdString();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    auto const parameter = actionParameter();
+    setProperty(parameter, "icon", pipe);
+    auto const editor = open(parameter);
+    EXPECT_TRUE(button(editor).icon().isNull());
+    setProperty(parameter, "icon", "/dev/zero");
+    EXPECT_TRUE(button(editor).icon().isNull());
+}
+
+TEST_F(qVActionTest, ALargePictureIsReadInTheSizeOfAnIcon) {
+    QImage wide(2000, 1000, QImage::Format_RGB32);
+    wide.fill(Qt::green);
+    ASSERT_TRUE(wide.save(folder.filePath("wide.png")));
+    auto const parameter = actionParameter();
+    setProperty(parameter, "icon", folder.filePath("wide.png").toStdString());
+    auto const editor = open(parameter);
+    auto const icon = button(editor).icon();
+    EXPECT_EQ(icon.availableSizes(), QList<QSize>{QSize(256, 128)});
+    EXPECT_EQ(icon.pixmap(256, 128).toImage().pixelColor(5, 5), QColor(Qt::green));
+}
+
+TEST_F(qVActionTest, AHugePictureInFewBytesTakesNoMemory) {
+    // A bitmap of one bit for each point: as a picture of 32 bits it would take 1.6 GB.
+    QImage huge(20'000, 20'000, QImage::Format_Mono);
+    huge.fill(0);
+    ASSERT_TRUE(huge.save(folder.filePath("huge.png")));
+    huge = QImage();
+    ASSERT_LT(QFileInfo(folder.filePath("huge.png")).size(), 100'000);
+    rusage before{};
+    getrusage(RUSAGE_SELF, &before);
+    auto const parameter = actionParameter();
+    setProperty(parameter, "icon", folder.filePath("huge.png").toStdString());
+    auto const editor = open(parameter);
+    rusage after{};
+    getrusage(RUSAGE_SELF, &after);
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 100'000) << "kilobytes";
+    EXPECT_TRUE(button(editor).icon().isNull());
+}
+
+TEST_F(qVActionTest, AChangedPictureIsReadAgain) {
+    auto const file = pictureFile("icon.png", Qt::blue);
+    auto const parameter = actionParameter();
+    setProperty(parameter, "icon", file);
+    auto const editor = open(parameter);
+    EXPECT_EQ(iconColour(editor), QColor(Qt::blue));
+    QImage other(32, 32, QImage::Format_RGB32);
+    other.fill(Qt::red);
+    ASSERT_TRUE(other.save(QString::fromStdString(file)));
+    setProperty(parameter, "icon", file);
+    EXPECT_EQ(iconColour(editor), QColor(Qt::red));
+}
+
 TEST_F(qVActionTest, PropertiesThatAreNoTextsAreIgnored) {
     auto const parameter = actionParameter();
     parameter->setProperty("icon", Kolt::makeValue(1), nullptr, nullptr, nullptr);
@@ -201,7 +257,7 @@ TEST_F(qVActionTest, TheActionIsTheOneAtConstruction) {
     auto const editor = open(parameter);
     int others = 0;
     ActionPtr const other(new Kolt::VAction("other", [&](auto const&, auto const&) { ++others; }));
-    Kolt::setParameterValue(*parameter, other, firstPool, std::string(), false, nullptr, nullptr);
+    EXPECT_TRUE(Kolt::setParameterValue(*parameter, other, firstPool, std::string(), false, nullptr, nullptr));
     click(editor);
     EXPECT_EQ(firedFor.size(), 1U);
     EXPECT_EQ(others, 0);
@@ -210,7 +266,7 @@ TEST_F(qVActionTest, TheActionIsTheOneAtConstruction) {
 TEST_F(qVActionTest, WithoutAnActionAtConstructionNothingIsFired) {
     auto const empty = makeParameter("render.start", Kolt::makeValue(ActionPtr()));
     auto const editor = open(empty);
-    Kolt::setParameterValue(*empty, recordingAction(), firstPool, std::string(), false, nullptr, nullptr);
+    EXPECT_TRUE(Kolt::setParameterValue(*empty, recordingAction(), firstPool, std::string(), false, nullptr, nullptr));
     click(editor);
     EXPECT_TRUE(firedFor.empty());
 

@@ -193,8 +193,8 @@ TEST_F(qVColorTest, ThePressFollowsTheColourThatThePoolHasByThen) {
     auto const parameter = colourParameter({1.0F, 0.0F, 0.0F, 1.0F});
     auto const editor = open(parameter);
     press(editor);
-    Kolt::setParameterValue(*parameter, rgba_float_t{0.0F, 1.0F, 0.0F, 0.5F}, firstPool, std::string(), false, nullptr,
-                            nullptr);
+    EXPECT_TRUE(Kolt::setParameterValue(*parameter, rgba_float_t{0.0F, 1.0F, 0.0F, 0.5F}, firstPool, std::string(),
+                                        false, nullptr, nullptr));
     EXPECT_EQ(label(editor).text(), " 0.50 ");
     press(editor);
     EXPECT_EQ(dialog(editor).currentColor().rgba(), QColor::fromRgbF(0.0, 1.0, 0.0, 0.5).rgba());
@@ -262,7 +262,7 @@ TEST_F(qVColorTest, AChangeFromElsewhereIsNoChoice) {
     press(editor);
     QSignalSpy const choices(&dialog(editor), &QColorDialog::currentColorChanged);
     rgba_float_t const fine{0.1F, 0.2F, 0.3F, 0.4F};
-    Kolt::setParameterValue(*parameter, fine, firstPool, std::string(), false, nullptr, nullptr);
+    EXPECT_TRUE(Kolt::setParameterValue(*parameter, fine, firstPool, std::string(), false, nullptr, nullptr));
     EXPECT_EQ(shown(editor, QPalette::Window), QColor::fromRgbF(0.1F, 0.2F, 0.3F, 0.4F));
     EXPECT_EQ(choices.count(), 0);
     EXPECT_TRUE(same(colourOf(parameter->ownValue()), fine));
@@ -286,8 +286,8 @@ TEST_F(qVColorTest, ACorrectionByAListenerIsShown) {
     auto const editor = open(parameter);
     RecordingNotifier corrector;
     corrector.reaction = [&] {
-        Kolt::setParameterValue(*parameter, rgba_float_t{0.0F, 0.0F, 1.0F, 0.5F}, firstPool, std::string(), false,
-                                Tessera::WeakPtr<Kolt::ValueNotifier>(&corrector), nullptr);
+        EXPECT_TRUE(Kolt::setParameterValue(*parameter, rgba_float_t{0.0F, 0.0F, 1.0F, 0.5F}, firstPool, std::string(),
+                                            false, Tessera::WeakPtr<Kolt::ValueNotifier>(&corrector), nullptr));
     };
     parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&corrector));
     ASSERT_TRUE(choose(editor, QColor(10, 20, 30, 40)));
@@ -329,7 +329,7 @@ TEST_F(qVColorTest, SurvivesTheLossOfItsDialog) {
     delete &dialog(editor);
     press(editor);
     EXPECT_EQ(label(editor).text(), " picking");
-    Kolt::setParameterValue(*parameter, rgba_float_t{0.0F, 1.0F, 0.0F, 1.0F}, firstPool, std::string(), false, nullptr,
-                            nullptr);
+    EXPECT_TRUE(Kolt::setParameterValue(*parameter, rgba_float_t{0.0F, 1.0F, 0.0F, 1.0F}, firstPool, std::string(),
+                                        false, nullptr, nullptr));
     EXPECT_EQ(label(editor).text(), " 1.00 ");
 }

@@ -31,7 +31,7 @@ TEST_F(WatchedInt, AnEditIsAStepThatGoesBackAndForth) {
 }
 
 TEST_F(WatchedInt, WhatTheHostWritesIsNoStep) {
-    setParameterValue(*parameter, 9, nullptr, std::string(), false, nullptr, nullptr);
+    EXPECT_TRUE(setParameterValue(*parameter, 9, nullptr, std::string(), false, nullptr, nullptr));
     EXPECT_THAT(names(), IsEmpty());
     input.edit(10, nullptr);
     EXPECT_THAT(names(), ElementsAre("p: 9 → 10")) << "the step starts from what the host wrote";
@@ -42,7 +42,7 @@ TEST_F(WatchedInt, WhatAnInputWritesInAnswerToTheHostIsNoStep) {
         input.answer = {};
         input.edit(8, nullptr);
     };
-    setParameterValue(*parameter, 9, nullptr, std::string(), false, nullptr, nullptr);
+    EXPECT_TRUE(setParameterValue(*parameter, 9, nullptr, std::string(), false, nullptr, nullptr));
     EXPECT_EQ(text(parameter), "8");
     EXPECT_THAT(names(), IsEmpty());
     input.edit(7, nullptr);
@@ -54,7 +54,7 @@ TEST_F(WatchedInt, WhatTheHostAnswersToAnEditIsNoStepOfItsOwn) {
     parameter->addNotifier(host.ref());
     host.onTold = [&] {
         host.onTold = {};
-        setParameterValue(*parameter, 100, nullptr, std::string(), false, nullptr, nullptr);
+        EXPECT_TRUE(setParameterValue(*parameter, 100, nullptr, std::string(), false, nullptr, nullptr));
     };
     input.edit(999, nullptr);
     EXPECT_THAT(names(), SizeIs(1));
@@ -315,14 +315,14 @@ TEST_F(EditRecorderTest, DefaultsAreWhatAParameterHeldInEachPool) {
     parameter->setLocalValue(draft, makeValue(2));
     EXPECT_EQ(parameter->defaults(), nullptr);
     parameter->rememberDefaults();
-    setParameterValue(*parameter, 20, draft, std::string(), true, nullptr, nullptr);
-    setParameterValue(*parameter, 1, final, std::string(), true, nullptr, nullptr);
+    EXPECT_TRUE(setParameterValue(*parameter, 20, draft, std::string(), true, nullptr, nullptr));
+    EXPECT_TRUE(setParameterValue(*parameter, 1, final, std::string(), true, nullptr, nullptr));
     EXPECT_FALSE(parameter->defaults()->isEffectiveIn(*parameter, draft));
     EXPECT_TRUE(parameter->defaults()->isEffectiveIn(*parameter, final)) << "a value of its own that equals what held";
     EXPECT_TRUE(parameter->defaults()->isOwnValueOf(*parameter));
     EXPECT_TRUE(history.store(parameter, draft, parameter->defaults()->in(draft)));
     EXPECT_EQ(text(parameter, draft), "2");
-    setParameterValue(*parameter, 30, final, std::string(), true, nullptr, nullptr);
+    EXPECT_TRUE(setParameterValue(*parameter, 30, final, std::string(), true, nullptr, nullptr));
     EXPECT_FALSE(parameter->defaults()->isEffectiveIn(*parameter, final));
     EXPECT_TRUE(history.store(parameter, final, parameter->defaults()->in(final)));
     EXPECT_EQ(parameter->getLocalValue(final, std::string(), false), nullptr);

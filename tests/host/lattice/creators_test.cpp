@@ -87,6 +87,13 @@ TEST_F(Registry, KnowsACreatorFromItsConstructorToItsDestructor) {
                 ElementsAre("registered Sample::Shape \"shape\" {}", "unregistered Sample::Shape \"shape\" {}"));
 }
 
+TEST_F(Registry, AnAdoptedCreatorReportsThatItLeaves) {
+    Tessera::StrongPtr<Creator, Kolt::VManagedObjectBase> creator(new Creator("shape", 0, nullptr, ApiKey));
+    creator.reset();
+    EXPECT_THAT(observer_.events,
+                ElementsAre("registered Sample::Shape \"shape\" {}", "unregistered Sample::Shape \"shape\" {}"));
+}
+
 TEST_F(Registry, ACreatorsSetIsTheGivenOneAndNoCopy) {
     auto const given = set({"dial"});
     Creator const creator("shape", 0, given, ApiKey);

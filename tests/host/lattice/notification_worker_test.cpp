@@ -42,7 +42,7 @@ TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerTellsIt) {
     std::thread worker([&] {
         int round = 0;
         while (!stop)
-            setParameterValue(*parameter_, std::to_string(++round), nullptr, "", false, {}, nullptr);
+            EXPECT_TRUE(setParameterValue(*parameter_, std::to_string(++round), nullptr, "", false, {}, nullptr));
     });
     for (int round = 0; round < 50; ++round) {
         auto notifier = std::make_unique<Leaving>(deliveries_);
@@ -62,10 +62,14 @@ TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerTellsIt) {
 TEST_F(NotificationByWorkers, NobodyIsToldAfterLeaving) {
     Leaving notifier(deliveries_);
     parameter_->addNotifier(Tessera::WeakPtr<ValueNotifier>(&notifier));
-    std::thread([&] { setParameterValue(*parameter_, std::string("x"), nullptr, "", false, {}, nullptr); }).join();
+    std::thread([&] {
+        EXPECT_TRUE(setParameterValue(*parameter_, std::string("x"), nullptr, "", false, {}, nullptr));
+    }).join();
     EXPECT_EQ(deliveries_, 1);
     notifier.stopNotifications();
-    std::thread([&] { setParameterValue(*parameter_, std::string("y"), nullptr, "", false, {}, nullptr); }).join();
+    std::thread([&] {
+        EXPECT_TRUE(setParameterValue(*parameter_, std::string("y"), nullptr, "", false, {}, nullptr));
+    }).join();
     EXPECT_EQ(deliveries_, 1);
 }
 
@@ -78,7 +82,7 @@ TEST_F(NotificationByWorkers, WorkersMayExtendAListThatIsBeingTold) {
         }
     });
     for (int round = 0; round < 200; ++round)
-        setParameterValue(*parameter_, std::string("x"), nullptr, "", false, {}, nullptr);
+        EXPECT_TRUE(setParameterValue(*parameter_, std::string("x"), nullptr, "", false, {}, nullptr));
     adding.join();
     EXPECT_EQ(parameter_->size(), 0U);
 }

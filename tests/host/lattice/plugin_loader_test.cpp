@@ -8,6 +8,7 @@
 #include <lattice/InputRegistry.hpp>
 #include <lattice/PluginLoader.hpp>
 #include <lattice/UndoHistory.hpp>
+#include <sys/stat.h>
 
 namespace {
 
@@ -82,6 +83,19 @@ TEST_F(PluginLoading, AFileThatIsNoLibraryCannotBeOpened) {
                 StartsWith("Cannot open the plug-in " + folder_.string() + ": "));
     EXPECT_THAT(loader_.load("").message, StartsWith("Cannot open the plug-in : "))
         << "no name at all is not the program itself";
+    EXPECT_THAT(loader_.files(), IsEmpty());
+}
+
+TEST_F(PluginLoading, WhatIsNoFileOrTooLargeIsRefusedAtOnce) {
+    auto const pipe = (folder_ / "pipe.talo").string();
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(loader_.load(pipe).message, "Cannot open the plug-in " + pipe + ": it is no regular file");
+    EXPECT_EQ(loader_.load(folder_.string()).message,
+              "Cannot open the plug-in " + folder_.string() + ": it is a folder");
+    auto const large = (folder_ / "large.talo").string();
+    std::ofstream(large) << 'x';
+    std::filesystem::resize_file(large, (256U << 20) + 1);
+    EXPECT_EQ(loader_.load(large).message, "Cannot open the plug-in " + large + ": it is larger than 256 MB");
     EXPECT_THAT(loader_.files(), IsEmpty());
 }
 

@@ -177,6 +177,59 @@ TEST_F(Values, AreCopiedOnceWhereTheyAreAskedFor) {
     EXPECT_EQ(CountingText::copies, 2);
 }
 
+/// A text whose every operation uses a value object again.
+struct ReachingBack {
+    ReachingBack() = default;
+    ReachingBack(ReachingBack const& other) : number(other.number) { reach(); }
+    ReachingBack& operator=(ReachingBack const& other) {
+        number = other.number;
+        reach();
+        return *this;
+    }
+    ~ReachingBack() { reach(); }
+    bool operator==(ReachingBack const& other) const {
+        reach();
+        return number == other.number;
+    }
+    static void reach() {
+        if (!target)
+            return;
+        auto* const value = std::exchange(target, nullptr);
+        {
+            ReachingBack read;
+            EXPECT_TRUE(value->get(read));
+            EXPECT_TRUE(value->holds(read));
+        }
+        ++reached;
+        target = value;
+    }
+    int number = 0;
+    static Kolt::VTypedValueBase<ReachingBack>* target;
+    static int reached;
+};
+Kolt::VTypedValueBase<ReachingBack>* ReachingBack::target = nullptr;
+int ReachingBack::reached = 0;
+
+TEST_F(Values, AreUsedAgainByWhatTheyContain) {
+    VValue<ReachingBack> value;
+    ReachingBack::reached = 0;
+    int reachedBefore = 0;
+    auto const reachesBack = [&] {
+        return std::exchange(reachedBefore, ReachingBack::reached) < ReachingBack::reached;
+    };
+    ReachingBack content;
+    ReachingBack::target = &value;
+    EXPECT_TRUE(value.set(content));
+    EXPECT_TRUE(reachesBack()) << "the old one is destroyed";
+    EXPECT_TRUE(value.get(content));
+    EXPECT_TRUE(reachesBack()) << "it is copied";
+    EXPECT_TRUE(value.holds(content));
+    EXPECT_TRUE(reachesBack()) << "it is compared";
+    EXPECT_TRUE(value.clone());
+    EXPECT_TRUE(reachesBack()) << "it is cloned";
+    ReachingBack::target = nullptr;
+}
+
 /// A value that is computed elsewhere: sometimes it cannot be had, and it takes only positive numbers.
 struct Computed : Kolt::VTypedValueBase<int> {
     bool get(int& out) const override {

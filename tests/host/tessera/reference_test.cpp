@@ -252,6 +252,27 @@ TEST_F(References, TheReferenceHookCanCancelTheDeletion) {
     EXPECT_EQ(deaths_, 1);
 }
 
+TEST_F(References, AReferenceHookThatTakesAndDropsAReferenceDeletesTheObjectOnce) {
+    struct Looking : Counted {
+        Looking(int* deaths, int& hooks) : Counted(deaths), hooks_(hooks) {}
+        void referenceHook() override {
+            // Not again for each reference that the hook itself drops.
+            if (++hooks_ > 3)
+                return;
+            StrongPtr<Counted>(this).reset();
+            WeakPtr<Counted>(this).strong().reset();
+        }
+        int& hooks_;
+    };
+    int hooks = 0;
+    StrongPtr<Counted> strong(new Looking(&deaths_, hooks));
+    WeakPtr<Counted> const weak(strong);
+    strong.reset();
+    EXPECT_EQ(deaths_, 1);
+    EXPECT_EQ(hooks, 1);
+    EXPECT_FALSE(weak.alive());
+}
+
 TEST_F(References, TheFirstSpeakerWritesOneLineToStandardError) {
     SpeakPtr::setSpeaker(nullptr);
     auto& first = SpeakPtr::theSpeaker();

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <fstream>
+#include <sys/resource.h>
+#include <unistd.h>
+
+/// As long as it lives, the program can take no more addresses than this many bytes beyond what it has; the stack of a
+/// thread takes 8 MB.
+class MemoryLimit {
+public:
+    explicit MemoryLimit(rlim_t bytes) {
+        getrlimit(RLIMIT_AS, &before_);
+        rlimit const limited{used() + bytes, before_.rlim_max};
+        setrlimit(RLIMIT_AS, &limited);
+    }
+    ~MemoryLimit() { setrlimit(RLIMIT_AS, &before_); }
+    MemoryLimit(MemoryLimit const&) = delete;
+    MemoryLimit& operator=(MemoryLimit const&) = delete;
+
+    /// False in a program with a sanitizer, which keeps its own memory everywhere in the address space.
+    static bool works() { return used() < rlim_t{1} << 40; }
+
+private:
+    static rlim_t used() {
+        rlim_t pages = 0;
+        std::ifstream("/proc/self/statm") >> pages;
+        return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+    }
+
+    rlimit before_{};
+};
