@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <bramble/Info.hpp>
 #include <bramble/ObjectStatus.hpp>
+#include <network/NetworkParts.hpp>
 #include <network/NetworkReader.hpp>
-#include <network/PoolValues.hpp>
 #include <network/PropertyFormat.hpp>
 #include <network/SaveFile.hpp>
 #include <network/ValueFormat.hpp>
@@ -25,12 +25,6 @@ constexpr std::uintmax_t largestFile = 64 << 20;
 /// Something of a network that no file can hold; the line has no meaning.
 [[noreturn]] void refuseToWrite(QString const& text) {
     throw FormatError{0, text};
-}
-
-bool failed(QString* error, QString const& reason) {
-    if (error)
-        *error = reason;
-    return false;
 }
 
 /// The element of a list with the name; null when there is none.

@@ -3,7 +3,7 @@
 #include <network/Network.hpp>
 
 #include <algorithm>
-#include <network/PoolValues.hpp>
+#include <network/NetworkParts.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 #include <QJsonDocument>
@@ -12,12 +12,6 @@
 namespace Talo {
 
 namespace {
-
-bool failed(QString* error, QString const& reason) {
-    if (error)
-        *error = reason;
-    return false;
-}
 
 /// All values of a parameter; null for what no file can contain.
 QJsonObject valuesToJson(Kolt::VParameter const& parameter, std::vector<Kolt::PoolPtr> const& pools) {

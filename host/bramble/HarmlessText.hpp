@@ -7,14 +7,10 @@
 namespace Kolt {
 
 /// The text as labels may show it, whoever wrote it. A plain text, UTF-8, is returned as it is. Of a rich text, which
-/// is what Qt takes for one, remain
-///
-/// - the tags for characters, paragraphs, headings, lists and links, with the attributes "href", "color",
-/// "align"
-///   and "size" alone: nothing that loads a picture, a style or any other resource, and no table, whose
-///   layout takes long; its rows become lines,
-/// - at most MostNestedTags of them inside each other,
-/// - at most LongestRichText bytes; a longer text ends with "…".
+/// is what Qt takes for one, remain the tags for characters, paragraphs, headings, lists and links, with the attributes
+/// "href", "color", "align" and "size" alone. So nothing loads a picture, a style or any other resource. Tables, whose
+/// layout takes long, become lines. At most MostNestedTags tags remain inside each other, and at most LongestRichText
+/// bytes; a longer text ends with "…".
 ///
 /// What is harmless already is returned unchanged if its tags are written in small letters and its attributes in double
 /// quotation marks. The effort is proportional to the length. Any thread; prints nothing.

@@ -18,13 +18,23 @@ QString suffixOf(QString const& filter) {
 }
 
 /// What the nearest widget around the dialog says.
-QString folderFor(QWidget const& dialog) {
+QString textAround(QWidget const& dialog, char const* property) {
     for (auto const* widget = dialog.parentWidget(); widget; widget = widget->parentWidget()) {
-        auto const folder = widget->property(FileFolderProperty).toString();
-        if (!folder.isEmpty())
-            return folder;
+        auto const text = widget->property(property).toString();
+        if (!text.isEmpty())
+            return text;
     }
     return {};
+}
+
+void addSuffix(QFileDialog& dialog) {
+    auto const kinds = textAround(dialog, FileKindsProperty);
+    // An editor that names kinds of its own knows better.
+    if (!kinds.isEmpty() && suffixOf(dialog.selectedNameFilter()).isEmpty())
+        dialog.setNameFilters(kinds.split(QStringLiteral(";;")));
+    dialog.setDefaultSuffix(suffixOf(dialog.selectedNameFilter()));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog](QString const& filter) { dialog.setDefaultSuffix(suffixOf(filter)); });
 }
 
 bool hasChosenFile(QFileDialog const& dialog) {
@@ -38,14 +48,11 @@ void helpFileDialog(QWidget& widget, QEvent const& event) {
     auto* const dialog = event.type() == QEvent::Show ? qobject_cast<QFileDialog*>(&widget) : nullptr;
     if (!dialog)
         return;
-    auto const folder = folderFor(*dialog);
+    auto const folder = textAround(*dialog, FileFolderProperty);
     if (!folder.isEmpty() && !hasChosenFile(*dialog))
         dialog->setDirectory(folder);
-    if (dialog->acceptMode() != QFileDialog::AcceptSave || !dialog->defaultSuffix().isEmpty())
-        return;
-    dialog->setDefaultSuffix(suffixOf(dialog->selectedNameFilter()));
-    QObject::connect(dialog, &QFileDialog::filterSelected, dialog,
-                     [dialog](QString const& filter) { dialog->setDefaultSuffix(suffixOf(filter)); });
+    if (dialog->acceptMode() == QFileDialog::AcceptSave && dialog->defaultSuffix().isEmpty())
+        addSuffix(*dialog);
 }
 
 } // namespace Talo

@@ -11,6 +11,10 @@ namespace Talo {
 /// host sets on any widget around the editors, its window for instance.
 constexpr char FileFolderProperty[] = "fileFolder";
 
+/// The kinds of files that a dialog saves, as a filter of QFileDialog: a property of the editor that opens the dialog.
+/// The rows set it to the property "Extension" of their parameter.
+constexpr char FileKindsProperty[] = "fileKinds";
+
 /// Prepares a file dialog of Qt's own as it is shown: it starts in the host's folder, and a name without a suffix gets
 /// the one of the chosen kind of files, so that the kind's list shows what was saved. Other events do nothing.
 /// User-interface thread.

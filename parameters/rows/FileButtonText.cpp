@@ -1,5 +1,6 @@
 #include <parameters/rows/FileButtonText.hpp>
 
+#include <parameters/input/FileDialogHelp.hpp>
 #include <parameters/OnePool.hpp>
 #include <parameters/rows/AccessibleFileButton.hpp>
 #include <parameters/rows/ButtonCaption.hpp>
@@ -32,6 +33,9 @@ FileButtonText* FileButtonText::makeFor(QWidget& editor, Kolt::ParameterPtr cons
 
 FileButtonText::FileButtonText(QPushButton& button, Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools)
     : QObject(&button), button_(button), parameter_(parameter), pools_(pools), caption_(captionFor(*parameter)) {
+    auto const* const properties = parameter->properties();
+    if (auto const kinds = properties ? properties->getValue("Extension") : nullptr)
+        button.setProperty(FileKindsProperty, QString::fromStdString(kinds->Text()));
     AccessibleFileButton::attach(button, this);
     refresh();
 }

@@ -8,6 +8,7 @@
 #include <lattice/TypedParameter.hpp>
 #include <parameters/ParameterPanel.hpp>
 #include <parameters/rows/ParameterRow.hpp>
+#include <parameters/rows/RowArea.hpp>
 #include <QAccessible>
 #include <QAction>
 #include <QLineEdit>

@@ -5,6 +5,15 @@
 
 namespace Talo {
 
+// What the sources of Network share.
+
+/// Hands out the reason unless nobody asks for it; false.
+inline bool failed(QString* error, QString const& reason) {
+    if (error)
+        *error = reason;
+    return false;
+}
+
 /// A pool's name as files write it.
 inline QString nameOfPool(Kolt::PoolPtr const& pool) {
     return QString::fromStdString(pool->Name());
