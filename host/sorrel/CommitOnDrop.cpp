@@ -47,7 +47,7 @@ void CommitOnDrop::showCurrentValue() const {
     auto const pool = currentPool(poolSource_);
     // Else an editor with the focus takes the dropped text for one that is being typed.
     comboBox_->setEditText(comboBox_->itemText(comboBox_->currentIndex()));
-    input->onValueChange(parameter->effectiveValue(pool), VContext(pool, nullptr), nullptr);
+    input->notify(parameter->effectiveValue(pool), VContext(pool, nullptr));
 }
 
 } // namespace Kolt
