@@ -44,7 +44,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(parent));
     }
 
-    Talo::ParameterRow* row(char const* name) const { return panel->row(QLatin1String(name)); }
+    Talo::ParameterRow* row(char const* name) const { return panel->rowArea()->row(QLatin1String(name)); }
     QCheckBox* box() const { return row("on")->editor()->findChild<QCheckBox*>(); }
     QSlider* slider() const { return row("level")->editor()->findChild<QSlider*>(); }
     QLineEdit* field() const {
@@ -69,7 +69,7 @@ TEST_F(ParameterPanelTest, ShowsAnEditorForEachParameter) {
     EXPECT_TRUE(box() && slider() && field());
     EXPECT_EQ(panel->object(), object);
     EXPECT_EQ(box()->accessibleName(), QStringLiteral("on"));
-    EXPECT_EQ(panel->row(QStringLiteral("nothing")), nullptr);
+    EXPECT_EQ(panel->rowArea()->row(QStringLiteral("nothing")), nullptr);
 }
 
 TEST_F(ParameterPanelTest, EditsAreStepsOfTheDocumentsHistory) {
@@ -234,7 +234,7 @@ TEST_F(ParameterPanelTest, CopiesPastesAndSetsDefaults) {
     EXPECT_EQ(label.read(), "desk");
     ASSERT_TRUE(label.write("shelf"));
     EXPECT_TRUE(row("label")->modifiedIndicator()->isVisible());
-    QSignalSpy const changes(panel, &Talo::ParameterPanel::defaultChanged);
+    QSignalSpy const changes(panel->rowArea(), &Talo::RowArea::defaultChanged);
     panel->action(Command::SetAsDefault)->trigger();
     EXPECT_EQ(changes.count(), 1);
     EXPECT_FALSE(row("label")->modifiedIndicator()->isVisible());
@@ -255,7 +255,7 @@ TEST_F(ParameterPanelTest, ClosesAndOpensEditorsAroundAnUnload) {
     std::vector<std::string> opened;
     QObject::connect(panel, &Talo::ParameterPanel::editorOpened, panel,
                      [&](Kolt::ParameterPtr const& parameter, QWidget* editor) {
-                         EXPECT_EQ(editor, panel->row(QString::fromStdString(parameter->Name()))->editor());
+                         EXPECT_EQ(editor, panel->rowArea()->row(QString::fromStdString(parameter->Name()))->editor());
                          opened.push_back(parameter->Name());
                      });
     panel->closeEditors();
