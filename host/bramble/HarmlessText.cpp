@@ -13,7 +13,7 @@ bool mayBeSpace(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r') || static_cast<unsigned char>(c) >= 0x80;
 }
 
-std::size_t skipSpace(std::string_view text, std::size_t place) {
+std::size_t afterSpace(std::string_view text, std::size_t place) {
     while (place < text.size() && mayBeSpace(text[place]))
         ++place;
     return place;
@@ -128,10 +128,10 @@ private:
 } // namespace
 
 bool isRichText(std::string_view text) {
-    auto start = skipSpace(text, 0);
+    auto start = afterSpace(text, 0);
     if (text.compare(start, 5, "<?xml") == 0) {
         auto const end = text.find("?>", start);
-        start = skipSpace(text, end == std::string_view::npos ? text.size() : end + 2);
+        start = afterSpace(text, end == std::string_view::npos ? text.size() : end + 2);
     }
     if (startsWith(text, start, "<!doc"))
         return true;
