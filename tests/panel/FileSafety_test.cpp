@@ -143,29 +143,25 @@ TEST_F(FileSafetyTest, ANameWithoutASuffixGetsOneAndIsListedByOpen) {
 }
 
 TEST_F(FileSafetyTest, DialogsOfEditorsStartBesideTheNetworkAndAddTheSuffix) {
-    ASSERT_TRUE(window->openNetwork(networkFile("export.json", R"({ "pools": ["all"], "objects": [
+    ASSERT_TRUE(window->openNetwork(networkFile("export.json", R"json({ "pools": ["all"], "objects": [
         { "name": "all", "parameters": [
             { "name": "document", "type": "string", "preferences": ["FileInput", "Save as PDF"], "value": "" },
             { "name": "picture", "type": "string", "preferences": ["Save as"], "value": "",
-              "properties": { "Extension": "PNG pictures (*.png);;All files (*)"
-}
-},
-            { "name": "palette", "type": "string", "preferences": ["FileInput", "Open"], "value": "" } ]
-} ]
-})")));
+              "properties": { "Extension": "PNG pictures (*.png);;All files (*)" } },
+            { "name": "palette", "type": "string", "preferences": ["FileInput", "Open"], "value": "" } ] } ] })json")));
     auto const click = [this](char const* name) {
-    return [this, name] { QTest::mouseClick(control<QPushButton>(name), Qt::LeftButton); };
+        return [this, name] { QTest::mouseClick(control<QPushButton>(name), Qt::LeftButton); };
     };
-EXPECT_TRUE(withFileDialog(click("document"), [&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.directory(), QDir(folder.path()));
-    enterFileName(dialog, QStringLiteral("picture"));
-}));
-EXPECT_EQ(held("document"), folder.filePath(QStringLiteral("picture.pdf")).toStdString());
-EXPECT_TRUE(withFileDialog(click("picture"),
-                           [&](QFileDialog& dialog) { enterFileName(dialog, QStringLiteral("picture")); }));
-EXPECT_EQ(held("picture"), folder.filePath(QStringLiteral("picture.png")).toStdString());
-EXPECT_TRUE(withFileDialog(click("palette"), [&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.directory(), QDir(folder.path()));
-    dialog.reject();
-}));
+    EXPECT_TRUE(withFileDialog(click("document"), [&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory(), QDir(folder.path()));
+        enterFileName(dialog, QStringLiteral("picture"));
+    }));
+    EXPECT_EQ(held("document"), folder.filePath(QStringLiteral("picture.pdf")).toStdString());
+    EXPECT_TRUE(withFileDialog(click("picture"),
+                               [&](QFileDialog& dialog) { enterFileName(dialog, QStringLiteral("picture")); }));
+    EXPECT_EQ(held("picture"), folder.filePath(QStringLiteral("picture.png")).toStdString());
+    EXPECT_TRUE(withFileDialog(click("palette"), [&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory(), QDir(folder.path()));
+        dialog.reject();
+    }));
 }
