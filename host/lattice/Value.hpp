@@ -54,7 +54,7 @@ template <typename T>
 class VValue : public VTypedValueBase<T> {
 public:
     /// Has this value.
-    explicit VValue(T const& value = T()) : content_(std::make_shared<T const>(value)) {}
+    explicit VValue(T const& value = T()) : content_(share(value)) {}
 
     bool get(T& out) const override {
         out = *content();
@@ -62,7 +62,7 @@ public:
     }
     bool set(T const& value) override {
         // Made before the lock is taken; the old one is destroyed after it is given back.
-        auto content = std::make_shared<T const>(value);
+        auto content = share(value);
         std::lock_guard const lock(mutex_);
         content_.swap(content);
         return true;
@@ -72,6 +72,10 @@ public:
     ValuePtr clone() const override { return ValuePtr(new VValue(VValueTrait<T>::Clone(*content()))); }
 
 private:
+    // Not inline: what destroys the content must be in the library that has the template, not in one that is unloaded
+    // before the value dies.
+    [[gnu::noinline]] static std::shared_ptr<T const> share(T const& value) { return std::make_shared<T const>(value); }
+
     std::shared_ptr<T const> content() const {
         std::lock_guard const lock(mutex_);
         return content_;

@@ -551,6 +551,10 @@
         <source>Close this notice</source>
         <translation>Diesen Hinweis schließen</translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>Panel::ObjectList</name>

@@ -7,7 +7,7 @@
 
 namespace Panel {
 
-NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), text_(new QLabel), offer_(new QPushButton) {
+NoticeBar::NoticeBar(QWidget* parent) : QFrame(parent), text_(new QLabel), offer_(new QPushButton(tr("OK"))) {
     setObjectName(QStringLiteral("notice"));
     setFrameShape(StyledPanel);
     // The colours of tool tips stand out and suit every palette.

@@ -64,15 +64,18 @@ void qVStringList::refill() {
     bool const isTyped = field && field->hasFocus() && field->text() != comboBox_->itemText(comboBox_->currentIndex());
     auto const typed = isTyped ? field->text() : QString();
     int const cursor = isTyped ? field->cursorPosition() : 0;
-    // Qt completes a text by characters that are selected behind the cursor.
-    auto const selected = isTyped ? field->selectedText().size() : 0;
+    // Qt completes a text by characters that are selected behind the cursor; a person selects either way.
+    int const start = isTyped ? field->selectionStart() : -1;
+    int const selected = isTyped ? field->selectedText().size() : 0;
     fill();
     if (!isTyped)
         return;
     field->setText(typed);
     field->setCursorPosition(cursor);
-    if (selected > 0)
-        field->setSelection(cursor + selected, -selected);
+    if (selected > 0 && cursor == start)
+        field->setSelection(start + selected, -selected);
+    else if (selected > 0)
+        field->setSelection(start, selected);
 }
 
 void qVStringList::selectItem(QString const& what) {

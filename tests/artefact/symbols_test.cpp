@@ -31,6 +31,13 @@ TEST_P(Symbols, NoneIsUniqueInTheProcess) {
     EXPECT_THAT(lines, testing::Each(Not(HasSubstr("UNIQUE"))));
 }
 
+TEST_P(Symbols, NoneDestroysWhatAValueHolds) {
+    // The content of a value lives longer than the file whose code made the value.
+    auto const lines = run(std::string(TALO_NM)).lines;
+    EXPECT_THAT(lines, testing::Contains(HasSubstr("TALO_API_2023_MAR_29__qtalo_inputs")));
+    EXPECT_THAT(lines, testing::Each(Not(HasSubstr("_ZTVSt23_Sp_counted_ptr_inplace"))));
+}
+
 TEST_P(Symbols, AllThatIsNeededIsFound) {
     auto const lines = run(std::string(TALO_LDD) + " -r").lines;
     EXPECT_THAT(lines, testing::Contains(HasSubstr("libtessera.so")));

@@ -292,6 +292,18 @@ TEST_F(StringListTest, ATextThatIsBeingTypedStaysWhenSomethingElseChanges) {
     EXPECT_EQ(field->text(), typed);
     EXPECT_EQ(combo(editor)->count(), 4);
     EXPECT_EQ(combo(editor)->currentIndex(), 2);
+    // What a person has selected stays selected, too.
+    field->setSelection(1, 2);
+    parameter->setProperty("comment", Kolt::makeValue(2), nullptr, nullptr, nullptr);
+    EXPECT_EQ(field->selectedText(), QStringLiteral("wo"));
+    EXPECT_EQ(field->cursorPosition(), 3);
+    setElsewhere(parameter, makeStrings({"one", "two", "three"}, "three"));
+    EXPECT_EQ(field->selectedText(), QStringLiteral("wo"));
+    EXPECT_EQ(field->cursorPosition(), 3);
+    field->setSelection(3, -1);
+    setElsewhere(parameter, makeStrings({"one", "two", "three", "four"}, "three"));
+    EXPECT_EQ(field->selectedText(), QStringLiteral("o"));
+    EXPECT_EQ(field->cursorPosition(), 2);
     QTest::keyClicks(combo(editor), QStringLiteral("x"));
     EXPECT_EQ(field->text(), QStringLiteral("twx")) << "the completion gives way to what is typed";
     combo(editor)->clearFocus();
