@@ -42,11 +42,9 @@ protected:
 
     /// The file that is chosen by the editor; it exists where the dialog can only open one.
     QString target(char const* name) const {
-        auto const file = QString::fromUtf8(name).section(QLatin1Char('.'), 1);
-        auto const path = folder.filePath(file == "picture"    ? "picture.png"
-                                          : file == "document" ? "document.pdf"
-                                                               : file);
-        if (file == "palette") {
+        // With a suffix, as a dialog would add one.
+        auto const path = folder.filePath(QString::fromUtf8(name).section(QLatin1Char('.'), 1) + ".out");
+        if (name == std::string("exporter.palette")) {
             QFile palette(path);
             EXPECT_TRUE(palette.open(QIODevice::WriteOnly) && palette.write(twoColours()) > 0);
         }
