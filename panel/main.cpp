@@ -265,6 +265,9 @@ int run(Panel::CommandLine const& commandLine) {
     QString pluginError;
     if (!loadPlugins(plugins, commandLine, pluginError))
         return badUse;
+    // Qt sets the direction of the language when translations are loaded, as with the plug-ins.
+    if (commandLine.rightToLeft)
+        QApplication::setLayoutDirection(Qt::RightToLeft);
     bool const draws = !commandLine.screenshot.isEmpty();
     if (commandLine.listCreators) {
         // A list without them would be wrong; everything else has placeholders.
@@ -321,8 +324,6 @@ int main(int argc, char* argv[]) {
         return print("talo_panel " TALO_VERSION "\n");
     }
     Panel::applyLook(commandLine->theme);
-    if (commandLine->rightToLeft)
-        QApplication::setLayoutDirection(Qt::RightToLeft);
     int const status = run(*commandLine);
     if (drawn && status == 0)
         say(QCoreApplication::translate("main", "There is no display, so the panel was drawn into %1.")

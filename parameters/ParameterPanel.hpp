@@ -33,47 +33,32 @@ public:
     ParameterPanel(Kolt::ObjectPtr const& object, Kolt::ValuePoolSource& pools, QWidget* parent = nullptr);
     ~ParameterPanel() override;
 
-    /// The shown object; null if it was deleted.
-    Kolt::ObjectPtr object() const;
+    Kolt::ObjectPtr object() const; ///< the shown object; null if it was deleted
 
     /// The words of the filter: only parameters that contain all of them in "object.parameter" or in their value are
     /// shown. Values count as they are when the filter or the pool is set: a parameter that is being edited stays.
     QString filter() const;
-    /// Replaces the words of the filter; an empty text shows all parameters. Other words scroll to the top.
-    void setFilter(QString const& words);
-    /// Whether the parameters' texts are shown beside the editors.
-    bool rawValuesShown() const;
-    /// Shows or hides the parameters' texts.
-    void setRawValuesShown(bool shown);
+    void setFilter(QString const& words); ///< empty: shows all; other words than before scroll to the top
+    bool rawValuesShown() const;          ///< whether the parameters' texts are shown beside the editors
+    void setRawValuesShown(bool shown);   ///< shows or hides them
 
     /// A command as an action with its shortcut, for menus and tool bars; it is made when it is first asked for and
     /// belongs to the panel. Reset, Copy, Paste and SetAsDefault act on the row with the focus, ResetAll on all rows.
     /// The shortcuts work while the focus is in the panel.
     QAction* action(Command command);
-    /// How undo texts name parameters; an empty function: by their own names.
-    void setNaming(ParameterNaming naming);
+    void setNaming(ParameterNaming naming); ///< how undo texts name parameters; empty: by their own names
 
-    /// Writes a typed text that waits for its field to be left, and ends the gesture that goes on: before saving.
-    void commitPendingEdit();
-    /// Deletes all editors, before a plug-in is unloaded; openEditors() makes them again.
-    void closeEditors();
-    /// Makes the editors that closeEditors() deleted.
-    void openEditors();
-    /// Shows the current pool's values after another pool was chosen, and filters by them. Scroll position and focus
-    /// stay.
-    void showPool();
-    /// The scroll area with the rows: to find, show and focus one.
-    RowArea* rowArea() const;
+    void commitPendingEdit(); ///< before saving: writes a typed text and ends the gesture that goes on
+    void closeEditors();      ///< deletes all editors, before a plug-in is unloaded
+    void openEditors();       ///< makes the editors that closeEditors() deleted
+    void showPool();          ///< shows and filters by another pool that was chosen; scroll position and focus stay
+    RowArea* rowArea() const; ///< the scroll area with the rows: to find, show and focus one
 
 signals:
-    /// The filter has other words.
-    void filterChanged(QString const& words);
-    /// The parameters' texts were shown or hidden.
-    void rawValuesShownChanged(bool shown);
-    /// An editor was made for a parameter, when its row was first shown or editors were opened again.
-    void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor);
-    /// A command did nothing, for this reason: a sentence.
-    void refused(QString const& reason);
+    void filterChanged(QString const& words);                                ///< the filter has other words
+    void rawValuesShownChanged(bool shown);                                  ///< the texts were shown or hidden
+    void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor); ///< an editor was made
+    void refused(QString const& reason); ///< a command did nothing, for this reason: a sentence
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -292,8 +292,10 @@ TEST_F(TaloPanel, LaysThePanelOutFromRightToLeft) {
         return qGray(image.pixel(left ? 40 : image.width() - 40, image.height() / 2));
     };
     EXPECT_GT(brightness({}, true), brightness({}, false));
-    QStringList const mirrored{QStringLiteral("--right-to-left")};
+    QStringList mirrored{QStringLiteral("--right-to-left")};
     EXPECT_LT(brightness(mirrored, true), brightness(mirrored, false));
+    mirrored << QStringLiteral("--language") << QStringLiteral("de");
+    EXPECT_LT(brightness(mirrored, true), brightness(mirrored, false)) << "with translations, too";
 }
 
 TEST_F(TaloPanel, ACallThatEndsByItselfLeavesTheSessionAlone) {
