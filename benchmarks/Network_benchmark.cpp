@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <panel/window/ObjectView.hpp>
+#include <parameters/PoolSource.hpp>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QGroupBox>

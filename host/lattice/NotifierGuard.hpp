@@ -24,11 +24,12 @@ public:
     /// A change that a list notifies of.
     struct Report {
         ValueNotifierList const* list; ///< compared, never used
-        ValuePtr value;
-        VContext context;
-        ValueMap const* properties; ///< null if the value changed
+        ValuePtr value;                ///< the live value
+        VContext context;              ///< holds the pool of the change
+        ValueMap const* properties;    ///< null if the value changed
     };
 
+    /// For a notifier, which calls close() before it is destroyed.
     explicit NotifierGuard(ValueNotifier* notifier);
     ~NotifierGuard();
     NotifierGuard(NotifierGuard const&) = delete;

@@ -13,8 +13,11 @@ public:
     /// From now on the button is seen so. Owned by Qt, as long as the button lives. REQUIRES: `text` is not null.
     static void attach(QPushButton& button, FileButtonText* text);
 
+    /// The chosen name as the value; the rest is that of a button.
     QString text(QAccessible::Text kind) const override;
+    /// A press.
     QStringList actionNames() const override;
+    /// Presses the button.
     void doAction(QString const& name) override;
 
 private:
