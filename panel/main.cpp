@@ -79,7 +79,8 @@ int refuseCommandLine(QStringList const& arguments, char* program) {
 void passOnMessages(QtMsgType, QMessageLogContext const&, QString const& message) {
     if (message.startsWith(QLatin1String("This plugin does not support ")))
         return;
-    for (auto const& line : message.split(QLatin1Char('\n'))) {
+    auto const lines = message.split(QLatin1Char('\n'));
+    for (auto const& line : lines) {
         auto const text = QString::fromStdString(Tessera::terminalText(line.toStdString()));
         std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
     }
@@ -185,7 +186,8 @@ bool loadPlugins(Panel::Plugins& plugins, Panel::CommandLine const& commandLine,
     bool loaded = true;
     for (auto const& file : areAskedFor ? commandLine.plugins : QStringList{Panel::defaultPluginFile()})
         loaded = plugins.load(file, &error) && loaded;
-    for (auto const& reason : error.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+    auto const reasons = error.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (auto const& reason : reasons)
         say(reason);
     return loaded || !areAskedFor;
 }

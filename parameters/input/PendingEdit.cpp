@@ -28,7 +28,7 @@ void commitPendingEdits() {
     for (auto* const window : all)
         if (GestureTarget::around(window->focusWidget()))
             windows << window;
-    for (auto const& window : windows)
+    for (auto const& window : qAsConst(windows))
         if (window)
             commitPendingEdit(*window);
 }
