@@ -58,29 +58,22 @@ ReadValues readValues(JsonNode const& node, Kolt::VParameter const& parameter,
     return all;
 }
 
-/// Stores them and notifies everybody of what changed.
-void applyValues(Kolt::VParameter& parameter, ReadValues const& values, std::vector<Kolt::PoolPtr> const& pools) {
+/// Stores them and notifies everybody of what changed. False if a value cannot be stored.
+bool applyValues(Kolt::VParameter& parameter, ReadValues const& values, std::vector<Kolt::PoolPtr> const& pools) {
+    if (!parameter.keepsValuesPerPool())
+        return Kolt::applyValue(parameter, nullptr, {values.own, false});
     auto const& own = parameter.ownValue();
     bool const isOther = !own->equals(*values.own);
-    if (isOther)
-        own->assign(*values.own);
-    if (!parameter.keepsValuesPerPool()) {
-        if (isOther) {
-            Kolt::markValueChanged(parameter, nullptr);
-            parameter.notifyValueChange(own, nullptr, std::string(), nullptr, nullptr, nullptr);
-        }
-        return;
-    }
+    bool isStored = !isOther || own->assign(*values.own);
     for (std::size_t index = 0; index < pools.size(); ++index) {
         auto const& pool = pools[index];
         auto const& value = values.inPools[index];
-        if (!value)
-            parameter.removeLocalValue(pool);
-        else if (auto const local = parameter.getLocalValue(pool, std::string(), true); !local->assign(*value))
-            parameter.setLocalValue(pool, value);
-        Kolt::markValueChanged(parameter, pool);
-        parameter.notifyValueChange(parameter.effectiveValue(pool), pool, std::string(), nullptr, nullptr, nullptr);
+        bool const inherits = !value && !parameter.getLocalValue(pool, std::string(), false);
+        isStored = Kolt::applyValue(parameter, pool, {value ? value : own, !value}) && isStored;
+        if (isOther && inherits)
+            parameter.notifyValueChange(own, pool, std::string(), nullptr, nullptr, nullptr);
     }
+    return isStored;
 }
 
 } // namespace
@@ -128,7 +121,8 @@ QStringList Network::takeValues(QByteArray const& json) {
             try {
                 if (!parameter)
                     node.refuse("a parameter of the network");
-                applyValues(*parameter, readValues(node, *parameter, pools_), pools_);
+                if (!applyValues(*parameter, readValues(node, *parameter, pools_), pools_))
+                    node.refuse("values that the parameter can hold");
             } catch (FormatError const& error) {
                 refused << node.key() + ": " + error.text;
             }

@@ -123,7 +123,7 @@ QString prepare(Talo::Network& network, Panel::CommandLine const& commandLine) {
     return {};
 }
 
-// Null unless a panel with unsaved values could end.
+// Keeps the unsaved values of the shown panel; null while none is shown.
 Panel::Recovery* currentRecovery = nullptr;
 
 /// Qt ends the process by exit() when the display is lost. What is on the stack is not destroyed then, so what the rest

@@ -6,7 +6,7 @@
 
 namespace Kolt {
 
-/// The text as labels may show it, whoever wrote it. A plain text, UTF-8, is returned as it is. Of a rich text, which
+/// The text without what a label must not show. A plain text, UTF-8, is returned as it is. Of a rich text, which
 /// is what Qt takes for one, remain the tags for characters, paragraphs, headings, lists and links, with the attributes
 /// "href", "color", "align" and "size" alone. So nothing loads a picture, a style or any other resource. Tables, whose
 /// layout takes long, become lines. At most MostNestedTags tags remain inside each other, and at most LongestRichText

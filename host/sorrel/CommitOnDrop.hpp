@@ -7,10 +7,9 @@
 
 namespace Kolt {
 
-/// Has a text field commit a text that is dropped on it at once. Qt shows such a text, but many a field would not
-/// commit it before it is left, and a field without the focus never is. A combo box that does not take the text over
-/// shows what its parameter holds. Belongs to the field; does not belong to the library's interface. User-interface
-/// thread.
+/// Commits a text as soon as it is dropped on a field. Qt shows such a text, but fields commit when they lose the
+/// focus, and the field of a drop may never get it. A combo box that refuses the text shows its parameter's value
+/// again. Belongs to the field; does not belong to the library's interface. User-interface thread.
 class CommitOnDrop : public QObject {
     Q_OBJECT
 

@@ -69,6 +69,14 @@ void Document::checkModified() {
     emit modifiedChanged(isModified());
 }
 
+QString Document::path() const {
+    if (!network_ || network_->file().isEmpty())
+        return {};
+    QFileInfo const file(network_->file());
+    auto const canonical = file.canonicalFilePath();
+    return canonical.isEmpty() ? file.absoluteFilePath() : canonical;
+}
+
 QString Document::title() const {
     if (!network_)
         return {};

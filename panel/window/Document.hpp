@@ -38,6 +38,8 @@ public:
     void checkModifiedLater();
     void checkModified();
 
+    /// The network's file, absolute and without links, so that a file has one name; empty without a file.
+    QString path() const;
     /// The network's title or its file name; empty without a network.
     QString title() const;
     /// Records the edits of the open network; cleared when another one is opened.

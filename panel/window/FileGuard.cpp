@@ -11,11 +11,17 @@ namespace {
 // Other programs write a file in several steps; the watcher is asked after the last one, in milliseconds.
 constexpr int settlingTime = 200;
 
+// No network is that large, in bytes. Its size says enough, and to read it would take long.
+constexpr qint64 largestFile = 64 << 20;
+
 /// Identifies what a file holds; empty for what is no file, which is never opened: a pipe would not answer.
 QByteArray fingerprint(QString const& name) {
+    QFileInfo const info(name);
     QFile file(name);
-    if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
         return {};
+    if (info.size() > largestFile)
+        return QByteArray::number(info.size());
     QCryptographicHash hash(QCryptographicHash::Sha256);
     return hash.addData(&file) ? hash.result() : QByteArray();
 }

@@ -30,12 +30,6 @@ Recovery::Found readFile(QString const& name, QString const& networkFile) {
             QJsonDocument(values).toJson()};
 }
 
-QString absoluteFile(QString const& file) {
-    QFileInfo const info(file);
-    auto const canonical = info.canonicalFilePath();
-    return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
-}
-
 } // namespace
 
 QString Recovery::userFolder() {
@@ -52,7 +46,7 @@ Recovery::Recovery(Document& document, QString folder, QObject* parent)
     connect(&document, &Document::modifiedChanged, this, &Recovery::showModified);
     connect(&document, &Document::opened, this, &Recovery::followFile);
     connect(&document, &Document::saved, this, [this] {
-        if (absoluteFile(document_.network()->file()) != networkFile_)
+        if (document_.path() != networkFile_)
             followFile();
     });
     followFile();
@@ -68,8 +62,7 @@ void Recovery::followFile() {
     found_ = {};
     isOpenElsewhere_ = hasFailed_ = false;
     place_ = -1;
-    auto const* const network = document_.network();
-    networkFile_ = network && !network->file().isEmpty() ? absoluteFile(network->file()) : QString();
+    networkFile_ = document_.path();
     if (!networkFile_.isEmpty())
         takePlace();
     emit fileChanged();

@@ -6,7 +6,6 @@
 #include <QCryptographicHash>
 #include <QDockWidget>
 #include <QEvent>
-#include <QFileInfo>
 #include <QSplitter>
 
 namespace Panel {
@@ -81,8 +80,9 @@ void Session::restoreNetwork() {
         return;
     auto docks = unsealed(settings_.value(QStringLiteral("window/docks")));
     auto const known = networks();
-    auto const found = std::find_if(known.begin(), known.end(),
-                                    [file = networkFile()](auto const& network) { return network.file == file; });
+    auto const found =
+        std::find_if(known.begin(), known.end(),
+                     [file = window_->document().path()](auto const& network) { return network.file == file; });
     if (found != known.end()) {
         window_->choosePool(found->pool);
         auto const first = shownObject(window_->currentView());
@@ -111,7 +111,7 @@ void Session::keep() {
         settings_.setValue(QStringLiteral("window/columns"), sealed(splitter->saveState()));
     if (window_->network()) {
         auto const pool = window_->pools().pool();
-        keepNetwork({networkFile(), pool ? QString::fromStdString(pool->Name()) : QString(),
+        keepNetwork({window_->document().path(), pool ? QString::fromStdString(pool->Name()) : QString(),
                      shownObject(window_->currentView()), views, docks});
     }
     settings_.sync();
@@ -151,12 +151,6 @@ std::vector<Session::NetworkRecord> Session::networks() {
     }
     settings_.endArray();
     return all;
-}
-
-QString Session::networkFile() const {
-    QFileInfo const file(window_->network()->file());
-    auto const canonical = file.canonicalFilePath();
-    return canonical.isEmpty() ? file.absoluteFilePath() : canonical;
 }
 
 QStringList Session::nameViewDocks() const {

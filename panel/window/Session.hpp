@@ -57,8 +57,6 @@ private:
     void keepNetwork(NetworkRecord const& network);
     /// The networks that were last open, the latest first.
     std::vector<NetworkRecord> networks();
-    /// The file of the open network, by whatever way it was named.
-    QString networkFile() const;
     /// Names the docks with further views, by which the window knows them again, and tells which objects they show.
     QStringList nameViewDocks() const;
 

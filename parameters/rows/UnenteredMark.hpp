@@ -7,8 +7,8 @@
 namespace Talo {
 
 /// Marks a text field with an input mask that was left half filled, so that its text was not taken over: a sign in the
-/// field, and a tool tip that says what is held. The mark goes with the next text that is held or complete. Owned by
-/// the field. User-interface thread.
+/// field, and a tool tip with the parameter's value. The mark disappears when the text is complete, or equals the value
+/// again. Owned by the field. User-interface thread.
 class UnenteredMark : public QObject {
     Q_OBJECT
 

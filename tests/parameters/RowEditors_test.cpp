@@ -78,7 +78,7 @@ protected:
     }
 
     void TearDown() override {
-        // An enumeration that is told of no choice says so.
+        // The enumeration prints this when it gets a value without a choice.
         EXPECT_THAT(takeOutput(), testing::Each("Qt ENUM: INVALID SELECTION"));
         PluginTest::TearDown();
     }

@@ -38,6 +38,14 @@ protected:
         return texts;
     }
 
+    /// The first step that is recorded from now on moves the control once more.
+    void moveAtNextStep(Kolt::Editor const& editor, int value) {
+        historyConnection = Kolt::UndoHistory::theHistory().addListener([editor, value, moved = false]() mutable {
+            if (!std::exchange(moved, true))
+                callSlot(editor, value);
+        });
+    }
+
     void TearDown() override {
         historyConnection.disconnect();
         NumberEditorTest::TearDown();

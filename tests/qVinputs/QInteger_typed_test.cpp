@@ -44,11 +44,7 @@ TEST_F(QIntegerTest, AReentryWhileATypedNumberIsRecordedIsAMoveOfItsOwn) {
     auto const parameter = bounded(20, 0, 100);
     auto const editor = open(parameter);
     record(parameter);
-    bool reentered = false;
-    historyConnection = Kolt::UndoHistory::theHistory().addListener([&] {
-        if (!std::exchange(reentered, true))
-            callSlot(editor, 44);
-    });
+    moveAtNextStep(editor, 44);
     type(editor, "500");
     EXPECT_EQ(recorder.values, (std::vector<std::string>{"44", "500", "500"}));
     EXPECT_EQ(parameter->ownValue()->Text(), "500");
