@@ -52,7 +52,9 @@ bool VValueTrait<double>::setValueFromText(double& value, std::string const& tex
 }
 
 bool VValueTrait<double>::Equal(double left, double right) {
-    return left == right || (std::isnan(left) && std::isnan(right));
+    if (left == right)
+        return std::signbit(left) == std::signbit(right);
+    return std::isnan(left) && std::isnan(right);
 }
 
 bool VValueTrait<std::string>::setValueFromText(std::string& value, std::string const& text) {

@@ -64,7 +64,7 @@ struct TALO_EXPORT VValueTrait<double> : ValueTraitDefaults<double> {
     static std::string Text(double value);
     /// Reads a value from text; false, and the value unchanged, if the text is none.
     static bool setValueFromText(double& value, std::string const& text);
-    /// Compares the numbers; two that are not a number count as equal.
+    /// True if the texts are equal: two that are not a number are, zero and minus zero are not.
     static bool Equal(double left, double right);
 };
 

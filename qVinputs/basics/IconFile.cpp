@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QPixmapCache>
+#include <QXmlStreamReader>
 #include <tessera/FileContent.hpp>
 
 namespace Kolt {
@@ -19,11 +20,34 @@ constexpr std::uintmax_t largestFile = 16 << 20;
 constexpr int largestPicture = 4096;
 constexpr int largestIcon = 256;
 
+/// Whether it is the XML of a drawing that names another file, which a reader of drawings would open.
+bool namesOtherFiles(QByteArray const& bytes) {
+    QXmlStreamReader drawing(bytes);
+    while (!drawing.atEnd()) {
+        drawing.readNext();
+        if (drawing.isProcessingInstruction())
+            return true;
+        for (auto const& attribute : drawing.attributes()) {
+            auto const value = attribute.value();
+            if (attribute.name() == QLatin1String("href") && !value.startsWith(QLatin1Char('#')) &&
+                !value.startsWith(QLatin1String("data:")))
+                return true;
+        }
+    }
+    return false;
+}
+
+bool isCompressedDrawing(QByteArray const& bytes) {
+    return bytes.startsWith("\x1f\x8b");
+}
+
 QPixmap readPicture(QString const& file) {
     auto const content = Tessera::FileContent::read(QFile::encodeName(file).toStdString(), largestFile);
     if (!content)
         return {};
     auto bytes = QByteArray::fromStdString(content.bytes());
+    if (namesOtherFiles(bytes) || isCompressedDrawing(bytes))
+        return {};
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
     auto const size = reader.size();

@@ -68,6 +68,19 @@ TEST_F(NumberFieldsTest, ATypedNumberIsEnteredByTab) {
     EXPECT_EQ(steps().size(), 2U);
 }
 
+TEST_F(NumberFieldsTest, AMinusInFrontOfZeroIsAnEditThatCanBeUndone) {
+    type("double", "0");
+    QTest::keyClick(field("double"), Qt::Key_Return);
+    type("double", "-0");
+    QTest::keyClick(field("double"), Qt::Key_Return);
+    EXPECT_EQ(held("double"), "-0");
+    EXPECT_EQ(steps().size(), 2U);
+    window->undo();
+    EXPECT_EQ(held("double"), "0");
+    window->undo();
+    EXPECT_EQ(held("double"), "0.5");
+}
+
 TEST_F(NumberFieldsTest, ATypedNumberIsEnteredByAClickElsewhere) {
     type("int", "33");
     click(choice("Green"));

@@ -17,6 +17,12 @@ constexpr int mostViews = 3;
 // In milliseconds: for what usually comes at once, and is no failure if it does not.
 constexpr int soon = 1000;
 
+constexpr int attemptsToActivate = 10;
+
+std::string nameOf(QObject const* object) {
+    return object ? object->metaObject()->className() + std::string(" ") + qPrintable(object->objectName()) : "none";
+}
+
 QStringList namesIn(QString const& folder) {
     QStringList names;
     for (auto const* const name : {"walk.json", "other.json", "picture.png", "document.pdf", "colours.gpl", "no/where"})
@@ -315,6 +321,29 @@ void RandomWalk::resize() {
     window_.resize(500 + static_cast<int>(below(600)), 400 + static_cast<int>(below(500)));
 }
 
+bool RandomWalk::bringToFront() {
+    window_.show();
+    for (int attempt = 0; attempt < attemptsToActivate; ++attempt) {
+        // A window manager does not heed a wish for a window that is not there yet.
+        bool const isActive = waitUntil(
+            [this] {
+                if (!window_.isActiveWindow())
+                    window_.activateWindow();
+                return window_.isActiveWindow();
+            },
+            2 * soon);
+        if (isActive)
+            return true;
+        // Where a popup or dialog has just gone, Qt asks the window system without the window manager, with the time of
+        // the last event of a person. There is none in a walk, so the wish may be too old. A window that comes up anew
+        // is activated by the window manager.
+        window_.hide();
+        QCoreApplication::processEvents();
+        window_.show();
+    }
+    return false;
+}
+
 std::string RandomWalk::settle() {
     closer_.beginEvent();
     if (button_ != Qt::NoButton) {
@@ -332,15 +361,9 @@ std::string RandomWalk::settle() {
         QString error;
         EXPECT_TRUE(plugins_.reload(&error)) << qPrintable(error);
     }
-    window_.show();
-    // A window manager does not heed a wish for a window that is not there yet.
-    bool const isActive = waitUntil([this] {
-        if (!window_.isActiveWindow())
-            window_.activateWindow();
-        return window_.isActiveWindow();
-    });
-    if (!isActive)
-        return "the window does not become active";
+    if (!bringToFront())
+        return "the window does not become active; shown: " + std::to_string(int{window_.isVisible()}) +
+               ", focus: " + nameOf(QGuiApplication::focusWindow());
     window_.objectList()->setFocus();
     if (!window_.objectList()->hasFocus())
         return "the list of objects does not get the focus";

@@ -58,6 +58,8 @@ private:
     void showDock();
     void closeView();
     void resize();
+    /// Shows the window and makes it active; false if the window system does not.
+    bool bringToFront();
     void followNetwork();
     std::vector<std::string> differences(QJsonObject const& expected, char const* when) const;
     QJsonObject values() const;

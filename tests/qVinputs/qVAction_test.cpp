@@ -170,6 +170,29 @@ TEST_F(qVActionTest, ALargePictureIsReadInTheSizeOfAnIcon) {
     EXPECT_EQ(icon.pixmap(256, 128).toImage().pixelColor(5, 5), QColor(Qt::green));
 }
 
+TEST_F(qVActionTest, ADrawingIsAnIconUnlessItNamesOtherFiles) {
+    auto const open = [this](char const* name, QByteArray const& content, QByteArray const& head = {}) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(head + R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" )" +
+                   R"(width="16" height="16">)" + content + "</svg>");
+        file.close();
+        auto const parameter = actionParameter();
+        setProperty(parameter, "icon", file.fileName().toStdString());
+        return PluginTest::open(parameter);
+    };
+    EXPECT_EQ(iconColour(open("plain.svg", R"(<rect width="16" height="16" fill="#0f0"/>)")), QColor(Qt::green));
+    EXPECT_EQ(iconColour(open("within.svg", R"(<defs><rect id="a" width="16" height="16" fill="#00f"/></defs>)"
+                                            R"(<use xlink:href="#a"/>)")),
+              QColor(Qt::blue));
+    auto const other = "\"" + QByteArray::fromStdString(pictureFile("other.png", Qt::red)) + "\"";
+    EXPECT_TRUE(
+        button(open("image.svg", R"(<image width="16" height="16" xlink:href=)" + other + "/>")).icon().isNull());
+    EXPECT_TRUE(button(open("style.svg", R"(<rect width="16" height="16"/>)", "<?xml-stylesheet href=" + other + "?>"))
+                    .icon()
+                    .isNull());
+}
+
 TEST_F(qVActionTest, AHugePictureInFewBytesTakesNoMemory) {
     // A bitmap of one bit for each point: as a picture of 32 bits it would take 1.6 GB.
     QImage huge(20'000, 20'000, QImage::Format_Mono);

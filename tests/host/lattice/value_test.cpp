@@ -74,7 +74,12 @@ TEST_F(Values, WhatIsNoNumberIsCalledThatWhateverItsSign) {
     EXPECT_TRUE(std::isnan(readFrom("nan", 1.0)));
     EXPECT_TRUE(VValueTrait<double>::Equal(none, -none));
     EXPECT_FALSE(VValueTrait<double>::Equal(none, 0.0));
-    EXPECT_TRUE(VValueTrait<double>::Equal(0.0, -0.0));
+}
+
+TEST_F(Values, ZeroAndMinusZeroDifferAsTheirTextsDo) {
+    EXPECT_NE(VValueTrait<double>::Text(0.0), VValueTrait<double>::Text(-0.0));
+    EXPECT_FALSE(VValueTrait<double>::Equal(0.0, -0.0));
+    EXPECT_TRUE(VValueTrait<double>::Equal(-0.0, -0.0));
 }
 
 TEST_F(Values, OfTextAreTheTextItself) {
