@@ -1,6 +1,7 @@
 #include <network/NetworkReader.hpp>
 
 #include <algorithm>
+#include <network/Condition.hpp>
 #include <network/PropertyFormat.hpp>
 #include <network/ValueFormat.hpp>
 
@@ -90,6 +91,21 @@ void NetworkReader::readPool(JsonNode const& node) {
     network_->pools_.emplace_back(new Kolt::ValuePool(name.toStdString()));
 }
 
+namespace {
+
+/// Calls a function whose errors are about a parameter, and puts "object.parameter" before them.
+template <typename Function>
+void namingParameter(Kolt::VObject const& object, QString const& name, Function const& function) {
+    try {
+        function();
+    } catch (FormatError& error) {
+        error.text.prepend(QString::fromStdString(object.Name()) + '.' + name + ": ");
+        throw;
+    }
+}
+
+} // namespace
+
 void NetworkReader::readObject(JsonNode const& node) {
     node.members("an object of the network", {"kind", "name", "parameters", "slots"});
     auto const& nameNode = node.required("name", "an object of the network");
@@ -107,8 +123,29 @@ void NetworkReader::readObject(JsonNode const& node) {
 
     takenNames_.clear();
     if (auto const* const parameters = node.find("parameters"))
-        for (auto const& parameter : parameters->elements("the parameters"))
-            readParameter(parameter, object);
+        readParameters(*parameters, object);
+}
+
+void NetworkReader::readParameters(JsonNode const& node, Kolt::ObjectPtr const& object) {
+    auto const& nodes = node.elements("the parameters");
+    // The factory may have given the object some.
+    auto const first = object->parameters().size();
+    for (auto const& each : nodes)
+        readParameter(each, object);
+    // A condition may be on a parameter that comes later.
+    for (std::size_t index = 0; index < nodes.size(); ++index)
+        checkConditions(nodes[index], *object, *object->parameters()[first + index]);
+}
+
+void NetworkReader::checkConditions(JsonNode const& node, Kolt::VObject const& object,
+                                    Kolt::VParameter const& parameter) {
+    for (auto const* const property : Condition::Properties) {
+        auto const fault = Condition::faultOf(object, parameter, property);
+        if (!fault.isEmpty())
+            namingParameter(object, QString::fromStdString(parameter.Name()), [&] {
+                node.required("properties", "a parameter").required(property, "the properties").refuse(fault);
+            });
+    }
 }
 
 void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& object) {
@@ -117,12 +154,7 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
     if (takenNames_.contains(name))
         nameNode.refuse("a parameter name that is not taken in the object", quoted(name) + " again");
     takenNames_.insert(name);
-    try {
-        readParameter(node, object, name);
-    } catch (FormatError& error) {
-        error.text.prepend(QString::fromStdString(object->Name()) + '.' + name + ": ");
-        throw;
-    }
+    namingParameter(*object, name, [&] { readParameter(node, object, name); });
 }
 
 void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& object, QString const& name) {

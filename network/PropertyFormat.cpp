@@ -17,8 +17,11 @@ PropertyFormat::Kind PropertyFormat::kindOf(QString const& name) const {
         return typeKey_ == "double" ? Kind::Real : Kind::Integer;
     if (QStringList{"precision", "wrap"}.contains(name))
         return Kind::Integer;
-    if (QStringList{"tooltip", "inputmask", "Extension"}.contains(name))
+    if (QStringList{"tooltip", "inputmask", "Extension", "label", "help", "unit", "group", "visibleWhen", "enabledWhen"}
+            .contains(name))
         return Kind::Text;
+    if (QStringList{"advanced", "readOnly"}.contains(name))
+        return Kind::Truth;
     return name == "icon" ? Kind::Icon : Kind::Free;
 }
 
@@ -28,6 +31,8 @@ Kolt::ValuePtr PropertyFormat::readProperty(JsonNode const& node) const {
 
     if (kind == Kind::Text)
         return Kolt::makeValue(node.text(what).toStdString());
+    if (kind == Kind::Truth)
+        return Kolt::makeValue(node.truth(what));
     if (kind == Kind::Icon) {
         auto const path = node.text(what);
         bool const relative = !path.isEmpty() && QDir::isRelativePath(path);

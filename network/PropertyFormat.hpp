@@ -10,8 +10,9 @@ namespace Talo {
 /// How a network file writes the properties of parameters. JSON does not distinguish 1 from 1.0, so the name decides: a
 /// number is a double for "min", "max" and "increment" of a parameter of type double, and an int everywhere else;
 /// {"int": 1} and {"double": 1} override this. Texts and truth values are written as they are.
-/// "tooltip", "icon", "inputmask" and "Extension" must be texts, "min", "max", "increment", "precision" and "wrap"
-/// numbers. A property with another name may be any of these.
+/// "tooltip", "icon", "inputmask", "Extension", "label", "help", "unit", "group", "visibleWhen" and "enabledWhen" must
+/// be texts, "min", "max", "increment", "precision" and "wrap" numbers, "advanced" and "readOnly" truth values. A
+/// property with another name may be any of these.
 ///
 /// The path of "icon" is relative to the folder of the network file; editors get it with that folder.
 class TALO_EXPORT PropertyFormat {
@@ -28,7 +29,7 @@ public:
     Kolt::ValuePtr moved(QString const& name, Kolt::ValuePtr const& value, QString const& targetFolder) const;
 
 private:
-    enum class Kind { Integer, Real, Text, Icon, Free };
+    enum class Kind { Integer, Real, Text, Truth, Icon, Free };
     Kind kindOf(QString const& name) const;
     /// Whether the property is a path that the file writes relative to its folder.
     bool isRelative(QString const& name, Kolt::ValuePtr const& value) const;

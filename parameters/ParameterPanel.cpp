@@ -1,5 +1,6 @@
 #include <parameters/ParameterPanel.hpp>
 
+#include <algorithm>
 #include <lattice/UndoHistory.hpp>
 #include <parameters/commands/ParameterCommands.hpp>
 #include <parameters/commands/ParameterFilter.hpp>
@@ -7,7 +8,9 @@
 #include <parameters/commands/UndoActions.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/input/PendingEdit.hpp>
+#include <parameters/rows/ConditionWatcher.hpp>
 #include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/RowArea.hpp>
 #include <QScrollBar>
 #include <QTimer>
@@ -32,7 +35,8 @@ public:
         : object(shown),
           pools(poolSource),
           rows(new RowArea(nameOf(shown), shown ? shown->parameters() : std::vector<Kolt::ParameterPtr>(), poolSource)),
-          emptyNote(new MutedLabel(tr("No parameter of this object is found by the filter."), &panel)) {
+          conditions(shown ? shown->parameters() : std::vector<Kolt::ParameterPtr>()),
+          emptyNote(new MutedLabel(QString(), &panel)) {
         auto* const layout = new QVBoxLayout(&panel);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->setSpacing(0);
@@ -44,18 +48,36 @@ public:
         emptyNote->hide();
         checkTimer.setInterval(checkInterval);
         QObject::connect(&checkTimer, &QTimer::timeout, rows, &RowArea::checkParameters);
+        QObject::connect(&conditions, &ConditionWatcher::changed, &panel, [this] { applyConditions(); });
+        hasAdvanced = shown && std::any_of(shown->parameters().begin(), shown->parameters().end(),
+                                           [](auto const& parameter) { return isAdvanced(*parameter); });
+        applyConditions();
     }
 
     void applyFilter() {
         auto const living = object.strong();
         ParameterFilter const words(filter);
-        if (!living || words.isEmpty())
+        auto const pool = pools.pool();
+        auto const isWanted = [&](Kolt::VParameter const& parameter) {
+            return words.isEmpty() ? advancedShown || !isAdvanced(parameter) : words.finds(*living, parameter, pool);
+        };
+        if (!living || (words.isEmpty() && (advancedShown || !hasAdvanced) && !conditions.hasConditions()))
             rows->setFilter({});
         else
-            rows->setFilter([&](auto const& parameter) { return words.finds(*living, parameter, pools.pool()); });
-        bool const foundNone = !words.isEmpty() && rows->shownCount() == 0;
+            rows->setFilter(
+                [&](auto const& parameter) { return isWanted(parameter) && conditions.isVisible(parameter, pool); });
+        bool const foundNone = living && !living->parameters().empty() && rows->shownCount() == 0;
         rows->setVisible(!foundNone);
+        emptyNote->setText(words.isEmpty() ? tr("All parameters of this object are advanced, or of no use now.")
+                                           : tr("No parameter of this object is found by the filter."));
         emptyNote->setVisible(foundNone);
+    }
+
+    void applyConditions() {
+        applyFilter();
+        if (conditions.hasConditions())
+            rows->setEnabledWhen(
+                [this](auto const& parameter) { return conditions.isEnabled(parameter, pools.pool()); });
     }
 
     Kolt::UndoHistory& history() const {
@@ -74,7 +96,7 @@ public:
         auto const parameters = living->parameters();
         auto const source = pools;
         for (auto const& parameter : parameters)
-            if (parameter->defaults())
+            if (parameter->defaults() && isChangeable(*parameter))
                 (void)resetToDefault(parameter, source.pool());
     }
 
@@ -112,9 +134,12 @@ public:
     PoolSourceRef const pools;
     std::shared_ptr<InputFilter> const inputFilter = InputFilter::shared();
     RowArea* const rows;
+    ConditionWatcher conditions;
     MutedLabel* const emptyNote;
     QTimer checkTimer;
     QString filter;
+    bool hasAdvanced = false;
+    bool advancedShown = false;
     bool rawValuesShown = false;
     ParameterNaming naming;
     // Made on demand: a window with several panels has actions of its own instead.
@@ -151,6 +176,17 @@ void ParameterPanel::setFilter(QString const& words) {
         return;
     d_->rows->verticalScrollBar()->setValue(0);
     emit filterChanged(words);
+}
+
+bool ParameterPanel::advancedShown() const {
+    return d_->advancedShown;
+}
+
+void ParameterPanel::setAdvancedShown(bool shown) {
+    if (std::exchange(d_->advancedShown, shown) == shown)
+        return;
+    d_->applyFilter();
+    emit advancedShownChanged(shown);
 }
 
 bool ParameterPanel::rawValuesShown() const {
@@ -204,8 +240,7 @@ void ParameterPanel::openEditors() {
 
 void ParameterPanel::showPool() {
     d_->rows->showPool();
-    if (!d_->filter.isEmpty())
-        d_->applyFilter();
+    d_->applyConditions();
 }
 
 RowArea* ParameterPanel::rowArea() const {

@@ -20,6 +20,7 @@ class RowArea;
 class TALO_EXPORT ParameterPanel : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged)
+    Q_PROPERTY(bool advancedShown READ advancedShown WRITE setAdvancedShown NOTIFY advancedShownChanged)
     Q_PROPERTY(bool rawValuesShown READ rawValuesShown WRITE setRawValuesShown NOTIFY rawValuesShownChanged)
 
 public:
@@ -35,10 +36,13 @@ public:
 
     Kolt::ObjectPtr object() const; ///< the shown object; null if it was deleted
 
-    /// The words of the filter: only parameters that contain all of them in "object.parameter" or in their value are
-    /// shown. Values count as they are when the filter or the pool is set: a parameter that is being edited stays.
+    /// The words of the filter: only parameters that contain all of them in "object.parameter", label, help or value
+    /// are shown, advanced ones as well. Values count as they are when the filter or the pool is set: a parameter that
+    /// is being edited stays.
     QString filter() const;
     void setFilter(QString const& words); ///< empty: shows all; other words than before scroll to the top
+    bool advancedShown() const;           ///< whether parameters with the property "advanced" are shown; not at first
+    void setAdvancedShown(bool shown);    ///< shows or hides them
     bool rawValuesShown() const;          ///< whether the parameters' texts are shown beside the editors
     void setRawValuesShown(bool shown);   ///< shows or hides them
 
@@ -56,6 +60,7 @@ public:
 
 signals:
     void filterChanged(QString const& words);                                ///< the filter has other words
+    void advancedShownChanged(bool shown);                                   ///< advanced parameters came or went
     void rawValuesShownChanged(bool shown);                                  ///< the texts were shown or hidden
     void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor); ///< an editor was made
     void refused(QString const& reason); ///< a command did nothing, for this reason: a sentence

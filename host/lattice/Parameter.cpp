@@ -11,7 +11,7 @@ namespace Kolt {
 
 namespace {
 
-/// The type that editors expect of a property, as a readable name; empty for names that they do not know.
+/// The type that editors and panels expect of a property, as a readable name; empty for names that they do not know.
 std::string expectedPropertyType(std::string const& declaredType, std::string const& name) {
     auto const isOneOf = [&](std::initializer_list<char const*> names) {
         return std::find(names.begin(), names.end(), name) != names.end();
@@ -21,7 +21,11 @@ std::string expectedPropertyType(std::string const& declaredType, std::string co
         return declaredType;
     if (isNumber && name == "precision")
         return "int";
-    return isOneOf({"tooltip", "icon", "inputmask", "Extension"}) ? "std::string" : std::string();
+    if (isOneOf({"advanced", "readOnly"}))
+        return "bool";
+    bool const isText = isOneOf(
+        {"tooltip", "icon", "inputmask", "Extension", "label", "help", "unit", "group", "visibleWhen", "enabledWhen"});
+    return isText ? "std::string" : std::string();
 }
 
 } // namespace

@@ -98,9 +98,9 @@ public:
     /// The properties; null before the first setProperty().
     ValueMap const* properties() const { return properties_.get(); }
     /// Stores a property under a name (null removes it), then notifies everybody but `source` as notifyValueChange()
-    /// does, with the property map and the value that is effective in `pool`. A property that editors know by its name
-    /// and that is not of the type that they expect ("max" of an int parameter as a double, say) is stored, too, with a
-    /// warning (VActionNotifier::Warning).
+    /// does, with the property map and the value that is effective in `pool`. A property that editors or panels know by
+    /// its name and that is not of the type that they expect ("max" of an int parameter as a double, say) is stored,
+    /// too, with a warning (VActionNotifier::Warning).
     void setProperty(std::string const& name, ValuePtr const& value, Tessera::WeakPtr<ValueNotifier> const& source,
                      ValueNotifierList const* alsoNotify, Tessera::WeakPtr<ValuePool> const& pool);
     /// Whether an editor filled the property in because it was missing, and nobody has set it since: a notifier was the

@@ -87,6 +87,12 @@ public:
     }
     /// The text that editors show under the mouse, UTF-8.
     Parameter toolTip(std::string const& text) const { return property("tooltip", text); }
+    /// What the row is called instead of the parameter's name.
+    Parameter label(std::string const& text) const { return property("label", text); }
+    /// What the parameter does, in sentences.
+    Parameter help(std::string const& text) const { return property("help", text); }
+    /// What is shown behind the editor.
+    Parameter unit(std::string const& text) const { return property("unit", text); }
     /// Any other property that an editor knows; the editor says of which type it must be.
     template <typename U>
     Parameter property(std::string const& name, U const& value) const {

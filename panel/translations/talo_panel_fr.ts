@@ -669,6 +669,14 @@
         <source>Ctrl+R</source>
         <translation>Ctrl+R</translation>
     </message>
+    <message>
+        <source>&amp;Advanced parameters</source>
+        <translation>Paramètres &amp;avancés</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
 </context>
 <context>
     <name>main</name>

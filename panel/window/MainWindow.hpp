@@ -53,6 +53,8 @@ public:
     /// is chosen.
     ObjectView* addView() { return views_->addView(); }
     void setRawValuesShown(bool shown) { viewMenu_->rawValuesAction()->setChecked(shown); }
+    void setAdvancedShown(bool shown) { viewMenu_->advancedAction()->setChecked(shown); }
+    bool advancedShown() const { return viewMenu_->advancedAction()->isChecked(); }
     bool rawValuesShown() const { return viewMenu_->rawValuesAction()->isChecked(); }
     /// Shows the parameters that these words find (ParameterFilter), and the objects that have some.
     void setFilter(QString const& words) { toolBar_->filterField()->setText(words); }

@@ -73,6 +73,7 @@ void Session::restoreWindow() {
     if (auto* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         splitter->restoreState(unsealed(settings_.value(QStringLiteral("window/columns"))));
     window_->setRawValuesShown(settings_.value(QStringLiteral("window/rawValues"), false).toBool());
+    window_->setAdvancedShown(settings_.value(QStringLiteral("window/advanced"), false).toBool());
 }
 
 void Session::restoreNetwork() {
@@ -107,6 +108,7 @@ void Session::keep() {
     settings_.setValue(QStringLiteral("window/geometry"), sealed(window_->saveGeometry()));
     settings_.setValue(QStringLiteral("window/docks"), sealed(docks));
     settings_.setValue(QStringLiteral("window/rawValues"), window_->rawValuesShown());
+    settings_.setValue(QStringLiteral("window/advanced"), window_->advancedShown());
     if (auto const* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         settings_.setValue(QStringLiteral("window/columns"), sealed(splitter->saveState()));
     if (window_->network()) {

@@ -5,15 +5,21 @@
 namespace Panel {
 
 ViewMenu::ViewMenu(ViewStack& views, QList<QAction*> const& parts, QWidget* parent)
-    : QMenu(tr("&View"), parent), rawValues_(new QAction(tr("&Raw values"), this)) {
+    : QMenu(tr("&View"), parent),
+      rawValues_(new QAction(tr("&Raw values"), this)),
+      advanced_(new QAction(tr("&Advanced parameters"), this)) {
     addAction(tr("&New view"), &views, &ViewStack::addView, QKeySequence(tr("Ctrl+N")));
     addSeparator();
     rawValues_->setObjectName(QStringLiteral("rawValues"));
     rawValues_->setCheckable(true);
     rawValues_->setShortcut(tr("Ctrl+R"));
-    addAction(rawValues_);
+    advanced_->setObjectName(QStringLiteral("advanced"));
+    advanced_->setCheckable(true);
+    advanced_->setShortcut(tr("Ctrl+Shift+A"));
+    addActions({advanced_, rawValues_});
     addActions(parts);
     connect(rawValues_, &QAction::toggled, &views, &ViewStack::setRawValuesShown);
+    connect(advanced_, &QAction::toggled, &views, &ViewStack::setAdvancedShown);
 }
 
 ViewMenu::~ViewMenu() = default;

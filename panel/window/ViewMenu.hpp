@@ -17,9 +17,12 @@ public:
 
     /// Shows and hides the values as the host holds them; checkable.
     QAction* rawValuesAction() const { return rawValues_; }
+    /// Shows and hides the parameters that are shown on demand only; checkable.
+    QAction* advancedAction() const { return advanced_; }
 
 private:
     QAction* const rawValues_;
+    QAction* const advanced_;
 };
 
 } // namespace Panel

@@ -58,6 +58,7 @@ ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& ki
     auto* const view = new ObjectView(object, kind, pools_, parent);
     auto* const panel = view->panel();
     panel->setRawValuesShown(rawValuesShown_);
+    panel->setAdvancedShown(advancedShown_);
     panel->setFilter(filter_);
     connect(panel, &Talo::ParameterPanel::editorOpened, this, &ViewStack::editorOpened);
     connect(panel, &Talo::ParameterPanel::refused, this, &ViewStack::refused);
@@ -106,6 +107,12 @@ void ViewStack::setRawValuesShown(bool shown) {
     rawValuesShown_ = shown;
     for (auto* const view : views())
         view->panel()->setRawValuesShown(shown);
+}
+
+void ViewStack::setAdvancedShown(bool shown) {
+    advancedShown_ = shown;
+    for (auto* const view : views())
+        view->panel()->setAdvancedShown(shown);
 }
 
 void ViewStack::showPool() {

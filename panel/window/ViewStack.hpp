@@ -36,6 +36,7 @@ public:
     void setFilter(QString const& words);
     void setRawValuesShown(bool shown);
     bool rawValuesShown() const { return rawValuesShown_; }
+    void setAdvancedShown(bool shown);
     void showPool();
     void showDefaults();
     void closeEditors();
@@ -53,6 +54,7 @@ private:
     QMainWindow& window_;
     QString filter_;
     bool rawValuesShown_ = false;
+    bool advancedShown_ = false;
 };
 
 } // namespace Panel

@@ -1,22 +1,23 @@
 #include <parameters/commands/ParameterFilter.hpp>
 
 #include <algorithm>
+#include <parameters/rows/ParameterDescription.hpp>
 
 namespace Talo {
 
 namespace {
 
-/// Whether a name or a value contains each of the words. The value is read only if the name lacks a word.
-template <typename ValueText>
-bool containAll(QStringList const& words, QString const& name, ValueText const& valueText) {
-    QString value;
+/// Whether a name or other texts contain each of the words. The others are read only if the name lacks a word.
+template <typename OtherTexts>
+bool containAll(QStringList const& words, QString const& name, OtherTexts const& otherTexts) {
+    QString others;
     bool asked = false;
     return std::all_of(words.begin(), words.end(), [&](QString const& word) {
         if (name.contains(word, Qt::CaseInsensitive))
             return true;
         if (!std::exchange(asked, true))
-            value = valueText();
-        return value.contains(word, Qt::CaseInsensitive);
+            others = otherTexts();
+        return others.contains(word, Qt::CaseInsensitive);
     });
 }
 
@@ -29,8 +30,12 @@ bool ParameterFilter::finds(Kolt::VObject const& object, Kolt::VParameter const&
                             Kolt::PoolPtr const& pool) const {
     if (isEmpty())
         return true;
-    return containAll(words_, QString::fromStdString(object.Name() + '.' + parameter.Name()),
-                      [&] { return QString::fromStdString(parameter.effectiveValue(pool)->Text()); });
+    return containAll(words_, QString::fromStdString(object.Name() + '.' + parameter.Name()), [&] {
+        ParameterDescription const description(parameter);
+        return QStringList{description.label, description.help,
+                           QString::fromStdString(parameter.effectiveValue(pool)->Text())}
+            .join(QLatin1Char('\n'));
+    });
 }
 
 bool ParameterFilter::finds(Kolt::VObject const& object, Kolt::PoolPtr const& pool) const {

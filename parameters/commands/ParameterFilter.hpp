@@ -7,8 +7,9 @@
 
 namespace Talo {
 
-/// Words by which parameters are found. A parameter is found when each word is contained in "object.parameter" or
-/// in the text of its value, in capitals or not. Without words every parameter is found. User-interface thread.
+/// Words by which parameters are found. A parameter is found when each word is contained in "object.parameter",
+/// in its label or help, or in the text of its value, in capitals or not. Without words every parameter is found.
+/// User-interface thread.
 class TALO_EXPORT ParameterFilter {
 public:
     /// The words of a text, between blanks.

@@ -3,6 +3,7 @@
 #include <lattice/UndoHistory.hpp>
 #include <parameters/commands/ValueClipboard.hpp>
 #include <parameters/input/InputFilter.hpp>
+#include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/ParameterRow.hpp>
 #include <QClipboard>
 #include <QCoreApplication>
@@ -17,25 +18,29 @@ struct CommandTexts {
     Q_DECLARE_TR_FUNCTIONS(RowCommands)
 };
 
-bool hasDefaults(Kolt::VParameter const& parameter) {
-    return parameter.defaults() != nullptr;
+bool canBeReset(Kolt::VParameter const& parameter) {
+    return parameter.defaults() && isChangeable(parameter);
+}
+
+bool always(Kolt::VParameter const&) {
+    return true;
 }
 
 } // namespace
 
 bool RowCommand::isEnabledFor(Kolt::ParameterPtr const& parameter) const {
-    return parameter && parameter->isEdited() && (!isPossible || isPossible(*parameter));
+    return parameter && parameter->isEdited() && isPossible(*parameter);
 }
 
 std::vector<RowCommand> rowCommands() {
     // Text fields keep the keys that they use themselves.
     return {{"resetValue", CommandTexts::tr("Reset to &default"), QKeySequence(CommandTexts::tr("Ctrl+D")),
-             &ParameterRow::resetToDefault, hasDefaults},
+             &ParameterRow::resetToDefault, canBeReset},
             {"copyValue", CommandTexts::tr("&Copy value"), QKeySequence(CommandTexts::tr("Ctrl+Shift+C")),
-             &ParameterRow::copyValue, nullptr},
+             &ParameterRow::copyValue, always},
             {"pasteValue", CommandTexts::tr("&Paste value"), QKeySequence(CommandTexts::tr("Ctrl+Shift+V")),
-             &ParameterRow::pasteValue, nullptr},
-            {"setAsDefault", CommandTexts::tr("&Set as default"), {}, &ParameterRow::setAsDefault, nullptr}};
+             &ParameterRow::pasteValue, isChangeable},
+            {"setAsDefault", CommandTexts::tr("&Set as default"), {}, &ParameterRow::setAsDefault, always}};
 }
 
 QMenu* makeRowMenu(ParameterRow& row) {
@@ -62,6 +67,10 @@ void copyValue(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
     QGuiApplication::clipboard()->setMimeData(ValueClipboard::copy(parameter, pool).release());
 }
 
+QString unchangeableText(QString const& parameterName) {
+    return CommandTexts::tr("%1 cannot be changed here.").arg(parameterName);
+}
+
 QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool) {
     InputFilter::shared()->gestures().end();
     auto const* const data = QGuiApplication::clipboard()->mimeData();
@@ -72,6 +81,8 @@ QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& poo
     if (!pasted.value)
         return pasted.error;
     auto const name = QString::fromStdString(parameter->Name());
+    if (!isChangeable(*parameter))
+        return unchangeableText(name);
     if (!parameter->history().store(parameter, pool, {pasted.value, false}))
         return CommandTexts::tr("%1 does not take a value in this pool.").arg(name);
     return {};

@@ -19,7 +19,7 @@ struct TALO_EXPORT RowCommand {
     QKeySequence shortcut;
     /// Runs the command for a row.
     void (ParameterRow::*run)();
-    /// Whether the command makes sense for an edited parameter; null: it always does.
+    /// Whether the command makes sense for a parameter of an edited type.
     bool (*isPossible)(Kolt::VParameter const& parameter);
 
     /// Whether the command can be run for a row's parameter, which may be null.
@@ -38,6 +38,9 @@ TALO_EXPORT QMenu* makeRowMenu(ParameterRow& row);
 
 /// Puts what the parameter holds in the pool on the clipboard (ValueClipboard).
 TALO_EXPORT void copyValue(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool);
+
+/// Why a read-only parameter keeps its value, a sentence.
+QString unchangeableText(QString const& parameterName);
 
 /// Makes the value on the clipboard effective in the pool, as an undo step. Returns the reason if it cannot be done, a
 /// sentence, else an empty text.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <parameters/rows/ParameterDescription.hpp>
 
 namespace Talo {
 
@@ -20,16 +21,15 @@ FormPlan::FormPlan(std::vector<Kolt::ParameterPtr> const& parameters) {
     std::map<QString, std::size_t> sections;
     std::map<std::string, std::size_t> heightClasses;
     for (auto const& parameter : parameters) {
-        auto const name = QString::fromStdString(parameter->Name());
-        auto const title = name.left(qMax(0, name.lastIndexOf(QLatin1Char('.'))));
+        ParameterDescription const description(*parameter);
+        auto const& title = description.section;
         auto const [section, isNew] = sections.insert({title, sections.size()});
         if (isNew)
             sectionTitles.push_back(title);
         auto const heightClass = heightClasses.insert({heightClassOf(*parameter), heightClasses.size()}).first->second;
-        rows.push_back({parameter, name, section->second, heightClass});
-        auto const shownName = name.mid(title.isEmpty() ? 0 : title.size() + 1);
-        if (shownName.size() > longestName.size())
-            longestName = shownName;
+        rows.push_back({parameter, description.name, section->second, heightClass});
+        if (description.label.size() > longestLabel.size())
+            longestLabel = description.label;
     }
     std::stable_sort(rows.begin(), rows.end(),
                      [](auto const& left, auto const& right) { return left.section < right.section; });

@@ -7,8 +7,8 @@
 
 namespace Talo {
 
-/// In which order and sections a form shows parameters: in sections by the part of their names before the last dot, in
-/// order of their first parameter. Within a section parameters keep their order.
+/// In which order and sections a form shows parameters: in sections (ParameterDescription), in order of their first
+/// parameter. Within a section parameters keep their order.
 struct TALO_EXPORT FormPlan {
     /// One row of the form.
     struct Row {
@@ -20,12 +20,12 @@ struct TALO_EXPORT FormPlan {
         std::size_t heightClass = 0; ///< equal for parameters whose editors are probably equally high
     };
 
-    /// The titles of the sections; empty for parameters without a dot in their names.
+    /// The titles of the sections; empty for parameters without a section.
     std::vector<QString> sectionTitles;
     /// The rows in the order in which they are shown.
     std::vector<Row> rows;
-    /// The longest name as rows show it, without the section.
-    QString longestName;
+    /// The longest of the labels that rows show.
+    QString longestLabel;
 
     /// The plan for these parameters.
     explicit FormPlan(std::vector<Kolt::ParameterPtr> const& parameters);

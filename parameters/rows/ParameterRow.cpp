@@ -1,11 +1,12 @@
 #include <parameters/rows/ParameterRow.hpp>
 
 #include <lattice/UndoHistory.hpp>
-#include <network/ValueFormat.hpp>
 #include <parameters/commands/RowCommands.hpp>
 #include <parameters/commands/UndoText.hpp>
 #include <parameters/rows/MutedLabel.hpp>
+#include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/RefusedNumber.hpp>
+#include <parameters/rows/RowTexts.hpp>
 #include <parameters/rows/UnenteredMark.hpp>
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -26,9 +27,9 @@ constexpr int highestCentredEditor = 100;
 // In pixels, from the name.
 constexpr int indicatorDistance = 2;
 
-QString lastPart(QString const& name) {
-    return name.mid(name.lastIndexOf(QLatin1Char('.')) + 1);
-}
+// Shares of what a form has to spare: the unit stays behind an editor that cannot grow, and leaves the room to others.
+constexpr int editorShare = 1000;
+constexpr int unitShare = 1;
 
 } // namespace
 
@@ -43,8 +44,6 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
       nameLabel_(new QLabel(names_)),
       layout_(new QHBoxLayout(this)),
       cell_(parameter, pools) {
-    // A label with a buddy takes an ampersand for the mark of a shortcut.
-    nameLabel_->setText(lastPart(parameterName_).replace(QLatin1Char('&'), QLatin1String("&&")));
     nameLabel_->setTextFormat(Qt::PlainText);
     alignWithLayout(*nameLabel_);
 
@@ -59,6 +58,7 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
     // What people do not edit has no default, and workers may change it often.
     if (parameter->isEdited())
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
+    showDescription();
     showNote();
     showDefault();
 }
@@ -93,14 +93,19 @@ void ParameterRow::openEditor() {
         recorder_ = Kolt::EditRecorder::watch(parameter);
     cell_.removeMargins();
     cell_.limitWidth();
-    layout_->insertWidget(1, editor, 1);
+    layout_->insertWidget(1, editor, editorShare);
     editor->show();
     alignEditor();
     nameLabel_->setBuddy(editor);
-    cell_.nameControls(lastPart(parameterName_), isEdited);
+    ParameterDescription const description(*parameter);
+    cell_.nameControls(description.label, isEdited);
+    showUnit(description.unit);
+    editor->setEnabled(isEditorEnabled_ && !description.isReadOnly);
     if (isEdited)
         watchEditor(parameter);
     updateAccessibility();
+    if (rawValue_)
+        rawValue_->setExplanation(creatorExplanation(*parameter, cell_));
     connectNumberFields();
 }
 
@@ -168,8 +173,42 @@ void ParameterRow::alignEditor() {
         alignWithLayout(*label);
 }
 
+void ParameterRow::showDescription() {
+    auto const parameter = parameter_.strong();
+    if (!parameter)
+        return;
+    ParameterDescription const description(*parameter);
+    // A label with a buddy takes an ampersand for the mark of a shortcut.
+    auto label = description.label;
+    nameLabel_->setText(label.replace(QLatin1Char('&'), QLatin1String("&&")));
+    if (!cell_.widget())
+        return;
+    showUnit(description.unit);
+    cell_.widget()->setEnabled(isEditorEnabled_ && !description.isReadOnly);
+    updateAccessibility();
+}
+
+void ParameterRow::showUnit(QString const& unit) {
+    if (unit.isEmpty()) {
+        delete unitLabel_;
+        return;
+    }
+    if (!unitLabel_) {
+        unitLabel_ = new MutedLabel;
+        unitLabel_->setTextFormat(Qt::PlainText);
+        layout_->insertWidget(2, unitLabel_, unitShare);
+    }
+    unitLabel_->setText(unit);
+}
+
+void ParameterRow::setEditorEnabled(bool enabled) {
+    if (std::exchange(isEditorEnabled_, enabled) != enabled)
+        showDescription();
+}
+
 void ParameterRow::closeEditor() {
     afterEditor_.reset();
+    delete unitLabel_;
     cell_.close();
     recorder_.reset();
 }
@@ -189,13 +228,12 @@ void ParameterRow::showPool() {
 }
 
 void ParameterRow::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const* properties) {
-    if (properties)
-        return;
+    auto const show = properties ? &ParameterRow::showDescription : &ParameterRow::showDefault;
     // Without an editor nothing keeps a worker from changing the value.
     if (QThread::currentThread() == thread())
-        showDefault();
+        (this->*show)();
     else
-        QMetaObject::invokeMethod(this, &ParameterRow::showDefault, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
 }
 
 void ParameterRow::showDefault() {
@@ -213,7 +251,7 @@ void ParameterRow::showDefault() {
 }
 
 void ParameterRow::makeIndicator() {
-    indicator_ = new ModifiedIndicator(lastPart(parameterName_), names_);
+    indicator_ = new ModifiedIndicator(ParameterDescription(*parameter_.strong()).label, names_);
     auto* const names = static_cast<QVBoxLayout*>(names_->layout());
     names->removeWidget(nameLabel_);
     auto* const firstLine = new QHBoxLayout;
@@ -233,6 +271,8 @@ void ParameterRow::resetToDefault() {
     auto const parameter = parameter_.strong();
     if (!parameter)
         emit refused(removedText());
+    else if (!isChangeable(*parameter))
+        emit refused(unchangeableText(parameterName_));
     else if (!Talo::resetToDefault(parameter, pool()))
         emit refused(tr("%1 has no default to go back to.").arg(parameterName_));
 }
@@ -276,6 +316,8 @@ void ParameterRow::setRawValueShown(bool shown) {
     if (shown && !rawValue_) {
         rawValue_ = new RawValueLabel(parameter_.strong(), pools_, this);
         layout_->addWidget(rawValue_, 0, Qt::AlignLeft | vertical_);
+        if (auto const parameter = parameter_.strong(); parameter && cell_.widget())
+            rawValue_->setExplanation(creatorExplanation(*parameter, cell_));
     }
     if (rawValue_)
         rawValue_->setVisible(shown);
@@ -298,7 +340,7 @@ QSize ParameterRow::sizeHint() const {
 bool ParameterRow::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || !names_->geometry().contains(static_cast<QHelpEvent*>(event)->pos()))
         return QWidget::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), creatorToolTip(), names_);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipText(), names_);
     return true;
 }
 
@@ -312,33 +354,13 @@ void ParameterRow::contextMenuEvent(QContextMenuEvent* event) {
 
 void ParameterRow::updateAccessibility() {
     auto const parameter = parameter_.strong();
-    if (!cell_.widget() || !parameter)
-        return;
-    auto const& typeName = parameter->declaredType();
-    auto const* const format = ValueFormat::ofType(typeName);
-    auto const name = objectName_ + QLatin1Char('.') + parameterName_;
-    auto const type = format ? QString::fromLatin1(format->key) : QString::fromStdString(typeName);
-    auto const current = pool();
-    if (!parameter->keepsValuesPerPool())
-        cell_.describeControls(tr("%1, type %2").arg(name, type));
-    else if (current)
-        cell_.describeControls(tr("%1, type %2, in pool %3").arg(name, type, QString::fromStdString(current->Name())));
-    else
-        cell_.describeControls(tr("%1, type %2, no pool").arg(name, type));
+    if (cell_.widget() && parameter)
+        cell_.describeControls(controlDescription(objectName_, *parameter, pool()));
 }
 
-QString ParameterRow::creatorToolTip() const {
-    auto const title = QStringLiteral("<p><b>%1</b></p>").arg(parameterName_.toHtmlEscaped());
+QString ParameterRow::toolTipText() const {
     auto const parameter = parameter_.strong();
-    if (!parameter || !cell_.widget())
-        return title;
-    auto const wanted = parameter->creationPreferences() ? parameter->creationPreferences()->names()
-                                                         : Kolt::VCreationPreferences::Names();
-    return title +
-           QStringLiteral("<p>%1<br>%2</p><p>%3</p>")
-               .arg(tr("Type: %1").arg(QString::fromStdString(parameter->declaredType())).toHtmlEscaped(),
-                    tr("Preferences: %1").arg(QString::fromStdString(Kolt::preferenceText(wanted))).toHtmlEscaped(),
-                    tr("Editor: %1").arg(QString::fromStdString(cell_.choice().explanation)).toHtmlEscaped());
+    return parameter ? rowToolTip(parameter) : QString();
 }
 
 QString ParameterRow::noteText() const {

@@ -17,10 +17,12 @@ class QMenu;
 
 namespace Talo {
 
-/// One parameter in a panel: its name, its editor or a placeholder, and on demand its raw value. The name's tool tip
-/// says which creator made the editor and why. Where the parameter keeps values per pool, a line below the name says
-/// which pool is edited; if the parameter was deleted, the line says so. A dot beside the name marks a value that is
-/// not the default and resets it. A context menu has the commands for the value.
+/// One parameter in a panel: its label, its editor or a placeholder with the unit behind it, and on demand its raw
+/// value. Label, unit and the tool tip of the label come from the parameter's properties (ParameterDescription) and
+/// follow them. The tool tip of the raw value says which creator made the editor and why. Where the parameter keeps
+/// values per pool, a line below the name says which pool is edited; if the parameter was deleted, the line says so. A
+/// dot beside the name marks a value that is not the default and resets it. A context menu has the commands for the
+/// value.
 ///
 /// For screen readers, each control of the editor is named after the parameter, followed by its own caption; its
 /// description contains the object, the type and the pool.
@@ -51,14 +53,17 @@ public:
     Kolt::UndoHistory& history() const override;
     /// Marks a value that is not the default; null until it first differed.
     ModifiedIndicator* modifiedIndicator() const { return indicator_; }
-    /// The label that shows the name; lives as long as the row.
+    /// The label of the parameter; lives as long as the row.
     QLabel* nameLabel() const { return nameLabel_; }
     /// The line below the name; empty for none.
     QString note() const { return noteLabel_ ? noteLabel_->text() : QString(); }
     /// Null until it was first shown.
     RawValueLabel* rawValue() const { return rawValue_; }
-    /// Which creator made the editor and why, as rich text; the tool tip of the name.
-    QString creatorToolTip() const;
+    /// What the row says about its parameter, as rich text; the tool tip of the label. Empty after the parameter was
+    /// deleted.
+    QString toolTipText() const;
+    /// Shows the unit behind the editor; null without a unit and while the editor is closed.
+    QLabel* unitLabel() const { return unitLabel_; }
     /// The editor or the placeholder; null while closed.
     QWidget* editor() const { return cell_.widget(); }
 
@@ -74,6 +79,8 @@ public:
     void checkParameter();
     /// Shows or hides the raw value beside the editor.
     void setRawValueShown(bool shown);
+    /// Lets people use the editor, or not; they can at first. That of a read-only parameter they never can.
+    void setEditorEnabled(bool enabled);
     /// Sets the width of the name column, so that the rows of a form are aligned. In pixels.
     void setNameWidth(int width);
     /// The width that the name and the note need, in pixels.
@@ -111,6 +118,9 @@ private:
     void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
     void alignEditor();
+    /// Shows what the properties say now.
+    void showDescription();
+    void showUnit(QString const& unit);
     void watchEditor(Kolt::ParameterPtr const& parameter);
     /// After a change of the value: makes an editor anew that cannot show it.
     void checkEditor();
@@ -134,6 +144,8 @@ private:
     ModifiedIndicator* indicator_ = nullptr;
     QLabel* noteLabel_ = nullptr;
     RawValueLabel* rawValue_ = nullptr;
+    QPointer<QLabel> unitLabel_;
+    bool isEditorEnabled_ = true;
     // How the name is aligned with the editor.
     Qt::Alignment vertical_ = Qt::AlignVCenter;
     EditorCell cell_;

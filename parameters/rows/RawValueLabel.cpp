@@ -43,9 +43,18 @@ void RawValueLabel::refresh() {
         return;
     text_ = text;
     stamp_ = stamp;
-    setToolTip(QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped()));
+    showToolTip();
     setAccessibleDescription(text);
     update();
+}
+
+void RawValueLabel::setExplanation(QString const& richText) {
+    explanation_ = richText;
+    showToolTip();
+}
+
+void RawValueLabel::showToolTip() {
+    setToolTip(QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text_.toHtmlEscaped()) + explanation_);
 }
 
 QSize RawValueLabel::sizeHint() const {

@@ -9,8 +9,8 @@
 namespace Talo {
 
 /// Shows what a parameter holds in the chosen pool as the value's own text, live, and below it the value's age stamp
-/// and whose value it is. A text that does not fit is shortened; the tool tip has all of it. Its size does not depend
-/// on the value, so that a change lays nothing out anew.
+/// and whose value it is. A text that does not fit is shortened; the tool tip has all of it, and what else is to be
+/// said about the value. Its size does not depend on the value, so that a change lays nothing out anew.
 ///
 /// Made on the user-interface thread; changes may be reported on any thread.
 class TALO_EXPORT RawValueLabel : public QWidget, private Kolt::ValueNotifier {
@@ -25,6 +25,8 @@ public:
     QString const& text() const { return text_; }
     /// The shown line about the value: "age 7, pool preview".
     QString const& stamp() const { return stamp_; }
+    /// What the tool tip says below the value, as rich text; nothing at first.
+    void setExplanation(QString const& richText);
     /// Reads the value again, as after another pool was chosen.
     void refresh();
 
@@ -35,6 +37,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void showToolTip();
     void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
 
@@ -42,6 +45,7 @@ private:
     PoolSourceRef const pools_;
     QString text_;
     QString stamp_;
+    QString explanation_;
     std::atomic<bool> refreshWaits_{false};
 };
 

@@ -50,8 +50,8 @@ void RowArea::addEntries(FormPlan const& plan) {
         layout_.addRow(heightClass);
         entries_.push_back({name, parameter});
     }
-    // Most names are narrower than the one with the most letters; a row that needs more widens the column.
-    nameWidth_ = fontMetrics().horizontalAdvance(plan.longestName);
+    // Most labels are narrower than the one with the most letters; a row that needs more widens the column.
+    nameWidth_ = fontMetrics().horizontalAdvance(plan.longestLabel);
 }
 
 RowArea::~RowArea() = default;
@@ -134,6 +134,14 @@ void RowArea::setFilter(std::function<bool(Kolt::VParameter const&)> const& filt
     makeVisibleRows();
 }
 
+void RowArea::setEnabledWhen(std::function<bool(Kolt::VParameter const&)> const& predicate) {
+    isEnabled_ = predicate;
+    for (auto* const row : rows()) {
+        auto const parameter = row->parameter();
+        row->setEditorEnabled(!isEnabled_ || !parameter || isEnabled_(*parameter));
+    }
+}
+
 void RowArea::measureBoxes() {
     titledBox_ = boxMargins(QStringLiteral("X"));
     auto const plainBox = boxMargins(QString());
@@ -174,6 +182,7 @@ void RowArea::make(Entry& entry) {
     connect(entry.row, &ParameterRow::editorReplaced, this, [this, &entry] { emitEditorOpened(entry); });
     made_.insert(place);
     entry.row->setRawValueShown(rawValuesShown_);
+    entry.row->setEditorEnabled(!isEnabled_ || isEnabled_(*parameter));
     if (editorsOpen_)
         entry.row->openEditor();
     entry.row->setVisible(layout_.isShown(place));

@@ -16,7 +16,7 @@ namespace Talo {
 
 struct FormPlan;
 
-/// The rows of any number of parameters below each other, in sections by the part of their names before the last dot.
+/// The rows of any number of parameters below each other, in sections (ParameterDescription).
 /// Only visible rows are made, and rows far from the visible ones are deleted again, so an object with ten thousand
 /// parameters opens almost as fast as one with ten. The height of a row that was never made is estimated from rows of
 /// the same type and preferences; what the user sees stays in its place if the estimate was wrong.
@@ -56,6 +56,9 @@ public:
     void setRawValuesShown(bool shown);
     /// Hides the parameters for which the predicate does not hold; an empty one shows all. The scroll position stays.
     void setFilter(std::function<bool(Kolt::VParameter const&)> const& filter);
+    /// Disables the editors of the parameters for which the predicate does not hold, also those that are made later; an
+    /// empty one enables all. It is kept and asked again when a row is made.
+    void setEnabledWhen(std::function<bool(Kolt::VParameter const&)> const& predicate);
     /// Gives the focus to the first control of an editor in the first shown row that has one; false if there is none.
     bool focusFirstControl();
     /// How many parameters are not hidden by the filter.
@@ -126,6 +129,7 @@ private:
     // Both only ever grow, so that the editors stay in their place when another pool is chosen.
     int nameWidth_ = 0;
     int leastRowWidth_ = 0;
+    std::function<bool(Kolt::VParameter const&)> isEnabled_;
     bool editorsOpen_ = true;
     bool rawValuesShown_ = false;
     bool making_ = false;

@@ -69,6 +69,61 @@
         <source>%1 does not take a value in this pool.</source>
         <translation>%1 nimmt in diesem Pool keinen Wert an.</translation>
     </message>
+    <message>
+        <source>%1 cannot be changed here.</source>
+        <translation>%1 kann hier nicht geändert werden.</translation>
+    </message>
+</context>
+<context>
+    <name>RowTexts</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 %3</source>
+        <translation>%1 bis %2 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Range: %1</source>
+        <translation>Bereich: %1</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Einheit: %1</translation>
+    </message>
+    <message>
+        <source>This value cannot be changed here.</source>
+        <translation>Dieser Wert kann hier nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation>Typ: %1</translation>
+    </message>
+    <message>
+        <source>Preferences: %1</source>
+        <translation>Vorgaben: %1</translation>
+    </message>
+    <message>
+        <source>Editor: %1</source>
+        <translation>Editor: %1</translation>
+    </message>
+    <message>
+        <source>%1, type %2</source>
+        <translation>%1, Typ %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2, no pool</source>
+        <translation>%1, Typ %2, kein Pool</translation>
+    </message>
+    <message>
+        <source>%1, type %2, in pool %3</source>
+        <translation>%1, Typ %2, im Pool %3</translation>
+    </message>
 </context>
 <context>
     <name>Talo::FileButtonText</name>
@@ -125,21 +180,13 @@
         <source>Reset &amp;all to default</source>
         <translation>&amp;Alle auf Standard zurücksetzen</translation>
     </message>
+    <message>
+        <source>All parameters of this object are advanced, or of no use now.</source>
+        <translation>Alle Parameter dieses Objekts sind erweitert oder zurzeit ohne Bedeutung.</translation>
+    </message>
 </context>
 <context>
     <name>Talo::ParameterRow</name>
-    <message>
-        <source>Type: %1</source>
-        <translation>Typ: %1</translation>
-    </message>
-    <message>
-        <source>Preferences: %1</source>
-        <translation>Vorgaben: %1</translation>
-    </message>
-    <message>
-        <source>Editor: %1</source>
-        <translation>Editor: %1</translation>
-    </message>
     <message>
         <source>was removed</source>
         <translation>wurde entfernt</translation>
@@ -151,18 +198,6 @@
     <message>
         <source>no pool</source>
         <translation>kein Pool</translation>
-    </message>
-    <message>
-        <source>%1, type %2</source>
-        <translation>%1, Typ %2</translation>
-    </message>
-    <message>
-        <source>%1, type %2, in pool %3</source>
-        <translation>%1, Typ %2, im Pool %3</translation>
-    </message>
-    <message>
-        <source>%1, type %2, no pool</source>
-        <translation>%1, Typ %2, kein Pool</translation>
     </message>
     <message>
         <source>%1 was removed.</source>

@@ -69,6 +69,61 @@
         <source>%1 does not take a value in this pool.</source>
         <translation>%1 n’accepte pas de valeur dans ce pool.</translation>
     </message>
+    <message>
+        <source>%1 cannot be changed here.</source>
+        <translation>%1 ne peut pas être modifié ici.</translation>
+    </message>
+</context>
+<context>
+    <name>RowTexts</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 %3</source>
+        <translation>%1 à %2 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Range: %1</source>
+        <translation>Plage : %1</translation>
+    </message>
+    <message>
+        <source>Unit: %1</source>
+        <translation>Unité : %1</translation>
+    </message>
+    <message>
+        <source>This value cannot be changed here.</source>
+        <translation>Cette valeur ne peut pas être modifiée ici.</translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation>Type : %1</translation>
+    </message>
+    <message>
+        <source>Preferences: %1</source>
+        <translation>Préférences : %1</translation>
+    </message>
+    <message>
+        <source>Editor: %1</source>
+        <translation>Éditeur : %1</translation>
+    </message>
+    <message>
+        <source>%1, type %2</source>
+        <translation>%1, type %2</translation>
+    </message>
+    <message>
+        <source>%1, type %2, no pool</source>
+        <translation>%1, type %2, aucun pool</translation>
+    </message>
+    <message>
+        <source>%1, type %2, in pool %3</source>
+        <translation>%1, type %2, dans le pool %3</translation>
+    </message>
 </context>
 <context>
     <name>Talo::FileButtonText</name>
@@ -125,21 +180,13 @@
         <source>Reset &amp;all to default</source>
         <translation>&amp;Tout remettre par défaut</translation>
     </message>
+    <message>
+        <source>All parameters of this object are advanced, or of no use now.</source>
+        <translation>Tous les paramètres de cet objet sont avancés ou sans usage pour le moment.</translation>
+    </message>
 </context>
 <context>
     <name>Talo::ParameterRow</name>
-    <message>
-        <source>Type: %1</source>
-        <translation>Type : %1</translation>
-    </message>
-    <message>
-        <source>Preferences: %1</source>
-        <translation>Préférences : %1</translation>
-    </message>
-    <message>
-        <source>Editor: %1</source>
-        <translation>Éditeur : %1</translation>
-    </message>
     <message>
         <source>was removed</source>
         <translation>a été supprimé</translation>
@@ -151,18 +198,6 @@
     <message>
         <source>no pool</source>
         <translation>aucun pool</translation>
-    </message>
-    <message>
-        <source>%1, type %2</source>
-        <translation>%1, type %2</translation>
-    </message>
-    <message>
-        <source>%1, type %2, in pool %3</source>
-        <translation>%1, type %2, dans le pool %3</translation>
-    </message>
-    <message>
-        <source>%1, type %2, no pool</source>
-        <translation>%1, type %2, aucun pool</translation>
     </message>
     <message>
         <source>%1 was removed.</source>

@@ -31,6 +31,16 @@ QByteArray parameter(QByteArray const& rest) {
     return parameters("{ \"name\": \"p\", " + rest + " }");
 }
 
+/// A network whose only object has two integers: "p", which is visible on a condition, and "q", which is enabled on
+/// one.
+QByteArray conditions(QByteArray const& visible, QByteArray const& enabled) {
+    auto const properties = enabled.isEmpty() ? QByteArray("{}") : "{ \"enabledWhen\": \"" + enabled + "\" }";
+    return parameters(R"({ "name": "p", "type": "int", "value": 1, "properties": {)"
+                      "\n\"visibleWhen\": \"" +
+                      visible + "\" } },\n" + R"({ "name": "q", "type": "int", "value": 1, "properties": )" +
+                      properties + " }");
+}
+
 std::vector<WrongFile> wrongFiles() {
     return {
         {"NothingAtAll", "", 1, "expected valid JSON, found: illegal value"},
@@ -162,13 +172,27 @@ std::vector<WrongFile> wrongFiles() {
          4, "o.p: expected the property \"tooltip\", a text, found the number 1"},
         {"IconNoText", parameter("\"type\": \"action\", \"value\": \"a\", \"properties\": {\n\"icon\": false }"), 4,
          "o.p: expected the property \"icon\", a text, found false"},
-        {"FreePropertyList", parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"unit\": [] }"), 4,
-         "o.p: expected the property \"unit\", a number, a text, true or false, found a list of 0"},
-        {"UnknownTag", parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"unit\": { \"real\": 1 } }"), 4,
-         "o.p: expected only the keys int, double in the property \"unit\", found \"real\""},
+        {"LabelNoText", parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"label\": 5 }"), 4,
+         "o.p: expected the property \"label\", a text, found the number 5"},
+        {"AdvancedNoTruth", parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"advanced\": 1 }"), 4,
+         "o.p: expected the property \"advanced\", true or false, found the number 1"},
+        {"ConditionWithoutValues", conditions("q", ""), 4,
+         "o.p: expected the name of a parameter, \"=\" and values with \"|\" between them, found the text \"q\""},
+        {"ConditionOnNothing", conditions("r=1", ""), 4,
+         "o.p: expected a condition on another parameter of the object; \"r\" is none, found the text \"r=1\""},
+        {"ConditionThatCannotHold", conditions("q=1|yes", ""), 4,
+         "o.p: expected a condition that can hold; \"q\" cannot be \"yes\", found the text \"q=1|yes\""},
+        {"ConditionOnItself", conditions("p=1", ""), 4,
+         "o.p: expected a condition that does not depend on itself, found the text \"p=1\""},
+        {"CircularCondition", conditions("q=1", "p=1"), 4,
+         "o.p: expected a condition that does not depend on itself, found the text \"q=1\""},
+        {"FreePropertyList", parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"weight\": [] }"), 4,
+         "o.p: expected the property \"weight\", a number, a text, true or false, found a list of 0"},
+        {"UnknownTag", parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"weight\": { \"real\": 1 } }"),
+         4, "o.p: expected only the keys int, double in the property \"weight\", found \"real\""},
         {"TwoTags",
-         parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"unit\": { \"int\": 1, \"double\": 1 } }"), 4,
-         "o.p: expected the property \"unit\", {\"int\": ...} or {\"double\": ...}, found an object"},
+         parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"weight\": { \"int\": 1, \"double\": 1 } }"),
+         4, "o.p: expected the property \"weight\", {\"int\": ...} or {\"double\": ...}, found an object"},
         {"NoColumn",
          parameter("\"type\": \"enum\", \"value\": null, \"entries\": [], \"properties\": {\n\"wrap\": 0 }"), 4,
          "o.p: expected the property \"wrap\", at least 1, found the number 0"},

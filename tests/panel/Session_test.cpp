@@ -47,6 +47,7 @@ protected:
         EXPECT_EQ(pool(), QStringLiteral("day"));
         EXPECT_EQ(window->size(), QSize(1200, 800));
         EXPECT_FALSE(window->rawValuesShown());
+        EXPECT_FALSE(window->advancedShown());
         EXPECT_TRUE(viewDocks().isEmpty());
         EXPECT_TRUE(messageDock()->isVisible());
         EXPECT_TRUE(window->screen()->availableGeometry().intersects(window->frameGeometry()));
@@ -70,6 +71,7 @@ TEST_F(SessionTest, BringsBackHowTheWindowStood) {
     window->showObject(QStringLiteral("second lamp"));
     window->choosePool(QStringLiteral("night"));
     window->setRawValuesShown(true);
+    window->setAdvancedShown(true);
     window->setGeometry(40, 50, 820, 610);
     window->addDockWidget(Qt::TopDockWidgetArea, messageDock());
     auto* const splitter = window->findChild<QSplitter*>("columns");
@@ -81,6 +83,7 @@ TEST_F(SessionTest, BringsBackHowTheWindowStood) {
     EXPECT_EQ(shownObject(), QStringLiteral("second lamp"));
     EXPECT_EQ(pool(), QStringLiteral("night"));
     EXPECT_TRUE(window->rawValuesShown());
+    EXPECT_TRUE(window->advancedShown());
     EXPECT_EQ(window->geometry(), QRect(40, 50, 820, 610));
     EXPECT_EQ(window->dockWidgetArea(messageDock()), Qt::TopDockWidgetArea);
     EXPECT_EQ(window->findChild<QSplitter*>("columns")->sizes(), columns);

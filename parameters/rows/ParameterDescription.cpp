@@ -1,0 +1,42 @@
+#include <parameters/rows/ParameterDescription.hpp>
+
+namespace Talo {
+
+namespace {
+
+template <typename T>
+T property(Kolt::VParameter const& parameter, char const* name) {
+    auto const* const properties = parameter.properties();
+    return properties ? Kolt::valueOr(properties->getValue(name), T()) : T();
+}
+
+QString textOf(Kolt::VParameter const& parameter, char const* name) {
+    return QString::fromStdString(property<std::string>(parameter, name));
+}
+
+} // namespace
+
+ParameterDescription::ParameterDescription(Kolt::VParameter const& parameter)
+    : name(QString::fromStdString(parameter.Name())),
+      label(textOf(parameter, "label")),
+      help(textOf(parameter, "help")),
+      unit(textOf(parameter, "unit")),
+      section(textOf(parameter, "group")),
+      isAdvanced(Talo::isAdvanced(parameter)),
+      isReadOnly(property<bool>(parameter, "readOnly")) {
+    auto const dot = name.lastIndexOf(QLatin1Char('.'));
+    if (label.isEmpty())
+        label = name.mid(dot + 1);
+    if (section.isEmpty())
+        section = name.left(qMax(0, dot));
+}
+
+bool isAdvanced(Kolt::VParameter const& parameter) {
+    return property<bool>(parameter, "advanced");
+}
+
+bool isChangeable(Kolt::VParameter const& parameter) {
+    return parameter.isEdited() && !property<bool>(parameter, "readOnly");
+}
+
+} // namespace Talo
