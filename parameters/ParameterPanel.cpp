@@ -66,6 +66,7 @@ public:
         else
             rows->setFilter(
                 [&](auto const& parameter) { return isWanted(parameter) && conditions.isVisible(parameter, pool); });
+        rows->setAllSectionsOpen(!words.isEmpty());
         bool const foundNone = living && !living->parameters().empty() && rows->shownCount() == 0;
         rows->setVisible(!foundNone);
         emptyNote->setText(words.isEmpty() ? tr("All parameters of this object are advanced, or of no use now.")
@@ -154,6 +155,7 @@ ParameterPanel::ParameterPanel(Kolt::ObjectPtr const& object, Kolt::ValuePoolSou
         qWarning("ParameterPanel: there is no object to show.");
     connect(d_->rows, &RowArea::editorOpened, this, &ParameterPanel::editorOpened);
     connect(d_->rows, &RowArea::refused, this, &ParameterPanel::refused);
+    connect(d_->rows, &RowArea::helpRequested, this, &ParameterPanel::helpRequested);
 }
 
 ParameterPanel::~ParameterPanel() {
@@ -216,6 +218,8 @@ QAction* ParameterPanel::action(Command command) {
         return d_->commandsOf(*this).action("pasteValue");
     case Command::SetAsDefault:
         return d_->commandsOf(*this).action("setAsDefault");
+    case Command::ShowHelp:
+        return d_->commandsOf(*this).action("showHelp");
     }
     return nullptr;
 }

@@ -25,7 +25,7 @@ class TALO_EXPORT ParameterPanel : public QWidget {
 
 public:
     /// What `action` offers.
-    enum class Command { Undo, Redo, Reset, ResetAll, Copy, Paste, SetAsDefault };
+    enum class Command { Undo, Redo, Reset, ResetAll, Copy, Paste, SetAsDefault, ShowHelp };
     Q_ENUM(Command)
 
     /// `pools` says which pool is edited; after it was destroyed edits are dropped. Undo and Redo act on the history of
@@ -47,7 +47,7 @@ public:
     void setRawValuesShown(bool shown);   ///< shows or hides them
 
     /// A command as an action with its shortcut, for menus and tool bars; it is made when it is first asked for and
-    /// belongs to the panel. Reset, Copy, Paste and SetAsDefault act on the row with the focus, ResetAll on all rows.
+    /// belongs to the panel. ResetAll acts on all rows, the others but Undo and Redo on the row with the focus.
     /// The shortcuts work while the focus is in the panel.
     QAction* action(Command command);
     void setNaming(ParameterNaming naming); ///< how undo texts name parameters; empty: by their own names
@@ -63,6 +63,7 @@ signals:
     void advancedShownChanged(bool shown);                                   ///< advanced parameters came or went
     void rawValuesShownChanged(bool shown);                                  ///< the texts were shown or hidden
     void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor); ///< an editor was made
+    void helpRequested(Kolt::ParameterPtr const& parameter);                 ///< to be shown in a HelpView, say
     void refused(QString const& reason); ///< a command did nothing, for this reason: a sentence
 
 protected:

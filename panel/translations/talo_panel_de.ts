@@ -472,6 +472,20 @@
     </message>
 </context>
 <context>
+    <name>Panel::HelpDock</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::HistoryDock</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+</context>
+<context>
     <name>Panel::MainWindow</name>
     <message>
         <source>Talo panel</source>
@@ -492,10 +506,6 @@
     <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>History</source>
-        <translation>Verlauf</translation>
     </message>
     <message>
         <source>%1[*] – Talo panel</source>
@@ -676,6 +686,14 @@
     <message>
         <source>Ctrl+Shift+A</source>
         <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>&amp;Fold all sections</source>
+        <translation>Alle Abschnitte &amp;zuklappen</translation>
+    </message>
+    <message>
+        <source>&amp;Open all sections</source>
+        <translation>Alle Abschnitte &amp;aufklappen</translation>
     </message>
 </context>
 <context>

@@ -8,7 +8,6 @@
 #include <parameters/input/FileDialogHelp.hpp>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDockWidget>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -35,16 +34,17 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
       objectList_(new ObjectList(pools_)),
       views_(new ViewStack(pools_, *this)),
       messageDock_(new MessageDock(*this)),
-      historyView_(new Talo::HistoryView(document_.history())),
       toolBar_(new PoolToolBar),
       noticeBar_(new NoticeBar),
       notices_(new FileNotices(document_, *noticeBar_, this)),
       fileMenu_(new FileMenu(document_, *this)),
       pluginMenu_(new PluginMenu(plugins, *this)),
-      historyDock_(new QDockWidget(tr("History"))),
-      viewMenu_(new ViewMenu(
-          *views_, {messageDock_->toggleViewAction(), historyDock_->toggleViewAction(), fractal_->previewAction()},
-          this)) {
+      historyDock_(new HistoryDock(document_.history())),
+      helpDock_(new HelpDock),
+      viewMenu_(new ViewMenu(*views_,
+                             {messageDock_->toggleViewAction(), historyDock_->toggleViewAction(),
+                              helpDock_->toggleViewAction(), fractal_->previewAction()},
+                             this)) {
     setCentralWidget(new Centre(noticeBar_, objectList_, views_));
     makeDocks();
     addToolBar(toolBar_);
@@ -70,13 +70,9 @@ void MainWindow::makeDocks() {
     // Qt leaks a dock animation that runs when the window is deleted.
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
     addDockWidget(trailingDockArea(layoutDirection()), fractal_->dock());
-    resizeDocks({fractal_->dock()}, {previewWidth}, Qt::Horizontal);
-    historyDock_->setObjectName(QStringLiteral("historyDock"));
-    historyDock_->setWidget(historyView_);
     addDockWidget(trailingDockArea(layoutDirection()), historyDock_);
-    // The view menu shows it.
-    historyDock_->hide();
-    historyDock_->toggleViewAction()->setObjectName(QStringLiteral("showHistory"));
+    addDockWidget(trailingDockArea(layoutDirection()), helpDock_);
+    resizeDocks({fractal_->dock()}, {previewWidth}, Qt::Horizontal);
     statusBar()->addPermanentWidget(fractal_->progressWidget());
     statusBar()->addPermanentWidget(pluginMenu_->statusLabel());
 }
@@ -106,9 +102,10 @@ void MainWindow::connectParts() {
     connect(&undoActions_, &Talo::UndoActions::refused, this,
             [this](QString const& reason) { messages()->add(MessageList::Source::Error, reason); });
     connect(&undoActions_, &Talo::UndoActions::restored, this, &MainWindow::showChange);
-    connect(historyView_, &Talo::HistoryView::stateChosen, &undoActions_, &Talo::UndoActions::goToState);
+    connect(historyDock_->view(), &Talo::HistoryView::stateChosen, &undoActions_, &Talo::UndoActions::goToState);
     connect(views_, &ViewStack::editorOpened, fractal_.get(), &Fractal::FractalController::followLinks);
     connect(views_, &ViewStack::refused, this, &MainWindow::showRefusal);
+    connect(views_, &ViewStack::helpRequested, helpDock_, &HelpDock::showHelp);
     connect(fractal_.get(), &Fractal::FractalController::reported, this, &MainWindow::report);
     fileMenu_->setRunningWork([this] { return fractal_->unwrittenPicture(); });
     connect(fileMenu_, &FileMenu::commitRequested, this, &MainWindow::commitPendingEdit);
@@ -138,7 +135,7 @@ void MainWindow::showOpened(Talo::Network* network) {
     commitPendingEdit();
     document_.history().clear();
     undoActions_.setNaming(document_.naming());
-    historyView_->setNaming(document_.naming());
+    historyDock_->view()->setNaming(document_.naming());
     toolBar_->showPools(*network);
     pools_.setPool(network->pools().front());
     showTitle();

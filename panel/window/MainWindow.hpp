@@ -5,13 +5,14 @@
 #include <panel/window/Document.hpp>
 #include <panel/window/FileMenu.hpp>
 #include <panel/window/FileNotices.hpp>
+#include <panel/window/HelpDock.hpp>
+#include <panel/window/HistoryDock.hpp>
 #include <panel/window/MessageDock.hpp>
 #include <panel/window/ObjectList.hpp>
 #include <panel/window/PluginMenu.hpp>
 #include <panel/window/PoolToolBar.hpp>
 #include <panel/window/ViewMenu.hpp>
 #include <panel/window/ViewStack.hpp>
-#include <parameters/commands/HistoryView.hpp>
 #include <parameters/commands/ParameterCommands.hpp>
 #include <parameters/commands/UndoActions.hpp>
 #include <parameters/input/PendingEdit.hpp>
@@ -52,6 +53,7 @@ public:
     /// Shows the chosen object once more, in a view of its own that can be moved out of the window. Null if no object
     /// is chosen.
     ObjectView* addView() { return views_->addView(); }
+    ViewStack& views() { return *views_; }
     void setRawValuesShown(bool shown) { viewMenu_->rawValuesAction()->setChecked(shown); }
     void setAdvancedShown(bool shown) { viewMenu_->advancedAction()->setChecked(shown); }
     bool advancedShown() const { return viewMenu_->advancedAction()->isChecked(); }
@@ -131,13 +133,13 @@ private:
     ObjectList* const objectList_;
     ViewStack* const views_;
     MessageDock* const messageDock_;
-    Talo::HistoryView* const historyView_;
     PoolToolBar* const toolBar_;
     NoticeBar* const noticeBar_;
     FileNotices* const notices_;
     FileMenu* const fileMenu_;
     PluginMenu* const pluginMenu_;
-    QDockWidget* const historyDock_;
+    HistoryDock* const historyDock_;
+    HelpDock* const helpDock_;
     ViewMenu* const viewMenu_;
 };
 

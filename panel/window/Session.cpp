@@ -36,6 +36,22 @@ QByteArray unsealed(QVariant const& kept) {
     return all == sealed(bytes) ? bytes : QByteArray();
 }
 
+/// "object.section" for each of them; names of objects have no dot.
+QStringList toList(QMap<QString, QStringList> const& folded) {
+    QStringList all;
+    for (auto object = folded.begin(); object != folded.end(); ++object)
+        for (auto const& section : object.value())
+            all << object.key() + QLatin1Char('.') + section;
+    return all;
+}
+
+QMap<QString, QStringList> fromList(QStringList const& list) {
+    QMap<QString, QStringList> folded;
+    for (auto const& each : list)
+        folded[each.section(QLatin1Char('.'), 0, 0)] << each.section(QLatin1Char('.'), 1);
+    return folded;
+}
+
 QString shownObject(ObjectView const* view) {
     auto const object = view ? view->object() : nullptr;
     return object ? QString::fromStdString(object->Name()) : QString();
@@ -86,6 +102,7 @@ void Session::restoreNetwork() {
                      [file = window_->document().path()](auto const& network) { return network.file == file; });
     if (found != known.end()) {
         window_->choosePool(found->pool);
+        window_->views().setFoldedSections(found->folded);
         auto const first = shownObject(window_->currentView());
         auto const views = found->views.mid(0, mostViews);
         for (auto const& view : views) {
@@ -114,7 +131,7 @@ void Session::keep() {
     if (window_->network()) {
         auto const pool = window_->pools().pool();
         keepNetwork({window_->document().path(), pool ? QString::fromStdString(pool->Name()) : QString(),
-                     shownObject(window_->currentView()), views, docks});
+                     shownObject(window_->currentView()), views, docks, window_->views().foldedSections()});
     }
     settings_.sync();
     if (settings_.status() == QSettings::AccessError)
@@ -136,6 +153,7 @@ void Session::keepNetwork(NetworkRecord const& network) {
         settings_.setValue(QStringLiteral("object"), record.object);
         settings_.setValue(QStringLiteral("views"), record.views);
         settings_.setValue(QStringLiteral("docks"), sealed(record.docks));
+        settings_.setValue(QStringLiteral("folded"), toList(record.folded));
     }
     settings_.endArray();
 }
@@ -149,7 +167,8 @@ std::vector<Session::NetworkRecord> Session::networks() {
                        settings_.value(QStringLiteral("pool")).toString(),
                        settings_.value(QStringLiteral("object")).toString(),
                        settings_.value(QStringLiteral("views")).toStringList(),
-                       unsealed(settings_.value(QStringLiteral("docks")))});
+                       unsealed(settings_.value(QStringLiteral("docks"))),
+                       fromList(settings_.value(QStringLiteral("folded")).toStringList())});
     }
     settings_.endArray();
     return all;

@@ -49,6 +49,8 @@ private:
         /// The objects of the further views.
         QStringList views;
         QByteArray docks;
+        /// The folded sections, by the names of their objects.
+        QMap<QString, QStringList> folded;
     };
 
     void restoreWindow();

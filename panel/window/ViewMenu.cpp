@@ -17,6 +17,14 @@ ViewMenu::ViewMenu(ViewStack& views, QList<QAction*> const& parts, QWidget* pare
     advanced_->setCheckable(true);
     advanced_->setShortcut(tr("Ctrl+Shift+A"));
     addActions({advanced_, rawValues_});
+    addSeparator();
+    addAction(tr("&Fold all sections"), this, [&views] {
+        views.foldAllSections(true);
+    })->setObjectName(QStringLiteral("foldAll"));
+    addAction(tr("&Open all sections"), this, [&views] {
+        views.foldAllSections(false);
+    })->setObjectName(QStringLiteral("openAll"));
+    addSeparator();
     addActions(parts);
     connect(rawValues_, &QAction::toggled, &views, &ViewStack::setRawValuesShown);
     connect(advanced_, &QAction::toggled, &views, &ViewStack::setAdvancedShown);

@@ -10,6 +10,10 @@ namespace {
 
 constexpr int keptViews = 8;
 
+QString nameOf(Kolt::ObjectPtr const& object) {
+    return object ? QString::fromStdString(object->Name()) : QString();
+}
+
 } // namespace
 
 ViewStack::ViewStack(Kolt::ValuePoolSource& pools, QMainWindow& window) : pools_(pools), window_(window) {}
@@ -62,6 +66,9 @@ ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& ki
     panel->setFilter(filter_);
     connect(panel, &Talo::ParameterPanel::editorOpened, this, &ViewStack::editorOpened);
     connect(panel, &Talo::ParameterPanel::refused, this, &ViewStack::refused);
+    connect(panel, &Talo::ParameterPanel::helpRequested, this, &ViewStack::helpRequested);
+    panel->rowArea()->setFoldedSections(folded_.value(nameOf(object)));
+    connect(panel->rowArea(), &Talo::RowArea::foldChanged, this, [this, view] { followFolding(*view); });
     connect(panel->rowArea(), &Talo::RowArea::defaultChanged, this, &ViewStack::showDefaults);
     return view;
 }
@@ -82,6 +89,7 @@ ObjectView* ViewStack::addView() {
 }
 
 void ViewStack::closeViews() {
+    folded_.clear();
     for (auto* const view : views()) {
         auto* const dock = qobject_cast<QDockWidget*>(view->parentWidget());
         QWidget* const closed = dock ? dock : static_cast<QWidget*>(view);
@@ -113,6 +121,26 @@ void ViewStack::setAdvancedShown(bool shown) {
     advancedShown_ = shown;
     for (auto* const view : views())
         view->panel()->setAdvancedShown(shown);
+}
+
+void ViewStack::setFoldedSections(QMap<QString, QStringList> const& folded) {
+    folded_ = folded;
+    for (auto* const view : views())
+        view->panel()->rowArea()->setFoldedSections(folded_.value(nameOf(view->object())));
+}
+
+void ViewStack::foldAllSections(bool folded) {
+    if (auto* const view = currentView())
+        view->panel()->rowArea()->foldAllSections(folded);
+}
+
+void ViewStack::followFolding(ObjectView const& view) {
+    auto const object = view.object();
+    auto const folded = view.panel()->rowArea()->foldedSections();
+    folded_.insert(nameOf(object), folded);
+    for (auto* const other : views())
+        if (other != &view && other->object() == object)
+            other->panel()->rowArea()->setFoldedSections(folded);
 }
 
 void ViewStack::showPool() {

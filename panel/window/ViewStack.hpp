@@ -2,6 +2,7 @@
 
 #include <panel/window/ObjectView.hpp>
 #include <QMainWindow>
+#include <QMap>
 #include <QStackedWidget>
 #include <vector>
 
@@ -37,6 +38,11 @@ public:
     void setRawValuesShown(bool shown);
     bool rawValuesShown() const { return rawValuesShown_; }
     void setAdvancedShown(bool shown);
+    /// The folded sections of the objects, by the objects' names. Those of an object are folded in all its views.
+    QMap<QString, QStringList> const& foldedSections() const { return folded_; }
+    void setFoldedSections(QMap<QString, QStringList> const& folded);
+    /// Folds or opens the sections of the current view.
+    void foldAllSections(bool folded);
     void showPool();
     void showDefaults();
     void closeEditors();
@@ -44,10 +50,14 @@ public:
 
 signals:
     void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor);
+    /// The user wants to read a parameter's help.
+    void helpRequested(Kolt::ParameterPtr const& parameter);
     /// A command did nothing, for this reason: a sentence.
     void refused(QString const& reason);
 
 private:
+    /// Has the sections of the other views of the same object as they are in this one.
+    void followFolding(ObjectView const& view);
     ObjectView* makeView(Kolt::ObjectPtr const& object, QString const& kind, QWidget* parent);
 
     Kolt::ValuePoolSource& pools_;
@@ -55,6 +65,7 @@ private:
     QString filter_;
     bool rawValuesShown_ = false;
     bool advancedShown_ = false;
+    QMap<QString, QStringList> folded_;
 };
 
 } // namespace Panel

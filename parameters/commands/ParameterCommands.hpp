@@ -22,7 +22,8 @@ public:
 
     /// In the order in which a menu shows them.
     QList<QAction*> const& actions() const { return actions_; }
-    /// The action with this object name ("resetValue", "copyValue", "pasteValue", "setAsDefault"); null for any other.
+    /// The action with this object name ("resetValue", "copyValue", "pasteValue", "setAsDefault", "showHelp"); null for
+    /// any other.
     QAction* action(char const* objectName) const;
     /// Enables the actions as the current row permits, as before a menu with them is shown.
     void updateActions();

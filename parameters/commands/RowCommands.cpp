@@ -22,14 +22,18 @@ bool canBeReset(Kolt::VParameter const& parameter) {
     return parameter.defaults() && isChangeable(parameter);
 }
 
-bool always(Kolt::VParameter const&) {
-    return true;
+bool isEdited(Kolt::VParameter const& parameter) {
+    return parameter.isEdited();
+}
+
+bool hasHelp(Kolt::VParameter const& parameter) {
+    return !ParameterDescription(parameter).help.isEmpty();
 }
 
 } // namespace
 
 bool RowCommand::isEnabledFor(Kolt::ParameterPtr const& parameter) const {
-    return parameter && parameter->isEdited() && isPossible(*parameter);
+    return parameter && isPossible(*parameter);
 }
 
 std::vector<RowCommand> rowCommands() {
@@ -37,10 +41,12 @@ std::vector<RowCommand> rowCommands() {
     return {{"resetValue", CommandTexts::tr("Reset to &default"), QKeySequence(CommandTexts::tr("Ctrl+D")),
              &ParameterRow::resetToDefault, canBeReset},
             {"copyValue", CommandTexts::tr("&Copy value"), QKeySequence(CommandTexts::tr("Ctrl+Shift+C")),
-             &ParameterRow::copyValue, always},
+             &ParameterRow::copyValue, isEdited},
             {"pasteValue", CommandTexts::tr("&Paste value"), QKeySequence(CommandTexts::tr("Ctrl+Shift+V")),
              &ParameterRow::pasteValue, isChangeable},
-            {"setAsDefault", CommandTexts::tr("&Set as default"), {}, &ParameterRow::setAsDefault, always}};
+            {"setAsDefault", CommandTexts::tr("&Set as default"), {}, &ParameterRow::setAsDefault, isEdited},
+            {"showHelp", CommandTexts::tr("S&how help"), QKeySequence(CommandTexts::tr("F1")), &ParameterRow::showHelp,
+             hasHelp}};
 }
 
 QMenu* makeRowMenu(ParameterRow& row) {

@@ -19,7 +19,7 @@ struct TALO_EXPORT RowCommand {
     QKeySequence shortcut;
     /// Runs the command for a row.
     void (ParameterRow::*run)();
-    /// Whether the command makes sense for a parameter of an edited type.
+    /// Whether the command makes sense for a parameter.
     bool (*isPossible)(Kolt::VParameter const& parameter);
 
     /// Whether the command can be run for a row's parameter, which may be null.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <lattice/Parameter.hpp>
-#include <QString>
+#include <QStringList>
 #include <tessera/Export.hpp>
 #include <vector>
 
@@ -21,7 +21,7 @@ struct TALO_EXPORT FormPlan {
     };
 
     /// The titles of the sections; empty for parameters without a section.
-    std::vector<QString> sectionTitles;
+    QStringList sectionTitles;
     /// The rows in the order in which they are shown.
     std::vector<Row> rows;
     /// The longest of the labels that rows show.

@@ -95,11 +95,11 @@ void ParameterRow::openEditor() {
     cell_.limitWidth();
     layout_->insertWidget(1, editor, editorShare);
     editor->show();
+    ParameterDescription const description(*parameter);
+    showUnit(description.unit);
     alignEditor();
     nameLabel_->setBuddy(editor);
-    ParameterDescription const description(*parameter);
     cell_.nameControls(description.label, isEdited);
-    showUnit(description.unit);
     editor->setEnabled(isEditorEnabled_ && !description.isReadOnly);
     if (isEdited)
         watchEditor(parameter);
@@ -162,12 +162,14 @@ void ParameterRow::alignEditor() {
     layout_->setAlignment(names_, Qt::AlignLeft | vertical_);
     if (rawValue_)
         layout_->setAlignment(rawValue_, Qt::AlignLeft | vertical_);
-    // An editor that cannot fill the column is at its left end.
-    if (layout_->itemAt(1)->maximumSize().width() < QLAYOUTSIZE_MAX) {
-        layout_->setAlignment(editor, Qt::AlignLeft | Qt::AlignVCenter);
-        // The layout has just cached its width without this.
-        editor->updateGeometry();
-    }
+    if (unitLabel_)
+        layout_->setAlignment(unitLabel_, Qt::AlignLeft | vertical_);
+    // An editor that cannot fill the column is at its left end, with the unit behind it.
+    layout_->setAlignment(editor, {});
+    if (layout_->itemAt(1)->maximumSize().width() < QLAYOUTSIZE_MAX)
+        layout_->setAlignment(editor, Qt::AlignVCenter | (unitLabel_ ? Qt::Alignment() : Qt::AlignLeft));
+    // The layout has just cached its width without this.
+    editor->updateGeometry();
     // A text that is only displayed begins beside its name, too.
     if (auto* const label = qobject_cast<QLabel*>(editor))
         alignWithLayout(*label);
@@ -184,6 +186,7 @@ void ParameterRow::showDescription() {
     if (!cell_.widget())
         return;
     showUnit(description.unit);
+    alignEditor();
     cell_.widget()->setEnabled(isEditorEnabled_ && !description.isReadOnly);
     updateAccessibility();
 }
@@ -196,6 +199,7 @@ void ParameterRow::showUnit(QString const& unit) {
     if (!unitLabel_) {
         unitLabel_ = new MutedLabel;
         unitLabel_->setTextFormat(Qt::PlainText);
+        unitLabel_->setContentsMargins(0, 4, 0, 4);
         layout_->insertWidget(2, unitLabel_, unitShare);
     }
     unitLabel_->setText(unit);
@@ -303,6 +307,11 @@ void ParameterRow::setAsDefault() {
     parameter->rememberDefaults();
     showDefault();
     emit defaultChanged();
+}
+
+void ParameterRow::showHelp() {
+    if (auto const parameter = parameter_.strong())
+        emit helpRequested(parameter);
 }
 
 void ParameterRow::checkParameter() {

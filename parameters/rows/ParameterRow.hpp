@@ -95,6 +95,8 @@ public:
     void pasteValue();
     /// Makes what the parameter holds its default.
     void setAsDefault();
+    /// Asks for the help of the parameter to be shown.
+    void showHelp();
 
     /// Some editors ask the widget around them to adjust its size; a row keeps the width that it was given.
     QSize sizeHint() const override;
@@ -107,6 +109,8 @@ signals:
     void refused(QString const& reason);
     /// The parameter has another default.
     void defaultChanged();
+    /// The user wants to read the parameter's help.
+    void helpRequested(Kolt::ParameterPtr const& parameter);
     /// Another editor was made, as the one before could not show the value.
     void editorReplaced();
 

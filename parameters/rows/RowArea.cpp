@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <parameters/rows/FormPlan.hpp>
+#include <parameters/rows/SectionBox.hpp>
 #include <parameters/rows/TabStops.hpp>
 #include <QApplication>
 #include <QEvent>
-#include <QGroupBox>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -16,18 +16,11 @@ namespace {
 
 // In pixels.
 constexpr QMargins contentMargins(12, 6, 12, 12);
-constexpr QMargins sectionMargins(12, 8, 12, 8);
 
 constexpr RowLayout::Spacing spacing{contentMargins.top(), contentMargins.bottom(), 12, 6, 36};
 
 // How many rows out of sight are kept, so that scrolling a little to and fro makes no rows.
 constexpr std::size_t keptRows = 60;
-
-QMargins boxMargins(QString const& title) {
-    QGroupBox box(title);
-    box.ensurePolished();
-    return box.contentsMargins() + sectionMargins;
-}
 
 } // namespace
 
@@ -35,21 +28,21 @@ RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> cons
                  PoolSourceRef const& pools, QWidget* parent)
     : ContentArea(parent), objectName_(objectName), pools_(pools), content_(new QWidget), layout_(spacing) {
     addEntries(FormPlan(parameters));
-    measureBoxes();
+    connect(sections_, &FormSections::foldChanged, this, &RowArea::showFolding);
+    connect(sections_, &FormSections::foldChanged, this, &RowArea::foldChanged);
     setWidget(content_);
     setAccessibleName(objectName);
     arrange();
 }
 
 void RowArea::addEntries(FormPlan const& plan) {
-    for (auto const& title : plan.sectionTitles)
-        sections_.push_back({title});
     for (auto const& [parameter, name, section, heightClass] : plan.rows) {
         while (layout_.sectionCount() <= section)
             layout_.addSection();
         layout_.addRow(heightClass);
         entries_.push_back({name, parameter});
     }
+    sections_ = new FormSections(*content_, layout_, plan.sectionTitles, this);
     // Most labels are narrower than the one with the most letters; a row that needs more widens the column.
     nameWidth_ = fontMetrics().horizontalAdvance(plan.longestLabel);
 }
@@ -142,13 +135,21 @@ void RowArea::setEnabledWhen(std::function<bool(Kolt::VParameter const&)> const&
     }
 }
 
-void RowArea::measureBoxes() {
-    titledBox_ = boxMargins(QStringLiteral("X"));
-    auto const plainBox = boxMargins(QString());
-    for (std::size_t section = 0; section < sections_.size(); ++section) {
-        auto const& box = sections_[section].title.isEmpty() ? plainBox : titledBox_;
-        layout_.setSectionMargins(section, {box.top(), box.bottom()});
-    }
+void RowArea::setFoldedSections(QStringList const& titles) {
+    sections_->setFolded(titles);
+    showFolding();
+}
+
+void RowArea::setAllSectionsOpen(bool open) {
+    sections_->setAllOpen(open);
+    showFolding();
+}
+
+void RowArea::showFolding() {
+    for (auto const place : made_)
+        entries_[place].row->setVisible(layout_.isShown(place));
+    arrangeInPlace();
+    makeVisibleRows();
 }
 
 RowArea::Entry* RowArea::entryOf(QWidget const* widget) {
@@ -159,7 +160,7 @@ RowArea::Entry* RowArea::entryOf(QWidget const* widget) {
 }
 
 int RowArea::rowWidth() const {
-    auto const& box = titledBox_;
+    auto const& box = sections_->margins();
     return content_->width() - contentMargins.left() - contentMargins.right() - box.left() - box.right();
 }
 
@@ -170,15 +171,10 @@ void RowArea::make(Entry& entry) {
         layout_.setShown(place, false);
         return;
     }
-    auto& section = sections_[layout_.sectionOf(place)];
-    if (!section.box) {
-        section.box = new QGroupBox(section.title, content_);
-        section.box->installEventFilter(this);
-        section.box->show();
-    }
-    entry.row = new ParameterRow(objectName_, parameter, pools_, section.box);
+    entry.row = new ParameterRow(objectName_, parameter, pools_, sections_->box(layout_.sectionOf(place)));
     connect(entry.row, &ParameterRow::refused, this, &RowArea::refused);
     connect(entry.row, &ParameterRow::defaultChanged, this, &RowArea::defaultChanged);
+    connect(entry.row, &ParameterRow::helpRequested, this, &RowArea::helpRequested);
     connect(entry.row, &ParameterRow::editorReplaced, this, [this, &entry] { emitEditorOpened(entry); });
     made_.insert(place);
     entry.row->setRawValueShown(rawValuesShown_);
@@ -221,23 +217,21 @@ void RowArea::measureAll() {
 void RowArea::arrange() {
     layout_.arrange();
     resizeContent();
-    int const width = content_->width() - contentMargins.left() - contentMargins.right();
-    for (std::size_t section = 0; section < sections_.size(); ++section) {
-        auto* const box = sections_[section].box;
-        if (!box)
-            continue;
-        box->setVisible(layout_.sectionHeight(section) > 0);
-        box->setGeometry(contentMargins.left(), layout_.sectionTop(section), width, layout_.sectionHeight(section));
-    }
+    placeSections();
     for (auto const place : made_) {
         int const top = layout_.top(place) - layout_.sectionTop(layout_.sectionOf(place));
-        entries_[place].row->setGeometry(titledBox_.left(), top, rowWidth(), layout_.height(place));
+        entries_[place].row->setGeometry(sections_->margins().left(), top, rowWidth(), layout_.height(place));
     }
 }
 
+void RowArea::placeSections() {
+    int const width = content_->width() - contentMargins.left() - contentMargins.right();
+    sections_->arrange(contentMargins.left(), width, visibleTop(), visibleBottom());
+}
+
 void RowArea::resizeContent() {
-    int const leastWidth =
-        leastRowWidth_ + contentMargins.left() + contentMargins.right() + titledBox_.left() + titledBox_.right();
+    int const leastWidth = leastRowWidth_ + contentMargins.left() + contentMargins.right() +
+                           sections_->margins().left() + sections_->margins().right();
     if (content_->minimumSize() == QSize(leastWidth, layout_.totalHeight()))
         return;
     bool const isWider = content_->minimumWidth() != leastWidth;
@@ -271,6 +265,7 @@ void RowArea::makeVisibleRows() {
     if (making_ || !isVisible())
         return;
     QScopedValueRollback const guard(making_, true);
+    placeSections();
     for (bool made = true; made;) {
         made = false;
         for (auto place = layout_.firstRowBelow(visibleTop());
@@ -332,7 +327,7 @@ void RowArea::changeEvent(QEvent* event) {
     if (event->type() != QEvent::StyleChange && event->type() != QEvent::FontChange)
         return;
     layout_.forgetEstimates();
-    measureBoxes();
+    sections_->measure();
     measureAll();
 }
 

@@ -3,14 +3,12 @@
 #include <functional>
 #include <lattice/Object.hpp>
 #include <parameters/rows/ContentArea.hpp>
+#include <parameters/rows/FormSections.hpp>
 #include <parameters/rows/ParameterRow.hpp>
 #include <parameters/rows/RowLayout.hpp>
-#include <QMargins>
 #include <set>
 #include <tessera/Export.hpp>
 #include <vector>
-
-class QGroupBox;
 
 namespace Talo {
 
@@ -56,6 +54,14 @@ public:
     void setRawValuesShown(bool shown);
     /// Hides the parameters for which the predicate does not hold; an empty one shows all. The scroll position stays.
     void setFilter(std::function<bool(Kolt::VParameter const&)> const& filter);
+    /// The titles of the folded sections.
+    QStringList foldedSections() const { return sections_->folded(); }
+    /// Folds the sections with these titles and opens the others.
+    void setFoldedSections(QStringList const& titles);
+    /// Folds or opens all sections that have a title, as a user does.
+    void foldAllSections(bool folded) { sections_->foldAll(folded); }
+    /// Shows the rows of folded sections as well, as while a filter finds them.
+    void setAllSectionsOpen(bool open);
     /// Disables the editors of the parameters for which the predicate does not hold, also those that are made later; an
     /// empty one enables all. It is kept and asked again when a row is made.
     void setEnabledWhen(std::function<bool(Kolt::VParameter const&)> const& predicate);
@@ -73,6 +79,10 @@ signals:
     void refused(QString const& reason);
     /// A parameter has another default.
     void defaultChanged();
+    /// A user folded or opened sections.
+    void foldChanged();
+    /// The user wants to read a parameter's help.
+    void helpRequested(Kolt::ParameterPtr const& parameter);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -88,13 +98,10 @@ private:
         Kolt::ParameterRef parameter;
         ParameterRow* row = nullptr;
     };
-    struct Section {
-        QString title;
-        QGroupBox* box = nullptr;
-    };
 
     void addEntries(FormPlan const& plan);
-    void measureBoxes();
+    /// Hides the rows of sections that were folded, and shows those of open ones.
+    void showFolding();
     Entry* entryOf(QWidget const* widget);
     std::size_t placeOf(Entry const& entry) const { return static_cast<std::size_t>(&entry - entries_.data()); }
     int rowWidth() const;
@@ -104,6 +111,7 @@ private:
     void measureAll();
     /// Gives every widget its place.
     void arrange();
+    void placeSections();
     void resizeContent();
     /// Like `arrange`, but the first row that the user sees stays in its place.
     void arrangeInPlace();
@@ -121,11 +129,10 @@ private:
     QWidget* const content_;
     RowLayout layout_;
     // By the numbers of the layout.
-    std::vector<Section> sections_;
     std::vector<Entry> entries_;
+    FormSections* sections_ = nullptr;
     // The numbers of the entries that have a row.
     std::set<std::size_t> made_;
-    QMargins titledBox_;
     // Both only ever grow, so that the editors stay in their place when another pool is chosen.
     int nameWidth_ = 0;
     int leastRowWidth_ = 0;

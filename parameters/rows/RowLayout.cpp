@@ -58,24 +58,34 @@ void RowLayout::arrange() {
 }
 
 void RowLayout::arrange(Section& section) {
-    int bottom = section.top + section.margins.top;
+    // The rows of a folded section are where it ends, so that places never go up.
+    int bottom = section.top + (section.folded ? section.margins.folded : section.margins.top);
     bool isEmpty = true;
     for (auto index = section.firstRow; index < section.firstRow + section.rowCount; ++index) {
         auto& row = rows_[index];
         row.top = bottom;
         if (!row.shown)
             continue;
+        isEmpty = false;
+        if (section.folded)
+            continue;
         if (!row.measured && estimates_[row.heightClass] > 0)
             row.height = estimates_[row.heightClass];
         bottom += row.height + spacing_.betweenRows;
-        isEmpty = false;
     }
-    section.height = isEmpty ? 0 : bottom - spacing_.betweenRows + section.margins.bottom - section.top;
+    if (isEmpty)
+        section.height = 0;
+    else if (section.folded)
+        section.height = section.margins.folded;
+    else
+        section.height = bottom - spacing_.betweenRows + section.margins.bottom - section.top;
 }
 
 std::size_t RowLayout::firstRowBelow(int y) const {
-    auto const found = std::partition_point(
-        rows_.begin(), rows_.end(), [y](auto const& row) { return row.top + (row.shown ? row.height : 0) <= y; });
+    auto const found = std::partition_point(rows_.begin(), rows_.end(), [this, y](auto const& row) {
+        bool const hasPlace = row.shown && !sections_[row.section].folded;
+        return row.top + (hasPlace ? row.height : 0) <= y;
+    });
     return static_cast<std::size_t>(found - rows_.begin());
 }
 

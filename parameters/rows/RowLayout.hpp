@@ -17,6 +17,8 @@ public:
         int top = 0;
         /// Below the last row.
         int bottom = 0;
+        /// The height of the section while it is folded.
+        int folded = 0;
     };
     /// The constant distances of the form.
     struct Spacing {
@@ -46,6 +48,8 @@ public:
     void dropHeight(std::size_t row);
     /// Forgets the estimates, as after a change of the font.
     void forgetEstimates();
+    /// Of a folded section only its title is seen, if it has a shown row. Sections are open at first.
+    void setFolded(std::size_t section, bool folded) { sections_[section].folded = folded; }
     /// A row that is not shown takes no room. Rows are shown at first.
     void setShown(std::size_t row, bool shown) { rows_[row].shown = shown; }
 
@@ -56,9 +60,11 @@ public:
     std::size_t rowCount() const { return rows_.size(); }
     /// The number of sections.
     std::size_t sectionCount() const { return sections_.size(); }
-    /// Whether the row is shown.
-    bool isShown(std::size_t row) const { return rows_[row].shown; }
-    /// The number of shown rows.
+    /// Whether the section is folded.
+    bool isFolded(std::size_t section) const { return sections_[section].folded; }
+    /// Whether the row has a place: it is shown, and its section is not folded.
+    bool isShown(std::size_t row) const { return rows_[row].shown && !isFolded(rows_[row].section); }
+    /// The number of shown rows, in folded sections as well.
     std::size_t shownCount() const;
     /// The number of the row's section.
     std::size_t sectionOf(std::size_t row) const { return rows_[row].section; }
@@ -92,6 +98,7 @@ private:
         std::size_t rowCount = 0;
         int top = 0;
         int height = 0;
+        bool folded = false;
     };
     void arrange(Section& section);
 

@@ -73,6 +73,14 @@
         <source>%1 cannot be changed here.</source>
         <translation>%1 kann hier nicht geändert werden.</translation>
     </message>
+    <message>
+        <source>S&amp;how help</source>
+        <translation>&amp;Hilfe zeigen</translation>
+    </message>
+    <message>
+        <source>F1</source>
+        <translation>F1</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -130,6 +138,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::HelpView</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>F1 in a row shows what its parameter does.</source>
+        <translation>F1 in einer Zeile zeigt, was ihr Parameter tut.</translation>
     </message>
 </context>
 <context>

@@ -73,6 +73,14 @@
         <source>%1 cannot be changed here.</source>
         <translation>%1 ne peut pas être modifié ici.</translation>
     </message>
+    <message>
+        <source>S&amp;how help</source>
+        <translation>A&amp;fficher l’aide</translation>
+    </message>
+    <message>
+        <source>F1</source>
+        <translation>F1</translation>
+    </message>
 </context>
 <context>
     <name>RowTexts</name>
@@ -130,6 +138,17 @@
     <message>
         <source>%1: %2</source>
         <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>Talo::HelpView</name>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>F1 in a row shows what its parameter does.</source>
+        <translation>F1 dans une ligne montre ce que fait son paramètre.</translation>
     </message>
 </context>
 <context>

@@ -149,6 +149,21 @@ TEST_F(MainWindowTest, RawValuesAreShownOnDemand) {
     EXPECT_TRUE(raw->isHidden());
 }
 
+TEST_F(MainWindowTest, F1ShowsTheHelpOfTheRowInASideArea) {
+    ASSERT_TRUE(window->openNetwork(networkFile("help.json", R"({ "pools": ["only"], "objects": [
+        { "name": "lamp", "parameters": [ { "name": "on", "type": "bool", "value": true,
+          "properties": { "label": "Lit", "help": "Turns the <b>lamp</b> on." } } ] } ] })")));
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    auto const* const view = window->findChild<Talo::HelpView*>();
+    EXPECT_FALSE(view->isVisible());
+    box("on")->setFocus();
+    QTest::keyClick(box("on"), Qt::Key_F1);
+    EXPECT_TRUE(view->isVisible());
+    EXPECT_EQ(view->toPlainText(), QStringLiteral("Lit\nTurns the lamp on."));
+}
+
 TEST_F(MainWindowTest, AdvancedParametersAreShownOnDemandInAllViews) {
     ASSERT_TRUE(window->openNetwork(networkFile("advanced.json", R"({ "pools": ["only"], "objects": [
         { "name": "lamp", "parameters": [ { "name": "on", "type": "bool", "value": true },

@@ -139,6 +139,24 @@ TEST_F(SessionTest, EachNetworkHasItsOwnPoolAndObject) {
     EXPECT_EQ(pool(), QStringLiteral("shut"));
 }
 
+TEST_F(SessionTest, SectionsStayFoldedInTheirNetwork) {
+    follow();
+    auto const folded = [this] { return window->currentView()->panel()->rowArea()->foldedSections(); };
+    window->findChild<QAction*>(QStringLiteral("foldAll"))->trigger();
+    EXPECT_EQ(folded(), QStringList{QStringLiteral("housing")});
+    auto* const second = window->addView();
+    EXPECT_EQ(second->panel()->rowArea()->foldedSections(), folded());
+    second->panel()->rowArea()->foldAllSections(false);
+    EXPECT_EQ(folded(), QStringList()) << "all views of an object are folded alike";
+    second->panel()->rowArea()->foldAllSections(true);
+    ASSERT_TRUE(window->close());
+
+    start();
+    EXPECT_EQ(folded(), QStringList{QStringLiteral("housing")});
+    ASSERT_TRUE(window->openNetwork(networkFile("other.json", lamps)));
+    EXPECT_EQ(folded(), QStringList()) << "another network";
+}
+
 TEST_F(SessionTest, ForgetsWhatIsNotThereAnyMore) {
     follow();
     window->showObject(QStringLiteral("second lamp"));

@@ -3,6 +3,7 @@
 #include "support/TestHost.hpp"
 
 #include <lattice/TypedParameter.hpp>
+#include <parameters/commands/HelpView.hpp>
 #include <parameters/ParameterPanel.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
 #include <parameters/rows/RowArea.hpp>
@@ -122,11 +123,14 @@ TEST_F(ParameterPropertiesTest, TheUnitIsBehindTheEditor) {
     auto const speed = Parameter<int>("rpm", 40).min(0).max(100).unit("<b>rpm</b>");
     add(speed);
     add(Parameter<std::string>("name", "pump").unit("text"));
+    auto const power = makeParameter("power", Kolt::makeValue(3), {"dial"});
+    setProperty(power, "unit", Kolt::makeValue(std::string("kW")));
+    add(power);
     show();
     for (auto const direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         panel->setLayoutDirection(direction);
         QCoreApplication::processEvents();
-        for (auto const* const name : {"rpm", "name"}) {
+        for (auto const* const name : {"rpm", "name", "power"}) {
             auto const editor = row(name)->editor()->geometry();
             auto const unit = row(name)->unitLabel()->geometry();
             EXPECT_TRUE(row(name)->unitLabel()->isVisible());
@@ -226,6 +230,39 @@ TEST_F(ParameterPropertiesTest, AReadOnlyParameterIsShownAndNotEdited) {
     EXPECT_TRUE(control<QSlider>("rpm")->isEnabled());
     row("rpm")->resetToDefault();
     EXPECT_EQ(speed.read(), 40);
+}
+
+TEST_F(ParameterPropertiesTest, F1AsksForTheHelpWhichLoadsNothing) {
+    auto const speed = Parameter<int>("rpm", 40)
+                           .min(0)
+                           .max(100)
+                           .label("Speed & more")
+                           .help("See <a href=\"file:///etc/passwd\">the manual</a>.<img src=\"/etc/picture.png\">");
+    add(speed);
+    add(Parameter<bool>("on", false));
+    show();
+    panel->action(Command::ShowHelp);
+    std::vector<Kolt::ParameterPtr> requested;
+    QObject::connect(panel, &Talo::ParameterPanel::helpRequested, panel,
+                     [&](auto const& parameter) { requested.push_back(parameter); });
+    control<QCheckBox>("on")->setFocus();
+    QTest::keyClick(control<QCheckBox>("on"), Qt::Key_F1);
+    EXPECT_EQ(requested.size(), 0U) << "it has no help";
+    control<QSlider>("rpm")->setFocus();
+    QTest::keyClick(control<QSlider>("rpm"), Qt::Key_F1);
+    ASSERT_EQ(requested.size(), 1U);
+
+    auto* const view = new Talo::HelpView(parent);
+    view->setGeometry(0, 0, 400, 300);
+    view->show();
+    view->showHelp(*requested.front());
+    EXPECT_EQ(view->toPlainText(), QStringLiteral("Speed & more\nSee the manual."));
+    auto const before = view->toHtml();
+    QSignalSpy const clicked(view, &QTextBrowser::anchorClicked);
+    auto const place = view->cursorRect(view->document()->find("manual")).center();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place - QPoint(3, 0));
+    EXPECT_EQ(clicked.size(), 1) << "there is a link";
+    EXPECT_EQ(view->toHtml(), before);
 }
 
 TEST_F(ParameterPropertiesTest, ConditionsFollowTheOtherParameter) {

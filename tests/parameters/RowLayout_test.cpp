@@ -16,8 +16,8 @@ protected:
         layout.addSection();
         for (std::size_t const heightClass : {0, 1})
             layout.addRow(heightClass);
-        layout.setSectionMargins(0, {10, 3});
-        layout.setSectionMargins(1, {20, 5});
+        layout.setSectionMargins(0, {10, 3, 8});
+        layout.setSectionMargins(1, {20, 5, 16});
         layout.arrange();
     }
 
@@ -41,6 +41,27 @@ TEST_F(RowLayoutTest, RowsOfUnknownHeightAreBelowEachOther) {
     EXPECT_EQ(layout.totalHeight(), 125 + 87 + 9);
     EXPECT_EQ(layout.sectionOf(2), 0U);
     EXPECT_EQ(layout.sectionOf(3), 1U);
+}
+
+TEST_F(RowLayoutTest, OfAFoldedSectionOnlyTheTitleHasAPlace) {
+    layout.setFolded(0, true);
+    layout.arrange();
+    EXPECT_TRUE(layout.isFolded(0));
+    EXPECT_EQ(layout.sectionHeight(0), 8);
+    EXPECT_EQ(layout.sectionTop(1), 7 + 8 + 11);
+    EXPECT_FALSE(layout.isShown(1));
+    EXPECT_TRUE(layout.isShown(3));
+    EXPECT_EQ(layout.shownCount(), 5U) << "they are not hidden by a filter";
+    EXPECT_EQ(layout.firstRowBelow(15), 3U);
+    for (std::size_t const row : {0, 1, 2})
+        layout.setShown(row, false);
+    layout.arrange();
+    EXPECT_EQ(layout.sectionHeight(0), 0) << "without a shown row there is no title";
+    layout.setFolded(0, false);
+    layout.setShown(1, true);
+    layout.arrange();
+    EXPECT_EQ(layout.sectionHeight(0), 10 + 30 + 3);
+    EXPECT_TRUE(layout.isShown(1));
 }
 
 TEST_F(RowLayoutTest, AMeasuredRowIsTheEstimateForItsClassOnly) {

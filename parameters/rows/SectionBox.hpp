@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QGroupBox>
+#include <tessera/Export.hpp>
+
+namespace Talo {
+
+/// The frame around the rows of a section. One with a title can be folded: a click on the title asks for it. The box
+/// only shows the state; whoever owns the rows hides them. User-interface thread.
+class TALO_EXPORT SectionBox : public QGroupBox {
+    Q_OBJECT
+
+public:
+    /// An open box.
+    explicit SectionBox(QString const& title, QWidget* parent = nullptr);
+    ~SectionBox() override;
+
+    bool isFolded() const { return isFolded_; }
+    /// Shows an arrow that says whether the section is folded.
+    void setFolded(bool folded);
+    /// The height of a folded box, in pixels.
+    int foldedHeight() const;
+
+signals:
+    /// The title was clicked.
+    void foldRequested(bool folded);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    bool isOnTitle(QPoint const& place) const;
+
+    bool isFolded_ = false;
+    bool isPressed_ = false;
+};
+
+} // namespace Talo
