@@ -93,7 +93,7 @@ TEST_F(ParameterPanelTest, TextsOfAFileInToolTipsAreShownAsTheyAre) {
     auto const* const text = "<b>not bold</b><img src='/etc/passwd'>";
     label->setProperty("tooltip", Kolt::makeValue(std::string(text)), nullptr, nullptr, nullptr);
     ASSERT_TRUE(label.write(std::string(text)));
-    // An editor that shows a tool tip of its parameter sets it as it is.
+    // An editor sets its parameter's tool tip unchanged, markup included.
     field()->setToolTip(text);
     QHelpEvent event(QEvent::ToolTip, QPoint(3, 3), field()->mapToGlobal(QPoint(3, 3)));
     QApplication::sendEvent(field(), &event);
