@@ -116,7 +116,7 @@ TEST_F(WatchedInt, AllEditsOfAGestureAreOneStep) {
 TEST_F(WatchedInt, TheListenerMayEndTheParameterWhileItsEditIsTold) {
     WeakPtr<VParameter, ValueNotifierList> const weak(parameter);
     auto const connection = history.addListener([&] { parameter.reset(); });
-    // Nobody else holds the parameter while it tells.
+    // Only `parameter` owns the object, so that the listener destroys it during the notification.
     auto* const raw = parameter.get();
     auto const value = raw->ownValue();
     dynamic_cast<VValue<int>&>(*value).set(6);
@@ -219,7 +219,7 @@ TEST_F(EditRecorderTest, AGestureThatEndsWhereItBeganLeavesNoCopyInThePool) {
     EXPECT_TRUE(history.undo());
     EXPECT_EQ(parameter->getLocalValue(draft, std::string(), false), nullptr);
 
-    // What the host writes meanwhile stays.
+    // What the host writes during a gesture is kept.
     history.beginMacro();
     input.edit(5, draft);
     input.edit(1, draft);

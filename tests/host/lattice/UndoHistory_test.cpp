@@ -217,7 +217,7 @@ TEST_F(Undo, ForgetsInEveryLivingHistory) {
         history->add(step("gone"));
         history->add(step("kept"));
     }
-    // A listener may destroy a history that is not reached yet.
+    // A listener may destroy a history that has not been processed yet.
     auto brief = std::make_unique<UndoHistory>();
     auto const connection = other.addListener([&] { brief.reset(); });
     UndoHistory::forgetEverywhere([](VUndoAction const& action) { return action.description() == "gone"; });

@@ -39,7 +39,7 @@ PreferencesPtr set(Names const& names) {
     return PreferencesPtr(new VCreationPreferences(names));
 }
 
-/// Writes down what the host hears of registrations.
+/// Records the registrations that the host observes.
 struct Observer : Kolt::HostObserver {
     Observer() { setObserver(this); }
     ~Observer() override { setObserver(nullptr); }

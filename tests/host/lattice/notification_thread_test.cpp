@@ -31,7 +31,7 @@ CountingThread& thread() {
     return *thread;
 }
 
-/// Writes down what it sees when it is notified, and where.
+/// Records the content and the thread of each notification.
 struct Seeing : ValueNotifier {
     ~Seeing() override { stopNotifications(); }
     void onValueChange(ValuePtr const& value, Kolt::VContext const& context,

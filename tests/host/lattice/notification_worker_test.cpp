@@ -14,7 +14,7 @@ using Kolt::VParameter;
 using Kolt::VValue;
 using Tessera::StrongPtr;
 
-/// Leaves the delivery first thing, so that no worker finds it half destroyed.
+/// Calls stopNotifications() first in its destructor, so that no worker notifies a half-destroyed object.
 struct Leaving : ValueNotifier {
     explicit Leaving(std::atomic<int>& deliveries) : deliveries_(deliveries), text_("alive") {}
     ~Leaving() override { stopNotifications(); }
@@ -48,7 +48,7 @@ TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerTellsIt) {
         auto notifier = std::make_unique<Leaving>(deliveries_);
         int const before = deliveries_;
         parameter_->addNotifier(Tessera::WeakPtr<ValueNotifier>(notifier.get()));
-        // Destroyed while deliveries are certainly under way.
+        // Destroy it while deliveries are certainly running.
         while (deliveries_ == before)
             std::this_thread::yield();
         notifier.reset();
