@@ -17,7 +17,7 @@ protected:
     }
 
     QLineEdit* field() const { return window->findChild<QLineEdit*>(QStringLiteral("filter")); }
-    /// Types into the field as a user does, over what stands there.
+    /// Replaces the field's text by typing, as a user does.
     void look(char const* words) {
         field()->setFocus();
         field()->selectAll();

@@ -14,7 +14,7 @@ using testing::SizeIs;
 
 namespace {
 
-/// The name of a parameter, "/" and how it is edited.
+/// The test parameter is the name of a parameter, "/" and the way to edit it.
 class HistoryOfType : public HistoryTest, public testing::WithParamInterface<char const*> {
 protected:
     std::string name() const { return std::string(GetParam()).substr(0, std::string(GetParam()).find('/')); }
@@ -25,13 +25,13 @@ protected:
             FAIL() << "nobody knows how to edit " << way;
     }
 
-    /// What an editor shows of its value.
+    /// The texts and states that an editor shows.
     static QStringList shownBy(QWidget& editor) {
         QStringList shown;
         auto parts = editor.findChildren<QWidget*>();
         parts.prepend(&editor);
         for (auto* const part : std::as_const(parts)) {
-            // A dialog is not a part of what is shown, nor are the tools of a list.
+            // Skip dialogs and the tools of a list.
             if (part->window() != editor.window())
                 continue;
             if (auto* const view = qobject_cast<QListWidget*>(part)) {
@@ -56,7 +56,7 @@ protected:
     }
 
 private:
-    // Each makes one edit in the named way. False if it does not know the name.
+    // Each makes one edit in the named way, and returns false if it does not know the name.
     bool editsNumber(std::string const& way) {
         if (way == "int/drag")
             drag(slider("int"), {30, 30, -10});

@@ -113,7 +113,7 @@ TEST_F(MainWindowTest, SwitchingThePoolSwitchesEveryEditor) {
     EXPECT_TRUE(box("steady")->isChecked());
     QTest::mouseClick(box("on"), Qt::LeftButton);
     EXPECT_EQ(valueOf("lamp.on"), "false");
-    // Written into the pool that was chosen, and not into the value that stands behind it.
+    // Written to the chosen pool, not to the parameter's own value.
     set("lamp.on", "true");
     ASSERT_TRUE(window->choosePool(QStringLiteral("day")));
     EXPECT_EQ(poolSelector()->currentText(), QStringLiteral("day"));

@@ -22,7 +22,7 @@ protected:
         QApplication::clipboard()->clear();
     }
 
-    /// Asks for the context menu of a part of a row.
+    /// Opens the context menu of a part of a row.
     static QMenu* contextMenu(QWidget* part) {
         QContextMenuEvent event(QContextMenuEvent::Mouse, {1, 1}, part->mapToGlobal({1, 1}));
         QApplication::sendEvent(part, &event);

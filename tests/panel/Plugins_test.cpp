@@ -82,7 +82,7 @@ TEST_F(PluginsTest, AFileThatWentAwayIsToldAtReload) {
     ASSERT_TRUE(QFile::remove(copy));
     EXPECT_FALSE(plugins.reload(&error));
     EXPECT_THAT(error.toStdString(), HasSubstr(copy.toStdString()));
-    // The other one is back.
+    // The previous plug-in is loaded again.
     EXPECT_NE(box("on"), nullptr);
 
     action("reload")->trigger();

@@ -30,7 +30,7 @@ protected:
     bool isKept() const {
         return waitUntil([this] { return !kept().isEmpty(); });
     }
-    /// The panel ends without its close, and another one opens the file.
+    /// Destroys the panel without closing it, and opens the file in another one.
     void crash() {
         recovery.reset();
         window = std::make_unique<Panel::MainWindow>(plugins);
@@ -38,7 +38,7 @@ protected:
         window->show();
         recovery = std::make_unique<Panel::Recovery>(window->document(), states());
     }
-    /// Follows the recovery and answers the question by the button. Says whether there was one.
+    /// Starts the recovery and answers its question by the button. Returns whether it asked.
     bool answerQuestion(char const* button) {
         bool asked = false;
         QTimer timer;

@@ -20,7 +20,7 @@ protected:
         TaloTest::TearDown();
     }
 
-    /// Starts the panel in a language, with a network of one file name open.
+    /// Starts the panel in a language, with a network that has one file name.
     void start(char const* language, QString const& plugin = QStringLiteral(TALO_PLUGIN_FILE)) {
         window.reset();
         plugins.reset();

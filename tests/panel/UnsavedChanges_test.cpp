@@ -82,7 +82,7 @@ TEST_F(UnsavedChangesTest, SaveWritesAndCloses) {
 
 TEST_F(UnsavedChangesTest, AFailedSaveKeepsTheWindow) {
     edit();
-    // Nobody, not even root, can replace a folder by a file.
+    // Not even root can replace a folder by a file.
     ASSERT_TRUE(QFile::remove(file()));
     ASSERT_TRUE(QDir().mkpath(file() + QStringLiteral("/kept")));
     EXPECT_TRUE(close(QMessageBox::Save));
