@@ -246,7 +246,7 @@ TEST_F(QIntegerTest, AChangeFromElsewhereMovesTextAndHandleAndTheRememberedText)
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
     EXPECT_TRUE(undoTexts().empty());
 
-    // The cache follows, too: the next step goes back to what came from elsewhere.
+    // The cache follows, too: the next undo step restores the value from elsewhere.
     QTest::keyClick(slider(editor), Qt::Key_Right);
     EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 31"});
 }

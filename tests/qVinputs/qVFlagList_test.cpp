@@ -93,7 +93,7 @@ TEST_F(FlagListTest, AToggleCommitsTheStateOfAllBoxes) {
     auto const editor = open(parameter);
     record(parameter);
     {
-        // One box changes unnoticed; the next toggle writes both.
+        // Change one box without a signal; the next toggle writes both.
         QSignalBlocker const blocker(boxes(editor)[0]);
         boxes(editor)[0]->setChecked(true);
     }

@@ -337,7 +337,7 @@ TEST_F(SingleLineText, CarriesAMegabyte) {
     change(parameter, text);
     EXPECT_EQ(editor->text().size(), 1'000'000);
     QTest::keyClicks(editor, QStringLiteral("y"));
-    // Not EXPECT_EQ, which would print them.
+    // Not EXPECT_EQ, which would print the long texts.
     EXPECT_TRUE(textOf(parameter) == text + "y");
     EXPECT_EQ(edit(parameter)->text().size(), 1'000'001);
 }
