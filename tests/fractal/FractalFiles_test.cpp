@@ -117,7 +117,7 @@ TEST_F(FractalControllerTest, ABadPaletteAndABadFolderAreWarnedOf) {
     ASSERT_TRUE(waitUntil([&] { return warnings().size() == 1; }));
     EXPECT_THAT(warnings()[0], StartsWith(file.toStdString() + ":2: "));
     EXPECT_EQ(valueOf("colouring.palette"), "Embers");
-    // If the colours of that file are wanted, the preview shows the error, too.
+    // If the palette "From file" is selected, the preview shows the error, too.
     set("colouring.palette", "From file");
     ASSERT_TRUE(rests());
     EXPECT_THAT(preview()->text().toStdString(), StartsWith(file.toStdString() + ":2: "));

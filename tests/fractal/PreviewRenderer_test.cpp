@@ -28,7 +28,7 @@ protected:
     bool rests() const {
         return waitUntil([this] { return maker.isAtRest(); });
     }
-    /// The fine picture of a pool, computed here.
+    /// The fine picture of a pool, computed on this thread.
     QImage expected(Kolt::PoolPtr const& pool, QSize const& size = {120, 90}) const {
         std::atomic<bool> const cancelled{false};
         return Fractal::Picture::compute({settings(pool), size, true, 1}, Fractal::FractalRenderer(1), cancelled)
@@ -37,7 +37,7 @@ protected:
     }
 
     PreviewRenderer maker;
-    // For each picture that was shown, whether it was a fine one.
+    // For each picture that was shown, whether it was fine.
     std::vector<bool> shown;
 };
 
@@ -74,7 +74,7 @@ TEST_F(PreviewMakerTest, EveryParameterThatShapesThePictureIsFollowed) {
                                                            {"titles.legend", "A longer text."}};
     for (auto const& [name, text] : changes) {
         auto const before = maker.image();
-        // In the order of the list, so that the legend stands when its text changes.
+        // In this order, because the legend must be shown before its text changes.
         set(name, text);
         EXPECT_FALSE(maker.isAtRest()) << name;
         ASSERT_TRUE(rests()) << name;
@@ -137,7 +137,7 @@ TEST_F(PreviewMakerTest, AnotherSizeHasAnotherPicture) {
 
 TEST_F(PreviewMakerTest, AnOutdatedFinePictureIsCancelled) {
     ASSERT_TRUE(rests());
-    // This takes half a minute where it is not cancelled, and the coarse one not a second.
+    // The fine picture takes half a minute if it is not cancelled, the coarse one less than a second.
     maker.setSize({400, 300});
     set("formula.kind", "Burning ship");
     set("formula.iterations", "10000");

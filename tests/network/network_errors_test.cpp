@@ -26,7 +26,7 @@ QByteArray slotList(QByteArray const& text) {
            text + "\n] } ] }\n";
 }
 
-/// The same with one parameter "p", of which the rest is given.
+/// The same with one parameter "p"; `rest` follows its name.
 QByteArray parameter(QByteArray const& rest) {
     return parameters("{ \"name\": \"p\", " + rest + " }");
 }

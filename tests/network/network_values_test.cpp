@@ -69,8 +69,8 @@ TEST_F(Network, ASharedValueCanBeSetWithoutAPool) {
 struct SetTextRow {
     char const* name;
     QByteArray rest;
-    char const* accepted; ///< empty for a type that takes no text
-    char const* refused;  ///< null for a type that takes every text
+    char const* accepted; ///< empty for a type that accepts no text
+    char const* refused;  ///< null for a type that accepts every text
 };
 
 void PrintTo(SetTextRow const& row, std::ostream* stream) {
