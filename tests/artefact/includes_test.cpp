@@ -101,7 +101,7 @@ TEST_F(Includes, AreFoundInEverySpelling) {
     EXPECT_THAT(headersOf(source), testing::ElementsAre("a/b.hpp", "c.moc"));
 }
 
-TEST_F(Includes, AgainstTheDependenciesAreObjectedTo) {
+TEST_F(Includes, AgainstTheDependenciesAreRejected) {
     std::pair<char const*, char const*> const wrong[] = {{"tessera", "lattice/Value.hpp"},
                                                          {"lattice", "bramble/Color.hpp"},
                                                          {"bramble", "sorrel/QIconizer.hpp"},

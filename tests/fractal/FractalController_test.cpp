@@ -64,7 +64,7 @@ TEST_F(FractalControllerTest, AHandleThatMovesShowsCoarsePicturesAndTheFineOneWh
     EXPECT_NE(valueOf("formula.iterations"), "100");
 }
 
-TEST_F(FractalControllerTest, StartComputesThePictureAndTellsOfIt) {
+TEST_F(FractalControllerTest, StartComputesThePictureAndReportsIt) {
     EXPECT_TRUE(bar()->isHidden());
     start();
     EXPECT_FALSE(bar()->isHidden());

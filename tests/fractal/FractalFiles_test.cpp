@@ -79,7 +79,7 @@ TEST_F(FractalControllerTest, ChoosingAPaletteColoursThePicture) {
     EXPECT_FALSE(window->fractalController().renderQueue().isComputing());
 }
 
-TEST_F(FractalControllerTest, UndoOfChoosingAPaletteFileTakesItsChoiceBackInOneStep) {
+TEST_F(FractalControllerTest, UndoOfChoosingAPaletteFileAlsoRestoresThePaletteInOneStep) {
     auto const file = networkFile("reds.gpl", "GIMP Palette\nName: Reds\n255 0 0\n64 0 0\n");
     auto* const button = control<QPushButton>("exporter", "palette");
     auto const choose = [&] {

@@ -92,13 +92,13 @@ TEST_F(FractalFormulaTest, EveryPointGetsAnAnswer) {
     }
 }
 
-TEST_F(FractalFormulaTest, AnOrbitEndsWhereItHasGone) {
+TEST_F(FractalFormulaTest, AnOrbitEndsWhereItEscapes) {
     auto const mandelbrot = formula(Formula::Mandelbrot);
     EXPECT_EQ(mandelbrot.orbitOf({-1, 0}, 5), (std::vector<Point>{{0, 0}, {-1, 0}, {0, 0}, {-1, 0}, {0, 0}}));
     EXPECT_EQ(mandelbrot.orbitOf({3, 0}, 50), (std::vector<Point>{{0, 0}, {3, 0}, {12, 0}, {147, 0}}));
 }
 
-TEST_F(FractalFormulaTest, TheMiddleOfThePictureIsHomeAndTheZoomGoesToTheFocus) {
+TEST_F(FractalFormulaTest, TheCentreOfThePictureIsHomeAndTheZoomApproachesTheFocus) {
     settings.rotation = 0;
     FractalView const whole(settings, {80, 60});
     FractalFormula const mandelbrot(settings);

@@ -70,7 +70,7 @@ TEST_F(PictureTest, TheAxesAreWhereTheNumbersAreZero) {
     EXPECT_EQ(near(true), near(false));
 }
 
-TEST_F(PictureTest, AContourStandsWhereTheCountPassesItsLevel) {
+TEST_F(PictureTest, AContourIsDrawnWhereTheCountCrossesItsLevel) {
     auto const contour = [](int level) {
         return with([&](FractalSettings& settings) { settings.contours = {level}; });
     };

@@ -121,7 +121,7 @@ TEST_F(RenderQueueTest, TheWorkerItselfReportsItsStatus) {
     EXPECT_GT(parameter("render.status")->ownValue()->age(), age);
 }
 
-TEST_F(RenderQueueTest, WhatIsToldLastIsShownLastHoweverFastTheWorkerIs) {
+TEST_F(RenderQueueTest, TheFinalStatusIsShownLastHoweverFastTheWorkerIs) {
     Display const display(parameter("render.status"));
     for (int round = 0; round < 10; ++round) {
         auto const first = folder.filePath(QStringLiteral("%1 first.png").arg(round));
@@ -138,7 +138,7 @@ TEST_F(RenderQueueTest, WhatIsToldLastIsShownLastHoweverFastTheWorkerIs) {
     }
 }
 
-TEST_F(RenderQueueTest, TheInformationIsToldOnTheUserInterfaceThreadAlone) {
+TEST_F(RenderQueueTest, TheInformationIsNotifiedOnlyOnTheUserInterfaceThread) {
     Reports const progress(parameter("render.progress"));
     renderQueue.start(draft);
     ASSERT_TRUE(ends());
@@ -263,7 +263,7 @@ TEST_F(RenderQueueTest, TheNetworkMayGoWhileItIsComputed) {
     EXPECT_FALSE(renderQueue.isComputing());
 }
 
-TEST_F(RenderQueueTest, AWatcherMayGoWhileItIsToldOfTheStatus) {
+TEST_F(RenderQueueTest, AListenerMayBeDestroyedWhileItIsNotifiedOfTheStatus) {
     makeEndless();
     set("exporter.width", "64");
     set("formula.quality", "2");

@@ -58,7 +58,7 @@ TEST_F(NetworkDefaults, AnotherDefaultSavesNothing) {
     EXPECT_FALSE(loaded->isModified());
 }
 
-TEST_F(NetworkDefaults, SavingElsewhereGoesOnThere) {
+TEST_F(NetworkDefaults, SavingElsewhereContinuesWithThatFile) {
     auto const loaded = network(withParameters(R"(
         { "name": "p", "type": "int", "value": 1 },
         { "name": "a", "type": "action", "value": "Go", "properties": { "icon": "icons/go.png", "tooltip": "icons" } },

@@ -238,7 +238,7 @@ INSTANTIATE_TEST_SUITE_P(All, WrongNetworkFile, testing::ValuesIn(wrongFiles()),
 
 using NetworkFileErrors = NetworkFileTest;
 
-TEST_F(NetworkFileErrors, AMissingFileIsToldOfWithTheReason) {
+TEST_F(NetworkFileErrors, AMissingFileIsReportedWithTheReason) {
     auto const file = path("not there.json");
     auto const result = Talo::Network::load(file);
     EXPECT_EQ(result.network, nullptr);

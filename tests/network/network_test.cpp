@@ -86,7 +86,7 @@ TEST_F(Network, TheNameDecidesWhetherANumberIsIntOrDouble) {
     EXPECT_EQ(bytesOf(path("saved again.json")), bytesOf(path("saved.json")));
 }
 
-TEST_F(Network, TextPropertiesAreKeptAsTheyStand) {
+TEST_F(Network, TextPropertiesAreKeptUnchanged) {
     auto const read = network(
         withParameters(R"({ "name": "p", "type": "string", "value": "", "properties": { "inputmask": "999-999;_",)"
                        R"( "tooltip": "1", "Extension": "*.gpl" } })"));

@@ -24,7 +24,7 @@ public:
     Kolt::PoolPtr pool;
 };
 
-TEST_F(Network, SettingAValueTellsEverybodyOnceAndRenewsItsAge) {
+TEST_F(Network, SettingAValueNotifiesEverybodyOnceAndRenewsItsAge) {
     auto const read = network(withParameters(R"({ "name": "p", "type": "int", "value": 1 })"));
     auto const parameter = parameterOf(*read);
     Listener first(parameter);

@@ -114,7 +114,7 @@ TEST_F(AccessibilityTest, AControlWithACaptionIsNamedByBoth) {
     EXPECT_EQ(name(window->currentView()->row(QStringLiteral("picture"))->editor()), "picture: Save as");
 }
 
-TEST_F(AccessibilityTest, AnExplanationIsToldWithTheDescription) {
+TEST_F(AccessibilityTest, AnExplanationIsPartOfTheDescription) {
     window->showObject(QStringLiteral("render"));
     EXPECT_EQ(description(window->currentView()->row(QStringLiteral("start"))->editor()),
               "render.start, type action\nCompute the picture anew in the chosen pool");
@@ -136,7 +136,7 @@ TEST_F(AccessibilityTest, TheNameOfARowIsTheLabelOfItsEditor) {
     });
 }
 
-TEST_F(AccessibilityTest, TabAloneComesByEveryControl) {
+TEST_F(AccessibilityTest, TabReachesEveryControl) {
     for (auto const& object : window->network()->objects()) {
         SCOPED_TRACE(object->Name());
         ASSERT_TRUE(window->showObject(QString::fromStdString(object->Name())));

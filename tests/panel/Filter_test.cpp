@@ -124,7 +124,7 @@ TEST_F(FilterTest, HoldsForViewsMadeLaterAndNotForAnotherNetwork) {
     EXPECT_THAT(objects(), ElementsAre("lamp", "second lamp"));
 }
 
-TEST_F(FilterTest, WithoutAFindSaysSo) {
+TEST_F(FilterTest, WithoutAMatchSaysSo) {
     look("nowhere");
     EXPECT_THAT(parameters(), IsEmpty());
     EXPECT_TRUE(window->currentView()->findChild<QLabel*>(QStringLiteral("emptyNote"))->isVisible());

@@ -172,7 +172,7 @@ TEST_F(GalleryTest, AnEditOfADeadParameterSaysSo) {
     }
 }
 
-TEST_F(GalleryTest, WithoutAPoolAnEditStoresNothingAndTellsNobody) {
+TEST_F(GalleryTest, WithoutAPoolAnEditStoresNothingAndNotifiesNobody) {
     auto* const page = open(GalleryState::NoPool);
     for (auto const& editorCase : editorCases()) {
         if (!editorCase.edit)
@@ -210,7 +210,7 @@ TEST_F(GalleryTest, AValueOfAnotherTypeIsLeftAlone) {
                 HasSubstr("QInteger could not initialize value."));
 }
 
-TEST_F(GalleryTest, TellsOfActionsAndOfPrintedLines) {
+TEST_F(GalleryTest, ReportsActionsAndPrintedLines) {
     auto const* const page = open(GalleryState::Normal);
     gallery->tapStandardOutput();
     auto const action = std::find_if(editorCases().begin(), editorCases().end(),
@@ -260,7 +260,7 @@ TEST_F(GalleryTest, ShowsCreatorsOfAnyPlugin) {
 
 using GalleryWithoutPlugins = TaloTest;
 
-TEST_F(GalleryWithoutPlugins, StandsEmpty) {
+TEST_F(GalleryWithoutPlugins, IsEmpty) {
     Panel::Gallery gallery;
     EXPECT_TRUE(gallery.showState(GalleryState::PerPool)->rows().empty());
 }

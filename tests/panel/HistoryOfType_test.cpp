@@ -138,7 +138,7 @@ private:
 
 } // namespace
 
-TEST_P(HistoryOfType, AnEditIsOneStepThatGoesBackAndForth) {
+TEST_P(HistoryOfType, AnEditIsOneStepThatCanBeUndoneAndRedone) {
     edit();
     auto const edited = valuesNow();
     EXPECT_NE(edited, text);
@@ -154,7 +154,7 @@ TEST_P(HistoryOfType, AnEditIsOneStepThatGoesBackAndForth) {
     EXPECT_TRUE(window->messages()->texts(Panel::MessageList::Source::Error).isEmpty());
 }
 
-TEST_P(HistoryOfType, EveryViewShowsWhatHoldsAfterUndoAndRedo) {
+TEST_P(HistoryOfType, EveryViewShowsTheValueAfterUndoAndRedo) {
     auto* const second = window->addView();
     auto const parameter = QString::fromStdString(name());
     edit();
@@ -174,7 +174,7 @@ TEST_P(HistoryOfType, EveryViewShowsWhatHoldsAfterUndoAndRedo) {
     EXPECT_EQ(agree(), before);
 }
 
-TEST_P(HistoryOfType, AnEditInAPoolGoesBackWhicheverPoolIsChosen) {
+TEST_P(HistoryOfType, AnEditInAPoolIsUndoneWhicheverPoolIsChosen) {
     auto json = QByteArray(values).replace("\"type\": ", "\"perPool\": true, \"type\": ");
     QString error;
     ASSERT_TRUE(window->openNetwork(networkFile("pools.json", json.constData()), &error)) << qPrintable(error);

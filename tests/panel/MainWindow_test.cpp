@@ -168,7 +168,7 @@ TEST_F(MainWindowTest, AdvancedParametersAreShownOnDemandInAllViews) {
     EXPECT_FALSE(isShown(second));
 }
 
-TEST_F(MainWindowTest, UndoNamesTheLatestStepAndTakesItBack) {
+TEST_F(MainWindowTest, UndoNamesAndRevertsTheLatestStep) {
     EXPECT_FALSE(action("undo")->isEnabled());
     int undone = 0;
     addStep("Set int value to 7 & more", true, undone);
@@ -179,7 +179,7 @@ TEST_F(MainWindowTest, UndoNamesTheLatestStepAndTakesItBack) {
     EXPECT_FALSE(action("undo")->isEnabled());
 }
 
-TEST_F(MainWindowTest, AStepThatCanNoLongerBeTakenBackIsTold) {
+TEST_F(MainWindowTest, AStepThatCanNoLongerBeUndoneIsReported) {
     int undone = 0;
     addStep("Set int value to 7", false, undone);
     action("undo")->trigger();
@@ -210,7 +210,7 @@ TEST_F(MainWindowTest, ABrokenFileLeavesEverythingOpenAsItWas) {
     EXPECT_EQ(window->network(), network);
 }
 
-TEST_F(MainWindowTest, ABrokenFileChosenInTheMenuIsToldInABox) {
+TEST_F(MainWindowTest, ABrokenFileChosenInTheMenuIsReportedInABox) {
     auto const file = networkFile("broken.json", "{ \"pools\": <7> }");
     auto const* const network = window->network();
     QTimer::singleShot(0, [&] {
@@ -228,7 +228,7 @@ TEST_F(MainWindowTest, ABrokenFileChosenInTheMenuIsToldInABox) {
     EXPECT_TRUE(waitUntil([&] { return box.isNull(); }));
 }
 
-TEST_F(MainWindowTest, UndoTakesAnEditOfAnotherObjectBack) {
+TEST_F(MainWindowTest, UndoRevertsAnEditOfAnotherObject) {
     window->showObject(QStringLiteral("second lamp"));
     auto* const number = window->currentView()->row(QStringLiteral("level"))->editor()->findChild<QAbstractSlider*>();
     ASSERT_NE(number, nullptr);
@@ -275,7 +275,7 @@ TEST_F(MainWindowTest, SavedValuesAreThereWhenTheFileIsOpened) {
     EXPECT_FALSE(box("steady")->isChecked());
 }
 
-TEST_F(MainWindowTest, AFileThatCannotBeWrittenIsTold) {
+TEST_F(MainWindowTest, AFileThatCannotBeWrittenIsReported) {
     QString error;
     EXPECT_FALSE(window->saveValues(folder.filePath(QStringLiteral("missing/saved.json")), &error));
     EXPECT_FALSE(error.isEmpty());

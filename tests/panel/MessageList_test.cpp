@@ -51,7 +51,7 @@ TEST_F(MessageListTest, ForgetsTheOldestBeyondItsCapacity) {
     EXPECT_EQ(list.texts().constLast(), QString::number(Panel::MessageList::Capacity));
 }
 
-TEST_F(StandardOutputTapTest, TellsLinesAndPassesThemOn) {
+TEST_F(StandardOutputTapTest, ReportsLinesAndPassesThemOn) {
     {
         Panel::StandardOutputTap tap;
         listenTo(tap);

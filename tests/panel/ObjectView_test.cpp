@@ -132,7 +132,7 @@ TEST_F(ObjectViewTest, ADeletedParameterLeavesItsRowUsableWithANote) {
     EXPECT_TRUE(box("on")->isChecked());
 }
 
-TEST_F(ObjectViewTest, AnObjectThatIsGoneLeavesItsViewStanding) {
+TEST_F(ObjectViewTest, TheViewOfADestroyedObjectStaysOpen) {
     Panel::ObjectView* view = nullptr;
     QWidget parent;
     {

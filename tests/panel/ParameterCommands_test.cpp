@@ -91,7 +91,7 @@ TEST_F(ParameterCommandsTest, TheDotIsAboutTheChosenPool) {
     EXPECT_EQ(valuesNow(), text) << "a pool that had no value of its own has none again";
 }
 
-TEST_F(ParameterCommandsTest, TheDotResetsByMouseAndKeyboardAndUndoTakesItBack) {
+TEST_F(ParameterCommandsTest, TheDotResetsByMouseAndKeyboardAndUndoRevertsIt) {
     click(choice("Blue"));
     QTest::mouseClick(marker("enum"), Qt::LeftButton);
     EXPECT_EQ(held("enum"), "Red");

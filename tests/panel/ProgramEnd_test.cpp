@@ -110,7 +110,7 @@ TEST_F(ProgramEndTest, AKilledPanelLeavesWhatItKept) {
     EXPECT_EQ(keptLevel(), QJsonValue(42));
 }
 
-TEST_F(ProgramEndTest, AReaderOfItsOutputThatGoesEndsNothing) {
+TEST_F(ProgramEndTest, AClosedOutputPipeDoesNotEndTheProgram) {
     start("offscreen");
     program.closeReadChannel(QProcess::StandardOutput);
     ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), SIGPIPE), 0);

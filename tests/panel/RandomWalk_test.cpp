@@ -107,7 +107,7 @@ TEST_F(RandomWalkTest, AgreesAtTheStart) {
     EXPECT_EQ(compared, 8);
 }
 
-TEST_F(RandomWalkTest, FindsAValueThatNobodyWasToldOf) {
+TEST_F(RandomWalkTest, FindsAValueThatWasNotNotified) {
     auto const iterations = parameter("formula.iterations");
     iterations->getLocalValue(window->pools().pool(), std::string(), false)->setValueFromText("123");
     EXPECT_THAT(disagreements(*window), ElementsAre(HasSubstr("formula.iterations shows \"100\", not \"123\"")));
@@ -120,7 +120,7 @@ TEST_F(RandomWalkTest, FindsAHandleThatStaysBehind) {
     EXPECT_THAT(disagreements(*window), ElementsAre(HasSubstr("formula.iterations a handle at 300, not 100")));
 }
 
-TEST_F(RandomWalkTest, FindsAnEditThatIsNotTakenBack) {
+TEST_F(RandomWalkTest, FindsAnEditThatUndoDoesNotRevert) {
     RandomWalk walk(*window, plugins, folder.path(), 1);
     ASSERT_EQ(walk.settle(), "");
     EXPECT_THAT(walk.goBackAndForth(), IsEmpty());

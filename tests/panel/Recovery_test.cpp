@@ -82,7 +82,7 @@ TEST_F(RecoveryTest, ForgetsWhatIsSaved) {
     EXPECT_TRUE(kept().isEmpty());
 }
 
-TEST_F(RecoveryTest, GivesBackWhatAPanelLeftBehind) {
+TEST_F(RecoveryTest, RestoresValuesThatAPanelLeftBehind) {
     edit();
     set("all.int", "99");
     recovery->write();
@@ -110,7 +110,7 @@ TEST_F(RecoveryTest, GivesUpWhatIsDiscarded) {
     EXPECT_FALSE(answerQuestion("discard"));
 }
 
-TEST_F(RecoveryTest, WhatNobodyDecidedUponStays) {
+TEST_F(RecoveryTest, ValuesWithoutADecisionAreKept) {
     edit();
     recovery->write();
     crash();
@@ -120,7 +120,7 @@ TEST_F(RecoveryTest, WhatNobodyDecidedUponStays) {
     EXPECT_EQ(held("enum"), "Blue");
 }
 
-TEST_F(RecoveryTest, WhatTheFileNoLongerHasIsTold) {
+TEST_F(RecoveryTest, WhatTheFileNoLongerHasIsReported) {
     edit();
     set("all.int", "99");
     recovery->write();
@@ -168,7 +168,7 @@ TEST_F(RecoveryTest, AnotherNetworkHasFilesOfItsOwn) {
     EXPECT_TRUE(keptValues().contains("lamp.steady"));
 }
 
-TEST_F(RecoveryTest, AFullDiskIsToldOnce) {
+TEST_F(RecoveryTest, AFullDiskIsReportedOnce) {
     QStringList reasons;
     QObject::connect(recovery.get(), &Panel::Recovery::failed, [&](QString const& reason) { reasons << reason; });
     edit();

@@ -60,13 +60,13 @@ protected:
 
 } // namespace
 
-TEST_F(SessionTest, WithoutAFileTheWindowStandsAsItIs) {
+TEST_F(SessionTest, WithoutAFileTheWindowIsUnchanged) {
     follow();
     expectUntouched();
     EXPECT_FALSE(QFile::exists(file)) << "there is nothing to keep yet";
 }
 
-TEST_F(SessionTest, BringsBackHowTheWindowStood) {
+TEST_F(SessionTest, RestoresTheStateOfTheWindow) {
     follow();
     window->showObject(QStringLiteral("second lamp"));
     window->choosePool(QStringLiteral("night"));
@@ -90,7 +90,7 @@ TEST_F(SessionTest, BringsBackHowTheWindowStood) {
     EXPECT_EQ(failures, QStringList());
 }
 
-TEST_F(SessionTest, BringsBackFurtherViewsAndWhereTheyWere) {
+TEST_F(SessionTest, RestoresAdditionalViewsAndTheirPlaces) {
     follow();
     window->showObject(QStringLiteral("second lamp"));
     auto* const floating = qobject_cast<QDockWidget*>(window->addView()->parentWidget());
@@ -218,7 +218,7 @@ TEST_F(SessionTest, AWindowThatWasOffTheScreenComesBackOntoIt) {
     EXPECT_TRUE(window->screen()->availableGeometry().intersects(window->frameGeometry()));
 }
 
-TEST_F(SessionTest, AFileThatCannotBeWrittenIsToldAndTheWindowCloses) {
+TEST_F(SessionTest, AFileThatCannotBeWrittenIsReportedAndTheWindowCloses) {
     // A folder has the file's name.
     ASSERT_TRUE(QDir().mkpath(file));
     follow();

@@ -142,7 +142,7 @@ TEST_F(TranslationsTest, APluginWithoutATranslationSpeaksEnglish) {
     EXPECT_EQ(button(), "Save as");
 }
 
-TEST_F(TranslationsTest, AFileThatIsNoTranslationIsTold) {
+TEST_F(TranslationsTest, AFileThatIsNoTranslationIsReported) {
     auto const plugin = copyOfPlugin();
     QFile file(folder.filePath(QStringLiteral("qtalo_inputs_de.qm")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -127,7 +127,7 @@ TEST_F(UnsavedChangesTest, OpeningAnotherNetworkAsksFirst) {
     EXPECT_FALSE(window->isWindowModified());
 }
 
-TEST_F(UnsavedChangesTest, SavingUnderAnotherNameGoesOnWithThatFile) {
+TEST_F(UnsavedChangesTest, SavingUnderAnotherNameContinuesWithThatFile) {
     auto const before = bytesOf(file());
     edit();
     EXPECT_TRUE(row("enum")->modifiedIndicator()->isVisible());

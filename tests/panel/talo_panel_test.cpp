@@ -80,7 +80,7 @@ TEST_F(TaloPanel, OutputThatCannotBeWrittenIsAFailureWithAReason) {
     }
 }
 
-TEST_F(TaloPanel, AReaderThatIsGoneIsAFailureAndNoSignal) {
+TEST_F(TaloPanel, AClosedOutputPipeIsAFailureAndNoSignal) {
     // The reader has ended before the program writes to the pipe.
     auto const script = QStringLiteral("exec 3> >(exit); wait $!; \"$0\" --values >&3");
     EXPECT_EQ(run({QStringLiteral("-c"), script, QStringLiteral(TALO_PANEL)}, QStringLiteral("bash")), 2);
@@ -299,7 +299,7 @@ TEST_F(TaloPanel, LaysThePanelOutFromRightToLeft) {
     EXPECT_LT(brightness(mirrored, true), brightness(mirrored, false)) << "with translations, too";
 }
 
-TEST_F(TaloPanel, ACallThatEndsByItselfLeavesTheSessionAlone) {
+TEST_F(TaloPanel, ABatchCallLeavesTheSessionAlone) {
     auto const settings = QDir::home().filePath(QStringLiteral("config/talo/talo_panel.ini"));
     ASSERT_EQ(qgetenv("XDG_CONFIG_HOME"), QFile::encodeName(QDir::home().filePath(QStringLiteral("config"))));
     auto const file = folder.filePath(QStringLiteral("panel.png"));

@@ -55,7 +55,7 @@ protected:
 
 } // namespace
 
-TEST_F(InputFilterTest, IsOneForAllWhoHoldIt) {
+TEST_F(InputFilterTest, IsSharedByAllHolders) {
     auto const* const first = filter.get();
     EXPECT_EQ(Talo::InputFilter::shared().get(), first);
     QPointer<QObject> const watched(filter.get());

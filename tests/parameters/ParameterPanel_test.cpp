@@ -140,7 +140,7 @@ TEST_F(ParameterPanelTest, ADragIsOneStep) {
     EXPECT_THAT(history.steps(), SizeIs(1));
 }
 
-TEST_F(ParameterPanelTest, FiltersAndTellsSo) {
+TEST_F(ParameterPanelTest, FiltersAndSignalsAChange) {
     QSignalSpy const changes(panel, &Talo::ParameterPanel::filterChanged);
     panel->setProperty("filter", QStringLiteral("lev"));
     EXPECT_EQ(panel->filter(), QStringLiteral("lev"));
@@ -185,7 +185,7 @@ TEST_F(ParameterPanelTest, FiltersByTheValuesOfTheShownPool) {
     EXPECT_EQ(panel->rowArea()->shownCount(), 1);
 }
 
-TEST_F(ParameterPanelTest, OnlyOtherWordsScrollToTheTop) {
+TEST_F(ParameterPanelTest, OnlyANewFilterScrollsToTheTop) {
     panel->resize(600, 60);
     auto* const bar = panel->rowArea()->verticalScrollBar();
     EXPECT_TRUE(waitUntil([&] { return bar->maximum() > 0; }));

@@ -85,7 +85,7 @@ TEST_F(WheelGuardTest, AControlThatTheEditorGetsLaterIsGuardedToo) {
     EXPECT_EQ(comboBox->currentIndex(), 1);
 }
 
-TEST_F(WheelGuardTest, AListThatFoldsOutScrollsByItself) {
+TEST_F(WheelGuardTest, TheWheelScrollsAnOpenDropDownList) {
     auto* const comboBox = new QComboBox;
     for (int number = 0; number < 100; ++number)
         comboBox->addItem(QString::number(number));

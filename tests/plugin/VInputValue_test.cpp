@@ -116,7 +116,7 @@ TEST_F(VInputValueTest, SetRefusesASharedValueOfAnotherType) {
     EXPECT_EQ(parameter->ownValue()->Text(), "text");
 }
 
-TEST_F(VInputValueTest, TheSourceIsNotToldUnlessItAsksToBe) {
+TEST_F(VInputValueTest, TheSourceIsNotNotifiedUnlessItAsksToBe) {
     auto const parameter = boolean();
     auto const editor = open(parameter);
     auto* const box = editor.widget->findChild<QCheckBox*>();

@@ -101,7 +101,7 @@ protected:
     RecordingNotifier recorder;
 };
 
-class WholeNumbersTest : public NumbersTest {
+class IntegersTest : public NumbersTest {
 protected:
     void change(int number) override {
         EXPECT_TRUE(Kolt::setParameterValue(*parameter, number, firstPool, std::string(), true, nullptr, nullptr));
@@ -110,7 +110,7 @@ protected:
     QString expectedText() override { return QString::fromStdString(parameter->ownValue()->Text()); }
 };
 
-class RealNumbersTest : public NumbersTest {
+class FloatingPointNumbersTest : public NumbersTest {
 protected:
     void change(int number) override {
         EXPECT_TRUE(
@@ -122,7 +122,7 @@ protected:
 
 } // namespace
 
-TEST_F(WholeNumbersTest, AllEditorsAndTheIconEndWithWhatTheParameterHolds) {
+TEST_F(IntegersTest, AllEditorsAndTheIconEndWithWhatTheParameterHolds) {
     openEditors(makeParameter("count", Kolt::makeValue(20)), {"int", "intDial", "intDialPeriodic"});
     ASSERT_EQ(icons.size(), 3U);
     for (int round = 0; round < 20; ++round) {
@@ -137,7 +137,7 @@ TEST_F(WholeNumbersTest, AllEditorsAndTheIconEndWithWhatTheParameterHolds) {
     }
 }
 
-TEST_F(RealNumbersTest, AllEditorsEndWithWhatTheParameterHolds) {
+TEST_F(FloatingPointNumbersTest, AllEditorsEndWithWhatTheParameterHolds) {
     auto const real = makeParameter("scale", Kolt::makeValue(0.5));
     real->setProperty("increment", Kolt::makeValue(1000.0), nullptr, nullptr, nullptr);
     openEditors(real, {"double", "FltDial", "Periodic FltDial"});

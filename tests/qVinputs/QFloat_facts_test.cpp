@@ -96,7 +96,7 @@ TEST_F(QFloatFactsTest, TheAccessibleValueIsTheNumber) {
     }
 }
 
-TEST_F(QFloatFactsTest, OtherSlidersTellTheirPosition) {
+TEST_F(QFloatFactsTest, OtherSlidersReportTheirPosition) {
     auto const editor = open(real(0.25));
     QSlider plain(Qt::Horizontal);
     plain.setValue(7);

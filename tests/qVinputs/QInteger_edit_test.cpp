@@ -114,7 +114,7 @@ TEST_F(QIntegerTest, ATypedNumberForAParameterThatIsGonePrintsOneLine) {
     EXPECT_TRUE(undoTexts().empty());
 }
 
-TEST_F(QIntegerTest, AParameterThatGoesWhileATypedNumberIsToldPrintsOneLine) {
+TEST_F(QIntegerTest, AParameterThatDiesWhileATypedNumberIsNotifiedPrintsOneLine) {
     for (char const* const typed : {"33", "500"}) {
         auto parameter = bounded(20, 0, 100);
         auto const editor = open(parameter);

@@ -115,7 +115,7 @@ TEST_F(QIntegerTest, TheMissingBoundsOfADialAre0And360) {
     EXPECT_EQ(text(editor), "1000");
 }
 
-TEST_F(QIntegerTest, BoundsThatStandAreKept) {
+TEST_F(QIntegerTest, ExistingBoundsAreKept) {
     auto const parameter = bounded(7, -20, 20);
     record(parameter);
     auto const editor = open(parameter);

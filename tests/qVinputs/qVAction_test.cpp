@@ -233,7 +233,7 @@ TEST_F(qVActionTest, PropertiesThatAreNoTextsAreIgnored) {
     EXPECT_TRUE(editor.widget->toolTip().isEmpty());
 }
 
-TEST_F(qVActionTest, AClickFiresOnceInThePoolOfTheMoment) {
+TEST_F(qVActionTest, AClickFiresOnceInTheCurrentPool) {
     auto const parameter = actionParameter("render.stop");
     auto const editor = open(parameter);
     EXPECT_TRUE(firedPools.empty());

@@ -73,7 +73,7 @@ TEST_F(FlagListTest, TheBoxesStandInTheOrderOfTheNamesWhateverCameFirst) {
     EXPECT_FALSE(boxes(editor)[3]->isChecked());
 }
 
-TEST_F(FlagListTest, TheTabKeyGoesFromBoxToBoxAsTheyStand) {
+TEST_F(FlagListTest, TheTabKeyFollowsTheOrderOfTheBoxes) {
     auto const parameter = parameterOf(FlagList{{"b", false}, {"d", false}});
     auto const editor = open(parameter);
     setElsewhere(parameter, FlagList{{"a", false}, {"c", false}});

@@ -207,7 +207,7 @@ TEST_F(SingleLineText, KeepsATextBeingTypedWhenAPropertyChanges) {
     EXPECT_EQ(editor->text(), QStringLiteral("abcdef"));
 }
 
-TEST_F(SingleLineText, KeepsItsCursorWhenItIsToldTheTextThatItShows) {
+TEST_F(SingleLineText, KeepsItsCursorWhenItIsNotifiedOfTheTextThatItShows) {
     auto const parameter = makeText("abcdef");
     auto* const editor = edit(parameter);
     editor->setCursorPosition(2);

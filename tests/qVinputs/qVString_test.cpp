@@ -134,7 +134,7 @@ TEST_F(MultiLineText, CommitsAlsoWhatDidNotChange) {
     EXPECT_EQ(parameter->ownValue()->age(), before + 2);
 }
 
-TEST_F(MultiLineText, KeepsCursorAndSelectionWhenToldOfItsOwnCommit) {
+TEST_F(MultiLineText, KeepsCursorAndSelectionWhenNotifiedOfItsOwnCommit) {
     auto const parameter = makeText("one two three");
     auto* const editor = edit(parameter);
     auto cursor = editor->textCursor();

@@ -102,7 +102,7 @@ TEST_F(RichTexts, LoadNothingWhateverTheyContain) {
     EXPECT_GT(loading, 100) << "of the texts themselves many load something";
 }
 
-TEST_F(RichTexts, AreToldFromPlainOnesAsByQt) {
+TEST_F(RichTexts, AreDistinguishedFromPlainTextsAsByQt) {
     std::mt19937 random(8);
     int rich = 0;
     for (int round = 0; round < 50'000; ++round) {

@@ -12,7 +12,7 @@ using testing::SizeIs;
 
 } // namespace
 
-TEST_F(WatchedInt, AnEditIsAStepThatGoesBackAndForth) {
+TEST_F(WatchedInt, AnEditIsAStepThatCanBeUndoneAndRedone) {
     EXPECT_TRUE(parameter->isWatched());
     EXPECT_TRUE(input.edit(5, nullptr));
     EXPECT_THAT(names(), ElementsAre("p: 1 → 5"));
@@ -113,7 +113,7 @@ TEST_F(WatchedInt, AllEditsOfAGestureAreOneStep) {
     EXPECT_EQ(text(parameter), "1");
 }
 
-TEST_F(WatchedInt, TheListenerMayEndTheParameterWhileItsEditIsTold) {
+TEST_F(WatchedInt, TheListenerMayDestroyTheParameterWhileItsEditIsNotified) {
     WeakPtr<VParameter, ValueNotifierList> const weak(parameter);
     auto const connection = history.addListener([&] { parameter.reset(); });
     // Only `parameter` owns the object, so that the listener destroys it during the notification.
@@ -166,7 +166,7 @@ TEST_F(WatchedInt, ACommandOfTheHostIsAStep) {
     EXPECT_EQ(text(parameter), "1");
 }
 
-TEST_F(EditRecorderTest, AStepGoesBackInThePoolOfTheEdit) {
+TEST_F(EditRecorderTest, AStepIsUndoneInThePoolOfTheEdit) {
     auto const parameter = makeParameter(1, VParameter::Values::PerPool);
     parameter->setLocalValue(draft, makeValue(2));
     SmallInput input{parameter};
@@ -186,7 +186,7 @@ TEST_F(EditRecorderTest, AStepGoesBackInThePoolOfTheEdit) {
     EXPECT_EQ(parameter->ownValue()->Text(), "1");
 }
 
-TEST_F(EditRecorderTest, AnEditThatOnlyCopiesTheOwnValueIntoThePoolGoesBackWithTheNextStep) {
+TEST_F(EditRecorderTest, AnEditThatOnlyCopiesTheOwnValueIntoThePoolIsUndoneWithTheNextStep) {
     auto const parameter = makeParameter(1, VParameter::Values::PerPool);
     SmallInput input{parameter};
     auto const recorder = EditRecorder::watch(parameter);

@@ -80,7 +80,7 @@ private:
     std::mt19937 random_{20230329};
 };
 
-TEST_F(RandomEdits, GoBackToTheStartAndForthAgain) {
+TEST_F(RandomEdits, CanAllBeUndoneAndRedone) {
     auto const start = state();
     for (int count = 0; count < 20000; ++count) {
         step();

@@ -155,7 +155,7 @@ TEST_F(NotificationThreads, DeliverToOneNotifierAtLeastAndAskForMoreTime) {
     EXPECT_THAT(other.numbers, testing::ElementsAre(1));
 }
 
-TEST_F(NotificationThreads, LeaveReportsToTheWorkerWhenTheyAreGone) {
+TEST_F(NotificationThreads, AfterTheirRemovalLeaveReportsToTheWorker) {
     NotificationThread::install(nullptr);
     onWorker([&] { set(1); });
     EXPECT_THAT(notifier_.numbers, testing::ElementsAre(1));

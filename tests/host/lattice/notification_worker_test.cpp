@@ -37,7 +37,7 @@ protected:
     std::atomic<int> deliveries_{0};
 };
 
-TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerTellsIt) {
+TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerNotifiesIt) {
     std::atomic<bool> stop{false};
     std::thread worker([&] {
         int round = 0;
@@ -59,7 +59,7 @@ TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerTellsIt) {
     EXPECT_EQ(parameter_->size(), 0U);
 }
 
-TEST_F(NotificationByWorkers, NobodyIsToldAfterLeaving) {
+TEST_F(NotificationByWorkers, NobodyIsNotifiedAfterStopping) {
     Leaving notifier(deliveries_);
     parameter_->addNotifier(Tessera::WeakPtr<ValueNotifier>(&notifier));
     std::thread([&] {
@@ -73,7 +73,7 @@ TEST_F(NotificationByWorkers, NobodyIsToldAfterLeaving) {
     EXPECT_EQ(deliveries_, 1);
 }
 
-TEST_F(NotificationByWorkers, WorkersMayExtendAListThatIsBeingTold) {
+TEST_F(NotificationByWorkers, WorkersMayExtendAListThatIsBeingNotified) {
     std::thread adding([&] {
         for (int round = 0; round < 200; ++round) {
             Leaving notifier(deliveries_);

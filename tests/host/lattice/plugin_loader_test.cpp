@@ -65,7 +65,7 @@ TEST_F(PluginLoading, TheExportIsNamedAfterTheFile) {
     EXPECT_EQ(PluginLoader::exportName("plain"), "TALO_API_2023_MAR_29__plain");
 }
 
-TEST_F(PluginLoading, AMissingFileIsToldWithTheSystemsReason) {
+TEST_F(PluginLoading, AMissingFileIsReportedWithTheSystemsReason) {
     auto const file = (folder_ / "missing.talo").string();
     auto const outcome = loader_.load(file);
     EXPECT_FALSE(outcome.ok);
@@ -105,7 +105,7 @@ TEST_F(PluginLoading, ABareNameIsNotSearchedForInTheSystemsFolders) {
     EXPECT_THAT(outcome.message, StartsWith("Cannot open the plug-in libm.so.6: "));
 }
 
-TEST_F(PluginLoading, ALibraryWithoutTheExportIsToldAndClosed) {
+TEST_F(PluginLoading, ALibraryWithoutTheExportIsReportedAndClosed) {
     std::string const file = TALO_NO_EXPORT_PLUGIN;
     EXPECT_THAT(
         loader_.load(file).message,

@@ -126,7 +126,7 @@ TEST_F(References, AMovedReferenceTakesItsCountAlong) {
     EXPECT_EQ(deaths_, 0);
 }
 
-TEST_F(References, EveryCopyTakesANumber) {
+TEST_F(References, EveryCopyGetsItsOwnNumber) {
     auto const start = PointerID.load();
     StrongPtr<Counted> const first(new Counted);
     EXPECT_EQ(first.id(), start + 1);
