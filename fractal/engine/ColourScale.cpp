@@ -10,9 +10,9 @@ namespace {
 using Colour = ColourScale::Colour;
 using Blend = FractalSettings::Blend;
 
-// Finer than what eight bits for a channel can show.
+// Finer than 8 bits per channel can show.
 constexpr int scaleLength = 4096;
-// No point within the circle of radius 2 has gone far away sooner.
+// No point within the circle of radius 2 escapes in fewer steps.
 constexpr int earliestEscape = 3;
 
 std::vector<QRgb> paletteColours(FractalSettings const& settings) {
@@ -43,7 +43,7 @@ Colour eachChannel(Function const& function) {
     return {function(&Colour::red), function(&Colour::green), function(&Colour::blue), function(&Colour::alpha)};
 }
 
-/// The colour at a place between the second and the third of four neighbours, 0 to 1.
+/// Interpolates between the second and the third of four neighbouring colours; `place` is 0 to 1.
 Colour blended(Blend blend, Colour const& before, Colour const& left, Colour const& right, Colour const& after,
                float place) {
     float share = place;
@@ -70,7 +70,7 @@ Colour blended(Blend blend, Colour const& before, Colour const& left, Colour con
         [&](float Colour::*channel) { return left.*channel + share * (right.*channel - left.*channel); });
 }
 
-/// A colour with the channels that are used, ready to be added up.
+/// Removes the channels that the settings do not use, and premultiplies, so that colours can be added.
 Colour withChannels(Colour colour, FractalSettings const& settings) {
     if (!settings.alpha)
         colour.alpha = 1;

@@ -6,11 +6,11 @@
 namespace Fractal {
 
 /// The colours of a picture: one for the points that stay, and a scale for those that escape, from the colour for
-/// "at once" to the last one of the palette. Any thread.
+/// immediate escape to the last colour of the palette. Any thread.
 class ColourScale {
 public:
-    /// A colour by its channels red, green, blue and alpha, each 0 to 1; the first three are multiplied by the alpha,
-    /// so that colours can be added up.
+    /// A colour as red, green, blue and alpha, each 0 to 1. Red, green and blue are premultiplied by alpha, so that
+    /// colours can be added.
     struct Colour {
         float red = 0;
         float green = 0;
@@ -23,9 +23,9 @@ public:
 
     /// The colour of a point.
     Colour const& colourOf(FractalFormula::EscapeResult const& fate) const;
-    /// The colour at a place of the scale, from 0 to 1; places beyond are taken to the nearest end.
+    /// The colour at a position on the scale, 0 to 1; positions outside are clamped.
     Colour const& colourAt(double place) const;
-    /// The same for painting.
+    /// Converts a premultiplied colour to a QColor, which is not.
     static QColor forPainting(Colour const& colour);
     Colour const& inside() const { return inside_; }
 

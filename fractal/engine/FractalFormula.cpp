@@ -11,13 +11,14 @@ namespace {
 using Point = FractalFormula::Point;
 using Formula = FractalSettings::Formula;
 
-// Far beyond the circle of radius 2 that no point comes back from, for an exact fraction. Squared.
+// The escape radius, 256, squared. A radius of 2 would suffice, but the fraction of the smooth count needs a larger
+// one.
 constexpr double farAway = 65536;
-// How near to a root is there. Squared.
+// The distance, squared, below which a point has reached a root.
 constexpr double nearby = 1e-12;
 Point const juliaConstant{-0.8, 0.156};
 
-// The products by hand: those of std::complex look after infinities at every step.
+// Written out because the products of std::complex check for NaN and infinity at every step.
 Point square(Point const& z) {
     return {z.real() * z.real() - z.imag() * z.imag(), 2 * z.real() * z.imag()};
 }
@@ -26,7 +27,8 @@ Point product(Point const& a, Point const& b) {
     return {a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real()};
 }
 
-// The two largest parts of the Mandelbrot set have formulas of their own, which saves most of the work inside.
+// The main cardioid and the largest disc of the Mandelbrot set can be tested directly, which saves most of the work on
+// points inside the set.
 bool isInTheLargestParts(Point const& c) {
     double const y2 = c.imag() * c.imag();
     double const x = c.real() - 0.25;
@@ -50,7 +52,7 @@ Point FractalFormula::step(Point const& place, Point const& point) const {
     case Formula::Julia:
         return square(place) + juliaConstant;
     case Formula::BurningShip:
-        // The plane of this formula is drawn upside down.
+        // By convention this formula is drawn upside down.
         return square({std::abs(place.real()), std::abs(place.imag())}) + std::conj(point);
     case Formula::Newton: {
         auto const squared = square(place);
@@ -74,7 +76,7 @@ FractalFormula::EscapeResult FractalFormula::escape(Point const& point) const {
     Point place = formula_ == Formula::Julia ? point : Point();
     for (int count = 0; count < iterations_; ++count) {
         double const distance = std::norm(place);
-        // Also what is no number any more has gone.
+        // Negated so that NaN counts as escaped.
         if (!(distance <= farAway)) {
             if (!smooth_ || !std::isfinite(distance))
                 return {false, static_cast<double>(count), 0};
@@ -90,7 +92,7 @@ FractalFormula::EscapeResult FractalFormula::descend(Point const& point) const {
     Point place = point;
     double lastDistance = 1;
     for (int count = 0; count < iterations_; ++count) {
-        // There is no way down from the middle.
+        // Newton's method cannot continue from 0, infinity or NaN.
         if (place == Point() || !std::isfinite(std::norm(place)))
             return {true, 0, 0};
         for (int root = 0; root < 3; ++root) {
@@ -115,7 +117,7 @@ std::vector<Point> FractalFormula::orbitOf(Point const& point, int length) const
     bool const startsAtPoint = formula_ == Formula::Julia || formula_ == Formula::Newton;
     Point place = startsAtPoint ? point : Point();
     std::vector<Point> places;
-    // Written such that a place that is no number ends the way, too.
+    // NaN fails the comparison, so it ends the orbit, too.
     while (static_cast<int>(places.size()) < length && std::norm(place) <= farAway) {
         places.push_back(place);
         place = step(place, point);
@@ -143,13 +145,13 @@ double FractalFormula::homeHalfHeight() const {
 Point FractalFormula::focus() const {
     switch (formula_) {
     case Formula::Mandelbrot:
-        // A point from which spirals go out at every scale; its fourth place comes again with the sign turned.
+        // A preperiodic point with spirals at every scale: step 4 lands on a repelling fixed point.
         return {-0.1010963638456222, 0.9562865108091415};
     case Formula::Julia:
-        // The one that stays where it is, and that all others nearby leave.
+        // The repelling fixed point.
         return (1.0 + std::sqrt(1.0 - 4.0 * juliaConstant)) / 2.0;
     case Formula::BurningShip:
-        // On the mast, where two bands of the ship meet.
+        // The point on the mast at which two bands of the ship meet.
         return {-1.5436890126920764, 0};
     case Formula::Newton:
         break;

@@ -6,20 +6,19 @@
 
 namespace Fractal {
 
-/// A formula that is applied to a point of the plane again and again. Any thread. Every point gives an answer, one
-/// that is no number included.
+/// A formula that is iterated on a point of the plane. Any thread. Every point has a result, NaN included.
 class FractalFormula {
 public:
     using Point = std::complex<double>;
 
-    /// What becomes of a point.
+    /// The result of iterating on a point.
     struct EscapeResult {
-        /// Whether the point stays, as far as the formula was applied.
+        /// Whether the point stays within the number of iterations: it neither escapes nor reaches a root.
         bool stays = false;
-        /// After how many steps it is known where it goes; with a fraction if the settings are smooth. 0 where it
-        /// stays.
+        /// The number of steps until the point escapes, or before the step that reaches a root; with a fraction if the
+        /// settings are smooth. 0 if the point stays.
         double count = 0;
-        /// The root that the point comes to, 0 to 2, for the formula with roots; else 0.
+        /// For the formula with roots, the root that the point converges to, 0 to 2; otherwise 0.
         int root = 0;
     };
 
@@ -27,13 +26,14 @@ public:
     explicit FractalFormula(FractalSettings const& settings);
 
     EscapeResult escapeResultAt(Point const& point) const;
-    /// The places that a point goes through, itself first, at most `length` of them; ends where it has gone far away.
+    /// The orbit of a point: at most `length` places, beginning with the start of the iteration. Ends when the point
+    /// escapes.
     std::vector<Point> orbitOf(Point const& point, int length) const;
 
-    /// The point in the middle of the picture that is not magnified, and half the height of that picture.
+    /// The centre of the unmagnified picture, and half its height.
     Point home() const;
     double homeHalfHeight() const;
-    /// The point that a magnification goes to. There is always something to see.
+    /// The point that zooming approaches. It has detail at every magnification.
     Point focus() const;
 
 private:

@@ -13,7 +13,7 @@ namespace Fractal {
 
 namespace {
 
-/// Computes rows of one picture; any number of threads may compute different rows at once.
+/// Computes rows of one picture; different threads may compute different rows at the same time.
 class RowRenderer {
 public:
     RowRenderer(FractalSettings const& settings, FractalPoints& points, std::atomic<bool> const& cancelled)
@@ -22,13 +22,13 @@ public:
           colours_(settings),
           samples_(settings.quality),
           width_(points.image.width()),
-          // Taken once: an image looks at each call whether others share it.
+          // Called once: each call of bits() checks whether the image's data is shared.
           bits_(points.image.bits()),
           bytesPerLine_(static_cast<std::size_t>(points.image.bytesPerLine())),
           counts_(points.counts),
           cancelled_(cancelled) {}
 
-    /// False when it was cancelled.
+    /// False if it was cancelled.
     bool compute(int row) const {
         auto* const line = reinterpret_cast<QRgb*>(bits_ + bytesPerLine_ * static_cast<std::size_t>(row));
         auto* const counts = counts_.data() + static_cast<std::size_t>(row) * static_cast<std::size_t>(width_);
@@ -72,10 +72,11 @@ private:
     std::atomic<bool> const& cancelled_;
 };
 
-/// Threads that do the same work; their end is waited for.
+/// Threads that all run the same work; the destructor waits for them.
 class Helpers {
 public:
-    /// As many of `count` as the system has: the thread that renders works in any case.
+    /// Starts up to `count` threads. It is no error if the system has fewer, because the calling thread works in any
+    /// case.
     Helpers(int count, std::function<void()> const& work) {
         try {
             threads_.reserve(static_cast<std::size_t>(std::max(0, count)));
@@ -127,7 +128,7 @@ std::optional<FractalPoints> FractalRenderer::render(FractalSettings const& sett
     }
     if (doneRows < size.height())
         return std::nullopt;
-    // The last row may have been that of another thread.
+    // Only the calling thread reports progress, and another thread may have computed the last row.
     if (progress && told < 100)
         progress(100);
 

@@ -8,28 +8,28 @@
 
 namespace Fractal {
 
-/// The points of a picture, without anything drawn over them.
+/// The computed pixels of a picture, without anything drawn over them.
 struct FractalPoints {
     QImage image;   ///< with premultiplied alpha
-    QSize computed; ///< how many were computed, which is also the size of the image until it is scaled
-    /// For each point, row by row, after how many steps its first sample escaped; infinite where it stays.
+    QSize computed; ///< the number of computed pixels, and the size of the image until it is scaled
+    /// For each computed pixel, row by row, the number of steps until its first sample escaped; infinite if it stays.
     std::vector<float> counts;
-    /// The share of the points that stay, 0 to 1.
+    /// The fraction of pixels whose first sample stays, 0 to 1.
     double staying = 0;
 };
 
-/// Computes the points of pictures, on several threads. Any thread may use one.
+/// Computes the pixels of pictures on several threads. May be used on any thread.
 class FractalRenderer {
 public:
-    /// Called on the thread that renders, with what is done in percent, which never becomes less. May be empty.
+    /// Called on the thread that calls render(), with the progress in percent, which never decreases. May be empty.
     using Progress = std::function<void(int percent)>;
 
-    /// How many threads work, the one that renders among them; less than one counts as one. The points are the same
-    /// whatever the number.
+    /// The number of threads that compute, the calling one included; at least one is used. The result does not depend
+    /// on it.
     explicit FractalRenderer(int threads);
 
-    /// Computes all points; nothing when `cancelled` becomes true, which is looked at for every point. The settings
-    /// must have been limited.
+    /// Computes all pixels. Empty if the size is empty, if the image cannot be allocated, or when `cancelled` becomes
+    /// true, which is checked before every pixel. May throw std::bad_alloc. The settings must have been limited.
     std::optional<FractalPoints> render(FractalSettings const& settings, QSize const& size,
                                         std::atomic<bool> const& cancelled, Progress const& progress = {}) const;
 

@@ -20,8 +20,8 @@ FractalView::FractalView(FractalSettings const& settings, QSize const& size)
     FractalFormula const formula(settings);
     double const magnification = std::exp2(settings.zoom);
     scale_ = formula.homeHalfHeight() / middle_.y() / magnification;
-    // The focus keeps its place in the picture, so that it is approached and never jumped to. What is made smaller
-    // stays where it is.
+    // As the magnification grows, the centre moves towards the focus, so that zooming approaches it without a jump.
+    // Below a magnification of 1 the centre does not move.
     auto const away = (formula.home() - formula.focus()) / std::max(1.0, magnification);
     centre_ = formula.focus() + away;
     double const angle = radians(settings.rotation);

@@ -6,22 +6,22 @@
 
 namespace Fractal {
 
-/// Maps places of a picture to points of the plane and back. Any thread.
+/// Maps places in a picture to points of the plane and back. Any thread.
 class FractalView {
 public:
     using Point = FractalFormula::Point;
 
-    /// The settings must have been limited; a size without points is taken as one point.
+    /// The settings must have been limited. An empty size is treated as one pixel.
     FractalView(FractalSettings const& settings, QSize const& size);
 
-    /// The point at a place of the picture: 0, 0 is its upper left corner, and one is the length of a side of a point
-    /// of the picture. Where there is a symmetry, mirrored into the first sector.
+    /// The point at a place in the picture, which is given in pixels from the upper left corner. With a symmetry, the
+    /// point is mirrored into the first sector.
     Point pointAt(double x, double y) const;
-    /// The place of a point, without the symmetry.
+    /// The place of a point, ignoring the symmetry.
     QPointF placeOf(Point const& point) const;
     /// The point in the middle of the picture.
     Point const& centre() const { return centre_; }
-    /// The length in the plane that a side of a point of the picture has.
+    /// The side length of a pixel in the plane.
     double scale() const { return scale_; }
 
 private:

@@ -8,18 +8,17 @@
 
 namespace Fractal {
 
-/// The colours of a GIMP palette file (*.gpl): a line "GIMP Palette", lines "Name: ..." and "Columns: ...", comments
-/// that start with "#", and a line for each colour, "red green blue" with whole numbers from 0 to 255 and a name that
-/// may be left out.
+/// Reads GIMP palette files (*.gpl): a line "GIMP Palette", lines "Name: ..." and "Columns: ...", comments that start
+/// with "#", and a line for each colour, "red green blue" with integers from 0 to 255 and an optional name.
 class GimpPalette {
     Q_DECLARE_TR_FUNCTIONS(Fractal::GimpPalette)
 
 public:
-    /// The colours in their order, at least one, at most 4,096; or none and the reason in `error`, "line 3: what was
+    /// Returns the colours in order, 1 to 4,096. On an error returns none, and the reason in `error`: "line 3: what was
     /// expected, what was found".
     static std::vector<QRgb> parse(QByteArray const& text, QString& error);
-    /// The same of a file of at most one megabyte; the reason is "FILE:3: ..." then, with line 0 for a file that
-    /// cannot be read.
+    /// Parses a file of at most one megabyte. The reason is then "FILE:3: ..."; the line is 0 if the file cannot be
+    /// read.
     static std::vector<QRgb> read(QString const& file, QString& error);
 
 private:

@@ -12,7 +12,7 @@ namespace {
 
 using Point = FractalView::Point;
 
-// Places beyond are cut off, which looks the same: painting with huge numbers takes long.
+// Places beyond are clamped, which looks the same: painting with huge coordinates is slow.
 constexpr double farOff = 1e5;
 constexpr double escapeRadius = 2;
 
@@ -21,7 +21,7 @@ QPen linePen(QColor colour, int opacity, double width) {
     return {colour, width};
 }
 
-/// The length that is 1, 2 or 5 times a power of ten and next above another one.
+/// Rounds a length up to 1, 2 or 5 times a power of ten.
 double roundLength(double length) {
     double const power = std::pow(10, std::floor(std::log10(length)));
     for (double const factor : {1.0, 2.0, 5.0}) {
@@ -93,7 +93,7 @@ void Overlays::paintContours(QPainter& painter, FractalPoints const& points) con
 }
 
 void Overlays::paintLine(QPainter& painter, Point const& through, Point const& direction) const {
-    // The part of the line that is nearest to the middle of the picture, as the line may start far away.
+    // The line may start far outside the picture, so draw the part that is nearest to the picture's centre.
     auto const offset = view_.centre() - through;
     auto const nearest = through + direction * (offset.real() * direction.real() + offset.imag() * direction.imag());
     painter.drawLine(view_.placeOf(nearest - direction * reach()), view_.placeOf(nearest + direction * reach()));
@@ -101,7 +101,7 @@ void Overlays::paintLine(QPainter& painter, Point const& through, Point const& d
 
 void Overlays::paintGrid(QPainter& painter) const {
     painter.setPen(linePen(Qt::white, 70, std::max(1.0, 0.2 * unit())));
-    // About six meshes from top to bottom.
+    // About six cells from top to bottom.
     double const mesh = roundLength(size_.height() * view_.scale() / 6);
     auto const number = [&](double length) { return std::round(length / mesh); };
     int const outermost = static_cast<int>(std::ceil(reach() / mesh));
@@ -113,7 +113,7 @@ void Overlays::paintGrid(QPainter& painter) const {
 
 void Overlays::paintAxes(QPainter& painter) const {
     painter.setPen(linePen(Qt::white, 190, std::max(1.0, 0.3 * unit())));
-    // An axis that is out of the picture is not drawn.
+    // Skip an axis that is outside the picture.
     if (std::abs(view_.centre().imag()) < reach())
         paintLine(painter, {view_.centre().real(), 0}, {1, 0});
     if (std::abs(view_.centre().real()) < reach())
@@ -122,7 +122,7 @@ void Overlays::paintAxes(QPainter& painter) const {
 
 void Overlays::paintEscapeCircle(QPainter& painter) const {
     double const radius = escapeRadius / view_.scale();
-    // So large a circle is out of the picture.
+    // A circle this large is outside the picture.
     if (radius > farOff)
         return;
     QPen pen = linePen(Qt::cyan, 220, std::max(1.0, 0.4 * unit()));
@@ -159,7 +159,7 @@ void Overlays::paintLegend(QPainter& painter) const {
     QSizeF const bar(std::max(texts.width(), 32 * unit()), 3 * unit());
     double const gap = texts.isNull() ? 0 : margin;
     QRectF box(0, 0, bar.width() + 2 * margin, bar.height() + gap + texts.height() + 2 * margin);
-    // Above the line of the caption.
+    // Above the band with the caption.
     box.moveBottomRight(QPointF(size_.width() - 2 * unit(), size_.height() - 9 * unit()));
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0, 0, 0, 140));

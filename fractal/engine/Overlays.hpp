@@ -6,15 +6,14 @@
 
 namespace Fractal {
 
-/// What is drawn over the points of a picture, as the settings choose: axes, grid, the circle that no point comes back
-/// from, the way of the middle point, a legend, and lines where the count of steps passes a level. Any thread that may
-/// paint on images.
+/// What is drawn over the pixels of a picture, as the settings choose: axes, grid, escape circle, orbit of the centre,
+/// legend, and contour lines where the number of steps crosses a level. Any thread that may paint on images.
 class Overlays {
 public:
     /// The settings must have been limited and must outlive the object.
     Overlays(FractalSettings const& settings, QSize const& size);
 
-    /// Draws everything over a picture of the size, whose points are given.
+    /// Draws everything over a picture of the constructor's size. `points` are its computed pixels.
     void paint(QPainter& painter, FractalPoints const& points) const;
 
 private:
@@ -25,11 +24,11 @@ private:
     void paintOrbit(QPainter& painter) const;
     void paintLegend(QPainter& painter) const;
 
-    /// Lines of the plane, from one end of the picture to the other.
+    /// Draws a line of the plane across the whole picture.
     void paintLine(QPainter& painter, FractalView::Point const& through, FractalView::Point const& direction) const;
-    /// How far the farthest corner of the picture is from its middle, in the plane.
+    /// The length of the picture's diagonal in the plane: more than the distance from its centre to any corner.
     double reach() const;
-    /// How long a millimetre is in a picture that is 100 millimetres high, in points: everything grows with it.
+    /// A hundredth of the picture's height in pixels. All lengths that are drawn scale with it.
     double unit() const;
 
     FractalSettings const& settings_;

@@ -15,7 +15,7 @@ QString refusal(QString const& file, QString const& reason) {
     return QStringLiteral("%1: %2").arg(file, reason);
 }
 
-/// Empty, or the reason why the written file cannot replace the old one.
+/// Returns an empty text, or the reason why the written file cannot replace the old one.
 QString commit(QSaveFile& target, QString const& file) {
     auto const reason = Talo::commitSaveFile(target);
     return reason.isEmpty() ? QString() : refusal(file, reason);

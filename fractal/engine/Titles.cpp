@@ -7,7 +7,8 @@ namespace Fractal {
 
 namespace {
 
-/// One line with a text at each end; what does not fit is cut off with an ellipsis, the left one first.
+/// Draws one line with a text at each end. Texts that do not fit are elided: the right one at half the line, the left
+/// one where the right one begins.
 void paintLine(QPainter& painter, QRectF const& line, QString const& left, QFont const& leftFont, QString const& right,
                QFont const& rightFont) {
     QFontMetricsF const rightMetrics(rightFont, painter.device());

@@ -12,12 +12,13 @@ public:
     /// The settings must outlive the object.
     explicit Titles(FractalSettings const& settings);
 
-    /// Writes the texts over a picture of the size, on bands that leave them readable. A line without text has no band.
+    /// Draws the texts over a picture of this size, on dark bands that keep them readable. A line without text has no
+    /// band.
     void paintOver(QPainter& painter, QSizeF const& size) const;
-    /// Writes the texts on a page, the text of the legend among them, with the picture in the room that is left.
+    /// Draws the texts, the legend's included, on a page, and the picture in the remaining space.
     void paintPage(QPainter& painter, QRectF const& page, QImage const& picture) const;
 
-    /// The font of a text, by its height in points of the picture. Texts that are too small to be read still have one.
+    /// The font for a text of a height in pixels, at least 1.
     static QFont font(double height, bool bold);
 
 private:

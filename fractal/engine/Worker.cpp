@@ -11,7 +11,7 @@ Worker::Task::Task() = default;
 
 Worker::Task::~Task() = default;
 
-/// A thread of Qt, as painting starts timers of Qt now and then, which no other thread can have.
+/// A QThread, not a std::thread: painting sometimes starts Qt timers, which need one.
 class Worker::Thread : public QThread {
 public:
     explicit Thread(Worker& worker) : worker_(worker) {}
@@ -44,7 +44,7 @@ void Worker::post(TaskPtr const& task) {
         return;
     thread_ = std::make_unique<Thread>(*this);
     thread_->start();
-    // The system has no thread to give; perhaps it has one for the next task.
+    // The system has no thread left. Try again with the next task.
     if (!thread_->isRunning()) {
         thread_.reset();
         giveUp();
@@ -81,7 +81,7 @@ void Worker::work() {
             return;
         running_ = std::move(waiting_.front());
         waiting_.pop_front();
-        // The queues alone own the tasks, so that none is destroyed on this thread.
+        // Keep only a reference: a task must not be destroyed on this thread.
         auto& task = *running_;
         lock.unlock();
         if (!task.cancelled)
@@ -114,7 +114,7 @@ void Worker::giveUp() {
         std::move(waiting_.begin(), waiting_.end(), std::back_inserter(done_));
         waiting_.clear();
     }
-    // Later, as by a thread: the caller has not yet noted what it posted.
+    // Queued, as if a thread had emitted it, so that post() returns before done() arrives.
     for (int each = 0; each < count; ++each)
         QMetaObject::invokeMethod(this, &Worker::done, Qt::QueuedConnection);
 }

@@ -10,14 +10,14 @@
 
 namespace Fractal {
 
-/// Does tasks one after the other on a thread of its own, which may paint on images. Made, asked and destroyed on the
-/// user-interface thread. Its destructor cancels everything and waits for the running task to end. A task that cannot
-/// be run to its end, as memory or threads are lacking, is done, too, with a problem.
+/// Runs tasks one after another on its own thread, which may paint on images. Construct, use and destroy it on the
+/// user-interface thread. The destructor cancels all tasks and waits for the running one to end. A task that cannot
+/// finish because memory or threads are missing counts as done, with a failure text.
 class Worker : public QObject {
     Q_OBJECT
 
 public:
-    /// Something to do. Made and destroyed on the user-interface thread.
+    /// A task. Construct and destroy it on the user-interface thread.
     class Task {
     public:
         Task();
@@ -25,14 +25,14 @@ public:
         Task(Task const&) = delete;
         Task& operator=(Task const&) = delete;
 
-        /// The work, on the worker's thread; it looks at `cancelled` often and ends early. `worker` can be told of
-        /// progress. It may throw std::bad_alloc and std::system_error, and ends with it.
+        /// Does the work, on the worker's thread. Should check `cancelled` often and return early. May report progress
+        /// to `worker`. A std::bad_alloc or std::system_error that it throws ends the task and becomes its failure.
         virtual void run(Worker& worker) = 0;
-        /// What kept the task from being run to its end, a sentence; empty if it was, or was cancelled. To be asked
-        /// when it is done.
+        /// A sentence that says why the task could not finish; empty if it finished or was cancelled. Valid when the
+        /// task is done.
         QString const& failure() const { return failure_; }
 
-        /// True from the moment at which nobody wants the result any more. Any thread.
+        /// Set when the result is no longer wanted. Any thread.
         std::atomic<bool> cancelled{false};
 
     private:
@@ -44,19 +44,20 @@ public:
     explicit Worker(QObject* parent = nullptr);
     ~Worker() override;
 
-    /// Adds a task at the end; one that is cancelled before its turn comes is not run.
+    /// Adds a task to the end of the queue. A task that is cancelled before its turn is not run.
     void post(TaskPtr const& task);
     /// Cancels all tasks.
     void cancel();
-    /// Whether a task waits, is run, or is done and was not yet taken.
+    /// Whether a task is waiting, running, or done but not yet taken.
     bool isBusy() const;
-    /// The task that is done longest, run or not, and forgets it; null when there is none. What it made is complete.
+    /// Removes and returns the task that was done first, whether it ran or not; null if there is none. The worker no
+    /// longer accesses it.
     TaskPtr takeDone();
-    /// Tells of progress. Called by tasks, on the worker's thread.
+    /// Emits progressed(). Called by tasks, on the worker's thread.
     void reportProgress() { emit progressed(); }
 
 signals:
-    /// A task can be taken. Emitted on the worker's thread.
+    /// A task is done and can be taken. Emitted on the worker's thread.
     void done();
     /// A task made progress. Emitted on the worker's thread.
     void progressed();
@@ -73,7 +74,7 @@ private:
     TaskPtr running_;
     std::deque<TaskPtr> done_;
     bool ends_ = false;
-    // Started with the first task: without tasks there is no thread.
+    // Started with the first task, so that a worker without tasks has no thread.
     std::unique_ptr<QThread> thread_;
 };
 

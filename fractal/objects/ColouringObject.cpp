@@ -96,7 +96,7 @@ void ColouringObject::chooseFilePalette(Kolt::PoolPtr const& pool) {
         static_cast<void>(parameter->history().store(parameter, pool, {choice, false}, paletteFileParameter()));
         return;
     }
-    // The choice is the same, the colours are not.
+    // The selection is unchanged but the colours are new, so notify.
     Kolt::markValueChanged(*parameter, pool);
     parameter->notifyValueChange(parameter->effectiveValue(pool), pool, std::string(), nullptr, nullptr, nullptr);
 }

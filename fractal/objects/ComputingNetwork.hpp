@@ -5,17 +5,18 @@
 
 namespace Fractal {
 
-/// The objects of a network that compute. It refers to the network, which must outlive it. User-interface thread.
+/// The objects of a network that take part in computing a picture. The network must outlive this object. User-interface
+/// thread.
 class ComputingNetwork {
 public:
     explicit ComputingNetwork(Talo::Network const& network);
 
-    /// Whether there is something to compute: a formula.
+    /// Whether the network computes a picture: it has a formula.
     bool computes() const;
-    /// What all objects say together, in a pool, within the ranges.
+    /// The settings that all objects together define in a pool, within their ranges.
     FractalSettings settings(Kolt::PoolPtr const& pool) const;
 
-    /// The objects of a class, in the order of the network. They live as long as the network does.
+    /// The objects of type T, in the order of the network, which owns them.
     template <typename T>
     std::vector<T*> all() const {
         std::vector<T*> found;

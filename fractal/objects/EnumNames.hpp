@@ -6,7 +6,7 @@
 
 namespace Fractal {
 
-/// The meaning of a name; `otherwise` for a text that is none of the names.
+/// The value that `names` lists for a text; `otherwise` if the text is not listed.
 template <typename T>
 T chosen(QString const& text, T otherwise, std::initializer_list<std::pair<char const*, T>> names) {
     for (auto const& [name, meaning] : names) {

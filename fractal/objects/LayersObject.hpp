@@ -4,8 +4,8 @@
 
 namespace Fractal {
 
-/// Says what is drawn over a picture. Its parameters: `overlays` (multiselection of "Axes", "Grid", "Escape circle",
-/// "Orbit" and "Legend") and `contours` (multiselection of texts that end with a number of steps, as "level 10").
+/// Defines what is drawn over a picture. Its parameters: `overlays` (multiselection of "Axes", "Grid", "Escape circle",
+/// "Orbit" and "Legend") and `contours` (multiselection of texts that end with a number of steps, such as "level 10").
 class LayersObject : public ComputingObject {
 public:
     explicit LayersObject(std::string const& name);

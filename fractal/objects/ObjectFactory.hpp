@@ -5,8 +5,8 @@
 
 namespace Fractal {
 
-/// Makes an object of a kind of a network file: "formula", "colouring", "layers", "titles", "exporter" or
-/// "render"; for any other kind one that does nothing. User-interface thread.
+/// Makes an object for a kind in a network file: "formula", "colouring", "layers", "titles", "exporter" or "render";
+/// for any other kind, a plain object that computes nothing. User-interface thread.
 Kolt::ObjectPtr makeObject(QString const& kind, QString const& name);
 
 } // namespace Fractal

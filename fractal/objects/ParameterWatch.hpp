@@ -6,8 +6,8 @@
 
 namespace Fractal {
 
-/// Hears of changes of any number of parameters and tells of them once for each round of the event loop, however many
-/// there were. Made and destroyed on the user-interface thread; the parameters may change on any thread.
+/// Signals changes of any number of parameters, at most once for each pass of the event loop. Construct and destroy it
+/// on the user-interface thread; the parameters may change on any thread.
 class ParameterWatch : public QObject, private Kolt::ValueNotifier {
     Q_OBJECT
 
@@ -15,13 +15,13 @@ public:
     explicit ParameterWatch(QObject* parent = nullptr);
     ~ParameterWatch() override;
 
-    /// From now on changes of the parameter, its properties included, are signalled. Null is ignored.
+    /// Signals changes of the parameter and its properties from now on. Null is ignored.
     void watch(Kolt::ParameterPtr const& parameter);
-    /// Whether a change is still to be told.
+    /// Whether a change was not signalled yet.
     bool isWaiting() const { return isWaiting_; }
 
 signals:
-    /// Something changed, in whatever pool. Emitted on the user-interface thread.
+    /// A parameter changed, in any pool. Emitted on the user-interface thread.
     void changed();
 
 private:

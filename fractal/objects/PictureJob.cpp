@@ -19,7 +19,7 @@ PictureJob::PictureJob(ComputingNetwork const& network, Kolt::PoolPtr const& poo
                              : tr("the picture")) {
     request_.settings = network.settings(pool);
     request_.size = {request_.settings.width, request_.settings.height()};
-    // On a page the texts stand around the picture.
+    // In a PDF the texts are around the picture, not on it.
     request_.hasTexts = format == Format::Png;
     for (auto const* const object : network.all<RenderObject>())
         reports_.emplace_back(object, pool);

@@ -8,42 +8,42 @@
 
 namespace Fractal {
 
-/// One whole picture of a network in a pool, as the parameters were when the job was made, to be looked at or to be
-/// written to a file. While it is computed, its thread writes the status of the network's render objects.
+/// Computes one full-size picture of a network in a pool, with the parameters' values at construction, and writes it to
+/// a file if one is given. While it computes, its thread writes the status of the network's render objects.
 class PictureJob : public Worker::Task {
     Q_DECLARE_TR_FUNCTIONS(Fractal::PictureJob)
 
 public:
-    /// The link in a status that asks to cancel the job.
+    /// The link in the status text that cancels the job.
     static constexpr auto CancelLink = "cancel";
 
-    /// A picture to be looked at.
+    /// A picture to view.
     PictureJob(ComputingNetwork const& network, Kolt::PoolPtr const& pool);
-    /// A picture to be written.
+    /// A picture to write to a file.
     PictureJob(ComputingNetwork const& network, Kolt::PoolPtr const& pool, QString file, ExporterObject::Format format);
     ~PictureJob() override;
 
     void run(Worker& worker) override;
-    /// Writes the status of the render objects, plain or rich text. Any thread.
+    /// Sets the status of the render objects, as plain or rich text. Any thread.
     void writeStatus(QString const& text) const;
 
     bool isToBeWritten() const { return !file_.isEmpty(); }
     Kolt::PoolPtr const& pool() const { return pool_; }
-    /// What the job is about, for people.
+    /// Names the picture in texts for the user.
     QString const& title() const { return title_; }
-    /// How much is computed. Any thread.
+    /// The progress in percent. Any thread.
     int percent() const { return percent_; }
 
-    // What came of the job, once it is done.
+    // Results, valid when the job is done.
 
-    /// Null where it was cancelled before it was complete, or where there is not enough memory.
+    /// The picture; null if the job was cancelled before it was complete or memory was missing.
     QImage const& image() const { return image_; }
-    /// Why the picture could not be computed or written; else empty.
+    /// Why the picture could not be computed or written; otherwise empty.
     QString problem() const;
-    /// What was computed, in a sentence.
+    /// A sentence about what was computed.
     QString const& summary() const { return summary_; }
 
-    /// Whether another job took its place, so that nothing is to be said of it.
+    /// Whether a newer job replaces this one, so that its outcome is not reported.
     bool isReplaced = false;
 
 private:

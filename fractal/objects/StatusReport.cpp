@@ -6,7 +6,7 @@ namespace Fractal {
 
 StatusReport::StatusReport(RenderObject const* object, Kolt::PoolPtr const& pool)
     : parameter_(object ? object->findParameter("status") : nullptr), pool_(pool) {
-    // The pool's values may be asked for on this thread alone, so the worker is given the value itself.
+    // Look up the value here: a pool may be accessed on the user-interface thread only.
     if (parameter_)
         value_ = parameter_->getLocalValue(pool, std::string(), true);
 }

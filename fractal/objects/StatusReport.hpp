@@ -9,10 +9,10 @@ class StatusReport {
 public:
     /// Reports nothing.
     StatusReport() = default;
-    /// A null object, and one without a status, reports nothing.
+    /// A null object, or one without a status, reports nothing.
     StatusReport(RenderObject const* object, Kolt::PoolPtr const& pool);
 
-    /// Stores a status, which may be rich text, and tells everybody who shows it.
+    /// Stores a status, which may be rich text, and notifies the parameter's listeners.
     void write(QString const& text) const;
 
 private:

@@ -16,7 +16,7 @@ void TitlesObject::applyParameters(FractalSettings& settings, Kolt::PoolPtr cons
     settings.author = text("author");
     settings.date = text("date");
     settings.legendText = text("legend");
-    // A parameter declared as an array of one text holds a text where its editor edits one.
+    // A parameter that is declared as an array of one text may hold a plain text, which its editor writes.
     settings.caption = QString::fromStdString(
         read("caption", pool, std::array<std::string, 1>{read("caption", pool, std::string())})[0]);
 }

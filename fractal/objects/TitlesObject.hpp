@@ -4,7 +4,7 @@
 
 namespace Fractal {
 
-/// Says what is written on a picture. Its parameters: `heading`, `author`, `date` and `legend` (string), `caption`
+/// Defines the texts on a picture. Its parameters: `heading`, `author`, `date` and `legend` (string), `caption`
 /// (stringarray).
 class TitlesObject : public ComputingObject {
 public:

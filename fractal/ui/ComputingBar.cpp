@@ -19,7 +19,7 @@ ComputingBar::ComputingBar(RenderQueue& renderQueue, QWidget* parent)
     cancel_->setObjectName(QStringLiteral("cancel"));
     cancel_->setToolTip(tr("Ends the computing (Esc)"));
     layout->addWidget(cancel_);
-    // It belongs to the bar, and so it works only while something is being computed: elsewhere the key is free.
+    // The shortcut belongs to the bar, so Escape is taken only while something is being computed.
     auto* const escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     connect(escape, &QShortcut::activated, &renderQueue_, &RenderQueue::cancel);
     connect(cancel_, &QPushButton::clicked, &renderQueue_, &RenderQueue::cancel);

@@ -6,8 +6,8 @@
 
 namespace Fractal {
 
-/// Shows how far a render queue is and lets it be cancelled, by the button or the key Escape. Hidden while nothing is
-/// being computed. User-interface thread.
+/// Shows the progress of a render queue, and cancels it by a button or the Escape key. Hidden while nothing is being
+/// computed. User-interface thread.
 class ComputingBar : public QWidget {
     Q_OBJECT
 

@@ -28,7 +28,7 @@ FractalController::FractalController(QObject* parent)
 }
 
 FractalController::~FractalController() {
-    // It refers to the render queue.
+    // The bar uses the render queue, which is deleted after this.
     delete bar_;
 }
 

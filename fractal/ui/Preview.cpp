@@ -8,10 +8,10 @@ namespace Fractal {
 namespace {
 
 constexpr int margin = 8;
-// The proportions of every picture.
+// The aspect ratio of every picture.
 constexpr QSize proportions(4, 3);
 
-/// A pattern on which transparent parts can be told from white ones.
+/// A chequered pattern that distinguishes transparent parts from white ones.
 QBrush transparency() {
     QPixmap tile(16, 16);
     tile.fill(QColor(204, 204, 204));

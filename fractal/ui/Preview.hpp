@@ -5,8 +5,8 @@
 
 namespace Fractal {
 
-/// Shows a picture as large as it can be shown whole, with its proportions, and below it what the user should know
-/// about it. What is transparent in the picture shows a pattern. User-interface thread.
+/// Shows a picture as large as fits, with an aspect ratio of 4:3, and below it a message to the user. Transparent parts
+/// show a chequered pattern. User-interface thread.
 class Preview : public QWidget {
     Q_OBJECT
 
@@ -14,18 +14,18 @@ public:
     explicit Preview(QWidget* parent = nullptr);
     ~Preview() override;
 
-    /// Shows a picture; one of the size `pictureSize` is shown point by point. Null shows the text alone.
+    /// Shows a picture; one of the size `pictureSize` is shown unscaled. A null image shows the text alone.
     void showPicture(QImage const& image, QString const& text);
     QImage const& image() const { return image_; }
     QString const& text() const { return text_; }
-    /// The size of a picture that fits, in points of the device; none while the widget is hidden.
+    /// The size of a picture that fits, in device pixels; empty while the widget is hidden.
     QSize pictureSize() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
-    /// Another size fits.
+    /// pictureSize() may have changed.
     void pictureSizeChanged();
 
 protected:
@@ -35,7 +35,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    /// Where picture and text stand.
+    /// The area for picture and text: the widget without its margins.
     QRect room() const;
     /// The place of the picture in the widget.
     QRect pictureRect() const;

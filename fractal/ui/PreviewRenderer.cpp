@@ -9,9 +9,9 @@ namespace Fractal {
 
 namespace {
 
-// In milliseconds: longer than the pauses of a hand that moves a handle.
+// In milliseconds: longer than the pauses of a hand that drags a handle.
 constexpr int restInterval = 150;
-// A sixteenth of the points is quick enough to follow a handle.
+// A sixteenth of the pixels is computed quickly enough to follow a handle.
 constexpr int coarseness = 4;
 // More samples show no difference on a screen.
 constexpr int bestQuality = 3;
@@ -27,7 +27,7 @@ public:
     }
 
     void run(Worker&) override {
-        // One processor is left to the user interface where there are more than two.
+        // Leave one processor to the user interface if there are more than two.
         int const processors = static_cast<int>(std::thread::hardware_concurrency());
         auto points = Picture::compute(request_, FractalRenderer(std::max(2, processors - 1)), cancelled);
         if (points)
@@ -68,7 +68,7 @@ void PreviewRenderer::setNetwork(Talo::Network const* network) {
             continue;
         for (auto const& parameter : object->parameters())
             watch_->watch(parameter);
-        // A palette file belongs to another object.
+        // The parameter of a slot, such as the palette file's name, may belong to another object.
         for (auto const& slot : object->slotList())
             watch_->watch(slot->parameter());
     }
@@ -129,7 +129,7 @@ void PreviewRenderer::change() {
 }
 
 void PreviewRenderer::rest() {
-    // The coarse picture is shown first, however long it takes: the fine one takes longer.
+    // Wait for the coarse picture, even if it is slow: the fine one takes longer still.
     if (drawing_ || QGuiApplication::mouseButtons() != Qt::NoButton) {
         restTimer_.start();
         return;
@@ -148,7 +148,7 @@ void PreviewRenderer::post(bool fine) {
 
 void PreviewRenderer::take() {
     while (auto const task = worker_.takeDone()) {
-        // Whatever else is done was given up.
+        // The results of all other tasks are outdated.
         if (task != drawing_)
             continue;
         auto const drawing = std::exchange(drawing_, nullptr);

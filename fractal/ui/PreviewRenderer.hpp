@@ -8,10 +8,10 @@
 
 namespace Fractal {
 
-/// Makes the small picture of a network in a pool and keeps it up to date. Each change gives a coarse picture at once;
-/// as soon as changes rest and no mouse button is held, the fine one follows. A fine picture that is outdated is
-/// cancelled; a coarse one, which takes little, is finished, so that the picture follows a handle however fast it
-/// moves. User-interface thread, which never waits for a picture.
+/// Computes the preview of a network in a pool and keeps it up to date. Each change starts a coarse picture at once;
+/// the fine one follows when changes pause and no mouse button is held. A further change cancels a fine picture but
+/// lets a coarse one finish, because that is quick; so the preview follows a handle however fast it moves.
+/// User-interface thread, which never waits for a picture.
 class PreviewRenderer : public QObject {
     Q_OBJECT
 
@@ -19,31 +19,31 @@ public:
     explicit PreviewRenderer(QObject* parent = nullptr);
     ~PreviewRenderer() override;
 
-    /// The network, which must be taken away, by null, before it goes.
+    /// Sets the network; null removes it, which must happen before the network is destroyed.
     void setNetwork(Talo::Network const* network);
     void setPool(Kolt::PoolPtr const& pool);
-    /// The size of the fine picture, in points of the device; without any, as where nobody looks, nothing is made.
+    /// The size of the picture in device pixels. While it is empty, as for a hidden preview, nothing is computed.
     void setSize(QSize const& size);
 
-    /// Whether there is something to compute.
+    /// Whether the network computes a picture.
     bool computes() const { return network_ && network_->computes(); }
-    /// The picture; null as long as there is none. A coarse one has the same size.
+    /// The picture; null while there is none. A coarse one has the same size as a fine one.
     QImage const& image() const { return image_; }
     bool isFine() const { return isFine_; }
-    /// What the user should know about the picture; usually empty.
+    /// A message to the user about the picture; usually empty.
     QString const& problem() const { return problem_; }
-    /// Whether the fine picture is being made.
+    /// Whether the fine picture is being computed.
     bool isRefining() const;
-    /// Whether the picture stays as it is unless something changes.
+    /// Whether the picture is up to date and stays as it is until something changes.
     bool isAtRest() const;
 
-    /// How often something changed that the picture depends on.
+    /// The number of changes so far of what the picture depends on.
     unsigned long changes() const { return changes_; }
     /// Shows a picture that was computed elsewhere, until the next change.
     void showFinished(QImage const& image);
 
 signals:
-    /// There is another picture, or none any more.
+    /// There is another picture, or none.
     void pictureChanged();
 
 private:
@@ -53,7 +53,7 @@ private:
     void rest();
     void post(bool fine);
     void take();
-    /// Ends whatever is being computed and forgets the picture.
+    /// Cancels the computing and drops the picture.
     void clear();
 
     std::unique_ptr<ComputingNetwork> network_;
@@ -62,9 +62,9 @@ private:
     QSize size_;
     QTimer restTimer_;
     unsigned long changes_ = 0;
-    // The number of changes that the drawing posted last, and the shown one, know of.
+    // The value of changes_ when the last drawing was posted.
     unsigned long posted_ = 0;
-    // The drawing that is being made; owned by the worker.
+    // The drawing that is being computed and whose result is wanted; shared with the worker.
     std::shared_ptr<Drawing> drawing_;
     QImage image_;
     bool isFine_ = false;

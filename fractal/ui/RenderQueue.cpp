@@ -11,7 +11,7 @@ RenderQueue::RenderQueue(QObject* parent) : QObject(parent) {}
 RenderQueue::~RenderQueue() = default;
 
 void RenderQueue::setNetwork(Talo::Network* network) {
-    // Waits for the running job, which refers to parameters of the network.
+    // Waits for the running job, which uses parameters of the network.
     worker_.reset();
     bool const wasComputing = isComputing();
     jobs_.clear();
@@ -89,8 +89,9 @@ void RenderQueue::post(std::shared_ptr<PictureJob> const& job) {
 }
 
 void RenderQueue::take() {
-    // One for each that was told of: what a later one said of itself on the worker's thread is still on its way, and
-    // would be shown after what is said of it here. The network may have gone meanwhile, and the worker with it.
+    // Take one job for each done() signal. If a later job is done already, the progress that its thread reported is
+    // still queued and would overwrite its final status, which is written here. The network, and the worker with it,
+    // may be gone by now.
     auto const task = worker_ ? worker_->takeDone() : nullptr;
     if (!task)
         return;
@@ -113,9 +114,9 @@ void RenderQueue::finish(PictureJob const& job) {
     else
         outcome = tr("Computed %1.").arg(job.title());
 
-    // The name of a file may look like rich text.
+    // A file name may look like rich text.
     job.writeStatus(Qt::mightBeRichText(outcome) ? QStringLiteral("<p>%1</p>").arg(outcome.toHtmlEscaped()) : outcome);
-    // A receiver may remove the network.
+    // A listener may have removed the network.
     if (network_ && !job.summary().isEmpty()) {
         for (auto const* const object : network_->all<RenderObject>())
             object->tellProgress(job.summary(), job.pool());

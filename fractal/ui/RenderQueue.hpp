@@ -5,9 +5,9 @@
 
 namespace Fractal {
 
-/// Computes whole pictures of a network, in the quality that a pool asks for, and writes them to files, one after the
-/// other. While it computes, its thread writes the status of the network's render objects. User-interface thread, which
-/// never waits for a picture.
+/// Computes full-size pictures of a network, with the quality that a pool defines, and writes them to files, one after
+/// another. While it computes, its thread writes the status of the network's render objects. User-interface thread,
+/// which waits for the running picture only when the network is replaced or removed.
 class RenderQueue : public QObject {
     Q_OBJECT
 
@@ -15,32 +15,34 @@ public:
     explicit RenderQueue(QObject* parent = nullptr);
     ~RenderQueue() override;
 
-    /// The network, which must be taken away, by null, before it goes: whatever is being computed ends then.
+    /// Sets the network, ends all computing for the previous one and waits for it. Null removes the network, which must
+    /// happen before it is destroyed.
     void setNetwork(Talo::Network* network);
 
-    /// Computes the picture of a pool; one that is being computed to be looked at, and not to be written, is given up.
+    /// Computes the picture of a pool to view it. Replaces an earlier picture that is only to be viewed; pictures for
+    /// files continue.
     void start(Kolt::PoolPtr const& pool);
-    /// Computes the picture of a pool and writes it.
+    /// Computes the picture of a pool and writes it to a file.
     void write(ExporterObject::Format format, QString const& file, Kolt::PoolPtr const& pool);
-    /// Gives up everything that is being computed.
+    /// Cancels all pictures.
     void cancel();
-    /// Says in the status that nothing is being computed, for a network that was saved while something was.
+    /// Sets the status to "nothing is being computed", for a network that was saved during a computation.
     void reportIdle(Kolt::PoolPtr const& pool);
 
     bool isComputing() const { return !jobs_.empty(); }
-    /// How much of the picture is computed, in percent; 0 while there is none.
+    /// The progress of the current picture in percent; 0 if there is none.
     int percent() const;
-    /// What is being computed, for people; empty while nothing is.
+    /// Names what is being computed, in a text for the user; empty if nothing is.
     QString description() const;
-    /// What is still to be written to a file, for people; empty where nothing is.
+    /// Says what is still to be written to a file, in a text for the user; empty if nothing is.
     QString unwritten() const;
 
 signals:
-    /// It began or ended to compute, or made progress.
+    /// The computing started, ended or made progress.
     void progressed();
-    /// A picture that was started, and not to be written, is computed.
+    /// A picture from start() is computed.
     void computed(QImage const& image, Kolt::PoolPtr const& pool);
-    /// Something was done that the user should read of.
+    /// Reports to the user what was done.
     void reported(QString const& text);
 
 private:
@@ -49,7 +51,7 @@ private:
     void finish(PictureJob const& job);
 
     std::unique_ptr<ComputingNetwork> network_;
-    // In the order in which they are done; the first one is being done.
+    // In the order of computing; the first one is running.
     std::deque<std::shared_ptr<PictureJob>> jobs_;
     // Null without a network. Destroyed first, as its thread works on the jobs.
     std::unique_ptr<Worker> worker_;

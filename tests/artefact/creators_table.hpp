@@ -3,15 +3,15 @@
 #include <string>
 #include <vector>
 
-/// A creator that the plug-in registers while it is loaded.
+/// A creator that the plug-in registers when it is loaded.
 struct CreatorRow {
-    std::string module;    ///< the source at whose foot it stands
-    std::string valueType; ///< readable
+    std::string module;    ///< the source file that defines it
+    std::string valueType; ///< readable name
     std::string name;
-    std::vector<std::string> given; ///< the preference set it is given, sorted; "QT" is added to it
+    std::vector<std::string> given; ///< its preferences, sorted; "QT" is added to them
 };
 
-/// All of them; within one module in the order of their registration. A new editor adds its rows here.
+/// All creators; those of one module are in the order of their registration. A new editor adds its rows here.
 inline std::vector<CreatorRow> const& creatorsTable() {
     static std::vector<CreatorRow> const rows = {
         {"QBool", "bool", "boolean", {}},

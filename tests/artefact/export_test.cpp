@@ -5,7 +5,7 @@
 
 namespace {
 
-/// A host that answers as it likes.
+/// A host that records the keys and always gives the same answer.
 struct StubbornHost : Kolt::VInitialization {
     explicit StubbornHost(bool answer) : answer_(answer) {}
     bool IsCompatible(char const* key) const override {

@@ -25,7 +25,7 @@ std::string keyOf(CreatorRow const& row) {
     return row.valueType + "\t" + row.name + "\t" + inBraces({row.given.begin(), row.given.end()});
 }
 
-/// The lines that begin with a word, without it; and the first and last place of such lines.
+/// The lines that begin with a word, without the word, and the positions of the first and the last of them.
 struct Events {
     Events(Lines const& all, std::string const& word) {
         for (std::size_t place = 0; place < all.size(); ++place) {
@@ -58,8 +58,8 @@ protected:
         return keys;
     }
 
-    /// The order of a whole life: creators, attach, and when it ends (after the line `end`) detach, then the creators
-    /// in the opposite order.
+    /// Checks the order of loading and unloading: creators, attach, and after the line `end` detach, then the creators
+    /// in reverse order.
     static void expectOrder(Lines const& lines, std::string const& end) {
         Events const values(lines, "value creator");
         Events const registered(lines, "registered");

@@ -11,12 +11,12 @@
 #include <sorrel/QInputCreator.hpp>
 
 // plugin_process FILE MODE
-// Loads a plug-in file without an application object and prints, one a line, what the host sees of it.
+// Loads a plug-in file without an application object and prints what the host sees, one item per line.
 //   close    loads it, lists the creators, unloads it
-//   exit     loads it and leaves it to the end of the process
-//   refused  as close, with a creator in the way of the first
+//   exit     loads it and leaves it loaded until the process ends
+//   refused  like close, but an existing creator makes the host refuse the first one
 //   cycles   loads and unloads it 1,000 times
-// Status 0 when each step worked, 1 with a line that says which did not.
+// Status 0 if each step worked, 1 with a line that says which one did not.
 
 namespace {
 
@@ -110,7 +110,7 @@ int main(int argc, char* argv[]) {
     std::string const file = argv[1];
     std::string const mode = argv[2];
 
-    // Never destroyed: at the end of the process the plug-in still reports.
+    // Never destroyed, because the plug-in still reports at the end of the process.
     static auto* const observer = new PrintingObserver;
     static auto* const notifier = new PrintingNotifier;
     static_cast<void>(notifier);

@@ -7,14 +7,14 @@
 #include <sys/wait.h>
 #include <vector>
 
-/// What a program printed to standard output (and to standard error, where the command says so), by lines, and its
-/// status; -1 where it did not end by itself.
+/// The lines that a program printed to standard output (and to standard error, if the command redirects it), and its
+/// exit status; -1 if it did not exit normally.
 struct ProgramRun {
     int status = -1;
     std::vector<std::string> lines;
 };
 
-/// Runs a shell command to its end.
+/// Runs a shell command and waits for its end.
 inline ProgramRun runProgram(std::string const& command) {
     ProgramRun run;
     FILE* const pipe = popen(command.c_str(), "r");

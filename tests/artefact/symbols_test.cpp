@@ -32,7 +32,7 @@ TEST_P(Symbols, NoneIsUniqueInTheProcess) {
 }
 
 TEST_P(Symbols, NoneDestroysWhatAValueHolds) {
-    // The content of a value lives longer than the file whose code made the value.
+    // The content of a value may outlive the file whose code created it.
     auto const lines = run(std::string(TALO_NM)).lines;
     EXPECT_THAT(lines, testing::Contains(HasSubstr("TALO_API_2023_MAR_29__qtalo_inputs")));
     EXPECT_THAT(lines, testing::Each(Not(HasSubstr("_ZTVSt23_Sp_counted_ptr_inplace"))));

@@ -6,65 +6,64 @@
 #include <string>
 #include <vector>
 
-/// One editor of the contract: how to open it, read what it shows, and edit as a user does. Every editor that the
-/// plug-in registers has one, and passes the same tests.
+/// One editor of the contract: how to open it, read what it shows, and edit as a user does. Every editor of the plug-in
+/// has one, and all must pass the same tests.
 struct EditorCase {
     using Value = Kolt::ValuePtr;
 
-    /// Names the tests: letters and digits alone.
+    /// The name of its tests: only letters and digits.
     std::string name;
     /// The creator that must be chosen for the parameter.
     std::string creator;
-    /// The parameter's own creation preferences; empty for none.
+    /// The parameter's creation preferences; empty for none.
     std::vector<std::string> preferences;
-    /// The parameter's declared type where it is not that of its value.
+    /// The parameter's declared type, if it differs from the type of the value.
     std::string declaredType;
 
-    /// The n-th of three different values, 0 to 2. Values that refer to an object (a selection) refer to one of their
-    /// own with the same texts.
+    /// Creates the n-th of three different values, 0 to 2. Values that refer to an object (a selection) each refer to
+    /// their own object with the same texts.
     std::function<Value(int)> makeValue;
-    /// Turns `value` into the n-th value, as another editor or the host would. By default through the value's text.
+    /// Changes `value` to the n-th value, as another editor or the host would; by default through its text.
     std::function<void(Kolt::VValueBase&, int)> change;
-    /// What the editor shows, as text.
+    /// Returns what the editor shows, as text.
     std::function<std::string(QWidget&)> shown;
-    /// What an editor must show for a value, in the same form. By default the value's text.
+    /// Returns what an editor must show for a value, in the same form; by default the value's text.
     std::function<std::string(Kolt::VValueBase const&)> expected;
-    /// Whether the editor shows its value at all; a button that fires an action does not.
+    /// Whether the editor shows its value; a button that fires an action does not.
     bool showsValue = true;
 
-    /// One edit by real events that leads away from each of the three values; nothing for a display.
+    /// Makes one edit by real events that changes each of the three values; empty for a display.
     std::function<void(QWidget&)> edit;
     /// Whether an edit writes a value; a button that fires an action does not.
     bool writes = true;
-    /// How often an edit notifies, with one editor and with two on one parameter.
+    /// The number of notifications of an edit, with one editor and with two editors of one parameter.
     int notifications = 1;
     int notificationsWithTwoEditors = 1;
-    /// Whether an edit has changed the value's object already when the store is refused.
+    /// Whether an edit changes the value object before the store, so even if the store is refused.
     bool changesInPlace = false;
-    /// Whether the edit of a parameter that is gone prints the owner-fault line, which it then does once.
+    /// Whether an edit of a destroyed parameter prints the line about a missing owner, once.
     bool reportsMissingOwner = true;
-    /// Whether an editor that was opened for a parameter that is gone has anything to edit; one without entries has
-    /// not.
+    /// Whether an editor that was opened for a destroyed parameter can be edited; one without entries cannot.
     bool editableWithoutOwner = true;
-    /// Whether a change from elsewhere is committed once more where it moves what is shown.
+    /// Whether a change from elsewhere that changes what is shown is committed once more.
     bool commitsWhatItShows = false;
-    /// Whether an edit without a pool gets as far as the missing parameter.
+    /// Whether an edit without a pool still reports a missing parameter.
     bool reportsMissingOwnerWithoutPool = false;
 
-    /// Warnings that the host gets when the editor is opened for a parameter that is gone, and for one whose value is
-    /// of another type.
+    /// Warnings to the host when the editor is opened for a destroyed parameter, and for one with a value of another
+    /// type.
     std::vector<std::string> warningsWithoutOwner;
     std::vector<std::string> warningsForOtherType;
-    /// Properties that opening the editor adds where they are missing.
+    /// Properties that the editor adds when it is opened, if they are missing.
     std::vector<std::string> addedProperties;
-    /// A line that the editor prints whenever it shows a value; it may stand anywhere in the output.
+    /// A line that the editor prints whenever it shows a value, anywhere in the output.
     std::string trace;
 };
 
-/// All editors, in the order of their families.
+/// All editors, by family.
 std::vector<EditorCase> const& editorCases();
 
-// One function for each family, in a file of its own.
+// One function for each family, in its own file.
 void addBooleanEditors(std::vector<EditorCase>& cases);
 void addNumberEditors(std::vector<EditorCase>& cases);
 void addSelectionEditors(std::vector<EditorCase>& cases);

@@ -21,7 +21,7 @@ EditorCase textCase(char const* name, char const* creator, std::vector<std::stri
     text.creator = creator;
     text.preferences = std::move(preferences);
     text.makeValue = makeText;
-    // Without a pool the commit gets as far as the store.
+    // Without a pool the commit still tries to store the value.
     text.reportsMissingOwnerWithoutPool = true;
     return text;
 }
@@ -62,7 +62,7 @@ void addTextEditors(std::vector<EditorCase>& cases) {
     cases.push_back(displayCase<Kolt::VObjectStatus>("status", "StatusDisplay"));
     cases.push_back(lineCase("oneLine", "simplestring", {}));
 
-    // Networks keep a text for a parameter of this type.
+    // Networks store a text for a parameter of this type.
     auto array = lineCase("oneLineArray", "singlelinestring", {});
     array.declaredType = Tessera::Typename(typeid(std::array<std::string, 1>));
     cases.push_back(array);
@@ -70,7 +70,7 @@ void addTextEditors(std::vector<EditorCase>& cases) {
     auto multiLine = textCase("multiLine", "string", {Kolt::VValueTrait<std::string>::MultiLine()});
     multiLine.shown = [](QWidget& editor) { return dynamic_cast<QTextEdit&>(editor).toPlainText().toStdString(); };
     multiLine.edit = [](QWidget& editor) {
-        // A key would commit twice: before it is applied, and when the mouse leaves.
+        // Not by a key, which commits twice: before the key is applied, and when the mouse leaves.
         QInputMethodEvent typed;
         typed.setCommitString(QStringLiteral("x"));
         QCoreApplication::sendEvent(&editor, &typed);
@@ -79,7 +79,7 @@ void addTextEditors(std::vector<EditorCase>& cases) {
     };
     cases.push_back(multiLine);
 
-    // A save button keeps its caption until a value comes from elsewhere.
+    // A save button shows its caption until a value comes from elsewhere.
     auto save = fileCase("saveAs", "FileNameCreator", "Save as", "saved.txt");
     save.showsValue = false;
     cases.push_back(save);

@@ -21,7 +21,7 @@ protected:
     ParameterPtr parameterWith(int n, Values values = Values::Shared) {
         return parameterWith(editorCase().makeValue(n), values);
     }
-    /// A parameter of which nothing is left.
+    /// A reference to a destroyed parameter.
     Kolt::ParameterRef deadParameter() { return parameterWith(0); }
 
     void expectShown(Kolt::Editor const& editor, Kolt::VValueBase const& value) {
@@ -29,7 +29,7 @@ protected:
             EXPECT_EQ(editorCase().shown(*editor.widget), editorCase().expected(value));
         }
     }
-    /// Makes the n-th value of the parameter's value object and notifies, as another editor does.
+    /// Changes the value object to the n-th value and notifies, as another editor does.
     void changeElsewhere(ParameterPtr const& parameter, Kolt::ValuePtr const& value, int n, Kolt::PoolPtr const& pool) {
         editorCase().change(*value, n);
         parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);
@@ -44,7 +44,7 @@ protected:
         return lines;
     }
     static std::size_t undoSteps() { return Kolt::UndoHistory::theHistory().steps().size(); }
-    /// What a value of none of the editors' types looks like.
+    /// A type of values that no editor supports.
     struct Unknown {
         bool operator==(Unknown const&) const { return true; }
     };

@@ -17,7 +17,7 @@ namespace {
 
 class ComputingNetworkTest : public FractalNetworkTest {
 protected:
-    /// What the exporter is asked to write, as "format file pool".
+    /// The files that the exporter is asked to write, as "format file pool".
     std::vector<std::string> written;
 
     void SetUp() override {
@@ -200,7 +200,7 @@ TEST_F(ComputingNetworkTest, AChosenPaletteIsReadAndTaken) {
     EXPECT_THAT(settings(draft).fileColours, ElementsAre(qRgb(1, 2, 3), qRgb(4, 5, 6)));
     EXPECT_THAT(warnings.texts, IsEmpty());
     EXPECT_THAT(written, IsEmpty());
-    // Chosen again, it is read again.
+    // A file that is chosen again is read again.
     chooseFile("exporter.palette", palette("a.gpl", "7 8 9\n"));
     EXPECT_THAT(settings(draft).fileColours, ElementsAre(qRgb(7, 8, 9)));
 }
@@ -212,7 +212,7 @@ TEST_F(ComputingNetworkTest, ABadPaletteIsWarnedOfAndNotTaken) {
     ASSERT_EQ(warnings.texts.size(), 1U);
     EXPECT_THAT(warnings.texts[0], HasSubstr("bad.gpl:2: expected"));
     EXPECT_EQ(settings(draft).problem, QString());
-    // Whoever wants it all the same is told with the picture.
+    // If the palette is selected nevertheless, the settings contain the error.
     set("colouring.palette", "From file");
     EXPECT_THAT(settings(draft).problem.toStdString(), HasSubstr("bad.gpl:2: expected"));
     EXPECT_THAT(settings(draft).fileColours, IsEmpty());

@@ -5,7 +5,7 @@
 #include <fractal/ui/ComputingBar.hpp>
 #include <QDockWidget>
 
-/// The panel with the fractal network, whose kept pictures are small.
+/// The panel with the fractal network, whose full-size pictures are made small.
 class FractalControllerTest : public PanelTest {
 protected:
     void SetUp() override {
@@ -19,7 +19,7 @@ protected:
         takeOutput();
     }
     void TearDown() override {
-        // What the lists of several texts print.
+        // The lists of multiple selections print a trace.
         takeOutput();
         PanelTest::TearDown();
     }
@@ -47,7 +47,7 @@ protected:
         set("formula.zoom", "-8");
         set("exporter.width", "4096");
     }
-    /// Fires the action by its button, and waits until it computes.
+    /// Fires the action by its button, which starts the computing.
     void start() {
         QTest::mouseClick(control<QPushButton>("render", "start"), Qt::LeftButton);
         ASSERT_TRUE(window->fractalController().renderQueue().isComputing());

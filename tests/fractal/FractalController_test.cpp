@@ -6,7 +6,7 @@ using testing::StartsWith;
 
 namespace {
 
-/// A click on the first letter of a link in a label.
+/// Clicks the first letter of a link in a label.
 void clickLink(QLabel* label, QString const& linkText) {
     QTextDocument text;
     text.setHtml(label->text());
@@ -35,7 +35,7 @@ TEST_F(FractalControllerTest, AHandleThatMovesShowsCoarsePicturesAndTheFineOneWh
     auto* const slider = control<QSlider>("formula", "iterations");
     ASSERT_NE(slider, nullptr);
     auto const before = preview()->image();
-    // Through the window, as the system does it, so that the button counts as held.
+    // Send the events to the window, as the window system does, so that the button counts as held.
     auto* const handle = window->windowHandle();
     auto const at = [&](int value) {
         return slider->mapTo(window.get(), QPoint(QStyle::sliderPositionFromValue(slider->minimum(), slider->maximum(),
@@ -50,7 +50,7 @@ TEST_F(FractalControllerTest, AHandleThatMovesShowsCoarsePicturesAndTheFineOneWh
         ASSERT_TRUE(waitUntil([&] { return !window->fractalController().previewRenderer().isFine(); }));
     }
     EXPECT_TRUE(slider->isSliderDown());
-    // Longer than changes rest when nobody holds the handle.
+    // Longer than the pause after which the fine picture starts when no button is held.
     QTimer longer;
     longer.setSingleShot(true);
     longer.start(400);
@@ -64,7 +64,7 @@ TEST_F(FractalControllerTest, AHandleThatMovesShowsCoarsePicturesAndTheFineOneWh
     EXPECT_NE(valueOf("formula.iterations"), "100");
 }
 
-TEST_F(FractalControllerTest, StartComputesThePictureAndTellsOfIt) {
+TEST_F(FractalControllerTest, StartComputesThePictureAndReportsIt) {
     EXPECT_TRUE(bar()->isHidden());
     start();
     EXPECT_FALSE(bar()->isHidden());
@@ -74,7 +74,7 @@ TEST_F(FractalControllerTest, StartComputesThePictureAndTellsOfIt) {
     EXPECT_EQ(control<QLabel>("render", "status")->text(), QStringLiteral("Computed the picture of draft."));
     EXPECT_THAT(control<QLabel>("render", "progress")->text().toStdString(), StartsWith("96 × 72 points"));
     EXPECT_THAT(messages(Panel::MessageList::Source::Panel), Contains("Computed the picture of draft."));
-    // It takes the place of the preview until something changes.
+    // The picture replaces the preview until something changes.
     EXPECT_EQ(preview()->image().size(), QSize(96, 72));
     set("formula.rotation", "12");
     ASSERT_TRUE(rests());
@@ -83,7 +83,7 @@ TEST_F(FractalControllerTest, StartComputesThePictureAndTellsOfIt) {
 
 TEST_F(FractalControllerTest, ThePictureIsThatOfThePoolWithItsQuality) {
     window->choosePool(QStringLiteral("final"));
-    // So many samples take a while.
+    // Small, because so many samples are slow.
     set("exporter.width", "64");
     start();
     ASSERT_TRUE(ends());
@@ -167,7 +167,7 @@ TEST_F(FractalControllerTest, ThePluginsAreUnloadedWhileItComputes) {
 
 TEST_F(FractalControllerTest, TheWindowIsClosedWhileItComputes) {
     makeEndless();
-    // Otherwise it asks first.
+    // Save, because closing would ask otherwise.
     ASSERT_TRUE(window->saveValues(folder.filePath(QStringLiteral("endless.json"))));
     start();
     EXPECT_TRUE(window->close());

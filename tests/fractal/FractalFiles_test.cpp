@@ -79,7 +79,7 @@ TEST_F(FractalControllerTest, ChoosingAPaletteColoursThePicture) {
     EXPECT_FALSE(window->fractalController().renderQueue().isComputing());
 }
 
-TEST_F(FractalControllerTest, UndoOfChoosingAPaletteFileTakesItsChoiceBackInOneStep) {
+TEST_F(FractalControllerTest, UndoOfChoosingAPaletteFileAlsoRestoresThePaletteInOneStep) {
     auto const file = networkFile("reds.gpl", "GIMP Palette\nName: Reds\n255 0 0\n64 0 0\n");
     auto* const button = control<QPushButton>("exporter", "palette");
     auto const choose = [&] {
@@ -117,7 +117,7 @@ TEST_F(FractalControllerTest, ABadPaletteAndABadFolderAreWarnedOf) {
     ASSERT_TRUE(waitUntil([&] { return warnings().size() == 1; }));
     EXPECT_THAT(warnings()[0], StartsWith(file.toStdString() + ":2: "));
     EXPECT_EQ(valueOf("colouring.palette"), "Embers");
-    // If the colours of that file are wanted, the preview shows the error, too.
+    // If the palette "From file" is selected, the preview shows the error, too.
     set("colouring.palette", "From file");
     ASSERT_TRUE(rests());
     EXPECT_THAT(preview()->text().toStdString(), StartsWith(file.toStdString() + ":2: "));

@@ -32,7 +32,7 @@ void expectNear(Point const& point, Point const& expected, double distance) {
 } // namespace
 
 TEST_F(FractalFormulaTest, PointsOfTheMandelbrotSetStay) {
-    // The middle, the middle of the large disc, the tip of the antenna, and a point of a small part.
+    // The origin, the centre of the largest disc, the tip of the antenna, and a point of a small part.
     for (auto const& point : {Point(0, 0), Point(-1, 0), Point(-2, 0), Point(-0.1226, 0.7449)})
         EXPECT_TRUE(fate(Formula::Mandelbrot, point).stays) << point;
     for (auto const& point : {Point(0.3, 0), Point(-2.01, 0), Point(1, 1), Point(0, 1.1)})
@@ -49,7 +49,7 @@ TEST_F(FractalFormulaTest, TheLargestPartsHaveTheirTrueEdge) {
 
 TEST_F(FractalFormulaTest, CountsTheStepsToTheEscape) {
     settings.smooth = false;
-    // 0, 3, 12, 147, 21612: the first whose square is beyond 65536 is the fifth place.
+    // 0, 3, 12, 147, 21612: the fifth place is the first whose square exceeds 65536.
     EXPECT_EQ(fate(Formula::Mandelbrot, {3, 0}).count, 4);
     EXPECT_LT(fate(Formula::Mandelbrot, {3, 0}).count, fate(Formula::Mandelbrot, {0.3, 0}).count);
     EXPECT_TRUE(fate(Formula::Mandelbrot, {0.26, 0}).count > 10);
@@ -92,13 +92,13 @@ TEST_F(FractalFormulaTest, EveryPointGetsAnAnswer) {
     }
 }
 
-TEST_F(FractalFormulaTest, AnOrbitEndsWhereItHasGone) {
+TEST_F(FractalFormulaTest, AnOrbitEndsWhereItEscapes) {
     auto const mandelbrot = formula(Formula::Mandelbrot);
     EXPECT_EQ(mandelbrot.orbitOf({-1, 0}, 5), (std::vector<Point>{{0, 0}, {-1, 0}, {0, 0}, {-1, 0}, {0, 0}}));
     EXPECT_EQ(mandelbrot.orbitOf({3, 0}, 50), (std::vector<Point>{{0, 0}, {3, 0}, {12, 0}, {147, 0}}));
 }
 
-TEST_F(FractalFormulaTest, TheMiddleOfThePictureIsHomeAndTheZoomGoesToTheFocus) {
+TEST_F(FractalFormulaTest, TheCentreOfThePictureIsHomeAndTheZoomApproachesTheFocus) {
     settings.rotation = 0;
     FractalView const whole(settings, {80, 60});
     FractalFormula const mandelbrot(settings);
@@ -109,7 +109,7 @@ TEST_F(FractalFormulaTest, TheMiddleOfThePictureIsHomeAndTheZoomGoesToTheFocus) 
     FractalView const near(settings, {80, 60});
     expectNear(near.centre(), mandelbrot.focus(), 1e-11);
     EXPECT_DOUBLE_EQ(near.scale(), whole.scale() / std::exp2(40));
-    // The focus does not move while the zoom goes on.
+    // The focus keeps its place while the zoom changes.
     auto const place = near.placeOf(mandelbrot.focus());
     EXPECT_NEAR(place.x(), whole.placeOf(mandelbrot.focus()).x(), 0.01);
     EXPECT_NEAR(place.y(), whole.placeOf(mandelbrot.focus()).y(), 0.01);
@@ -152,7 +152,7 @@ TEST_F(FractalFormulaTest, ASymmetryMirrorsEveryPointIntoTheFirstSector) {
         EXPECT_GE(angle, -1e-9);
         EXPECT_LE(angle, 60 + 1e-9);
     }
-    // 180 degrees have the lower half mirror the upper one.
+    // With 180 degrees the lower half mirrors the upper one.
     settings.symmetry = 180;
     FractalView const halves(settings, {80, 60});
     expectNear(halves.pointAt(10, 50), halves.pointAt(10, 10), 1e-12);

@@ -9,13 +9,13 @@
 #include <network/Network.hpp>
 #include <QTemporaryDir>
 
-/// Hears the host's warnings.
+/// Records the host's warnings.
 struct Warnings : Kolt::VActionNotifier {
     void onWarning(std::string const& text) override { texts.push_back(text); }
     std::vector<std::string> texts;
 };
 
-/// A network of a small picture, with one object of each kind, in a folder of its own.
+/// A network with a small picture and one object of each kind, in a temporary folder.
 class FractalNetworkTest : public TaloTest {
 protected:
     void SetUp() override {
@@ -100,7 +100,7 @@ protected:
         EXPECT_TRUE(network->setText(QString::fromUtf8(name), text, pool, &error)) << qPrintable(error);
     }
     void set(char const* name, char const* text) const { set(name, QString::fromUtf8(text), draft); }
-    /// Sets the name of a file and schedules the objects bound to it, as the editor of a file name does.
+    /// Sets a file name and schedules the objects bound to the parameter, as the editor of a file name does.
     void chooseFile(char const* name, QString const& file) const {
         set(name, file, draft);
         for (auto const& object : network->objects()) {

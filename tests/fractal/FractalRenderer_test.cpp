@@ -73,7 +73,7 @@ TEST_F(FractalRendererTest, TheMandelbrotSetIsItsOwnMirrorImage) {
     settings.formula = FractalSettings::Formula::Julia;
     auto const julia = points(settings).image;
     EXPECT_NE(julia, julia.mirrored(false, true));
-    // Turned by half a turn it is the same, but for the rounding of counts.
+    // Turned by 180 degrees it is the same, except for rounding of counts.
     auto const turned = julia.mirrored(true, true);
     int different = 0;
     for (int y = 0; y < julia.height(); ++y) {
@@ -151,7 +151,7 @@ TEST_F(FractalRendererTest, ACancelledPictureEndsWithinARow) {
         Fractal::FractalRenderer(1).render(settings, {400, 300}, cancelled, [&](int) { cancelled = ++told == 2; });
     EXPECT_FALSE(rendered);
     EXPECT_EQ(told, 2);
-    // A picture of one row of four thousand slow points would take very long.
+    // One row of four thousand slow pixels would take very long.
     settings.iterations = 20000;
     settings.quality = 16;
     settings.zoom = -8;

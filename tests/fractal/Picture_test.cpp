@@ -21,7 +21,7 @@ protected:
         change(settings);
         return picture(settings);
     }
-    /// Where two pictures differ, as the rectangle around all of it.
+    /// The bounding box of the pixels in which two pictures differ.
     static QRect difference(QImage const& left, QImage const& right) {
         QRect rect;
         for (int y = 0; y < left.height(); ++y) {
@@ -54,13 +54,13 @@ TEST_F(PictureTest, EachOverlayIsDrawn) {
 
 TEST_F(PictureTest, TheAxesAreWhereTheNumbersAreZero) {
     auto const image = with([](FractalSettings& settings) { settings.axes = true; });
-    // The real axis goes through the middle of the picture, from one side to the other.
+    // The real axis crosses the whole picture through its centre.
     auto const changed = difference(image, usual);
     EXPECT_EQ(changed.width(), 160);
     EXPECT_EQ(changed.height(), 120);
     EXPECT_NE(image.pixel(10, 60), usual.pixel(10, 60));
     EXPECT_EQ(image.pixel(10, 40), usual.pixel(10, 40));
-    // With the plane far away there is no axis to be seen.
+    // At this magnification both axes are outside the picture.
     auto const near = [](bool axes) {
         return with([&](FractalSettings& settings) {
             settings.axes = axes;
@@ -70,16 +70,16 @@ TEST_F(PictureTest, TheAxesAreWhereTheNumbersAreZero) {
     EXPECT_EQ(near(true), near(false));
 }
 
-TEST_F(PictureTest, AContourStandsWhereTheCountPassesItsLevel) {
+TEST_F(PictureTest, AContourIsDrawnWhereTheCountCrossesItsLevel) {
     auto const contour = [](int level) {
         return with([&](FractalSettings& settings) { settings.contours = {level}; });
     };
     EXPECT_NE(contour(10), usual);
     EXPECT_NE(contour(10), contour(5));
-    // The levels that no count passes have no line.
+    // A level that no count crosses has no line.
     EXPECT_EQ(contour(0), usual);
     EXPECT_EQ(contour(-5), usual);
-    // Everything that stays is beyond all levels, so this is the edge of the set.
+    // Points that stay are above all levels, so this is the edge of the set.
     EXPECT_NE(contour(1000), usual);
 }
 
@@ -154,7 +154,7 @@ TEST_F(PictureTest, IsWrittenAsPng) {
     EXPECT_EQ(Fractal::Picture::writePng(usual, file), QString());
     QImage read(file);
     EXPECT_EQ(read.convertToFormat(usual.format()), usual);
-    // A name without a suffix is taken as it is.
+    // A name without a suffix is used unchanged.
     EXPECT_EQ(Fractal::Picture::writePng(usual, folder.filePath(QStringLiteral("picture"))), QString());
     EXPECT_EQ(QImage(folder.filePath(QStringLiteral("picture")), "png").size(), usual.size());
 }
@@ -187,7 +187,7 @@ TEST_F(PictureTest, AFullDiskIsReportedAndKeepsTheOldFile) {
     ASSERT_EQ(Fractal::Picture::writePng(small, png), QString());
     ASSERT_EQ(Fractal::Picture::writePdf(small, quick(), pdf), QString());
     auto const pdfSize = QFileInfo(pdf).size();
-    // Noise does not compress: what is left for the last flush is more than the disk takes.
+    // Noise does not compress: the rest that the last flush writes exceeds the limit.
     std::minstd_rand random;
     QImage noise(40, 30, QImage::Format_RGB32);
     for (int y = 0; y < noise.height(); ++y)

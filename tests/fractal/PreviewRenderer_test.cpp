@@ -8,7 +8,7 @@ using Fractal::PreviewRenderer;
 
 namespace {
 
-class PreviewMakerTest : public FractalNetworkTest {
+class PreviewRendererTest : public FractalNetworkTest {
 protected:
     void SetUp() override {
         FractalNetworkTest::SetUp();
@@ -28,7 +28,7 @@ protected:
     bool rests() const {
         return waitUntil([this] { return maker.isAtRest(); });
     }
-    /// The fine picture of a pool, computed here.
+    /// The fine picture of a pool, computed on this thread.
     QImage expected(Kolt::PoolPtr const& pool, QSize const& size = {120, 90}) const {
         std::atomic<bool> const cancelled{false};
         return Fractal::Picture::compute({settings(pool), size, true, 1}, Fractal::FractalRenderer(1), cancelled)
@@ -37,20 +37,20 @@ protected:
     }
 
     PreviewRenderer maker;
-    // For each picture that was shown, whether it was a fine one.
+    // For each picture that was shown, whether it was fine.
     std::vector<bool> shown;
 };
 
 } // namespace
 
-TEST_F(PreviewMakerTest, TheCoarsePictureComesFirstAndThenTheFineOne) {
+TEST_F(PreviewRendererTest, TheCoarsePictureComesFirstAndThenTheFineOne) {
     EXPECT_FALSE(maker.isAtRest());
     ASSERT_TRUE(rests());
     EXPECT_EQ(shown, (std::vector<bool>{false, true}));
     EXPECT_EQ(maker.image(), expected(draft));
 }
 
-TEST_F(PreviewMakerTest, EveryParameterThatShapesThePictureIsFollowed) {
+TEST_F(PreviewRendererTest, EveryParameterThatShapesThePictureIsFollowed) {
     ASSERT_TRUE(rests());
     std::pair<char const*, char const*> const changes[] = {{"formula.kind", "Burning ship"},
                                                            {"formula.iterations", "55"},
@@ -74,7 +74,7 @@ TEST_F(PreviewMakerTest, EveryParameterThatShapesThePictureIsFollowed) {
                                                            {"titles.legend", "A longer text."}};
     for (auto const& [name, text] : changes) {
         auto const before = maker.image();
-        // In the order of the list, so that the legend stands when its text changes.
+        // In this order, because the legend must be shown before its text changes.
         set(name, text);
         EXPECT_FALSE(maker.isAtRest()) << name;
         ASSERT_TRUE(rests()) << name;
@@ -83,7 +83,7 @@ TEST_F(PreviewMakerTest, EveryParameterThatShapesThePictureIsFollowed) {
     EXPECT_EQ(maker.image(), expected(draft));
 }
 
-TEST_F(PreviewMakerTest, WhatDoesNotShapeThePictureIsNotFollowed) {
+TEST_F(PreviewRendererTest, WhatDoesNotShapeThePictureIsNotFollowed) {
     ASSERT_TRUE(rests());
     set("exporter.width", "200");
     set("render.status", "Busy.");
@@ -91,7 +91,7 @@ TEST_F(PreviewMakerTest, WhatDoesNotShapeThePictureIsNotFollowed) {
     EXPECT_TRUE(maker.isAtRest());
 }
 
-TEST_F(PreviewMakerTest, ManyChangesInOneRoundAreOneRequest) {
+TEST_F(PreviewRendererTest, ManyChangesInOneRoundAreOneRequest) {
     ASSERT_TRUE(rests());
     shown.clear();
     auto const changes = maker.changes();
@@ -103,7 +103,7 @@ TEST_F(PreviewMakerTest, ManyChangesInOneRoundAreOneRequest) {
     EXPECT_EQ(maker.image(), expected(draft));
 }
 
-TEST_F(PreviewMakerTest, WhileChangesGoOnThePictureIsCoarseAndFollows) {
+TEST_F(PreviewRendererTest, WhileChangesGoOnThePictureIsCoarseAndFollows) {
     ASSERT_TRUE(rests());
     shown.clear();
     for (int angle = 1; angle <= 5; ++angle) {
@@ -116,7 +116,7 @@ TEST_F(PreviewMakerTest, WhileChangesGoOnThePictureIsCoarseAndFollows) {
     EXPECT_EQ(maker.image(), expected(draft));
 }
 
-TEST_F(PreviewMakerTest, AnotherPoolHasAnotherPicture) {
+TEST_F(PreviewRendererTest, AnotherPoolHasAnotherPicture) {
     ASSERT_TRUE(rests());
     auto const before = maker.image();
     maker.setPool(final);
@@ -126,7 +126,7 @@ TEST_F(PreviewMakerTest, AnotherPoolHasAnotherPicture) {
     EXPECT_EQ(maker.image(), expected(final));
 }
 
-TEST_F(PreviewMakerTest, AnotherSizeHasAnotherPicture) {
+TEST_F(PreviewRendererTest, AnotherSizeHasAnotherPicture) {
     maker.setSize({60, 45});
     ASSERT_TRUE(rests());
     EXPECT_EQ(maker.image(), expected(draft, {60, 45}));
@@ -135,9 +135,9 @@ TEST_F(PreviewMakerTest, AnotherSizeHasAnotherPicture) {
     EXPECT_TRUE(maker.image().isNull());
 }
 
-TEST_F(PreviewMakerTest, AnOutdatedFinePictureIsCancelled) {
+TEST_F(PreviewRendererTest, AnOutdatedFinePictureIsCancelled) {
     ASSERT_TRUE(rests());
-    // This takes half a minute where it is not cancelled, and the coarse one not a second.
+    // The fine picture takes half a minute if it is not cancelled, the coarse one less than a second.
     maker.setSize({400, 300});
     set("formula.kind", "Burning ship");
     set("formula.iterations", "10000");
@@ -152,7 +152,7 @@ TEST_F(PreviewMakerTest, AnOutdatedFinePictureIsCancelled) {
     EXPECT_EQ(maker.image(), expected(draft, {40, 30}));
 }
 
-TEST_F(PreviewMakerTest, TheNetworkMayGoWhileItsPictureIsComputed) {
+TEST_F(PreviewRendererTest, TheNetworkMayGoWhileItsPictureIsComputed) {
     maker.setNetwork(nullptr);
     EXPECT_TRUE(maker.isAtRest());
     EXPECT_FALSE(maker.computes());
@@ -167,7 +167,7 @@ TEST_F(PreviewMakerTest, TheNetworkMayGoWhileItsPictureIsComputed) {
     EXPECT_EQ(maker.image(), expected(draft));
 }
 
-TEST_F(PreviewMakerTest, ANetworkWithoutAFormulaHasNoPicture) {
+TEST_F(PreviewRendererTest, ANetworkWithoutAFormulaHasNoPicture) {
     maker.setNetwork(nullptr);
     network = load(R"({ "pools": ["only"], "objects": [ { "name": "t", "kind": "titles", "parameters": [
         { "name": "heading", "type": "string", "value": "" } ] } ] })");
@@ -177,7 +177,7 @@ TEST_F(PreviewMakerTest, ANetworkWithoutAFormulaHasNoPicture) {
     maker.setNetwork(nullptr);
 }
 
-TEST_F(PreviewMakerTest, AFinishedPictureStandsUntilTheNextChange) {
+TEST_F(PreviewRendererTest, AFinishedPictureIsShownUntilTheNextChange) {
     ASSERT_TRUE(rests());
     QImage finished(10, 10, QImage::Format_RGB32);
     finished.fill(Qt::red);
@@ -189,7 +189,7 @@ TEST_F(PreviewMakerTest, AFinishedPictureStandsUntilTheNextChange) {
     EXPECT_EQ(maker.image(), expected(draft));
 }
 
-TEST_F(PreviewMakerTest, ChangesMayComeFromAnotherThread) {
+TEST_F(PreviewRendererTest, ChangesMayComeFromAnotherThread) {
     ASSERT_TRUE(rests());
     auto const heading = parameter("titles.heading");
     auto const value = heading->ownValue();

@@ -19,7 +19,7 @@ protected:
 
 } // namespace
 
-TEST_F(PreviewTest, HasNoPictureSizeWhileNobodyLooks) {
+TEST_F(PreviewTest, HasNoPictureSizeWhileHidden) {
     EXPECT_TRUE(preview.pictureSize().isEmpty());
     preview.show();
     EXPECT_EQ(preview.pictureSize(), QSize(400, 300));

@@ -16,7 +16,7 @@ using testing::StartsWith;
 
 namespace {
 
-/// Collects the states that are reported, and on how many of the reports came from another thread.
+/// Collects the reported texts, and counts the reports that came from another thread.
 class Reports : public Kolt::ValueNotifier {
 public:
     explicit Reports(Kolt::ParameterPtr const& status) {
@@ -43,7 +43,7 @@ private:
     std::thread::id const home_ = std::this_thread::get_id();
 };
 
-/// Shows the status as a label does: what another thread tells is shown when its turn comes.
+/// Shows the status as a label does: the event loop delivers reports of another thread later.
 class Display : public QObject, public Kolt::ValueNotifier {
 public:
     explicit Display(Kolt::ParameterPtr const& status) {
@@ -79,7 +79,7 @@ protected:
     bool ends() const {
         return waitUntil([this] { return !renderQueue.isComputing(); });
     }
-    /// Makes the picture so slow that it ends only when it is cancelled.
+    /// Makes the picture so slow that it only ends if it is cancelled.
     void makeEndless() const {
         set("formula.kind", "Julia");
         set("formula.quality", "16");
@@ -121,14 +121,14 @@ TEST_F(RenderQueueTest, TheWorkerItselfReportsItsStatus) {
     EXPECT_GT(parameter("render.status")->ownValue()->age(), age);
 }
 
-TEST_F(RenderQueueTest, WhatIsToldLastIsShownLastHoweverFastTheWorkerIs) {
+TEST_F(RenderQueueTest, TheFinalStatusIsShownLastHoweverFastTheWorkerIs) {
     Display const display(parameter("render.status"));
     for (int round = 0; round < 10; ++round) {
         auto const first = folder.filePath(QStringLiteral("%1 first.png").arg(round));
         auto const second = folder.filePath(QStringLiteral("%1 second.png").arg(round));
         renderQueue.write(ExporterObject::Format::Png, first, draft);
         renderQueue.write(ExporterObject::Format::Png, second, draft);
-        // Both are done before anybody hears of the first one.
+        // Both are done before the event loop handles the signal of the first one.
         while (!QFile::exists(second))
             std::this_thread::yield();
         ASSERT_TRUE(ends());
@@ -138,7 +138,7 @@ TEST_F(RenderQueueTest, WhatIsToldLastIsShownLastHoweverFastTheWorkerIs) {
     }
 }
 
-TEST_F(RenderQueueTest, TheInformationIsToldOnTheUserInterfaceThreadAlone) {
+TEST_F(RenderQueueTest, TheInformationIsNotifiedOnlyOnTheUserInterfaceThread) {
     Reports const progress(parameter("render.progress"));
     renderQueue.start(draft);
     ASSERT_TRUE(ends());
@@ -148,12 +148,12 @@ TEST_F(RenderQueueTest, TheInformationIsToldOnTheUserInterfaceThreadAlone) {
 
 #ifdef TALO_LIMITS_MEMORY
 TEST_F(RenderQueueTest, WithoutMemoryItSaysSoAndGoesOn) {
-    // Its thread exists from now on.
+    // Starts the worker's thread before the memory is limited.
     renderQueue.start(draft);
     ASSERT_TRUE(ends());
     set("exporter.width", "4096");
     {
-        // The image takes 50 MB and what else is noted of each of its points as much; the thread has 64 MB in reserve.
+        // The image takes 50 MB and the counts of steps take as much; the thread has 64 MB in reserve.
         MemoryLimit const limit(20 << 20);
         renderQueue.start(draft);
         ASSERT_TRUE(ends());
@@ -263,7 +263,7 @@ TEST_F(RenderQueueTest, TheNetworkMayGoWhileItIsComputed) {
     EXPECT_FALSE(renderQueue.isComputing());
 }
 
-TEST_F(RenderQueueTest, AWatcherMayGoWhileItIsToldOfTheStatus) {
+TEST_F(RenderQueueTest, AListenerMayBeDestroyedWhileItIsNotifiedOfTheStatus) {
     makeEndless();
     set("exporter.width", "64");
     set("formula.quality", "2");

@@ -4,7 +4,7 @@
 #include <QColor>
 #include <QImage>
 
-/// Small pictures, computed on one thread unless said otherwise.
+/// Computes small pictures, on one thread by default.
 namespace Rendering {
 
 inline Fractal::FractalPoints points(Fractal::FractalSettings const& settings, QSize const& size = {80, 60},
@@ -15,14 +15,14 @@ inline Fractal::FractalPoints points(Fractal::FractalSettings const& settings, Q
     return Fractal::FractalRenderer(threads).render(limited, size, cancelled).value();
 }
 
-/// With everything that is drawn over the points.
+/// A picture with everything that is drawn over its pixels.
 inline QImage picture(Fractal::FractalSettings const& settings, QSize const& size = {160, 120}, int coarseness = 1) {
     std::atomic<bool> const cancelled{false};
     Fractal::Picture::RenderRequest const request{settings, size, true, coarseness};
     return Fractal::Picture::compute(request, Fractal::FractalRenderer(1), cancelled).value().image;
 }
 
-/// Settings that are quickly computed, and show something of everything.
+/// Settings that are computed quickly, with points that stay and points that escape.
 inline Fractal::FractalSettings quick() {
     Fractal::FractalSettings settings;
     settings.iterations = 60;

@@ -12,7 +12,7 @@ using Fractal::Worker;
 
 namespace {
 
-/// Counts the threads that it ran on and, where it is held, works until it is cancelled.
+/// Checks that it runs on another thread. One that is held works until it is cancelled.
 class Task : public Worker::Task {
 public:
     explicit Task(bool held = false) : held_(held) {}
@@ -28,7 +28,7 @@ public:
     }
 
     std::atomic<bool> started{false};
-    // Read when the task was taken.
+    // Only read after the task was taken.
     int result = 0;
 
 private:
@@ -64,7 +64,7 @@ TEST_F(WorkerTest, DoesTasksInTheirOrderOnAnotherThread) {
     EXPECT_EQ(taken, posted);
     for (auto const& task : taken)
         EXPECT_EQ(static_cast<Task const&>(*task).result, 42);
-    // What was told of the last tasks may still be on its way.
+    // The progress signals of the last tasks may still be queued.
     EXPECT_TRUE(waitUntil([&] { return progress == 20; }));
     EXPECT_FALSE(worker.isBusy());
     EXPECT_EQ(worker.takeDone(), nullptr);
@@ -80,7 +80,7 @@ TEST_F(WorkerTest, CancelsTheRunningTaskAndThoseThatWait) {
     EXPECT_TRUE(waitUntil([&] { return taken.size() == 2; }));
     EXPECT_EQ(running->result, 42);
     EXPECT_FALSE(waiting->started);
-    // What is posted afterwards is done.
+    // Tasks that are posted afterwards run.
     worker.post(std::make_shared<Task>());
     EXPECT_TRUE(waitUntil([&] { return taken.size() == 3; }));
     EXPECT_EQ(static_cast<Task const&>(*taken[2]).result, 42);
@@ -117,7 +117,7 @@ private:
 } // namespace
 
 TEST_F(WorkerTest, TasksMayUseTimersOfQtAsPaintingDoes) {
-    // Qt warns where that is impossible.
+    // Qt warns on threads that cannot have timers.
     worker.post(std::make_shared<Doing>([] {
         QTimer timer;
         timer.start(1);
@@ -141,7 +141,7 @@ TEST_F(WorkerTest, WithoutAThreadTasksAreDoneWithAReason) {
     expectQtWarning("Thread creation error");
     {
         MemoryLimit const limit(1 << 20);
-        // Threads that ended may have left room for others.
+        // Occupy all threads that fit: threads that ended may have left memory for others.
         std::promise<void> end;
         std::vector<std::thread> others;
         auto const wait = [ended = end.get_future().share()] { ended.wait(); };

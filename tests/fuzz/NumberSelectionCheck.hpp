@@ -4,8 +4,8 @@
 
 #include <qVinputs/basics/NumberSelection.hpp>
 
-/// Whether the plug-in reads a text as its rules say. The first byte of the input says how many rows there are, the
-/// rest is the text.
+/// Whether the plug-in reads a text like the reference implementation. The first byte of the input selects the number
+/// of rows, the rest is the text.
 inline bool readsLikeTheReference(std::string const& input) {
     static constexpr std::int64_t rowCounts[] = {0, 1, 2, 3, 9, 10, 11, 100, 257, 1000};
     if (input.empty())

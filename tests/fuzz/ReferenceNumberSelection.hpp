@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-/// The language of row numbers, read character by character as its rules say it, with nothing shared with the code that
-/// it is held against. Gives every named row, in order and as often as it is named.
+/// A reference implementation of the language of row numbers, which shares no code with the plug-in's. Returns every
+/// selected row, in order and as often as it is named.
 namespace reference {
 
 inline bool isBlank(char character) {
@@ -21,7 +21,7 @@ inline bool isBlank(std::string const& text) {
     return true;
 }
 
-/// Blanks, a sign, digits; 0 without digits. Stops growing far beyond 32 bits.
+/// Reads spaces, a sign and digits; 0 without digits. Stops growing far beyond 32 bits.
 inline std::int64_t number(std::string const& text) {
     std::size_t place = 0;
     while (place < text.size() && isBlank(text[place]))

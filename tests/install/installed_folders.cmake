@@ -1,5 +1,5 @@
-# Installs the project with another folder of libraries, LIBDIR, and starts the installed program. What is compiled is
-# the same as in the project's own build folder, but for the one source that knows the folders.
+# Installs the project with another library folder, LIBDIR, and starts the installed program. Reuses the objects of the
+# project's own build, except for the one source that contains the folders.
 include("${CMAKE_CURRENT_LIST_DIR}/steps.cmake")
 file(REMOVE_RECURSE "${WORK}")
 set(prefix "${WORK}/prefix")
@@ -11,7 +11,7 @@ run("${CMAKE_COMMAND}" -S "${SOURCE}" -B "${WORK}/build" -G "${GENERATOR}" "-DCM
     -DTALO_BUILD_TESTS=OFF "-DCMAKE_INSTALL_LIBDIR=${LIBDIR}" "-DCMAKE_INSTALL_PREFIX=${prefix}")
 run("${CMAKE_COMMAND}" --build "${WORK}/build")
 run("${CMAKE_COMMAND}" --install "${WORK}/build")
-# What is installed must not find the libraries there, but where they are installed.
+# The installed files must find the installed libraries, not those of the build.
 file(REMOVE_RECURSE "${WORK}/build")
 
 foreach(file IN ITEMS "bin/talo_panel" "${LIBDIR}/libtalo_parameters.so" "${LIBDIR}/talo/qtalo_inputs.talo")
@@ -24,5 +24,5 @@ foreach(file IN ITEMS "bin/talo_panel" "${LIBDIR}/libtalo_parameters.so" "${LIBD
     endif()
 endforeach()
 run_and_expect("^talo_panel [0-9.]+\n$" "${prefix}/bin/talo_panel" --version)
-# From the plug-in's own folder; the default network, from that of the examples.
+# Finds the plug-in in its installed folder, and the default network in that of the examples.
 run_and_expect("bool\tboolean\tQT\n.*\"formula\"" "${prefix}/bin/talo_panel" --list-creators --values)

@@ -1,4 +1,4 @@
-# Installs the project into fresh folders and builds against those alone, as somebody else would: a host of the core
+# Installs the project into new folders and builds against those only, as an outside project would: a host of the core
 # without Qt, and each example from its installed sources.
 include("${CMAKE_CURRENT_LIST_DIR}/steps.cmake")
 file(REMOVE_RECURSE "${WORK}")
@@ -7,7 +7,7 @@ set(core "${WORK}/core")
 run("${CMAKE_COMMAND}" --install "${PROJECT_BUILD}" --prefix "${prefix}")
 run("${CMAKE_COMMAND}" --install "${PROJECT_BUILD}" --prefix "${core}" --component core)
 
-# A plug-in file is installed with its translations beside it.
+# A plug-in is installed together with its translations.
 file(GLOB_RECURSE plugin_file "${prefix}/*/qtalo_inputs.talo")
 get_filename_component(plugin_folder "${plugin_file}" DIRECTORY)
 foreach(language IN ITEMS de fr)
@@ -23,12 +23,12 @@ foreach(folder IN ITEMS "${prefix}" "${core}")
     endif()
 endforeach()
 
-# The library that a program was linked with is that of one minor version.
+# A program is linked to the library of one minor version.
 if(NOT EXISTS "${core}/${LIBDIR}/liblattice.so.${SOVERSION}")
     message(FATAL_ERROR "There is no liblattice.so.${SOVERSION}")
 endif()
 
-# The core component needs nothing else, and no Qt; the others say what they miss.
+# The core component needs neither other components nor Qt; the others report what is missing.
 set(core_host ${configure} --fresh -S "${CMAKE_CURRENT_LIST_DIR}/core_host" -DCMAKE_DISABLE_FIND_PACKAGE_Qt5=ON)
 run(${core_host} -B "${WORK}/core_host" "-DCMAKE_PREFIX_PATH=${core}" -DCOMPONENTS=core)
 run("${CMAKE_COMMAND}" --build "${WORK}/core_host")
@@ -40,7 +40,7 @@ refuse_and_expect("The component network of Talo needs Qt 5.15"
 refuse_and_expect("Talo has no component sprockets"
     ${core_host} -B "${WORK}/refused" "-DCMAKE_PREFIX_PATH=${prefix}" -DCOMPONENTS=sprockets)
 
-# A user of the small host is compiled into it.
+# Compiles a simulated user into the small host.
 set(user "-DCMAKE_PROJECT_small_host_INCLUDE=${CMAKE_CURRENT_LIST_DIR}/small_host_user.cmake")
 foreach(example IN ITEMS small_host spin_inputs)
     run(${configure} -S "${prefix}/share/talo/examples/${example}" -B "${WORK}/${example}"
@@ -48,7 +48,7 @@ foreach(example IN ITEMS small_host spin_inputs)
     run("${CMAKE_COMMAND}" --build "${WORK}/${example}")
 endforeach()
 
-# The user works with it: editors, undo, pools, filter; it is saved and drawn.
+# The simulated user works with editors, undo, pools and the filter; the host saves and draws its window.
 file(MAKE_DIRECTORY "${WORK}/user")
 run("${CMAKE_COMMAND}" -E chdir "${WORK}/user" "${WORK}/small_host/small_host")
 file(READ "${WORK}/user/lamp.json" saved)

@@ -6,7 +6,7 @@
 #include <QSpinBox>
 #include <QTemporaryDir>
 
-/// A plug-in that was built elsewhere, against the installed package alone.
+/// A plug-in that was built outside the project, against the installed package only.
 class OutsidePluginTest : public TaloTest {
 protected:
     Kolt::VInitialization host;

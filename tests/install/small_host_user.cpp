@@ -1,5 +1,5 @@
-// A user of the small host, compiled into the program: works with it when its window is shown, draws it and ends it.
-// The status says whether all of that went well.
+// A simulated user, compiled into the small host: works with it when its window is shown, draws the window and ends the
+// program. The exit status tells whether everything worked.
 #include <cstdio>
 #include <parameters/Host.hpp>
 #include <parameters/rows/ParameterRow.hpp>
@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Ends the program with a sentence where a condition does not hold.
+/// Prints a sentence and ends the program if a condition does not hold.
 void require(bool condition, char const* sentence) {
     if (condition)
         return;

@@ -1,5 +1,5 @@
-# What the scripts of this folder have in common. They get from CTest how the project itself is built, so that what
-# they build can be linked with it: GENERATOR, COMPILER, LAUNCHER, SANITIZE, COVERAGE.
+# Shared by the scripts of this folder. CTest passes how the project itself is built, so that they can build code that
+# links with it: GENERATOR, COMPILER, LAUNCHER, SANITIZE, COVERAGE.
 
 # run(COMMAND ARGUMENTS...): runs a command that must succeed; its standard output is in `output`.
 function(run)
@@ -39,7 +39,7 @@ if(COVERAGE)
     string(APPEND flags " --coverage")
 endif()
 
-# Configures another project than this one, which follows with -S and -B. The launcher is a list, which an argument of a
-# function would not keep together.
+# The command that configures another project, which follows with -S and -B. The launcher is passed in the environment,
+# because it is a list, which a function's argument would split.
 set(ENV{CMAKE_CXX_COMPILER_LAUNCHER} "${LAUNCHER}")
 set(configure "${CMAKE_COMMAND}" -G "${GENERATOR}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${flags}")

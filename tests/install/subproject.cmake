@@ -5,7 +5,7 @@ run(${configure} -S "${CMAKE_CURRENT_LIST_DIR}/parent" -B "${WORK}/build" "-DTAL
 run("${CMAKE_COMMAND}" --build "${WORK}/build")
 run_and_expect("^count = 41\n$" "${WORK}/build/program/parent")
 
-# Nothing of the added project comes into the folders, the tests or the installation of the parent.
+# The added project must add nothing to the folders, the tests or the installation of the parent.
 file(GLOB files RELATIVE "${WORK}/build" "${WORK}/build/*.so*" "${WORK}/build/*.talo" "${WORK}/build/talo_panel"
     "${WORK}/build/*.qm" "${WORK}/build/compile_commands.json")
 if(files)

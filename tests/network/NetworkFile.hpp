@@ -6,7 +6,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-/// Network files in a folder of their own, which goes with the test.
+/// Network files in a temporary folder.
 class NetworkFileTest : public TaloTest {
 protected:
     QString path(QString const& name) const { return folder_.filePath(name); }
@@ -25,7 +25,7 @@ protected:
         return source.readAll();
     }
 
-    /// The network of a text that must be right.
+    /// Loads the network of a text, which must be valid.
     std::unique_ptr<Talo::Network> network(QByteArray const& json) const {
         auto result = Talo::Network::load(write(json));
         if (!result.network)
@@ -33,20 +33,20 @@ protected:
         return std::move(result.network);
     }
 
-    /// A network with the pools "draft" and "final" and one object "o" with the parameters, on the lines from 3 on.
+    /// A network with the pools "draft" and "final" and one object "o" with the parameters, which begin on line 3.
     static QByteArray withParameters(QByteArray const& parameters) {
         return "{ \"pools\": [\"draft\", \"final\"], \"objects\": [\n{ \"name\": \"o\", \"parameters\": [\n" +
                parameters + "\n] } ] }\n";
     }
 
-    /// The only object's parameter "p" of a network with that one.
+    /// The parameter "p" of the object "o".
     static Kolt::ParameterPtr parameterOf(Talo::Network const& network) { return network.findParameter("o.p"); }
 
 private:
     QTemporaryDir folder_;
 };
 
-/// The content of a value object, which must be a T.
+/// The content of a value object, whose type must be T.
 template <typename T>
 T content(Kolt::ValuePtr const& value) {
     T read{};
@@ -57,7 +57,7 @@ T content(Kolt::ValuePtr const& value) {
 
 using Network = NetworkFileTest;
 
-/// What a property holds, as its type and its text.
+/// A property's type and text.
 inline std::string propertyOf(Kolt::ParameterPtr const& parameter, char const* name) {
     auto const value = parameter->properties() ? parameter->properties()->getValue(name) : nullptr;
     return value ? Tessera::Typename(value->valueType()) + " " + value->Text() : "none";

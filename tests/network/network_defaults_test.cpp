@@ -58,7 +58,7 @@ TEST_F(NetworkDefaults, AnotherDefaultSavesNothing) {
     EXPECT_FALSE(loaded->isModified());
 }
 
-TEST_F(NetworkDefaults, SavingElsewhereGoesOnThere) {
+TEST_F(NetworkDefaults, SavingElsewhereContinuesWithThatFile) {
     auto const loaded = network(withParameters(R"(
         { "name": "p", "type": "int", "value": 1 },
         { "name": "a", "type": "action", "value": "Go", "properties": { "icon": "icons/go.png", "tooltip": "icons" } },
@@ -115,7 +115,7 @@ TEST_F(NetworkDefaults, ANetworkOfAHostsOwnObjectsIsSavedLikeAnyOther) {
 TEST_F(NetworkDefaults, ASaveOnAFullDiskFailsAndKeepsTheOldFile) {
     auto const loaded = network(withParameters(R"({ "name": "p", "type": "string", "value": "short" })"));
     auto const before = bytesOf(loaded->file());
-    // Less than what is buffered: the last flush fails. More: a write fails.
+    // A text smaller than the buffer fails at the last flush, a larger one at a write.
     for (std::size_t const size : {5000U, 500000U}) {
         ASSERT_TRUE(parameterOf(*loaded)->ownValue()->setValueFromText(std::string(size, 'x')));
         QString error;

@@ -26,7 +26,7 @@ QByteArray slotList(QByteArray const& text) {
            text + "\n] } ] }\n";
 }
 
-/// The same with one parameter "p", of which the rest is given.
+/// The same with one parameter "p"; `rest` follows its name.
 QByteArray parameter(QByteArray const& rest) {
     return parameters("{ \"name\": \"p\", " + rest + " }");
 }
@@ -238,7 +238,7 @@ INSTANTIATE_TEST_SUITE_P(All, WrongNetworkFile, testing::ValuesIn(wrongFiles()),
 
 using NetworkFileErrors = NetworkFileTest;
 
-TEST_F(NetworkFileErrors, AMissingFileIsToldOfWithTheReason) {
+TEST_F(NetworkFileErrors, AMissingFileIsReportedWithTheReason) {
     auto const file = path("not there.json");
     auto const result = Talo::Network::load(file);
     EXPECT_EQ(result.network, nullptr);

@@ -69,7 +69,7 @@ TEST_F(Network, TheFractalNetworkUsesEveryTypeAndPreference) {
     EXPECT_GE(perPool, 3);
 }
 
-/// A creator as a plug-in would register it, of which only the choice is looked at.
+/// A creator as a plug-in would register it, to test only which one is chosen.
 template <typename T>
 struct Creator : Kolt::VInputCreator<T, Kolt::VInputCreatorBase> {
     Creator(std::string const& name, Kolt::VCreationPreferences::Names preferences)

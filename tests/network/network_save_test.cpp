@@ -22,7 +22,7 @@ TEST_F(Network, SavesCurrentValuesAndWhatWasAdded) {
 
 class NetworkNotSaved : public NetworkFileTest {
 protected:
-    /// Saving fails for this reason and leaves the file as it was.
+    /// Checks that saving fails for this reason and leaves the file unchanged.
     void expectRefused(Talo::Network const& network, std::string const& reason) {
         auto const file = write("precious", "kept.json");
         QString error;
@@ -76,7 +76,7 @@ TEST_F(NetworkNotSaved, WhereNoFileCanBe) {
     EXPECT_FALSE(read->save(path("missing folder/x.json"), nullptr));
 }
 
-/// Something with a reference of its own that hears of a parameter, as an editor does.
+/// A notifier of a parameter with its own reference count, like an editor.
 class Listener : public Kolt::ValueNotifier {
 public:
     void onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) override {}

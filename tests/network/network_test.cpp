@@ -86,7 +86,7 @@ TEST_F(Network, TheNameDecidesWhetherANumberIsIntOrDouble) {
     EXPECT_EQ(bytesOf(path("saved again.json")), bytesOf(path("saved.json")));
 }
 
-TEST_F(Network, TextPropertiesAreKeptAsTheyStand) {
+TEST_F(Network, TextPropertiesAreKeptUnchanged) {
     auto const read = network(
         withParameters(R"({ "name": "p", "type": "string", "value": "", "properties": { "inputmask": "999-999;_",)"
                        R"( "tooltip": "1", "Extension": "*.gpl" } })"));
@@ -110,7 +110,7 @@ protected:
     static QString iconOf(Talo::Network const& network) {
         return QString::fromStdString(content<std::string>(parameterOf(network)->properties()->getValue("icon")));
     }
-    /// The text of the file after saving.
+    /// Saves the network and returns the icon's path in the file.
     QString saved(QString const& name) {
         QDir().mkpath(QFileInfo(path(name)).path());
         QString error;
@@ -195,7 +195,7 @@ TEST_F(Network, AFiredActionReachesTheHandler) {
     auto const own = content<ActionPtr>(parameter->ownValue());
     auto const local = content<ActionPtr>(parameter->getLocalValue(pool, {}, false));
     EXPECT_NE(own, local);
-    own->emitAction(pool, parameter); // nobody has asked for it yet
+    own->emitAction(pool, parameter); // no handler is set yet
 
     std::vector<std::string> fired;
     read->actionHandler = [&](auto const& object, auto const& firedParameter, auto const& firedPool) {

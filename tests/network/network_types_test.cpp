@@ -156,7 +156,7 @@ TEST_P(NetworkSelection, OnlyThePoolsOfTheFileHaveSelectionsOfTheirOwn) {
     ASSERT_TRUE(read->save(path("saved.json"), nullptr));
     EXPECT_FALSE(bytesOf(path("saved.json")).contains("draft\":")) << "nobody chose anything in it";
 
-    // The selections themselves are changed in place.
+    // Change the selections in place.
     auto const draft = parameter->getLocalValue(read->findPool("draft"), {}, true);
     ASSERT_TRUE(draft->setValueFromText("c"));
     EXPECT_EQ(parameter->ownValue()->Text(), "a");

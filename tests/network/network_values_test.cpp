@@ -24,7 +24,7 @@ public:
     Kolt::PoolPtr pool;
 };
 
-TEST_F(Network, SettingAValueTellsEverybodyOnceAndRenewsItsAge) {
+TEST_F(Network, SettingAValueNotifiesEverybodyOnceAndRenewsItsAge) {
     auto const read = network(withParameters(R"({ "name": "p", "type": "int", "value": 1 })"));
     auto const parameter = parameterOf(*read);
     Listener first(parameter);
@@ -69,8 +69,8 @@ TEST_F(Network, ASharedValueCanBeSetWithoutAPool) {
 struct SetTextRow {
     char const* name;
     QByteArray rest;
-    char const* accepted; ///< empty for a type that takes no text
-    char const* refused;  ///< null for a type that takes every text
+    char const* accepted; ///< empty for a type that accepts no text
+    char const* refused;  ///< null for a type that accepts every text
 };
 
 void PrintTo(SetTextRow const& row, std::ostream* stream) {

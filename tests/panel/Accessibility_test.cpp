@@ -12,7 +12,7 @@ using testing::HasSubstr;
 
 namespace {
 
-/// Asks as a program does that reads the panel to people who do not see it, about the example network.
+/// Queries the panel with the example network through the accessibility interface, as a screen reader does.
 class AccessibilityTest : public PanelTest {
 protected:
     void SetUp() override {
@@ -26,7 +26,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
     void TearDown() override {
-        // The editor of the selections tells what it does.
+        // The editor of multiple selections prints a trace.
         takeOutput();
         PanelTest::TearDown();
     }
@@ -39,7 +39,7 @@ protected:
     static std::string description(QObject* object) { return told(object, QAccessible::Description); }
 
     static bool takesFocus(QWidget const& widget) { return widget.focusPolicy() != Qt::NoFocus; }
-    /// The controls of an editor that people can be at.
+    /// The controls of an editor that take the focus.
     static std::vector<QWidget*> controls(QWidget* editor) {
         std::vector<QWidget*> controls;
         if (takesFocus(*editor))
@@ -50,7 +50,7 @@ protected:
         return controls;
     }
 
-    /// Shows one object after the other and looks at each row of it.
+    /// Shows one object after another and calls `look` for each of its rows.
     void forEachRow(std::function<void(Kolt::VObject const&, Talo::ParameterRow*)> const& look) {
         int rows = 0;
         for (auto const& object : window->network()->objects()) {
@@ -74,7 +74,7 @@ TEST_F(AccessibilityTest, EachControlIsNamedAfterItsParameter) {
     int count = 0;
     forEachRow([&](Kolt::VObject const&, Talo::ParameterRow* row) {
         for (auto* const control : controls(row->editor())) {
-            // With this platform's Qt a drop-down list tells its choice for its name.
+            // With this version of Qt a drop-down list returns its current entry as its accessible name.
             auto const* const list = qobject_cast<QComboBox*>(control);
             EXPECT_THAT(list ? list->accessibleName().toStdString() : name(control),
                         HasSubstr(row->parameterName().toStdString()))
@@ -114,7 +114,7 @@ TEST_F(AccessibilityTest, AControlWithACaptionIsNamedByBoth) {
     EXPECT_EQ(name(window->currentView()->row(QStringLiteral("picture"))->editor()), "picture: Save as");
 }
 
-TEST_F(AccessibilityTest, AnExplanationIsToldWithTheDescription) {
+TEST_F(AccessibilityTest, AnExplanationIsPartOfTheDescription) {
     window->showObject(QStringLiteral("render"));
     EXPECT_EQ(description(window->currentView()->row(QStringLiteral("start"))->editor()),
               "render.start, type action\nCompute the picture anew in the chosen pool");
@@ -127,7 +127,7 @@ TEST_F(AccessibilityTest, TheNameOfARowIsTheLabelOfItsEditor) {
         auto const relations = label->relations(QAccessible::Labelled);
         ASSERT_EQ(relations.size(), 1);
         EXPECT_EQ(relations.first().first->object(), row->editor());
-        // Whoever goes to the editor comes to one of its controls.
+        // Setting the focus to the editor must focus one of its controls.
         auto const all = controls(row->editor());
         auto* const proxy = row->editor()->focusProxy();
         if (!all.empty()) {
@@ -136,16 +136,16 @@ TEST_F(AccessibilityTest, TheNameOfARowIsTheLabelOfItsEditor) {
     });
 }
 
-TEST_F(AccessibilityTest, TabAloneComesByEveryControl) {
+TEST_F(AccessibilityTest, TabReachesEveryControl) {
     for (auto const& object : window->network()->objects()) {
         SCOPED_TRACE(object->Name());
         ASSERT_TRUE(window->showObject(QString::fromStdString(object->Name())));
         window->objectList()->setFocus();
         std::set<QWidget*> reached;
-        // Round the whole window once.
+        // Tab through the whole window once.
         for (auto* focus = QApplication::focusWidget(); focus && reached.insert(focus).second;
              focus = QApplication::focusWidget()) {
-            // A text of several lines keeps the Tab key for itself.
+            // A multi-line text field takes the Tab key as text.
             bool const takesTab = qobject_cast<QTextEdit*>(focus) != nullptr;
             QTest::keyClick(focus, Qt::Key_Tab, takesTab ? Qt::ControlModifier : Qt::NoModifier);
         }

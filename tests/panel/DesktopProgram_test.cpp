@@ -1,4 +1,4 @@
-// The program itself on a display with a window manager, used by keys and the mouse alone.
+// The program itself on a display with a window manager, used by keys and mouse only.
 
 #include "support/Desktop.hpp"
 
@@ -58,7 +58,7 @@ protected:
     void awaitModified(bool modified) {
         EXPECT_TRUE(waitUntil([&] { return title().contains(QLatin1Char('*')) == modified; })) << qPrintable(title());
     }
-    /// Finds a parameter and types a value for it.
+    /// Finds a parameter and types a value.
     void enter(char const* parameter, char const* text) {
         desktop.key("ctrl+f");
         desktop.type(QString::fromUtf8(parameter));
@@ -78,7 +78,7 @@ protected:
         EXPECT_TRUE(source.open(QIODevice::ReadOnly));
         return source.readAll();
     }
-    /// What the program should write for these values.
+    /// The file that the program should write for these values.
     QByteArray expected(char const* on, char const* level, char const* place) {
         auto const name = folder.filePath(QStringLiteral("expected.json"));
         auto const network = Talo::Network::load(file).network;
@@ -90,7 +90,7 @@ protected:
         EXPECT_TRUE(network->save(name, &error)) << qPrintable(error);
         return bytes(name);
     }
-    /// A picture that the program draws of itself, with the lamp on or off.
+    /// A screenshot that the program writes of itself, with the lamp on or off.
     QImage picture(char const* on) {
         auto const network = folder.filePath(QStringLiteral("drawn.json"));
         auto const image = folder.filePath(QStringLiteral("drawn.png"));
@@ -100,14 +100,14 @@ protected:
         EXPECT_TRUE(drawing.waitForFinished());
         return QImage(image);
     }
-    /// The middle of the mark that is all that changes in the window when the lamp is switched.
+    /// The centre of the check mark, the only part of the window that changes when the lamp is switched.
     QPoint switchPlace() {
         auto const on = picture("true");
         auto const off = picture("false");
         EXPECT_EQ(on.size(), QSize(700, 500));
         EXPECT_EQ(off.size(), on.size());
         QRect differing;
-        // Below it, the messages have the time.
+        // The lower half shows the messages, which contain the time.
         for (int y = 0; y < on.height() / 2; ++y) {
             for (int x = 0; x < on.width(); ++x) {
                 if (on.pixel(x, y) != off.pixel(x, y))

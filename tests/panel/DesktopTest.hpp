@@ -11,12 +11,12 @@
 #include <QTreeWidget>
 #include <set>
 
-/// The panel with the network of the examples on a display, for a person's mouse and keyboard.
+/// The panel with the example network on a display, for real mouse and keyboard input.
 class DesktopTest : public FractalPanelTest {
 protected:
     void TearDown() override {
         FractalPanelTest::TearDown();
-        // The list for multiple choice says so each time it shows a value.
+        // The list of multiple selections prints this each time it shows a value.
         EXPECT_THAT(takeOutput(), testing::Each("calling getSeletion from valueChanged"));
     }
 
@@ -44,7 +44,7 @@ protected:
         auto* const itself = qobject_cast<Control*>(editor);
         return itself ? itself : editor->template findChild<Control*>();
     }
-    /// Finds a parameter and goes to its first control, by the keys alone.
+    /// Finds a parameter and moves the focus to its first control, by keys only.
     void goTo(char const* parameterName) {
         auto const name = QString::fromUtf8(parameterName);
         desktop.key("ctrl+f");
@@ -59,7 +59,7 @@ protected:
         })) << parameterName;
     }
 
-    /// Makes a change, waits for it, and takes it back and makes it again by the keys.
+    /// Makes a change, waits for it, and undoes and redoes it by keys.
     void edit(char const* name, char const* means, std::function<void()> const& change) {
         SCOPED_TRACE(std::string(name) + " by " + means);
         auto const before = valueOf(name);
@@ -74,7 +74,7 @@ protected:
         EXPECT_TRUE(waitUntil([&] { return valueOf(name) == after; })) << valueOf(name) << " for " << after;
         noteCreator(name);
     }
-    /// Waits for a value, as while a text is typed there are others before it.
+    /// Waits for a value: while a text is typed, the parameter has other values first.
     void expectValue(char const* name, std::string const& value) const {
         EXPECT_TRUE(waitUntil([&] { return valueOf(name) == value; })) << name << " is " << valueOf(name);
     }
@@ -97,9 +97,9 @@ protected:
             auto const* const field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
             desktop.key("alt+n");
             EXPECT_TRUE(waitUntil([&] { return field->hasFocus(); }));
-            // The files are looked up meanwhile: the dialog may put one that it finds into the field, and names that go
-            // on from what is typed may fold out at any moment, even over the Return. A person who sees it types again,
-            // closes the list, and presses Return again.
+            // The dialog searches files while it is open: it may put one that it finds into the field, and its list of
+            // completions may open at any moment, even over the Return. So do what a user does: type again, close the
+            // list, and press Return again.
             for (int attempt = 0; attempt < 6 && dialog.isVisible(); ++attempt) {
                 if (QApplication::activePopupWidget()) {
                     desktop.key("Escape");
@@ -132,7 +132,7 @@ protected:
             answered = true;
         }));
     }
-    /// Types a colour into the dialog of a swatch and closes it.
+    /// Types a colour into the dialog of a swatch and closes the dialog.
     void enterColour(char const* colour) {
         QColorDialog* dialog = nullptr;
         ASSERT_TRUE(waitUntil([&] {
@@ -147,7 +147,7 @@ protected:
         desktop.key("Escape");
         EXPECT_TRUE(waitUntil([&] { return window->isActiveWindow(); }));
     }
-    /// Goes through a menu by the keys: the one that opens it, then those of the entry.
+    /// Uses a menu by keys: `menu` opens it, the others choose the entry.
     void chooseFromMenu(char const* menu, std::initializer_list<char const*> entry) {
         desktop.key(menu);
         ASSERT_TRUE(waitUntil([] { return QApplication::activePopupWidget() != nullptr; }));
@@ -164,7 +164,7 @@ protected:
         return window->messages()->texts(Panel::MessageList::Source::Panel).join(QLatin1Char('\n')).contains(text);
     }
 
-    /// Notes that the parameter's editor was used.
+    /// Records that the editor of the parameter was used.
     void noteCreator(char const* name) {
         used.insert(Kolt::InputRegistry::theRegistry().choose(*parameter(name), {"QT"}).creator.strong().get());
     }
@@ -185,7 +185,7 @@ private:
     static bool isIn(QWidget const* editor, QWidget const* widget) {
         return editor == widget || editor->isAncestorOf(widget);
     }
-    // What stays open would hold the test up for ever.
+    // A dialog that stays open would block the test.
     static void close(QDialog& dialog) {
         bool const closed = waitUntil([&] { return !dialog.isVisible(); });
         EXPECT_TRUE(closed) << "a dialog stays open";

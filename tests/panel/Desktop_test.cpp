@@ -1,4 +1,4 @@
-// The panel as a person uses it, by the mouse and the keyboard of a display with a window manager.
+// The panel as a user uses it, by the mouse and keyboard of a display with a window manager.
 
 #include "DesktopTest.hpp"
 
@@ -23,7 +23,7 @@ QPoint handle(QAbstractSlider const& slider) {
     return {7 + static_cast<int>(share * (slider.width() - 14)), slider.height() / 2};
 }
 
-/// Where a check box or radio button is marked.
+/// The place of the indicator of a check box or radio button.
 QPoint mark(QWidget const& button) {
     return {8, button.height() / 2};
 }
@@ -36,13 +36,13 @@ class EveryEditor : public DesktopTest {
 protected:
     void SetUp() override {
         DesktopTest::SetUp();
-        // Small pictures are soon computed.
+        // Small pictures are computed quickly.
         set("exporter.width", "64");
     }
 
-    /// The file that is chosen by the editor; it exists where the dialog can only open one.
+    /// The file to choose in the editor's dialog; it exists if the dialog can only open files.
     QString target(char const* name) const {
-        // With a suffix, as a dialog would add one.
+        // With a suffix, because a dialog adds one otherwise.
         auto const path = folder.filePath(QString::fromUtf8(name).section(QLatin1Char('.'), 1) + ".out");
         if (name == std::string("exporter.palette")) {
             QFile palette(path);
@@ -50,7 +50,7 @@ protected:
         }
         return path;
     }
-    /// The render action tells in the displays what it did.
+    /// Fires the render action and checks that the displays show what it did.
     void render(std::function<void()> const& press) {
         auto const text = [this](char const* name) { return control<QLabel>(name)->text(); };
         set("render.progress", "Waiting.");
@@ -108,8 +108,8 @@ TEST_F(EveryEditor, IsUsedByTheMouse) {
             desktop.click(*box, QPoint(box->width() - 8, box->height() / 2));
             auto* const list = box->view();
             ASSERT_TRUE(waitUntil([&] { return list->isVisible(); }));
-            // A person's hand takes longer than the list ignores the mouse for, as the release that belongs to the
-            // press that opened it is no choice.
+            // The list ignores the mouse for a moment after it opens, so that the release of the opening press chooses
+            // nothing. A user's hand is slower; the test clicks again.
             auto const other = list->model()->index((box->currentIndex() + 1) % box->count(), 0);
             bool closed = false;
             for (int clicks = 0; clicks < 10 && !closed; ++clicks) {
@@ -175,9 +175,9 @@ TEST_F(EveryEditor, IsUsedByTheMouse) {
 TEST_F(EveryEditor, IsUsedByTheKeyboard) {
     struct Keys {
         char const* parameter;
-        // Pressed one after the other at the parameter's first control; a text in brackets is typed.
+        // The keys to press at the parameter's first control; a text in brackets is typed.
         std::vector<char const*> keys;
-        // The value at the end; null for any other one than before.
+        // The resulting value; null if it only has to differ from the previous one.
         char const* value;
     };
     std::vector<Keys> const all = {
@@ -198,7 +198,7 @@ TEST_F(EveryEditor, IsUsedByTheKeyboard) {
         {"titles.author", {"End", "[!]", "Return"}, "A. N. Engineer!"},
         {"titles.caption", {"End", "[!]", "Return"}, "Escape time, smoothed!"},
         {"titles.date", {"Home", "[2001]", "Return"}, "2001-03-29"},
-        // It is written when it is left, here for the filter and back.
+        // The text is committed when the field loses the focus, here to the filter and back.
         {"titles.legend", {"ctrl+Home", "[More: ]", "ctrl+f", "Return"}, nullptr},
     };
     for (auto const& each : all) {
@@ -229,7 +229,7 @@ TEST_F(EveryEditor, IsUsedByTheKeyboard) {
         });
     }
     goTo("render.start");
-    // The displays beside the button.
+    // Now the displays beside the button.
     desktop.key("ctrl+f");
     desktop.key("Escape");
     desktop.key("Return");
@@ -247,7 +247,7 @@ TEST_F(DesktopTest, TwoViewsOfAnObjectStayEqualWhileBothAreUsed) {
     auto* const its = other->row(QStringLiteral("smooth"))->editor()->findChild<QCheckBox*>();
     for (auto* const clicked : {mine, its, mine}) {
         auto* const area = (clicked == its ? other : window->currentView())->panel()->rowArea();
-        // The new view comes gliding.
+        // The new view is animated into place.
         ASSERT_TRUE(waitUntil([&] {
             area->ensureWidgetVisible(clicked);
             return Desktop::isAt(*clicked, clicked->mapToGlobal(mark(*clicked)));
@@ -289,7 +289,7 @@ TEST_F(DesktopTest, TheWheelScrollsThePanelAndChangesNothing) {
         EXPECT_TRUE(waitUntil([&] { return area->verticalScrollBar()->value() > scrolled; }));
     }
     EXPECT_EQ(window->network()->values(), values);
-    // With the focus the wheel is the editor's.
+    // An editor with the focus gets the wheel.
     goTo("formula.quality");
     desktop.key("Tab");
     edit("formula.quality", "the wheel", [&] {

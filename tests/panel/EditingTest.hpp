@@ -22,7 +22,7 @@ protected:
 
     void TearDown() override {
         window.reset();
-        // The list for multiple choice says so each time it shows a value.
+        // The list of multiple selections prints this each time it shows a value.
         EXPECT_THAT(takeOutput(), testing::Each("calling getSeletion from valueChanged"));
         PanelTest::TearDown();
     }
@@ -74,7 +74,7 @@ protected:
         return nullptr;
     }
 
-    /// Clicks a check box or radio button where it is marked.
+    /// Clicks the indicator of a check box or radio button.
     static void click(QAbstractButton* button) {
         QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, {8, button->height() / 2});
     }
@@ -87,7 +87,7 @@ protected:
         return parameter(name)->effectiveValue(window->network()->pools().at(pool))->Text();
     }
 
-    /// Moves the handle of a slider as the mouse does, from where it is by a number of pixels each time.
+    /// Drags the handle of a slider with the mouse, by these numbers of pixels one after another.
     static void drag(QSlider* slider, std::initializer_list<int> distances) {
         QStyleOptionSlider option;
         option.initFrom(slider);
@@ -116,6 +116,6 @@ protected:
     }
     QByteArray valuesNow() const { return window->network()->values(); }
 
-    /// The values of the file.
+    /// The content of the network's file.
     QByteArray text;
 };

@@ -1,4 +1,4 @@
-// What other programs do to the network's file, and how files get their names and folders.
+// Changes of the network's file by other programs, and the names and folders of files.
 
 #include "support/FileDialogs.hpp"
 #include "UnsavedChangesTest.hpp"
@@ -11,7 +11,7 @@ namespace {
 
 class FileSafetyTest : public UnsavedChangesTest {
 protected:
-    /// Another program writes the file.
+    /// Writes the file as another program does.
     QByteArray overwrite(QByteArray const& from, QByteArray const& to) const {
         auto bytes = bytesOf(file());
         EXPECT_TRUE(bytes.contains(from));
@@ -74,7 +74,7 @@ TEST_F(FileSafetyTest, AChangedFileCanBeLoadedAgainWhereNothingIsUnsaved) {
     QTest::mouseClick(offer(), Qt::LeftButton);
     EXPECT_EQ(held("line"), "theirs");
     EXPECT_FALSE(notice()->isVisible());
-    // The watcher goes on with the file that was loaded.
+    // The watcher continues to watch the file that was loaded.
     overwrite("\"value\": \"theirs\"", "\"value\": \"theirs again\"");
     ASSERT_TRUE(isNoticed());
     EXPECT_TRUE(offer()->isVisible());

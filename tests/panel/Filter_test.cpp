@@ -17,7 +17,7 @@ protected:
     }
 
     QLineEdit* field() const { return window->findChild<QLineEdit*>(QStringLiteral("filter")); }
-    /// Types into the field as a user does, over what stands there.
+    /// Replaces the field's text by typing, as a user does.
     void look(char const* words) {
         field()->setFocus();
         field()->selectAll();
@@ -124,7 +124,7 @@ TEST_F(FilterTest, HoldsForViewsMadeLaterAndNotForAnotherNetwork) {
     EXPECT_THAT(objects(), ElementsAre("lamp", "second lamp"));
 }
 
-TEST_F(FilterTest, WithoutAFindSaysSo) {
+TEST_F(FilterTest, WithoutAMatchSaysSo) {
     look("nowhere");
     EXPECT_THAT(parameters(), IsEmpty());
     EXPECT_TRUE(window->currentView()->findChild<QLabel*>(QStringLiteral("emptyNote"))->isVisible());

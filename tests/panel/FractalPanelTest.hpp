@@ -2,8 +2,8 @@
 
 #include "PanelTest.hpp"
 
-/// The panel with a copy of the fractal network open, active and without the preview, which would take most of the time
-/// and is not what is tested.
+/// The active panel with a copy of the fractal network. The preview is closed, because it is not tested here and would
+/// take most of the time.
 class FractalPanelTest : public PanelTest {
 protected:
     void SetUp() override {

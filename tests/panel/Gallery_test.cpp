@@ -23,7 +23,7 @@ protected:
     }
     void TearDown() override {
         gallery.reset();
-        // Lists print whenever they show something.
+        // Lists print a trace whenever they show a value.
         printed();
         QString error;
         EXPECT_TRUE(plugins.unload(&error)) << qPrintable(error);
@@ -38,7 +38,7 @@ protected:
         EXPECT_TRUE(waitUntil([&] { return gallery->isActiveWindow(); }));
         return page;
     }
-    /// What was printed, but for what the lists trace.
+    /// What was printed, without the trace of the lists.
     std::vector<std::string> printed() {
         auto lines = takeOutput();
         lines.erase(std::remove(lines.begin(), lines.end(), "calling getSeletion from valueChanged"), lines.end());
@@ -65,7 +65,7 @@ protected:
         return parameter->effectiveValue(page->pools().pool());
     }
     static void edit(Panel::GalleryRow const* row, EditorCase const& editorCase, std::size_t index) {
-        // A page that was just shown is laid out now.
+        // Lay out a page that was just shown.
         QCoreApplication::processEvents();
         // A wheel over an editor without the focus scrolls the page.
         if (auto* const dial = row->editor(index)->findChild<QDial*>())
@@ -114,7 +114,7 @@ TEST_F(GalleryTest, AnEditInOneEditorAppearsInTheOtherAndBesideThem) {
                 auto const stamp = row->rawValue()->stamp();
                 auto const count = row->counter()->count();
                 edit(row, editorCase, index);
-                // A file that is chosen again is the same value.
+                // Choosing a file again does not change the value.
                 if (index == 0) {
                     EXPECT_NE(row->rawValue()->text().toStdString(), text);
                 }
@@ -172,7 +172,7 @@ TEST_F(GalleryTest, AnEditOfADeadParameterSaysSo) {
     }
 }
 
-TEST_F(GalleryTest, WithoutAPoolAnEditStoresNothingAndTellsNobody) {
+TEST_F(GalleryTest, WithoutAPoolAnEditStoresNothingAndNotifiesNobody) {
     auto* const page = open(GalleryState::NoPool);
     for (auto const& editorCase : editorCases()) {
         if (!editorCase.edit)
@@ -210,7 +210,7 @@ TEST_F(GalleryTest, AValueOfAnotherTypeIsLeftAlone) {
                 HasSubstr("QInteger could not initialize value."));
 }
 
-TEST_F(GalleryTest, TellsOfActionsAndOfPrintedLines) {
+TEST_F(GalleryTest, ReportsActionsAndPrintedLines) {
     auto const* const page = open(GalleryState::Normal);
     gallery->tapStandardOutput();
     auto const action = std::find_if(editorCases().begin(), editorCases().end(),
@@ -238,10 +238,10 @@ TEST_F(GalleryTest, ShowsCreatorsOfAnyPlugin) {
         }
     };
     auto const qt = [] { return Kolt::PreferencesPtr(new Kolt::VCreationPreferences("QT")); };
-    // More important than the plug-in's own creator for the same preferences.
+    // Has a higher priority than the plug-in's creator for the same preferences.
     Kolt::VInputCreator<bool, Kolt::VInputCreatorBase> rival("rival", 1, qt(), "TALO_API_VERSION");
     rival.addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new LabelCreator));
-    // Nobody can make a value of its type.
+    // No value creator exists for its type.
     Kolt::VInputCreator<Unknown, Kolt::VInputCreatorBase> unknown("unknown", 0, qt(), "TALO_API_VERSION");
     unknown.addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new LabelCreator));
 
@@ -260,7 +260,7 @@ TEST_F(GalleryTest, ShowsCreatorsOfAnyPlugin) {
 
 using GalleryWithoutPlugins = TaloTest;
 
-TEST_F(GalleryWithoutPlugins, StandsEmpty) {
+TEST_F(GalleryWithoutPlugins, IsEmpty) {
     Panel::Gallery gallery;
     EXPECT_TRUE(gallery.showState(GalleryState::PerPool)->rows().empty());
 }

@@ -14,7 +14,7 @@ using testing::SizeIs;
 
 namespace {
 
-/// The name of a parameter, "/" and how it is edited.
+/// The test parameter is the name of a parameter, "/" and the way to edit it.
 class HistoryOfType : public HistoryTest, public testing::WithParamInterface<char const*> {
 protected:
     std::string name() const { return std::string(GetParam()).substr(0, std::string(GetParam()).find('/')); }
@@ -25,13 +25,13 @@ protected:
             FAIL() << "nobody knows how to edit " << way;
     }
 
-    /// What an editor shows of its value.
+    /// The texts and states that an editor shows.
     static QStringList shownBy(QWidget& editor) {
         QStringList shown;
         auto parts = editor.findChildren<QWidget*>();
         parts.prepend(&editor);
         for (auto* const part : std::as_const(parts)) {
-            // A dialog is not a part of what is shown, nor are the tools of a list.
+            // Skip dialogs and the tools of a list.
             if (part->window() != editor.window())
                 continue;
             if (auto* const view = qobject_cast<QListWidget*>(part)) {
@@ -56,7 +56,7 @@ protected:
     }
 
 private:
-    // Each makes one edit in the named way. False if it does not know the name.
+    // Each makes one edit in the named way, and returns false if it does not know the name.
     bool editsNumber(std::string const& way) {
         if (way == "int/drag")
             drag(slider("int"), {30, 30, -10});
@@ -138,7 +138,7 @@ private:
 
 } // namespace
 
-TEST_P(HistoryOfType, AnEditIsOneStepThatGoesBackAndForth) {
+TEST_P(HistoryOfType, AnEditIsOneStepThatCanBeUndoneAndRedone) {
     edit();
     auto const edited = valuesNow();
     EXPECT_NE(edited, text);
@@ -154,7 +154,7 @@ TEST_P(HistoryOfType, AnEditIsOneStepThatGoesBackAndForth) {
     EXPECT_TRUE(window->messages()->texts(Panel::MessageList::Source::Error).isEmpty());
 }
 
-TEST_P(HistoryOfType, EveryViewShowsWhatHoldsAfterUndoAndRedo) {
+TEST_P(HistoryOfType, EveryViewShowsTheValueAfterUndoAndRedo) {
     auto* const second = window->addView();
     auto const parameter = QString::fromStdString(name());
     edit();
@@ -174,7 +174,7 @@ TEST_P(HistoryOfType, EveryViewShowsWhatHoldsAfterUndoAndRedo) {
     EXPECT_EQ(agree(), before);
 }
 
-TEST_P(HistoryOfType, AnEditInAPoolGoesBackWhicheverPoolIsChosen) {
+TEST_P(HistoryOfType, AnEditInAPoolIsUndoneWhicheverPoolIsChosen) {
     auto json = QByteArray(values).replace("\"type\": ", "\"perPool\": true, \"type\": ");
     QString error;
     ASSERT_TRUE(window->openNetwork(networkFile("pools.json", json.constData()), &error)) << qPrintable(error);

@@ -4,7 +4,7 @@
 
 #include <parameters/commands/HistoryView.hpp>
 
-/// A window whose history is looked at.
+/// A window with its list of undo steps.
 class HistoryTest : public EditingTest {
 protected:
     Talo::HistoryView* list() const { return window->findChild<Talo::HistoryView*>(QStringLiteral("history")); }

@@ -111,7 +111,7 @@ TEST_F(HistoryTest, AnEditAfterADestroyedFieldIsAStepOfItsOwn) {
     EXPECT_THAT(steps(), SizeIs(2));
 }
 
-TEST_F(HistoryTest, UndoWhileTypingTakesTheWholeWordBack) {
+TEST_F(HistoryTest, UndoWhileTypingUndoesTheWholeWord) {
     for (auto const* const name : {"line", "array", "lines"}) {
         auto* const editor = row(name)->editor();
         editor->setFocus();
@@ -141,7 +141,7 @@ TEST_F(HistoryTest, UndoWhileTypingGoesOnWithEarlierSteps) {
     EXPECT_EQ(held("bool"), "false");
 }
 
-TEST_F(HistoryTest, ATextThatIsNotWrittenYetIsTakenBackByItsField) {
+TEST_F(HistoryTest, ATextThatIsNotWrittenYetIsUndoneByItsField) {
     click(control<QCheckBox>("bool"));
     auto* const number = field("int");
     number->setFocus();
@@ -288,7 +288,7 @@ TEST_F(HistoryTest, StepsOutliveTheirPlugin) {
     EXPECT_TRUE(window->messages()->texts(Panel::MessageList::Source::Error).isEmpty());
 }
 
-TEST_F(HistoryTest, AStepOfARemovedParameterIsTold) {
+TEST_F(HistoryTest, AStepOfARemovedParameterIsReported) {
     click(control<QCheckBox>("bool"));
     window->network()->findObject(QStringLiteral("all"))->removeParameter(parameter("all.bool"));
     undo();

@@ -20,7 +20,7 @@ protected:
 
 } // namespace
 
-TEST_F(KeyboardChoiceTest, TakesOverWhatIsChosenByAKeyAsOneStep) {
+TEST_F(KeyboardChoiceTest, CommitsAChoiceByKeyAsOneStep) {
     list()->setFocus();
     list()->setCurrentRow(0, QItemSelectionModel::NoUpdate);
     QTest::keyClick(list(), Qt::Key_Space);

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The part of a picture that is not of the colour of its corner; null for a picture of one colour.
+/// The bounding box of the pixels whose colour differs from the corner's; null if there are none.
 QRect inkIn(QImage const& picture) {
     QRect ink;
     for (int y = 0; y < picture.height(); ++y) {
@@ -25,7 +25,7 @@ QRect inkIn(QImage const& picture) {
     return ink;
 }
 
-/// The widget as it looks on a screen.
+/// The widget as drawn, without transparency.
 QImage pictureOf(QWidget& widget) {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
@@ -48,7 +48,7 @@ TEST_F(LookTest, ARawValueReadsTheSameInAPanelFromRightToLeftButStandsAtItsEnd) 
     auto const firstLine = [&](Qt::LayoutDirection direction) {
         Talo::RawValueLabel raw(parameter, pools);
         raw.setLayoutDirection(direction);
-        // Letters that look the same wherever they stand.
+        // Letters that look the same at every position.
         QFont font(QStringLiteral("DejaVu Sans"), 9);
         font.setHintingPreference(QFont::PreferFullHinting);
         font.setStyleStrategy(QFont::NoAntialias);
@@ -78,7 +78,7 @@ TEST_F(LookTest, ALabelStandsWhereLinesBegin) {
 
 TEST_F(LookTest, TheCaptionOfAButtonStaysBesideItsIcon) {
     for (auto const direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-        // Painters go by the application's direction.
+        // Painters use the application's layout direction.
         QApplication::setLayoutDirection(direction);
         QPixmap icon(16, 16);
         icon.fill(Qt::red);

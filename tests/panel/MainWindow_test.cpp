@@ -113,7 +113,7 @@ TEST_F(MainWindowTest, SwitchingThePoolSwitchesEveryEditor) {
     EXPECT_TRUE(box("steady")->isChecked());
     QTest::mouseClick(box("on"), Qt::LeftButton);
     EXPECT_EQ(valueOf("lamp.on"), "false");
-    // Written into the pool that was chosen, and not into the value that stands behind it.
+    // Written to the chosen pool, not to the parameter's own value.
     set("lamp.on", "true");
     ASSERT_TRUE(window->choosePool(QStringLiteral("day")));
     EXPECT_EQ(poolSelector()->currentText(), QStringLiteral("day"));
@@ -183,7 +183,7 @@ TEST_F(MainWindowTest, AdvancedParametersAreShownOnDemandInAllViews) {
     EXPECT_FALSE(isShown(second));
 }
 
-TEST_F(MainWindowTest, UndoNamesTheLatestStepAndTakesItBack) {
+TEST_F(MainWindowTest, UndoNamesAndRevertsTheLatestStep) {
     EXPECT_FALSE(action("undo")->isEnabled());
     int undone = 0;
     addStep("Set int value to 7 & more", true, undone);
@@ -194,7 +194,7 @@ TEST_F(MainWindowTest, UndoNamesTheLatestStepAndTakesItBack) {
     EXPECT_FALSE(action("undo")->isEnabled());
 }
 
-TEST_F(MainWindowTest, AStepThatCanNoLongerBeTakenBackIsTold) {
+TEST_F(MainWindowTest, AStepThatCanNoLongerBeUndoneIsReported) {
     int undone = 0;
     addStep("Set int value to 7", false, undone);
     action("undo")->trigger();
@@ -225,7 +225,7 @@ TEST_F(MainWindowTest, ABrokenFileLeavesEverythingOpenAsItWas) {
     EXPECT_EQ(window->network(), network);
 }
 
-TEST_F(MainWindowTest, ABrokenFileChosenInTheMenuIsToldInABox) {
+TEST_F(MainWindowTest, ABrokenFileChosenInTheMenuIsReportedInABox) {
     auto const file = networkFile("broken.json", "{ \"pools\": <7> }");
     auto const* const network = window->network();
     QTimer::singleShot(0, [&] {
@@ -243,7 +243,7 @@ TEST_F(MainWindowTest, ABrokenFileChosenInTheMenuIsToldInABox) {
     EXPECT_TRUE(waitUntil([&] { return box.isNull(); }));
 }
 
-TEST_F(MainWindowTest, UndoTakesAnEditOfAnotherObjectBack) {
+TEST_F(MainWindowTest, UndoRevertsAnEditOfAnotherObject) {
     window->showObject(QStringLiteral("second lamp"));
     auto* const number = window->currentView()->row(QStringLiteral("level"))->editor()->findChild<QAbstractSlider*>();
     ASSERT_NE(number, nullptr);
@@ -290,7 +290,7 @@ TEST_F(MainWindowTest, SavedValuesAreThereWhenTheFileIsOpened) {
     EXPECT_FALSE(box("steady")->isChecked());
 }
 
-TEST_F(MainWindowTest, AFileThatCannotBeWrittenIsTold) {
+TEST_F(MainWindowTest, AFileThatCannotBeWrittenIsReported) {
     QString error;
     EXPECT_FALSE(window->saveValues(folder.filePath(QStringLiteral("missing/saved.json")), &error));
     EXPECT_FALSE(error.isEmpty());

@@ -51,7 +51,7 @@ TEST_F(MessageListTest, ForgetsTheOldestBeyondItsCapacity) {
     EXPECT_EQ(list.texts().constLast(), QString::number(Panel::MessageList::Capacity));
 }
 
-TEST_F(StandardOutputTapTest, TellsLinesAndPassesThemOn) {
+TEST_F(StandardOutputTapTest, ReportsLinesAndPassesThemOn) {
     {
         Panel::StandardOutputTap tap;
         listenTo(tap);
@@ -74,7 +74,7 @@ TEST_F(StandardOutputTapTest, ALongTextPrintedAtOnceBlocksNobody) {
     std::string const line(999, 'x');
     Panel::StandardOutputTap tap;
     listenTo(tap);
-    // Far more than a pipe holds, and no event is handled meanwhile.
+    // Far more than a pipe can hold, without processing events.
     for (int count = 0; count < 2000; ++count)
         std::puts(line.c_str());
     std::fflush(stdout);
@@ -84,7 +84,7 @@ TEST_F(StandardOutputTapTest, ALongTextPrintedAtOnceBlocksNobody) {
 
 namespace {
 
-/// Standard output is a pipe with a reader that has not read yet.
+/// Replaces standard output by a pipe whose reader does not read.
 class UnreadPipe {
 public:
     UnreadPipe() : old_(dup(STDOUT_FILENO)) {
@@ -97,7 +97,7 @@ public:
         restore();
         close(ends_[0]);
     }
-    /// Standard output is what it was before. Returns how much the reader gets until the end.
+    /// Restores standard output. Returns how much the reader then reads.
     int restore() {
         std::fflush(stdout);
         if (old_ < 0)
@@ -125,7 +125,7 @@ TEST_F(StandardOutputTapTest, AReaderThatStopsToReadBlocksNobody) {
     {
         Panel::StandardOutputTap tap;
         listenTo(tap);
-        // More than the pipe holds and more than is kept for the reader.
+        // More than the pipe can hold and than is buffered for the reader.
         for (int count = 0; count < 2000; ++count)
             std::puts(line.c_str());
         std::fflush(stdout);

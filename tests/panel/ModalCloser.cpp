@@ -12,7 +12,7 @@ namespace {
 // In milliseconds.
 constexpr int interval = 5;
 
-// An event that takes so many intervals does not end by itself.
+// An event that lasts this many intervals is blocked and needs help to end.
 constexpr int patience = 20;
 
 } // namespace
@@ -28,7 +28,8 @@ ModalCloser::~ModalCloser() = default;
 void ModalCloser::look() {
     QPointer<QDialog> const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog && dialog->isVisible()) {
-        // Not from here: what comes up meanwhile, as the question whether to overwrite, needs this timer.
+        // Deferred, because a dialog that opens in between, such as the question whether to overwrite, needs this
+        // timer.
         QTimer::singleShot(0, dialog, [this, dialog] { close(dialog); });
         return;
     }

@@ -7,15 +7,14 @@
 #include <QTimer>
 #include <random>
 
-/// Closes every modal dialog that comes up, in one way or another: message boxes by one of their buttons, file dialogs
-/// by Cancel or by one of the names. What else keeps an event from coming to its end is closed, as a menu, or
-/// ended by Escape, as a drag.
+/// Closes every modal dialog at random: message boxes by one of their buttons, file dialogs by Cancel or by one of the
+/// names. Anything else that blocks an event is ended, too: a popup is closed, a drag gets Escape.
 class ModalCloser : public QObject {
 public:
     ModalCloser(std::mt19937& random, QStringList names);
     ~ModalCloser() override;
 
-    /// An event begins.
+    /// Call this when an event begins.
     void beginEvent() { ticks_ = 0; }
 
 private:
@@ -25,6 +24,6 @@ private:
     std::mt19937& random_;
     QStringList const names_;
     QTimer timer_;
-    // How often it looked in the present event.
+    // The number of timer ticks during the current event.
     int ticks_ = 0;
 };

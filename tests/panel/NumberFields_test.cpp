@@ -24,7 +24,7 @@ protected:
         EXPECT_TRUE(source.open(QIODevice::ReadOnly));
         return source.readAll().toStdString();
     }
-    /// Does something that asks about unsaved values, and saves them.
+    /// Calls `asking`, which asks about unsaved values, and answers "Save".
     static void answerWithSave(std::function<void()> const& asking) {
         bool asked = false;
         QTimer timer;
@@ -88,7 +88,7 @@ TEST_F(NumberFieldsTest, ATypedNumberIsEnteredByAClickElsewhere) {
     type("double", "0.25");
     QTest::mouseClick(field("line"), Qt::LeftButton);
     EXPECT_EQ(held("double"), "0.25");
-    // The handle takes over where the typed number left it.
+    // The drag starts where the typed number left the handle.
     type("double", "0.5");
     drag(slider("double"), {0});
     EXPECT_EQ(field("double")->text(), QString::number(std::stod(held("double")), 'f', 6));
@@ -129,7 +129,7 @@ TEST_F(NumberFieldsTest, ATypedNumberIsEnteredInThePoolInWhichItWasTyped) {
     QTest::keyClick(field("int"), Qt::Key_Tab);
     EXPECT_EQ(held("int"), "40");
 
-    // A host chooses by its pool source alone.
+    // A host switches pools through its pool source only.
     type("int", "44");
     window->pools().setPool(window->network()->pools().front());
     window->currentView()->panel()->showPool();

@@ -51,7 +51,7 @@ TEST_F(ObjectListTest, AClickOnAnIconChoosesItsObject) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     auto* const shown = icon("second lamp");
     ASSERT_NE(shown, nullptr);
-    // Where the window system would deliver it.
+    // The widget to which the window system would deliver the click.
     auto* const target = window->childAt(shown->mapTo(window.get(), shown->rect().center()));
     ASSERT_EQ(target, window->objectList()->viewport());
     QTest::mouseClick(target, Qt::LeftButton, Qt::NoModifier, shown->mapTo(target, shown->rect().center()));
@@ -66,7 +66,7 @@ TEST_F(ObjectListTest, AnEditorWithoutAnIconIsAskedForOneOnlyOnce) {
             { "name": "some", "type": "multiselection", "value": [], "entries": ["a", "b"] } ] } ] })");
     ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
     EXPECT_EQ(window->objectList()->icon(QStringLiteral("choice")), nullptr);
-    // This editor tells when it is made.
+    // This editor prints a line when it is created.
     EXPECT_THAT(takeOutput(), testing::Not(testing::IsEmpty()));
     window->choosePool(QStringLiteral("night"));
     EXPECT_EQ(window->objectList()->icon(QStringLiteral("choice")), nullptr);

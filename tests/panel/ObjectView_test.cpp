@@ -83,7 +83,7 @@ TEST_F(ObjectViewTest, TheRawValueFollowsWithItsAge) {
     EXPECT_EQ(raw->text(), QStringLiteral("true"));
     QTest::mouseClick(box("steady"), Qt::LeftButton);
     EXPECT_TRUE(waitUntil([&] { return raw->text() == QStringLiteral("false"); }));
-    // The stamp that the edit gave at its end, not the one that stood while everybody was told.
+    // The stamp at the end of the edit, not the one during its notifications.
     EXPECT_EQ(raw->stamp(), QStringLiteral("age %1").arg(parameter("lamp.steady")->ownValue()->age()));
     EXPECT_GT(parameter("lamp.steady")->ownValue()->age(), 0U);
 }
@@ -99,7 +99,7 @@ TEST_F(ObjectViewTest, TheRawValueTellsThePoolsValueFromTheParametersOwn) {
 }
 
 TEST_F(ObjectViewTest, TheRawValueHearsOfAChangeOnAnotherThread) {
-    // A parameter without an editor: only the raw value may be told from elsewhere.
+    // A parameter without an editor: only the raw value may be notified on another thread.
     Kolt::ParameterPtr const status(new Kolt::VParameter("status", Kolt::makeValue(std::string("idle"))));
     Talo::RawValueLabel const raw(status, window->pools());
     EXPECT_EQ(raw.text(), QStringLiteral("idle"));
@@ -132,7 +132,7 @@ TEST_F(ObjectViewTest, ADeletedParameterLeavesItsRowUsableWithANote) {
     EXPECT_TRUE(box("on")->isChecked());
 }
 
-TEST_F(ObjectViewTest, AnObjectThatIsGoneLeavesItsViewStanding) {
+TEST_F(ObjectViewTest, TheViewOfADestroyedObjectStaysOpen) {
     Panel::ObjectView* view = nullptr;
     QWidget parent;
     {
@@ -150,7 +150,7 @@ TEST_F(ObjectViewTest, AnObjectThatIsGoneLeavesItsViewStanding) {
 
 namespace {
 
-/// A view of an object with many parameters, of which only a few can be seen.
+/// A view of an object with many parameters, of which only a few are visible.
 class LongObjectView : public PanelTest {
 protected:
     static constexpr int count = 10'000;
@@ -172,7 +172,7 @@ protected:
     }
 
     void TearDown() override {
-        // Before the plug-in goes.
+        // The view must be deleted before the plug-in is unloaded.
         delete view;
         PanelTest::TearDown();
     }
@@ -182,7 +182,7 @@ protected:
         auto const* const viewport = view->panel()->rowArea()->viewport();
         return QRect(widget->mapTo(viewport, QPoint()), widget->size()) & viewport->rect();
     }
-    /// What the user sees has no gap: each row begins where the one before it ends.
+    /// Checks that the visible rows have no gaps: each begins where the previous one ends.
     void expectRowsWithoutGaps() const {
         int bottom = -1;
         int visible = 0;
@@ -239,7 +239,7 @@ TEST_F(LongObjectView, KeepsWhatIsSeenInItsPlaceWhereARowAboveIsHigherThanThough
     ASSERT_FALSE(before.isEmpty());
     bar()->setValue(bar()->value() - 40);
     EXPECT_EQ(seen(row).top(), before.top() + 40);
-    // Someone above the seen rows grows.
+    // Let rows outside the visible area grow.
     for (auto* const each : view->rows()) {
         if (each != row && seen(each).isEmpty())
             each->editor()->setMinimumHeight(90);

@@ -23,7 +23,7 @@ Creator chosen(Kolt::VParameter const& parameter) {
     return Kolt::InputRegistry::theRegistry().choose(parameter, {"QT"}).creator.strong().get();
 }
 
-/// How the editors of each creator are read.
+/// Maps each creator to the contract case that can read its editors.
 std::map<Creator, EditorCase const*> casesByCreator() {
     std::map<Creator, EditorCase const*> cases;
     for (auto const& editor : editorCases()) {
@@ -45,7 +45,7 @@ int precision(Kolt::VParameter const& parameter) {
 
 std::string expectedText(EditorCase const& editor, Talo::ParameterRow& row, Kolt::VValueBase const& value) {
     auto const& parameter = *row.parameter();
-    // A field with a mask shows what the mask lets through, whatever was pasted.
+    // A field with an input mask shows what the mask accepts, whatever was pasted.
     auto const* const field = qobject_cast<QLineEdit const*>(row.editor());
     if (field && !field->inputMask().isEmpty()) {
         QLineEdit masked;
@@ -53,7 +53,7 @@ std::string expectedText(EditorCase const& editor, Talo::ParameterRow& row, Kolt
         masked.setText(QString::fromStdString(value.Text()));
         return masked.text().toStdString();
     }
-    // The contract's numbers have no precision of their own.
+    // The contract's numbers have no precision property.
     if (auto const* const number = dynamic_cast<Kolt::VValue<double> const*>(&value)) {
         double real = 0;
         number->get(real);
@@ -62,15 +62,16 @@ std::string expectedText(EditorCase const& editor, Talo::ParameterRow& row, Kolt
     return editor.expected(value);
 }
 
-/// What the editor shows. In a row the tool tip of a file button has its caption, too.
+/// The text that the editor shows. In a row, the tool tip of a file button also contains the caption, so the accessible
+/// value is read instead.
 std::string shownText(EditorCase const& editor, QWidget& widget) {
     return qobject_cast<QPushButton*>(&widget)
                ? QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Value).toStdString()
                : editor.shown(widget);
 }
 
-/// Whether the editor shows something that is no value: half of a date, that a colour is being picked, or a text that
-/// was typed into a list that has no such entry and was not taken.
+/// Whether the editor shows no value: a half-filled field, a colour that is being picked, or a typed text that is not
+/// an entry of the list and was not accepted.
 bool showsNoValue(QWidget& editor, Kolt::ValuePtr const& value) {
     auto const* const field = qobject_cast<QLineEdit*>(&editor);
     auto const* const label = qobject_cast<QLabel*>(&editor);
@@ -81,7 +82,8 @@ bool showsNoValue(QWidget& editor, Kolt::ValuePtr const& value) {
             std::find(entries->begin(), entries->end(), list->currentText().toStdString()) == entries->end());
 }
 
-/// Where the handle of a whole number stands: a dial that goes round counts on, others stop at their end.
+/// Where the handle for an integer should be: a wrapping dial continues from the other end, other handles stop at their
+/// end.
 int placeOf(int number, QAbstractSlider const& handle) {
     auto const* const dial = qobject_cast<QDial const*>(&handle);
     if (!dial || !dial->wrapping() || (number >= handle.minimum() && number <= handle.maximum()))

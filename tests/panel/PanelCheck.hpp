@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-/// Where the views of a panel and what their parameters hold are not the same: for each such row a line with the
-/// object, the parameter, what is shown and what should be. Rows of a closed plug-in, and buttons that show no value,
-/// are left out. What is being typed counts as shown, so the focus must have left the fields. `compared`, unless it is
-/// null, gets the number of rows that were compared.
+/// Compares the views of a panel with the values of their parameters. Returns a line for each row that differs, with
+/// the object, the parameter, what is shown and what is expected. Skips rows of an unloaded plug-in and buttons that
+/// show no value. A text that is being typed counts as shown, so no field may have the focus. If `compared` is not
+/// null, it receives the number of compared rows.
 std::vector<std::string> disagreements(Panel::MainWindow& window, int* compared = nullptr);

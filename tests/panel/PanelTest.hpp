@@ -10,7 +10,7 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 
-/// A panel around the built plug-in file, with a network of two lamps open.
+/// A panel with the built plug-in file and a network of two lamps.
 class PanelTest : public TaloTest {
 protected:
     void SetUp() override {
@@ -29,7 +29,7 @@ protected:
         TaloTest::TearDown();
     }
 
-    /// Qt forgets the animation of the filter's clear button where the button goes before it has ended.
+    /// Qt leaks the animation of the filter's clear button if the button is destroyed before the animation has ended.
     void waitForFading() const {
         auto const* const filter = window ? window->findChild<QLineEdit*>(QStringLiteral("filter")) : nullptr;
         auto const* const button = filter ? filter->findChild<QToolButton*>() : nullptr;

@@ -22,7 +22,7 @@ protected:
         QApplication::clipboard()->clear();
     }
 
-    /// Asks for the context menu of a part of a row.
+    /// Opens the context menu of a part of a row.
     static QMenu* contextMenu(QWidget* part) {
         QContextMenuEvent event(QContextMenuEvent::Mouse, {1, 1}, part->mapToGlobal({1, 1}));
         QApplication::sendEvent(part, &event);
@@ -91,7 +91,7 @@ TEST_F(ParameterCommandsTest, TheDotIsAboutTheChosenPool) {
     EXPECT_EQ(valuesNow(), text) << "a pool that had no value of its own has none again";
 }
 
-TEST_F(ParameterCommandsTest, TheDotResetsByMouseAndKeyboardAndUndoTakesItBack) {
+TEST_F(ParameterCommandsTest, TheDotResetsByMouseAndKeyboardAndUndoRevertsIt) {
     click(choice("Blue"));
     QTest::mouseClick(marker("enum"), Qt::LeftButton);
     EXPECT_EQ(held("enum"), "Red");

@@ -55,7 +55,7 @@ TEST_F(PluginsTest, ReloadOfALoadedPluginKeepsTheChosenPool) {
     }
 }
 
-TEST_F(PluginsTest, AMissingFileIsToldAndNothingIsLost) {
+TEST_F(PluginsTest, AMissingFileIsReportedAndNothingIsLost) {
     QString error;
     auto const file = folder.filePath(QStringLiteral("missing.talo"));
     EXPECT_FALSE(plugins.load(file, &error));
@@ -64,14 +64,14 @@ TEST_F(PluginsTest, AMissingFileIsToldAndNothingIsLost) {
     EXPECT_NE(box("on"), nullptr);
 }
 
-TEST_F(PluginsTest, AFileThatIsNoPluginIsToldAndNothingIsLost) {
+TEST_F(PluginsTest, AFileThatIsNoPluginIsReportedAndNothingIsLost) {
     QString error;
     EXPECT_FALSE(plugins.load(networkFile("no.talo", "no library"), &error));
     EXPECT_FALSE(error.isEmpty());
     EXPECT_NE(box("on"), nullptr);
 }
 
-TEST_F(PluginsTest, AFileThatWentAwayIsToldAtReload) {
+TEST_F(PluginsTest, AMissingFileIsReportedAtReload) {
     auto const copy = folder.filePath(QStringLiteral("qtalo_inputs.talo"));
     QString error;
     ASSERT_TRUE(plugins.unload(&error));
@@ -82,7 +82,7 @@ TEST_F(PluginsTest, AFileThatWentAwayIsToldAtReload) {
     ASSERT_TRUE(QFile::remove(copy));
     EXPECT_FALSE(plugins.reload(&error));
     EXPECT_THAT(error.toStdString(), HasSubstr(copy.toStdString()));
-    // The other one is back.
+    // The previous plug-in is loaded again.
     EXPECT_NE(box("on"), nullptr);
 
     action("reload")->trigger();
@@ -118,7 +118,7 @@ TEST_F(PluginsTest, AStandInNamesTypeAndPreferences) {
 
 using PanelWithoutPlugins = TaloTest;
 
-TEST_F(PanelWithoutPlugins, StandsWithoutANetwork) {
+TEST_F(PanelWithoutPlugins, CanBeUsedWithoutANetwork) {
     Panel::Plugins plugins;
     Panel::MainWindow window(plugins);
     EXPECT_EQ(window.network(), nullptr);

@@ -1,5 +1,5 @@
-// How the program ends when it is not closed, and what it leaves behind. It runs without a display or on one of its
-// own.
+// How the program ends when it is not closed, and what it leaves behind. It runs without a display or on its own
+// display.
 
 #include "support/TaloTest.hpp"
 
@@ -32,7 +32,7 @@ protected:
         TaloTest::TearDown();
     }
 
-    /// Starts the panel with one unsaved value and waits until that is kept.
+    /// Starts the panel with one unsaved value and waits until the value is kept for recovery.
     void start(char const* platform, QString const& displayName = {}) {
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QLatin1String(platform));
@@ -52,12 +52,12 @@ protected:
         auto const content = QJsonDocument::fromJson(source.readAll()).object();
         return content["values"].toObject()["lamp.level"].toObject()["value"];
     }
-    /// The end has to write anew what is missing.
+    /// Removes the kept value, so that the program must write it again when it ends.
     void forgetKept() const { EXPECT_TRUE(QFile::remove(states + '/' + kept().value(0))); }
     bool ends() {
         return waitUntil([this] { return program.state() == QProcess::NotRunning; }, 20000);
     }
-    /// Starts a display of its own; its name.
+    /// Starts a separate display and returns its name.
     QString startDisplay() {
         display.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
                                                QStringLiteral("-nolisten"), QStringLiteral("tcp")});
@@ -110,7 +110,7 @@ TEST_F(ProgramEndTest, AKilledPanelLeavesWhatItKept) {
     EXPECT_EQ(keptLevel(), QJsonValue(42));
 }
 
-TEST_F(ProgramEndTest, AReaderOfItsOutputThatGoesEndsNothing) {
+TEST_F(ProgramEndTest, AClosedOutputPipeDoesNotEndTheProgram) {
     start("offscreen");
     program.closeReadChannel(QProcess::StandardOutput);
     ASSERT_EQ(kill(static_cast<pid_t>(program.processId()), SIGPIPE), 0);

@@ -4,13 +4,13 @@
 #include <qnamespace.h>
 #include <vector>
 
-/// A key with those held down with it.
+/// A key with its modifiers.
 struct Stroke {
     Qt::Key key;
     Qt::KeyboardModifiers modifiers;
 };
 
-/// The keys that a random walk presses; some stand there twice, to come more often.
+/// The keys that a random walk presses; some are listed twice because they should be more frequent.
 std::vector<Stroke> const& strokes();
-/// Those that take longer, for now and then.
+/// Keys whose actions are slow, to be pressed rarely.
 std::vector<Stroke> const& rareStrokes();

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int mostViews = 3;
 
-// In milliseconds: for what usually comes at once, and is no failure if it does not.
+// In milliseconds: for what usually happens at once, and is no failure if it does not.
 constexpr int soon = 1000;
 
 constexpr int attemptsToActivate = 10;
@@ -62,7 +62,7 @@ void RandomWalk::step() {
         window_.show();
         window_.activateWindow();
     }
-    // Nobody is so fast that he types before the window has noticed that a popup has gone.
+    // Wait, as a user would, until the window has noticed that a popup closed.
     waitUntil(
         [this] {
             return QApplication::activePopupWidget() || QApplication::activeWindow() ||
@@ -90,7 +90,7 @@ QList<QWidget*> RandomWalk::candidates() {
     for (auto* const dialog : dialogs) {
         if (!dialog->isVisible())
             continue;
-        // It would wait for a click anywhere on the screen.
+        // One of the buttons picks a colour from the screen and would wait for a click there.
         auto const buttons = dialog->findChildren<QPushButton*>();
         for (auto* const button : buttons)
             button->setEnabled(false);
@@ -134,8 +134,8 @@ QPoint inWindow(QWidget const& widget, QPoint const& place) {
     return {qBound(0, point.x(), widget.window()->width() - 1), qBound(0, point.y(), widget.window()->height() - 1)};
 }
 
-/// A press activates the window, as every window manager has it. A popup is in front anyway. The window may go
-/// meanwhile.
+/// Activates the window, as a window manager does on a press. A popup is in front already. The window may be destroyed
+/// in the process.
 void activate(QPointer<QWidget> const& window) {
     if (QApplication::activePopupWidget() || window->isActiveWindow())
         return;
@@ -170,7 +170,8 @@ void RandomWalk::press(QWidget& widget) {
     if (!target || !window || !target->isVisible())
         return;
     if (kind < 12) {
-        // The second press of a double click comes soon, as far as Qt sees the time.
+        // The second press of a double click must follow soon, so subtract the pause that QTest adds to the time
+        // stamps.
         click(window, button, point);
         if (window && kind == 3) {
             QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
@@ -226,7 +227,7 @@ void RandomWalk::turnWheel() {
 
 void RandomWalk::pressKey() {
     auto* const window = QGuiApplication::focusWindow();
-    // Where no window is active, no key arrives.
+    // Without an active window, no key arrives.
     if (!window || !QApplication::activeWindow()) {
         window_.activateWindow();
         return;
@@ -250,7 +251,7 @@ void RandomWalk::useHost() {
         &RandomWalk::chooseObject,    &RandomWalk::chooseObject, &RandomWalk::chooseObject, &RandomWalk::choosePool,
         &RandomWalk::filter,          &RandomWalk::write,        &RandomWalk::write,        &RandomWalk::write,
         &RandomWalk::toggleRawValues, &RandomWalk::showDock,     &RandomWalk::closeView,    &RandomWalk::resize};
-    // Whoever turns to something else closes it.
+    // A user who turns to something else closes an open popup.
     while (auto* const popup = QApplication::activePopupWidget())
         popup->close();
     if (below(60) == 0)
@@ -276,7 +277,7 @@ void RandomWalk::write() {
     auto const object = oneOf(window_.network()->objects());
     auto const parameter = oneOf(object->parameters());
     auto const name = window_.network()->nameOf(parameter);
-    // The objects themselves write the others.
+    // Only the objects themselves write the other parameters.
     if (!parameter->isEdited())
         return;
     auto& texts = texts_[name];
@@ -324,7 +325,7 @@ void RandomWalk::resize() {
 bool RandomWalk::bringToFront() {
     window_.show();
     for (int attempt = 0; attempt < attemptsToActivate; ++attempt) {
-        // A window manager does not heed a wish for a window that is not there yet.
+        // A window manager ignores a request for a window that is not shown yet, so repeat it.
         bool const isActive = waitUntil(
             [this] {
                 if (!window_.isActiveWindow())
@@ -334,9 +335,9 @@ bool RandomWalk::bringToFront() {
             2 * soon);
         if (isActive)
             return true;
-        // Where a popup or dialog has just gone, Qt asks the window system without the window manager, with the time of
-        // the last event of a person. There is none in a walk, so the wish may be too old. A window that comes up anew
-        // is activated by the window manager.
+        // After a popup or dialog has closed, Qt activates the window through the window system, with the time of the
+        // last user event. A walk has no user events, so the request may be ignored as too old. A window that is shown
+        // anew is activated by the window manager.
         window_.hide();
         QCoreApplication::processEvents();
         window_.show();
@@ -371,7 +372,7 @@ std::string RandomWalk::settle() {
         cancel->click();
     if (!waitUntil([this] { return !window_.fractalController().renderQueue().isComputing(); }))
         return "a picture is computed without end";
-    // What was put off: the end of a gesture, rows that are made later.
+    // Run deferred work: the end of a gesture, and rows that are created later.
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return {};
@@ -400,7 +401,7 @@ std::vector<std::string> RandomWalk::differences(QJsonObject const& expected, ch
 std::vector<std::string> RandomWalk::goBackAndForth() {
     auto const& history = window_.history();
     auto const end = values();
-    // Those that the walk had taken back by itself are not to be made again.
+    // Steps that the walk itself had undone must not be redone.
     auto const undoneBefore = history.undoneSteps().size();
     while (history.nextUndo())
         window_.undo();

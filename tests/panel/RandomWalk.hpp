@@ -10,21 +10,20 @@
 #include <string>
 #include <vector>
 
-/// Uses a panel at random, as somebody would who does not know what he does: mouse, wheel and keys at any place of any
-/// window, and now and then a choice of an object or pool, another filter, a write of the host, a plug-in that is
-/// unloaded. What comes is decided by the seed.
+/// Uses a panel at random: mouse, wheel and keys anywhere in any window, and sometimes the choice of an object or pool,
+/// another filter, a write by the host, or an unload of a plug-in. The seed determines the events.
 class RandomWalk {
 public:
-    /// `folder` is where files are written and read, but for that of the network. The panel must outlive the walk.
+    /// Files are written to and read from `folder`, except the network's file. The panel must outlive the walk.
     RandomWalk(Panel::MainWindow& window, Panel::Plugins& plugins, QString const& folder, unsigned seed);
 
-    /// One event. It is over when Qt has handled it.
+    /// Sends one event and returns when Qt has handled it.
     void step();
-    /// The panel comes to rest: nothing is held, popups and dialogs are closed, the focus leaves the fields, and
-    /// whatever is being computed ends. The reason where it does not come to rest.
+    /// Brings the panel to rest: releases the mouse, closes popups and dialogs, moves the focus out of the fields, and
+    /// ends all computing. Returns the reason if the panel does not come to rest, otherwise an empty text.
     std::string settle();
-    /// Takes all steps back and makes them again. Says in which parameters the panel was not where it began, or did
-    /// not come back to where it was; those that the host wrote are left out.
+    /// Undoes and redoes all steps. Returns the parameters that did not return to their first value, or did not come
+    /// back to their last; those that the host wrote are skipped.
     std::vector<std::string> goBackAndForth();
     /// Opens the network again, without a history.
     void beginAnew();
@@ -37,13 +36,14 @@ private:
     auto const& oneOf(List const& list) {
         return *(std::begin(list) + below(static_cast<std::size_t>(std::end(list) - std::begin(list))));
     }
-    /// A widget that can be seen and that the mouse may be used on; null when there is none.
+    /// A visible widget to use the mouse on; null if there is none.
     QWidget* target();
     QList<QWidget*> candidates();
     void useMouse();
     void press(QWidget& widget);
     void moveOrRelease();
-    /// The host tells the value of the row that the mouse holds, or one of the row's buttons is pressed meanwhile.
+    /// Interferes while the mouse holds a row: the host notifies the row's value, or one of the row's buttons is
+    /// pressed.
     void disturb(Talo::ParameterRow& row);
     void turnWheel();
     void pressKey();

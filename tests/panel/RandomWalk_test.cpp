@@ -1,5 +1,5 @@
-// The panel is used at random, by tens of thousands of events for each seed. Nothing may crash, Qt may not warn, and
-// what the views show and what the parameters hold must be the same at every rest.
+// Uses the panel at random, with thousands of events for each seed. Nothing may crash, Qt may not warn, and at every
+// rest the views must show what the parameters hold.
 
 #include "FractalPanelTest.hpp"
 #include "PanelCheck.hpp"
@@ -17,23 +17,24 @@ using testing::SizeIs;
 
 namespace {
 
-/// For each seed. On a display, where each takes longer, a quarter shows that it is no different there.
+/// The number of events for each seed. On a display, where each takes longer, a quarter suffices to show that the
+/// behaviour is the same.
 int eventsOfAWalk() {
     if (int const wanted = qEnvironmentVariableIntValue("TALO_WALK_EVENTS"); wanted > 0)
         return wanted;
     return QGuiApplication::platformName() == QLatin1String("offscreen") ? TALO_WALK_EVENTS : TALO_WALK_EVENTS / 4;
 }
 
-// Between two rests.
+// The number of events between two rests.
 constexpr int eventsBetweenRests = 250;
 
-/// Other walks can be tried with TALO_WALK_SEED=N in the environment.
+/// TALO_WALK_SEED=N in the environment starts other walks.
 unsigned firstSeed() {
     auto const seed = qEnvironmentVariableIntValue("TALO_WALK_SEED");
     return seed > 0 ? static_cast<unsigned>(seed) : 1U;
 }
 
-// A history with more steps might have forgotten the first of them.
+// Above this number the history may have dropped its first steps.
 constexpr std::size_t mostSteps = Kolt::UndoHistory::Capacity * 3 / 4;
 
 class RandomWalkTest : public FractalPanelTest {
@@ -43,7 +44,7 @@ protected:
     void TearDown() override {
         QApplication::clipboard()->clear();
         FractalPanelTest::TearDown();
-        // The lists for multiple choice say what they do.
+        // The lists of multiple selections print a trace.
         takeOutput();
     }
 };
@@ -53,8 +54,8 @@ protected:
     void walk();
 };
 
-/// Runs a function from an event loop, as everything in a program is. What it deletes later stays as long as a dialog
-/// that is opened meanwhile runs a loop of its own; outside of all loops Qt does not wait for that.
+/// Runs a function from an event loop, as a program does. Only then does Qt keep objects passed to deleteLater alive
+/// while a dialog runs a nested loop.
 template <typename Function>
 void runInEventLoop(Function&& function) {
     QEventLoop loop;
@@ -82,7 +83,7 @@ void RandomWalkOfSeed::walk() {
             continue;
         ASSERT_EQ(walk.settle(), "");
         int rows = 0;
-        // What a worker tells comes a moment later.
+        // Reports of a worker thread arrive a moment later.
         waitUntil([this] { return disagreements(*window).empty(); }, 2000);
         EXPECT_THAT(disagreements(*window, &rows), IsEmpty());
         compared += rows;
@@ -94,7 +95,7 @@ void RandomWalkOfSeed::walk() {
         EXPECT_THAT(disagreements(*window), IsEmpty());
         walk.beginAnew();
     }
-    // The check has looked at something.
+    // The check has compared rows.
     EXPECT_GT(compared, events / eventsBetweenRests);
 }
 
@@ -106,7 +107,7 @@ TEST_F(RandomWalkTest, AgreesAtTheStart) {
     EXPECT_EQ(compared, 8);
 }
 
-TEST_F(RandomWalkTest, FindsAValueThatNobodyWasToldOf) {
+TEST_F(RandomWalkTest, FindsAValueThatWasNotNotified) {
     auto const iterations = parameter("formula.iterations");
     iterations->getLocalValue(window->pools().pool(), std::string(), false)->setValueFromText("123");
     EXPECT_THAT(disagreements(*window), ElementsAre(HasSubstr("formula.iterations shows \"100\", not \"123\"")));
@@ -119,7 +120,7 @@ TEST_F(RandomWalkTest, FindsAHandleThatStaysBehind) {
     EXPECT_THAT(disagreements(*window), ElementsAre(HasSubstr("formula.iterations a handle at 300, not 100")));
 }
 
-TEST_F(RandomWalkTest, FindsAnEditThatIsNotTakenBack) {
+TEST_F(RandomWalkTest, FindsAnEditThatUndoDoesNotRevert) {
     RandomWalk walk(*window, plugins, folder.path(), 1);
     ASSERT_EQ(walk.settle(), "");
     EXPECT_THAT(walk.goBackAndForth(), IsEmpty());

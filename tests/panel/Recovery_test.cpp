@@ -30,7 +30,7 @@ protected:
     bool isKept() const {
         return waitUntil([this] { return !kept().isEmpty(); });
     }
-    /// The panel ends without its close, and another one opens the file.
+    /// Destroys the panel without closing it, and opens the file in another one.
     void crash() {
         recovery.reset();
         window = std::make_unique<Panel::MainWindow>(plugins);
@@ -38,7 +38,7 @@ protected:
         window->show();
         recovery = std::make_unique<Panel::Recovery>(window->document(), states());
     }
-    /// Follows the recovery and answers the question by the button. Says whether there was one.
+    /// Starts the recovery and answers its question by the button. Returns whether it asked.
     bool answerQuestion(char const* button) {
         bool asked = false;
         QTimer timer;
@@ -82,7 +82,7 @@ TEST_F(RecoveryTest, ForgetsWhatIsSaved) {
     EXPECT_TRUE(kept().isEmpty());
 }
 
-TEST_F(RecoveryTest, GivesBackWhatAPanelLeftBehind) {
+TEST_F(RecoveryTest, RestoresValuesThatAPanelLeftBehind) {
     edit();
     set("all.int", "99");
     recovery->write();
@@ -110,7 +110,7 @@ TEST_F(RecoveryTest, GivesUpWhatIsDiscarded) {
     EXPECT_FALSE(answerQuestion("discard"));
 }
 
-TEST_F(RecoveryTest, WhatNobodyDecidedUponStays) {
+TEST_F(RecoveryTest, ValuesWithoutADecisionAreKept) {
     edit();
     recovery->write();
     crash();
@@ -120,7 +120,7 @@ TEST_F(RecoveryTest, WhatNobodyDecidedUponStays) {
     EXPECT_EQ(held("enum"), "Blue");
 }
 
-TEST_F(RecoveryTest, WhatTheFileNoLongerHasIsTold) {
+TEST_F(RecoveryTest, WhatTheFileNoLongerHasIsReported) {
     edit();
     set("all.int", "99");
     recovery->write();
@@ -168,7 +168,7 @@ TEST_F(RecoveryTest, AnotherNetworkHasFilesOfItsOwn) {
     EXPECT_TRUE(keptValues().contains("lamp.steady"));
 }
 
-TEST_F(RecoveryTest, AFullDiskIsToldOnce) {
+TEST_F(RecoveryTest, AFullDiskIsReportedOnce) {
     QStringList reasons;
     QObject::connect(recovery.get(), &Panel::Recovery::failed, [&](QString const& reason) { reasons << reason; });
     edit();

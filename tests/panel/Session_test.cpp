@@ -14,7 +14,7 @@ protected:
         file = folder.filePath(QStringLiteral("settings/panel.ini"));
     }
 
-    /// Starts the panel anew with the network of the fixture and brings the session back.
+    /// Starts a new panel with the fixture's network and restores the session.
     void start() {
         session.reset();
         auto const network = window->network()->file();
@@ -31,7 +31,7 @@ protected:
     }
     QString shownObject() const { return QString::fromStdString(window->currentView()->object()->Name()); }
     QString pool() const { return QString::fromStdString(window->pools().pool()->Name()); }
-    /// The docks with further views, and what they show.
+    /// The docks of the additional views.
     QList<QDockWidget*> viewDocks() const {
         QList<QDockWidget*> docks;
         for (auto* const dock : window->findChildren<QDockWidget*>()) {
@@ -41,7 +41,7 @@ protected:
         return docks;
     }
     QDockWidget* messageDock() const { return window->findChild<QDockWidget*>(QStringLiteral("messages")); }
-    /// The state of a window that has no session.
+    /// Checks that the window is as it is without a session.
     void expectUntouched() {
         EXPECT_EQ(shownObject(), QStringLiteral("lamp"));
         EXPECT_EQ(pool(), QStringLiteral("day"));
@@ -60,13 +60,13 @@ protected:
 
 } // namespace
 
-TEST_F(SessionTest, WithoutAFileTheWindowStandsAsItIs) {
+TEST_F(SessionTest, WithoutAFileTheWindowIsUnchanged) {
     follow();
     expectUntouched();
     EXPECT_FALSE(QFile::exists(file)) << "there is nothing to keep yet";
 }
 
-TEST_F(SessionTest, BringsBackHowTheWindowStood) {
+TEST_F(SessionTest, RestoresTheStateOfTheWindow) {
     follow();
     window->showObject(QStringLiteral("second lamp"));
     window->choosePool(QStringLiteral("night"));
@@ -90,7 +90,7 @@ TEST_F(SessionTest, BringsBackHowTheWindowStood) {
     EXPECT_EQ(failures, QStringList());
 }
 
-TEST_F(SessionTest, BringsBackFurtherViewsAndWhereTheyWere) {
+TEST_F(SessionTest, RestoresAdditionalViewsAndTheirPlaces) {
     follow();
     window->showObject(QStringLiteral("second lamp"));
     auto* const floating = qobject_cast<QDockWidget*>(window->addView()->parentWidget());
@@ -236,8 +236,8 @@ TEST_F(SessionTest, AWindowThatWasOffTheScreenComesBackOntoIt) {
     EXPECT_TRUE(window->screen()->availableGeometry().intersects(window->frameGeometry()));
 }
 
-TEST_F(SessionTest, AFileThatCannotBeWrittenIsToldAndTheWindowCloses) {
-    // A folder stands where the file should be.
+TEST_F(SessionTest, AFileThatCannotBeWrittenIsReportedAndTheWindowCloses) {
+    // A folder has the file's name.
     ASSERT_TRUE(QDir().mkpath(file));
     follow();
     EXPECT_TRUE(window->close());

@@ -20,7 +20,7 @@ protected:
         TaloTest::TearDown();
     }
 
-    /// Starts the panel in a language, with a network of one file name open.
+    /// Starts the panel in a language, with a network that has one file name.
     void start(char const* language, QString const& plugin = QStringLiteral(TALO_PLUGIN_FILE)) {
         window.reset();
         plugins.reset();
@@ -142,7 +142,7 @@ TEST_F(TranslationsTest, APluginWithoutATranslationSpeaksEnglish) {
     EXPECT_EQ(button(), "Save as");
 }
 
-TEST_F(TranslationsTest, AFileThatIsNoTranslationIsTold) {
+TEST_F(TranslationsTest, AFileThatIsNoTranslationIsReported) {
     auto const plugin = copyOfPlugin();
     QFile file(folder.filePath(QStringLiteral("qtalo_inputs_de.qm")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -4,7 +4,7 @@
 
 #include <QMessageBox>
 
-/// A panel with a saved network, whose values are edited, closed and saved.
+/// A panel with a saved network, for tests that edit, close and save.
 class UnsavedChangesTest : public EditingTest {
 protected:
     QString file() const { return folder.filePath(QStringLiteral("values.json")); }
@@ -13,7 +13,7 @@ protected:
         EXPECT_TRUE(source.open(QIODevice::ReadOnly)) << qPrintable(name);
         return source.readAll();
     }
-    /// Does something that may ask about changes, and answers. Says whether it was asked.
+    /// Calls `asking`, which may ask about changes, and answers. Returns whether it asked.
     static bool answer(QMessageBox::StandardButton button, std::function<void()> const& asking) {
         bool asked = false;
         QTimer timer;

@@ -82,7 +82,7 @@ TEST_F(UnsavedChangesTest, SaveWritesAndCloses) {
 
 TEST_F(UnsavedChangesTest, AFailedSaveKeepsTheWindow) {
     edit();
-    // Nobody, not even root, can replace a folder by a file.
+    // Not even root can replace a folder by a file.
     ASSERT_TRUE(QFile::remove(file()));
     ASSERT_TRUE(QDir().mkpath(file() + QStringLiteral("/kept")));
     EXPECT_TRUE(close(QMessageBox::Save));
@@ -127,7 +127,7 @@ TEST_F(UnsavedChangesTest, OpeningAnotherNetworkAsksFirst) {
     EXPECT_FALSE(window->isWindowModified());
 }
 
-TEST_F(UnsavedChangesTest, SavingUnderAnotherNameGoesOnWithThatFile) {
+TEST_F(UnsavedChangesTest, SavingUnderAnotherNameContinuesWithThatFile) {
     auto const before = bytesOf(file());
     edit();
     EXPECT_TRUE(row("enum")->modifiedIndicator()->isVisible());

@@ -10,11 +10,11 @@ namespace {
 
 class TaloPanel : public TaloTest {
 protected:
-    /// Runs the program to its end; what it says is in `output` and `errors`.
+    /// Runs the program until it ends; its output is in `output` and `errors`.
     int run(QStringList const& arguments, QString const& program = QStringLiteral(TALO_PANEL)) {
         QProcess process;
         auto environment = QProcessEnvironment::systemEnvironment();
-        // It has to find by itself that there is no display.
+        // The program must detect that there is no display.
         environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
         environment.remove(QStringLiteral("DISPLAY"));
         environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
@@ -34,7 +34,8 @@ protected:
         errors = QString::fromLocal8Bit(process.readAllStandardError());
         return process.exitCode();
     }
-    /// The refusal of a call: its status is 2 and it says nothing on standard output.
+    /// Runs the program with arguments that it must refuse, with status 2 and nothing on standard output; returns the
+    /// message.
     std::string refusal(QStringList const& arguments) {
         EXPECT_EQ(run(arguments), 2) << qPrintable(arguments.join(QLatin1Char(' ')));
         EXPECT_EQ(output, QByteArray());
@@ -49,11 +50,11 @@ protected:
 
     QString const fractal = QStringLiteral(TALO_EXAMPLES "/networks/fractal.json");
     QTemporaryDir folder;
-    /// Added to the environment of the program.
+    /// Variables added to the program's environment.
     std::map<QString, QString> variables;
-    /// Where standard output goes; empty: to `output`.
+    /// The file that receives standard output; if empty, `output` does.
     QString outputFile;
-    /// Where a copy of the program finds the host's libraries.
+    /// The folder in which a copy of the program finds the host's libraries.
     QString libraries;
     QByteArray output;
     QString errors;
@@ -79,8 +80,8 @@ TEST_F(TaloPanel, OutputThatCannotBeWrittenIsAFailureWithAReason) {
     }
 }
 
-TEST_F(TaloPanel, AReaderThatIsGoneIsAFailureAndNoSignal) {
-    // The reader of the pipe has ended when the program writes.
+TEST_F(TaloPanel, AClosedOutputPipeIsAFailureAndNoSignal) {
+    // The reader has ended before the program writes to the pipe.
     auto const script = QStringLiteral("exec 3> >(exit); wait $!; \"$0\" --values >&3");
     EXPECT_EQ(run({QStringLiteral("-c"), script, QStringLiteral(TALO_PANEL)}, QStringLiteral("bash")), 2);
     EXPECT_THAT(errors.toStdString(), HasSubstr("standard output"));
@@ -152,7 +153,7 @@ TEST_F(TaloPanel, WithoutADisplayItDrawsItselfIntoTheCurrentFolder) {
         EXPECT_EQ(QImage(file).size(), QSize(900, 600));
         QFile::remove(file);
     }
-    // Where the options say what to do, nothing else is done.
+    // With options that say what to do, the program does nothing else.
     EXPECT_EQ(run({fractal, QStringLiteral("--values")}), 0);
     EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("panel.png"))));
 }
@@ -162,7 +163,7 @@ TEST_F(TaloPanel, DrawsTheAskedForObjectPoolAndPalette) {
         auto const file = folder.filePath(QStringLiteral("panel.png"));
         EXPECT_EQ(run(QStringList{fractal, QStringLiteral("--screenshot"), file} << arguments), 0)
             << qPrintable(errors);
-        // The messages below have their time.
+        // Cut off the messages, which contain the time.
         QImage const image(file);
         return image.copy(0, 0, image.width(), image.height() * 3 / 4);
     };
@@ -207,13 +208,13 @@ TEST_F(TaloPanel, RefusesFilesThatItCannotRead) {
     EXPECT_THAT(refusal({QStringLiteral("--plugin"), folder.filePath(QStringLiteral("missing.talo"))}),
                 HasSubstr("missing.talo"));
     EXPECT_THAT(refusal({QStringLiteral("--plugin"), write(QStringLiteral("no.talo"), "text")}), HasSubstr("no.talo"));
-    // The panel was made before its picture could not be written, and its editors may have said something.
+    // The panel is created before writing the picture fails, so its editors may have printed something.
     EXPECT_EQ(run({fractal, QStringLiteral("--screenshot"), folder.filePath(QStringLiteral("missing/a.png"))}), 2);
     EXPECT_THAT(errors.toStdString(), HasSubstr("missing/a.png"));
 }
 
 TEST_F(TaloPanel, OpensANetworkWithoutItsPlugin) {
-    // Beside a copy of the program there is no plug-in; it finds the host's libraries where they are.
+    // No plug-in is in the folder of a copied program; the copy finds the host's libraries through `libraries`.
     auto const program = folder.filePath(QStringLiteral("talo_panel"));
     ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PANEL), program));
     libraries = QFileInfo(QStringLiteral(TALO_PANEL)).path();
@@ -249,7 +250,7 @@ TEST_F(TaloPanel, LoadsTheNamedPluginInsteadOfItsOwn) {
     ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE), copy));
     ASSERT_EQ(run({QStringLiteral("--plugin"), copy, QStringLiteral("--list-creators")}), 0) << qPrintable(errors);
     EXPECT_THAT(output.toStdString(), HasSubstr("bool\tboolean\tQT\n"));
-    // Once: its own is not loaded besides.
+    // Once: the program's own plug-in is not loaded as well.
     EXPECT_EQ(output.count("boolean"), 1);
 }
 
@@ -281,7 +282,7 @@ TEST_F(TaloPanel, DrawsEverythingLargerByTheAskedForFactor) {
 
 TEST_F(TaloPanel, LaysThePanelOutFromRightToLeft) {
     auto const file = folder.filePath(QStringLiteral("panel.png"));
-    // The list of objects, which is lighter than the parameters, stands at the beginning.
+    // The list of objects, which is lighter than the parameters, is at the side where lines begin.
     auto const brightness = [&](QStringList const& arguments, bool left) {
         EXPECT_EQ(run(QStringList{fractal, QStringLiteral("--palette"), QStringLiteral("light"),
                                   QStringLiteral("--screenshot"), file}
@@ -298,7 +299,7 @@ TEST_F(TaloPanel, LaysThePanelOutFromRightToLeft) {
     EXPECT_LT(brightness(mirrored, true), brightness(mirrored, false)) << "with translations, too";
 }
 
-TEST_F(TaloPanel, ACallThatEndsByItselfLeavesTheSessionAlone) {
+TEST_F(TaloPanel, ABatchCallLeavesTheSessionAlone) {
     auto const settings = QDir::home().filePath(QStringLiteral("config/talo/talo_panel.ini"));
     ASSERT_EQ(qgetenv("XDG_CONFIG_HOME"), QFile::encodeName(QDir::home().filePath(QStringLiteral("config"))));
     auto const file = folder.filePath(QStringLiteral("panel.png"));
@@ -339,7 +340,7 @@ TEST_F(TaloPanel, SpeaksTheLanguageOfTheSystem) {
     EXPECT_THAT(output.toStdString(), HasSubstr("Gibt diese Hilfe aus und endet."));
     EXPECT_EQ(run({QStringLiteral("--scale"), QStringLiteral("big")}), 2);
     EXPECT_THAT(errors.toStdString(), HasSubstr("--scale erwartet einen Faktor"));
-    // Who prefers English to German reads English.
+    // English comes before German in the list of languages.
     variables[QStringLiteral("LANGUAGE")] = QStringLiteral("en_GB:de");
     ASSERT_EQ(run({QStringLiteral("--help")}), 0);
     EXPECT_THAT(output.toStdString(), HasSubstr("Prints this help and ends."));

@@ -14,7 +14,7 @@ public:
     Kolt::UndoHistory& history() const override { return Kolt::UndoHistory::theHistory(); }
 };
 
-/// A target with a button-like area, a text and a spin box, and a text beside it.
+/// A target that contains a line edit, a spin box and a button-like area, and a line edit outside the target.
 class InputFilterTest : public TaloTest {
 protected:
     void SetUp() override {
@@ -55,7 +55,7 @@ protected:
 
 } // namespace
 
-TEST_F(InputFilterTest, IsOneForAllWhoHoldIt) {
+TEST_F(InputFilterTest, IsSharedByAllHolders) {
     auto const* const first = filter.get();
     EXPECT_EQ(Talo::InputFilter::shared().get(), first);
     QPointer<QObject> const watched(filter.get());

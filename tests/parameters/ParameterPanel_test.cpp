@@ -93,7 +93,7 @@ TEST_F(ParameterPanelTest, TextsOfAFileInToolTipsAreShownAsTheyAre) {
     auto const* const text = "<b>not bold</b><img src='/etc/passwd'>";
     label->setProperty("tooltip", Kolt::makeValue(std::string(text)), nullptr, nullptr, nullptr);
     ASSERT_TRUE(label.write(std::string(text)));
-    // An editor that shows a tool tip of its parameter sets it as it is.
+    // An editor sets its parameter's tool tip unchanged, markup included.
     field()->setToolTip(text);
     QHelpEvent event(QEvent::ToolTip, QPoint(3, 3), field()->mapToGlobal(QPoint(3, 3)));
     QApplication::sendEvent(field(), &event);
@@ -140,7 +140,7 @@ TEST_F(ParameterPanelTest, ADragIsOneStep) {
     EXPECT_THAT(history.steps(), SizeIs(1));
 }
 
-TEST_F(ParameterPanelTest, FiltersAndTellsSo) {
+TEST_F(ParameterPanelTest, FiltersAndSignalsAChange) {
     QSignalSpy const changes(panel, &Talo::ParameterPanel::filterChanged);
     panel->setProperty("filter", QStringLiteral("lev"));
     EXPECT_EQ(panel->filter(), QStringLiteral("lev"));
@@ -185,7 +185,7 @@ TEST_F(ParameterPanelTest, FiltersByTheValuesOfTheShownPool) {
     EXPECT_EQ(panel->rowArea()->shownCount(), 1);
 }
 
-TEST_F(ParameterPanelTest, OnlyOtherWordsScrollToTheTop) {
+TEST_F(ParameterPanelTest, OnlyANewFilterScrollsToTheTop) {
     panel->resize(600, 60);
     auto* const bar = panel->rowArea()->verticalScrollBar();
     EXPECT_TRUE(waitUntil([&] { return bar->maximum() > 0; }));

@@ -1,4 +1,5 @@
-// What the properties of parameters say to people, as a panel shows it.
+// What a panel shows for the properties of parameters: labels, help, units, sections, advanced and read-only
+// parameters, and conditions.
 
 #include "support/TestHost.hpp"
 
@@ -60,7 +61,7 @@ protected:
                 names.push_back(each->parameterName().toStdString());
         return names;
     }
-    /// What is shown to somebody who points at the label of a row.
+    /// The tool tip of a row's label.
     std::string toolTip(char const* name) const {
         auto* const label = row(name)->nameLabel();
         QHelpEvent event(QEvent::ToolTip, label->mapTo(row(name), QPoint(3, 3)), label->mapToGlobal(QPoint(3, 3)));
@@ -112,7 +113,7 @@ TEST_F(ParameterPropertiesTest, TheToolTipIsForPeopleAndTheRawValueForProgrammer
     EXPECT_THAT(explanation, HasSubstr("Editor: "));
 }
 
-TEST_F(ParameterPropertiesTest, ARangeThatTheEditorFilledInIsNotToldOf) {
+TEST_F(ParameterPropertiesTest, ARangeThatTheEditorFilledInIsNotMentioned) {
     add(Parameter<double>("factor", 2.5).unit("m"));
     show();
     EXPECT_THAT(toolTip("factor"), HasSubstr("Unit: m"));

@@ -1,5 +1,5 @@
-// What a row adds to the editors that the plug-in makes: an editor that cannot show a value is made anew, a file button
-// says which file is chosen, and a half filled field says that it is not held.
+// What a row adds to the plug-in's editors: it replaces an editor that cannot show a value, names the chosen file on a
+// file button, and marks a half-filled field whose text is not stored.
 
 #include "support/TestHost.hpp"
 
@@ -53,7 +53,7 @@ protected:
     QList<QRadioButton*> choices() const {
         return panel->rowArea()->row(QStringLiteral("kind"))->editor()->findChildren<QRadioButton*>();
     }
-    /// The caption of the marked choice; empty for none.
+    /// The text of the checked choice; empty if there is none.
     std::string marked() const {
         for (auto* const choice : choices())
             if (choice->isChecked())
@@ -78,7 +78,7 @@ protected:
     }
 
     void TearDown() override {
-        // The enumeration prints this when it gets a value without a choice.
+        // The enumeration's editor prints this when it gets a value without a choice.
         EXPECT_THAT(takeOutput(), testing::Each("Qt ENUM: INVALID SELECTION"));
         PluginTest::TearDown();
     }

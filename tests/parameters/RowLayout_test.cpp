@@ -6,7 +6,7 @@ using Talo::RowLayout;
 
 namespace {
 
-/// Two sections with three and two rows; rows 0, 2 and 3 are of one height class, the others of another.
+/// Two sections with three and two rows; rows 0, 2 and 3 share a height class, the others share another.
 class RowLayoutTest : public TaloTest {
 protected:
     RowLayoutTest() {
@@ -21,7 +21,7 @@ protected:
         layout.arrange();
     }
 
-    // Above, below, between sections, between rows, unknown height.
+    // The space above, below, between sections and between rows, and the height of rows whose height is unknown.
     RowLayout layout{{7, 9, 11, 2, 30}};
 };
 

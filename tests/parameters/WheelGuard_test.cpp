@@ -43,7 +43,7 @@ protected:
         QPointF const place = control->rect().center();
         QWheelEvent event(place, control->mapToGlobal(place.toPoint()), QPoint(), QPoint(0, -120), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
-        // For an event that comes from outside Qt hands out the focus first.
+        // Qt gives a widget the focus only for events from the window system, before it delivers them.
         QSpontaneKeyEvent::setSpontaneous(&event);
         qApp->notify(control, &event);
     }
@@ -85,12 +85,12 @@ TEST_F(WheelGuardTest, AControlThatTheEditorGetsLaterIsGuardedToo) {
     EXPECT_EQ(comboBox->currentIndex(), 1);
 }
 
-TEST_F(WheelGuardTest, AListThatFoldsOutScrollsByItself) {
+TEST_F(WheelGuardTest, TheWheelScrollsAnOpenDropDownList) {
     auto* const comboBox = new QComboBox;
     for (int number = 0; number < 100; ++number)
         comboBox->addItem(QString::number(number));
     comboBox->setMaxVisibleItems(5);
-    // The list is a window of its own below the editor.
+    // Makes the list a separate window below the editor.
     comboBox->setStyleSheet(QStringLiteral("combobox-popup: 0"));
     editorLayout->addWidget(comboBox);
     EXPECT_TRUE(waitUntil([&] { return comboBox->isVisible(); }));

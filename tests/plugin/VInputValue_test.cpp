@@ -7,7 +7,7 @@ using Values = Kolt::VParameter::Values;
 
 namespace {
 
-/// The binding, as the host sees it in the boolean input of the built file.
+/// The binding as the host sees it, tested with the built plug-in's boolean editor.
 class VInputValueTest : public PluginTest {
 protected:
     static Kolt::VInput<bool>& binding(Kolt::Editor const& editor) {
@@ -88,7 +88,7 @@ TEST_F(VInputValueTest, SetWithoutAnOwnerRefusesPrintsNothingAndKeepsTheCache) {
 }
 
 TEST_F(VInputValueTest, SetReplacesAPoolsValueOfAnotherTypeByAFreshOne) {
-    // The own value is a text, so the pool's copy is one too; the declared type is bool.
+    // The parameter's own value is a text, so the pool's copy is a text, too; the declared type is bool.
     auto const parameter = makeParameter("switch", Kolt::makeValue(std::string("text")), {}, Values::PerPool, "bool");
     auto const editor = open(parameter);
     RecordingNotifier recorder;
@@ -100,7 +100,7 @@ TEST_F(VInputValueTest, SetReplacesAPoolsValueOfAnotherTypeByAFreshOne) {
 }
 
 TEST_F(VInputValueTest, ARefusedWriteLosesNothingThatAPoolHolds) {
-    // The declared type is not the editor's, so no fresh value can be had for it.
+    // The declared type is not the editor's, so no new value of the editor's type can be created.
     auto const other = makeParameter("text", Kolt::makeValue(std::string("text")), {}, Values::PerPool);
     other->getLocalValue(firstPool, std::string(), true)->setValueFromText("kept");
     auto const made = qtCreator("bool", "boolean")->create(other, parent, &pools);
@@ -116,7 +116,7 @@ TEST_F(VInputValueTest, SetRefusesASharedValueOfAnotherType) {
     EXPECT_EQ(parameter->ownValue()->Text(), "text");
 }
 
-TEST_F(VInputValueTest, TheSourceIsNotToldUnlessItAsksToBe) {
+TEST_F(VInputValueTest, TheSourceIsNotNotifiedUnlessItAsksToBe) {
     auto const parameter = boolean();
     auto const editor = open(parameter);
     auto* const box = editor.widget->findChild<QCheckBox*>();

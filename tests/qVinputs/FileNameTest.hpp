@@ -6,7 +6,7 @@
 #include <lattice/Scheduler.hpp>
 #include <QPushButton>
 
-/// Records what it was scheduled for.
+/// Records the pools in which it runs.
 class RecordingObject : public Kolt::VObject {
 public:
     RecordingObject(std::string const& name, std::vector<std::string>& log) : Kolt::VObject(name), log_(log) {}
@@ -18,7 +18,7 @@ private:
     std::vector<std::string>& log_;
 };
 
-/// Buttons that choose the names of files. Some files are there to be chosen.
+/// Buttons that choose file names, and some files to choose.
 class FileName : public TextEditorTest {
 protected:
     FileName() {
@@ -41,7 +41,7 @@ protected:
         return create<QPushButton>("FileNameCreatorPDF", parameter);
     }
 
-    /// Clicks the button and does something with the dialog that opens.
+    /// Clicks the button and calls `work` with the dialog that opens.
     void click(QPushButton* button, std::function<void(QFileDialog&)> const& work) {
         ASSERT_TRUE(showPanel());
         EXPECT_TRUE(withFileDialog([&] { QTest::mouseClick(button, Qt::LeftButton); }, work));

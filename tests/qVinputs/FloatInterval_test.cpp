@@ -21,13 +21,13 @@ FloatInterval interval(double min, double max, double resolution) {
     return made;
 }
 
-/// How far apart neighbouring doubles are that have the size of the interval's ends.
+/// The distance between neighbouring doubles near the larger end of the interval.
 double spacing(FloatInterval const& bounds) {
     double const largest = std::max(std::abs(bounds.min), std::abs(bounds.max));
     return std::nextafter(largest, Infinity) - largest;
 }
 
-/// Intervals of many places, widths and resolutions, always the same.
+/// Random intervals of many positions, widths and resolutions, the same in every run.
 class RandomIntervals : public testing::Test {
 protected:
     template <typename Check>
@@ -139,7 +139,7 @@ TEST(FloatIntervalTest, WideningAndNarrowingPutTheValueInTheMiddle) {
 }
 
 TEST(FloatIntervalTest, ProductsAreFormedBeforeQuotients) {
-    // Numbers for which another association rounds to another value.
+    // Numbers for which another order of operations rounds to another value.
     FloatInterval bounds;
     bounds.max = 0.7;
     bounds.delta = 0.1;

@@ -9,7 +9,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
-/// What the tests of the multiple selection share: an editor, its controls by name, and what they show.
+/// Shared by the tests of multiple selections: editors, their controls by name, and what they show.
 class MultipleSelectionTest : public SelectionTest {
 protected:
     using Selection = Kolt::VMultipleStringList;
@@ -39,7 +39,7 @@ protected:
         return nullptr;
     }
     static QCheckBox* removeBox(QWidget const& editor) { return editor.findChild<QCheckBox*>(); }
-    /// The line edits in the order of the column: the wildcard, the numbers.
+    /// The line edits in the order of the column: for the wildcard, for the numbers.
     static QLineEdit* wildcardEdit(QWidget const& editor) { return editBelow(editor, "Wildcard:"); }
     static QLineEdit* numberEdit(QWidget const& editor) { return editBelow(editor, "By Number:"); }
     static QLabel* label(QWidget const& editor, char const* text) {
@@ -88,7 +88,7 @@ protected:
         return editor;
     }
 
-    /// What was printed, without the line about a list filled anew.
+    /// What was printed, without the line about filling the list.
     Lines printed() {
         auto lines = takeOutput();
         lines.erase(std::remove(lines.begin(), lines.end(), trace), lines.end());
@@ -102,7 +102,7 @@ protected:
     static constexpr char const* trace = "calling getSeletion from valueChanged";
 
 private:
-    /// The line edit that stands in the column below a label.
+    /// The line edit below a label in the column.
     static QLineEdit* editBelow(QWidget const& editor, char const* text) {
         auto const* const column = editor.layout()->itemAt(0)->layout();
         return qobject_cast<QLineEdit*>(column->itemAt(column->indexOf(label(editor, text)) + 1)->widget());

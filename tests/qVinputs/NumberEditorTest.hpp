@@ -8,7 +8,7 @@
 #include <QToolTip>
 #include <sorrel/QLeaveLineEdit.hpp>
 
-/// What the tests of the editors of integers and of floating-point numbers share. T is the type of the numbers.
+/// Shared by the tests of the editors of integers and of floating-point numbers. T is the type of the numbers.
 template <typename T>
 class NumberEditorTest : public PluginTest {
 protected:
@@ -18,14 +18,14 @@ protected:
         return editor.widget->findChild<Kolt::QLeaveLineEdit*>();
     }
     static std::string text(Kolt::Editor const& editor) { return lineEdit(editor)->text().toStdString(); }
-    /// Types a text in place of the one in the field, and Return.
+    /// Replaces the text in the field by typing, and presses Return.
     static void type(Kolt::Editor const& editor, char const* typed) {
         lineEdit(editor)->selectAll();
         QTest::keyClicks(lineEdit(editor), typed);
         QTest::keyClick(lineEdit(editor), Qt::Key_Return);
     }
 
-    /// What the mouse is shown that rests on a widget.
+    /// The tool tip that appears when the mouse rests on a widget.
     static std::string toolTip(QWidget* widget) {
         QToolTip::hideText();
         auto const place = widget->rect().center();

@@ -7,7 +7,7 @@ namespace {
 
 using Rows = std::vector<std::uint64_t>;
 
-/// The rows that the text names, one by one.
+/// The rows that the text selects, one by one.
 Rows rowsOf(std::string const& text, std::uint64_t rowCount = 10) {
     Rows rows;
     for (auto const& series : Kolt::rowsByNumber(text, rowCount)) {
@@ -20,7 +20,7 @@ Rows rowsOf(std::string const& text, std::uint64_t rowCount = 10) {
     return rows;
 }
 
-/// What a text names in a list of ten rows.
+/// The rows that a text selects in a list of ten rows.
 struct Reading {
     char const* name;
     std::string text;
@@ -115,7 +115,7 @@ namespace {
 
 class NumberSelectionTest : public TaloTest {};
 
-/// A locale that groups digits and has a space character of its own.
+/// A locale that groups digits and has its own space character.
 class GroupingNumbers : public std::numpunct<char> {
 protected:
     char do_thousands_sep() const override { return '_'; }

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Several editors of one parameter, an icon where there is one, and a user and a host who do as they please.
+/// Several editors of one parameter, icons for the editors that have them, and random actions of a user and a host.
 class NumbersTest : public PluginTest {
 protected:
     void openEditors(Kolt::ParameterPtr const& edited, std::vector<std::string> const& creators) {
@@ -20,7 +20,7 @@ protected:
             auto const made = qtCreator(parameter->declaredType(), name)->create(parameter, parent, &pools);
             made.first->resize(300, 80);
             made.first->show();
-            // The layout gives the controls their places.
+            // Let the layout place the controls.
             QApplication::sendPostedEvents(made.first, QEvent::LayoutRequest);
             editors.push_back(made.first);
             if (auto const iconizer = made.second.strong()->getInterface<Kolt::QIconizer>())
@@ -32,7 +32,7 @@ protected:
     int random(int first, int last) { return std::uniform_int_distribution<int>(first, last)(generator); }
     QWidget& anyEditor() { return *editors[static_cast<std::size_t>(random(0, static_cast<int>(editors.size()) - 1))]; }
 
-    /// One thing that a user or the host does. Gives how many notifications it may cause at most.
+    /// Performs a random action of the user or the host. Returns the largest number of notifications that it may cause.
     std::size_t anyStep() {
         auto& editor = anyEditor();
         auto* const control = editor.findChild<QAbstractSlider*>();
@@ -56,9 +56,9 @@ protected:
             lineEdit->selectAll();
             QTest::keyClicks(lineEdit, QString::number(random(-500, 500)));
             if (random(0, 3) == 0)
-                return 0; // typed and left
+                return 0; // typed without Return
             QTest::keyClick(lineEdit, Qt::Key_Return);
-            return 2; // the handle that moves, and the number
+            return 2; // for the moved handle and for the number
         case 4:
             change(random(-500, 500));
             return 1;
@@ -74,7 +74,7 @@ protected:
     }
     virtual void change(int number) = 0;
     virtual Kolt::ValuePtr bound(int number) = 0;
-    /// What an editor shows for the value that the parameter holds.
+    /// The text that an editor shows for the parameter's value.
     virtual QString expectedText() = 0;
 
     void walk(int steps) {
@@ -84,7 +84,7 @@ protected:
             auto const most = anyStep();
             EXPECT_LE(recorder.values.size(), most);
         }
-        // A text that is still being typed stays; a user who gives it up sees the current value.
+        // A text that is being typed is not replaced; Escape shows the current value.
         parameter->notifyValueChange(parameter->ownValue(), firstPool, std::string(), nullptr, nullptr, nullptr);
         for (auto const& editor : editors) {
             auto* const lineEdit = editor->findChild<QLineEdit*>();
@@ -101,7 +101,7 @@ protected:
     RecordingNotifier recorder;
 };
 
-class WholeNumbersTest : public NumbersTest {
+class IntegersTest : public NumbersTest {
 protected:
     void change(int number) override {
         EXPECT_TRUE(Kolt::setParameterValue(*parameter, number, firstPool, std::string(), true, nullptr, nullptr));
@@ -110,7 +110,7 @@ protected:
     QString expectedText() override { return QString::fromStdString(parameter->ownValue()->Text()); }
 };
 
-class RealNumbersTest : public NumbersTest {
+class FloatingPointNumbersTest : public NumbersTest {
 protected:
     void change(int number) override {
         EXPECT_TRUE(
@@ -122,7 +122,7 @@ protected:
 
 } // namespace
 
-TEST_F(WholeNumbersTest, AllEditorsAndTheIconEndWithWhatTheParameterHolds) {
+TEST_F(IntegersTest, AllEditorsAndTheIconEndWithWhatTheParameterHolds) {
     openEditors(makeParameter("count", Kolt::makeValue(20)), {"int", "intDial", "intDialPeriodic"});
     ASSERT_EQ(icons.size(), 3U);
     for (int round = 0; round < 20; ++round) {
@@ -137,7 +137,7 @@ TEST_F(WholeNumbersTest, AllEditorsAndTheIconEndWithWhatTheParameterHolds) {
     }
 }
 
-TEST_F(RealNumbersTest, AllEditorsEndWithWhatTheParameterHolds) {
+TEST_F(FloatingPointNumbersTest, AllEditorsEndWithWhatTheParameterHolds) {
     auto const real = makeParameter("scale", Kolt::makeValue(0.5));
     real->setProperty("increment", Kolt::makeValue(1000.0), nullptr, nullptr, nullptr);
     openEditors(real, {"double", "FltDial", "Periodic FltDial"});

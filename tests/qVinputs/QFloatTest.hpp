@@ -31,7 +31,7 @@ protected:
                              Values values = Values::Shared) {
         return makeParameter("scale", Kolt::makeValue(value), preferences, values);
     }
-    /// A parameter whose control has the positions 0 to `increment`, which holds for the numbers used here.
+    /// A parameter whose control has the positions 0 to `increment`; this is true for the numbers used in the tests.
     static ParameterPtr bounded(double value, double minimum, double maximum, double increment,
                                 std::vector<std::string> const& preferences = {}) {
         auto const parameter = real(value, preferences);

@@ -9,7 +9,7 @@ using testing::StartsWith;
 
 namespace {
 
-/// What an editor says of its number beside the text in the field.
+/// What an editor tells about its number besides the text: tool tip, mark and accessible value.
 class QFloatFactsTest : public QFloatTest {
 protected:
     static QAccessibleInterface* accessible(QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); }
@@ -96,7 +96,7 @@ TEST_F(QFloatFactsTest, TheAccessibleValueIsTheNumber) {
     }
 }
 
-TEST_F(QFloatFactsTest, OtherSlidersTellTheirPosition) {
+TEST_F(QFloatFactsTest, OtherSlidersReportTheirPosition) {
     auto const editor = open(real(0.25));
     QSlider plain(Qt::Horizontal);
     plain.setValue(7);

@@ -5,7 +5,7 @@ using Kolt::ParameterPtr;
 
 namespace {
 
-/// A parameter of 0.25 on 0 to 1 with the positions 0 to 200, and its editor with a slider.
+/// A parameter with the value 0.25, the bounds 0 and 1 and the positions 0 to 200, and its editor with a slider.
 class QFloatKeyTest : public QFloatTest {
 protected:
     void SetUp() override {
@@ -236,7 +236,7 @@ TEST_F(QFloatKeyTest, PlusWidensTheIntervalAndKeepsTheRangeOfTheControl) {
         EXPECT_EQ(otherControl->maximum(), 200);
         EXPECT_EQ(otherControl->value(), 200) << "the middle of a thousand million positions, clamped";
         EXPECT_DOUBLE_EQ(held(other), 200 * 2.0 / 1000000000 - 0.75);
-        // If the handle is at the end already, it does not move.
+        // A handle that is at the end does not move.
         auto const before = held(other);
         QTest::keyClick(otherControl, pressed);
         EXPECT_EQ(held(other), before);

@@ -85,7 +85,7 @@ TEST_F(QFloatTest, WithoutPropertiesTheIntervalIs0To1WithAHundredMillionPosition
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
 }
 
-TEST_F(QFloatTest, BoundsThatStandAreKeptAndThoseOfAnotherTypeAreNotUsed) {
+TEST_F(QFloatTest, ExistingBoundsAreKeptAndThoseOfAnotherTypeAreNotUsed) {
     auto const parameter = real(0.5);
     setProperty(parameter, "min", Kolt::makeValue(std::string("low")));
     setProperty(parameter, "max", Kolt::makeValue(5.0));

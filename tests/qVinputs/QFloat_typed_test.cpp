@@ -6,7 +6,7 @@ using Values = Kolt::VParameter::Values;
 
 namespace {
 
-/// Typing in the field of a parameter on 0 to 1 with 200 positions, in a window that has the focus.
+/// Typing in the field of a parameter with the bounds 0 and 1 and 200 positions, in an active window.
 class QFloatTypedTest : public QFloatTest {
 protected:
     void openEditor(double value) {
@@ -134,7 +134,7 @@ TEST_F(QFloatTypedTest, ACommaIsAPointWhereTheLocaleHasADecimalComma) {
 TEST_F(QFloatTypedTest, GroupSeparatorsAreRefusedAndNeverReadAsAnotherNumber) {
     for (auto const& locale : {QLocale(QLocale::German, QLocale::Germany), QLocale(QLocale::English), QLocale::c()}) {
         for (char const* const typed : {"1.000,5", "1,000.5", "1,000", "1.000.5", "1,000,5"}) {
-            // With a decimal comma the first comma is a decimal one.
+            // In a locale with a decimal comma, "1,000" is a decimal number.
             bool const isDecimal = locale.decimalPoint() == QLatin1Char(',') && std::string(typed) == "1,000";
             QLocale::setDefault(locale);
             openEditor(0.5);

@@ -120,7 +120,7 @@ TEST_F(QIntegerIconTest, ADestroyedIconIsNeverReached) {
     auto const editor = open(parameter);
     auto const before = Kolt::ValueNotifier::living();
     auto* const icon = makeIcon(editor);
-    // A host that holds on to the icon's notifier beyond the icon.
+    // The host keeps a reference to the icon's notifier after the icon is destroyed.
     Tessera::StrongPtr<Kolt::ValueNotifier> kept;
     for (auto* const notifier : Kolt::ValueNotifier::living()) {
         if (std::find(before.begin(), before.end(), notifier) == before.end())

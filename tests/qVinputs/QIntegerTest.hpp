@@ -14,7 +14,7 @@ protected:
     using ParameterPtr = Kolt::ParameterPtr;
     using Values = Kolt::VParameter::Values;
 
-    /// What the control's signal does.
+    /// Calls the slot that is connected to the control's signal.
     static void callSlot(Kolt::Editor const& editor, int value) {
         ASSERT_TRUE(QMetaObject::invokeMethod(editor.widget, "valueChanged", Q_ARG(int, value)));
     }
@@ -38,7 +38,7 @@ protected:
         return texts;
     }
 
-    /// The first step that is recorded from now on moves the control once more.
+    /// When the next undo step is recorded, moves the control once more.
     void moveAtNextStep(Kolt::Editor const& editor, int value) {
         historyConnection = Kolt::UndoHistory::theHistory().addListener([editor, value, moved = false]() mutable {
             if (!std::exchange(moved, true))

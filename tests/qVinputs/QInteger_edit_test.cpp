@@ -114,7 +114,7 @@ TEST_F(QIntegerTest, ATypedNumberForAParameterThatIsGonePrintsOneLine) {
     EXPECT_TRUE(undoTexts().empty());
 }
 
-TEST_F(QIntegerTest, AParameterThatGoesWhileATypedNumberIsToldPrintsOneLine) {
+TEST_F(QIntegerTest, AParameterThatDiesWhileATypedNumberIsNotifiedPrintsOneLine) {
     for (char const* const typed : {"33", "500"}) {
         auto parameter = bounded(20, 0, 100);
         auto const editor = open(parameter);
@@ -151,7 +151,7 @@ TEST_F(QIntegerTest, ATypedNumberOutsideTheRangeIsWrittenAsItIs) {
             EXPECT_EQ(control->value(), 100);
         }
 
-        // The handle does not move: no step, but the number is written.
+        // The handle does not move, so there is no undo step, but the number is written.
         auto const age = parameter->ownValue()->age();
         type(editor, preferences.size() < 2 ? "600" : "650");
         EXPECT_EQ(undoTexts().size(), 1U);
@@ -309,7 +309,7 @@ TEST_F(QIntegerTest, UndoReachesThePoolOfTheMove) {
     EXPECT_EQ(parameter->getLocalValue(secondPool, std::string(), false)->Text(), "50");
     EXPECT_EQ(text(editor), "50");
 
-    // The number that came back in the other pool is a new one in this pool.
+    // Undo restored 20 in the other pool; in this pool 20 is still a new number.
     slider(editor)->setValue(20);
     EXPECT_EQ(parameter->getLocalValue(secondPool, std::string(), false)->Text(), "20");
     EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 50"});

@@ -115,7 +115,7 @@ TEST_F(QIntegerTest, TheMissingBoundsOfADialAre0And360) {
     EXPECT_EQ(text(editor), "1000");
 }
 
-TEST_F(QIntegerTest, BoundsThatStandAreKept) {
+TEST_F(QIntegerTest, ExistingBoundsAreKept) {
     auto const parameter = bounded(7, -20, 20);
     record(parameter);
     auto const editor = open(parameter);
@@ -246,7 +246,7 @@ TEST_F(QIntegerTest, AChangeFromElsewhereMovesTextAndHandleAndTheRememberedText)
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
     EXPECT_TRUE(undoTexts().empty());
 
-    // The cache follows, too: the next step goes back to what came from elsewhere.
+    // The cache follows, too: the next undo step restores the value from elsewhere.
     QTest::keyClick(slider(editor), Qt::Key_Right);
     EXPECT_EQ(undoTexts(), std::vector<std::string>{"Set int value to 31"});
 }

@@ -7,7 +7,7 @@ using testing::Each;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-TEST_F(QIntegerTest, OnlyTheTypedNumberIsToldWhereTheHandleCannotFollow) {
+TEST_F(QIntegerTest, OnlyTheTypedNumberIsNotifiedWhereTheHandleCannotFollow) {
     for (auto const& preferences : std::vector<std::vector<std::string>>{{}, {"dial"}, {"dial", "periodic"}}) {
         auto const parameter = bounded(20, 0, 360, preferences);
         auto const editor = open(parameter);
@@ -73,7 +73,7 @@ TEST_F(QIntegerTest, AReentryNamesNoNumberThatWasNeverStored) {
     EXPECT_EQ(parameter->ownValue()->Text(), "20");
 }
 
-TEST_F(QIntegerTest, AMoveWhosePoolGoesWhileItIsRecordedCanBeMadeAgain) {
+TEST_F(QIntegerTest, AMoveWhosePoolIsLostWhileItIsRecordedCanBeRepeated) {
     auto const parameter = bounded(20, 0, 100);
     auto const editor = open(parameter);
     record(parameter);

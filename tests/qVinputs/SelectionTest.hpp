@@ -2,7 +2,7 @@
 
 #include "support/TestHost.hpp"
 
-/// A value that holds what it was made with and refuses every store.
+/// A value that keeps its initial content and refuses every store.
 template <typename T>
 class RefusingValue : public Kolt::VValue<T> {
 public:
@@ -10,7 +10,7 @@ public:
     bool set(T const&) override { return false; }
 };
 
-/// What the tests of the editors of selections share.
+/// Shared by the tests of the editors of selections.
 class SelectionTest : public PluginTest {
 protected:
     using Values = Kolt::VParameter::Values;
@@ -25,7 +25,7 @@ protected:
     static Kolt::ParameterPtr refusingParameterOf(T const& value) {
         return makeParameter("object.parameter", Kolt::ValuePtr(new RefusingValue<T>(value)));
     }
-    /// The editor hears that the parameter has this value now.
+    /// Sets the parameter's value as another editor does, and notifies.
     template <typename T>
     void setElsewhere(Kolt::ParameterPtr const& parameter, T const& value) {
         EXPECT_TRUE(Kolt::setParameterValue(*parameter, value, firstPool, std::string(), false, nullptr, nullptr));
@@ -33,7 +33,7 @@ protected:
     static void tellOfChange(Kolt::ParameterPtr const& parameter) {
         parameter->notifyValueChange(parameter->ownValue(), nullptr, std::string(), nullptr, nullptr, nullptr);
     }
-    /// Hears of every commit.
+    /// Records every commit.
     void record(Kolt::ParameterPtr const& parameter) {
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
     }

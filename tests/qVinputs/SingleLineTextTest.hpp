@@ -4,7 +4,7 @@
 
 #include <QLineEdit>
 
-/// Editors of texts of one line.
+/// Editors of single-line texts.
 class SingleLineText : public TextEditorTest {
 protected:
     QLineEdit* edit(Kolt::ParameterRef const& parameter) { return create<QLineEdit>("simplestring", parameter); }

@@ -4,7 +4,7 @@
 #include <QVBoxLayout>
 #include <random>
 
-/// Edits parameters with editors that a named creator makes. They stand in the parent's layout.
+/// Edits parameters with editors from a named creator, in the layout of the parent.
 class TextEditorTest : public PluginTest {
 protected:
     using Values = Kolt::VParameter::Values;
@@ -32,7 +32,7 @@ protected:
         throw std::runtime_error("no creator is called " + name);
     }
 
-    /// The editor that the named creator makes.
+    /// Creates an editor with the named creator.
     template <typename Widget>
     Widget* create(std::string const& creatorName, Parameter const& parameter) {
         auto const made = creator(creatorName)->getInterface<Kolt::QInputCreator>()->create(parameter, parent, &pools);
@@ -56,7 +56,7 @@ protected:
     }
 
     static std::string textOf(Kolt::ParameterPtr const& parameter) { return parameter->ownValue()->Text(); }
-    /// The text that the current pool holds.
+    /// The text of the current pool's value.
     std::string localTextOf(Kolt::ParameterPtr const& parameter) const {
         auto const value = parameter->getLocalValue(Kolt::currentPool(&pools), std::string(), false);
         return value ? value->Text() : "(none)";
@@ -72,7 +72,7 @@ protected:
         return waitUntil([&] { return widget->hasFocus(); });
     }
 
-    /// A text of so many bytes, from a generator that starts the same every time.
+    /// A text of `size` random bytes, the same in every run.
     static std::string randomBytes(std::size_t size) {
         std::mt19937 generator(2023);
         std::string bytes(size, '\0');
@@ -80,12 +80,12 @@ protected:
             byte = static_cast<char>(generator() & 0xFFU);
         return bytes;
     }
-    /// What is left of a text once it was shown.
+    /// A text after conversion to a QString and back, as an editor shows it.
     static std::string shown(std::string const& text) { return QString::fromStdString(text).toStdString(); }
 
-    /// The owner-fault line as it is written.
+    /// The line about a missing owner, as written to standard output.
     std::string const missingOwner = std::string(missingOwnerLine) + '\n';
 
     RecordingNotifier recorder;
-    Kolt::InputRef input; ///< of the editor made last
+    Kolt::InputRef input; ///< of the editor that was created last
 };

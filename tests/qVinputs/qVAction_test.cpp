@@ -16,7 +16,7 @@ namespace {
 
 class qVActionTest : public PluginTest {
 protected:
-    /// An action that records in which pool and for which parameter it was fired.
+    /// An action that records the pool and the parameter for which it is fired.
     ActionPtr recordingAction() {
         return ActionPtr(new Kolt::VAction("start", [this](auto const& pool, auto const& parameter) {
             firedPools.push_back(pool);
@@ -116,7 +116,7 @@ TEST_F(qVActionTest, IconAndToolTipFollowTheProperties) {
 TEST_F(qVActionTest, APlainValueChangeShowsThePropertiesToo) {
     auto const parameter = actionParameter();
     auto const editor = open(parameter);
-    // The button does not hear of this change itself.
+    // The button is the source of this change, so it is not notified.
     parameter->setProperty("tooltip", Kolt::makeValue(std::string("Starts")),
                            Tessera::WeakPtr<Kolt::ValueNotifier>(editor.input), nullptr, nullptr);
     EXPECT_TRUE(editor.widget->toolTip().isEmpty());
@@ -194,7 +194,7 @@ TEST_F(qVActionTest, ADrawingIsAnIconUnlessItNamesOtherFiles) {
 }
 
 TEST_F(qVActionTest, AHugePictureInFewBytesTakesNoMemory) {
-    // A bitmap of one bit for each point: as a picture of 32 bits it would take 1.6 GB.
+    // A bitmap with one bit for each pixel; with 32 bits it would take 1.6 GB.
     QImage huge(20'000, 20'000, QImage::Format_Mono);
     huge.fill(0);
     ASSERT_TRUE(huge.save(folder.filePath("huge.png")));
@@ -233,7 +233,7 @@ TEST_F(qVActionTest, PropertiesThatAreNoTextsAreIgnored) {
     EXPECT_TRUE(editor.widget->toolTip().isEmpty());
 }
 
-TEST_F(qVActionTest, AClickFiresOnceInThePoolOfTheMoment) {
+TEST_F(qVActionTest, AClickFiresOnceInTheCurrentPool) {
     auto const parameter = actionParameter("render.stop");
     auto const editor = open(parameter);
     EXPECT_TRUE(firedPools.empty());

@@ -37,7 +37,7 @@ protected:
     static bool same(rgba_float_t const& left, rgba_float_t const& right) {
         return std::memcmp(&left, &right, sizeof left) == 0;
     }
-    /// The colour that a role has in all colour groups; an invalid one if they differ.
+    /// The colour of a role in all colour groups; an invalid colour if they differ.
     static QColor shown(Kolt::Editor const& editor, QPalette::ColorRole role) {
         auto const& palette = editor.widget->palette();
         auto const colour = palette.color(QPalette::Active, role);
@@ -251,7 +251,7 @@ TEST_F(qVColorTest, AnInvalidColourIsIgnored) {
     ASSERT_TRUE(choose(editor, QColor()));
     EXPECT_EQ(parameter->ownValue()->Text(), "1 0 0 1");
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
-    // Compares equal to no valid colour, black included.
+    // The invalid colour that was ignored is not equal to any valid colour, black included.
     ASSERT_TRUE(choose(editor, QColor(Qt::black)));
     EXPECT_EQ(parameter->ownValue()->Text(), "0 0 0 1");
 }
@@ -302,7 +302,7 @@ TEST_F(qVColorTest, TheInputLivesExactlyAsLongAsTheLabel) {
     ASSERT_TRUE(editor.input.alive());
     EXPECT_EQ(dynamic_cast<QWidget*>(editor.input.strong().get()), nullptr) << "the input is no widget itself";
     EXPECT_EQ(parameter->size(), 1U);
-    // A reference to it does not prolong its life.
+    // A reference does not keep the input alive.
     auto const held = editor.input.strong();
     delete editor.widget;
     EXPECT_FALSE(held);

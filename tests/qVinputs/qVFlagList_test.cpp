@@ -73,7 +73,7 @@ TEST_F(FlagListTest, TheBoxesStandInTheOrderOfTheNamesWhateverCameFirst) {
     EXPECT_FALSE(boxes(editor)[3]->isChecked());
 }
 
-TEST_F(FlagListTest, TheTabKeyGoesFromBoxToBoxAsTheyStand) {
+TEST_F(FlagListTest, TheTabKeyFollowsTheOrderOfTheBoxes) {
     auto const parameter = parameterOf(FlagList{{"b", false}, {"d", false}});
     auto const editor = open(parameter);
     setElsewhere(parameter, FlagList{{"a", false}, {"c", false}});
@@ -93,7 +93,7 @@ TEST_F(FlagListTest, AToggleCommitsTheStateOfAllBoxes) {
     auto const editor = open(parameter);
     record(parameter);
     {
-        // One box changes unnoticed; the next toggle writes both.
+        // Change one box without a signal; the next toggle writes both.
         QSignalBlocker const blocker(boxes(editor)[0]);
         boxes(editor)[0]->setChecked(true);
     }

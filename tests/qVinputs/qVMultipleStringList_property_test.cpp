@@ -8,7 +8,7 @@ namespace {
 
 using Kolt::MultipleStringSelection;
 
-/// The editor's actions as they are described, row by row, on a list widget of its own. It costs what it costs.
+/// A reference implementation of the editor's actions: row by row on its own list widget, without regard to speed.
 class RowByRow {
 public:
     explicit RowByRow(Kolt::VMultipleStringList const& selection) : selection_(selection) {
@@ -16,7 +16,7 @@ public:
         list_.setMovement(QListView::Static);
         fill();
     }
-    /// Looks like another list, so that the mouse finds the same rows at the same places.
+    /// Takes the size and scroll position of another list, so that the mouse finds the same rows at the same places.
     void imitate(QListWidget const& other) {
         list_.setAttribute(Qt::WA_DontShowOnScreen);
         list_.resize(other.size());
@@ -76,7 +76,7 @@ public:
         for (auto* const item : list_.findItems(pattern, Qt::MatchWildcard))
             apply(*item, remove);
     }
-    /// The tokens that the test makes, each read by a pattern of its own.
+    /// Applies the tokens that the test generates, each parsed by its own pattern.
     void numbers(QString const& tokens, bool remove) {
         for (auto const& token : tokens.split(',')) {
             static QRegularExpression const range("^(\\d+)-(\\d+)$");
@@ -124,7 +124,7 @@ protected:
         return choices[random_() % choices.size()];
     }
 
-    /// Few different texts, so that many are equal; some with a slash, of other scripts, or long.
+    /// A few different texts, so that many are equal; some contain a slash, are of other scripts, or are long.
     std::vector<std::string> randomStrings() {
         std::vector<std::string> const words = {"a",   "A",    "ab",  "b/a",      "/",
                                                 "",    "9",    "x9y", "\xC3\xA4", "\xE6\x97\xA5",
@@ -155,10 +155,10 @@ protected:
         return tokens.join(',');
     }
 
-    // The kinds of actions that act() knows come before it.
+    // act() performs the kinds below this one.
     static constexpr int RefillKind = 7;
     static bool isClick(int kind) { return kind == 3 || kind == 4; }
-    /// Does one thing to the editor and to the reference, and says what. A click needs a row to be clicked.
+    /// Performs an action on the editor and on the reference, and returns its description. A click needs a row.
     QString act(int kind, QWidget& widget, RowByRow& literal, bool remove) {
         if (kind == 0) {
             press(widget, "All");
@@ -195,7 +195,8 @@ protected:
         return "numbers " + numbers;
     }
 
-    /// Presses, moves or releases the mouse at a place of the editor's list and of the reference, and says what.
+    /// Presses, moves or releases the mouse at the same place of the editor's list and of the reference, and returns a
+    /// description.
     QString useMouse(QWidget& widget, RowByRow& literal) {
         auto& rows = *list(widget);
         rows.doItemsLayout();
@@ -220,9 +221,10 @@ protected:
         return "release";
     }
 
-    /// Whether the mouse was pressed on a row and not released yet.
+    /// Whether the mouse button is held down.
     bool isHeld_ = false;
-    /// "None" takes the rows back in an order that is not laid down, and a move brings the last of them back.
+    /// False after "None": the order in which it deselects rows is unspecified, and a mouse move would select the last
+    /// of them again.
     bool mayMove_ = true;
 
 private:

@@ -318,7 +318,7 @@ TEST_F(MultipleStringListTest, AClickInAListWithoutASelectionGivesThePoolNoValue
 }
 
 TEST_F(MultipleStringListTest, RowsThatWereShownWhileOneIsPressedStayChosenWhenTheMouseMoves) {
-    // Qt takes back the row that was selected last, unless another row was filled in after it.
+    // Qt deselects the row that was selected last, unless another row was inserted after it.
     for (auto const& [rowCount, expected] : {std::pair<int, Rows>{8, {1, 2, 3, 5}}, {10, {1, 2, 3, 5, 7}}}) {
         auto const selection = makeSelection(rowNames(rowCount), {"row 1", "row 2", "row 5", "row 7"});
         auto const parameter = parameterOf(selection);

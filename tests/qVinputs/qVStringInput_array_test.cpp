@@ -12,7 +12,7 @@ class ArrayOfOneText : public SingleLineText {
 protected:
     using Array = std::array<std::string, 1>;
 
-    // As networks keep them: declared as an array, with a text as the value.
+    // As networks store them: declared as an array, with a text as the value.
     static ParameterPtr makeDeclaredArray(std::string const& text, Values values = Values::Shared) {
         return ParameterPtr(new VParameter("array", makeValue(text), values, Tessera::Typename(typeid(Array))));
     }

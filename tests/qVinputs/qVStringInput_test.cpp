@@ -207,7 +207,7 @@ TEST_F(SingleLineText, KeepsATextBeingTypedWhenAPropertyChanges) {
     EXPECT_EQ(editor->text(), QStringLiteral("abcdef"));
 }
 
-TEST_F(SingleLineText, KeepsItsCursorWhenItIsToldTheTextThatItShows) {
+TEST_F(SingleLineText, KeepsItsCursorWhenItIsNotifiedOfTheTextThatItShows) {
     auto const parameter = makeText("abcdef");
     auto* const editor = edit(parameter);
     editor->setCursorPosition(2);
@@ -337,7 +337,7 @@ TEST_F(SingleLineText, CarriesAMegabyte) {
     change(parameter, text);
     EXPECT_EQ(editor->text().size(), 1'000'000);
     QTest::keyClicks(editor, QStringLiteral("y"));
-    // Not EXPECT_EQ, which would print them.
+    // Not EXPECT_EQ, which would print the long texts.
     EXPECT_TRUE(textOf(parameter) == text + "y");
     EXPECT_EQ(edit(parameter)->text().size(), 1'000'001);
 }

@@ -26,8 +26,8 @@ protected:
             texts.append(combo(editor)->itemText(place));
         return texts;
     }
-    /// Chooses an entry of the drop-down list, also the current one. The list is not dropped down for it, which the
-    /// platform of the tests complains about.
+    /// Chooses an entry of the drop-down list, which may be the current one. The list stays closed, because the
+    /// offscreen platform warns about popups.
     static void choose(Kolt::Editor const& editor, int place) {
         auto* const view = combo(editor)->view();
         view->setCurrentIndex(combo(editor)->model()->index(place, 0));
@@ -35,7 +35,7 @@ protected:
     }
     static void type(Kolt::Editor const& editor, QString const& text) {
         combo(editor)->lineEdit()->selectAll();
-        // The box has the focus, and hands the keys to its line edit.
+        // The box has the focus and passes the keys to its line edit.
         QTest::keyClicks(combo(editor), text);
         QTest::keyClick(combo(editor), Qt::Key_Return);
     }
@@ -292,7 +292,7 @@ TEST_F(StringListTest, ATextThatIsBeingTypedStaysWhenSomethingElseChanges) {
     EXPECT_EQ(field->text(), typed);
     EXPECT_EQ(combo(editor)->count(), 4);
     EXPECT_EQ(combo(editor)->currentIndex(), 2);
-    // What a person has selected stays selected, too.
+    // What the user has selected stays selected, too.
     field->setSelection(1, 2);
     parameter->setProperty("comment", Kolt::makeValue(2), nullptr, nullptr, nullptr);
     EXPECT_EQ(field->selectedText(), QStringLiteral("wo"));

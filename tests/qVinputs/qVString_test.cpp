@@ -118,7 +118,7 @@ TEST_F(MultiLineText, IsCommittedBeforeAKeyWithAModifierIsApplied) {
     editor->selectAll();
     watch(parameter);
     QTest::keyClick(editor, Qt::Key_X, Qt::ControlModifier);
-    // One for the modifier, which is a key, too.
+    // One commit for the modifier, which is a key, too.
     EXPECT_THAT(recorder.values, ElementsAre("abc", "abc"));
     EXPECT_EQ(editor->toPlainText(), QString());
 }
@@ -134,7 +134,7 @@ TEST_F(MultiLineText, CommitsAlsoWhatDidNotChange) {
     EXPECT_EQ(parameter->ownValue()->age(), before + 2);
 }
 
-TEST_F(MultiLineText, KeepsCursorAndSelectionWhenToldOfItsOwnCommit) {
+TEST_F(MultiLineText, KeepsCursorAndSelectionWhenNotifiedOfItsOwnCommit) {
     auto const parameter = makeText("one two three");
     auto* const editor = edit(parameter);
     auto cursor = editor->textCursor();
@@ -231,7 +231,7 @@ TEST_F(MultiLineText, CarriesAMegabyte) {
     auto* const editor = edit(parameter);
     QTest::keyClicks(editor, QStringLiteral("y"));
     send(editor, QEvent::Leave);
-    // Not EXPECT_EQ, which would print them.
+    // Not EXPECT_EQ, which would print the long texts.
     EXPECT_TRUE(textOf(parameter) == text + "y");
     change(parameter, text);
     EXPECT_TRUE(editor->toPlainText().toStdString() == text);

@@ -60,7 +60,7 @@ TEST_F(FileName, SchedulesEveryObjectBoundToTheParameter) {
     auto const idle = makeObject("idle", nullptr);
     auto const writer = makeObject("writer", parameter);
     choose(open(parameter), path("second.txt"));
-    // Queued: nothing ran inside the click.
+    // The objects are scheduled; none runs during the click.
     EXPECT_THAT(log_, IsEmpty());
     EXPECT_EQ(VScheduler::waiting(), 2);
     EXPECT_EQ(VScheduler::nextTime(), 0.0);
@@ -113,7 +113,7 @@ TEST_F(FileName, StoresNothingWithoutAPool) {
     EXPECT_EQ(textOf(parameter), "old");
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
     EXPECT_THAT(recorder.values, IsEmpty());
-    // The walk does not depend on the store.
+    // The objects are scheduled even if nothing was stored.
     VScheduler::runDue();
     EXPECT_THAT(log_, ElementsAre("bound in no pool"));
 }

@@ -9,7 +9,7 @@ using namespace Kolt;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Marks every text of the file name button by a tilde.
+/// A translator that prefixes every text of the file name button with a tilde.
 class Tildes : public QTranslator {
 public:
     QString translate(char const* context, char const* text, char const*, int) const override {
@@ -96,7 +96,7 @@ TEST_F(FileName, TranslatesItsCaptions) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("~Select File"));
         dialog.reject();
     });
-    // After a cancelled dialog it is the bare text.
+    // After a cancelled dialog the button shows the untranslated caption.
     EXPECT_EQ(openButton->text(), QStringLiteral("Select File"));
     QCoreApplication::removeTranslator(&tildes);
 }

@@ -12,7 +12,7 @@ namespace {
 
 using Kolt::harmlessText;
 
-/// A document as a label has it, which writes down what it would load.
+/// A document like that of a label, which records the resources that it would load.
 class Document : public QTextDocument {
 public:
     explicit Document(std::string const& bytes) {
@@ -31,7 +31,7 @@ protected:
     }
 };
 
-/// Texts of the pieces of which rich texts consist, put together by chance.
+/// A random combination of the parts that rich texts consist of.
 std::string randomText(std::mt19937& random) {
     static std::vector<std::string> const pieces = {"<",
                                                     ">",
@@ -102,14 +102,14 @@ TEST_F(RichTexts, LoadNothingWhateverTheyContain) {
     EXPECT_GT(loading, 100) << "of the texts themselves many load something";
 }
 
-TEST_F(RichTexts, AreToldFromPlainOnesAsByQt) {
+TEST_F(RichTexts, AreDistinguishedFromPlainTextsAsByQt) {
     std::mt19937 random(8);
     int rich = 0;
     for (int round = 0; round < 50'000; ++round) {
         auto const text = randomText(random);
         bool const isRich = Qt::mightBeRichText(QString::fromStdString(text));
         bool const isAscii = std::all_of(text.begin(), text.end(), [](char c) { return c > 0; });
-        // In doubt, with other characters, it may say yes.
+        // For a plain text with other than ASCII characters it may also return true.
         ASSERT_TRUE(Kolt::isRichText(text) == isRich || (!isRich && !isAscii)) << text;
         rich += isRich ? 1 : 0;
     }

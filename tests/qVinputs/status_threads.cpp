@@ -1,6 +1,6 @@
-// Status reports of a worker thread, in a program of its own that is built with the thread sanitizer together with the
-// host and the display. With the argument "--stay-in-delivery" the display does not leave the delivery before its
-// members go: the race that must be reported.
+// Status reports of a worker thread. This program is built with the thread sanitizer, together with the host and the
+// display. With the argument "--stay-in-delivery" a display destroys its members without calling stopNotifications()
+// first: a race that must be reported.
 
 #include <atomic>
 #include <bramble/ObjectStatus.hpp>
@@ -30,7 +30,7 @@ public:
     PoolPtr const pool;
 };
 
-/// Works like the display but for its destructor.
+/// Works like the display, but its destructor does not call stopNotifications().
 class StayingDisplay : public VInputValue<VObjectStatus> {
 public:
     StayingDisplay(ParameterPtr const& parameter, ValuePoolSource* poolSource)
@@ -50,7 +50,7 @@ std::unique_ptr<qVObjectStatus> show(ParameterPtr const& parameter, OnePool& poo
     return std::make_unique<qVObjectStatus>(parameter, nullptr, &pools, nullptr);
 }
 
-/// As a worker reports: it stores the status, then notifies.
+/// Reports as a worker does: stores the status, then notifies.
 void report(ParameterPtr const& parameter, PoolPtr const& pool, Status const& value, std::string const& text) {
     static_cast<VTypedValueBase<VObjectStatus>&>(*value).set(VObjectStatus(text));
     parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);
@@ -109,7 +109,7 @@ bool reportsMeetDisplaysThatComeAndGo(OnePool& pools, VParameter::Values values)
     return expect(changed, "the worker goes on");
 }
 
-/// The front end hands values to a display directly, while a worker reports.
+/// The front end passes values to a display directly while a worker reports.
 bool reportsMeetTheFrontEnd(OnePool& pools) {
     auto const parameter = makeStatus(VParameter::Values::Shared);
     auto const value = parameter->ownValue();
@@ -126,7 +126,7 @@ bool reportsMeetTheFrontEnd(OnePool& pools) {
     return expect(waitUntil([&] { return display->text() == QLatin1String("report 499"); }), "the last report wins");
 }
 
-/// The last report and the end of a display: nothing but the delivery orders them.
+/// Destroys a display after the last report; only the delivery of notifications orders the two.
 template <typename MakeDisplay>
 void endAfterAReport(OnePool& pools, MakeDisplay const& make) {
     auto const parameter = makeStatus(VParameter::Values::Shared);
@@ -168,7 +168,7 @@ int main(int argc, char** argv) {
         });
         return 0;
     }
-    // First the workers notify the display themselves, then the event loop does.
+    // First the workers notify the display directly, then the event loop does.
     bool held = reportsHold(pools);
     EventLoopDelivery::install();
     held = reportsHold(pools) && held;

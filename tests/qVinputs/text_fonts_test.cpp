@@ -29,7 +29,7 @@ QByteArray nameTable(QString const& family) {
     return table + texts;
 }
 
-/// A font file with the shapes of the test's own font under another family's name.
+/// A font file with the shapes of the test's font under another family name.
 QByteArray fontFile(QString const& family) {
     auto const shapes = QRawFont::fromFont(QApplication::font());
     std::map<QByteArray, QByteArray> tables{{"name", nameTable(family)}};
@@ -51,7 +51,7 @@ QByteArray fontFile(QString const& family) {
 class TextFonts : public TextEditorTest {
 protected:
     static int resolution() { return qRound(QGuiApplication::primaryScreen()->logicalDotsPerInchY()); }
-    // A family is matched exactly where the default size, 12 points, is an integer number of pixels.
+    // A family is matched exactly if the default size, 12 points, is an integer number of pixels.
     static bool areExact() {
         EXPECT_TRUE(resolution() == 96 || resolution() == 100) << resolution();
         return resolution() == 96;
@@ -64,7 +64,7 @@ protected:
     }
 };
 
-// Before any other use of the family: Qt remembers one that it did not find.
+// Must run before any other use of the family: Qt remembers that it did not find one.
 TEST_F(TextFonts, AreSmallAndBoldOnAButtonWhereArialIsExact) {
     auto const arial = QFontDatabase::addApplicationFontFromData(fontFile(QStringLiteral("Arial")));
     ASSERT_NE(arial, -1);
@@ -80,7 +80,7 @@ TEST_F(TextFonts, AreSmallAndBoldOnAButtonWhereArialIsExact) {
 }
 
 TEST_F(TextFonts, AreShownAtTheResolutionAskedFor) {
-    // The offscreen platform's own is 100.
+    // The offscreen platform's default is 100.
     auto const asked = qEnvironmentVariableIsSet("QT_FONT_DPI") ? qEnvironmentVariableIntValue("QT_FONT_DPI") : 100;
     EXPECT_EQ(resolution(), asked);
     EXPECT_EQ(QFont(QStringLiteral("DejaVu Sans Mono")).exactMatch(), areExact());

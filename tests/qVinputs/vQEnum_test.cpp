@@ -23,7 +23,7 @@ protected:
     static QList<QRadioButton*> buttons(Kolt::Editor const& editor) {
         return editor.widget->findChildren<QRadioButton*>();
     }
-    /// The place of the marked button; -1 for none.
+    /// The index of the checked button; -1 for none.
     static int marked(Kolt::Editor const& editor) {
         auto const all = buttons(editor);
         for (int place = 0; place < all.size(); ++place) {
@@ -281,7 +281,7 @@ TEST_F(EnumTest, ARefusedStoreMarksNothing) {
 TEST_F(EnumTest, TheFirstValueIsThePoolsIfItHasOne) {
     auto const parameter = parameterOf(Kolt::Enum(makeNames({"a", "b", "c"}, 0)), Values::PerPool);
     parameter->getLocalValue(firstPool, std::string(), true)->setValueFromText("c");
-    // The creator alone, without the front end that shows the pool's value once more.
+    // Only the creator, without the front end, which would show the pool's value again.
     auto const made = qtCreator("Kolt::Enum", "enum")->create(parameter, parent, &pools);
     EXPECT_TRUE(made.first->findChildren<QRadioButton*>()[2]->isChecked());
     pools.use(secondPool);
@@ -302,7 +302,7 @@ TEST_F(EnumTest, APoolsValueOfAnotherTypeGivesWayToACopyOfItsOwn) {
     auto const names = makeNames({"a", "b", "c"}, 0);
     auto const parameter = parameterOf(Kolt::Enum(names), Values::PerPool);
     auto const editor = open(parameter);
-    // The parameter changes its mind about the type in this pool, which happens while scripts run.
+    // A parameter whose declared type is not that of its value, as can happen while scripts run.
     struct OtherParameter : Kolt::VParameter {
         OtherParameter(Kolt::ValuePtr const& value)
             : VParameter("object.parameter", value, Values::PerPool, "Kolt::Enum") {}

@@ -1,5 +1,5 @@
-# Copies the files INPUTS from the project SOURCE to the folder COPY, and has the copied script add the EDITORS, which
-# have the TYPES.
+# Copies the files INPUTS from the project SOURCE to the folder COPY, and runs the copied script to add EDITORS with
+# TYPES.
 file(REMOVE_RECURSE "${COPY}")
 foreach(input IN LISTS INPUTS)
     cmake_path(GET input PARENT_PATH folder)
@@ -12,6 +12,6 @@ foreach(editor type IN ZIP_LISTS EDITORS TYPES)
         message(FATAL_ERROR "scripts/new_editor ${editor} ${type} ended with ${status}:\n${errors}")
     endif()
 endforeach()
-# The copies are as old as what they were made of.
+# Copies keep the time stamps of their sources; renew them, so that the outputs are up to date.
 file(GLOB_RECURSE files "${COPY}/*")
 file(TOUCH ${files})

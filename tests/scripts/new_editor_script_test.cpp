@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The script in a copy of the tree to which two editors were added, SampleNumber and SampleText.
+/// The script, in a copy of the tree to which it has added the editors SampleNumber and SampleText.
 class NewEditorScript : public TaloTest {
 protected:
     static fs::path copy() { return TALO_COPY; }
@@ -31,7 +31,7 @@ protected:
         return runProgram(quoted((copy() / "scripts/new_editor").string()) + " " + arguments + " 2>&1");
     }
 
-    /// The script refuses with one line and changes nothing.
+    /// Checks that the script refuses with one line and changes nothing.
     static void expectRefusal(std::string const& arguments, std::string const& sentence) {
         auto const before = allContents();
         auto const refused = run(arguments);
@@ -39,7 +39,7 @@ protected:
         EXPECT_THAT(refused.lines, testing::ElementsAre("scripts/new_editor: " + sentence));
         EXPECT_TRUE(allContents() == before) << arguments << " changed a file";
     }
-    /// A file of the copy has one more line, which comes right after another one.
+    /// Checks that a file of the copy has one more line, right after another one.
     static void expectLine(std::string const& file, std::string const& line, std::string const& before) {
         EXPECT_THAT(contents(copy() / file), testing::HasSubstr("\n" + before + "\n" + line + "\n")) << file;
         EXPECT_THAT(contents(fs::path(TALO_SOURCES) / file), testing::Not(testing::HasSubstr(line))) << file;

@@ -6,8 +6,8 @@
 #include <QScreen>
 #include <QStringList>
 
-/// The mouse and the keyboard of the display that the test runs on: what they do takes the way of a person's input,
-/// through the window system, and arrives a moment later.
+/// The mouse and keyboard of the display that the test runs on. Like real input, theirs passes through the window
+/// system and arrives a moment later.
 class Desktop {
 public:
     void move(QWidget const& widget, QPoint const& place) {
@@ -17,7 +17,7 @@ public:
     }
     void press() { run({QStringLiteral("mousedown"), QStringLiteral("1")}); }
     void release() { run({QStringLiteral("mouseup"), QStringLiteral("1")}); }
-    /// A click on a widget that may still be on its way to its place.
+    /// Clicks a widget that may still be moving to its place.
     void click(QWidget const& widget, QPoint const& place) {
         QPoint goal;
         do {
@@ -29,20 +29,20 @@ public:
     }
     void click(QWidget const& widget) { click(widget, widget.rect().center()); }
     void turnWheel(bool up) { run({QStringLiteral("click"), up ? QStringLiteral("4") : QStringLiteral("5")}); }
-    /// Keys by their names: "ctrl+z", "Return".
+    /// Presses keys by name: "ctrl+z", "Return".
     void key(char const* name) { run({QStringLiteral("key"), QString::fromUtf8(name)}); }
     void type(QString const& text) {
         run({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("2"), text});
     }
 
-    /// What xdotool answers to other commands; empty where it refuses them, as it does to look for what is not there.
+    /// The output of another xdotool command; empty if it fails, as a search that finds nothing does.
     QString ask(QStringList const& arguments) {
         QProcess process;
         finish(process, arguments);
         return process.exitCode() == 0 ? QString::fromUtf8(process.readAllStandardOutput()).trimmed() : QString();
     }
 
-    /// Whether a point of the screen is one of the widget, or of a part of it.
+    /// Whether a point on the screen shows the widget or a part of it.
     static bool isAt(QWidget const& widget, QPoint const& point) {
         auto const* const found = QApplication::widgetAt(point);
         return found == &widget || widget.isAncestorOf(found);
@@ -51,7 +51,7 @@ public:
 private:
     static void finish(QProcess& process, QStringList const& arguments) {
         process.start(QStringLiteral("xdotool"), arguments);
-        // Qt answers the window system meanwhile.
+        // Process events while waiting: Qt must answer the window system.
         EXPECT_TRUE(waitUntil([&] { return process.state() == QProcess::NotRunning; }))
             << qPrintable(arguments.join(QLatin1Char(' ')));
     }

@@ -7,8 +7,8 @@
 #include <QTest>
 #include <QTimer>
 
-/// Does something that runs a modal dialog, and works with the dialog once it is shown and has the focus. The work must
-/// close it. Says whether there was a dialog. The dialogs are Qt's own: those of a platform cannot be driven by events.
+/// Calls `open`, which runs a modal dialog, and calls `work` once the dialog is shown and active. `work` must close it.
+/// Returns whether a dialog appeared. Qt's own dialogs are used, because native ones cannot be driven by events.
 template <typename Dialog>
 bool withModalDialog(std::function<void()> const& open, std::function<void(Dialog&)> const& work) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -18,8 +18,8 @@ bool withModalDialog(std::function<void()> const& open, std::function<void(Dialo
         auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
         if (!dialog || !dialog->isVisible())
             return;
-        // While its field has no focus, a file dialog writes the file that it finds for each letter into the field,
-        // and with a window manager the focus comes later than the window.
+        // While its field has no focus, a file dialog replaces the field's text by the files that it finds. With a
+        // window manager the focus arrives after the window.
         if (!dialog->isActiveWindow()) {
             dialog->activateWindow();
             return;
@@ -37,7 +37,7 @@ inline bool withFileDialog(std::function<void()> const& open, std::function<void
     return withModalDialog<QFileDialog>(open, work);
 }
 
-/// Types a file's name into the dialog and presses Return.
+/// Types a file name into the dialog and presses Return.
 inline void enterFileName(QFileDialog& dialog, QString const& name) {
     auto* const field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     field->setFocus();

@@ -2,8 +2,8 @@
 
 #include <filesystem>
 
-/// An empty home folder in the build folder that the environment points to (HOME and the XDG folders) while this object
-/// lives; it goes with the object. Made before any thread and before the application object.
+/// Creates an empty home folder in the build folder and points HOME and the XDG folders to it; the destructor removes
+/// it. Create it before any thread and before the application object.
 class FreshHome {
 public:
     FreshHome();

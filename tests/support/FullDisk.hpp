@@ -3,8 +3,8 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// As long as it lives no file of this process can grow beyond a size, in bytes: a write that would do so fails, as on
-/// a disk without room.
+/// While this lives, no file of the process can grow beyond a size in bytes: a write beyond it fails, as on a full
+/// disk.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t size) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Nothing that is drawn depends on the machine: grabs of widgets can be compared bit by bit.
+// Makes drawing independent of the machine, so that grabs of widgets can be compared bit by bit.
 void fixLook() {
     auto* const style = QStyleFactory::create(QStringLiteral("Fusion"));
     QApplication::setStyle(style);
@@ -25,7 +25,7 @@ void fixLook() {
                               Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox}) {
         QApplication::setEffectEnabled(effect, false);
     }
-    // A test closes many a last window.
+    // Tests close the last window many times; the application must not quit.
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -34,7 +34,7 @@ void fixLook() {
 int main(int argc, char* argv[]) {
     testing::InitGoogleMock(&argc, argv);
     FreshHome const home;
-    // For a test started by hand.
+    // The default for a test that is started by hand.
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     QApplication::setDesktopSettingsAware(false);
     QApplication const application(argc, argv);

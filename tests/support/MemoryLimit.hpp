@@ -4,8 +4,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-/// As long as it lives, the program can take no more addresses than this many bytes beyond what it has; the stack of a
-/// thread takes 8 MB. Not for programs with a sanitizer, which keeps its own memory everywhere in the address space.
+/// While this lives, the process can map at most this many bytes more than it has mapped; the stack of a thread takes 8
+/// MB. Not usable with a sanitizer, which needs the whole address space.
 class MemoryLimit {
 public:
     explicit MemoryLimit(rlim_t bytes) {

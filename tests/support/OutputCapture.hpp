@@ -3,9 +3,9 @@
 #include <string>
 #include <sys/types.h>
 
-/// Holds back what the process writes to standard output, at the file descriptor, so that libraries loaded later and
-/// child processes are seen as well. It starts with the object and ends with it. One at a time; any thread may write,
-/// the capture itself belongs to the main thread.
+/// Captures what the process writes to standard output from construction to destruction. It works on the file
+/// descriptor, so it includes libraries loaded later and child processes. One instance at a time, used on the main
+/// thread; any thread may write.
 class OutputCapture {
 public:
     OutputCapture();
@@ -13,13 +13,14 @@ public:
     OutputCapture(OutputCapture const&) = delete;
     OutputCapture& operator=(OutputCapture const&) = delete;
 
-    /// Everything printed since the last call, flushed first.
+    /// Flushes, and returns everything printed since the last call.
     std::string take();
 
-    /// What has reached the file descriptor since the last call: text that the writer did not flush is missing.
+    /// Returns what has reached the file descriptor since the last call, without what the writer has not flushed.
     std::string takeWritten();
 
-    /// Between these two the process writes to the real standard output. Does nothing while nothing is captured.
+    /// Between these two calls the process writes to the real standard output. They do nothing while nothing is
+    /// captured.
     static void suspend();
     static void resume();
 

@@ -59,7 +59,7 @@ QStringList QtMessages::complaints() const {
 }
 
 void QtMessages::receive(QtMsgType type, QMessageLogContext const& context, QString const& message) {
-    // The offscreen platform says so of every window and popup that is shown.
+    // The offscreen platform prints this for every window and popup that is shown.
     if (message.startsWith(QLatin1String("This plugin does not support "))) {
         return;
     }

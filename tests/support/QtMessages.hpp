@@ -5,8 +5,8 @@
 #include <QStringList>
 #include <vector>
 
-/// Collects Qt's warnings and worse from its construction to its destruction; information and debug messages go on to
-/// the handler that was there before. One at a time; messages may come from any thread.
+/// Collects Qt's warnings and errors from construction to destruction; information and debug messages go to the
+/// previous handler. One instance at a time; messages may come from any thread.
 class QtMessages {
 public:
     QtMessages();
@@ -14,13 +14,13 @@ public:
     QtMessages(QtMessages const&) = delete;
     QtMessages& operator=(QtMessages const&) = delete;
 
-    /// One message that contains a match of this pattern is wanted.
+    /// Requires one message that contains a match of the pattern.
     void expect(QRegularExpression const& pattern);
 
-    /// Messages that contain a match of this pattern may come, any number of them.
+    /// Permits any number of messages that contain a match of the pattern.
     void allow(QRegularExpression const& pattern);
 
-    /// One sentence for each message that nobody expected and each expected one that has not come.
+    /// One sentence for each unexpected message, and for each expected message that is missing.
     QStringList complaints() const;
 
 private:

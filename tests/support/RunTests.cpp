@@ -18,7 +18,7 @@ struct AfterPrinter : testing::EmptyTestEventListener {
 
 int runTests() {
     auto& tests = *testing::UnitTest::GetInstance();
-    // GoogleTest tells its listeners of a failure in the order in which they were added.
+    // GoogleTest notifies listeners of a failure in the order in which they were added, so add the printer last.
     auto& listeners = tests.listeners();
     auto* const printer = listeners.Release(listeners.default_result_printer());
     listeners.Append(new BeforePrinter);

@@ -1,5 +1,5 @@
 #pragma once
 
-/// Runs the tests that GoogleTest was told to run and gives the process's status: what GoogleTest says, and 1 if no
-/// test matched. Its messages reach the terminal also while a test's output is held back.
+/// Runs the tests that GoogleTest has selected and returns the exit status: GoogleTest's own, or 1 if no test was
+/// selected. Its messages reach the terminal even while the output of a test is captured.
 int runTests();

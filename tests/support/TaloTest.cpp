@@ -9,7 +9,7 @@ bool hasApplication() {
     return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
-// The widgets without a parent, save those that Qt makes for itself and keeps.
+// The widgets without a parent, except those that Qt creates for itself and keeps.
 std::vector<QWidget*> standingWidgets() {
     std::vector<QWidget*> standing;
     if (hasApplication()) {
@@ -45,7 +45,7 @@ TaloTest::TaloTest() {
     for (auto* const widget : standingWidgets()) {
         earlierWidgets_.emplace_back(widget);
     }
-    // Qt asks the display which window lies at a point, and the window manager may take one away meanwhile.
+    // Qt asks the display which window is at a point; the window manager may remove a window in the meantime.
     if (QGuiApplication::platformName() == QLatin1String("xcb"))
         allowQtWarning("XCB error: 3 \\(BadWindow\\).*TranslateCoords");
 }

@@ -10,41 +10,41 @@
 #include <string>
 #include <vector>
 
-/// The base of every test. A test fails if, beyond what it asserts, it leaves behind
+/// The base of every test. A test fails if, beyond its assertions, it leaves behind
 /// - a line on standard output that it did not take,
 /// - a warning or critical message of Qt that it did not expect, or an expected one that did not come,
 /// - a widget.
-/// This is looked at when the whole fixture is gone, members of derived fixtures included. The program is linked to
-/// talo_test_main or talo_test_main_without_application.
+/// This is checked after the destructors of derived fixtures have run. The program is linked to talo_test_main or
+/// talo_test_main_without_application.
 class TaloTest : public testing::Test {
 protected:
     TaloTest();
     ~TaloTest() override;
 
-    /// The lines printed so far, flushed first, without their newlines; they count as taken. An unfinished last line
-    /// is a line, too.
+    /// Flushes, and returns the lines printed since the last call, without their newlines. An unfinished last line
+    /// counts as a line.
     std::vector<std::string> takeOutput();
 
-    /// The text that has reached standard output so far, not flushed first, newlines included; it counts as taken.
+    /// Returns the text that has reached standard output since the last call, including newlines, without flushing.
     std::string takeWrittenOutput();
 
-    /// One warning or critical message of Qt that contains a match of this regular expression must come during the
-    /// test, before or after this call.
+    /// Requires one warning or critical message of Qt that contains a match of this regular expression during the test,
+    /// before or after this call.
     void expectQtWarning(std::string const& pattern);
 
-    /// Messages that contain a match of this regular expression may come during the test and are no failure, as those
-    /// that depend on when other programs do something.
+    /// Permits messages that contain a match of this regular expression, for example those that depend on the timing of
+    /// other programs.
     void allowQtWarning(std::string const& pattern);
 
 private:
     OutputCapture output_;
     QtMessages messages_;
-    // Left by earlier tests, which have failed for it.
+    // Widgets that earlier tests left; those tests have failed for it.
     std::vector<QPointer<QWidget>> earlierWidgets_;
 };
 
-/// Handles events until the condition, a call without arguments, holds; false if it still does not after this time,
-/// which is long, as a slow build on a busy machine takes its time.
+/// Processes events until the condition, a callable without arguments, returns true. Returns false on a timeout, which
+/// is long because slow builds on busy machines take their time.
 template <typename Condition>
 bool waitUntil(Condition&& condition, int milliseconds = 30000) {
     return QTest::qWaitFor(std::forward<Condition>(condition), milliseconds);

@@ -93,7 +93,7 @@ TEST_F(MemberOfDerivedFixture, IsNoSurvivingWidget) {
     EXPECT_EQ(QApplication::topLevelWidgets().count(&label_), 1);
 }
 
-// The rules, each broken by a fixture made inside a plain test.
+// A fixture that a plain test constructs in order to break a rule.
 class Guarded : public TaloTest {
 public:
     void TestBody() override {}

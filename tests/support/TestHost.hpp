@@ -8,14 +8,14 @@
 #include <lattice/UndoHistory.hpp>
 #include <sorrel/InputFrontEnd.hpp>
 
-/// A pool source whose pool a test switches.
+/// A pool source whose pool the test chooses.
 class TestPools : public Kolt::ValuePoolSource {
 public:
     TestPools() : provider_(new Provider) {}
     Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override { return provider_; }
 
     void use(Kolt::PoolPtr const& pool) { provider_->pool = pool; }
-    /// From now on there is no provider at all.
+    /// Removes the provider.
     void dropProvider() { provider_.reset(); }
 
 private:
@@ -26,7 +26,7 @@ private:
     Tessera::StrongPtr<Provider, Kolt::ValuePoolProvider> provider_;
 };
 
-/// Hears of a parameter's changes as any other part of a host does.
+/// Records a parameter's notifications, as any other part of a host receives them.
 class RecordingNotifier : public Kolt::ValueNotifier {
 public:
     void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
@@ -41,15 +41,16 @@ public:
             reaction();
     }
 
-    /// The text of each value that was told, and the pool of each change; property changes are counted apart.
+    /// The text of each notified value, and the pool of each notification; notifications of properties are only
+    /// counted.
     std::vector<std::string> values;
     std::vector<Kolt::PoolPtr> pools;
     int propertyChanges = 0;
-    /// What else happens each time.
+    /// Called for each notification.
     std::function<void()> reaction;
 };
 
-/// A small host around the built plug-in file: it is loaded before each test and must let itself be unloaded after it.
+/// A small host that loads the built plug-in file before each test; after the test the file must unload.
 class PluginTest : public TaloTest {
 protected:
     static constexpr char const* missingOwnerLine =
@@ -68,7 +69,7 @@ protected:
 
     void TearDown() override {
         delete parent;
-        // What a test gave to deleteLater goes before its code does.
+        // Objects passed to deleteLater must be deleted before their code is unloaded.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Kolt::UndoHistory::theHistory().forget([](auto const&) { return true; });
         auto const outcome = loader.unload(TALO_PLUGIN_FILE);
@@ -76,7 +77,7 @@ protected:
         TaloTest::TearDown();
     }
 
-    /// A parameter with a value, its preferences and its way of keeping values.
+    /// A parameter with a value, preferences, and one value for all pools or one for each.
     static Kolt::ParameterPtr makeParameter(std::string const& name, Kolt::ValuePtr const& value,
                                             std::vector<std::string> const& preferences = {},
                                             Kolt::VParameter::Values values = Kolt::VParameter::Values::Shared,
@@ -96,7 +97,7 @@ protected:
         return editor;
     }
 
-    /// The Qt side of a registered creator, by value type and creator name; the first that has all of the preferences.
+    /// The Qt interface of the first registered creator with this value type and name, and with all of the preferences.
     static Tessera::StrongPtr<Kolt::QInputCreator, Tessera::InterfaceBase>
     qtCreator(std::string const& valueType, std::string const& name, std::vector<std::string> const& preferences = {}) {
         for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {

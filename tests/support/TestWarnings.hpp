@@ -4,7 +4,7 @@
 
 #include <lattice/ActionNotifier.hpp>
 
-/// Hears of the host's warnings.
+/// Records the host's warnings.
 class RecordedWarnings : public Kolt::VActionNotifier {
 public:
     void onWarning(std::string const& text) override { texts.push_back(text); }

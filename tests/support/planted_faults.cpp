@@ -4,7 +4,7 @@
 
 namespace {
 
-// Every test in here must fail; the sound one shows that a fault is not laid at the next test's door.
+// Every test here must fail, except the last, which shows that faults are not blamed on the next test.
 class Planted : public TaloTest {};
 
 TEST_F(Planted, Line) {

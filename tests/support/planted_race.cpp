@@ -1,7 +1,7 @@
 #include <cstdio>
 #include <thread>
 
-// Two threads without a lock: the thread sanitizer must report them.
+// Two threads that write without a lock: the thread sanitizer must report them.
 int main() {
     static int count = 0;
     auto const increase = [] {

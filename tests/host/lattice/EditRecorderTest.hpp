@@ -7,7 +7,7 @@
 #include <lattice/Input.hpp>
 #include <lattice/UndoHistory.hpp>
 
-/// An input as the history sees one: a source of changes.
+/// The part of an input that the history uses: a source of changes.
 class SmallInput : public Kolt::VInputBase {
 public:
     using Kolt::VInputBase::VInputBase;
@@ -27,7 +27,7 @@ public:
     std::function<void()> answer;
 };
 
-/// Takes an edit back as the record of an integer's input does: through the input, which may be gone.
+/// Undoes an edit as an integer editor's record does: through the input, which may be gone.
 class SmallRecord : public Kolt::VUndoAction {
 public:
     SmallRecord(Tessera::WeakPtr<SmallInput, Kolt::ValueNotifier> const& input, int previous, int& undone)
@@ -73,7 +73,7 @@ protected:
     Kolt::PoolPtr const final = Kolt::PoolPtr(new Kolt::ValuePool("final"));
 };
 
-/// An int with an input, watched.
+/// A watched int parameter with an input.
 class WatchedInt : public EditRecorderTest {
 protected:
     void SetUp() override {

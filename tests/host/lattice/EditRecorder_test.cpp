@@ -12,7 +12,7 @@ using testing::SizeIs;
 
 } // namespace
 
-TEST_F(WatchedInt, AnEditIsAStepThatGoesBackAndForth) {
+TEST_F(WatchedInt, AnEditIsAStepThatCanBeUndoneAndRedone) {
     EXPECT_TRUE(parameter->isWatched());
     EXPECT_TRUE(input.edit(5, nullptr));
     EXPECT_THAT(names(), ElementsAre("p: 1 → 5"));
@@ -113,10 +113,10 @@ TEST_F(WatchedInt, AllEditsOfAGestureAreOneStep) {
     EXPECT_EQ(text(parameter), "1");
 }
 
-TEST_F(WatchedInt, TheListenerMayEndTheParameterWhileItsEditIsTold) {
+TEST_F(WatchedInt, TheListenerMayDestroyTheParameterWhileItsEditIsNotified) {
     WeakPtr<VParameter, ValueNotifierList> const weak(parameter);
     auto const connection = history.addListener([&] { parameter.reset(); });
-    // Nobody else holds the parameter while it tells.
+    // Only `parameter` owns the object, so that the listener destroys it during the notification.
     auto* const raw = parameter.get();
     auto const value = raw->ownValue();
     dynamic_cast<VValue<int>&>(*value).set(6);
@@ -166,7 +166,7 @@ TEST_F(WatchedInt, ACommandOfTheHostIsAStep) {
     EXPECT_EQ(text(parameter), "1");
 }
 
-TEST_F(EditRecorderTest, AStepGoesBackInThePoolOfTheEdit) {
+TEST_F(EditRecorderTest, AStepIsUndoneInThePoolOfTheEdit) {
     auto const parameter = makeParameter(1, VParameter::Values::PerPool);
     parameter->setLocalValue(draft, makeValue(2));
     SmallInput input{parameter};
@@ -186,7 +186,7 @@ TEST_F(EditRecorderTest, AStepGoesBackInThePoolOfTheEdit) {
     EXPECT_EQ(parameter->ownValue()->Text(), "1");
 }
 
-TEST_F(EditRecorderTest, AnEditThatOnlyCopiesTheOwnValueIntoThePoolGoesBackWithTheNextStep) {
+TEST_F(EditRecorderTest, AnEditThatOnlyCopiesTheOwnValueIntoThePoolIsUndoneWithTheNextStep) {
     auto const parameter = makeParameter(1, VParameter::Values::PerPool);
     SmallInput input{parameter};
     auto const recorder = EditRecorder::watch(parameter);
@@ -219,7 +219,7 @@ TEST_F(EditRecorderTest, AGestureThatEndsWhereItBeganLeavesNoCopyInThePool) {
     EXPECT_TRUE(history.undo());
     EXPECT_EQ(parameter->getLocalValue(draft, std::string(), false), nullptr);
 
-    // What the host writes meanwhile stays.
+    // What the host writes during a gesture is kept.
     history.beginMacro();
     input.edit(5, draft);
     input.edit(1, draft);

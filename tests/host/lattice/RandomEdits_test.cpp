@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 } // namespace
 
-/// Edits three parameters at random, in both pools, and takes steps back and makes them again.
+/// Edits three parameters at random, in both pools, and undoes and redoes steps.
 class RandomEdits : public EditRecorderTest {
 protected:
     RandomEdits() {
@@ -63,7 +63,7 @@ private:
         list->select(list->at(static_cast<std::size_t>(upTo(3))));
         inputs_[2]->edit(list, pool);
     }
-    // As an editor that makes its own undo record.
+    // Edits like an editor that records its own undo command.
     void editWithRecord(PoolPtr const& pool) {
         int const next = upTo(4);
         int const previous = valueOr(parameters_[0]->ownValue(), 0);
@@ -80,11 +80,11 @@ private:
     std::mt19937 random_{20230329};
 };
 
-TEST_F(RandomEdits, GoBackToTheStartAndForthAgain) {
+TEST_F(RandomEdits, CanAllBeUndoneAndRedone) {
     auto const start = state();
     for (int count = 0; count < 20000; ++count) {
         step();
-        // Often enough that the history never forgets a step.
+        // Check often, so that the history never drops a step.
         if (count % 200 != 0)
             continue;
         ASSERT_LT(history.steps().size(), UndoHistory::Capacity);

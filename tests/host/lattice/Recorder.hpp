@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-/// A notifier that writes down what it is told, and does what the test wants meanwhile.
+/// A notifier that records its notifications and then calls a function of the test.
 struct Recorder : Kolt::ValueNotifier {
     explicit Recorder(std::string recorderName = {}, std::vector<std::string>* tellings = nullptr)
         : name(std::move(recorderName)), log(tellings) {}

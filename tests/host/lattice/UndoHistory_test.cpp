@@ -42,7 +42,7 @@ protected:
     std::vector<std::string> undone_;
 };
 
-TEST_F(Undo, TakesTheLatestStepBackFirst) {
+TEST_F(Undo, TheLatestStepIsUndoneFirst) {
     history_.add(step("a"));
     history_.add(step("b"));
     EXPECT_THAT(names(), ElementsAre("a", "b"));
@@ -61,14 +61,14 @@ TEST_F(Undo, AParameterThatIsAttachedToNoneUsesTheHistoryOfTheProcess) {
     UndoHistory::theHistory().clear();
 }
 
-TEST_F(Undo, AStepThatCanNoLongerBeTakenBackIsForgotten) {
+TEST_F(Undo, AStepThatCanNoLongerBeUndoneIsForgotten) {
     history_.add(step("a"));
     history_.add(step("gone", false));
     EXPECT_FALSE(history_.undo());
     EXPECT_THAT(names(), ElementsAre("a"));
 }
 
-TEST_F(Undo, StepsRecordedWhileOneIsTakenBackAreKept) {
+TEST_F(Undo, StepsRecordedDuringAnUndoAreKept) {
     auto* const first = new Step("first", undone_);
     first->during = [&] { history_.add(step("recorded")); };
     history_.add(StrongPtr<VUndoAction>(first));
@@ -116,7 +116,7 @@ TEST_F(Undo, AFullHistoryForgetsItsOldestStep) {
     EXPECT_EQ(names().back(), "one more");
 }
 
-TEST_F(Undo, ForgetsWhatItIsToldTo) {
+TEST_F(Undo, ForgetsStepsThatMatchACondition) {
     for (auto const* const name : {"a", "b", "c"})
         history_.add(step(name));
     history_.forget([](VUndoAction const& action) { return action.description() == "b"; });
@@ -217,7 +217,7 @@ TEST_F(Undo, ForgetsInEveryLivingHistory) {
         history->add(step("gone"));
         history->add(step("kept"));
     }
-    // A listener may destroy a history that is not reached yet.
+    // A listener may destroy a history that has not been processed yet.
     auto brief = std::make_unique<UndoHistory>();
     auto const connection = other.addListener([&] { brief.reset(); });
     UndoHistory::forgetEverywhere([](VUndoAction const& action) { return action.description() == "gone"; });

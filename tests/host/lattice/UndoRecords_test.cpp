@@ -37,7 +37,7 @@ TEST_F(WatchedInt, OfTheRecordsOfAGestureOnlyTheOldestIsRun) {
     EXPECT_EQ(text(parameter), "4");
 }
 
-TEST_F(WatchedInt, AStepWhoseRecordsAreForgottenIsTakenBackByItsChange) {
+TEST_F(WatchedInt, AStepWhoseRecordsAreForgottenIsUndoneByItsChange) {
     editRecorded(2);
     history.add(StrongPtr<VUndoAction>(new SmallRecord(WeakPtr<SmallInput, ValueNotifier>(&input), 1, recordsUndone)));
     history.forget([](VUndoAction const&) { return true; });

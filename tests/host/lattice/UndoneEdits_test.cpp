@@ -9,7 +9,7 @@ using testing::SizeIs;
 
 } // namespace
 
-TEST_F(WatchedInt, AGestureThatEndsWhereItBeganIsNoStepAndKeepsWhatCanBeMadeAgain) {
+TEST_F(WatchedInt, AGestureThatEndsWhereItBeganIsNoStepAndKeepsTheUndoneSteps) {
     input.edit(5, nullptr);
     history.undo();
     history.beginMacro();
@@ -45,7 +45,7 @@ TEST_F(WatchedInt, AStepOfAParameterThatIsGoneSaysSoAndIsDropped) {
     EXPECT_FALSE(history.redo());
 }
 
-TEST_F(WatchedInt, ANewStepForgetsWhatWasTakenBack) {
+TEST_F(WatchedInt, ANewStepForgetsTheUndoneSteps) {
     input.edit(2, nullptr);
     history.undo();
     input.edit(3, nullptr);
@@ -118,7 +118,7 @@ TEST_F(WatchedInt, AStepRecordedDuringRedoForgetsWhatCouldBeRedoneNext) {
     EXPECT_EQ(text(parameter), "2");
 }
 
-TEST_F(WatchedInt, UndoneStepsAreListedInTheOrderInWhichTheyAreMadeAgain) {
+TEST_F(WatchedInt, UndoneStepsAreListedInTheOrderOfRedo) {
     for (int const value : {2, 3, 4})
         input.edit(value, nullptr);
     history.undo();

@@ -39,7 +39,7 @@ PreferencesPtr set(Names const& names) {
     return PreferencesPtr(new VCreationPreferences(names));
 }
 
-/// Writes down what the host hears of registrations.
+/// Records the registrations that the host observes.
 struct Observer : Kolt::HostObserver {
     Observer() { setObserver(this); }
     ~Observer() override { setObserver(nullptr); }
@@ -166,7 +166,7 @@ TEST_F(Registry, OneCreatorMayServeSeveralTypes) {
     unregisterVInput(typeid(int), CreatorRef(&creator));
 }
 
-TEST_F(Registry, AnAdoptedCreatorIsTakenBackToo) {
+TEST_F(Registry, AnAdoptedCreatorIsUnregisteredToo) {
     {
         Tessera::StrongPtr<Creator, Kolt::VManagedObjectBase> const creator(new Creator("shape", 0, nullptr, ApiKey));
         EXPECT_THAT(names(), ElementsAre("Sample::Shape shape"));
@@ -189,7 +189,7 @@ TEST_F(Registry, CallsOfPluginsReachTheObserver) {
     EXPECT_THAT(observer_.events, ElementsAre("called 0 sample TALO_API_VERSION", "called 3  "));
 }
 
-TEST_F(Registry, WithoutAnObserverNobodyIsToldAndNothingBreaks) {
+TEST_F(Registry, WithoutAnObserverRegistrationStillWorks) {
     Kolt::HostObserver::setObserver(nullptr);
     {
         Creator const creator("shape", 0, nullptr, ApiKey);

@@ -35,7 +35,7 @@ class Notifications : public TaloTest {
 protected:
     static ParameterPtr numbered(char const* name) { return ParameterPtr(new VParameter(name, makeValue(0))); }
 
-    /// A notifier waits here until another thread has come as far, or no longer than this.
+    /// A notifier waits here until another thread has arrived, at most two seconds.
     struct Meeting {
         void come() {
             if (++arrived == 2)
@@ -55,7 +55,7 @@ TEST_F(Notifications, OfTwoWorkersThatNotifyEachOthersParameterDoNotBlock) {
     Meeting meeting;
     std::atomic<int> firstSeen{0};
     std::atomic<int> secondSeen{0};
-    // Each worker is in one notifier when it notifies the other one.
+    // Each worker is inside one notifier when it notifies the other one.
     Calling first([&](int number) {
         firstSeen = number;
         if (number == 1) {
@@ -83,7 +83,7 @@ TEST_F(Notifications, OfTwoWorkersThatNotifyEachOthersParameterDoNotBlock) {
 TEST_F(Notifications, ToOneNotifierExcludeEachOther) {
     std::atomic<int> inside{0};
     std::atomic<int> together{0};
-    int last = 0; // guarded by nothing but the exclusion
+    int last = 0; // guarded only by the exclusion
     Calling notifier([&](int number) {
         if (++inside > 1)
             ++together;

@@ -59,7 +59,7 @@ TEST_F(Notification, LeavesTheSourceOut) {
     EXPECT_THAT(log_, ElementsAre("a", "c"));
 }
 
-TEST_F(Notification, ANotifierAddedTwiceIsToldOnce) {
+TEST_F(Notification, ANotifierAddedTwiceIsNotifiedOnce) {
     listen({&a_, &b_, &a_});
     EXPECT_EQ(parameter_->size(), 2U);
     notify();
@@ -79,7 +79,7 @@ TEST_F(Notification, EmptyAndDeadNotifiersAreNotAdded) {
     EXPECT_THAT(log_, IsEmpty());
 }
 
-TEST_F(Notification, ANotifierThatDiesLeavesByItself) {
+TEST_F(Notification, ANotifierThatDiesIsRemoved) {
     auto passing = std::make_unique<Recorder>("passing", &log_);
     listen({&a_, passing.get(), &b_});
     EXPECT_EQ(parameter_->size(), 3U);
@@ -89,7 +89,7 @@ TEST_F(Notification, ANotifierThatDiesLeavesByItself) {
     EXPECT_THAT(log_, ElementsAre("a", "b"));
 }
 
-TEST_F(Notification, FurtherListFollowsWithThoseNotToldYet) {
+TEST_F(Notification, TheSecondListFollowsWithThoseNotNotifiedYet) {
     listen({&a_, &b_});
     ValueNotifierList further;
     for (auto* const notifier : {&c_, &b_})
@@ -98,7 +98,7 @@ TEST_F(Notification, FurtherListFollowsWithThoseNotToldYet) {
     EXPECT_THAT(log_, ElementsAre("a", "b", "c"));
 }
 
-TEST_F(Notification, TheSourceIsToldWhereItStandsInTheFurtherList) {
+TEST_F(Notification, TheSourceIsNotifiedIfItIsInTheSecondList) {
     listen({&a_, &b_});
     ValueNotifierList further;
     further.addNotifier(a_.ref());
@@ -117,7 +117,7 @@ TEST_F(Notification, WalksACopyOfTheList) {
     EXPECT_THAT(log_, ElementsAre("a", "b", "c"));
 }
 
-TEST_F(Notification, LeavesOutWhoDiesMeanwhile) {
+TEST_F(Notification, LeavesOutNotifiersThatDieMeanwhile) {
     auto victim = std::make_unique<Recorder>("victim", &log_);
     auto furtherVictim = std::make_unique<Recorder>("further victim", &log_);
     listen({&a_, victim.get(), &b_});

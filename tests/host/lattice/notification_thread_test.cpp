@@ -31,7 +31,7 @@ CountingThread& thread() {
     return *thread;
 }
 
-/// Writes down what it sees when it is notified, and where.
+/// Records the content and the thread of each notification.
 struct Seeing : ValueNotifier {
     ~Seeing() override { stopNotifications(); }
     void onValueChange(ValuePtr const& value, Kolt::VContext const& context,
@@ -155,7 +155,7 @@ TEST_F(NotificationThreads, DeliverToOneNotifierAtLeastAndAskForMoreTime) {
     EXPECT_THAT(other.numbers, testing::ElementsAre(1));
 }
 
-TEST_F(NotificationThreads, LeaveReportsToTheWorkerWhenTheyAreGone) {
+TEST_F(NotificationThreads, AfterTheirRemovalLeaveReportsToTheWorker) {
     NotificationThread::install(nullptr);
     onWorker([&] { set(1); });
     EXPECT_THAT(notifier_.numbers, testing::ElementsAre(1));

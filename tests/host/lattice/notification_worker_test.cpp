@@ -14,7 +14,7 @@ using Kolt::VParameter;
 using Kolt::VValue;
 using Tessera::StrongPtr;
 
-/// Leaves the delivery first thing, so that no worker finds it half destroyed.
+/// Calls stopNotifications() first in its destructor, so that no worker notifies a half-destroyed object.
 struct Leaving : ValueNotifier {
     explicit Leaving(std::atomic<int>& deliveries) : deliveries_(deliveries), text_("alive") {}
     ~Leaving() override { stopNotifications(); }
@@ -37,7 +37,7 @@ protected:
     std::atomic<int> deliveries_{0};
 };
 
-TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerTellsIt) {
+TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerNotifiesIt) {
     std::atomic<bool> stop{false};
     std::thread worker([&] {
         int round = 0;
@@ -48,7 +48,7 @@ TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerTellsIt) {
         auto notifier = std::make_unique<Leaving>(deliveries_);
         int const before = deliveries_;
         parameter_->addNotifier(Tessera::WeakPtr<ValueNotifier>(notifier.get()));
-        // Destroyed while deliveries are certainly under way.
+        // Destroy it while deliveries are certainly running.
         while (deliveries_ == before)
             std::this_thread::yield();
         notifier.reset();
@@ -59,7 +59,7 @@ TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerTellsIt) {
     EXPECT_EQ(parameter_->size(), 0U);
 }
 
-TEST_F(NotificationByWorkers, NobodyIsToldAfterLeaving) {
+TEST_F(NotificationByWorkers, NobodyIsNotifiedAfterStopping) {
     Leaving notifier(deliveries_);
     parameter_->addNotifier(Tessera::WeakPtr<ValueNotifier>(&notifier));
     std::thread([&] {
@@ -73,7 +73,7 @@ TEST_F(NotificationByWorkers, NobodyIsToldAfterLeaving) {
     EXPECT_EQ(deliveries_, 1);
 }
 
-TEST_F(NotificationByWorkers, WorkersMayExtendAListThatIsBeingTold) {
+TEST_F(NotificationByWorkers, WorkersMayExtendAListThatIsBeingNotified) {
     std::thread adding([&] {
         for (int round = 0; round < 200; ++round) {
             Leaving notifier(deliveries_);

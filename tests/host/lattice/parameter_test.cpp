@@ -111,7 +111,7 @@ TEST_F(Parameters, APoolsValueCanBeTakenAway) {
     EXPECT_EQ(number(shared_->ownValue()), 5);
 }
 
-TEST_F(Parameters, TheValueOfADeadPoolGoesToNoLaterOne) {
+TEST_F(Parameters, ALaterPoolDoesNotGetTheValueOfADeadOne) {
     for (int round = 0; round < 20; ++round) {
         StrongPtr<ValuePool> const passing(new ValuePool);
         EXPECT_FALSE(perPool_->getLocalValue(passing, "", false));
@@ -167,7 +167,7 @@ struct FixedProvider : Kolt::ValuePoolProvider {
     StrongPtr<ValuePool> pool;
 };
 
-TEST_F(Parameters, TheCurrentPoolIsAskedAnewAndNullWhereALinkIsMissing) {
+TEST_F(Parameters, TheCurrentPoolIsReadEachTimeAndNullWhereALinkIsMissing) {
     EXPECT_FALSE(currentPool(static_cast<Kolt::ValuePoolSource*>(nullptr)));
     FixedSource source;
     EXPECT_FALSE(currentPool(&source));

@@ -65,7 +65,7 @@ TEST_F(PluginLoading, TheExportIsNamedAfterTheFile) {
     EXPECT_EQ(PluginLoader::exportName("plain"), "TALO_API_2023_MAR_29__plain");
 }
 
-TEST_F(PluginLoading, AMissingFileIsToldWithTheSystemsReason) {
+TEST_F(PluginLoading, AMissingFileIsReportedWithTheSystemsReason) {
     auto const file = (folder_ / "missing.talo").string();
     auto const outcome = loader_.load(file);
     EXPECT_FALSE(outcome.ok);
@@ -105,7 +105,7 @@ TEST_F(PluginLoading, ABareNameIsNotSearchedForInTheSystemsFolders) {
     EXPECT_THAT(outcome.message, StartsWith("Cannot open the plug-in libm.so.6: "));
 }
 
-TEST_F(PluginLoading, ALibraryWithoutTheExportIsToldAndClosed) {
+TEST_F(PluginLoading, ALibraryWithoutTheExportIsReportedAndClosed) {
     std::string const file = TALO_NO_EXPORT_PLUGIN;
     EXPECT_THAT(
         loader_.load(file).message,
@@ -115,7 +115,7 @@ TEST_F(PluginLoading, ALibraryWithoutTheExportIsToldAndClosed) {
 }
 
 TEST_F(PluginLoading, ARenamedFileLacksItsExport) {
-    // Beside the first, as a file finds its libraries from where it stands.
+    // In the folder of the first file, from which a plug-in finds its libraries.
     auto const file = fs::path(sample_).parent_path() / "renamed.talo";
     fs::copy_file(sample_, file, fs::copy_options::overwrite_existing);
     EXPECT_THAT(loader_.load(file.string()).message,
@@ -248,7 +248,8 @@ TEST_F(PluginLoading, TheLoaderLeavesAFileWhoseEditorsLiveWhenItGoes) {
     }
     EXPECT_TRUE(isMapped(sample_));
     editor.reset();
-    // The abandoned handle keeps the file until it is given back here, so that the next test starts afresh.
+    // The loader abandoned its handle, which keeps the file loaded. Close it here, so that the next test starts without
+    // the file.
     void* const handle = dlopen(sample_.c_str(), RTLD_LAZY | RTLD_NOLOAD);
     ASSERT_NE(handle, nullptr);
     dlclose(handle);

@@ -14,7 +14,8 @@ using Kolt::ValuePool;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Numbers of other kinds and texts that are no std::string do not compile.
+// Only these compile: writes that lose no information and do not mix bools, numbers and texts; and parameters of the
+// types bool, int, double and std::string.
 static_assert(IsWritableTo<double, int> && IsWritableTo<double, float> && IsWritableTo<double, unsigned>);
 static_assert(!IsWritableTo<double, long> && !IsWritableTo<double, bool> && !IsWritableTo<double, long double>);
 static_assert(IsWritableTo<int, int> && IsWritableTo<int, short>);

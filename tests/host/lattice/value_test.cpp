@@ -18,7 +18,7 @@ using OneText = std::array<std::string, 1>;
 
 class Values : public TaloTest {
 protected:
-    /// Whether the text is read, and leaves the value alone where it is not.
+    /// Whether the text can be read; one that cannot must leave the value unchanged.
     template <typename T>
     static bool reads(std::string const& text, T const& before) {
         auto value = before;
@@ -182,7 +182,7 @@ TEST_F(Values, AreCopiedOnceWhereTheyAreAskedFor) {
     EXPECT_EQ(CountingText::copies, 2);
 }
 
-/// A text whose every operation uses a value object again.
+/// A number that uses its value object again in every operation.
 struct ReachingBack {
     ReachingBack() = default;
     ReachingBack(ReachingBack const& other) : number(other.number) { reach(); }
@@ -235,7 +235,7 @@ TEST_F(Values, AreUsedAgainByWhatTheyContain) {
     ReachingBack::target = nullptr;
 }
 
-/// A value that is computed elsewhere: sometimes it cannot be had, and it takes only positive numbers.
+/// A value that is computed on access: it may be unavailable, and it accepts only positive numbers.
 struct Computed : Kolt::VTypedValueBase<int> {
     bool get(int& out) const override {
         if (available)

@@ -9,7 +9,7 @@ struct Shape {
     bool operator==(Shape const& other) const { return corners == other.corners; }
 };
 
-/// An editor that writes down what it is handed.
+/// An editor that records the values that it is given.
 class ShapeEditor : public QLabel, public Kolt::VInputBase {
 public:
     ShapeEditor(Kolt::ParameterRef const& parameter, QWidget* parent, Kolt::ValuePoolSource* poolSource)

@@ -32,7 +32,7 @@ TEST_F(LeaveLineEdit, ShowsAndRemembersAText) {
     EXPECT_EQ(edit_.rememberedText(), "12");
 }
 
-TEST_F(LeaveLineEdit, ShowsTheRememberedTextAgainToWhoeverLeavesItByTabulator) {
+TEST_F(LeaveLineEdit, LeavingByTabRestoresTheRememberedText) {
     QTest::keyClicks(&edit_, "345");
     EXPECT_EQ(edit_.text(), "345");
     EXPECT_EQ(edit_.rememberedText(), "12") << "what is typed does not count until it is shown";
@@ -41,7 +41,7 @@ TEST_F(LeaveLineEdit, ShowsTheRememberedTextAgainToWhoeverLeavesItByTabulator) {
     EXPECT_EQ(edit_.text(), "12");
 }
 
-TEST_F(LeaveLineEdit, ShowsTheRememberedTextAgainToWhoeverLeavesItByMouse) {
+TEST_F(LeaveLineEdit, LeavingByMouseRestoresTheRememberedText) {
     QTest::keyClicks(&edit_, "345");
     other_.setFocus(Qt::MouseFocusReason);
     EXPECT_EQ(edit_.text(), "12");

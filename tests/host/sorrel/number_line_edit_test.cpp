@@ -10,7 +10,7 @@ namespace {
 
 using Kolt::QLeaveLineEdit;
 
-/// A field that shows "12" and takes over what Return brings.
+/// A field that shows "12". On Return the test records the text and accepts it, except "13".
 class NumberLineEdit : public TaloTest {
 protected:
     NumberLineEdit() {

@@ -9,7 +9,7 @@ namespace {
 using Kolt::makeEditor;
 using Kolt::makeValue;
 
-/// A window of a natural host: its pool source is a member, and so is destroyed before the window's children.
+/// The window of a typical host: its pool source is a member, so it is destroyed before the window's children.
 class Window : public QWidget {
 public:
     Window() { pools.use(Kolt::PoolPtr(new Kolt::ValuePool("pool"))); }

@@ -16,14 +16,15 @@ using Kolt::ValuePtr;
 using Kolt::VObjectStatus;
 using Values = Kolt::VParameter::Values;
 
-/// What this thread has computed, in milliseconds: other programs on the machine add nothing to it.
+/// The processor time of this thread in milliseconds, which other programs on the machine do not affect.
 qint64 computed() {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return time.tv_sec * 1000 + time.tv_nsec / 1'000'000;
 }
 
-/// The longest time that this thread computed between two ticks of the event loop, and the most memory meanwhile.
+/// Measures the longest processor time of this thread between two ticks of the event loop, and the growth of its
+/// memory.
 class LoopWatch {
 public:
     LoopWatch() {
@@ -47,7 +48,7 @@ private:
     std::size_t mostMemory_ = startMemory_;
 };
 
-/// A status display of the plug-in in a small host, and workers that report.
+/// A status display of the plug-in in a small host, and worker threads that report to it.
 class WorkerReports : public PluginTest {
 protected:
     ParameterPtr status(Values values = Values::Shared) {

@@ -22,7 +22,7 @@ struct Counted : ReferenceBase<Counted> {
     int* deaths_;
 };
 
-/// Reaches its counters through a virtual base.
+/// Has its reference counters in a virtual base.
 struct Left : virtual ReferenceBase<Left> {};
 struct Both : Left {
     int number = 3;
@@ -126,7 +126,7 @@ TEST_F(References, AMovedReferenceTakesItsCountAlong) {
     EXPECT_EQ(deaths_, 0);
 }
 
-TEST_F(References, EveryCopyTakesANumber) {
+TEST_F(References, EveryCopyGetsItsOwnNumber) {
     auto const start = PointerID.load();
     StrongPtr<Counted> const first(new Counted);
     EXPECT_EQ(first.id(), start + 1);
@@ -256,7 +256,7 @@ TEST_F(References, AReferenceHookThatTakesAndDropsAReferenceDeletesTheObjectOnce
     struct Looking : Counted {
         Looking(int* deaths, int& hooks) : Counted(deaths), hooks_(hooks) {}
         void referenceHook() override {
-            // Not again for each reference that the hook itself drops.
+            // Stops the recursion if dropping a reference in the hook calls the hook again.
             if (++hooks_ > 3)
                 return;
             StrongPtr<Counted>(this).reset();

@@ -1,4 +1,4 @@
-// A library that loads well and is no plug-in.
+// A library that can be loaded but is no plug-in.
 static int volatile loads = 0;
 
 [[gnu::constructor]] static void load() {
