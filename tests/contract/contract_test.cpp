@@ -99,6 +99,17 @@ TEST_P(EditorContract, OpeningShowsTheValueAndWritesNothing) {
     }
 }
 
+TEST_P(EditorContract, NothingIsDeliveredBeforeTheEditorIsMade) {
+    auto const parameter = parameterWith(0);
+    RecordingNotifier recorder;
+    std::vector<std::size_t> listening;
+    recorder.reaction = [&] { listening.push_back(parameter->size()); };
+    parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
+    auto const editor = open(parameter);
+    EXPECT_EQ(listening, std::vector<std::size_t>(editorCase().addedProperties.size(), 1U)) << "the recorder alone";
+    EXPECT_EQ(parameter->size(), 2U);
+}
+
 TEST_P(EditorContract, AChangeFromElsewhereIsShownAndNotSentBack) {
     auto const parameter = parameterWith(0);
     auto const editor = open(parameter);
@@ -253,13 +264,14 @@ TEST_P(WritingContract, AnEditIsStoredNotifiedOnceAndStamped) {
     RecordingNotifier recorder;
     parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
     auto const editor = open(parameter);
+    auto const time = Tessera::Ageable::GlobalTime.load();
     edit(editor);
     EXPECT_NE(parameter->ownValue()->Text(), before);
     expectShown(editor, *parameter->ownValue());
     EXPECT_EQ(recorder.values.size(), static_cast<std::size_t>(editorCase().notifications));
     EXPECT_EQ(recorder.values.back(), parameter->ownValue()->Text());
     EXPECT_EQ(recorder.pools.back(), firstPool);
-    EXPECT_EQ(parameter->ownValue()->age(), Tessera::Ageable::GlobalTime.load());
+    EXPECT_TRUE(isStampedAfter(time, *parameter->ownValue()));
     EXPECT_TRUE(printed().empty());
     EXPECT_TRUE(warnings.texts.empty());
 }
