@@ -36,13 +36,10 @@ struct EditorCase {
     std::function<void(QWidget&)> edit;
     /// Whether an edit writes a value; a button that fires an action does not.
     bool writes = true;
-    /// How often an edit notifies, with one editor and with two on one parameter.
-    int notifications = 1;
+    /// How often an edit notifies with two editors on one parameter. With one it notifies once.
     int notificationsWithTwoEditors = 1;
     /// Whether an edit has changed the value's object already when the store is refused.
     bool changesInPlace = false;
-    /// Whether the edit of a parameter that is gone prints the owner-fault line, which it then does once.
-    bool reportsMissingOwner = true;
     /// Whether an editor that was opened for a parameter that is gone has anything to edit; one without entries has
     /// not.
     bool editableWithoutOwner = true;

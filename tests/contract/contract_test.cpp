@@ -50,7 +50,7 @@ protected:
     };
 
     void TearDown() override {
-        printed();
+        EXPECT_TRUE(printed().empty()) << "an unexpected line";
         PluginTest::TearDown();
     }
 };
@@ -162,9 +162,8 @@ TEST_P(EditorContract, AnEditorForAParameterThatIsGoneOpens) {
     if (!editorCase().edit)
         return;
     editorCase().edit(*made.first);
-    if (editorCase().reportsMissingOwner && editorCase().editableWithoutOwner) {
-        EXPECT_EQ(printed(), std::vector<std::string>{missingOwnerLine});
-    }
+    EXPECT_EQ(printed(), editorCase().editableWithoutOwner ? std::vector<std::string>{missingOwnerLine}
+                                                           : std::vector<std::string>());
 }
 
 TEST_P(EditorContract, EachPoolShowsItsOwnValue) {
@@ -250,8 +249,7 @@ TEST_P(EditableContract, AParameterThatWentIsReportedOnceForEachEdit) {
     auto const editor = open(parameter);
     parameter.reset();
     edit(editor);
-    auto const expected =
-        editorCase().reportsMissingOwner ? std::vector<std::string>{missingOwnerLine} : std::vector<std::string>();
+    std::vector<std::string> const expected{missingOwnerLine};
     EXPECT_EQ(printed(), expected);
     pools.use(nullptr);
     edit(editor);
@@ -268,7 +266,7 @@ TEST_P(WritingContract, AnEditIsStoredNotifiedOnceAndStamped) {
     edit(editor);
     EXPECT_NE(parameter->ownValue()->Text(), before);
     expectShown(editor, *parameter->ownValue());
-    EXPECT_EQ(recorder.values.size(), static_cast<std::size_t>(editorCase().notifications));
+    ASSERT_EQ(recorder.values.size(), 1U);
     EXPECT_EQ(recorder.values.back(), parameter->ownValue()->Text());
     EXPECT_EQ(recorder.pools.back(), firstPool);
     EXPECT_TRUE(isStampedAfter(time, *parameter->ownValue()));

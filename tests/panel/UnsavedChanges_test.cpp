@@ -133,9 +133,9 @@ TEST_F(UnsavedChangesTest, ATextThatIsStillBeingTypedIsAskedAboutToo) {
 
 TEST_F(UnsavedChangesTest, OpeningAnotherNetworkAsksFirst) {
     edit();
-    auto const* const network = window->network();
+    auto const objects = window->network()->objects();
     EXPECT_TRUE(answer(QMessageBox::Cancel, [this] { action("open")->trigger(); }));
-    EXPECT_EQ(window->network(), network);
+    EXPECT_EQ(window->network()->objects(), objects);
     EXPECT_EQ(held("enum"), "Blue");
 
     auto const other = networkFile("other.json", lamps);
