@@ -91,8 +91,10 @@ class Tests:
         pattern = "^(" + "|".join(map(re.escape, names)) + ")$"
         run = subprocess.run(["ctest", "--test-dir", str(BUILD), "-R", pattern, "-j", str(os.cpu_count()),
                               "--stop-on-failure", "--timeout", "120"], capture_output=True, text=True)
-        failed = re.search(r"(\S+) \.*\**\s*(Failed|\*\*\*|Subprocess|Timeout)|Test\s+#\d+: (\S+) \.*\*\*\*", run.stdout)
-        return None if run.returncode == 0 else next((each for each in failed.groups() if each), "?") if failed else "?"
+        if run.returncode == 0:
+            return None
+        failed = re.search(r"#\d+: (\S+) \.*\*\*\*", run.stdout)
+        return failed.group(1) if failed else "a test"
 
 
 def find(fault, tests):
