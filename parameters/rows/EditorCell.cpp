@@ -146,7 +146,8 @@ void EditorCell::nameControls(QString const& name, bool edited) {
         return;
     if (firstControl && !editor.focusProxy())
         editor.setFocusProxy(firstControl);
-    else if (!firstControl && edited)
+    else if (!firstControl && edited && !editor.layout())
+        // One with a layout has no controls now, as a list of no flags: there is nothing to press.
         new KeyboardPress(&editor);
 }
 

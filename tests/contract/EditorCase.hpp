@@ -36,13 +36,10 @@ struct EditorCase {
     std::function<void(QWidget&)> edit;
     /// Whether an edit writes a value; a button that fires an action does not.
     bool writes = true;
-    /// The number of notifications of an edit, with one editor and with two editors of one parameter.
-    int notifications = 1;
+    /// The number of notifications of an edit with two editors of one parameter; with one there is one.
     int notificationsWithTwoEditors = 1;
     /// Whether an edit changes the value object before the store, so even if the store is refused.
     bool changesInPlace = false;
-    /// Whether an edit of a destroyed parameter prints the line about a missing owner, once.
-    bool reportsMissingOwner = true;
     /// Whether an editor that was opened for a destroyed parameter can be edited; one without entries cannot.
     bool editableWithoutOwner = true;
     /// Whether a change from elsewhere that changes what is shown is committed once more.

@@ -22,6 +22,26 @@ TEST_F(UnsavedChangesTest, TheTitleMarksThem) {
     EXPECT_TRUE(isMarked()) << "the file holds what came after";
 }
 
+TEST_F(UnsavedChangesTest, AreSavedByTheKeys) {
+    auto const unchanged = bytesOf(file());
+    edit();
+    ASSERT_TRUE(isMarked());
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_NE(bytesOf(file()), unchanged);
+    auto const blue = bytesOf(file());
+    click(choice("Green"));
+    ASSERT_TRUE(isMarked());
+    EXPECT_EQ(bytesOf(file()), blue);
+    EXPECT_TRUE(withFileDialog(
+        [&] { QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier); },
+        [&](QFileDialog& dialog) { enterFileName(dialog, folder.filePath(QStringLiteral("by keys.json"))); }));
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_EQ(bytesOf(file()), blue);
+    EXPECT_TRUE(bytesOf(folder.filePath(QStringLiteral("by keys.json"))).contains("Green"));
+}
+
 TEST_F(UnsavedChangesTest, ClosingWithoutThemAsksNothing) {
     edit();
     action("undo")->trigger();
@@ -113,9 +133,9 @@ TEST_F(UnsavedChangesTest, ATextThatIsStillBeingTypedIsAskedAboutToo) {
 
 TEST_F(UnsavedChangesTest, OpeningAnotherNetworkAsksFirst) {
     edit();
-    auto const* const network = window->network();
+    auto const objects = window->network()->objects();
     EXPECT_TRUE(answer(QMessageBox::Cancel, [this] { action("open")->trigger(); }));
-    EXPECT_EQ(window->network(), network);
+    EXPECT_EQ(window->network()->objects(), objects);
     EXPECT_EQ(held("enum"), "Blue");
 
     auto const other = networkFile("other.json", lamps);

@@ -7,6 +7,28 @@ using Values = Kolt::VParameter::Values;
 
 namespace {
 
+std::vector<std::string> selectedMembers;
+
+/// A bool that refuses some stores, and does something whenever it is read.
+class WatchedBool : public Kolt::VValue<bool> {
+public:
+    bool get(bool& out) const override {
+        if (whenRead)
+            whenRead();
+        return VValue<bool>::get(out);
+    }
+    bool set(bool const& value) override {
+        stores.push_back(value);
+        return refusals-- <= 0 && VValue<bool>::set(value);
+    }
+
+    std::function<void()> whenRead;
+    /// How many of the next stores are refused.
+    int refusals = 0;
+    /// What was to be stored, refused or not.
+    std::vector<bool> stores;
+};
+
 /// The binding as the host sees it, tested with the built plug-in's boolean editor.
 class VInputValueTest : public PluginTest {
 protected:
@@ -20,6 +42,11 @@ protected:
 
 } // namespace
 
+// A host with compound values prepares access here. This one takes the place of the library's, which does nothing.
+void Kolt::VParameter::selectMember(std::string const& member) const {
+    selectedMembers.push_back(member);
+}
+
 TEST_F(VInputValueTest, AWriteOfTheHeldValueStillNotifiesAndStamps) {
     auto const parameter = boolean(Values::Shared, true);
     RecordingNotifier recorder;
@@ -27,9 +54,10 @@ TEST_F(VInputValueTest, AWriteOfTheHeldValueStillNotifiesAndStamps) {
     auto const editor = open(parameter);
     auto* const box = editor.widget->findChild<QCheckBox*>();
     box->setChecked(false);
+    auto const before = Tessera::Ageable::GlobalTime.load();
     QTest::mouseClick(box, Qt::LeftButton);
     EXPECT_EQ(recorder.values, std::vector<std::string>{"true"});
-    EXPECT_EQ(parameter->ownValue()->age(), Tessera::Ageable::GlobalTime.load());
+    EXPECT_TRUE(isStampedAfter(before, *parameter->ownValue()));
 }
 
 TEST_F(VInputValueTest, FetchCreatesNothingAndFailsWhereNothingIs) {
@@ -52,6 +80,35 @@ TEST_F(VInputValueTest, GetCreatesTheValueFromTheOwnOne) {
     out = false;
     EXPECT_FALSE(binding(editor).getValue(nullptr, std::string(), out));
     EXPECT_FALSE(out);
+}
+
+TEST_F(VInputValueTest, AReadSelectsTheMemberOfAValueThatIsThere) {
+    auto const parameter = boolean(Values::PerPool, true);
+    auto const editor = open(parameter);
+    selectedMembers.clear();
+    EXPECT_FALSE(binding(editor).fetchValue(firstPool, "absent"));
+    EXPECT_EQ(selectedMembers, std::vector<std::string>());
+    bool out = false;
+    EXPECT_TRUE(binding(editor).getValue(firstPool, "got", out));
+    EXPECT_TRUE(binding(editor).fetchValue(firstPool, "fetched"));
+    EXPECT_EQ(selectedMembers, (std::vector<std::string>{"got", "fetched"}));
+}
+
+TEST_F(VInputValueTest, ARefusedStoreIsTriedOnceMoreByTheHostAndReported) {
+    auto* const value = new WatchedBool;
+    auto const parameter = makeParameter("switch", Kolt::ValuePtr(value));
+    auto const editor = open(parameter);
+    RecordingNotifier recorder;
+    parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(&recorder));
+    value->refusals = 1;
+    EXPECT_FALSE(binding(editor).setValue(firstPool, std::string(), true, nullptr)) << "what the first store said";
+    EXPECT_EQ(value->stores, (std::vector<bool>{true, true}));
+    EXPECT_EQ(recorder.values, std::vector<std::string>{"true"}) << "the second store was accepted";
+    value->refusals = 2;
+    EXPECT_FALSE(binding(editor).setValue(firstPool, std::string(), false, nullptr));
+    EXPECT_EQ(value->stores, (std::vector<bool>{true, true, false, false}));
+    EXPECT_EQ(recorder.values.size(), 1U);
+    EXPECT_EQ(value->age(), 0U);
 }
 
 TEST_F(VInputValueTest, SetCreatesThePoolsValueAndLeavesTheOwnOneAlone) {
@@ -149,6 +206,17 @@ TEST_F(VInputValueTest, TheOwnerMayBeDeletedByTheNotificationOfAStore) {
     EXPECT_TRUE(binding(editor).setValue(firstPool, std::string(), true, nullptr));
     EXPECT_FALSE(binding(editor).setValue(firstPool, std::string(), true, nullptr));
     EXPECT_TRUE(takeOutput().empty());
+}
+
+TEST_F(VInputValueTest, NothingIsDeliveredBeforeTheInputShowsItsValue) {
+    auto* const value = new WatchedBool;
+    auto const parameter = makeParameter("switch", Kolt::ValuePtr(value));
+    std::vector<std::size_t> listening;
+    value->whenRead = [&] { listening.push_back(parameter->size()); };
+    auto const editor = open(parameter);
+    value->whenRead = nullptr;
+    EXPECT_EQ(listening, std::vector<std::size_t>{0U});
+    EXPECT_EQ(parameter->size(), 1U);
 }
 
 TEST_F(VInputValueTest, DeliveryStartsWithTheLastStepOfConstructionAndEndsWithTheInput) {

@@ -1,6 +1,7 @@
+#include "support/TaloTest.hpp"
+
 #include <array>
 #include <cmath>
-#include <gtest/gtest.h>
 #include <limits>
 #include <qVinputs/basics/FloatInterval.hpp>
 #include <random>
@@ -27,8 +28,10 @@ double spacing(FloatInterval const& bounds) {
     return std::nextafter(largest, Infinity) - largest;
 }
 
+class FloatIntervalTest : public TaloTest {};
+
 /// Random intervals of many positions, widths and resolutions, the same in every run.
-class RandomIntervals : public testing::Test {
+class RandomIntervals : public TaloTest {
 protected:
     template <typename Check>
     void forEach(Check check) {
@@ -50,7 +53,7 @@ protected:
 
 } // namespace
 
-TEST(FloatIntervalTest, StartsAsTheUnitInterval) {
+TEST_F(FloatIntervalTest, StartsAsTheUnitInterval) {
     FloatInterval const bounds;
     EXPECT_EQ(bounds.min, 0.0);
     EXPECT_EQ(bounds.max, 1.0);
@@ -59,7 +62,7 @@ TEST(FloatIntervalTest, StartsAsTheUnitInterval) {
     EXPECT_EQ(bounds.lastPosition(), 1001);
 }
 
-TEST(FloatIntervalTest, TheUsualResolutionGivesAHundredMillionPositions) {
+TEST_F(FloatIntervalTest, TheUsualResolutionGivesAHundredMillionPositions) {
     auto const bounds = interval(0.0, 1.0, 100000000.0);
     EXPECT_EQ(bounds.delta, 1.0 / 99999999);
     EXPECT_EQ(bounds.lastPosition(), 100000000);
@@ -69,12 +72,12 @@ TEST(FloatIntervalTest, TheUsualResolutionGivesAHundredMillionPositions) {
     EXPECT_EQ(bounds.positionOf(0.5), 50000000);
 }
 
-TEST(FloatIntervalTest, OnlyTheWholePartOfTheResolutionCounts) {
+TEST_F(FloatIntervalTest, OnlyTheWholePartOfTheResolutionCounts) {
     EXPECT_EQ(interval(0.0, 1.0, 5.9).delta, 0.25);
     EXPECT_EQ(interval(0.0, 1.0, 5.9).lastPosition(), 5);
 }
 
-TEST(FloatIntervalTest, ValuesAreClampedAndPositionsAreNot) {
+TEST_F(FloatIntervalTest, ValuesAreClampedAndPositionsAreNot) {
     auto const bounds = interval(-2.0, 2.0, 101);
     EXPECT_EQ(bounds.valueAt(-1), -2.0);
     EXPECT_EQ(bounds.valueAt(bounds.lastPosition() + 1), 2.0);
@@ -82,7 +85,7 @@ TEST(FloatIntervalTest, ValuesAreClampedAndPositionsAreNot) {
     EXPECT_GT(bounds.positionOf(3.0), bounds.lastPosition());
 }
 
-TEST(FloatIntervalTest, PositionsRoundToTheNearest) {
+TEST_F(FloatIntervalTest, PositionsRoundToTheNearest) {
     auto bounds = interval(0.0, 1.0, 10);
     ASSERT_EQ(bounds.lastPosition(), 10);
     EXPECT_EQ(bounds.positionOf(0.149), 1);
@@ -92,7 +95,7 @@ TEST(FloatIntervalTest, PositionsRoundToTheNearest) {
     EXPECT_EQ(bounds.positionAtFraction(1.0), 10);
 }
 
-TEST(FloatIntervalTest, SharesOfTheIntervalHaveTheirPositions) {
+TEST_F(FloatIntervalTest, SharesOfTheIntervalHaveTheirPositions) {
     auto const bounds = interval(10.0, 30.0, 100);
     ASSERT_EQ(bounds.lastPosition(), 100);
     EXPECT_EQ(bounds.positionAtShare(0.1), 10);
@@ -101,7 +104,7 @@ TEST(FloatIntervalTest, SharesOfTheIntervalHaveTheirPositions) {
     EXPECT_EQ(bounds.positionAtShare(0.9), 90);
 }
 
-TEST(FloatIntervalTest, CoarseningStopsAtTheWidth) {
+TEST_F(FloatIntervalTest, CoarseningStopsAtTheWidth) {
     auto bounds = interval(-1.0, 3.0, 1001);
     bounds.coarsen();
     EXPECT_EQ(bounds.delta, 0.008);
@@ -111,7 +114,7 @@ TEST(FloatIntervalTest, CoarseningStopsAtTheWidth) {
     EXPECT_EQ(bounds.lastPosition(), 2);
 }
 
-TEST(FloatIntervalTest, RefiningStopsAtAHundredMillionthOfTheWidth) {
+TEST_F(FloatIntervalTest, RefiningStopsAtAHundredMillionthOfTheWidth) {
     auto bounds = interval(-1.0, 3.0, 1001);
     bounds.refine();
     EXPECT_EQ(bounds.delta, 0.002);
@@ -121,7 +124,7 @@ TEST(FloatIntervalTest, RefiningStopsAtAHundredMillionthOfTheWidth) {
     EXPECT_EQ(bounds.lastPosition(), 100000001);
 }
 
-TEST(FloatIntervalTest, WideningAndNarrowingPutTheValueInTheMiddle) {
+TEST_F(FloatIntervalTest, WideningAndNarrowingPutTheValueInTheMiddle) {
     auto bounds = interval(0.0, 1.0, 1001);
     EXPECT_EQ(bounds.widen(0.25), 500000000);
     EXPECT_EQ(bounds.min, -0.75);
@@ -138,7 +141,7 @@ TEST(FloatIntervalTest, WideningAndNarrowingPutTheValueInTheMiddle) {
     EXPECT_DOUBLE_EQ(bounds.valueAt(500000000), 0.25);
 }
 
-TEST(FloatIntervalTest, ProductsAreFormedBeforeQuotients) {
+TEST_F(FloatIntervalTest, ProductsAreFormedBeforeQuotients) {
     // Numbers for which another order of operations rounds to another value.
     FloatInterval bounds;
     bounds.max = 0.7;
@@ -157,7 +160,7 @@ TEST(FloatIntervalTest, ProductsAreFormedBeforeQuotients) {
     EXPECT_GT(differing, 0);
 }
 
-TEST(FloatIntervalTest, NumbersWithoutSenseHaveSaturatedPositions) {
+TEST_F(FloatIntervalTest, NumbersWithoutSenseHaveSaturatedPositions) {
     std::array const numbers{0.0,    -0.0,   1.0,      -1.0,      1.5,        1e308,        -1e308,
                              5e-324, 1e-300, Infinity, -Infinity, NotANumber, 2147483648.0, -2147483649.0};
     for (double const min : numbers) {
@@ -188,7 +191,7 @@ TEST(FloatIntervalTest, NumbersWithoutSenseHaveSaturatedPositions) {
     }
 }
 
-TEST(FloatIntervalTest, APositionTooLargeIsTheLargestInt) {
+TEST_F(FloatIntervalTest, APositionTooLargeIsTheLargestInt) {
     FloatInterval bounds;
     bounds.delta = 1e-300;
     EXPECT_EQ(bounds.lastPosition(), LargestInt);
@@ -231,7 +234,7 @@ TEST_F(RandomIntervals, TheEndsAreTheFirstAndTheLastPosition) {
     });
 }
 
-TEST(FloatIntervalTest, FiniteEndsGiveFiniteValuesHoweverFarApart) {
+TEST_F(FloatIntervalTest, FiniteEndsGiveFiniteValuesHoweverFarApart) {
     constexpr double Largest = std::numeric_limits<double>::max();
     for (auto const& [min, max] : std::vector<std::pair<double, double>>{
              {-1e308, 1e308}, {-Largest, Largest}, {0.0, 1e305}, {1e-300, 1e300}, {-Largest, -1e308}}) {
@@ -261,7 +264,7 @@ TEST(FloatIntervalTest, FiniteEndsGiveFiniteValuesHoweverFarApart) {
     }
 }
 
-TEST(FloatIntervalTest, HugeIntervalsHaveThePositionsOfSmallOnes) {
+TEST_F(FloatIntervalTest, HugeIntervalsHaveThePositionsOfSmallOnes) {
     auto const huge = interval(-0x1p1023, 0x1p1023, 1000);
     auto const small = interval(-1.0, 1.0, 1000);
     ASSERT_EQ(huge.lastPosition(), small.lastPosition());

@@ -37,8 +37,21 @@ TEST_F(QBoolTest, IsAFrameWithOneCheckBoxAtTheLeft) {
     ASSERT_EQ(layout->count(), 1);
     EXPECT_EQ(layout->itemAt(0)->widget(), box(editor));
     EXPECT_EQ(layout->itemAt(0)->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+    ASSERT_NE(qobject_cast<QHBoxLayout*>(layout), nullptr);
+    EXPECT_EQ(qobject_cast<QHBoxLayout*>(layout)->stretch(0), 0);
+    EXPECT_EQ(frame->frameStyle(), QFrame().frameStyle());
     EXPECT_TRUE(box(editor)->text().isEmpty());
     EXPECT_EQ(box(editor)->parentWidget(), frame);
+}
+
+TEST_F(QBoolTest, StartsWithTheParametersOwnValueUntilTheHostShowsThePools) {
+    for (bool const own : {false, true}) {
+        auto const parameter = makeParameter("switch", Kolt::makeValue(own), {}, Kolt::VParameter::Values::PerPool);
+        EXPECT_TRUE(Kolt::setParameterValue(*parameter, !own, firstPool, std::string(), true, nullptr, nullptr));
+        auto const made = qtCreator("bool", "boolean")->create(parameter, parent, &pools);
+        EXPECT_EQ(made.first->findChild<QCheckBox*>()->isChecked(), own);
+        EXPECT_EQ(box(open(parameter))->isChecked(), !own);
+    }
 }
 
 TEST_F(QBoolTest, EveryClickNotifiesAndStamps) {

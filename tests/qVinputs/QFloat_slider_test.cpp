@@ -44,6 +44,20 @@ TEST_F(QFloatTest, AClickPutsTheHandleUnderThePointer) {
     }
 }
 
+TEST_F(QFloatTest, AClickOnePageFromTheHandleWritesItsPlace) {
+    auto const parameter = bounded(0.0, 0.0, 1.0, 1000);
+    auto const editor = open(parameter);
+    auto* const control = slider(editor);
+    control->resize(200, control->height());
+    ASSERT_EQ(control->pageStep(), 100);
+    record(parameter);
+    // A tenth of the width: the handle must come from where it was, not from the page that the base class went.
+    press(control, Qt::LeftButton, {20.0, control->height() / 2.0});
+    EXPECT_EQ(control->value(), 100);
+    EXPECT_EQ(held(parameter), 0.1);
+    EXPECT_EQ(recorder.values, std::vector<std::string>{"0.1"});
+}
+
 TEST_F(QFloatTest, AHeldButtonDoesNotGoOnStepping) {
     struct Repeat : QAbstractSlider {
         static SliderAction of(QAbstractSlider const& control) { return (control.*&Repeat::repeatAction)(); }

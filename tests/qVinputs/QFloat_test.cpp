@@ -25,6 +25,9 @@ TEST_F(QFloatTest, IsAFrameWithALineEditAndASlider) {
     EXPECT_EQ(layout->itemAt(0)->widget(), lineEdit(editor));
     EXPECT_EQ(layout->itemAt(0)->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     EXPECT_EQ(layout->itemAt(1)->widget(), slider(editor));
+    EXPECT_EQ(layout->stretch(0), 0);
+    EXPECT_EQ(layout->stretch(1), 0);
+    EXPECT_EQ(qobject_cast<QFrame*>(editor.widget)->frameStyle(), QFrame().frameStyle());
     EXPECT_EQ(slider(editor)->orientation(), Qt::Horizontal);
     EXPECT_EQ(slider(editor)->focusPolicy(), Qt::WheelFocus);
     EXPECT_EQ(dial(editor), nullptr);

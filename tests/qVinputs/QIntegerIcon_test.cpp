@@ -51,6 +51,8 @@ TEST_F(QIntegerIconTest, ShowsTheValueByQtsDefaultDigits) {
     EXPECT_EQ(digits->digitCount(), untouched.digitCount());
     EXPECT_EQ(digits->mode(), untouched.mode());
     EXPECT_EQ(digits->segmentStyle(), untouched.segmentStyle());
+    EXPECT_EQ(digits->frameStyle(), untouched.frameStyle());
+    EXPECT_EQ(digits->lineWidth(), untouched.lineWidth());
 }
 
 TEST_F(QIntegerIconTest, FollowsEveryChangeOfTheParameter) {

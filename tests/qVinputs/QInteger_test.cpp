@@ -24,6 +24,8 @@ TEST_F(QIntegerTest, IsAWidgetWithASliderAndALineEdit) {
     ASSERT_EQ(layout->count(), 2);
     EXPECT_EQ(layout->itemAt(0)->widget(), slider(editor));
     EXPECT_EQ(layout->itemAt(1)->widget(), lineEdit(editor));
+    EXPECT_EQ(layout->stretch(0), 0);
+    EXPECT_EQ(layout->stretch(1), 0);
 
     EXPECT_EQ(dial(editor), nullptr);
     EXPECT_EQ(slider(editor)->orientation(), Qt::Horizontal);
@@ -35,6 +37,14 @@ TEST_F(QIntegerTest, IsAWidgetWithASliderAndALineEdit) {
     EXPECT_EQ(validator->top(), LargestInt);
     EXPECT_EQ(lineEdit(editor)->alignment(), Qt::AlignRight);
     EXPECT_EQ(lineEdit(editor)->maximumWidth(), 100);
+}
+
+TEST_F(QIntegerTest, ShowsItselfWhenItIsMade) {
+    parent->show();
+    for (auto const* const name : {"int", "intDial"}) {
+        auto const parameter = integer(7);
+        EXPECT_TRUE(qtCreator("int", name)->create(parameter, parent, &pools).first->isVisible());
+    }
 }
 
 TEST_F(QIntegerTest, UnderTheDialPreferenceItHasADial) {

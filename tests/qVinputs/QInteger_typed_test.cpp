@@ -73,6 +73,37 @@ TEST_F(QIntegerTest, AReentryNamesNoNumberThatWasNeverStored) {
     EXPECT_EQ(parameter->ownValue()->Text(), "20");
 }
 
+TEST_F(QIntegerTest, AReentryInsideAnotherOneIsNoSecondMoveOfTheOuterNumber) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    record(parameter);
+    // While 33 is recorded the control goes to 55 and back.
+    std::vector<int> moves{33, 55};
+    historyConnection = Kolt::UndoHistory::theHistory().addListener([&] {
+        auto const own = std::exchange(moves, {});
+        for (auto next = own.rbegin(); next != own.rend(); ++next)
+            callSlot(editor, *next);
+    });
+    slider(editor)->setValue(33);
+    EXPECT_EQ(undoTexts(), (std::vector<std::string>{"Set int value to 20", "Set int value to 20"}));
+    EXPECT_EQ(recorder.values, (std::vector<std::string>{"55", "33"}));
+    EXPECT_EQ(text(editor), "33");
+}
+
+TEST_F(QIntegerTest, TheRecordOfAMoveWritesAndMarksThePreviousValue) {
+    auto const parameter = bounded(20, 0, 100);
+    auto const editor = open(parameter);
+    slider(editor)->setValue(33);
+    auto const before = Tessera::Ageable::GlobalTime.load();
+    record(parameter);
+    std::vector<bool> stamped;
+    recorder.reaction = [&] { stamped.push_back(parameter->ownValue()->age() > before); };
+    EXPECT_TRUE(Kolt::UndoHistory::theHistory().undo());
+    EXPECT_EQ(recorder.values, std::vector<std::string>{"20"});
+    EXPECT_EQ(stamped, std::vector<bool>{false}) << "the listeners hear of it first";
+    EXPECT_EQ(parameter->ownValue()->age(), before + 1);
+}
+
 TEST_F(QIntegerTest, AMoveWhosePoolIsLostWhileItIsRecordedCanBeRepeated) {
     auto const parameter = bounded(20, 0, 100);
     auto const editor = open(parameter);

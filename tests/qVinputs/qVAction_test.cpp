@@ -70,6 +70,7 @@ TEST_F(qVActionTest, IsAPushButtonWithOneSlot) {
     EXPECT_EQ(slot.methodSignature(), QByteArray("activated(bool)"));
     EXPECT_NE(editor.widget->qt_metacast("VInputValue<Tessera::StrongPtr<VAction>>"), nullptr);
     EXPECT_EQ(editor.choice.creator.strong()->preferences()->names(), Kolt::VCreationPreferences::Names{"QT"});
+    EXPECT_FALSE(button(editor).isCheckable());
 }
 
 TEST_F(qVActionTest, TheLabelIsTheNameAfterTheLastDot) {
@@ -145,6 +146,16 @@ TEST_F(qVActionTest, AnIconThatCannotBeLoadedIsNotReported) {
     setProperty(parameter, "icon", text.fileName().toStdString());
     EXPECT_TRUE(button(editor).icon().isNull());
     EXPECT_TRUE(warnings.texts.empty());
+}
+
+TEST_F(qVActionTest, AnIconThatCannotBeLoadedLeavesTheOneThatIsShown) {
+    auto const parameter = actionParameter();
+    setProperty(parameter, "icon", pictureFile("good.png", Qt::green));
+    auto const editor = open(parameter);
+    for (auto const& bad : {folder.filePath("missing.png").toStdString(), std::string(), std::string("/dev/null")}) {
+        setProperty(parameter, "icon", bad);
+        EXPECT_EQ(iconColour(editor), QColor(Qt::green)) << bad;
+    }
 }
 
 TEST_F(qVActionTest, AnIconThatIsNoFileIsNotWaitedFor) {

@@ -1,10 +1,12 @@
 #include "qVinputs/TextEditorTest.hpp"
 #include <bramble/Info.hpp>
 #include <bramble/ObjectStatus.hpp>
+#include <lattice/NotificationThread.hpp>
 
 #include <QLabel>
 #include <QMetaMethod>
 #include <QSignalSpy>
+#include <thread>
 
 namespace {
 
@@ -95,6 +97,22 @@ TEST_F(InformationDisplay, CarriesAMegabyteAndRandomBytes) {
 
 class StatusDisplay : public Displays {};
 
+/// A display in a host that notifies on the thread that reports.
+class StatusOfAWorker : public Displays {
+protected:
+    void SetUp() override {
+        Displays::SetUp();
+        NotificationThread::install(nullptr);
+    }
+    /// What the label shows after a worker stored a text for a pool.
+    static std::string shownAfter(QLabel* label, ParameterPtr const& parameter, char const* text, PoolPtr const& pool) {
+        std::thread worker([&] { change(parameter, VObjectStatus(text), pool); });
+        worker.join();
+        QCoreApplication::sendPostedEvents(label, QEvent::MetaCall);
+        return label->text().toStdString();
+    }
+};
+
 TEST_F(StatusDisplay, IsKnownToQtByItsNames) {
     auto const parameter = makeStatus("");
     auto* const label = show(parameter, "StatusDisplay");
@@ -174,6 +192,26 @@ TEST_F(StatusDisplay, ShowsItsPoolAlone) {
     EXPECT_EQ(label->text(), QStringLiteral("own"));
     change(parameter, VObjectStatus("here"));
     EXPECT_EQ(label->text(), QStringLiteral("here"));
+}
+
+TEST_F(StatusOfAWorker, IsShownInItsPoolAlone) {
+    auto const parameter = makeStatus("own", Values::PerPool);
+    auto* const label = show(parameter, "StatusDisplay");
+    EXPECT_EQ(shownAfter(label, parameter, "elsewhere", secondPool), "own");
+    EXPECT_EQ(shownAfter(label, parameter, "here", firstPool), "here");
+    pools.use(secondPool);
+    input.strong()->notify(parameter->effectiveValue(secondPool), VContext(secondPool, nullptr));
+    EXPECT_EQ(label->text(), QStringLiteral("elsewhere"));
+    EXPECT_EQ(shownAfter(label, parameter, "behind", firstPool), "elsewhere");
+    EXPECT_EQ(shownAfter(label, parameter, "in front", secondPool), "in front");
+}
+
+TEST_F(StatusOfAWorker, IsShownInEveryPoolIfItIsShared) {
+    auto const parameter = makeStatus("own");
+    auto* const label = show(parameter, "StatusDisplay");
+    EXPECT_EQ(shownAfter(label, parameter, "first", firstPool), "first");
+    EXPECT_EQ(shownAfter(label, parameter, "second", secondPool), "second");
+    EXPECT_EQ(shownAfter(label, parameter, "none", nullptr), "none");
 }
 
 TEST_F(StatusDisplay, MayBeDeletedByAListener) {

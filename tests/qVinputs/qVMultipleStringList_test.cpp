@@ -33,12 +33,17 @@ TEST_F(MultipleStringListTest, IsAFrameWithAColumnOfControlsAndAListOfRows) {
     auto* const column = qobject_cast<QVBoxLayout*>(row->itemAt(0)->layout());
     ASSERT_NE(column, nullptr);
     EXPECT_EQ(row->itemAt(1)->widget(), list(widget));
+    EXPECT_EQ(row->stretch(0), 0);
+    EXPECT_EQ(row->stretch(1), 0);
+    EXPECT_EQ(qobject_cast<QFrame const*>(&widget)->frameStyle(), QFrame().frameStyle());
     std::vector<QWidget*> const expected = {
         button(widget, "All"),      button(widget, "None"), button(widget, "Inverse"),   removeBox(widget),
         label(widget, "Wildcard:"), wildcardEdit(widget),   label(widget, "By Number:"), numberEdit(widget)};
     ASSERT_EQ(column->count(), 8);
     for (int place = 0; place < 8; ++place)
         EXPECT_EQ(column->itemAt(place)->widget(), expected[static_cast<std::size_t>(place)]) << place;
+    for (int place = 0; place < 8; ++place)
+        EXPECT_EQ(column->stretch(place), 0) << place;
     EXPECT_EQ(removeBox(widget)->text(), "remove");
     EXPECT_FALSE(removeBox(widget)->isChecked());
 
@@ -165,12 +170,15 @@ TEST_F(MultipleStringListTest, WhenTheSelectionObjectGoesTheViewPartAndTheCommit
     removeBox(*editor.widget)->setChecked(true);
     enterWildcard(*editor.widget, "*1");
     EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 2, 3}));
+    removeBox(*editor.widget)->setChecked(false);
     press(*editor.widget, "None");
+    enterNumbers(*editor.widget, "0-1,3");
+    EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 1, 3})) << "every row that is named";
     press(*editor.widget, "All");
-    EXPECT_EQ(commits(), 5U);
+    EXPECT_EQ(commits(), 6U);
     click(*editor.widget, 1);
     EXPECT_EQ(selectedRows(*editor.widget), (Rows{0, 2, 3}));
-    EXPECT_EQ(commits(), 5U) << "a click stops before the commit";
+    EXPECT_EQ(commits(), 6U) << "a click stops before the commit";
     EXPECT_EQ(chosen(selection), "row 0") << "the editor does not know it any more";
 }
 

@@ -56,7 +56,9 @@ TEST_F(StringListTest, IsAFrameAroundAComboBox) {
               QList<QByteArray>{"what"});
     EXPECT_NE(editor.widget->qt_metacast("VInputValue<VStringList>"), nullptr);
     EXPECT_EQ(frame->lineWidth(), 0);
+    EXPECT_EQ(frame->frameStyle(), QFrame().frameStyle());
     ASSERT_NE(qobject_cast<QHBoxLayout*>(frame->layout()), nullptr);
+    EXPECT_EQ(qobject_cast<QHBoxLayout*>(frame->layout())->stretch(0), 0);
     EXPECT_EQ(frame->layout()->contentsMargins(), QMargins(0, 0, 0, 0));
     EXPECT_EQ(frame->layout()->spacing(), 0);
     EXPECT_EQ(frame->layout()->itemAt(0)->widget(), combo(editor));
@@ -92,6 +94,8 @@ TEST_F(StringListTest, OfEqualTextsTheLastIsCurrent) {
     auto const parameter = parameterOf(makeStrings({"a", "b", "a", "B"}, "a"));
     auto const editor = open(parameter);
     EXPECT_EQ(combo(editor)->currentIndex(), 2);
+    setElsewhere(parameter, makeStrings({"x", "a", "b", "a", "y"}, "a"));
+    EXPECT_EQ(combo(editor)->currentIndex(), 3) << "also where the first of them is not the first text";
     setElsewhere(parameter, makeStrings({"b", "a", "B", "b"}, "B"));
     EXPECT_EQ(combo(editor)->currentIndex(), 2) << "texts are compared byte for byte";
 }

@@ -89,6 +89,11 @@ protected:
         return parameter;
     }
 
+    /// Whether the value object has the newest age stamp, and got it after the time `before` (Ageable::GlobalTime).
+    static bool isStampedAfter(unsigned long before, Kolt::VValueBase const& value) {
+        return value.age() > before && value.age() == Tessera::Ageable::GlobalTime.load();
+    }
+
     /// Opens an editor as the panel does.
     Kolt::Editor open(Kolt::ParameterPtr const& parameter) {
         auto const editor = Kolt::makeEditor(parameter, parent, &pools);

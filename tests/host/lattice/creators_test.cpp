@@ -138,6 +138,17 @@ TEST_F(Registry, TheNameOfARefusedCreatorIsFreeAgainWhenTheFirstHasGone) {
     EXPECT_THAT(names(), ElementsAre("Sample::Shape shape"));
 }
 
+TEST_F(Registry, ARefusedCreatorThatWasRegisteredLaterIsTakenBackToo) {
+    auto first = std::make_unique<Creator>("shape", 0, nullptr, ApiKey);
+    auto refused = std::make_unique<Creator>("shape", 0, nullptr, ApiKey);
+    EXPECT_THAT(takeOutput(), testing::SizeIs(1));
+    first.reset();
+    EXPECT_TRUE(registerVInput(typeid(Shape), CreatorRef(refused.get())));
+    observer_.events.clear();
+    refused.reset();
+    EXPECT_THAT(observer_.events, ElementsAre("unregistered Sample::Shape \"shape\" {}"));
+}
+
 TEST_F(Registry, RefusesACreatorForAnotherHostInterface) {
     Warnings warnings;
     Creator const old("shape", 0, nullptr, "TALO_API_VERSION_OLD");

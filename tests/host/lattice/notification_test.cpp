@@ -231,11 +231,13 @@ TEST_F(Notification, TheListOfLivingNotifiersHoldsThemUntilTheyGo) {
         auto const all = ValueNotifier::living();
         return std::find(all.begin(), all.end(), notifier) != all.end();
     };
-    auto passing = std::make_unique<Recorder>();
-    ValueNotifier const* const address = passing.get();
-    EXPECT_TRUE(lives(address));
-    passing.reset();
-    EXPECT_FALSE(lives(address));
+    auto const before = ValueNotifier::living().size();
+    {
+        Recorder const passing;
+        EXPECT_TRUE(lives(&passing));
+        EXPECT_THAT(ValueNotifier::living(), testing::SizeIs(before + 1));
+    }
+    EXPECT_THAT(ValueNotifier::living(), testing::SizeIs(before));
 }
 
 class Contexts : public TaloTest {

@@ -148,6 +148,50 @@ TEST_F(LeaveLineEdit, ShowsTheRememberedTextAgainWhenTheFocusComesBackElsewhere)
     }
 }
 
+TEST_F(LeaveLineEdit, IsLeftOnceAndThenAloneHoweverItsWindowLostTheFocus) {
+    QLineEdit third(&window_);
+    window_.layout()->addWidget(&third);
+    third.show();
+    for (auto const& losses :
+         {std::vector{Qt::ActiveWindowFocusReason}, std::vector{Qt::PopupFocusReason, Qt::PopupFocusReason},
+          std::vector{Qt::PopupFocusReason, Qt::ActiveWindowFocusReason, Qt::PopupFocusReason}}) {
+        edit_.setFocus();
+        ASSERT_TRUE(waitUntil([&] { return edit_.hasFocus(); }));
+        for (auto const reason : losses) {
+            QFocusEvent leaving(QEvent::FocusOut, reason);
+            QCoreApplication::sendEvent(&edit_, &leaving);
+        }
+        other_.setFocus();
+        // A text that the program sets meanwhile is not the field's to restore.
+        edit_.setText("7");
+        third.setFocus();
+        other_.setFocus();
+        EXPECT_EQ(edit_.text(), "7") << losses.size();
+        edit_.showText("12");
+    }
+}
+
+TEST_F(LeaveLineEdit, IsLeftOnceByWhoeverComesBackElsewhere) {
+    int commits = 0;
+    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [&] { ++commits; });
+    QWidget elsewhere;
+    elsewhere.show();
+    QTest::keyClicks(&edit_, "345");
+    elsewhere.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return elsewhere.isActiveWindow(); }));
+    other_.setFocus();
+    window_.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return other_.hasFocus(); }));
+    EXPECT_EQ(commits, 1);
+    edit_.setText("7");
+    elsewhere.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return elsewhere.isActiveWindow(); }));
+    window_.activateWindow();
+    ASSERT_TRUE(waitUntil([&] { return other_.hasFocus(); }));
+    EXPECT_EQ(commits, 1);
+    EXPECT_EQ(edit_.text(), "7");
+}
+
 TEST_F(LeaveLineEdit, SaysNothingOfEditsWhenTheProgramShowsAText) {
     QSignalSpy const edited(&edit_, &QLineEdit::textEdited);
     edit_.showText("7");
