@@ -49,7 +49,7 @@ def code_of(line):
 
 
 def is_left_out(code):
-    return re.match(r"\s*(#|using\b|namespace\b|static_assert|TALO_|Q_|template\b|friend\b|class\b|struct\b|enum\b)",
+    return re.match(r"\s*(#|\[\[maybe_unused\]\]|using\b|namespace\b|static_assert|TALO_|Q_|template\b|friend\b|class\b|struct\b|enum\b)",
                     code) is not None or not code.strip()
 
 
