@@ -193,7 +193,7 @@ void ParameterRow::showDescription() {
 
 void ParameterRow::showUnit(QString const& unit) {
     if (unit.isEmpty()) {
-        delete unitLabel_;
+        delete std::exchange(unitLabel_, nullptr);
         return;
     }
     if (!unitLabel_) {
@@ -212,7 +212,7 @@ void ParameterRow::setEditorEnabled(bool enabled) {
 
 void ParameterRow::closeEditor() {
     afterEditor_.reset();
-    delete unitLabel_;
+    delete std::exchange(unitLabel_, nullptr);
     cell_.close();
     recorder_.reset();
 }

@@ -148,7 +148,7 @@ private:
     ModifiedIndicator* indicator_ = nullptr;
     QLabel* noteLabel_ = nullptr;
     RawValueLabel* rawValue_ = nullptr;
-    QPointer<QLabel> unitLabel_;
+    QLabel* unitLabel_ = nullptr;
     bool isEditorEnabled_ = true;
     // How the name is aligned with the editor.
     Qt::Alignment vertical_ = Qt::AlignVCenter;

@@ -21,6 +21,19 @@ TEST_F(TerminalTexts, ShowControlsAsText) {
     EXPECT_EQ(terminalText("a\u202Egnp.exe"), "a\\xe2\\x80\\xaegnp.exe") << "it would be shown backwards";
 }
 
+TEST_F(TerminalTexts, ShowEveryCharacterThatTurnsTheDirectionAsTextAndNoOther) {
+    for (auto const* const turning :
+         {"\u202A", "\u202B", "\u202C", "\u202D", "\u202E", "\u2066", "\u2067", "\u2068", "\u2069"})
+        EXPECT_EQ(terminalText(turning).substr(0, 4), "\\xe2");
+    for (auto const* const other : {"\u2029", "\u202F", "\u2065", "\u206A"})
+        EXPECT_EQ(terminalText(other), other);
+}
+
+TEST_F(TerminalTexts, ShowTheFirstAndTheLastControlAsTextAndNotTheirNeighbours) {
+    EXPECT_EQ(terminalText("\x01\x1f \x7e\x7f"), "\\x01\\x1f ~\\x7f");
+    EXPECT_EQ(terminalText("\u0080\u009f\u00a0"), "\\xc2\\x80\\xc2\\x9f\u00a0");
+}
+
 TEST_F(TerminalTexts, ShowBytesThatAreNoCharactersAsText) {
     EXPECT_EQ(terminalText("\x9b"
                            "2J"),
