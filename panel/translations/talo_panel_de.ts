@@ -513,6 +513,24 @@
     </message>
 </context>
 <context>
+    <name>Panel::MessageDock</name>
+    <message>
+        <source>Shows or hides what the panel and its plug-ins print.</source>
+        <translation>Zeigt oder verbirgt, was das Bedienfeld und seine Plug-ins ausgeben.</translation>
+    </message>
+    <message>
+        <source>1 line of output</source>
+        <translation>1 Zeile Ausgabe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines of output</source>
+        <translation>
+            <numerusform>%n Zeile Ausgabe</numerusform>
+            <numerusform>%n Zeilen Ausgabe</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Panel::MessageList</name>
     <message>
         <source>output</source>

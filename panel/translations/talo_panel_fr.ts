@@ -513,6 +513,24 @@
     </message>
 </context>
 <context>
+    <name>Panel::MessageDock</name>
+    <message>
+        <source>Shows or hides what the panel and its plug-ins print.</source>
+        <translation>Affiche ou masque ce que le panneau et ses greffons écrivent.</translation>
+    </message>
+    <message>
+        <source>1 line of output</source>
+        <translation>1 ligne de sortie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines of output</source>
+        <translation>
+            <numerusform>%n ligne de sortie</numerusform>
+            <numerusform>%n lignes de sortie</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Panel::MessageList</name>
     <message>
         <source>output</source>
