@@ -41,12 +41,9 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
       parameter_(parameter),
       pools_(pools),
       names_(new QWidget(this)),
-      nameLabel_(new QLabel(names_)),
+      nameLabel_(new NameLabel(names_)),
       layout_(new QHBoxLayout(this)),
       cell_(parameter, pools) {
-    nameLabel_->setTextFormat(Qt::PlainText);
-    alignWithLayout(*nameLabel_);
-
     auto* const names = new QVBoxLayout(names_);
     names->setContentsMargins(0, 4, 0, 4);
     names->setSpacing(0);
@@ -92,7 +89,9 @@ void ParameterRow::openEditor() {
     if (isEdited)
         recorder_ = Kolt::EditRecorder::watch(parameter);
     cell_.removeMargins();
-    cell_.limitWidth();
+    if (auto* const text = isEdited ? nullptr : qobject_cast<QLabel*>(editor))
+        text->setWordWrap(true);
+    cell_.limitWidth(QWIDGETSIZE_MAX);
     layout_->insertWidget(1, editor, editorShare);
     editor->show();
     ParameterDescription const description(*parameter);
@@ -180,9 +179,7 @@ void ParameterRow::showDescription() {
     if (!parameter)
         return;
     ParameterDescription const description(*parameter);
-    // A label with a buddy takes an ampersand for the mark of a shortcut.
-    auto label = description.label;
-    nameLabel_->setText(label.replace(QLatin1Char('&'), QLatin1String("&&")));
+    nameLabel_->setName(description.label);
     if (!cell_.widget())
         return;
     showUnit(description.unit);
@@ -214,6 +211,11 @@ void ParameterRow::closeEditor() {
     afterEditor_.reset();
     delete unitLabel_;
     cell_.close();
+    if (scroller_) {
+        scroller_->hide();
+        scroller_->deleteLater();
+        scroller_ = nullptr;
+    }
     recorder_.reset();
 }
 
@@ -334,11 +336,32 @@ void ParameterRow::setRawValueShown(bool shown) {
 
 void ParameterRow::setNameWidth(int width) {
     names_->setFixedWidth(width);
+    nameLabel_->shortenTo(width - indicatorDistance - ModifiedIndicator::side(*nameLabel_));
 }
 
 int ParameterRow::nameWidth() const {
-    return qMax(nameLabel_->sizeHint().width() + indicatorDistance + ModifiedIndicator::side(*nameLabel_),
+    return qMax(nameLabel_->wholeWidth() + indicatorDistance + ModifiedIndicator::side(*nameLabel_),
                 note().isEmpty() ? 0 : noteLabel_->sizeHint().width());
+}
+
+int ParameterRow::widthBesideEditor() const {
+    int const rawValue =
+        rawValue_ && !rawValue_->isHidden() ? rawValue_->minimumSizeHint().width() + layout_->spacing() : 0;
+    return names_->minimumWidth() + layout_->spacing() + rawValue;
+}
+
+void ParameterRow::fitInto(int width) {
+    auto* const editor = cell_.widget();
+    if (!editor)
+        return;
+    int const available = width - widthBesideEditor();
+    cell_.limitWidth(available);
+    if (scroller_ || cell_.leastWidth() <= available)
+        return;
+    layout_->removeWidget(editor);
+    scroller_ = new EditorScroller(editor, this);
+    layout_->insertWidget(1, scroller_, editorShare);
+    scroller_->show();
 }
 
 QSize ParameterRow::sizeHint() const {

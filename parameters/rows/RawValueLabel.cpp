@@ -8,7 +8,7 @@ namespace Talo {
 
 RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools, QWidget* parent)
     : QWidget(parent), parameter_(parameter), pools_(pools) {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Minimum);
     if (parameter)
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     refresh();
@@ -62,7 +62,7 @@ QSize RawValueLabel::sizeHint() const {
 }
 
 QSize RawValueLabel::minimumSizeHint() const {
-    return sizeHint();
+    return {10 * fontMetrics().averageCharWidth(), sizeHint().height()};
 }
 
 void RawValueLabel::paintEvent(QPaintEvent*) {
