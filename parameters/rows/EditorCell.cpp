@@ -23,7 +23,8 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(EditorCell)
 };
 
-// In characters.
+// In characters. The latter is wide enough to move a handle and to read a number.
+constexpr int leastEditorWidth = 4;
 constexpr int comfortableWidth = 30;
 
 /// The width beyond which the controls of an editor only move apart.
@@ -91,8 +92,8 @@ void EditorCell::removeMargins() {
 
 void EditorCell::limitWidth(int available) {
     auto& editor = *editor_.widget;
-    // Wide enough to move a handle and to read a number.
-    int const comfortable = qMin(available, comfortableWidth * editor.fontMetrics().averageCharWidth());
+    int const character = editor.fontMetrics().averageCharWidth();
+    int const comfortable = qBound(leastEditorWidth * character, available, comfortableWidth * character);
     auto const lists = editor.findChildren<QComboBox*>();
     for (auto* const list : lists)
         list->setMinimumWidth(qMin(comfortable, list->minimumSizeHint().width()));

@@ -36,6 +36,8 @@ public:
     bool isPlaceholder() const { return isPlaceholder_; }
     /// Which creator made the editor and why, or why there is none.
     Kolt::InputChoice const& choice() const { return editor_.choice; }
+    /// What was made, with the placeholder as its widget where there is one; without a widget while closed.
+    Kolt::Editor const& editor() const { return editor_; }
     /// The controls in the editor that take the focus, without those in its dialogs. REQUIRES: an open cell.
     std::vector<QWidget*> controls() const;
 

@@ -128,7 +128,7 @@ bool ParameterRow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {
-    fileText_ = FileButtonText::makeFor(*cell_.widget(), parameter, pools_);
+    help_ = EditorHelp::makeFor(cell_.editor(), parameter, pools_);
     if (auto const* const mark = UnenteredMark::makeFor(*cell_.widget(), parameter, pools_))
         connect(mark, &UnenteredMark::changed, this, &ParameterRow::updateAccessibility);
     // Made after the editor, so that it finds what the editor shows.
@@ -138,9 +138,9 @@ void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {
 void ParameterRow::checkEditor() {
     if (!cell_.canShowValue())
         reopenEditor();
-    if (!fileText_)
+    if (!help_)
         return;
-    fileText_->refresh();
+    help_->refresh();
     updateAccessibility();
 }
 
@@ -224,8 +224,8 @@ void ParameterRow::showPool() {
         cell_.showPool();
     else
         reopenEditor();
-    if (fileText_)
-        fileText_->refresh();
+    if (help_)
+        help_->refresh();
     if (rawValue_)
         rawValue_->refresh();
     showDefault();
@@ -345,9 +345,13 @@ int ParameterRow::nameWidth() const {
 }
 
 int ParameterRow::widthBesideEditor() const {
-    int const rawValue =
-        rawValue_ && !rawValue_->isHidden() ? rawValue_->minimumSizeHint().width() + layout_->spacing() : 0;
-    return names_->minimumWidth() + layout_->spacing() + rawValue;
+    int width = 0;
+    for (int index = 0; index < layout_->count(); ++index) {
+        auto* const item = layout_->itemAt(index);
+        if (item->widget() != cell_.widget() && item->widget() != scroller_ && !item->isEmpty())
+            width += item->minimumSize().width() + layout_->spacing();
+    }
+    return width;
 }
 
 void ParameterRow::fitInto(int width) {

@@ -5,8 +5,8 @@
 #include <parameters/input/GestureTarget.hpp>
 #include <parameters/rows/ChangeListener.hpp>
 #include <parameters/rows/EditorCell.hpp>
+#include <parameters/rows/EditorHelp.hpp>
 #include <parameters/rows/EditorScroller.hpp>
-#include <parameters/rows/FileButtonText.hpp>
 #include <parameters/rows/ModifiedIndicator.hpp>
 #include <parameters/rows/NameLabel.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
@@ -160,8 +160,8 @@ private:
     EditorCell cell_;
     // Around an editor that is wider than the row; null for others.
     QPointer<EditorScroller> scroller_;
-    // A child of a file button; null for other editors, and after the editor was deleted.
-    QPointer<FileButtonText> fileText_;
+    // Null for editors that need none, and after the editor was deleted.
+    QPointer<EditorHelp> help_;
     std::unique_ptr<ChangeListener> afterEditor_;
     std::shared_ptr<Kolt::EditRecorder> recorder_;
 };
