@@ -511,6 +511,10 @@
         <source>%1[*] – Talo panel</source>
         <translation>%1[*] – Talo-Bedienfeld</translation>
     </message>
+    <message>
+        <source>%1[*] – %2 – Talo panel</source>
+        <translation>%1[*] – %2 – Talo-Bedienfeld</translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageDock</name>
@@ -582,6 +586,13 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::NotificationCounter</name>
+    <message>
+        <source>Notifications of %1: %2</source>
+        <translation>Meldungen von %1: %2</translation>
     </message>
 </context>
 <context>

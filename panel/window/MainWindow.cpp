@@ -209,7 +209,13 @@ void MainWindow::openEditors() {
 }
 
 void MainWindow::showTitle() {
-    setWindowTitle(network() ? tr("%1[*] – Talo panel").arg(document_.title()) : tr("Talo panel"));
+    auto const name = network() ? QFileInfo(network()->file()).fileName() : QString();
+    if (!network())
+        setWindowTitle(tr("Talo panel"));
+    else if (name.isEmpty() || name == document_.title())
+        setWindowTitle(tr("%1[*] – Talo panel").arg(document_.title()));
+    else
+        setWindowTitle(tr("%1[*] – %2 – Talo panel").arg(document_.title(), name));
     setWindowFilePath(network() ? network()->file() : QString());
     auto const file = windowFilePath();
     setProperty(Talo::FileFolderProperty, file.isEmpty() ? QString() : QFileInfo(file).absolutePath());
