@@ -592,7 +592,7 @@
     <name>Panel::NotificationCounter</name>
     <message>
         <source>Notifications of %1: %2</source>
-        <translation>Meldungen von %1: %2</translation>
+        <translation>Benachrichtigungen von %1: %2</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/RefusedNumber.hpp>
+#include <parameters/rows/RowFit.hpp>
 #include <parameters/rows/RowTexts.hpp>
 #include <parameters/rows/UnenteredMark.hpp>
 #include <QApplication>
@@ -211,11 +212,7 @@ void ParameterRow::closeEditor() {
     afterEditor_.reset();
     delete unitLabel_;
     cell_.close();
-    if (scroller_) {
-        scroller_->hide();
-        scroller_->deleteLater();
-        scroller_ = nullptr;
-    }
+    dropScroller(scroller_);
     recorder_.reset();
 }
 
@@ -344,33 +341,12 @@ int ParameterRow::nameWidth() const {
                 note().isEmpty() ? 0 : noteLabel_->sizeHint().width());
 }
 
-int ParameterRow::widthBesideEditor() const {
-    int width = 0;
-    for (int index = 0; index < layout_->count(); ++index) {
-        auto* const item = layout_->itemAt(index);
-        if (item->widget() != cell_.widget() && item->widget() != scroller_ && !item->isEmpty())
-            width += item->minimumSize().width() + layout_->spacing();
-    }
-    return width;
-}
-
 void ParameterRow::fitInto(int width) {
-    auto* const editor = cell_.widget();
-    if (!editor)
-        return;
-    int const available = width - widthBesideEditor();
-    cell_.limitWidth(available);
-    if (scroller_ || cell_.leastWidth() <= available)
-        return;
-    layout_->removeWidget(editor);
-    scroller_ = new EditorScroller(editor, this);
-    layout_->insertWidget(1, scroller_, editorShare);
-    scroller_->show();
+    fitEditor(cell_, scroller_, *layout_, width);
 }
 
 QSize ParameterRow::sizeHint() const {
-    auto const hint = QWidget::sizeHint();
-    return {qMax(hint.width(), width()), hint.height()};
+    return QWidget::sizeHint().expandedTo({width(), 0});
 }
 
 bool ParameterRow::event(QEvent* event) {
@@ -413,21 +389,12 @@ void ParameterRow::showNote() {
     auto const note = noteText();
     if (note.isEmpty() && !noteLabel_)
         return;
-    if (!noteLabel_)
-        makeNoteLabel();
+    if (!noteLabel_) {
+        noteLabel_ = makeSmallLabel(names_);
+        names_->layout()->addWidget(noteLabel_);
+    }
     noteLabel_->setText(note);
     noteLabel_->setVisible(!note.isEmpty());
-}
-
-void ParameterRow::makeNoteLabel() {
-    noteLabel_ = new MutedLabel(QString(), names_);
-    noteLabel_->setTextFormat(Qt::PlainText);
-    alignWithLayout(*noteLabel_);
-    auto font = noteLabel_->font();
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * 0.85);
-    noteLabel_->setFont(font);
-    names_->layout()->addWidget(noteLabel_);
 }
 
 } // namespace Talo

@@ -129,7 +129,6 @@ private:
     /// Shows what the properties say now.
     void showDescription();
     void showUnit(QString const& unit);
-    int widthBesideEditor() const;
     void watchEditor(Kolt::ParameterPtr const& parameter);
     /// After a change of the value: makes an editor anew that cannot show it.
     void checkEditor();
@@ -138,7 +137,6 @@ private:
     void makeIndicator();
     void updateAccessibility();
     void showNote();
-    void makeNoteLabel();
     QString noteText() const;
     QString removedText() const;
 

@@ -117,7 +117,7 @@ TEST_F(RowWidthTest, ANameThatIsShortenedIsWholeInItsToolTipAndInAWideView) {
     auto const* const shown = area()->row(name);
     EXPECT_NE(shown->nameLabel()->text(), name);
     EXPECT_TRUE(shown->nameLabel()->text().contains(QChar(0x2026)));
-    EXPECT_TRUE(shown->creatorToolTip().contains(name));
+    EXPECT_TRUE(shown->toolTipText().contains(name));
     window->resize(2000, 480);
     EXPECT_TRUE(waitUntil([&] { return shown->nameLabel()->text() == name; }));
 }
