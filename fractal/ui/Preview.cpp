@@ -68,7 +68,7 @@ QSize Preview::sizeHint() const {
 }
 
 QSize Preview::minimumSizeHint() const {
-    return {200, 150};
+    return {140, 100};
 }
 
 void Preview::paintEvent(QPaintEvent*) {

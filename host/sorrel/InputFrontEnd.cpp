@@ -94,8 +94,13 @@ Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSourc
 }
 
 void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoolSource const* poolSource) {
+    if (parameter && parameter->keepsValuesPerPool())
+        showValue(editor, parameter, poolSource);
+}
+
+void showValue(Editor const& editor, ParameterPtr const& parameter, ValuePoolSource const* poolSource) {
     auto const input = editor.input.strong();
-    if (!input || !parameter || !parameter->keepsValuesPerPool())
+    if (!input || !parameter)
         return;
     auto const living = parameter;
     auto const pool = currentPool(poolSource);

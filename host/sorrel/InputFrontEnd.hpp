@@ -26,9 +26,14 @@ struct TALO_EXPORT Editor {
                                             ValuePoolSource* poolSource);
 
 /// Shows in an editor the value that is effective in the source's current pool: the pool's value, else the parameter's
-/// own. To be called after the pool was switched. Nothing is written: a copy of the own value that the editor stores
-/// when it is shown the value is removed again. A parameter with one value shows the same in
-/// every pool, so nothing happens for it, nor for a null parameter or a destroyed editor. User-interface thread.
+/// own. For an editor that shows something else meanwhile, such as that its user is choosing. Nothing is written, as
+/// with showPoolValue. Nothing happens for a null parameter or a destroyed editor. User-interface thread.
+TALO_EXPORT void showValue(Editor const& editor, ParameterPtr const& parameter, ValuePoolSource const* poolSource);
+
+/// Shows in an editor the value that is effective in the source's current pool. To be called after the pool was
+/// switched. Nothing is written: a copy of the own value that the editor stores when it is shown the value is removed
+/// again. A parameter with one value shows the same in every pool, so nothing happens for it, nor for a null parameter
+/// or a destroyed editor. User-interface thread.
 TALO_EXPORT void showPoolValue(Editor const& editor, ParameterPtr const& parameter, ValuePoolSource const* poolSource);
 
 } // namespace Kolt

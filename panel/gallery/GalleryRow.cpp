@@ -39,6 +39,7 @@ GalleryRow::GalleryRow(Kolt::InputRegistry::Entry const& entry, Kolt::ParameterP
         layout->addWidget(cells_.at(index), 1);
     }
     layout->addWidget(rawValue_);
+    rawValue_->setFixedWidth(rawValue_->sizeHint().width());
     layout->addWidget(counter_);
 
     auto const chosen = editors_.front().choice().creator.strong();

@@ -4,7 +4,8 @@
 
 namespace Panel {
 
-NotificationCounter::NotificationCounter(Kolt::ParameterPtr const& parameter, QWidget* parent) : QLabel(parent) {
+NotificationCounter::NotificationCounter(Kolt::ParameterPtr const& parameter, QWidget* parent)
+    : QLabel(parent), parameterName_(parameter ? QString::fromStdString(parameter->Name()) : QString()) {
     if (parameter)
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     Talo::alignWithLayout(*this);
@@ -22,6 +23,7 @@ void NotificationCounter::onValueChange(Kolt::ValuePtr const&, Kolt::VContext co
 
 void NotificationCounter::showCount() {
     setText(QString::number(count_));
+    setAccessibleName(tr("Notifications of %1: %2").arg(parameterName_, text()));
 }
 
 } // namespace Panel

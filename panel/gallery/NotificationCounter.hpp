@@ -22,6 +22,7 @@ private:
                        Kolt::ValueMap const* properties) override;
     void showCount();
 
+    QString const parameterName_;
     std::atomic<int> count_{0};
 };
 

@@ -511,6 +511,28 @@
         <source>%1[*] – Talo panel</source>
         <translation>%1[*] – Talo-Bedienfeld</translation>
     </message>
+    <message>
+        <source>%1[*] – %2 – Talo panel</source>
+        <translation>%1[*] – %2 – Talo-Bedienfeld</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MessageDock</name>
+    <message>
+        <source>Shows or hides what the panel and its plug-ins print.</source>
+        <translation>Zeigt oder verbirgt, was das Bedienfeld und seine Plug-ins ausgeben.</translation>
+    </message>
+    <message>
+        <source>1 line of output</source>
+        <translation>1 Zeile Ausgabe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines of output</source>
+        <translation>
+            <numerusform>%n Zeile Ausgabe</numerusform>
+            <numerusform>%n Zeilen Ausgabe</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageList</name>
@@ -564,6 +586,13 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::NotificationCounter</name>
+    <message>
+        <source>Notifications of %1: %2</source>
+        <translation>Benachrichtigungen von %1: %2</translation>
     </message>
 </context>
 <context>

@@ -511,6 +511,28 @@
         <source>%1[*] – Talo panel</source>
         <translation>%1[*] – Panneau Talo</translation>
     </message>
+    <message>
+        <source>%1[*] – %2 – Talo panel</source>
+        <translation>%1[*] – %2 – Panneau Talo</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::MessageDock</name>
+    <message>
+        <source>Shows or hides what the panel and its plug-ins print.</source>
+        <translation>Affiche ou masque ce que le panneau et ses greffons écrivent.</translation>
+    </message>
+    <message>
+        <source>1 line of output</source>
+        <translation>1 ligne de sortie</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines of output</source>
+        <translation>
+            <numerusform>%n ligne de sortie</numerusform>
+            <numerusform>%n lignes de sortie</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageList</name>
@@ -564,6 +586,13 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::NotificationCounter</name>
+    <message>
+        <source>Notifications of %1: %2</source>
+        <translation>Notifications de %1 : %2</translation>
     </message>
 </context>
 <context>

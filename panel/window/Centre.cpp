@@ -15,7 +15,7 @@ Centre::Centre(NoticeBar* notices, QWidget* narrowColumn, QWidget* wideColumn) {
     columns->setStretchFactor(1, 1);
     columns->setSizes({220, 780});
     columns->setChildrenCollapsible(false);
-    narrowColumn->setMinimumWidth(160);
+    narrowColumn->setMinimumWidth(150);
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -16,8 +16,8 @@ namespace Panel {
 
 namespace {
 
-// In pixels; as wide as the list of objects and half of the editors.
-constexpr int previewWidth = 400;
+// Of the window's width; about as much as the list of objects and half of the editors.
+constexpr double previewShare = 1.0 / 3;
 
 // How long messages stay in the status bar, in milliseconds.
 constexpr int refusalTime = 8000;
@@ -70,11 +70,18 @@ void MainWindow::makeDocks() {
     // Qt leaks a dock animation that runs when the window is deleted.
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
     addDockWidget(trailingDockArea(layoutDirection()), fractal_->dock());
+    previewShare_ = new DockShare(*this, *fractal_->dock(), previewShare);
     addDockWidget(trailingDockArea(layoutDirection()), historyDock_);
     addDockWidget(trailingDockArea(layoutDirection()), helpDock_);
-    resizeDocks({fractal_->dock()}, {previewWidth}, Qt::Horizontal);
     statusBar()->addPermanentWidget(fractal_->progressWidget());
     statusBar()->addPermanentWidget(pluginMenu_->statusLabel());
+}
+
+bool MainWindow::restoreDocks(QByteArray const& state, int version) {
+    bool const restored = restoreState(state, version);
+    if (restored)
+        previewShare_->adoptWidth();
+    return restored;
 }
 
 void MainWindow::makeEditMenu() {
@@ -202,7 +209,13 @@ void MainWindow::openEditors() {
 }
 
 void MainWindow::showTitle() {
-    setWindowTitle(network() ? tr("%1[*] – Talo panel").arg(document_.title()) : tr("Talo panel"));
+    auto const name = network() ? QFileInfo(network()->file()).fileName() : QString();
+    if (!network())
+        setWindowTitle(tr("Talo panel"));
+    else if (name.isEmpty() || name == document_.title())
+        setWindowTitle(tr("%1[*] – Talo panel").arg(document_.title()));
+    else
+        setWindowTitle(tr("%1[*] – %2 – Talo panel").arg(document_.title(), name));
     setWindowFilePath(network() ? network()->file() : QString());
     auto const file = windowFilePath();
     setProperty(Talo::FileFolderProperty, file.isEmpty() ? QString() : QFileInfo(file).absolutePath());

@@ -2,6 +2,7 @@
 
 #include <fractal/ui/FractalController.hpp>
 #include <memory>
+#include <panel/window/DockShare.hpp>
 #include <panel/window/Document.hpp>
 #include <panel/window/FileMenu.hpp>
 #include <panel/window/FileNotices.hpp>
@@ -62,6 +63,9 @@ public:
     void setFilter(QString const& words) { toolBar_->filterField()->setText(words); }
     /// From now on lines on standard output are messages, too.
     void tapStandardOutput() { messageDock_->tapStandardOutput(); }
+
+    /// Gives the docks the places that QMainWindow::saveState wrote with this version; false if they cannot be read.
+    bool restoreDocks(QByteArray const& state, int version);
 
     /// The view of the chosen object; null if none is chosen.
     ObjectView* currentView() const { return views_->currentView(); }
@@ -140,6 +144,7 @@ private:
     PluginMenu* const pluginMenu_;
     HistoryDock* const historyDock_;
     HelpDock* const helpDock_;
+    DockShare* previewShare_ = nullptr;
     ViewMenu* const viewMenu_;
 };
 

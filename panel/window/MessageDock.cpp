@@ -1,5 +1,7 @@
 #include <panel/window/MessageDock.hpp>
 
+#include <QVBoxLayout>
+
 namespace Panel {
 
 namespace {
@@ -10,9 +12,9 @@ constexpr int usualHeight = 110;
 } // namespace
 
 MessageDock::MessageDock(QMainWindow& window)
-    : QDockWidget(MessageList::tr("Messages"), &window), messages_(new MessageList) {
+    : QDockWidget(MessageList::tr("Messages"), &window), messages_(new MessageList), outputButton_(new QToolButton) {
     setObjectName(QStringLiteral("messages"));
-    setWidget(messages_);
+    setWidget(makePage());
     window.addDockWidget(Qt::BottomDockWidgetArea, this);
     window.resizeDocks({this}, {usualHeight}, Qt::Vertical);
     connect(&warnings_, &WarningListener::warned, messages_,
@@ -20,6 +22,28 @@ MessageDock::MessageDock(QMainWindow& window)
 }
 
 MessageDock::~MessageDock() = default;
+
+QWidget* MessageDock::makePage() {
+    outputButton_->setObjectName(QStringLiteral("outputCount"));
+    outputButton_->setCheckable(true);
+    outputButton_->setToolTip(tr("Shows or hides what the panel and its plug-ins print."));
+    showOutputCount(0);
+    connect(outputButton_, &QToolButton::toggled, messages_, &MessageList::setOutputShown);
+    connect(messages_, &MessageList::outputCounted, this, &MessageDock::showOutputCount);
+
+    auto* const page = new QWidget;
+    auto* const layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(messages_, 1);
+    layout->addWidget(outputButton_);
+    return page;
+}
+
+void MessageDock::showOutputCount(int count) {
+    outputButton_->setText(count == 1 ? tr("1 line of output") : tr("%n lines of output", nullptr, count));
+    outputButton_->setVisible(count > 0);
+}
 
 void MessageDock::tapStandardOutput() {
     if (outputTap_)

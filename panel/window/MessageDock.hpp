@@ -6,10 +6,12 @@
 #include <panel/window/WarningListener.hpp>
 #include <QDockWidget>
 #include <QMainWindow>
+#include <QToolButton>
 
 namespace Panel {
 
-/// The messages below a window: what the window adds itself, the host's warnings, and on demand what is printed.
+/// The messages below a window: what the window adds itself, the host's warnings, and on demand what is printed. A
+/// button below the list counts the printed lines and shows or hides them.
 ///
 /// One for the process at a time, as it hears the host's warnings. User-interface thread.
 class MessageDock : public QDockWidget {
@@ -25,7 +27,11 @@ public:
     void tapStandardOutput();
 
 private:
+    QWidget* makePage();
+    void showOutputCount(int count);
+
     MessageList* const messages_;
+    QToolButton* const outputButton_;
     WarningListener warnings_;
     std::unique_ptr<StandardOutputTap> outputTap_;
 };

@@ -1,5 +1,6 @@
 #include <panel/window/MessageList.hpp>
 
+#include <memory>
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/TextDirectionDelegate.hpp>
 #include <QAction>
@@ -9,6 +10,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QTime>
+#include <utility>
 
 namespace Panel {
 
@@ -64,23 +66,14 @@ MessageList::MessageList(QWidget* parent) : QTreeWidget(parent) {
     });
     addActions({copyAction, clearAction});
     setContextMenuPolicy(Qt::ActionsContextMenu);
+    // The list was cleared.
+    connect(model(), &QAbstractItemModel::modelReset, this, [this] { countOutput(0); });
 }
 
 MessageList::~MessageList() = default;
 
 void MessageList::add(Source source, QString const& text) {
-    bool const atEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
-    // Later, and once for many messages: scrolling lays the rows out.
-    if (atEnd && !scrollWaits_) {
-        scrollWaits_ = true;
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                scrollWaits_ = false;
-                scrollToBottom();
-            },
-            Qt::QueuedConnection);
-    }
+    scrollToNewEnd();
     auto* const item =
         new QTreeWidgetItem({QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), sourceName(source), text});
     item->setData(sourceColumn, sourceRole, static_cast<int>(source));
@@ -92,8 +85,51 @@ void MessageList::add(Source source, QString const& text) {
         item->setFont(sourceColumn, font);
     }
     addTopLevelItem(item);
+    if (source == Source::Output) {
+        item->setHidden(!outputShown_);
+        countOutput(outputCount_ + 1);
+    }
     if (topLevelItemCount() > Capacity)
-        delete takeTopLevelItem(0);
+        removeOldest();
+}
+
+void MessageList::scrollToNewEnd() {
+    bool const atEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    // Later, and once for many messages: scrolling lays the rows out.
+    if (!atEnd || scrollWaits_)
+        return;
+    scrollWaits_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            scrollWaits_ = false;
+            scrollToBottom();
+        },
+        Qt::QueuedConnection);
+}
+
+void MessageList::removeOldest() {
+    std::unique_ptr<QTreeWidgetItem> const oldest(takeTopLevelItem(0));
+    if (isOutput(*oldest))
+        countOutput(outputCount_ - 1);
+}
+
+bool MessageList::isOutput(QTreeWidgetItem const& item) {
+    return item.data(sourceColumn, sourceRole).toInt() == static_cast<int>(Source::Output);
+}
+
+void MessageList::countOutput(int count) {
+    if (std::exchange(outputCount_, count) != count)
+        emit outputCounted(count);
+}
+
+void MessageList::setOutputShown(bool shown) {
+    outputShown_ = shown;
+    for (int index = 0; index < topLevelItemCount(); ++index) {
+        auto* const item = topLevelItem(index);
+        if (isOutput(*item))
+            item->setHidden(!shown);
+    }
 }
 
 QStringList MessageList::texts() const {

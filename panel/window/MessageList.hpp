@@ -5,8 +5,8 @@
 
 namespace Panel {
 
-/// What was printed, warned of and done while the panel ran, each with its time, the latest last. User-interface
-/// thread.
+/// What was printed, warned of and done while the panel ran, each with its time, the latest last. What was printed is
+/// hidden at first: it is meant for those who write plug-ins. User-interface thread.
 class MessageList : public QTreeWidget {
     Q_OBJECT
 
@@ -31,8 +31,23 @@ public:
     QStringList texts() const;
     /// The texts from one source, the latest last.
     QStringList texts(Source source) const;
+    /// How many of the messages were printed.
+    int outputCount() const { return outputCount_; }
+    /// Shows or hides what was printed, and what will be.
+    void setOutputShown(bool shown);
+
+signals:
+    /// There is another number of printed messages.
+    void outputCounted(int count);
 
 private:
+    static bool isOutput(QTreeWidgetItem const& item);
+    void countOutput(int count);
+    void removeOldest();
+    void scrollToNewEnd();
+
+    int outputCount_ = 0;
+    bool outputShown_ = false;
     bool scrollWaits_ = false;
 };
 

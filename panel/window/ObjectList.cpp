@@ -6,6 +6,13 @@
 
 namespace Panel {
 
+namespace {
+
+// In pixels; an icon needs them.
+constexpr int leastRowHeight = 34;
+
+} // namespace
+
 ObjectList::ObjectList(Kolt::ValuePoolSource& pools, QWidget* parent) : QTreeWidget(parent), iconMaker_(pools) {
     setHeaderHidden(true);
     // Nothing folds out; the indentation is the left margin.
@@ -30,12 +37,24 @@ void ObjectList::showNetwork(Talo::Network const* network) {
         return;
     for (auto const& object : network->objects()) {
         auto* const item = new QTreeWidgetItem(this, {QString::fromStdString(object->Name())});
-        // Room for an icon, also where there is none, so that the rows are even.
-        item->setSizeHint(0, {0, 34});
         item->setToolTip(0, Talo::plainToolTip(network->kind(object)));
         objects_.emplace_back(object);
     }
+    setRowHeights();
     openIcons();
+}
+
+void ObjectList::setRowHeights() {
+    // Room for an icon, also where there is none, so that the rows are even.
+    int const height = qMax(leastRowHeight, 2 * fontMetrics().height());
+    for (int index = 0; index < topLevelItemCount(); ++index)
+        topLevelItem(index)->setSizeHint(0, {0, height});
+}
+
+void ObjectList::changeEvent(QEvent* event) {
+    QTreeWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        setRowHeights();
 }
 
 bool ObjectList::chooseObject(QString const& name) {

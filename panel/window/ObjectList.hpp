@@ -41,8 +41,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void setRowHeights();
     void makeIcon(QTreeWidgetItem* item);
     void makeVisibleIcons();
     QTreeWidgetItem* findItem(QString const& name) const;

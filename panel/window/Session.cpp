@@ -114,7 +114,7 @@ void Session::restoreNetwork() {
         docks = found->docks;
     }
     nameViewDocks();
-    window_->restoreState(docks, dockVersion);
+    window_->restoreDocks(docks, dockVersion);
 }
 
 void Session::keep() {

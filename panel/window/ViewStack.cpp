@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <panel/look/Look.hpp>
+#include <QCoreApplication>
 #include <QDockWidget>
 
 namespace Panel {
@@ -9,6 +10,9 @@ namespace Panel {
 namespace {
 
 constexpr int keptViews = 8;
+
+// In lines; docks that would be lower become tabs.
+constexpr int leastViewHeight = 12;
 
 QString nameOf(Kolt::ObjectPtr const& object) {
     return object ? QString::fromStdString(object->Name()) : QString();
@@ -82,10 +86,39 @@ ObjectView* ViewStack::addView() {
     dock->setAttribute(Qt::WA_DeleteOnClose);
     auto* const view = makeView(object, current->kind(), dock);
     dock->setWidget(view);
-    int const half = width() / 2;
-    window_.addDockWidget(trailingDockArea(layoutDirection()), dock);
-    window_.resizeDocks({dock}, {half}, Qt::Horizontal);
+    placeBesideForm(*dock);
     return view;
+}
+
+void ViewStack::placeBesideForm(QDockWidget& dock) {
+    auto const area = trailingDockArea(layoutDirection());
+    QList<QDockWidget*> docks;
+    int height = 0;
+    int width = this->width() / 2;
+    auto const all = window_.findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (auto* const other : all) {
+        if (!other->isVisible() || other->isFloating() || window_.dockWidgetArea(other) != area)
+            continue;
+        docks << other;
+        height += other->height();
+        width = other->width();
+    }
+    docks << &dock;
+    window_.addDockWidget(area, &dock);
+    int const each = height / docks.size();
+    if (docks.size() > 1 && each < leastViewHeight * fontMetrics().height()) {
+        window_.tabifyDockWidget(docks.at(docks.size() - 2), &dock);
+        dock.show();
+        dock.raise();
+    }
+    // Qt knows the sizes of a new dock only then.
+    QCoreApplication::sendPostedEvents(&window_, QEvent::LayoutRequest);
+    QList<int> heights;
+    for (int index = 0; index < docks.size(); ++index)
+        heights << each;
+    if (docks.size() > 1)
+        window_.resizeDocks(docks, heights, Qt::Vertical);
+    window_.resizeDocks({&dock}, {width}, Qt::Horizontal);
 }
 
 void ViewStack::closeViews() {

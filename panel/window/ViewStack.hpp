@@ -58,6 +58,9 @@ signals:
 private:
     /// Has the sections of the other views of the same object as they are in this one.
     void followFolding(ObjectView const& view);
+    /// Gives a new dock half of the form's room, or its share of what the docks beside it have. Where that is too
+    /// little, it becomes a tab.
+    void placeBesideForm(QDockWidget& dock);
     ObjectView* makeView(Kolt::ObjectPtr const& object, QString const& kind, QWidget* parent);
 
     Kolt::ValuePoolSource& pools_;

@@ -1,8 +1,11 @@
 #include <parameters/commands/UndoText.hpp>
 
 #include <algorithm>
+#include <bramble/Color.hpp>
 #include <bramble/FlagList.hpp>
 #include <bramble/MultipleStringSelection.hpp>
+#include <cmath>
+#include <QColor>
 #include <QCoreApplication>
 #include <QStringList>
 
@@ -27,7 +30,22 @@ QString flagsText(Kolt::FlagList const& flags) {
     return on.join(QLatin1String(", "));
 }
 
+QString colourText(Ferro::rgba_float_t const& colour) {
+    auto const channel = [](float value) { return qBound(0, qRound(255 * static_cast<double>(value)), 255); };
+    auto const name = QColor(channel(colour.red), channel(colour.green), channel(colour.blue)).name();
+    return colour.alpha == 1.0F
+               ? name
+               : UndoTexts::tr("%1, alpha %2").arg(name, QString::number(static_cast<double>(colour.alpha), 'f', 2));
+}
+
+bool isNumber(Ferro::rgba_float_t const& colour) {
+    return std::isfinite(colour.red) && std::isfinite(colour.green) && std::isfinite(colour.blue);
+}
+
 QString wholeText(Kolt::VValueBase const& value) {
+    auto const colour = Kolt::valueIn<Ferro::rgba_float_t>(&value);
+    if (colour && isNumber(*colour))
+        return colourText(*colour);
     if (auto const flags = Kolt::valueIn<Kolt::FlagList>(&value))
         return flagsText(*flags);
     bool const isList = Kolt::typedValue<Kolt::VMultipleStringList>(&value);

@@ -25,6 +25,20 @@ QSize ContentArea::minimumSizeHint() const {
             QScrollArea::minimumSizeHint().height()};
 }
 
+void ContentArea::focusInEvent(QFocusEvent* event) {
+    QScrollArea::focusInEvent(event);
+    if (!outline_)
+        outline_ = new FocusOutline(this);
+    outline_->raise();
+    outline_->show();
+}
+
+void ContentArea::focusOutEvent(QFocusEvent* event) {
+    QScrollArea::focusOutEvent(event);
+    if (outline_)
+        outline_->hide();
+}
+
 bool ContentArea::eventFilter(QObject* watched, QEvent* event) {
     // The base watches the content already.
     if (event->type() == QEvent::LayoutRequest)

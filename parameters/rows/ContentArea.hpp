@@ -1,12 +1,14 @@
 #pragma once
 
+#include <parameters/input/FocusOutline.hpp>
 #include <QScrollArea>
 #include <tessera/Export.hpp>
 
 namespace Talo {
 
 /// Scrolls its content up and down. It is at least as wide as the content needs to be, so that nothing is cut off at
-/// the side, unless that is more than a small screen has.
+/// the side, unless that is more than a small screen has. With the keyboard focus, which lets the keys scroll it, it
+/// has an outline.
 class TALO_EXPORT ContentArea : public QScrollArea {
     Q_OBJECT
 
@@ -19,6 +21,12 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    // Made when it is first needed.
+    FocusOutline* outline_ = nullptr;
 };
 
 } // namespace Talo

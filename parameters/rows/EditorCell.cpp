@@ -8,6 +8,7 @@
 #include <parameters/rows/ButtonCaption.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
 #include <QAbstractItemView>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -22,8 +23,9 @@ struct Texts {
     Q_DECLARE_TR_FUNCTIONS(EditorCell)
 };
 
-// In characters.
-constexpr int leastEditorWidth = 30;
+// In characters. The latter is wide enough to move a handle and to read a number.
+constexpr int leastEditorWidth = 4;
+constexpr int comfortableWidth = 30;
 
 /// The width beyond which the controls of an editor only move apart.
 int usefulWidth(QLayout const& layout) {
@@ -88,16 +90,25 @@ void EditorCell::removeMargins() {
         layout->setContentsMargins(0, 0, 0, 0);
 }
 
-void EditorCell::limitWidth() {
+void EditorCell::limitWidth(int available) {
     auto& editor = *editor_.widget;
-    int const leastWidth = editor.minimumSizeHint().width();
+    int const character = editor.fontMetrics().averageCharWidth();
+    int const comfortable = qBound(leastEditorWidth * character, available, comfortableWidth * character);
+    auto const lists = editor.findChildren<QComboBox*>();
+    for (auto* const list : lists)
+        list->setMinimumWidth(qMin(comfortable, list->minimumSizeHint().width()));
+    int const least = leastWidth();
     auto const* const layout = editor.layout();
-    int const mostWidth = layout ? qMax(leastWidth, usefulWidth(*layout)) : QLAYOUTSIZE_MAX;
-    // Wide enough to move a handle and to read a number.
-    editor.setMinimumWidth(
-        qMin(mostWidth, qMax(leastWidth, leastEditorWidth * editor.parentWidget()->fontMetrics().averageCharWidth())));
-    if (mostWidth < QLAYOUTSIZE_MAX)
-        editor.setMaximumWidth(mostWidth);
+    int const most = layout ? qMax(least, usefulWidth(*layout)) : QLAYOUTSIZE_MAX;
+    editor.setMinimumWidth(qMin(most, qMax(least, comfortable)));
+    if (most < QLAYOUTSIZE_MAX)
+        editor.setMaximumWidth(most);
+}
+
+int EditorCell::leastWidth() const {
+    auto const& editor = *editor_.widget;
+    // A file's name is shortened by its button, which has all of it in its tool tip.
+    return qobject_cast<QPushButton const*>(&editor) ? 0 : editor.minimumSizeHint().width();
 }
 
 std::vector<QWidget*> EditorCell::controls() const {

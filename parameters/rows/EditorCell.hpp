@@ -36,14 +36,20 @@ public:
     bool isPlaceholder() const { return isPlaceholder_; }
     /// Which creator made the editor and why, or why there is none.
     Kolt::InputChoice const& choice() const { return editor_.choice; }
+    /// What was made, with the placeholder as its widget where there is one; without a widget while closed.
+    Kolt::Editor const& editor() const { return editor_; }
     /// The controls in the editor that take the focus, without those in its dialogs. REQUIRES: an open cell.
     std::vector<QWidget*> controls() const;
 
     /// Removes the margins around the controls of an editor without a frame, so that the controls of all rows begin at
     /// one edge. REQUIRES: an open cell.
     void removeMargins();
-    /// Limits the editor's width to what its controls need and can use. REQUIRES: an open cell.
-    void limitWidth();
+    /// Limits the editor's width to what its controls need and can use, where this many pixels are available. Some
+    /// editors set their size with each value, so it is to be called again when one asks for another size. REQUIRES: an
+    /// open cell.
+    void limitWidth(int available);
+    /// The least width at which no control is cut off, in pixels. REQUIRES: an open cell.
+    int leastWidth() const;
     /// Whether the editor can show what the pool source's pool holds. The buttons of an enumeration are those of the
     /// value with which it was made, and once one is marked, one stays marked. An editor that cannot is to be closed
     /// and opened again. True for a closed cell.

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <lattice/Parameter.hpp>
-#include <parameters/PoolSourceRef.hpp>
+#include <parameters/rows/EditorHelp.hpp>
 #include <QPushButton>
 
 namespace Talo {
@@ -10,7 +9,7 @@ namespace Talo {
 /// have the caption and the whole name, and if no name is chosen, the button shows its caption, which the editor itself
 /// replaces by the name. The caption is what an editor for an empty name shows. Owned by the button. User-interface
 /// thread.
-class FileButtonText : public QObject {
+class FileButtonText : public EditorHelp {
     Q_OBJECT
 
 public:
@@ -18,8 +17,7 @@ public:
     static FileButtonText* makeFor(QWidget& editor, Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools);
     ~FileButtonText() override;
 
-    /// Shows what the current pool holds. To be called after the editor was changed, too.
-    void refresh();
+    void refresh() override;
     /// The chosen name; empty for none.
     QString const& name() const { return name_; }
 

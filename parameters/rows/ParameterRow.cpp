@@ -6,6 +6,7 @@
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/RefusedNumber.hpp>
+#include <parameters/rows/RowFit.hpp>
 #include <parameters/rows/RowTexts.hpp>
 #include <parameters/rows/UnenteredMark.hpp>
 #include <QApplication>
@@ -41,12 +42,9 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
       parameter_(parameter),
       pools_(pools),
       names_(new QWidget(this)),
-      nameLabel_(new QLabel(names_)),
+      nameLabel_(new NameLabel(names_)),
       layout_(new QHBoxLayout(this)),
       cell_(parameter, pools) {
-    nameLabel_->setTextFormat(Qt::PlainText);
-    alignWithLayout(*nameLabel_);
-
     auto* const names = new QVBoxLayout(names_);
     names->setContentsMargins(0, 4, 0, 4);
     names->setSpacing(0);
@@ -92,7 +90,9 @@ void ParameterRow::openEditor() {
     if (isEdited)
         recorder_ = Kolt::EditRecorder::watch(parameter);
     cell_.removeMargins();
-    cell_.limitWidth();
+    if (auto* const text = isEdited ? nullptr : qobject_cast<QLabel*>(editor))
+        text->setWordWrap(true);
+    cell_.limitWidth(QWIDGETSIZE_MAX);
     layout_->insertWidget(1, editor, editorShare);
     editor->show();
     ParameterDescription const description(*parameter);
@@ -129,7 +129,7 @@ bool ParameterRow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {
-    fileText_ = FileButtonText::makeFor(*cell_.widget(), parameter, pools_);
+    help_ = EditorHelp::makeFor(cell_.editor(), parameter, pools_);
     if (auto const* const mark = UnenteredMark::makeFor(*cell_.widget(), parameter, pools_))
         connect(mark, &UnenteredMark::changed, this, &ParameterRow::updateAccessibility);
     // Made after the editor, so that it finds what the editor shows.
@@ -139,9 +139,9 @@ void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {
 void ParameterRow::checkEditor() {
     if (!cell_.canShowValue())
         reopenEditor();
-    if (!fileText_)
+    if (!help_)
         return;
-    fileText_->refresh();
+    help_->refresh();
     updateAccessibility();
 }
 
@@ -180,9 +180,7 @@ void ParameterRow::showDescription() {
     if (!parameter)
         return;
     ParameterDescription const description(*parameter);
-    // A label with a buddy takes an ampersand for the mark of a shortcut.
-    auto label = description.label;
-    nameLabel_->setText(label.replace(QLatin1Char('&'), QLatin1String("&&")));
+    nameLabel_->setName(description.label);
     if (!cell_.widget())
         return;
     showUnit(description.unit);
@@ -214,6 +212,7 @@ void ParameterRow::closeEditor() {
     afterEditor_.reset();
     delete std::exchange(unitLabel_, nullptr);
     cell_.close();
+    dropScroller(scroller_);
     recorder_.reset();
 }
 
@@ -222,8 +221,8 @@ void ParameterRow::showPool() {
         cell_.showPool();
     else
         reopenEditor();
-    if (fileText_)
-        fileText_->refresh();
+    if (help_)
+        help_->refresh();
     if (rawValue_)
         rawValue_->refresh();
     showDefault();
@@ -334,16 +333,20 @@ void ParameterRow::setRawValueShown(bool shown) {
 
 void ParameterRow::setNameWidth(int width) {
     names_->setFixedWidth(width);
+    nameLabel_->shortenTo(width - indicatorDistance - ModifiedIndicator::side(*nameLabel_));
 }
 
 int ParameterRow::nameWidth() const {
-    return qMax(nameLabel_->sizeHint().width() + indicatorDistance + ModifiedIndicator::side(*nameLabel_),
+    return qMax(nameLabel_->wholeWidth() + indicatorDistance + ModifiedIndicator::side(*nameLabel_),
                 note().isEmpty() ? 0 : noteLabel_->sizeHint().width());
 }
 
+void ParameterRow::fitInto(int width) {
+    fitEditor(cell_, scroller_, *layout_, width);
+}
+
 QSize ParameterRow::sizeHint() const {
-    auto const hint = QWidget::sizeHint();
-    return {qMax(hint.width(), width()), hint.height()};
+    return QWidget::sizeHint().expandedTo({width(), 0});
 }
 
 bool ParameterRow::event(QEvent* event) {
@@ -386,21 +389,12 @@ void ParameterRow::showNote() {
     auto const note = noteText();
     if (note.isEmpty() && !noteLabel_)
         return;
-    if (!noteLabel_)
-        makeNoteLabel();
+    if (!noteLabel_) {
+        noteLabel_ = makeSmallLabel(names_);
+        names_->layout()->addWidget(noteLabel_);
+    }
     noteLabel_->setText(note);
     noteLabel_->setVisible(!note.isEmpty());
-}
-
-void ParameterRow::makeNoteLabel() {
-    noteLabel_ = new MutedLabel(QString(), names_);
-    noteLabel_->setTextFormat(Qt::PlainText);
-    alignWithLayout(*noteLabel_);
-    auto font = noteLabel_->font();
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * 0.85);
-    noteLabel_->setFont(font);
-    names_->layout()->addWidget(noteLabel_);
 }
 
 } // namespace Talo

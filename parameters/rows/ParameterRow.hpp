@@ -5,8 +5,10 @@
 #include <parameters/input/GestureTarget.hpp>
 #include <parameters/rows/ChangeListener.hpp>
 #include <parameters/rows/EditorCell.hpp>
-#include <parameters/rows/FileButtonText.hpp>
+#include <parameters/rows/EditorHelp.hpp>
+#include <parameters/rows/EditorScroller.hpp>
 #include <parameters/rows/ModifiedIndicator.hpp>
+#include <parameters/rows/NameLabel.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
 #include <QLabel>
 #include <QWidget>
@@ -85,6 +87,8 @@ public:
     void setNameWidth(int width);
     /// The width that the name and the note need, in pixels.
     int nameWidth() const;
+    /// Limits the editor to what a row of this width leaves it. One that cannot become so narrow scrolls from then on.
+    void fitInto(int width);
 
     /// The commands for the value in the current pool. Reset and paste are undo steps. What cannot be done is
     /// `refused`.
@@ -133,7 +137,6 @@ private:
     void makeIndicator();
     void updateAccessibility();
     void showNote();
-    void makeNoteLabel();
     QString noteText() const;
     QString removedText() const;
 
@@ -142,7 +145,7 @@ private:
     Kolt::ParameterRef const parameter_;
     PoolSourceRef const pools_;
     QWidget* const names_;
-    QLabel* const nameLabel_;
+    NameLabel* const nameLabel_;
     QHBoxLayout* const layout_;
     // Made when first needed: most rows never need them.
     ModifiedIndicator* indicator_ = nullptr;
@@ -153,8 +156,10 @@ private:
     // How the name is aligned with the editor.
     Qt::Alignment vertical_ = Qt::AlignVCenter;
     EditorCell cell_;
-    // A child of a file button; null for other editors, and after the editor was deleted.
-    QPointer<FileButtonText> fileText_;
+    // Around an editor that is wider than the row; null for others.
+    QPointer<EditorScroller> scroller_;
+    // Null for editors that need none, and after the editor was deleted.
+    QPointer<EditorHelp> help_;
     std::unique_ptr<ChangeListener> afterEditor_;
     std::shared_ptr<Kolt::EditRecorder> recorder_;
 };

@@ -8,7 +8,9 @@ namespace Talo {
 
 RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools, QWidget* parent)
     : QWidget(parent), parameter_(parameter), pools_(pools) {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Minimum);
+    if (parameter)
+        setAccessibleName(tr("Raw value of %1").arg(QString::fromStdString(parameter->Name())));
     if (parameter)
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     refresh();
@@ -32,10 +34,14 @@ void RawValueLabel::refresh() {
         auto const pool = pools_.pool();
         auto const value = parameter->effectiveValue(pool);
         text = QString::fromStdString(value->Text());
-        stamp = tr("age %1").arg(value->age());
-        if (parameter->keepsValuesPerPool())
-            stamp += value != parameter->ownValue() ? tr(", pool %1").arg(QString::fromStdString(pool->Name()))
-                                                    : tr(", own value");
+        auto const age = QString::number(value->age());
+        auto const poolName = pool ? QString::fromStdString(pool->Name()) : QString();
+        if (!parameter->keepsValuesPerPool() || !pool)
+            stamp = tr("age %1").arg(age);
+        else if (value != parameter->ownValue())
+            stamp = tr("age %1, pool %2").arg(age, poolName);
+        else
+            stamp = tr("age %1, not set in pool %2").arg(age, poolName);
     } else {
         stamp = tr("removed");
     }
@@ -62,7 +68,7 @@ QSize RawValueLabel::sizeHint() const {
 }
 
 QSize RawValueLabel::minimumSizeHint() const {
-    return sizeHint();
+    return {10 * fontMetrics().averageCharWidth(), sizeHint().height()};
 }
 
 void RawValueLabel::paintEvent(QPaintEvent*) {

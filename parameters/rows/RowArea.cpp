@@ -17,6 +17,9 @@ namespace {
 // In pixels.
 constexpr QMargins contentMargins(12, 6, 12, 12);
 
+// In characters, so that two forms fit into a small window; enough for a short name and a number.
+constexpr int leastRowWidth = 20;
+
 constexpr RowLayout::Spacing spacing{contentMargins.top(), contentMargins.bottom(), 12, 6, 36};
 
 // How many rows out of sight are kept, so that scrolling a little to and fro makes no rows.
@@ -198,13 +201,12 @@ void RowArea::measure(std::size_t place) {
     if (row.nameWidth() > nameWidth_) {
         nameWidth_ = row.nameWidth();
         for (auto* const each : rows())
-            each->setNameWidth(nameWidth_);
+            each->setNameWidth(nameColumn());
     }
-    row.setNameWidth(nameWidth_);
-    auto const least = row.minimumSizeHint();
-    leastRowWidth_ = qMax(leastRowWidth_, least.width());
+    row.setNameWidth(nameColumn());
+    row.fitInto(rowWidth());
     int const wanted = row.hasHeightForWidth() ? row.heightForWidth(rowWidth()) : row.sizeHint().height();
-    layout_.setHeight(place, qMax(wanted, least.height()));
+    layout_.setHeight(place, qMax(wanted, row.hasHeightForWidth() ? 0 : row.minimumSizeHint().height()));
 }
 
 void RowArea::measureAll() {
@@ -230,16 +232,18 @@ void RowArea::placeSections() {
 }
 
 void RowArea::resizeContent() {
-    int const leastWidth = leastRowWidth_ + contentMargins.left() + contentMargins.right() +
-                           sections_->margins().left() + sections_->margins().right();
-    if (content_->minimumSize() == QSize(leastWidth, layout_.totalHeight()))
+    if (content_->minimumHeight() == layout_.totalHeight())
         return;
-    bool const isWider = content_->minimumWidth() != leastWidth;
-    content_->setMinimumSize(leastWidth, layout_.totalHeight());
+    content_->setMinimumHeight(layout_.totalHeight());
     // At once, as the scroll bar's range depends on it.
     content_->resize(viewport()->size().expandedTo(content_->minimumSize()));
-    if (isWider)
-        updateGeometry();
+}
+
+QSize RowArea::minimumSizeHint() const {
+    int const row = leastRowWidth * fontMetrics().averageCharWidth();
+    int const margins =
+        contentMargins.left() + contentMargins.right() + sections_->margins().left() + sections_->margins().right();
+    return {row + margins + verticalScrollBar()->sizeHint().width(), ContentArea::minimumSizeHint().height()};
 }
 
 void RowArea::arrangeInPlace() {

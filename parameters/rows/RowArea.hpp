@@ -70,6 +70,9 @@ public:
     /// How many parameters are not hidden by the filter.
     int shownCount() const { return static_cast<int>(layout_.shownCount()); }
 
+    /// The form is as wide as the view, whatever its rows would like.
+    QSize minimumSizeHint() const override;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
@@ -105,6 +108,8 @@ private:
     Entry* entryOf(QWidget const* widget);
     std::size_t placeOf(Entry const& entry) const { return static_cast<std::size_t>(&entry - entries_.data()); }
     int rowWidth() const;
+    /// The width of the column of names, which leaves more than half of a row to the editors.
+    int nameColumn() const { return qMin(nameWidth_, rowWidth() * 2 / 5); }
     void make(Entry& entry);
     void emitEditorOpened(Entry const& entry);
     void measure(std::size_t place);
@@ -133,9 +138,8 @@ private:
     FormSections* sections_ = nullptr;
     // The numbers of the entries that have a row.
     std::set<std::size_t> made_;
-    // Both only ever grow, so that the editors stay in their place when another pool is chosen.
+    // It only ever grows, so that the editors stay in their place when another pool is chosen.
     int nameWidth_ = 0;
-    int leastRowWidth_ = 0;
     std::function<bool(Kolt::VParameter const&)> isEnabled_;
     bool editorsOpen_ = true;
     bool rawValuesShown_ = false;

@@ -245,20 +245,24 @@
         <translation>Alter %1</translation>
     </message>
     <message>
-        <source>, pool %1</source>
-        <translation>, Pool %1</translation>
-    </message>
-    <message>
-        <source>, own value</source>
-        <translation>, eigener Wert</translation>
-    </message>
-    <message>
         <source>removed</source>
         <translation>entfernt</translation>
     </message>
     <message>
         <source>(empty)</source>
         <translation>(leer)</translation>
+    </message>
+    <message>
+        <source>Raw value of %1</source>
+        <translation>Rohwert von %1</translation>
+    </message>
+    <message>
+        <source>age %1, pool %2</source>
+        <translation>Alter %1, Pool %2</translation>
+    </message>
+    <message>
+        <source>age %1, not set in pool %2</source>
+        <translation>Alter %1, im Pool %2 nicht gesetzt</translation>
     </message>
 </context>
 <context>
@@ -315,6 +319,10 @@
             <numerusform>%1 und eine weitere</numerusform>
             <numerusform>%1 und %n weitere</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1, alpha %2</source>
+        <translation>%1, Alpha %2</translation>
     </message>
 </context>
 <context>

@@ -245,20 +245,24 @@
         <translation>âge %1</translation>
     </message>
     <message>
-        <source>, pool %1</source>
-        <translation>, pool %1</translation>
-    </message>
-    <message>
-        <source>, own value</source>
-        <translation>, valeur propre</translation>
-    </message>
-    <message>
         <source>removed</source>
         <translation>supprimé</translation>
     </message>
     <message>
         <source>(empty)</source>
         <translation>(vide)</translation>
+    </message>
+    <message>
+        <source>Raw value of %1</source>
+        <translation>Valeur brute de %1</translation>
+    </message>
+    <message>
+        <source>age %1, pool %2</source>
+        <translation>âge %1, pool %2</translation>
+    </message>
+    <message>
+        <source>age %1, not set in pool %2</source>
+        <translation>âge %1, non définie dans le pool %2</translation>
     </message>
 </context>
 <context>
@@ -315,6 +319,10 @@
             <numerusform>%1, et %n autre</numerusform>
             <numerusform>%1, et %n autres</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>%1, alpha %2</source>
+        <translation>%1, alpha %2</translation>
     </message>
 </context>
 <context>

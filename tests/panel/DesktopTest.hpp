@@ -144,7 +144,7 @@ protected:
         desktop.key("ctrl+a");
         desktop.type(QString::fromUtf8(colour));
         EXPECT_TRUE(waitUntil([&] { return dialog->currentColor() == QColor(QLatin1String(colour)); }));
-        desktop.key("Escape");
+        desktop.key("Return");
         EXPECT_TRUE(waitUntil([&] { return window->isActiveWindow(); }));
     }
     /// Uses a menu by keys: `menu` opens it, the others choose the entry.

@@ -92,7 +92,7 @@ TEST_F(ObjectViewTest, TheRawValueTellsThePoolsValueFromTheParametersOwn) {
     window->setRawValuesShown(true);
     auto const* const raw = row("on")->rawValue();
     EXPECT_EQ(raw->text(), QStringLiteral("false"));
-    EXPECT_THAT(raw->stamp().toStdString(), HasSubstr("own value"));
+    EXPECT_THAT(raw->stamp().toStdString(), HasSubstr("not set in pool"));
     window->choosePool(QStringLiteral("night"));
     EXPECT_EQ(raw->text(), QStringLiteral("true"));
     EXPECT_THAT(raw->stamp().toStdString(), HasSubstr("pool night"));

@@ -1,0 +1,48 @@
+#include <panel/window/DockShare.hpp>
+
+#include <QEvent>
+#include <QScopedValueRollback>
+
+namespace Panel {
+
+DockShare::DockShare(QMainWindow& window, QDockWidget& dock, double share)
+    : QObject(&window), window_(window), dock_(dock), share_(share) {
+    window.installEventFilter(this);
+    dock.installEventFilter(this);
+}
+
+DockShare::~DockShare() = default;
+
+void DockShare::adoptWidth() {
+    adopts_ = true;
+}
+
+bool DockShare::eventFilter(QObject* watched, QEvent* event) {
+    bool const isShown = event->type() == QEvent::Show;
+    // Qt has given the docks their places when a filter sees that the window was resized.
+    if (watched == &window_ && window_.isVisible() && (isShown || event->type() == QEvent::Resize))
+        apply();
+    else if (watched == &dock_ && event->type() == QEvent::Resize)
+        noteWidth();
+    return QObject::eventFilter(watched, event);
+}
+
+void DockShare::noteWidth() {
+    // While the window is being resized, the dock's width is what Qt makes of it.
+    if (!applies_ && windowWidth_ == window_.width() && !dock_.isFloating())
+        share_ = static_cast<double>(dock_.width()) / windowWidth_;
+}
+
+void DockShare::apply() {
+    windowWidth_ = window_.width();
+    if (adopts_) {
+        adopts_ = false;
+        noteWidth();
+        return;
+    }
+    QScopedValueRollback const guard(applies_, true);
+    if (!dock_.isFloating())
+        window_.resizeDocks({&dock_}, {qRound(share_ * windowWidth_)}, Qt::Horizontal);
+}
+
+} // namespace Panel

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QObject>
+
+namespace Panel {
+
+/// Keeps the share that a dock beside the centre has of its window's width, when the window is resized. Who drags the
+/// dock's edge sets another share. User-interface thread.
+class DockShare : public QObject {
+    Q_OBJECT
+
+public:
+    /// `share` is from 0 to 1; it applies when the window is shown.
+    DockShare(QMainWindow& window, QDockWidget& dock, double share);
+    ~DockShare() override;
+
+    /// The dock keeps the width that it has, as after it was restored; that is its share from now on.
+    void adoptWidth();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void noteWidth();
+    void apply();
+
+    QMainWindow& window_;
+    QDockWidget& dock_;
+    double share_;
+    // For which the dock has its width; 0 before the window was shown.
+    int windowWidth_ = 0;
+    bool adopts_ = false;
+    bool applies_ = false;
+};
+
+} // namespace Panel

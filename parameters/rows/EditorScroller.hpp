@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QScrollArea>
+#include <tessera/Export.hpp>
+
+namespace Talo {
+
+/// Scrolls an editor sideways that cannot become as narrow as its row, such as buttons with long captions. It is as
+/// high as the editor. Takes no focus itself. User-interface thread.
+class TALO_EXPORT EditorScroller : public QScrollArea {
+    Q_OBJECT
+
+public:
+    /// Takes the editor over.
+    EditorScroller(QWidget* editor, QWidget* parent);
+    ~EditorScroller() override;
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    /// Follows the size that the editor asks for.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    bool viewportEvent(QEvent* event) override;
+};
+
+} // namespace Talo

@@ -1,0 +1,33 @@
+#include <parameters/rows/NameLabel.hpp>
+
+#include <parameters/rows/MutedLabel.hpp>
+
+namespace Talo {
+
+NameLabel::NameLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    alignWithLayout(*this);
+}
+
+NameLabel::~NameLabel() = default;
+
+int NameLabel::wholeWidth() const {
+    return fontMetrics().size(Qt::TextSingleLine, name_).width();
+}
+
+void NameLabel::setName(QString const& name) {
+    name_ = name;
+    shortenTo(width_);
+}
+
+void NameLabel::shortenTo(int width) {
+    width_ = width;
+    showText(width < wholeWidth() ? fontMetrics().elidedText(name_, Qt::ElideMiddle, width) : name_);
+}
+
+void NameLabel::showText(QString text) {
+    // A label with a buddy takes an ampersand for the mark of a shortcut.
+    setText(text.replace(QLatin1Char('&'), QLatin1String("&&")));
+}
+
+} // namespace Talo

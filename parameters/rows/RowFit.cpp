@@ -1,0 +1,44 @@
+#include <parameters/rows/RowFit.hpp>
+
+namespace Talo {
+
+namespace {
+
+int widthBeside(QWidget const* editor, QWidget const* scroller, QHBoxLayout const& layout) {
+    int width = 0;
+    for (int index = 0; index < layout.count(); ++index) {
+        auto* const item = layout.itemAt(index);
+        bool const isEditor = item->widget() == editor || (scroller && item->widget() == scroller);
+        if (!isEditor && !item->isEmpty())
+            width += item->minimumSize().width() + layout.spacing();
+    }
+    return width;
+}
+
+} // namespace
+
+void fitEditor(EditorCell& cell, QPointer<EditorScroller>& scroller, QHBoxLayout& layout, int width) {
+    auto* const editor = cell.widget();
+    if (!editor)
+        return;
+    int const available = width - widthBeside(editor, scroller, layout);
+    cell.limitWidth(available);
+    if (scroller || cell.leastWidth() <= available)
+        return;
+    int const place = layout.indexOf(editor);
+    int const stretch = layout.stretch(place);
+    layout.removeWidget(editor);
+    scroller = new EditorScroller(editor, layout.parentWidget());
+    layout.insertWidget(place, scroller, stretch);
+    scroller->show();
+}
+
+void dropScroller(QPointer<EditorScroller>& scroller) {
+    if (!scroller)
+        return;
+    scroller->hide();
+    scroller->deleteLater();
+    scroller = nullptr;
+}
+
+} // namespace Talo
