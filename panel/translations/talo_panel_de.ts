@@ -19,6 +19,14 @@
         <source>(no pool)</source>
         <translation>(kein Pool)</translation>
     </message>
+    <message>
+        <source>%1[*] – Talo panel</source>
+        <translation>%1[*] – Talo-Bedienfeld</translation>
+    </message>
+    <message>
+        <source>%1[*] – %2 – Talo panel</source>
+        <translation>%1[*] – %2 – Talo-Bedienfeld</translation>
+    </message>
 </context>
 <context>
     <name>Panel::CommandLine</name>
@@ -506,14 +514,6 @@
     <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>%1[*] – Talo panel</source>
-        <translation>%1[*] – Talo-Bedienfeld</translation>
-    </message>
-    <message>
-        <source>%1[*] – %2 – Talo panel</source>
-        <translation>%1[*] – %2 – Talo-Bedienfeld</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,14 @@
         <source>(no pool)</source>
         <translation>(aucun pool)</translation>
     </message>
+    <message>
+        <source>%1[*] – Talo panel</source>
+        <translation>%1[*] – Panneau Talo</translation>
+    </message>
+    <message>
+        <source>%1[*] – %2 – Talo panel</source>
+        <translation>%1[*] – %2 – Panneau Talo</translation>
+    </message>
 </context>
 <context>
     <name>Panel::CommandLine</name>
@@ -506,14 +514,6 @@
     <message>
         <source>&amp;Edit</source>
         <translation>É&amp;dition</translation>
-    </message>
-    <message>
-        <source>%1[*] – Talo panel</source>
-        <translation>%1[*] – Panneau Talo</translation>
-    </message>
-    <message>
-        <source>%1[*] – %2 – Talo panel</source>
-        <translation>%1[*] – %2 – Panneau Talo</translation>
     </message>
 </context>
 <context>

@@ -5,8 +5,8 @@
 
 namespace Panel {
 
-DockShare::DockShare(QMainWindow& window, QDockWidget& dock, double share)
-    : QObject(&window), window_(window), dock_(dock), share_(share) {
+DockShare::DockShare(QMainWindow& window, QDockWidget& dock, double share, int rest)
+    : QObject(&window), window_(window), dock_(dock), share_(share), rest_(rest) {
     window.installEventFilter(this);
     dock.installEventFilter(this);
 }
@@ -42,7 +42,7 @@ void DockShare::apply() {
     }
     QScopedValueRollback const guard(applies_, true);
     if (!dock_.isFloating())
-        window_.resizeDocks({&dock_}, {qRound(share_ * windowWidth_)}, Qt::Horizontal);
+        window_.resizeDocks({&dock_}, {qMin(qRound(share_ * windowWidth_), windowWidth_ - rest_)}, Qt::Horizontal);
 }
 
 } // namespace Panel

@@ -12,8 +12,9 @@ class DockShare : public QObject {
     Q_OBJECT
 
 public:
-    /// `share` is from 0 to 1; it applies when the window is shown.
-    DockShare(QMainWindow& window, QDockWidget& dock, double share);
+    /// `share` is from 0 to 1; it applies when the window is shown, but for so many pixels that the rest of the window
+    /// needs.
+    DockShare(QMainWindow& window, QDockWidget& dock, double share, int rest);
     ~DockShare() override;
 
     /// The dock keeps the width that it has, as after it was restored; that is its share from now on.
@@ -28,6 +29,7 @@ private:
     QMainWindow& window_;
     QDockWidget& dock_;
     double share_;
+    int const rest_;
     // For which the dock has its width; 0 before the window was shown.
     int windowWidth_ = 0;
     bool adopts_ = false;

@@ -18,6 +18,8 @@ namespace {
 
 // Of the window's width; about as much as the list of objects and half of the editors.
 constexpr double previewShare = 1.0 / 3;
+// In pixels: the list and a form whose names and editors can be read.
+constexpr int leastRest = 490;
 
 // How long messages stay in the status bar, in milliseconds.
 constexpr int refusalTime = 8000;
@@ -70,18 +72,11 @@ void MainWindow::makeDocks() {
     // Qt leaks a dock animation that runs when the window is deleted.
     setDockOptions(AllowNestedDocks | AllowTabbedDocks);
     addDockWidget(trailingDockArea(layoutDirection()), fractal_->dock());
-    previewShare_ = new DockShare(*this, *fractal_->dock(), previewShare);
+    previewShare_ = new DockShare(*this, *fractal_->dock(), previewShare, leastRest);
     addDockWidget(trailingDockArea(layoutDirection()), historyDock_);
     addDockWidget(trailingDockArea(layoutDirection()), helpDock_);
     statusBar()->addPermanentWidget(fractal_->progressWidget());
     statusBar()->addPermanentWidget(pluginMenu_->statusLabel());
-}
-
-bool MainWindow::restoreDocks(QByteArray const& state, int version) {
-    bool const restored = restoreState(state, version);
-    if (restored)
-        previewShare_->adoptWidth();
-    return restored;
 }
 
 void MainWindow::makeEditMenu() {
@@ -209,15 +204,9 @@ void MainWindow::openEditors() {
 }
 
 void MainWindow::showTitle() {
-    auto const name = network() ? QFileInfo(network()->file()).fileName() : QString();
-    if (!network())
-        setWindowTitle(tr("Talo panel"));
-    else if (name.isEmpty() || name == document_.title())
-        setWindowTitle(tr("%1[*] – Talo panel").arg(document_.title()));
-    else
-        setWindowTitle(tr("%1[*] – %2 – Talo panel").arg(document_.title(), name));
-    setWindowFilePath(network() ? network()->file() : QString());
-    auto const file = windowFilePath();
+    auto const file = network() ? network()->file() : QString();
+    setWindowTitle(network() ? windowTitleFor(document_.title(), file) : tr("Talo panel"));
+    setWindowFilePath(file);
     setProperty(Talo::FileFolderProperty, file.isEmpty() ? QString() : QFileInfo(file).absolutePath());
 }
 

@@ -65,7 +65,12 @@ public:
     void tapStandardOutput() { messageDock_->tapStandardOutput(); }
 
     /// Gives the docks the places that QMainWindow::saveState wrote with this version; false if they cannot be read.
-    bool restoreDocks(QByteArray const& state, int version);
+    bool restoreDocks(QByteArray const& state, int version) {
+        bool const restored = restoreState(state, version);
+        if (restored)
+            previewShare_->adoptWidth();
+        return restored;
+    }
 
     /// The view of the chosen object; null if none is chosen.
     ObjectView* currentView() const { return views_->currentView(); }

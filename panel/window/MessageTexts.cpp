@@ -1,6 +1,7 @@
 #include <panel/window/MessageTexts.hpp>
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QMessageBox>
 
 namespace Panel {
@@ -22,6 +23,13 @@ QString actionMessage(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& p
     return Texts::tr("Action %1.%2 was fired in pool %3.")
         .arg(nameOr(object, Texts::tr("(no object)")), nameOr(parameter, Texts::tr("(no parameter)")),
              nameOr(pool, Texts::tr("(no pool)")));
+}
+
+QString windowTitleFor(QString const& title, QString const& file) {
+    auto const name = QFileInfo(file).fileName();
+    if (name.isEmpty() || name == title)
+        return Texts::tr("%1[*] – Talo panel").arg(title);
+    return Texts::tr("%1[*] – %2 – Talo panel").arg(title, name);
 }
 
 void showFailure(QWidget& window, QString const& title, QString const& reason) {

@@ -8,6 +8,10 @@ namespace Panel {
 /// The message for an action that was fired in a pool; all three may be null.
 QString actionMessage(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
 
+/// The title of a window with a network: the network's title, with the mark of unsaved values behind it, and the name
+/// of its file unless they are equal.
+QString windowTitleFor(QString const& title, QString const& file);
+
 /// Shows what failed and why in a dialog on the window, and returns at once.
 void showFailure(QWidget& window, QString const& title, QString const& reason);
 

@@ -6,13 +6,6 @@
 
 namespace Talo {
 
-namespace {
-
-// Of the usual size.
-constexpr double smallFont = 0.85;
-
-} // namespace
-
 QColor mutedText(QPalette const& palette) {
     auto const& text = palette.color(QPalette::Active, QPalette::WindowText);
     auto const& ground = palette.color(QPalette::Active, QPalette::Window);
@@ -44,17 +37,6 @@ void MutedLabel::updateColour() {
         muted.setColor(group, QPalette::Text, colour);
     }
     setPalette(muted);
-}
-
-MutedLabel* makeSmallLabel(QWidget* parent) {
-    auto* const label = new MutedLabel(QString(), parent);
-    label->setTextFormat(Qt::PlainText);
-    alignWithLayout(*label);
-    auto font = label->font();
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * smallFont);
-    label->setFont(font);
-    return label;
 }
 
 void alignWithLayout(QLabel& label) {

@@ -26,9 +26,6 @@ private:
     void updateColour();
 };
 
-/// A muted label for a plain text in a smaller font, which begins where lines begin.
-TALO_EXPORT MutedLabel* makeSmallLabel(QWidget* parent);
-
 /// Aligns a label's text to the side where lines begin in the layout. A label by itself follows the script of its text,
 /// so a title in Latin letters would be at the far side of its column in a layout from right to left.
 TALO_EXPORT void alignWithLayout(QLabel& label);

@@ -8,6 +8,7 @@
 #include <parameters/rows/RefusedNumber.hpp>
 #include <parameters/rows/RowFit.hpp>
 #include <parameters/rows/RowTexts.hpp>
+#include <parameters/rows/SmallLabel.hpp>
 #include <parameters/rows/UnenteredMark.hpp>
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -390,7 +391,7 @@ void ParameterRow::showNote() {
     if (note.isEmpty() && !noteLabel_)
         return;
     if (!noteLabel_) {
-        noteLabel_ = makeSmallLabel(names_);
+        noteLabel_ = new SmallLabel(names_);
         names_->layout()->addWidget(noteLabel_);
     }
     noteLabel_->setText(note);
