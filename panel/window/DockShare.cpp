@@ -28,8 +28,10 @@ bool DockShare::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void DockShare::noteWidth() {
-    // While the window is being resized, the dock's width is what Qt makes of it.
-    if (!applies_ && windowWidth_ == window_.width() && !dock_.isFloating())
+    // While the window is being resized, the dock's width is what Qt makes of it. One that was set here may be less
+    // than the share.
+    bool const isSet = applies_ || dock_.width() == qMax(setWidth_, dock_.minimumSizeHint().width());
+    if (!isSet && windowWidth_ == window_.width() && !dock_.isFloating())
         share_ = static_cast<double>(dock_.width()) / windowWidth_;
 }
 
@@ -41,8 +43,10 @@ void DockShare::apply() {
         return;
     }
     QScopedValueRollback const guard(applies_, true);
-    if (!dock_.isFloating())
-        window_.resizeDocks({&dock_}, {qMin(qRound(share_ * windowWidth_), windowWidth_ - rest_)}, Qt::Horizontal);
+    if (dock_.isFloating())
+        return;
+    setWidth_ = qMin(qRound(share_ * windowWidth_), windowWidth_ - rest_);
+    window_.resizeDocks({&dock_}, {setWidth_}, Qt::Horizontal);
 }
 
 } // namespace Panel

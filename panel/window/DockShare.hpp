@@ -32,6 +32,7 @@ private:
     int const rest_;
     // For which the dock has its width; 0 before the window was shown.
     int windowWidth_ = 0;
+    int setWidth_ = 0;
     bool adopts_ = false;
     bool applies_ = false;
 };

@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>S&amp;how help</source>
-        <translation>A&amp;fficher l’aide</translation>
+        <translation>Afficher l’a&amp;ide</translation>
     </message>
     <message>
         <source>F1</source>

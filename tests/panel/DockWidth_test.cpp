@@ -53,6 +53,7 @@ TEST_F(DockWidthTest, ThePreviewTakesItsShareOfEachWindow) {
     window->resize(640, 480);
     settle();
     EXPECT_EQ(window->width(), 640);
+    EXPECT_NEAR(preview()->width(), 150, 20) << "the form needs its room";
     window->resize(1200, 900);
     settle();
     EXPECT_NEAR(preview()->width(), 400, 20);
