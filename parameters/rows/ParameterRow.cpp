@@ -3,7 +3,6 @@
 #include <lattice/UndoHistory.hpp>
 #include <parameters/commands/RowCommands.hpp>
 #include <parameters/commands/UndoText.hpp>
-#include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/RefusedNumber.hpp>
 #include <parameters/rows/RowFit.hpp>
@@ -28,7 +27,6 @@ constexpr int highestCentredEditor = 100;
 
 // In pixels, from the name.
 constexpr int indicatorDistance = 2;
-
 // Shares of what a form has to spare: the unit stays behind an editor that cannot grow, and leaves the room to others.
 constexpr int editorShare = 1000;
 constexpr int unitShare = 1;

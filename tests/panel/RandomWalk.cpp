@@ -2,6 +2,7 @@
 
 #include "RandomStrokes.hpp"
 #include "support/TaloTest.hpp"
+#include "WindowMouse.hpp"
 #include <lattice/UndoHistory.hpp>
 #include <network/ValueFormat.hpp>
 #include <QColorDialog>
@@ -126,32 +127,6 @@ void RandomWalk::useMouse() {
     if (auto* const widget = target())
         press(*widget);
 }
-
-namespace {
-
-QPoint inWindow(QWidget const& widget, QPoint const& place) {
-    auto const point = widget.mapTo(widget.window(), place);
-    return {qBound(0, point.x(), widget.window()->width() - 1), qBound(0, point.y(), widget.window()->height() - 1)};
-}
-
-/// Activates the window, as a window manager does on a press. A popup is in front already. The window may be destroyed
-/// in the process.
-void activate(QPointer<QWidget> const& window) {
-    if (QApplication::activePopupWidget() || window->isActiveWindow())
-        return;
-    window->activateWindow();
-    waitUntil([&window] { return !window || window->isActiveWindow(); }, soon);
-}
-
-/// The press may close the window.
-void click(QPointer<QWindow> const& window, Qt::MouseButton button, QPoint const& point) {
-    QTest::mousePress(window.data(), button, {}, point);
-    auto* const released = window && window->isVisible() ? window.data() : QGuiApplication::focusWindow();
-    if (released)
-        QTest::mouseRelease(released, button, {}, point);
-}
-
-} // namespace
 
 void RandomWalk::press(QWidget& widget) {
     auto const area = widget.visibleRegion().boundingRect();
