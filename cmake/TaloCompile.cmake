@@ -44,7 +44,8 @@ endif()
 # There are more than a hundred test programs, and mold links each in a tenth of the time.
 find_program(TALO_MOLD mold)
 if(TALO_MOLD)
-    target_link_options(talo_compile_test INTERFACE -fuse-ld=mold)
+    target_link_options(talo_compile_test INTERFACE
+        $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-fuse-ld=mold>)
 endif()
 
 set(CMAKE_CXX_EXTENSIONS OFF)
