@@ -20,6 +20,7 @@ public:
     void showHelp(Kolt::VParameter const& parameter);
 
 protected:
+    /// Loads nothing.
     QVariant loadResource(int type, QUrl const& name) override;
 };
 

@@ -15,6 +15,7 @@ class TALO_EXPORT ConditionWatcher : public QObject, private Kolt::ValueNotifier
     Q_OBJECT
 
 public:
+    /// Watches the conditions of these parameters on each other, which are those of one object.
     explicit ConditionWatcher(std::vector<Kolt::ParameterPtr> const& parameters, QObject* parent = nullptr);
     ~ConditionWatcher() override;
 

@@ -15,7 +15,9 @@ public:
     EditorScroller(QWidget* editor, QWidget* parent);
     ~EditorScroller() override;
 
+    /// Always: where the editor has to be scrolled, the scroll bar is below it.
     bool hasHeightForWidth() const override { return true; }
+    /// The height of the editor, and of the scroll bar if the editor needs more than this width; in pixels.
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -15,6 +15,7 @@ public:
     explicit NameLabel(QWidget* parent = nullptr);
     ~NameLabel() override;
 
+    /// Shows another name, shortened as the one before.
     void setName(QString const& name);
     /// The width that the whole name needs, in pixels.
     int wholeWidth() const;

@@ -33,7 +33,8 @@ void SectionBox::paintEvent(QPaintEvent*) {
         return style()->subControlRect(QStyle::CC_GroupBox, &option, part, this);
     };
     auto const label = partOf(QStyle::SC_GroupBoxLabel);
-    QStyleOption arrow = option;
+    QStyleOption arrow;
+    arrow.initFrom(this);
     arrow.rect = partOf(QStyle::SC_GroupBoxCheckBox);
     if (!isFolded_) {
         auto frame = option;

@@ -15,6 +15,7 @@ public:
     explicit SectionBox(QString const& title, QWidget* parent = nullptr);
     ~SectionBox() override;
 
+    /// Whether the arrow says that the section is folded.
     bool isFolded() const { return isFolded_; }
     /// Shows an arrow that says whether the section is folded.
     void setFolded(bool folded);
