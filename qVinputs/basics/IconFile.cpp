@@ -27,7 +27,8 @@ bool namesOtherFiles(QByteArray const& bytes) {
         drawing.readNext();
         if (drawing.isProcessingInstruction())
             return true;
-        for (auto const& attribute : drawing.attributes()) {
+        auto const attributes = drawing.attributes();
+        for (auto const& attribute : attributes) {
             auto const value = attribute.value();
             if (attribute.name() == QLatin1String("href") && !value.startsWith(QLatin1Char('#')) &&
                 !value.startsWith(QLatin1String("data:")))
