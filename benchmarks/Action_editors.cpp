@@ -11,7 +11,7 @@
 
 namespace {
 
-// What a host changes of an action is how it is told of.
+// A host changes the properties of an action, not its value.
 char const* const toolTips[] = {"Computes the picture", "Stops the computation"};
 
 class BareAction : public QPushButton, public BareEditor {

@@ -25,7 +25,7 @@ struct BenchmarkCase {
     std::vector<std::string> preferences;
     /// A parameter with the 0-th value.
     std::function<Kolt::ParameterPtr()> makeParameter;
-    /// The host makes the n-th value, 0 or 1, the parameter's and tells everybody.
+    /// The host sets the n-th value, 0 or 1, and notifies everybody.
     std::function<void(Kolt::VParameter&, int n)> change;
     /// The same controls, showing the 0-th value; the parent owns them.
     std::function<BareEditor*(QWidget* parent)> makeBare;

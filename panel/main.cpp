@@ -75,7 +75,7 @@ int refuseCommandLine(QStringList const& arguments, char* program) {
                   QCoreApplication::translate("main", "--help says how to start the program."));
 }
 
-// The offscreen platform says of every window what it cannot do, which tells the user nothing.
+// The offscreen platform says of every window what it cannot do, which is of no use to the user.
 void passOnMessages(QtMsgType, QMessageLogContext const&, QString const& message) {
     if (message.startsWith(QLatin1String("This plugin does not support ")))
         return;

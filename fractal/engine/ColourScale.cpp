@@ -113,12 +113,12 @@ ColourScale::Colour const& ColourScale::colourAt(double place) const {
     return scale_[static_cast<std::size_t>(std::clamp(place, 0.0, 1.0) * (scaleLength - 1))];
 }
 
-ColourScale::Colour const& ColourScale::colourOf(FractalFormula::EscapeResult const& fate) const {
-    if (fate.stays)
+ColourScale::Colour const& ColourScale::colourOf(FractalFormula::EscapeResult const& result) const {
+    if (result.stays)
         return inside_;
     // Most points escape early, so the early ones get most of the scale.
     auto const share = [&](double count) { return std::log1p(std::max(0.0, count)) / logarithmOfMost_; };
-    double const place = hasRoots_ ? (share(fate.count) + fate.root) / 3 : share(fate.count - earliestEscape);
+    double const place = hasRoots_ ? (share(result.count) + result.root) / 3 : share(result.count - earliestEscape);
     return colourAt(0.5 + (place - 0.5) * contrast_);
 }
 

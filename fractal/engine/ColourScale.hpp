@@ -22,7 +22,7 @@ public:
     explicit ColourScale(FractalSettings const& settings);
 
     /// The colour of a point.
-    Colour const& colourOf(FractalFormula::EscapeResult const& fate) const;
+    Colour const& colourOf(FractalFormula::EscapeResult const& result) const;
     /// The colour at a position on the scale, 0 to 1; positions outside are clamped.
     Colour const& colourAt(double place) const;
     /// Converts a premultiplied colour to a QColor, which is not.

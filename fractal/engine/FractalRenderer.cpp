@@ -45,11 +45,11 @@ private:
         ColourScale::Colour sum;
         for (int y = 0; y < samples_; ++y) {
             for (int x = 0; x < samples_; ++x) {
-                auto const fate =
+                auto const result =
                     formula_.escapeResultAt(view_.pointAt(column + (x + 0.5) / samples_, row + (y + 0.5) / samples_));
                 if (x == 0 && y == 0)
-                    count = fate.stays ? std::numeric_limits<float>::infinity() : static_cast<float>(fate.count);
-                auto const& colour = colours_.colourOf(fate);
+                    count = result.stays ? std::numeric_limits<float>::infinity() : static_cast<float>(result.count);
+                auto const& colour = colours_.colourOf(result);
                 sum.red += colour.red;
                 sum.green += colour.green;
                 sum.blue += colour.blue;
@@ -114,12 +114,12 @@ std::optional<FractalPoints> FractalRenderer::render(FractalSettings const& sett
     RowRenderer const rows(settings, points, cancelled);
     std::atomic<int> nextRow{0};
     std::atomic<int> doneRows{0};
-    int told = -1;
-    auto const work = [&](Progress const& tell) {
+    int reported = -1;
+    auto const work = [&](Progress const& report) {
         for (int row = nextRow++; row < size.height() && rows.compute(row); row = nextRow++) {
             int const percent = ++doneRows * 100 / size.height();
-            if (tell && percent > told)
-                tell(told = percent);
+            if (report && percent > reported)
+                report(reported = percent);
         }
     };
     {
@@ -129,7 +129,7 @@ std::optional<FractalPoints> FractalRenderer::render(FractalSettings const& sett
     if (doneRows < size.height())
         return std::nullopt;
     // Only the calling thread reports progress, and another thread may have computed the last row.
-    if (progress && told < 100)
+    if (progress && reported < 100)
         progress(100);
 
     auto const staying =

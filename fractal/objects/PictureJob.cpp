@@ -30,16 +30,16 @@ PictureJob::~PictureJob() = default;
 void PictureJob::run(Worker& worker) {
     QElapsedTimer clock;
     clock.start();
-    auto const tell = [&](int percent) {
+    auto const reportProgress = [&](int percent) {
         percent_ = percent;
         writeStatus(QStringLiteral("%1 <a href=\"%2\">%3</a>")
                         .arg(tr("Computing %1: %2 %.").arg(title_.toHtmlEscaped(), QString::number(percent)),
                              QLatin1String(CancelLink), tr("Cancel")));
         worker.reportProgress();
     };
-    tell(0);
+    reportProgress(0);
     FractalRenderer const renderer(static_cast<int>(std::thread::hardware_concurrency()));
-    auto const points = Picture::compute(request_, renderer, cancelled, tell);
+    auto const points = Picture::compute(request_, renderer, cancelled, reportProgress);
     if (cancelled)
         return;
     if (!points) {

@@ -18,7 +18,7 @@ bool RenderObject::isStart(Kolt::ParameterPtr const& parameter) const {
     return parameter && parameter == findParameter("start");
 }
 
-void RenderObject::tellProgress(QString const& text, Kolt::PoolPtr const& pool) const {
+void RenderObject::showProgress(QString const& text, Kolt::PoolPtr const& pool) const {
     writeValue(findParameter("progress"), pool, Kolt::info{text.toStdString()});
 }
 

@@ -17,7 +17,7 @@ public:
     /// Whether the parameter is the action that starts the computing.
     bool isStart(Kolt::ParameterPtr const& parameter) const;
     /// Writes what was computed to `progress`.
-    void tellProgress(QString const& text, Kolt::PoolPtr const& pool) const;
+    void showProgress(QString const& text, Kolt::PoolPtr const& pool) const;
 };
 
 } // namespace Fractal

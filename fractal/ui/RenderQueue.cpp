@@ -119,7 +119,7 @@ void RenderQueue::finish(PictureJob const& job) {
     // A listener may have removed the network.
     if (network_ && !job.summary().isEmpty()) {
         for (auto const* const object : network_->all<RenderObject>())
-            object->tellProgress(job.summary(), job.pool());
+            object->showProgress(job.summary(), job.pool());
     }
     if (!job.problem().isEmpty())
         Kolt::VActionNotifier::Warning(outcome.toStdString());

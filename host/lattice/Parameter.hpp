@@ -146,7 +146,7 @@ private:
     std::weak_ptr<EditRecorder> recorder_;
     Tessera::WeakPtr<UndoHistory> history_;
     std::optional<bool> edited_;
-    // The object that has the parameter, which tells when it no longer has it; null for none.
+    // The object that has the parameter; it resets this when it no longer has it. Null for none.
     VObject const* object_ = nullptr;
 };
 

@@ -13,7 +13,7 @@ class VValueBase;
 using ValuePtr = Tessera::StrongPtr<VValueBase>;
 
 /// A value of some type, held by a parameter, a value pool or a property map and shared by strong references. Its age
-/// stamp tells when it was last marked as changed; a plain store does not renew it.
+/// stamp says when it was last marked as changed; a plain store does not renew it.
 ///
 /// The value may be read and stored on any thread, if the derived class says so; the container and the source are set
 /// and read by one thread at a time. Nothing is printed, and nobody is notified of a store.

@@ -11,8 +11,8 @@ class QHBoxLayout;
 namespace Panel {
 
 /// One creator in the gallery: its name and preferences, two editors that it made for one parameter, the parameter's
-/// raw value with its age, and how often the parameter told of a change. Where another creator would be chosen for the
-/// same preferences, or none, the row says so under the name.
+/// raw value with its age, and how often the parameter notified of a change. Where another creator would be chosen for
+/// the same preferences, or none, the row says so under the name.
 ///
 /// The row refers to the parameter weakly and stays usable without it. User-interface thread.
 class GalleryRow : public QWidget {

@@ -6,7 +6,7 @@
 
 namespace Panel {
 
-/// Shows how often a parameter told of a change since this was made. Made on the user-interface thread; changes may be
+/// Counts the notifications of a parameter since this was made. Made on the user-interface thread; changes may be
 /// reported on any thread.
 class NotificationCounter : public QLabel, private Kolt::ValueNotifier {
     Q_OBJECT

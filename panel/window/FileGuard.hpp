@@ -35,7 +35,7 @@ private:
 
     QString file_;
     QByteArray remembered_;
-    // What was last told of.
+    // What was last reported.
     QByteArray told_;
     QFileSystemWatcher watcher_;
     QTimer timer_;

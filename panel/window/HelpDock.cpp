@@ -1,5 +1,7 @@
 #include <panel/window/HelpDock.hpp>
 
+#include <QAction>
+
 namespace Panel {
 
 HelpDock::HelpDock(QWidget* parent) : QDockWidget(tr("Help"), parent), view_(new Talo::HelpView) {

@@ -1,5 +1,7 @@
 #include <panel/window/HistoryDock.hpp>
 
+#include <QAction>
+
 namespace Panel {
 
 HistoryDock::HistoryDock(Kolt::UndoHistory& history, QWidget* parent)

@@ -70,7 +70,10 @@ MessageList::MessageList(QWidget* parent) : QTreeWidget(parent) {
     connect(model(), &QAbstractItemModel::modelReset, this, [this] { countOutput(0); });
 }
 
-MessageList::~MessageList() = default;
+MessageList::~MessageList() {
+    // The base clears its model when there is no list of messages any more.
+    model()->disconnect(this);
+}
 
 void MessageList::add(Source source, QString const& text) {
     scrollToNewEnd();

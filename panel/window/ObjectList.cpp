@@ -3,6 +3,7 @@
 #include <memory>
 #include <network/PlainText.hpp>
 #include <panel/window/IconPlace.hpp>
+#include <QEvent>
 
 namespace Panel {
 

@@ -59,7 +59,7 @@ private:
     void keepNetwork(NetworkRecord const& network);
     /// The networks that were last open, the latest first.
     std::vector<NetworkRecord> networks();
-    /// Names the docks with further views, by which the window knows them again, and tells which objects they show.
+    /// Names the docks with further views, by which the window knows them again, and returns which objects they show.
     QStringList nameViewDocks() const;
 
     QSettings settings_;

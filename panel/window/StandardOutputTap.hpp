@@ -33,7 +33,7 @@ private:
     int realOutput_ = -1;
     int pipe_ = -1;
     int stop_ = -1;
-    // What was printed and not told of yet.
+    // What was printed and not reported yet.
     QByteArray pending_;
     // What was printed and not written to the real output yet.
     QByteArray unwritten_;

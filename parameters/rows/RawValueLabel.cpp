@@ -21,7 +21,8 @@ RawValueLabel::~RawValueLabel() {
 }
 
 void RawValueLabel::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) {
-    // Read later: an edit renews the age stamp only after everybody was told. Any number of changes until then is one.
+    // Read later: an edit renews the age stamp only after everybody was notified. Any number of changes until then is
+    // one.
     if (!refreshWaits_.exchange(true))
         QMetaObject::invokeMethod(this, &RawValueLabel::refresh, Qt::QueuedConnection);
 }

@@ -192,7 +192,7 @@ void QInteger::showAndWrite(int value, TypedText typed) {
 }
 
 void QInteger::valueChanged(int value) {
-    // A typed number moved the handle as far as it goes; what is shown, written and told is the number.
+    // A typed number moved the handle as far as it goes; what is shown, written and notified is the number.
     int const number = std::exchange(typed_, std::nullopt).value_or(value);
     if (owner())
         showAndWrite(number, TypedText::Replace);

@@ -20,7 +20,9 @@ protected:
         settings.formula = kind;
         return FractalFormula(settings);
     }
-    FractalFormula::EscapeResult fate(Formula kind, Point const& point) { return formula(kind).escapeResultAt(point); }
+    FractalFormula::EscapeResult resultOf(Formula kind, Point const& point) {
+        return formula(kind).escapeResultAt(point);
+    }
 
     FractalSettings settings;
 };
@@ -34,36 +36,36 @@ void expectNear(Point const& point, Point const& expected, double distance) {
 TEST_F(FractalFormulaTest, PointsOfTheMandelbrotSetStay) {
     // The origin, the centre of the largest disc, the tip of the antenna, and a point of a small part.
     for (auto const& point : {Point(0, 0), Point(-1, 0), Point(-2, 0), Point(-0.1226, 0.7449)})
-        EXPECT_TRUE(fate(Formula::Mandelbrot, point).stays) << point;
+        EXPECT_TRUE(resultOf(Formula::Mandelbrot, point).stays) << point;
     for (auto const& point : {Point(0.3, 0), Point(-2.01, 0), Point(1, 1), Point(0, 1.1)})
-        EXPECT_FALSE(fate(Formula::Mandelbrot, point).stays) << point;
+        EXPECT_FALSE(resultOf(Formula::Mandelbrot, point).stays) << point;
 }
 
 TEST_F(FractalFormulaTest, TheLargestPartsHaveTheirTrueEdge) {
     settings.iterations = 20000;
-    EXPECT_TRUE(fate(Formula::Mandelbrot, {0.2499, 0}).stays);
-    EXPECT_FALSE(fate(Formula::Mandelbrot, {0.2502, 0}).stays);
-    EXPECT_TRUE(fate(Formula::Mandelbrot, {-1.2499, 0}).stays);
-    EXPECT_FALSE(fate(Formula::Mandelbrot, {-0.75, 0.05}).stays);
+    EXPECT_TRUE(resultOf(Formula::Mandelbrot, {0.2499, 0}).stays);
+    EXPECT_FALSE(resultOf(Formula::Mandelbrot, {0.2502, 0}).stays);
+    EXPECT_TRUE(resultOf(Formula::Mandelbrot, {-1.2499, 0}).stays);
+    EXPECT_FALSE(resultOf(Formula::Mandelbrot, {-0.75, 0.05}).stays);
 }
 
 TEST_F(FractalFormulaTest, CountsTheStepsToTheEscape) {
     settings.smooth = false;
     // 0, 3, 12, 147, 21612: the fifth place is the first whose square exceeds 65536.
-    EXPECT_EQ(fate(Formula::Mandelbrot, {3, 0}).count, 4);
-    EXPECT_LT(fate(Formula::Mandelbrot, {3, 0}).count, fate(Formula::Mandelbrot, {0.3, 0}).count);
-    EXPECT_TRUE(fate(Formula::Mandelbrot, {0.26, 0}).count > 10);
+    EXPECT_EQ(resultOf(Formula::Mandelbrot, {3, 0}).count, 4);
+    EXPECT_LT(resultOf(Formula::Mandelbrot, {3, 0}).count, resultOf(Formula::Mandelbrot, {0.3, 0}).count);
+    EXPECT_TRUE(resultOf(Formula::Mandelbrot, {0.26, 0}).count > 10);
     settings.iterations = 10;
-    EXPECT_TRUE(fate(Formula::Mandelbrot, {0.26, 0}).stays);
+    EXPECT_TRUE(resultOf(Formula::Mandelbrot, {0.26, 0}).stays);
 }
 
 TEST_F(FractalFormulaTest, ASmoothCountIsWithinAStepOfTheWholeOne) {
     for (auto const kind : {Formula::Mandelbrot, Formula::Julia, Formula::BurningShip, Formula::Newton}) {
         for (auto const& point : {Point(0.4, 0.3), Point(-1.9, 0.4), Point(0.31, -1.2)}) {
             settings.smooth = false;
-            auto const whole = fate(kind, point);
+            auto const whole = resultOf(kind, point);
             settings.smooth = true;
-            auto const smooth = fate(kind, point);
+            auto const smooth = resultOf(kind, point);
             ASSERT_EQ(whole.stays, smooth.stays);
             EXPECT_EQ(whole.count, std::floor(whole.count));
             EXPECT_LE(std::abs(whole.count - smooth.count), 1.001) << point;
@@ -72,11 +74,11 @@ TEST_F(FractalFormulaTest, ASmoothCountIsWithinAStepOfTheWholeOne) {
 }
 
 TEST_F(FractalFormulaTest, NewtonFindsTheRootNextToThePoint) {
-    EXPECT_EQ(fate(Formula::Newton, {2, 0}).root, 0);
-    EXPECT_EQ(fate(Formula::Newton, {-0.5, 0.9}).root, 1);
-    EXPECT_EQ(fate(Formula::Newton, {-0.5, -0.9}).root, 2);
-    EXPECT_EQ(fate(Formula::Newton, {1, 0}).count, 0);
-    EXPECT_TRUE(fate(Formula::Newton, {0, 0}).stays);
+    EXPECT_EQ(resultOf(Formula::Newton, {2, 0}).root, 0);
+    EXPECT_EQ(resultOf(Formula::Newton, {-0.5, 0.9}).root, 1);
+    EXPECT_EQ(resultOf(Formula::Newton, {-0.5, -0.9}).root, 2);
+    EXPECT_EQ(resultOf(Formula::Newton, {1, 0}).count, 0);
+    EXPECT_TRUE(resultOf(Formula::Newton, {0, 0}).stays);
 }
 
 TEST_F(FractalFormulaTest, EveryPointGetsAnAnswer) {
@@ -84,7 +86,7 @@ TEST_F(FractalFormulaTest, EveryPointGetsAnAnswer) {
     double const nan = std::numeric_limits<double>::quiet_NaN();
     for (auto const kind : {Formula::Mandelbrot, Formula::Julia, Formula::BurningShip, Formula::Newton}) {
         for (double const number : {infinity, -infinity, nan, 1e308, -1e308, 5e-324}) {
-            auto const answer = fate(kind, {number, 0.5});
+            auto const answer = resultOf(kind, {number, 0.5});
             EXPECT_TRUE(std::isfinite(answer.count));
             EXPECT_GE(answer.count, 0);
             EXPECT_LE(formula(kind).orbitOf({number, 0.5}, 7).size(), 7U);

@@ -146,11 +146,11 @@ TEST_F(FractalRendererTest, ACancelledPictureEndsWithinARow) {
     auto settings = quick();
     settings.limit();
     std::atomic<bool> cancelled{false};
-    int told = 0;
+    int reported = 0;
     auto const rendered =
-        Fractal::FractalRenderer(1).render(settings, {400, 300}, cancelled, [&](int) { cancelled = ++told == 2; });
+        Fractal::FractalRenderer(1).render(settings, {400, 300}, cancelled, [&](int) { cancelled = ++reported == 2; });
     EXPECT_FALSE(rendered);
-    EXPECT_EQ(told, 2);
+    EXPECT_EQ(reported, 2);
     // One row of four thousand slow pixels would take very long.
     settings.iterations = 20000;
     settings.quality = 16;
@@ -160,15 +160,15 @@ TEST_F(FractalRendererTest, ACancelledPictureEndsWithinARow) {
 }
 
 TEST_F(FractalRendererTest, ProgressGoesUpToAHundredPercent) {
-    std::vector<int> told;
+    std::vector<int> reported;
     std::atomic<bool> const cancelled{false};
     auto settings = quick();
     settings.limit();
     ASSERT_TRUE(Fractal::FractalRenderer(1).render(settings, {30, 20}, cancelled,
-                                                   [&](int percent) { told.push_back(percent); }));
-    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
-    EXPECT_EQ(told.size(), 20U);
-    EXPECT_EQ(told.back(), 100);
+                                                   [&](int percent) { reported.push_back(percent); }));
+    EXPECT_TRUE(std::is_sorted(reported.begin(), reported.end()));
+    EXPECT_EQ(reported.size(), 20U);
+    EXPECT_EQ(reported.back(), 100);
 }
 
 TEST_F(FractalRendererTest, APictureWithoutPointsIsNone) {

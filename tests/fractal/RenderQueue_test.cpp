@@ -66,7 +66,7 @@ protected:
         FractalNetworkTest::SetUp();
         reports = std::make_unique<Reports>(parameter("render.status"));
         QObject::connect(&renderQueue, &RenderQueue::reported, &renderQueue,
-                         [this](QString const& text) { told.push_back(text.toStdString()); });
+                         [this](QString const& text) { messages.push_back(text.toStdString()); });
         QObject::connect(&renderQueue, &RenderQueue::computed, &renderQueue,
                          [this](QImage const& image, Kolt::PoolPtr const&) { computed.push_back(image); });
         renderQueue.setNetwork(network.get());
@@ -91,7 +91,7 @@ protected:
 
     RenderQueue renderQueue;
     std::unique_ptr<Reports> reports;
-    std::vector<std::string> told;
+    std::vector<std::string> messages;
     std::vector<QImage> computed;
 };
 
@@ -105,7 +105,7 @@ TEST_F(RenderQueueTest, ComputesThePictureOfThePool) {
     ASSERT_TRUE(ends());
     ASSERT_EQ(computed.size(), 1U);
     EXPECT_EQ(computed[0].size(), QSize(96, 72));
-    EXPECT_THAT(told, ElementsAre("Computed the picture of draft."));
+    EXPECT_THAT(messages, ElementsAre("Computed the picture of draft."));
     EXPECT_EQ(status(), "Computed the picture of draft.");
     EXPECT_THAT(valueOf("render.progress", draft), StartsWith("96 × 72 points, 50 steps at most, 1 × 1 samples: "));
     EXPECT_THAT(warnings.texts, IsEmpty());
@@ -174,7 +174,7 @@ TEST_F(RenderQueueTest, IsCancelled) {
     ASSERT_TRUE(waitUntil([&] { return reports->fromElsewhere() > 0; }));
     renderQueue.cancel();
     ASSERT_TRUE(ends());
-    EXPECT_THAT(told, ElementsAre("Cancelled: the picture of draft."));
+    EXPECT_THAT(messages, ElementsAre("Cancelled: the picture of draft."));
     EXPECT_EQ(status(), "Cancelled: the picture of draft.");
     EXPECT_EQ(valueOf("render.progress", draft), "Nothing.");
     EXPECT_THAT(computed, IsEmpty());
@@ -192,7 +192,7 @@ TEST_F(RenderQueueTest, ANewStartTakesThePlaceOfTheOldOne) {
     ASSERT_TRUE(ends());
     ASSERT_EQ(computed.size(), 1U);
     EXPECT_EQ(computed[0].width(), 32);
-    EXPECT_THAT(told, ElementsAre("Computed the picture of draft."));
+    EXPECT_THAT(messages, ElementsAre("Computed the picture of draft."));
 }
 
 TEST_F(RenderQueueTest, WritesTheChosenFilesOneAfterTheOther) {
@@ -204,8 +204,8 @@ TEST_F(RenderQueueTest, WritesTheChosenFilesOneAfterTheOther) {
     QFile document(path("b.pdf"));
     ASSERT_TRUE(document.open(QIODevice::ReadOnly));
     EXPECT_TRUE(document.readAll().startsWith("%PDF-"));
-    EXPECT_THAT(
-        told, ElementsAre("Wrote " + path("a.png").toStdString() + ".", "Wrote " + path("b.pdf").toStdString() + "."));
+    EXPECT_THAT(messages, ElementsAre("Wrote " + path("a.png").toStdString() + ".",
+                                      "Wrote " + path("b.pdf").toStdString() + "."));
     EXPECT_THAT(computed, IsEmpty());
 }
 
@@ -227,7 +227,7 @@ TEST_F(RenderQueueTest, AFileThatCannotBeWrittenIsWarnedOf) {
     ASSERT_EQ(warnings.texts.size(), 1U);
     EXPECT_THAT(warnings.texts[0], StartsWith(path("missing/a.png").toStdString() + ": "));
     EXPECT_EQ(status(), warnings.texts[0]);
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(messages, IsEmpty());
 }
 
 TEST_F(RenderQueueTest, ANameThatLooksLikeRichTextIsShownAsItIs) {
@@ -235,7 +235,7 @@ TEST_F(RenderQueueTest, ANameThatLooksLikeRichTextIsShownAsItIs) {
     chooseFile("exporter.picture", file);
     ASSERT_TRUE(ends());
     EXPECT_TRUE(QFile::exists(file));
-    EXPECT_THAT(told, ElementsAre("Wrote " + file.toStdString() + "."));
+    EXPECT_THAT(messages, ElementsAre("Wrote " + file.toStdString() + "."));
     EXPECT_THAT(status(), HasSubstr("&lt;b&gt;a&amp;b.png"));
     EXPECT_THAT(reports->texts(), testing::Each(testing::Not(HasSubstr("<b>"))));
 }
@@ -244,7 +244,7 @@ TEST_F(RenderQueueTest, ANameWithAPercentSignIsShownAsItIs) {
     chooseFile("exporter.picture", path("50%2.png"));
     ASSERT_TRUE(ends());
     EXPECT_THAT(reports->texts(), testing::Contains(testing::AllOf(HasSubstr("Computing"), HasSubstr("50%2.png"))));
-    EXPECT_THAT(told, ElementsAre("Wrote " + path("50%2.png").toStdString() + "."));
+    EXPECT_THAT(messages, ElementsAre("Wrote " + path("50%2.png").toStdString() + "."));
 }
 
 TEST_F(RenderQueueTest, TheNetworkMayGoWhileItIsComputed) {
@@ -256,7 +256,7 @@ TEST_F(RenderQueueTest, TheNetworkMayGoWhileItIsComputed) {
     EXPECT_FALSE(renderQueue.isComputing());
     network.reset();
     QCoreApplication::processEvents();
-    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(messages, IsEmpty());
     EXPECT_FALSE(QFile::exists(path("a.png")));
     renderQueue.start(nullptr);
     renderQueue.cancel();

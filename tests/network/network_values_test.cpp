@@ -39,7 +39,7 @@ TEST_F(Network, SettingAValueNotifiesEverybodyOnceAndRenewsItsAge) {
         EXPECT_EQ(listener->calls, 1);
         EXPECT_EQ(listener->text, "42");
         EXPECT_EQ(listener->pool, pool);
-        EXPECT_EQ(listener->age, before + 1) << "whoever is told sees the new stamp";
+        EXPECT_EQ(listener->age, before + 1) << "a notifier sees the new stamp";
     }
     EXPECT_EQ(parameter->ownValue()->age(), before + 1);
     EXPECT_EQ(Tessera::Ageable::GlobalTime.load(), before + 1);

@@ -31,12 +31,12 @@ protected:
         PanelTest::TearDown();
     }
 
-    static std::string told(QObject* object, QAccessible::Text text) {
+    static std::string accessibleText(QObject* object, QAccessible::Text text) {
         auto* const interface = QAccessible::queryAccessibleInterface(object);
         return interface ? interface->text(text).toStdString() : std::string();
     }
-    static std::string name(QObject* object) { return told(object, QAccessible::Name); }
-    static std::string description(QObject* object) { return told(object, QAccessible::Description); }
+    static std::string name(QObject* object) { return accessibleText(object, QAccessible::Name); }
+    static std::string description(QObject* object) { return accessibleText(object, QAccessible::Description); }
 
     static bool takesFocus(QWidget const& widget) { return widget.focusPolicy() != Qt::NoFocus; }
     /// The controls of an editor that take the focus.

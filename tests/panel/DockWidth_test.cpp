@@ -15,7 +15,7 @@ protected:
             << qPrintable(error);
     }
     void TearDown() override {
-        // The editor of the selections tells what it does.
+        // The editor of the selections prints what it does.
         takeOutput();
         PanelTest::TearDown();
     }

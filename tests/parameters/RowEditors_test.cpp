@@ -69,7 +69,7 @@ protected:
     static void write(Kolt::ParameterPtr const& parameter, T const& value, Kolt::PoolPtr const& pool = nullptr) {
         EXPECT_TRUE(Kolt::setParameterValue(*parameter, value, pool, std::string(), true, nullptr, nullptr));
     }
-    static std::string told(QObject* object, QAccessible::Text kind) {
+    static std::string accessibleText(QObject* object, QAccessible::Text kind) {
         return QAccessible::queryAccessibleInterface(object)->text(kind).toStdString();
     }
     static Kolt::ParameterPtr fileName(char const* name, char const* preference, std::string const& text,
@@ -187,16 +187,16 @@ TEST_F(RowEditorsTest, AFileButtonSaysTheCaptionAndTheName) {
     auto* const open = control<QPushButton>("file");
     EXPECT_EQ(open->text(), QStringLiteral("R&&D"));
     EXPECT_EQ(open->toolTip(), QStringLiteral("Select File: /data/R&D.tar.gz"));
-    EXPECT_EQ(told(open, QAccessible::Value), "/data/R&D.tar.gz");
-    EXPECT_THAT(told(open, QAccessible::Description), HasSubstr("Select File: /data/R&D.tar.gz"));
+    EXPECT_EQ(accessibleText(open, QAccessible::Value), "/data/R&D.tar.gz");
+    EXPECT_THAT(accessibleText(open, QAccessible::Description), HasSubstr("Select File: /data/R&D.tar.gz"));
 
     auto* const save = control<QPushButton>("picture");
-    EXPECT_EQ(told(save, QAccessible::Value), "");
+    EXPECT_EQ(accessibleText(save, QAccessible::Value), "");
     write(picture, std::string("/data/a.png"));
     EXPECT_EQ(save->toolTip(), QStringLiteral("Save as: /data/a.png"));
-    EXPECT_EQ(told(save, QAccessible::Value), "/data/a.png");
-    EXPECT_THAT(told(save, QAccessible::Description), HasSubstr("Save as: /data/a.png"));
-    EXPECT_EQ(told(save, QAccessible::Name), "picture: Save as");
+    EXPECT_EQ(accessibleText(save, QAccessible::Value), "/data/a.png");
+    EXPECT_THAT(accessibleText(save, QAccessible::Description), HasSubstr("Save as: /data/a.png"));
+    EXPECT_EQ(accessibleText(save, QAccessible::Name), "picture: Save as");
     EXPECT_EQ(QAccessible::queryAccessibleInterface(save)->role(), QAccessible::Button);
 }
 
@@ -217,7 +217,7 @@ TEST_F(RowEditorsTest, ADateThatIsLeftHalfFilledShowsThatItIsNotHeld) {
     EXPECT_EQ(date.read(), "2023-03-29");
     ASSERT_TRUE(sign());
     EXPECT_THAT(field->toolTip().toStdString(), HasSubstr("The value is still 2023-03-29."));
-    EXPECT_THAT(told(field, QAccessible::Description), HasSubstr("The value is still 2023-03-29."));
+    EXPECT_THAT(accessibleText(field, QAccessible::Description), HasSubstr("The value is still 2023-03-29."));
     field->setFocus();
     field->setCursorPosition(5);
     QTest::keyClicks(field, QStringLiteral("0506"));

@@ -9,7 +9,7 @@ using testing::StartsWith;
 
 namespace {
 
-/// What an editor tells about its number besides the text: tool tip, mark and accessible value.
+/// What an editor says about its number besides the text: tool tip, mark and accessible value.
 class QFloatFactsTest : public QFloatTest {
 protected:
     static QAccessibleInterface* accessible(QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); }

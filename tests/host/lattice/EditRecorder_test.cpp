@@ -19,7 +19,7 @@ TEST_F(WatchedInt, AnEditIsAStepThatCanBeUndoneAndRedone) {
     auto const age = parameter->ownValue()->age();
     EXPECT_TRUE(history.undo());
     EXPECT_EQ(text(parameter), "1");
-    EXPECT_EQ(input.shown, "1") << "everybody is told, the input that edited too";
+    EXPECT_EQ(input.shown, "1") << "all are notified, the input that edited too";
     EXPECT_GT(parameter->ownValue()->age(), age);
     EXPECT_THAT(names(), IsEmpty());
     EXPECT_THAT(history.undoneSteps(), SizeIs(1));
@@ -52,8 +52,8 @@ TEST_F(WatchedInt, WhatAnInputWritesInAnswerToTheHostIsNoStep) {
 TEST_F(WatchedInt, WhatTheHostAnswersToAnEditIsNoStepOfItsOwn) {
     Recorder host;
     parameter->addNotifier(host.ref());
-    host.onTold = [&] {
-        host.onTold = {};
+    host.onNotified = [&] {
+        host.onNotified = {};
         EXPECT_TRUE(setParameterValue(*parameter, 100, nullptr, std::string(), false, nullptr, nullptr));
     };
     input.edit(999, nullptr);

@@ -7,8 +7,8 @@
 
 /// A notifier that records its notifications and then calls a function of the test.
 struct Recorder : Kolt::ValueNotifier {
-    explicit Recorder(std::string recorderName = {}, std::vector<std::string>* tellings = nullptr)
-        : name(std::move(recorderName)), log(tellings) {}
+    explicit Recorder(std::string recorderName = {}, std::vector<std::string>* notifications = nullptr)
+        : name(std::move(recorderName)), log(notifications) {}
     ~Recorder() override { stopNotifications(); }
 
     void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
@@ -20,7 +20,7 @@ struct Recorder : Kolt::ValueNotifier {
         if (log)
             log->push_back(name);
         // A copy, as the action may destroy this recorder.
-        if (auto const action = onTold)
+        if (auto const action = onNotified)
             action();
     }
 
@@ -28,7 +28,7 @@ struct Recorder : Kolt::ValueNotifier {
 
     std::string name;
     std::vector<std::string>* log;
-    std::function<void()> onTold;
+    std::function<void()> onNotified;
     int count = 0;
     Kolt::ValuePtr value;
     Kolt::PoolPtr pool;

@@ -109,9 +109,9 @@ TEST_F(Notification, TheSourceIsNotifiedIfItIsInTheSecondList) {
 
 TEST_F(Notification, WalksACopyOfTheList) {
     listen({&a_, &b_});
-    a_.onTold = [&] { listen({&c_}); };
+    a_.onNotified = [&] { listen({&c_}); };
     notify();
-    EXPECT_THAT(log_, ElementsAre("a", "b")) << "who came meanwhile is told the next time";
+    EXPECT_THAT(log_, ElementsAre("a", "b")) << "who came meanwhile is notified the next time";
     log_.clear();
     notify();
     EXPECT_THAT(log_, ElementsAre("a", "b", "c"));
@@ -124,7 +124,7 @@ TEST_F(Notification, LeavesOutNotifiersThatDieMeanwhile) {
     ValueNotifierList further;
     further.addNotifier(furtherVictim->ref());
     further.addNotifier(c_.ref());
-    a_.onTold = [&] {
+    a_.onNotified = [&] {
         victim.reset();
         furtherVictim.reset();
     };
@@ -136,7 +136,7 @@ TEST_F(Notification, ANotifierMayDestroyItselfAndTheSource) {
     auto suicide = std::make_unique<Recorder>("suicide", &log_);
     auto source = std::make_unique<Recorder>("source", &log_);
     listen({source.get(), suicide.get(), &a_});
-    suicide->onTold = [&] {
+    suicide->onNotified = [&] {
         source.reset();
         suicide.reset();
     };
@@ -149,7 +149,7 @@ TEST_F(Notification, GoesOnWhenTheParameterDiesInItsMiddle) {
     auto further = std::make_unique<ValueNotifierList>();
     further->addNotifier(c_.ref());
     WeakPtr<VParameter, ValueNotifierList> const watched(parameter_);
-    a_.onTold = [&] {
+    a_.onNotified = [&] {
         parameter_.reset();
         further.reset();
     };
@@ -157,14 +157,14 @@ TEST_F(Notification, GoesOnWhenTheParameterDiesInItsMiddle) {
     raw->notifyValueChange(raw->ownValue(), pool_, "", {}, further.get(), nullptr);
     EXPECT_FALSE(watched.alive());
     EXPECT_THAT(log_, ElementsAre("a", "b", "c"));
-    EXPECT_EQ(Kolt::valueOr<int>(b_.value, 0), 1) << "the value is held while it is told";
+    EXPECT_EQ(Kolt::valueOr<int>(b_.value, 0), 1) << "the value is held during its notification";
     EXPECT_EQ(b_.pool, pool_);
 }
 
 TEST_F(Notification, CanBeNested) {
     listen({&a_, &b_});
     bool nested = false;
-    a_.onTold = [&] {
+    a_.onNotified = [&] {
         if (!std::exchange(nested, true))
             notify();
     };
@@ -174,7 +174,7 @@ TEST_F(Notification, CanBeNested) {
 
 TEST_F(Notification, OfAPropertyStoresFirstAndPassesTheMap) {
     listen({&a_, &b_});
-    a_.onTold = [&] { EXPECT_EQ(Kolt::valueOr<int>(parameter_->properties()->getValue("max"), 0), 9); };
+    a_.onNotified = [&] { EXPECT_EQ(Kolt::valueOr<int>(parameter_->properties()->getValue("max"), 0), 9); };
     EXPECT_EQ(parameter_->properties(), nullptr);
     parameter_->setProperty("max", makeValue(9), b_.ref(), nullptr, pool_);
     EXPECT_THAT(log_, ElementsAre("a"));
@@ -205,8 +205,8 @@ TEST_F(Notification, OfAPropertyPassesTheValueThatHoldsInThePool) {
 
 TEST_F(Notification, OfAPropertyGoesOnWhenTheParameterDies) {
     listen({&a_, &b_});
-    a_.onTold = [&] { parameter_.reset(); };
-    b_.onTold = [&] { EXPECT_EQ(Kolt::valueOr<int>(b_.properties->getValue("max"), 0), 9); };
+    a_.onNotified = [&] { parameter_.reset(); };
+    b_.onNotified = [&] { EXPECT_EQ(Kolt::valueOr<int>(b_.properties->getValue("max"), 0), 9); };
     auto* const raw = parameter_.get();
     raw->setProperty("max", makeValue(9), {}, nullptr, {});
     EXPECT_THAT(log_, ElementsAre("a", "b"));

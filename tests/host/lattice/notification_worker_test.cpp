@@ -22,8 +22,8 @@ struct Leaving : ValueNotifier {
     void onValueChange(StrongPtr<Kolt::VValueBase> const& value, Kolt::VContext const&,
                        Kolt::ValueMap const*) override {
         if (text_ != "alive" || !value)
-            ADD_FAILURE() << "told while it was destroyed";
-        text_ = "told";
+            ADD_FAILURE() << "notified while it was destroyed";
+        text_ = "notified";
         text_ = "alive";
         ++deliveries_;
     }

@@ -289,7 +289,8 @@ TEST_F(Scheduler, WakesTheEventLoopAfterEachEntry) {
 }
 
 struct Notifier : Kolt::VActionNotifier {
-    Notifier(std::string notifierName, std::vector<std::string>& told) : name(std::move(notifierName)), log(told) {}
+    Notifier(std::string notifierName, std::vector<std::string>& notified)
+        : name(std::move(notifierName)), log(notified) {}
     void onWarning(std::string const& text) override {
         log.push_back(name + ": " + text);
         if (action)
