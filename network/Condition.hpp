@@ -26,8 +26,9 @@ public:
     /// Whether the other parameter has one of the values in the pool.
     bool holds(Kolt::VParameter const& other, Kolt::PoolPtr const& pool) const;
 
-    /// Why the conditions of a parameter of the object can never hold, or are circular, a sentence; empty if nothing is
-    /// wrong: the other parameter is missing, or cannot have one of the values.
+    /// What is expected instead of the parameter's property, for an error of the file; empty if the property is right
+    /// or missing. It is wrong if it is no condition, if the object has no such other parameter or that one cannot have
+    /// one of the values, and if the conditions of the object's parameters lead from the parameter to itself.
     static QString faultOf(Kolt::VObject const& object, Kolt::VParameter const& parameter, char const* property);
 
 private:

@@ -49,6 +49,17 @@ void readPreferences(JsonNode const& node, Kolt::VParameter& parameter) {
         new Kolt::VCreationPreferences(Kolt::VCreationPreferences::Names(names.begin(), names.end()))));
 }
 
+/// Calls a function whose errors are about a parameter, and puts "object.parameter" before them.
+template <typename Function>
+void namingParameter(Kolt::VObject const& object, QString const& name, Function const& function) {
+    try {
+        function();
+    } catch (FormatError& error) {
+        error.text.prepend(QString::fromStdString(object.Name()) + '.' + name + ": ");
+        throw;
+    }
+}
+
 } // namespace
 
 NetworkReader::NetworkReader(QString const& file, ObjectFactory const& makeObject)
@@ -90,21 +101,6 @@ void NetworkReader::readPool(JsonNode const& node) {
         node.refuse("a pool name that is not taken", quoted(name) + " again");
     network_->pools_.emplace_back(new Kolt::ValuePool(name.toStdString()));
 }
-
-namespace {
-
-/// Calls a function whose errors are about a parameter, and puts "object.parameter" before them.
-template <typename Function>
-void namingParameter(Kolt::VObject const& object, QString const& name, Function const& function) {
-    try {
-        function();
-    } catch (FormatError& error) {
-        error.text.prepend(QString::fromStdString(object.Name()) + '.' + name + ": ");
-        throw;
-    }
-}
-
-} // namespace
 
 void NetworkReader::readObject(JsonNode const& node) {
     node.members("an object of the network", {"kind", "name", "parameters", "slots"});

@@ -15,6 +15,7 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <unordered_set>
 
 namespace Talo {
 
@@ -51,31 +52,39 @@ public:
         QObject::connect(&conditions, &ConditionWatcher::changed, &panel, [this] { applyConditions(); });
         hasAdvanced = shown && std::any_of(shown->parameters().begin(), shown->parameters().end(),
                                            [](auto const& parameter) { return isAdvanced(*parameter); });
+        applyFilter();
+    }
+
+    /// Finds the parameters by their values of now.
+    void applyFilter() {
+        found.clear();
+        auto const living = object.strong();
+        ParameterFilter const words(filter);
+        if (living && !words.isEmpty())
+            for (auto const& parameter : living->parameters())
+                if (words.finds(*living, *parameter, pools.pool()))
+                    found.insert(parameter.get());
         applyConditions();
     }
 
-    void applyFilter() {
-        auto const living = object.strong();
-        ParameterFilter const words(filter);
-        auto const pool = pools.pool();
-        auto const isWanted = [&](Kolt::VParameter const& parameter) {
-            return words.isEmpty() ? advancedShown || !isAdvanced(parameter) : words.finds(*living, parameter, pool);
-        };
-        if (!living || (words.isEmpty() && (advancedShown || !hasAdvanced) && !conditions.hasConditions()))
-            rows->setFilter({});
-        else
-            rows->setFilter(
-                [&](auto const& parameter) { return isWanted(parameter) && conditions.isVisible(parameter, pool); });
-        rows->setAllSectionsOpen(!words.isEmpty());
-        bool const foundNone = living && !living->parameters().empty() && rows->shownCount() == 0;
-        rows->setVisible(!foundNone);
-        emptyNote->setText(words.isEmpty() ? tr("All parameters of this object are advanced, or of no use now.")
-                                           : tr("No parameter of this object is found by the filter."));
-        emptyNote->setVisible(foundNone);
-    }
-
+    /// Shows which of the found parameters the conditions admit now.
     void applyConditions() {
-        applyFilter();
+        bool const hasWords = !ParameterFilter(filter).isEmpty();
+        auto const isShown = [&](Kolt::VParameter const& parameter) {
+            bool const isWanted = hasWords ? found.count(&parameter) != 0 : advancedShown || !isAdvanced(parameter);
+            return isWanted && conditions.isVisible(parameter, pools.pool());
+        };
+        rows->setAllSectionsOpen(hasWords);
+        if (hasWords || (hasAdvanced && !advancedShown) || conditions.hasConditions())
+            rows->setFilter(isShown);
+        else
+            rows->setFilter({});
+        auto const living = object.strong();
+        bool const showsNone = living && !living->parameters().empty() && rows->shownCount() == 0;
+        rows->setVisible(!showsNone);
+        emptyNote->setText(hasWords ? tr("No parameter of this object is found by the filter.")
+                                    : tr("All parameters of this object are advanced, or of no use now."));
+        emptyNote->setVisible(showsNone);
         if (conditions.hasConditions())
             rows->setEnabledWhen(
                 [this](auto const& parameter) { return conditions.isEnabled(parameter, pools.pool()); });
@@ -139,6 +148,8 @@ public:
     MutedLabel* const emptyNote;
     QTimer checkTimer;
     QString filter;
+    // Those that the words of the filter found; not asked without words.
+    std::unordered_set<Kolt::VParameter const*> found;
     bool hasAdvanced = false;
     bool advancedShown = false;
     bool rawValuesShown = false;
@@ -187,7 +198,7 @@ bool ParameterPanel::advancedShown() const {
 void ParameterPanel::setAdvancedShown(bool shown) {
     if (std::exchange(d_->advancedShown, shown) == shown)
         return;
-    d_->applyFilter();
+    d_->applyConditions();
     emit advancedShownChanged(shown);
 }
 
@@ -244,7 +255,7 @@ void ParameterPanel::openEditors() {
 
 void ParameterPanel::showPool() {
     d_->rows->showPool();
-    d_->applyConditions();
+    d_->applyFilter();
 }
 
 RowArea* ParameterPanel::rowArea() const {

@@ -4,8 +4,8 @@
 
 namespace Kolt {
 
-/// A slider or dial (QAbstractSlider) whose positions stand for numbers. Screen readers get the number instead of the
-/// position. A control derives from its Qt class first and from this second. User-interface thread.
+/// A slider or dial (QAbstractSlider) that edits a number. Screen readers get the number instead of the position. A
+/// control derives from its Qt class first and from this second. User-interface thread.
 class TALO_EXPORT AccessibleNumber {
 public:
     /// What screen readers are given, in the unit of the number.

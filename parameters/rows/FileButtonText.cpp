@@ -32,7 +32,11 @@ FileButtonText* FileButtonText::makeFor(QWidget& editor, Kolt::ParameterPtr cons
 }
 
 FileButtonText::FileButtonText(QPushButton& button, Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools)
-    : EditorHelp(&button), button_(button), parameter_(parameter), pools_(pools), caption_(captionFor(*parameter)) {
+    : EditorExtension(&button),
+      button_(button),
+      parameter_(parameter),
+      pools_(pools),
+      caption_(captionFor(*parameter)) {
     auto const* const properties = parameter->properties();
     if (auto const kinds = properties ? properties->getValue("Extension") : nullptr)
         button.setProperty(FileKindsProperty, QString::fromStdString(kinds->Text()));

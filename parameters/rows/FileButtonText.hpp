@@ -1,6 +1,6 @@
 #pragma once
 
-#include <parameters/rows/EditorHelp.hpp>
+#include <parameters/rows/EditorExtension.hpp>
 #include <QPushButton>
 
 namespace Talo {
@@ -9,7 +9,7 @@ namespace Talo {
 /// have the caption and the whole name, and if no name is chosen, the button shows its caption, which the editor itself
 /// replaces by the name. The caption is what an editor for an empty name shows. Owned by the button. User-interface
 /// thread.
-class FileButtonText : public EditorHelp {
+class FileButtonText : public EditorExtension {
     Q_OBJECT
 
 public:

@@ -1,6 +1,7 @@
 #include <parameters/rows/FormSections.hpp>
 
 #include <parameters/rows/SectionBox.hpp>
+#include <utility>
 
 namespace Talo {
 
@@ -82,8 +83,8 @@ void FormSections::foldAll(bool folded) {
 }
 
 void FormSections::setAllOpen(bool open) {
-    allOpen_ = open;
-    updateLayout();
+    if (std::exchange(allOpen_, open) != open)
+        updateLayout();
 }
 
 void FormSections::fold(QString const& title, bool folded) {

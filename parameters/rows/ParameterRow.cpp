@@ -27,6 +27,7 @@ constexpr int highestCentredEditor = 100;
 
 // In pixels, from the name.
 constexpr int indicatorDistance = 2;
+
 // Shares of what a form has to spare: the unit stays behind an editor that cannot grow, and leaves the room to others.
 constexpr int editorShare = 1000;
 constexpr int unitShare = 1;
@@ -94,12 +95,9 @@ void ParameterRow::openEditor() {
     cell_.limitWidth(QWIDGETSIZE_MAX);
     layout_->insertWidget(1, editor, editorShare);
     editor->show();
-    ParameterDescription const description(*parameter);
-    showUnit(description.unit);
-    alignEditor();
     nameLabel_->setBuddy(editor);
-    cell_.nameControls(description.label, isEdited);
-    editor->setEnabled(isEditorEnabled_ && !description.isReadOnly);
+    cell_.nameControls(ParameterDescription(*parameter).label, isEdited);
+    showDescription();
     if (isEdited)
         watchEditor(parameter);
     updateAccessibility();
@@ -128,7 +126,7 @@ bool ParameterRow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {
-    help_ = EditorHelp::makeFor(cell_.editor(), parameter, pools_);
+    extension_ = EditorExtension::makeFor(cell_.editor(), parameter, pools_);
     if (auto const* const mark = UnenteredMark::makeFor(*cell_.widget(), parameter, pools_))
         connect(mark, &UnenteredMark::changed, this, &ParameterRow::updateAccessibility);
     // Made after the editor, so that it finds what the editor shows.
@@ -138,9 +136,9 @@ void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {
 void ParameterRow::checkEditor() {
     if (!cell_.canShowValue())
         reopenEditor();
-    if (!help_)
+    if (!extension_)
         return;
-    help_->refresh();
+    extension_->refresh();
     updateAccessibility();
 }
 
@@ -185,7 +183,6 @@ void ParameterRow::showDescription() {
     showUnit(description.unit);
     alignEditor();
     cell_.widget()->setEnabled(isEditorEnabled_ && !description.isReadOnly);
-    updateAccessibility();
 }
 
 void ParameterRow::showUnit(QString const& unit) {
@@ -220,8 +217,8 @@ void ParameterRow::showPool() {
         cell_.showPool();
     else
         reopenEditor();
-    if (help_)
-        help_->refresh();
+    if (extension_)
+        extension_->refresh();
     if (rawValue_)
         rawValue_->refresh();
     showDefault();

@@ -5,7 +5,7 @@
 #include <parameters/input/GestureTarget.hpp>
 #include <parameters/rows/ChangeListener.hpp>
 #include <parameters/rows/EditorCell.hpp>
-#include <parameters/rows/EditorHelp.hpp>
+#include <parameters/rows/EditorExtension.hpp>
 #include <parameters/rows/EditorScroller.hpp>
 #include <parameters/rows/ModifiedIndicator.hpp>
 #include <parameters/rows/NameLabel.hpp>
@@ -159,7 +159,7 @@ private:
     // Around an editor that is wider than the row; null for others.
     QPointer<EditorScroller> scroller_;
     // Null for editors that need none, and after the editor was deleted.
-    QPointer<EditorHelp> help_;
+    QPointer<EditorExtension> extension_;
     std::unique_ptr<ChangeListener> afterEditor_;
     std::shared_ptr<Kolt::EditRecorder> recorder_;
 };

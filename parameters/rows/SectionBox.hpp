@@ -6,7 +6,7 @@
 namespace Talo {
 
 /// The frame around the rows of a section. One with a title can be folded: a click on the title asks for it. The box
-/// only shows the state; whoever owns the rows hides them. User-interface thread.
+/// only shows the state; the form hides the rows. User-interface thread.
 class TALO_EXPORT SectionBox : public QGroupBox {
     Q_OBJECT
 

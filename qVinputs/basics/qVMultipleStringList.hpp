@@ -130,8 +130,8 @@ private:
     Rows selectedRows() const;
     /// Has the list show these rows as chosen, and no other, and then the last row as chosen or not; no other if there
     /// is no last row. Commits nothing.
-    /// Selects the last row by itself: when the mouse moves while it holds a row, Qt takes back the last selection,
-    /// which must not be all rows.
+    /// Selects the last row in a call of its own. When the mouse moves while it holds a row, Qt undoes the latest
+    /// selection, and that must be one row, not all.
     void showRows(Rows const& rows, int last, bool chosen);
     /// Adds rows to the choice, or removes them if the box says so, and commits.
     void addOrRemoveRows(AppliedRows const& series);

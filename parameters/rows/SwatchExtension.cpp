@@ -1,4 +1,4 @@
-#include <parameters/rows/SwatchHelp.hpp>
+#include <parameters/rows/SwatchExtension.hpp>
 
 #include <algorithm>
 #include <cmath>
@@ -48,16 +48,16 @@ bool isReturn(QEvent const& event) {
 
 } // namespace
 
-SwatchHelp* SwatchHelp::makeFor(Kolt::Editor const& editor, Kolt::ParameterPtr const& parameter,
-                                PoolSourceRef const& pools) {
+SwatchExtension* SwatchExtension::makeFor(Kolt::Editor const& editor, Kolt::ParameterPtr const& parameter,
+                                          PoolSourceRef const& pools) {
     auto* const label = qobject_cast<QLabel*>(editor.widget);
     auto* const dialog = label ? label->findChild<QColorDialog*>() : nullptr;
-    return dialog ? new SwatchHelp(*label, *dialog, editor, parameter, pools) : nullptr;
+    return dialog ? new SwatchExtension(*label, *dialog, editor, parameter, pools) : nullptr;
 }
 
-SwatchHelp::SwatchHelp(QLabel& swatch, QColorDialog& dialog, Kolt::Editor editor, Kolt::ParameterPtr const& parameter,
-                       PoolSourceRef const& pools)
-    : EditorHelp(&swatch),
+SwatchExtension::SwatchExtension(QLabel& swatch, QColorDialog& dialog, Kolt::Editor editor,
+                                 Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools)
+    : EditorExtension(&swatch),
       swatch_(swatch),
       dialog_(dialog),
       editor_(std::move(editor)),
@@ -66,21 +66,21 @@ SwatchHelp::SwatchHelp(QLabel& swatch, QColorDialog& dialog, Kolt::Editor editor
     dialog.setWindowTitle(QString::fromStdString(parameter->fullName()));
     dialog.installEventFilter(this);
     swatch.installEventFilter(this);
-    connect(&dialog, &QDialog::rejected, this, &SwatchHelp::restoreColour);
+    connect(&dialog, &QDialog::rejected, this, &SwatchExtension::restoreColour);
     showText();
 }
 
-SwatchHelp::~SwatchHelp() {
+SwatchExtension::~SwatchExtension() {
     delete text_;
 }
 
-void SwatchHelp::refresh() {
+void SwatchExtension::refresh() {
     if (dialog_.isVisible() && pool_ != pools_.pool())
         dialog_.hide();
     showText();
 }
 
-bool SwatchHelp::eventFilter(QObject* watched, QEvent* event) {
+bool SwatchExtension::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &dialog_) {
         if (event->type() == QEvent::Show && !event->spontaneous())
             beginChoice();
@@ -97,19 +97,19 @@ bool SwatchHelp::eventFilter(QObject* watched, QEvent* event) {
     return event->type() == QEvent::MouseButtonPress && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton;
 }
 
-void SwatchHelp::beginChoice() {
+void SwatchExtension::beginChoice() {
     auto const parameter = parameter_.strong();
     pool_ = pools_.pool();
     before_ = parameter ? Kolt::copyEffectiveValue(*parameter, pool_) : Kolt::EffectiveValue();
     showText();
 }
 
-void SwatchHelp::endChoice() {
+void SwatchExtension::endChoice() {
     Kolt::showValue(editor_, parameter_.strong(), pools_.source());
     showText();
 }
 
-void SwatchHelp::restoreColour() {
+void SwatchExtension::restoreColour() {
     // The key that closed the dialog is a gesture; what it restores is a step of its own.
     InputFilter::shared()->gestures().end();
     auto const parameter = parameter_.strong();
@@ -117,7 +117,7 @@ void SwatchHelp::restoreColour() {
         (void)parameter->history().store(parameter, pool_, before_);
 }
 
-void SwatchHelp::showText() {
+void SwatchExtension::showText() {
     bool const isNeeded = !isReadable(swatch_);
     auto* const row = qobject_cast<QBoxLayout*>(swatch_.parentWidget()->layout());
     if (isNeeded && !text_ && row) {

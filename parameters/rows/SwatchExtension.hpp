@@ -1,7 +1,7 @@
 #pragma once
 
 #include <lattice/ValueSnapshot.hpp>
-#include <parameters/rows/EditorHelp.hpp>
+#include <parameters/rows/EditorExtension.hpp>
 #include <QColorDialog>
 #include <QLabel>
 
@@ -11,21 +11,21 @@ namespace Talo {
 /// another pool is chosen, keeps the choice on Return, and restores the colour on Escape. Without a choice the swatch
 /// shows the value again. The right button opens the menu of the row alone. Where the text on the swatch cannot be
 /// read, it is beside it as well.
-class SwatchHelp : public EditorHelp {
+class SwatchExtension : public EditorExtension {
     Q_OBJECT
 
 public:
     /// Null for an editor that is no label with a colour dialog.
-    static SwatchHelp* makeFor(Kolt::Editor const& editor, Kolt::ParameterPtr const& parameter,
-                               PoolSourceRef const& pools);
-    ~SwatchHelp() override;
+    static SwatchExtension* makeFor(Kolt::Editor const& editor, Kolt::ParameterPtr const& parameter,
+                                    PoolSourceRef const& pools);
+    ~SwatchExtension() override;
 
     void refresh() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    SwatchHelp(QLabel& swatch, QColorDialog& dialog, Kolt::Editor editor, Kolt::ParameterPtr const& parameter,
-               PoolSourceRef const& pools);
+    SwatchExtension(QLabel& swatch, QColorDialog& dialog, Kolt::Editor editor, Kolt::ParameterPtr const& parameter,
+                    PoolSourceRef const& pools);
 
     void beginChoice();
     void endChoice();
