@@ -49,6 +49,25 @@ void readPreferences(JsonNode const& node, Kolt::VParameter& parameter) {
         new Kolt::VCreationPreferences(Kolt::VCreationPreferences::Names(names.begin(), names.end()))));
 }
 
+std::string rowOf(Kolt::VParameter const& parameter) {
+    auto const* const properties = parameter.properties();
+    return properties ? Kolt::valueOr(properties->getValue("rowOf"), std::string()) : std::string();
+}
+
+/// What is expected instead of a parameter's "rowOf"; empty if it is right or missing.
+QString rowFaultOf(Kolt::VObject const& object, Kolt::VParameter const& parameter) {
+    auto const name = rowOf(parameter);
+    if (name.empty())
+        return {};
+    for (auto const& other : object.parameters()) {
+        if (other.get() == &parameter)
+            break;
+        if (other->Name() == name && rowOf(*other).empty())
+            return {};
+    }
+    return "the name of a parameter that comes before and begins a row";
+}
+
 /// Calls a function whose errors are about a parameter, and puts "object.parameter" before them.
 template <typename Function>
 void namingParameter(Kolt::VObject const& object, QString const& name, Function const& function) {
@@ -130,18 +149,20 @@ void NetworkReader::readParameters(JsonNode const& node, Kolt::ObjectPtr const& 
         readParameter(each, object);
     // A condition may be on a parameter that comes later.
     for (std::size_t index = 0; index < nodes.size(); ++index)
-        checkConditions(nodes[index], *object, *object->parameters()[first + index]);
+        checkReferences(nodes[index], *object, *object->parameters()[first + index]);
 }
 
-void NetworkReader::checkConditions(JsonNode const& node, Kolt::VObject const& object,
+void NetworkReader::checkReferences(JsonNode const& node, Kolt::VObject const& object,
                                     Kolt::VParameter const& parameter) {
-    for (auto const* const property : Condition::Properties) {
-        auto const fault = Condition::faultOf(object, parameter, property);
+    auto const check = [&](char const* property, QString const& fault) {
         if (!fault.isEmpty())
             namingParameter(object, QString::fromStdString(parameter.Name()), [&] {
                 node.required("properties", "a parameter").required(property, "the properties").refuse(fault);
             });
-    }
+    };
+    for (auto const* const property : Condition::Properties)
+        check(property, Condition::faultOf(object, parameter, property));
+    check("rowOf", rowFaultOf(object, parameter));
 }
 
 void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& object) {

@@ -24,7 +24,7 @@ private:
     void readPool(JsonNode const& node);
     void readObject(JsonNode const& node);
     void readParameters(JsonNode const& node, Kolt::ObjectPtr const& object);
-    static void checkConditions(JsonNode const& node, Kolt::VObject const& object, Kolt::VParameter const& parameter);
+    static void checkReferences(JsonNode const& node, Kolt::VObject const& object, Kolt::VParameter const& parameter);
     void readParameter(JsonNode const& node, Kolt::ObjectPtr const& object);
     /// The parameter with that name, which is not taken.
     void readParameter(JsonNode const& node, Kolt::ObjectPtr const& object, QString const& name);

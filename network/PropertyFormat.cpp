@@ -17,7 +17,8 @@ PropertyFormat::Kind PropertyFormat::kindOf(QString const& name) const {
         return typeKey_ == "double" ? Kind::Real : Kind::Integer;
     if (QStringList{"precision", "wrap"}.contains(name))
         return Kind::Integer;
-    if (QStringList{"tooltip", "inputmask", "Extension", "label", "help", "unit", "group", "visibleWhen", "enabledWhen"}
+    if (QStringList{"tooltip", "inputmask", "Extension", "label", "help", "unit", "group", "rowOf", "visibleWhen",
+                    "enabledWhen"}
             .contains(name))
         return Kind::Text;
     if (QStringList{"advanced", "readOnly"}.contains(name))

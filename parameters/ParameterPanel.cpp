@@ -11,6 +11,7 @@
 #include <parameters/rows/ConditionWatcher.hpp>
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
+#include <parameters/rows/ParameterVector.hpp>
 #include <parameters/rows/RowArea.hpp>
 #include <QScrollBar>
 #include <QTimer>
@@ -64,7 +65,20 @@ public:
             for (auto const& parameter : living->parameters())
                 if (words.finds(*living, *parameter, pools.pool()))
                     found.insert(parameter.get());
+        addVectorsTo(found);
         applyConditions();
+    }
+
+    /// With one component of a vector the whole vector is found.
+    void addVectorsTo(std::unordered_set<Kolt::VParameter const*>& parameters) const {
+        auto const living = object.strong();
+        if (!living || parameters.empty())
+            return;
+        for (auto const& [name, components, members] : vectorsOf(living->parameters()))
+            if (std::any_of(members.begin(), members.end(),
+                            [&](auto const& member) { return parameters.count(member.get()) != 0; }))
+                for (auto const& member : members)
+                    parameters.insert(member.get());
     }
 
     /// Shows which of the found parameters the conditions admit now.

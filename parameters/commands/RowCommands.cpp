@@ -30,6 +30,16 @@ bool hasHelp(Kolt::VParameter const& parameter) {
     return !ParameterDescription(parameter).help.isEmpty();
 }
 
+/// Stores a value as an undo step. Returns the reason if it cannot be done.
+QString storePasted(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool, Kolt::ValuePtr const& value) {
+    auto const name = QString::fromStdString(parameter->Name());
+    if (!isChangeable(*parameter))
+        return unchangeableText(name);
+    if (!parameter->history().store(parameter, pool, {value, false}))
+        return CommandTexts::tr("%1 does not take a value in this pool.").arg(name);
+    return {};
+}
+
 } // namespace
 
 bool RowCommand::isEnabledFor(Kolt::ParameterPtr const& parameter) const {
@@ -86,12 +96,34 @@ QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& poo
     auto const pasted = ValueClipboard::paste(*data, *parameter, pool);
     if (!pasted.value)
         return pasted.error;
-    auto const name = QString::fromStdString(parameter->Name());
-    if (!isChangeable(*parameter))
-        return unchangeableText(name);
-    if (!parameter->history().store(parameter, pool, {pasted.value, false}))
-        return CommandTexts::tr("%1 does not take a value in this pool.").arg(name);
-    return {};
+    return storePasted(parameter, pool, pasted.value);
+}
+
+void copyValues(std::vector<Kolt::ParameterPtr> const& parameters, Kolt::PoolPtr const& pool) {
+    QGuiApplication::clipboard()->setMimeData(ValueClipboard::copyAll(parameters, pool).release());
+}
+
+bool canPasteValues(std::vector<Kolt::ParameterPtr> const& parameters) {
+    auto const* const data = QGuiApplication::clipboard()->mimeData();
+    return data && ValueClipboard::hasValues(*data, parameters.size());
+}
+
+QString pasteValues(std::vector<Kolt::ParameterPtr> const& parameters, Kolt::PoolPtr const& pool) {
+    InputFilter::shared()->gestures().end();
+    auto const* const data = QGuiApplication::clipboard()->mimeData();
+    if (!data || parameters.empty())
+        return CommandTexts::tr("The clipboard is empty.");
+    auto const pasted = ValueClipboard::pasteAll(*data, parameters, pool);
+    if (!pasted.error.isEmpty())
+        return pasted.error;
+    for (auto const& parameter : parameters)
+        if (!isChangeable(*parameter))
+            return unchangeableText(QString::fromStdString(parameter->Name()));
+    Kolt::UndoHistory::Macro const macro(parameters.front()->history());
+    QString reason;
+    for (std::size_t index = 0; index < parameters.size() && reason.isEmpty(); ++index)
+        reason = storePasted(parameters[index], pool, pasted.values[index]);
+    return reason;
 }
 
 } // namespace Talo

@@ -46,4 +46,16 @@ QString unchangeableText(QString const& parameterName);
 /// sentence, else an empty text.
 [[nodiscard]] TALO_EXPORT QString pasteValue(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
 
+/// Puts what the parameters hold in the pool on the clipboard, together.
+TALO_EXPORT void copyValues(std::vector<Kolt::ParameterPtr> const& parameters, Kolt::PoolPtr const& pool);
+
+/// Whether the clipboard has as many values as there are parameters.
+TALO_EXPORT bool canPasteValues(std::vector<Kolt::ParameterPtr> const& parameters);
+
+/// Makes the values on the clipboard effective in the pool, in the order of the parameters, as one undo step of the
+/// first one's history. Nothing is changed if one of them cannot be: returns the reason, a sentence, else an empty
+/// text.
+[[nodiscard]] TALO_EXPORT QString pasteValues(std::vector<Kolt::ParameterPtr> const& parameters,
+                                              Kolt::PoolPtr const& pool);
+
 } // namespace Talo

@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QString>
 #include <tessera/Export.hpp>
+#include <vector>
 
 namespace Talo {
 
@@ -12,7 +13,8 @@ namespace Talo {
 /// files, so that every value arrives exactly. User-interface thread.
 class TALO_EXPORT ValueClipboard {
 public:
-    /// The format of typed values, a JSON object: {"type": "int", "value": 400}.
+    /// The format of typed values, a JSON object: {"type": "int", "value": 400}, or {"values": [...]} with such
+    /// objects.
     static QString mimeType();
 
     /// What the parameter holds in the pool.
@@ -29,6 +31,22 @@ public:
     /// the plain text is read (valueFromText), without the blanks around it where that is no text of the parameter's
     /// type. What the parameter does not know (another entry, another flag) is refused. Nothing is changed.
     static Pasted paste(QMimeData const& data, Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool);
+
+    /// What the parameters hold in the pool; as plain text with blanks between the values.
+    static std::unique_ptr<QMimeData> copyAll(std::vector<Kolt::ParameterPtr> const& parameters,
+                                              Kolt::PoolPtr const& pool);
+    /// Whether this many values are there: typed ones, or words.
+    static bool hasValues(QMimeData const& data, std::size_t count);
+    /// What came of a paste of several values.
+    struct PastedValues {
+        /// The values in the order of the parameters; none when nothing can be pasted.
+        std::vector<Kolt::ValuePtr> values;
+        /// Why nothing can be pasted; empty otherwise.
+        QString error;
+    };
+    /// Like `paste`, for as many values as there are parameters.
+    static PastedValues pasteAll(QMimeData const& data, std::vector<Kolt::ParameterPtr> const& parameters,
+                                 Kolt::PoolPtr const& pool);
 };
 
 } // namespace Talo

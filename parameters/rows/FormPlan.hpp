@@ -1,6 +1,8 @@
 #pragma once
 
 #include <lattice/Parameter.hpp>
+#include <map>
+#include <parameters/rows/ParameterVector.hpp>
 #include <QStringList>
 #include <tessera/Export.hpp>
 #include <vector>
@@ -8,7 +10,7 @@
 namespace Talo {
 
 /// In which order and sections a form shows parameters: in sections (ParameterDescription), in order of their first
-/// parameter. Within a section parameters keep their order.
+/// parameter. Within a section parameters keep their order, but for those of a vector, which are together.
 struct TALO_EXPORT FormPlan {
     /// One row of the form.
     struct Row {
@@ -24,6 +26,8 @@ struct TALO_EXPORT FormPlan {
     QStringList sectionTitles;
     /// The rows in the order in which they are shown.
     std::vector<Row> rows;
+    /// The vectors of the form, by the numbers of the rows of their first components. The rows of the others follow.
+    std::map<std::size_t, ParameterVector> vectors;
     /// The longest of the labels that rows show.
     QString longestLabel;
 

@@ -10,18 +10,18 @@ T property(Kolt::VParameter const& parameter, char const* name) {
     return properties ? Kolt::valueOr(properties->getValue(name), T()) : T();
 }
 
-QString textOf(Kolt::VParameter const& parameter, char const* name) {
+} // namespace
+
+QString textProperty(Kolt::VParameter const& parameter, char const* name) {
     return QString::fromStdString(property<std::string>(parameter, name));
 }
 
-} // namespace
-
 ParameterDescription::ParameterDescription(Kolt::VParameter const& parameter)
     : name(QString::fromStdString(parameter.Name())),
-      label(textOf(parameter, "label")),
-      help(textOf(parameter, "help")),
-      unit(textOf(parameter, "unit")),
-      section(textOf(parameter, "group")),
+      label(textProperty(parameter, "label")),
+      help(textProperty(parameter, "help")),
+      unit(textProperty(parameter, "unit")),
+      section(textProperty(parameter, "group")),
       isAdvanced(Talo::isAdvanced(parameter)),
       isReadOnly(property<bool>(parameter, "readOnly")) {
     auto const dot = name.lastIndexOf(QLatin1Char('.'));

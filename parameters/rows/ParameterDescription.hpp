@@ -28,6 +28,9 @@ struct TALO_EXPORT ParameterDescription {
     bool isReadOnly = false;
 };
 
+/// A property that is a text; empty for none.
+QString textProperty(Kolt::VParameter const& parameter, char const* name);
+
 /// ParameterDescription::isAdvanced, without the rest.
 TALO_EXPORT bool isAdvanced(Kolt::VParameter const& parameter);
 

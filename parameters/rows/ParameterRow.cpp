@@ -7,7 +7,6 @@
 #include <parameters/rows/RefusedNumber.hpp>
 #include <parameters/rows/RowFit.hpp>
 #include <parameters/rows/RowTexts.hpp>
-#include <parameters/rows/SmallLabel.hpp>
 #include <parameters/rows/UnenteredMark.hpp>
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -25,8 +24,9 @@ namespace {
 // In pixels. Higher editors have their name beside their first line.
 constexpr int highestCentredEditor = 100;
 
-// In pixels, from the name.
-constexpr int indicatorDistance = 2;
+// In characters: a short number, and one with a slider beside it.
+constexpr int leastFieldWidth = 8;
+constexpr int leastEditorWidth = 20;
 
 // Shares of what a form has to spare: the unit stays behind an editor that cannot grow, and leaves the room to others.
 constexpr int editorShare = 1000;
@@ -41,18 +41,13 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
       parameterName_(QString::fromStdString(parameter->Name())),
       parameter_(parameter),
       pools_(pools),
-      names_(new QWidget(this)),
-      nameLabel_(new NameLabel(names_)),
+      names_(new RowName(this)),
       layout_(new QHBoxLayout(this)),
       cell_(parameter, pools) {
-    auto* const names = new QVBoxLayout(names_);
-    names->setContentsMargins(0, 4, 0, 4);
-    names->setSpacing(0);
-    names->addWidget(nameLabel_);
-
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(12);
     layout_->addWidget(names_);
+    connect(names_, &RowName::resetRequested, this, &ParameterRow::resetToDefault);
     // What people do not edit has no default, and workers may change it often.
     if (parameter->isEdited())
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
@@ -95,8 +90,8 @@ void ParameterRow::openEditor() {
     cell_.limitWidth(QWIDGETSIZE_MAX);
     layout_->insertWidget(1, editor, editorShare);
     editor->show();
-    nameLabel_->setBuddy(editor);
-    cell_.nameControls(ParameterDescription(*parameter).label, isEdited);
+    names_->label()->setBuddy(editor);
+    cell_.nameControls(spokenName(*parameter), isEdited);
     showDescription();
     if (isEdited)
         watchEditor(parameter);
@@ -177,7 +172,7 @@ void ParameterRow::showDescription() {
     if (!parameter)
         return;
     ParameterDescription const description(*parameter);
-    nameLabel_->setName(description.label);
+    names_->setName(description.label);
     if (!cell_.widget())
         return;
     showUnit(description.unit);
@@ -238,28 +233,14 @@ void ParameterRow::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, K
 void ParameterRow::showDefault() {
     auto const parameter = parameter_.strong();
     auto const* const defaults = parameter ? parameter->defaults() : nullptr;
-    if (!defaults || defaults->isEffectiveIn(*parameter, pool())) {
-        if (indicator_)
-            indicator_->hide();
-        return;
-    }
-    if (!indicator_)
-        makeIndicator();
-    indicator_->setDefault(valueText(*defaults->in(pool()).value));
-    indicator_->show();
+    if (!defaults || defaults->isEffectiveIn(*parameter, pool()))
+        names_->hideModified();
+    else
+        names_->showModified(spokenName(*parameter), valueText(*defaults->in(pool()).value));
 }
 
-void ParameterRow::makeIndicator() {
-    indicator_ = new ModifiedIndicator(ParameterDescription(*parameter_.strong()).label, names_);
-    auto* const names = static_cast<QVBoxLayout*>(names_->layout());
-    names->removeWidget(nameLabel_);
-    auto* const firstLine = new QHBoxLayout;
-    firstLine->setSpacing(indicatorDistance);
-    firstLine->addWidget(nameLabel_);
-    firstLine->addWidget(indicator_);
-    firstLine->addStretch(1);
-    names->insertLayout(0, firstLine);
-    connect(indicator_, &ModifiedIndicator::clicked, this, &ParameterRow::resetToDefault);
+QString ParameterRow::spokenName(Kolt::VParameter const& parameter) const {
+    return componentName_.isEmpty() ? ParameterDescription(parameter).label : componentName_;
 }
 
 QString ParameterRow::removedText() const {
@@ -276,19 +257,34 @@ void ParameterRow::resetToDefault() {
         emit refused(tr("%1 has no default to go back to.").arg(parameterName_));
 }
 
+std::vector<Kolt::ParameterPtr> ParameterRow::livingVector() const {
+    std::vector<Kolt::ParameterPtr> living;
+    for (auto const& each : vector_)
+        if (auto const parameter = each.strong())
+            living.push_back(parameter);
+    return living;
+}
+
 void ParameterRow::copyValue() {
+    auto const vector = livingVector();
     auto const parameter = parameter_.strong();
-    if (parameter)
+    if (!parameter)
+        emit refused(removedText());
+    else if (vector.empty())
         Talo::copyValue(*parameter, pool());
     else
-        emit refused(removedText());
+        copyValues(vector, pool());
 }
 
 void ParameterRow::pasteValue() {
+    auto const vector = livingVector();
     auto const parameter = parameter_.strong();
     // The row may be deleted by a notifier of the new value; then nobody hears the reason.
     QPointer<ParameterRow> const self(this);
-    auto const reason = parameter ? Talo::pasteValue(parameter, pool()) : removedText();
+    QString reason = removedText();
+    if (parameter)
+        reason = !vector.empty() && canPasteValues(vector) ? pasteValues(vector, pool())
+                                                           : Talo::pasteValue(parameter, pool());
     if (self && !reason.isEmpty())
         emit refused(reason);
 }
@@ -327,14 +323,20 @@ void ParameterRow::setRawValueShown(bool shown) {
         rawValue_->setVisible(shown);
 }
 
-void ParameterRow::setNameWidth(int width) {
-    names_->setFixedWidth(width);
-    nameLabel_->shortenTo(width - indicatorDistance - ModifiedIndicator::side(*nameLabel_));
+void ParameterRow::setComponent(ParameterVector const& vector, int component, bool isHeaded) {
+    vector_.assign(vector.members.begin(), vector.members.end());
+    auto const& name = vector.components.at(component);
+    componentName_ = name.isEmpty() ? vector.name : tr("%1 %2", "vector, component").arg(vector.name, name);
+    names_->setComponent(name, isHeaded ? vector.name : QString());
+    showNote();
 }
 
-int ParameterRow::nameWidth() const {
-    return qMax(nameLabel_->wholeWidth() + indicatorDistance + ModifiedIndicator::side(*nameLabel_),
-                note().isEmpty() ? 0 : noteLabel_->sizeHint().width());
+int ParameterRow::leastWidth() const {
+    if (!cell_.widget())
+        return 0;
+    int const characters = cell_.controls().size() > 1 ? leastEditorWidth : leastFieldWidth;
+    int const editor = qMax(cell_.leastWidth(), characters * fontMetrics().averageCharWidth());
+    return editor + widthBesideEditor(cell_, scroller_, *layout_) - names_->vectorWidth();
 }
 
 void ParameterRow::fitInto(int width) {
@@ -382,15 +384,7 @@ QString ParameterRow::noteText() const {
 }
 
 void ParameterRow::showNote() {
-    auto const note = noteText();
-    if (note.isEmpty() && !noteLabel_)
-        return;
-    if (!noteLabel_) {
-        noteLabel_ = new SmallLabel(names_);
-        names_->layout()->addWidget(noteLabel_);
-    }
-    noteLabel_->setText(note);
-    noteLabel_->setVisible(!note.isEmpty());
+    names_->setNote(noteText());
 }
 
 } // namespace Talo

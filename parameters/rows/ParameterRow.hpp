@@ -7,9 +7,9 @@
 #include <parameters/rows/EditorCell.hpp>
 #include <parameters/rows/EditorExtension.hpp>
 #include <parameters/rows/EditorScroller.hpp>
-#include <parameters/rows/ModifiedIndicator.hpp>
-#include <parameters/rows/NameLabel.hpp>
+#include <parameters/rows/ParameterVector.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
+#include <parameters/rows/RowName.hpp>
 #include <QLabel>
 #include <QWidget>
 #include <tessera/Export.hpp>
@@ -54,11 +54,13 @@ public:
     Kolt::PoolPtr pool() const { return pools_.pool(); }
     Kolt::UndoHistory& history() const override;
     /// Marks a value that is not the default; null until it first differed.
-    ModifiedIndicator* modifiedIndicator() const { return indicator_; }
+    ModifiedIndicator* modifiedIndicator() const { return names_->indicator(); }
     /// The label of the parameter; lives as long as the row.
-    QLabel* nameLabel() const { return nameLabel_; }
+    QLabel* nameLabel() const { return names_->label(); }
+    /// The label of the vector in the row of its first component; null in other rows.
+    QLabel* vectorLabel() const { return names_->vectorLabel(); }
     /// The line below the name; empty for none.
-    QString note() const { return noteLabel_ ? noteLabel_->text() : QString(); }
+    QString note() const { return names_->note(); }
     /// Null until it was first shown.
     RawValueLabel* rawValue() const { return rawValue_; }
     /// What the row says about its parameter, as rich text; the tool tip of the label. Empty after the parameter was
@@ -83,19 +85,25 @@ public:
     void setRawValueShown(bool shown);
     /// Lets people use the editor, or not; they can at first. That of a read-only parameter they never can.
     void setEditorEnabled(bool enabled);
+    /// Makes the row one of the components of a vector, counted from 0. Its name is short from now on, and the
+    /// clipboard takes the whole vector. The vector's name is before it if `isHeaded`.
+    void setComponent(ParameterVector const& vector, int component, bool isHeaded);
     /// Sets the width of the name column, so that the rows of a form are aligned. In pixels.
-    void setNameWidth(int width);
-    /// The width that the name and the note need, in pixels.
-    int nameWidth() const;
+    void setNameWidth(int width) { names_->setColumnWidth(width); }
+    /// The width of the name column that the name and the note need, in pixels; 0 for a component without the vector's
+    /// name.
+    int nameWidth() const { return names_->columnNeed(); }
+    /// The least width of the row in which its editor can be used, without the name column, in pixels.
+    int leastWidth() const;
     /// Limits the editor to what a row of this width leaves it. One that cannot become so narrow scrolls from then on.
     void fitInto(int width);
 
     /// The commands for the value in the current pool. Reset and paste are undo steps. What cannot be done is
     /// `refused`.
     void resetToDefault();
-    /// Copies the value to the clipboard.
+    /// Copies the value to the clipboard, or all values of the vector.
     void copyValue();
-    /// Makes the value on the clipboard effective.
+    /// Makes the value on the clipboard effective, or the values for a whole vector.
     void pasteValue();
     /// Makes what the parameter holds its default.
     void setAsDefault();
@@ -134,7 +142,9 @@ private:
     void checkEditor();
     void reopenEditor();
     void connectNumberFields();
-    void makeIndicator();
+    std::vector<Kolt::ParameterPtr> livingVector() const;
+    /// What people call the parameter: its label, or the names of the vector and of the component.
+    QString spokenName(Kolt::VParameter const& parameter) const;
     void updateAccessibility();
     void showNote();
     QString noteText() const;
@@ -144,12 +154,12 @@ private:
     QString const parameterName_;
     Kolt::ParameterRef const parameter_;
     PoolSourceRef const pools_;
-    QWidget* const names_;
-    NameLabel* const nameLabel_;
+    RowName* const names_;
     QHBoxLayout* const layout_;
+    // The parameters of the vector that the row is a component of, and what it is called there.
+    std::vector<Kolt::ParameterRef> vector_;
+    QString componentName_;
     // Made when first needed: most rows never need them.
-    ModifiedIndicator* indicator_ = nullptr;
-    QLabel* noteLabel_ = nullptr;
     RawValueLabel* rawValue_ = nullptr;
     QLabel* unitLabel_ = nullptr;
     bool isEditorEnabled_ = true;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <parameters/rows/FormPlan.hpp>
+#include <parameters/rows/RowTabs.hpp>
 #include <parameters/rows/SectionBox.hpp>
 #include <parameters/rows/TabStops.hpp>
 #include <QApplication>
@@ -9,6 +10,7 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStyle>
 
 namespace Talo {
 
@@ -29,7 +31,12 @@ constexpr std::size_t keptRows = 60;
 
 RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> const& parameters,
                  PoolSourceRef const& pools, QWidget* parent)
-    : ContentArea(parent), objectName_(objectName), pools_(pools), content_(new QWidget), layout_(spacing) {
+    : ContentArea(parent),
+      objectName_(objectName),
+      pools_(pools),
+      content_(new QWidget),
+      layout_(spacing),
+      vectors_(layout_, [this](auto place) { return entries_[place].row; }) {
     addEntries(FormPlan(parameters));
     connect(sections_, &FormSections::foldChanged, this, &RowArea::showFolding);
     connect(sections_, &FormSections::foldChanged, this, &RowArea::foldChanged);
@@ -45,6 +52,7 @@ void RowArea::addEntries(FormPlan const& plan) {
         layout_.addRow(heightClass);
         entries_.push_back({name, parameter});
     }
+    vectors_.setVectors(plan.vectors);
     sections_ = new FormSections(*content_, layout_, plan.sectionTitles, this);
     // Most labels are narrower than the one with the most letters; a row that needs more widens the column.
     nameWidth_ = fontMetrics().horizontalAdvance(plan.longestLabel);
@@ -126,6 +134,8 @@ void RowArea::setFilter(std::function<bool(Kolt::VParameter const&)> const& filt
         if (auto* const row = entries_[place].row)
             row->setVisible(layout_.isShown(place));
     }
+    for (auto const place : vectors_.join())
+        measureRow(place);
     arrangeInPlace();
     makeVisibleRows();
 }
@@ -180,6 +190,7 @@ void RowArea::make(Entry& entry) {
     connect(entry.row, &ParameterRow::helpRequested, this, &RowArea::helpRequested);
     connect(entry.row, &ParameterRow::editorReplaced, this, [this, &entry] { emitEditorOpened(entry); });
     made_.insert(place);
+    vectors_.showNames(place);
     entry.row->setRawValueShown(rawValuesShown_);
     entry.row->setEditorEnabled(!isEnabled_ || isEnabled_(*parameter));
     if (editorsOpen_)
@@ -204,8 +215,17 @@ void RowArea::measure(std::size_t place) {
             each->setNameWidth(nameColumn());
     }
     row.setNameWidth(nameColumn());
-    row.fitInto(rowWidth());
-    int const wanted = row.hasHeightForWidth() ? row.heightForWidth(rowWidth()) : row.sizeHint().height();
+    for (auto const other : vectors_.fit(place, rowWidth(), nameColumn()))
+        measureRow(other);
+    measureRow(place);
+}
+
+void RowArea::measureRow(std::size_t place) {
+    auto& row = *entries_[place].row;
+    row.setNameWidth(nameColumn());
+    int const width = vectors_.span(place, rowWidth(), nameColumn()).width;
+    row.fitInto(width);
+    int const wanted = row.hasHeightForWidth() ? row.heightForWidth(width) : row.sizeHint().height();
     layout_.setHeight(place, qMax(wanted, row.hasHeightForWidth() ? 0 : row.minimumSizeHint().height()));
 }
 
@@ -222,7 +242,10 @@ void RowArea::arrange() {
     placeSections();
     for (auto const place : made_) {
         int const top = layout_.top(place) - layout_.sectionTop(layout_.sectionOf(place));
-        entries_[place].row->setGeometry(sections_->margins().left(), top, rowWidth(), layout_.height(place));
+        auto const [left, width] = vectors_.span(place, rowWidth(), nameColumn());
+        QRect const line(sections_->margins().left(), top, rowWidth(), layout_.height(place));
+        QRect const part(line.left() + left, top, width, line.height());
+        entries_[place].row->setGeometry(QStyle::visualRect(layoutDirection(), line, part));
     }
 }
 
@@ -288,24 +311,16 @@ void RowArea::dropFarRows() {
     // While a button is held, a handle may be moving.
     if (QApplication::mouseButtons() != Qt::NoButton)
         return;
-    auto const distance = [this](std::size_t place) {
-        return qMax(visibleTop() - layout_.bottom(place), layout_.top(place) - visibleBottom());
-    };
-    std::vector<std::size_t> outOfSight;
-    std::copy_if(made_.begin(), made_.end(), std::back_inserter(outOfSight),
-                 [&](auto const place) { return distance(place) > 0; });
-    std::sort(outOfSight.begin(), outOfSight.end(),
-              [&](auto const left, auto const right) { return distance(left) < distance(right); });
-    for (std::size_t index = keptRows; index < outOfSight.size(); ++index) {
-        auto& entry = entries_[outOfSight[index]];
+    for (auto const place : layout_.farRows(made_, visibleTop(), visibleBottom(), keptRows)) {
+        auto& entry = entries_[place];
         if (isInUse(*entry.row))
             continue;
         entry.row->closeEditor();
         entry.row->hide();
         entry.row->deleteLater();
         entry.row = nullptr;
-        layout_.dropHeight(outOfSight[index]);
-        made_.erase(outOfSight[index]);
+        layout_.dropHeight(place);
+        made_.erase(place);
     }
 }
 
@@ -328,6 +343,8 @@ void RowArea::showEvent(QShowEvent* event) {
 
 void RowArea::changeEvent(QEvent* event) {
     ContentArea::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        arrange();
     if (event->type() != QEvent::StyleChange && event->type() != QEvent::FontChange)
         return;
     layout_.forgetEstimates();
@@ -340,53 +357,28 @@ void RowArea::scrollContentsBy(int dx, int dy) {
     makeVisibleRows();
 }
 
-bool RowArea::focusControl(Entry const& entry, bool first, bool ofEditor) {
-    auto stops = tabStopsIn(*entry.row);
-    if (ofEditor)
-        stops.erase(std::remove(stops.begin(), stops.end(), entry.row->modifiedIndicator()), stops.end());
-    if (stops.empty())
-        return false;
-    auto* const stop = first ? stops.front() : stops.back();
-    stop->setFocus(first ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    ensureWidgetVisible(stop);
-    return true;
-}
-
-bool RowArea::focusFrom(std::ptrdiff_t place, bool next, bool toEditor) {
-    for (; place >= 0 && place < static_cast<std::ptrdiff_t>(entries_.size()); place += next ? 1 : -1) {
-        auto& entry = entries_[static_cast<std::size_t>(place)];
-        if (!layout_.isShown(placeOf(entry)))
-            continue;
-        if (!entry.row) {
-            make(entry);
-            arrangeInPlace();
-        }
-        if (entry.row && focusControl(entry, next, toEditor))
-            return true;
+ParameterRow* RowArea::shownRow(std::size_t place) {
+    auto& entry = entries_[place];
+    if (!layout_.isShown(place))
+        return nullptr;
+    if (!entry.row) {
+        make(entry);
+        arrangeInPlace();
     }
-    return false;
+    return entry.row;
 }
 
 bool RowArea::focusFirstControl() {
-    return focusFrom(0, true, true);
+    return RowTabs(*this, entries_.size(), [this](auto place) { return shownRow(place); }).focusFirstEditor();
 }
 
 bool RowArea::focusNextPrevChild(bool next) {
-    auto const* const focus = QApplication::focusWidget();
+    auto* const focus = QApplication::focusWidget();
     auto const* const current = focus ? entryOf(focus) : nullptr;
     if (!current)
         return ContentArea::focusNextPrevChild(next);
-    auto const stops = tabStopsIn(*current->row);
-    auto const stop = std::find(stops.begin(), stops.end(), focus);
-    if (stop != stops.end() && (next ? stop + 1 != stops.end() : stop != stops.begin())) {
-        auto* const neighbour = next ? *(stop + 1) : *(stop - 1);
-        neighbour->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        ensureWidgetVisible(neighbour);
-        return true;
-    }
-    if (focusFrom(current - entries_.data() + (next ? 1 : -1), next, false))
-        return true;
-    return focusOutside(*this, *focus, next);
+    RowTabs const tabs(*this, entries_.size(), [this](auto place) { return shownRow(place); });
+    return tabs.focusNext(*focus, placeOf(*current), next);
 }
 
 void RowArea::keyPressEvent(QKeyEvent* event) {

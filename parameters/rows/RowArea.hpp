@@ -6,6 +6,7 @@
 #include <parameters/rows/FormSections.hpp>
 #include <parameters/rows/ParameterRow.hpp>
 #include <parameters/rows/RowLayout.hpp>
+#include <parameters/rows/VectorRows.hpp>
 #include <set>
 #include <tessera/Export.hpp>
 #include <vector>
@@ -14,7 +15,8 @@ namespace Talo {
 
 struct FormPlan;
 
-/// The rows of any number of parameters below each other, in sections (ParameterDescription).
+/// The rows of any number of parameters below each other, in sections (ParameterDescription). Those of the components
+/// of a vector (ParameterVector) stand side by side.
 /// Only visible rows are made, and rows far from the visible ones are deleted again, so an object with ten thousand
 /// parameters opens almost as fast as one with ten. The height of a row that was never made is estimated from rows of
 /// the same type and preferences; what the user sees stays in its place if the estimate was wrong.
@@ -113,6 +115,7 @@ private:
     void make(Entry& entry);
     void emitEditorOpened(Entry const& entry);
     void measure(std::size_t place);
+    void measureRow(std::size_t place);
     void measureAll();
     /// Gives every widget its place.
     void arrange();
@@ -124,15 +127,14 @@ private:
     void dropFarRows();
     int visibleTop() const;
     int visibleBottom() const;
-    /// Gives the focus to a control of the next row that has one, from a place on; false if there is none. The
-    /// indicator before the editor is skipped if `toEditor`.
-    bool focusFrom(std::ptrdiff_t place, bool next, bool toEditor);
-    bool focusControl(Entry const& entry, bool first, bool ofEditor);
+    /// The row at a place, made if it does not exist; null for one that is not shown, or whose parameter is gone.
+    ParameterRow* shownRow(std::size_t place);
 
     QString const objectName_;
     PoolSourceRef const pools_;
     QWidget* const content_;
     RowLayout layout_;
+    VectorRows vectors_;
     // By the numbers of the layout.
     std::vector<Entry> entries_;
     FormSections* sections_ = nullptr;

@@ -2,9 +2,8 @@
 
 namespace Talo {
 
-namespace {
-
-int widthBeside(QWidget const* editor, QWidget const* scroller, QHBoxLayout const& layout) {
+int widthBesideEditor(EditorCell const& cell, QPointer<EditorScroller> const& scroller, QHBoxLayout const& layout) {
+    auto const* const editor = cell.widget();
     int width = 0;
     for (int index = 0; index < layout.count(); ++index) {
         auto* const item = layout.itemAt(index);
@@ -15,13 +14,11 @@ int widthBeside(QWidget const* editor, QWidget const* scroller, QHBoxLayout cons
     return width;
 }
 
-} // namespace
-
 void fitEditor(EditorCell& cell, QPointer<EditorScroller>& scroller, QHBoxLayout& layout, int width) {
     auto* const editor = cell.widget();
     if (!editor)
         return;
-    int const available = width - widthBeside(editor, scroller, layout);
+    int const available = width - widthBesideEditor(cell, scroller, layout);
     cell.limitWidth(available);
     if (scroller || cell.leastWidth() <= available)
         return;

@@ -1,6 +1,7 @@
 #include <parameters/rows/RowLayout.hpp>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Talo {
@@ -61,17 +62,18 @@ void RowLayout::arrange(Section& section) {
     // The rows of a folded section are where it ends, so that places never go up.
     int bottom = section.top + (section.folded ? section.margins.folded : section.margins.top);
     bool isEmpty = true;
-    for (auto index = section.firstRow; index < section.firstRow + section.rowCount; ++index) {
-        auto& row = rows_[index];
-        row.top = bottom;
-        if (!row.shown)
-            continue;
-        isEmpty = false;
-        if (section.folded)
-            continue;
-        if (!row.measured && estimates_[row.heightClass] > 0)
-            row.height = estimates_[row.heightClass];
-        bottom += row.height + spacing_.betweenRows;
+    auto const sectionEnd = section.firstRow + section.rowCount;
+    for (auto row = section.firstRow; row < sectionEnd;) {
+        auto const end = endOfPlace(row, sectionEnd);
+        int const needed = neededHeight(row, end);
+        bool const hasPlace = needed > 0 && !section.folded;
+        isEmpty = isEmpty && needed == 0;
+        for (; row < end; ++row) {
+            rows_[row].top = bottom;
+            rows_[row].placeHeight = hasPlace ? needed : 0;
+        }
+        if (hasPlace)
+            bottom += needed + spacing_.betweenRows;
     }
     if (isEmpty)
         section.height = 0;
@@ -81,11 +83,39 @@ void RowLayout::arrange(Section& section) {
         section.height = bottom - spacing_.betweenRows + section.margins.bottom - section.top;
 }
 
+std::size_t RowLayout::endOfPlace(std::size_t row, std::size_t sectionEnd) const {
+    for (++row; row < sectionEnd && rows_[row].joined;)
+        ++row;
+    return row;
+}
+
+int RowLayout::neededHeight(std::size_t row, std::size_t end) {
+    int needed = 0;
+    for (; row < end; ++row) {
+        auto& each = rows_[row];
+        if (!each.shown)
+            continue;
+        if (!each.measured && estimates_[each.heightClass] > 0)
+            each.height = estimates_[each.heightClass];
+        needed = std::max(needed, each.height);
+    }
+    return needed;
+}
+
+std::vector<std::size_t> RowLayout::farRows(std::set<std::size_t> const& rows, int top, int bottom,
+                                            std::size_t nearest) const {
+    auto const distance = [&](std::size_t row) { return std::max(top - this->bottom(row), this->top(row) - bottom); };
+    std::vector<std::size_t> far;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(far), [&](auto const row) { return distance(row) > 0; });
+    std::sort(far.begin(), far.end(),
+              [&](auto const left, auto const right) { return distance(left) < distance(right); });
+    far.erase(far.begin(), far.begin() + static_cast<std::ptrdiff_t>(std::min(nearest, far.size())));
+    return far;
+}
+
 std::size_t RowLayout::firstRowBelow(int y) const {
-    auto const found = std::partition_point(rows_.begin(), rows_.end(), [this, y](auto const& row) {
-        bool const hasPlace = row.shown && !sections_[row.section].folded;
-        return row.top + (hasPlace ? row.height : 0) <= y;
-    });
+    auto const found = std::partition_point(rows_.begin(), rows_.end(),
+                                            [y](auto const& row) { return row.top + row.placeHeight <= y; });
     return static_cast<std::size_t>(found - rows_.begin());
 }
 

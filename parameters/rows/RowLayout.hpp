@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <set>
 #include <tessera/Export.hpp>
 #include <vector>
 
@@ -8,7 +9,8 @@ namespace Talo {
 
 /// Where the rows of a long form are: rows below each other, in sections. Most rows were never made; their height is
 /// estimated from rows of their height class. Knows no widgets. All lengths are in pixels; rows and sections are
-/// numbered from 0, and the rows of one section are consecutive.
+/// numbered from 0, and the rows of one section are consecutive. Rows can be joined to the ones before them, and stand
+/// beside them: they share a place, which is as high as the highest of them.
 class TALO_EXPORT RowLayout {
 public:
     /// The room that a section adds around its rows.
@@ -53,6 +55,9 @@ public:
     /// A row that is not shown takes no room. Rows are shown at first.
     void setShown(std::size_t row, bool shown) { rows_[row].shown = shown; }
 
+    /// Puts a row beside the one before it, or below it, as it is at first. The first row of a section stays below.
+    void setJoined(std::size_t row, bool joined) { rows_[row].joined = joined; }
+
     /// Computes the places of all rows and sections. To be called after changes, before places are asked for.
     void arrange();
 
@@ -62,6 +67,8 @@ public:
     std::size_t sectionCount() const { return sections_.size(); }
     /// Whether the section is folded.
     bool isFolded(std::size_t section) const { return sections_[section].folded; }
+    /// Whether the row is shown wherever its section is open.
+    bool passesFilter(std::size_t row) const { return rows_[row].shown; }
     /// Whether the row has a place: it is shown, and its section is not folded.
     bool isShown(std::size_t row) const { return rows_[row].shown && !isFolded(rows_[row].section); }
     /// The number of shown rows, in folded sections as well.
@@ -70,8 +77,8 @@ public:
     std::size_t sectionOf(std::size_t row) const { return rows_[row].section; }
     /// From the top of the form; of a row that is not shown the place at which it would begin.
     int top(std::size_t row) const { return rows_[row].top; }
-    /// The height of the row, measured or estimated.
-    int height(std::size_t row) const { return rows_[row].height; }
+    /// The height of the row's place, measured or estimated; 0 for one that is not shown, nor any row beside it.
+    int height(std::size_t row) const { return rows_[row].placeHeight; }
     /// Where the row ends, from the top of the form.
     int bottom(std::size_t row) const { return top(row) + height(row); }
     /// Where the section begins, from the top of the form.
@@ -80,6 +87,8 @@ public:
     int sectionHeight(std::size_t section) const { return sections_[section].height; }
     /// The height of the form.
     int totalHeight() const { return totalHeight_; }
+    /// Those of some rows that are out of sight between two heights of the form, but for the nearest ones.
+    std::vector<std::size_t> farRows(std::set<std::size_t> const& rows, int top, int bottom, std::size_t nearest) const;
     /// The first row that ends below `y`; rowCount() if there is none. It may be one that is not shown.
     std::size_t firstRowBelow(int y) const;
 
@@ -89,8 +98,10 @@ private:
         std::size_t heightClass = 0;
         int top = 0;
         int height = 0;
+        int placeHeight = 0;
         bool measured = false;
         bool shown = true;
+        bool joined = false;
     };
     struct Section {
         SectionMargins margins;
@@ -101,6 +112,10 @@ private:
         bool folded = false;
     };
     void arrange(Section& section);
+    /// The number after the last of the rows that stand beside this one.
+    std::size_t endOfPlace(std::size_t row, std::size_t sectionEnd) const;
+    /// The height that the shown ones of these rows need.
+    int neededHeight(std::size_t row, std::size_t end);
 
     Spacing const spacing_;
     std::vector<Row> rows_;

@@ -41,6 +41,16 @@ QByteArray conditions(QByteArray const& visible, QByteArray const& enabled) {
                       properties + " }");
 }
 
+/// A network whose only object has three integers: "a", "p" in the row of another one, and "q" in that of "p".
+QByteArray rows(QByteArray const& rowOfP, QByteArray const& rowOfQ) {
+    auto const number = [](QByteArray const& name, QByteArray const& rowOf) {
+        return "{ \"name\": \"" + name + "\", \"type\": \"int\", \"value\": 1, \"properties\": {\n\"rowOf\": \"" +
+               rowOf + "\" } }";
+    };
+    return parameters("{ \"name\": \"a\", \"type\": \"int\", \"value\": 1 },\n" + number("p", rowOfP) + ",\n" +
+                      number("q", rowOfQ));
+}
+
 std::vector<WrongFile> wrongFiles() {
     return {
         {"NothingAtAll", "", 1, "expected valid JSON, found: illegal value"},
@@ -186,6 +196,14 @@ std::vector<WrongFile> wrongFiles() {
          "o.p: expected a condition that does not depend on itself, found the text \"p=1\""},
         {"CircularCondition", conditions("q=1", "p=1"), 4,
          "o.p: expected a condition that does not depend on itself, found the text \"q=1\""},
+        {"RowOfNothing", rows("b", "a"), 5,
+         "o.p: expected the name of a parameter that comes before and begins a row, found the text \"b\""},
+        {"RowOfItself", rows("p", "a"), 5,
+         "o.p: expected the name of a parameter that comes before and begins a row, found the text \"p\""},
+        {"RowOfALaterOne", rows("q", "a"), 5,
+         "o.p: expected the name of a parameter that comes before and begins a row, found the text \"q\""},
+        {"RowOfOneInARow", rows("a", "p"), 7,
+         "o.q: expected the name of a parameter that comes before and begins a row, found the text \"p\""},
         {"FreePropertyList", parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"weight\": [] }"), 4,
          "o.p: expected the property \"weight\", a number, a text, true or false, found a list of 0"},
         {"UnknownTag", parameter("\"type\": \"int\", \"value\": 1, \"properties\": {\n\"weight\": { \"real\": 1 } }"),

@@ -1,11 +1,8 @@
-#include "support/TestHost.hpp"
+#include "parameters/FormTest.hpp"
 
-#include <lattice/TypedParameter.hpp>
 #include <parameters/commands/UndoStackAdapter.hpp>
 #include <parameters/OnePool.hpp>
-#include <parameters/ParameterPanel.hpp>
 #include <parameters/rows/ParameterRow.hpp>
-#include <parameters/rows/RowArea.hpp>
 #include <QCheckBox>
 #include <QHelpEvent>
 #include <QLineEdit>
@@ -25,26 +22,18 @@ using testing::SizeIs;
 
 namespace {
 
-/// A host's window: a panel for one object, with the real plug-in.
-class ParameterPanelTest : public PluginTest {
+class ParameterPanelTest : public FormTest {
 protected:
+    ParameterPanelTest() : FormTest("lamp") {}
+
     void SetUp() override {
-        PluginTest::SetUp();
-        object = Kolt::ObjectPtr(new Kolt::VObject("lamp"));
+        FormTest::SetUp();
         for (Kolt::ParameterPtr const& each :
-             {Kolt::ParameterPtr(on), Kolt::ParameterPtr(level), Kolt::ParameterPtr(label)}) {
-            each->setHistory(&history);
-            each->rememberDefaults();
-            object->addParameter(each);
-        }
-        panel = new Talo::ParameterPanel(object, pools, parent);
-        panel->resize(600, 400);
-        parent->show();
-        parent->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(parent));
+             {Kolt::ParameterPtr(on), Kolt::ParameterPtr(level), Kolt::ParameterPtr(label)})
+            add(each);
+        ASSERT_NO_FATAL_FAILURE(show());
     }
 
-    Talo::ParameterRow* row(char const* name) const { return panel->rowArea()->row(QLatin1String(name)); }
     QCheckBox* box() const { return row("on")->editor()->findChild<QCheckBox*>(); }
     QSlider* slider() const { return row("level")->editor()->findChild<QSlider*>(); }
     QLineEdit* field() const {
@@ -54,12 +43,9 @@ protected:
     }
     void clickBox() const { QTest::mouseClick(box(), Qt::LeftButton, Qt::NoModifier, {8, box()->height() / 2}); }
 
-    Kolt::UndoHistory history;
     Parameter<bool> const on{"on", false};
     Parameter<int> const level = Parameter<int>::perPool("level", 40).min(0).max(100);
     Parameter<std::string> const label{"label", "desk"};
-    Kolt::ObjectPtr object;
-    QPointer<Talo::ParameterPanel> panel;
 };
 
 } // namespace

@@ -1,13 +1,10 @@
 // What a panel shows for the properties of parameters: labels, help, units, sections, advanced and read-only
 // parameters, and conditions.
 
-#include "support/TestHost.hpp"
+#include "parameters/FormTest.hpp"
 
-#include <lattice/TypedParameter.hpp>
 #include <parameters/commands/HelpView.hpp>
-#include <parameters/ParameterPanel.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
-#include <parameters/rows/RowArea.hpp>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QGroupBox>
@@ -28,39 +25,10 @@ using testing::Not;
 
 namespace {
 
-class ParameterPropertiesTest : public PluginTest {
+class ParameterPropertiesTest : public FormTest {
 protected:
-    void SetUp() override {
-        PluginTest::SetUp();
-        object = Kolt::ObjectPtr(new Kolt::VObject("pump"));
-    }
+    ParameterPropertiesTest() : FormTest("pump") {}
 
-    void add(Kolt::ParameterPtr const& parameter) {
-        parameter->setHistory(&history);
-        parameter->rememberDefaults();
-        object->addParameter(parameter);
-    }
-
-    void show() {
-        panel = new Talo::ParameterPanel(object, pools, parent);
-        panel->resize(600, 400);
-        parent->show();
-        parent->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(parent));
-    }
-
-    Talo::ParameterRow* row(char const* name) const { return panel->rowArea()->row(QLatin1String(name)); }
-    template <typename Control>
-    Control* control(char const* name) const {
-        return row(name)->editor()->findChild<Control*>();
-    }
-    std::vector<std::string> shownRows() const {
-        std::vector<std::string> names;
-        for (auto* const each : panel->rowArea()->rows())
-            if (each->isVisible())
-                names.push_back(each->parameterName().toStdString());
-        return names;
-    }
     /// The tool tip of a row's label.
     std::string toolTip(char const* name) const {
         auto* const label = row(name)->nameLabel();
@@ -74,10 +42,6 @@ protected:
     static void setProperty(Kolt::ParameterPtr const& parameter, char const* name, Kolt::ValuePtr const& value) {
         parameter->setProperty(name, value, nullptr, nullptr, nullptr);
     }
-
-    Kolt::UndoHistory history;
-    Kolt::ObjectPtr object;
-    QPointer<Talo::ParameterPanel> panel;
 };
 
 } // namespace
@@ -283,6 +247,21 @@ TEST_F(ParameterPropertiesTest, ConditionsFollowTheOtherParameter) {
     EXPECT_TRUE(waitUntil([&] { return shownRows() == std::vector<std::string>{"on", "gear"}; }));
     panel->setFilter("rpm");
     EXPECT_THAT(shownRows(), IsEmpty()) << "the filter does not show what is of no use";
+}
+
+TEST_F(ParameterPropertiesTest, AnEditedParameterStaysWhenAConditionChangesWhileTheFilterStands) {
+    add(Parameter<bool>("on", true));
+    add(Parameter<int>("rpm").property("visibleWhen", "on=false"));
+    show();
+    panel->setFilter("true");
+    EXPECT_THAT(shownRows(), ElementsAre("on"));
+    QTest::mouseClick(control<QCheckBox>("on"), Qt::LeftButton, {}, {8, control<QCheckBox>("on")->height() / 2});
+    ASSERT_FALSE(Kolt::valueOr(object->findParameter("on")->ownValue(), true));
+    // The condition is looked at after the event.
+    QCoreApplication::processEvents();
+    EXPECT_THAT(shownRows(), ElementsAre("on")) << "its value is no longer the word of the filter";
+    panel->setFilter("true");
+    EXPECT_THAT(shownRows(), IsEmpty());
 }
 
 TEST_F(ParameterPropertiesTest, ConditionsAreThoseOfTheChosenPool) {

@@ -1,10 +1,7 @@
 // The sections of a form: how they are folded, and what stays reachable.
 
-#include "support/TestHost.hpp"
+#include "parameters/FormTest.hpp"
 
-#include <lattice/TypedParameter.hpp>
-#include <parameters/ParameterPanel.hpp>
-#include <parameters/rows/RowArea.hpp>
 #include <parameters/rows/SectionBox.hpp>
 #include <QCheckBox>
 #include <QSignalSpy>
@@ -16,22 +13,17 @@ using testing::IsEmpty;
 namespace {
 
 /// A form with three sections: one without a title, "Motor" and "Housing".
-class SectionsTest : public PluginTest {
+class SectionsTest : public FormTest {
 protected:
+    SectionsTest() : FormTest("pump") {}
+
     void SetUp() override {
-        PluginTest::SetUp();
-        object = Kolt::ObjectPtr(new Kolt::VObject("pump"));
+        FormTest::SetUp();
         for (auto const* const name : {"on", "Motor.fast", "Motor.loud", "Housing.red", "Housing.open"})
-            object->addParameter(Parameter<bool>(name, false));
-        panel = new Talo::ParameterPanel(object, pools, parent);
-        panel->resize(600, 400);
-        parent->show();
-        parent->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(parent));
+            add(Parameter<bool>(name, false));
+        ASSERT_NO_FATAL_FAILURE(show());
     }
 
-    Talo::RowArea* area() const { return panel->rowArea(); }
-    Talo::ParameterRow* row(char const* name) const { return area()->row(QLatin1String(name)); }
     Talo::SectionBox* box(char const* title) const {
         for (auto* const each : area()->findChildren<Talo::SectionBox*>())
             if (each->title() == QLatin1String(title))
@@ -39,16 +31,6 @@ protected:
         return nullptr;
     }
     void clickTitle(char const* title) const { QTest::mouseClick(box(title), Qt::LeftButton, {}, {10, 6}); }
-    std::vector<std::string> shownRows() const {
-        std::vector<std::string> names;
-        for (auto* const each : area()->rows())
-            if (each->isVisible())
-                names.push_back(each->parameterName().toStdString());
-        return names;
-    }
-
-    Kolt::ObjectPtr object;
-    QPointer<Talo::ParameterPanel> panel;
 };
 
 } // namespace

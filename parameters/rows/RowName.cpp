@@ -1,0 +1,123 @@
+#include <parameters/rows/RowName.hpp>
+
+#include <parameters/rows/SmallLabel.hpp>
+#include <QGridLayout>
+#include <utility>
+
+namespace Talo {
+
+namespace {
+
+// In pixels, between a name and its dot, and between the name of a vector and that of its first component.
+constexpr int indicatorDistance = 2;
+constexpr int componentDistance = 12;
+
+enum Column { VectorColumn, NameColumn, IndicatorColumn, RestColumn, ColumnCount };
+
+} // namespace
+
+RowName::RowName(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)), label_(new NameLabel(this)) {
+    grid_->setContentsMargins(0, 4, 0, 4);
+    grid_->setHorizontalSpacing(indicatorDistance);
+    grid_->setVerticalSpacing(0);
+    grid_->setColumnStretch(RestColumn, 1);
+    grid_->addWidget(label_, 0, NameColumn);
+}
+
+RowName::~RowName() = default;
+
+QString RowName::note() const {
+    return noteLabel_ ? noteLabel_->text() : QString();
+}
+
+void RowName::setName(QString const& name) {
+    if (!isComponent_)
+        label_->setName(name);
+}
+
+void RowName::setComponent(QString const& component, QString const& vector) {
+    if (!std::exchange(isComponent_, true)) {
+        // Beside the editor, also where a note is below the name of the vector.
+        grid_->removeWidget(label_);
+        grid_->addWidget(label_, 0, NameColumn, 2, 1);
+        delete std::exchange(noteLabel_, nullptr);
+    }
+    label_->setName(component);
+    keepIndicatorRoom();
+    if (vector.isEmpty()) {
+        delete std::exchange(vectorLabel_, nullptr);
+        return;
+    }
+    if (!vectorLabel_) {
+        vectorLabel_ = new NameLabel(this);
+        grid_->addWidget(vectorLabel_, 0, VectorColumn);
+        vectorLabel_->show();
+    }
+    vectorLabel_->setName(vector);
+}
+
+void RowName::setNote(QString const& text) {
+    auto const note = isComponent_ && !vectorLabel_ ? QString() : text;
+    if (note.isEmpty() && !noteLabel_)
+        return;
+    if (!noteLabel_) {
+        noteLabel_ = new SmallLabel(this);
+        grid_->addWidget(noteLabel_, 1, VectorColumn, 1, isComponent_ ? 1 : ColumnCount);
+    }
+    noteLabel_->setText(note);
+    noteLabel_->setVisible(!note.isEmpty());
+}
+
+void RowName::showModified(QString const& parameterName, QString const& defaultText) {
+    if (!indicator_) {
+        indicator_ = new ModifiedIndicator(parameterName, this);
+        grid_->addWidget(indicator_, 0, IndicatorColumn, isComponent_ ? 2 : 1, 1);
+        connect(indicator_, &ModifiedIndicator::clicked, this, &RowName::resetRequested);
+    }
+    indicator_->setDefault(defaultText);
+    indicator_->show();
+    keepIndicatorRoom();
+}
+
+void RowName::hideModified() {
+    if (!indicator_)
+        return;
+    indicator_->hide();
+    keepIndicatorRoom();
+}
+
+void RowName::keepIndicatorRoom() {
+    if (!isComponent_)
+        return;
+    // An empty column has no distance to the others.
+    bool const isEmpty = !indicator_ || indicator_->isHidden();
+    grid_->setColumnMinimumWidth(IndicatorColumn, ModifiedIndicator::side(*label_) + (isEmpty ? indicatorDistance : 0));
+}
+
+int RowName::columnNeed() const {
+    int const noteWidth = note().isEmpty() ? 0 : noteLabel_->sizeHint().width();
+    if (vectorLabel_)
+        return qMax(vectorLabel_->wholeWidth(), noteWidth);
+    int const nameWidth = label_->wholeWidth() + indicatorDistance + ModifiedIndicator::side(*label_);
+    return isComponent_ ? 0 : qMax(nameWidth, noteWidth);
+}
+
+int RowName::vectorWidth(int column) {
+    return column + componentDistance;
+}
+
+int RowName::vectorWidth() const {
+    return vectorLabel_ ? vectorLabel_->minimumWidth() + indicatorDistance : 0;
+}
+
+void RowName::setColumnWidth(int width) {
+    if (vectorLabel_) {
+        vectorLabel_->setFixedWidth(vectorWidth(width) - indicatorDistance);
+        vectorLabel_->shortenTo(width);
+    } else if (!isComponent_) {
+        setFixedWidth(width);
+        label_->shortenTo(width - indicatorDistance - ModifiedIndicator::side(*label_));
+    }
+}
+
+} // namespace Talo
