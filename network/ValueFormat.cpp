@@ -289,6 +289,18 @@ ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value) {
     return list ? &list->strings() : nullptr;
 }
 
+bool offerSameChoices(Kolt::ValuePtr const& left, Kolt::ValuePtr const& right) {
+    Kolt::FlagList const none;
+    auto const leftFlags = Kolt::valueOr(left, none);
+    auto const rightFlags = Kolt::valueOr(right, none);
+    auto const* const leftEntries = entriesOf(left);
+    auto const* const rightEntries = entriesOf(right);
+    bool const haveSameEntries =
+        leftEntries && rightEntries ? *leftEntries == *rightEntries : leftEntries == rightEntries;
+    return haveSameEntries && std::equal(leftFlags.begin(), leftFlags.end(), rightFlags.begin(), rightFlags.end(),
+                                         [](auto const& one, auto const& other) { return one.first == other.first; });
+}
+
 QJsonValue realToJson(double number) {
     if (std::isnan(number))
         return "nan";

@@ -38,6 +38,9 @@ struct TALO_EXPORT ValueFormat {
 /// The entries among which a value chooses; null when it refers to no list.
 TALO_EXPORT ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value);
 
+/// Whether two values choose among the same entries, or set the same flags. True for values that do neither.
+TALO_EXPORT bool offerSameChoices(Kolt::ValuePtr const& left, Kolt::ValuePtr const& right);
+
 /// A number as JsonNode::real reads it.
 TALO_EXPORT QJsonValue realToJson(double number);
 

@@ -5,6 +5,7 @@
 #include <parameters/commands/ParameterCommands.hpp>
 #include <parameters/commands/ParameterFilter.hpp>
 #include <parameters/commands/RowCommands.hpp>
+#include <parameters/commands/SharedEdits.hpp>
 #include <parameters/commands/UndoActions.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/input/PendingEdit.hpp>
@@ -25,6 +26,11 @@ namespace {
 // A deleted parameter is not signalled, so a visible panel looks for it. In milliseconds.
 constexpr int checkInterval = 250;
 
+std::vector<Kolt::ObjectPtr> withoutNull(std::vector<Kolt::ObjectPtr> objects) {
+    objects.erase(std::remove(objects.begin(), objects.end(), nullptr), objects.end());
+    return objects;
+}
+
 QString nameOf(Kolt::ObjectPtr const& object) {
     return object ? QString::fromStdString(object->Name()) : QString();
 }
@@ -33,6 +39,16 @@ QString nameOf(Kolt::ObjectPtr const& object) {
 
 class ParameterPanel::Private {
 public:
+    Private(ParameterPanel& panel, std::vector<Kolt::ObjectPtr> const& objects, Kolt::ValuePoolSource& poolSource)
+        : Private(panel, objects.empty() ? nullptr : objects.front(), poolSource) {
+        if (objects.size() < 2)
+            return;
+        shared = std::make_unique<SharedEdits>(objects.front(),
+                                               std::vector<Kolt::ObjectPtr>(objects.begin() + 1, objects.end()));
+        rows->setOthers([this](auto const& parameter) { return shared->othersOf(parameter); });
+        applyFilter();
+    }
+
     Private(ParameterPanel& panel, Kolt::ObjectPtr const& shown, Kolt::ValuePoolSource& poolSource)
         : object(shown),
           pools(poolSource),
@@ -86,22 +102,29 @@ public:
         bool const hasWords = !ParameterFilter(filter).isEmpty();
         auto const isShown = [&](Kolt::VParameter const& parameter) {
             bool const isWanted = hasWords ? found.count(&parameter) != 0 : advancedShown || !isAdvanced(parameter);
-            return isWanted && conditions.isVisible(parameter, pools.pool());
+            bool const isCommon = !shared || !shared->othersOf(parameter).empty();
+            return isWanted && isCommon && conditions.isVisible(parameter, pools.pool());
         };
         rows->setAllSectionsOpen(hasWords);
-        if (hasWords || (hasAdvanced && !advancedShown) || conditions.hasConditions())
+        if (hasWords || shared || (hasAdvanced && !advancedShown) || conditions.hasConditions())
             rows->setFilter(isShown);
         else
             rows->setFilter({});
         auto const living = object.strong();
         bool const showsNone = living && !living->parameters().empty() && rows->shownCount() == 0;
         rows->setVisible(!showsNone);
-        emptyNote->setText(hasWords ? tr("No parameter of this object is found by the filter.")
-                                    : tr("All parameters of this object are advanced, or of no use now."));
+        emptyNote->setText(noteText(hasWords));
         emptyNote->setVisible(showsNone);
         if (conditions.hasConditions())
             rows->setEnabledWhen(
                 [this](auto const& parameter) { return conditions.isEnabled(parameter, pools.pool()); });
+    }
+
+    QString noteText(bool hasWords) const {
+        if (hasWords)
+            return tr("No parameter of this object is found by the filter.");
+        return shared ? tr("The objects have no parameter in common that could be shown now.")
+                      : tr("All parameters of this object are advanced, or of no use now.");
     }
 
     Kolt::UndoHistory& history() const {
@@ -159,6 +182,8 @@ public:
     std::shared_ptr<InputFilter> const inputFilter = InputFilter::shared();
     RowArea* const rows;
     ConditionWatcher conditions;
+    // Null for one object.
+    std::unique_ptr<SharedEdits> shared;
     MutedLabel* const emptyNote;
     QTimer checkTimer;
     QString filter;
@@ -175,8 +200,12 @@ public:
 };
 
 ParameterPanel::ParameterPanel(Kolt::ObjectPtr const& object, Kolt::ValuePoolSource& pools, QWidget* parent)
-    : QWidget(parent), d_(std::make_unique<Private>(*this, object, pools)) {
-    if (!object)
+    : ParameterPanel(std::vector<Kolt::ObjectPtr>{object}, pools, parent) {}
+
+ParameterPanel::ParameterPanel(std::vector<Kolt::ObjectPtr> const& objects, Kolt::ValuePoolSource& pools,
+                               QWidget* parent)
+    : QWidget(parent), d_(std::make_unique<Private>(*this, withoutNull(objects), pools)) {
+    if (!d_->object.alive())
         qWarning("ParameterPanel: there is no object to show.");
     connect(d_->rows, &RowArea::editorOpened, this, &ParameterPanel::editorOpened);
     connect(d_->rows, &RowArea::refused, this, &ParameterPanel::refused);

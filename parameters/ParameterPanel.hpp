@@ -32,9 +32,13 @@ public:
     /// the object's first parameter, which must outlive the panel. A null object gives an empty panel and a warning of
     /// Qt.
     ParameterPanel(Kolt::ObjectPtr const& object, Kolt::ValuePoolSource& pools, QWidget* parent = nullptr);
+    /// Shows several objects in one form: the parameters that all of them have, in the order of the first object. A row
+    /// whose values differ says so; an edit goes to all objects as one undo step. A null object is left out.
+    ParameterPanel(std::vector<Kolt::ObjectPtr> const& objects, Kolt::ValuePoolSource& pools,
+                   QWidget* parent = nullptr);
     ~ParameterPanel() override;
 
-    Kolt::ObjectPtr object() const; ///< the shown object; null if it was deleted
+    Kolt::ObjectPtr object() const; ///< the shown object, the first of several; null if it was deleted
 
     /// The words of the filter: only parameters that contain all of them in "object.parameter", label, help or value
     /// are shown, advanced ones as well. Values count as they are when the filter or the pool is set: a parameter that

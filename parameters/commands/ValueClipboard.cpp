@@ -1,7 +1,5 @@
 #include <parameters/commands/ValueClipboard.hpp>
 
-#include <algorithm>
-#include <bramble/FlagList.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 #include <optional>
@@ -19,14 +17,6 @@ namespace {
 struct ClipboardTexts {
     Q_DECLARE_TR_FUNCTIONS(ValueClipboard)
 };
-
-bool haveSameFlags(Kolt::ValuePtr const& left, Kolt::ValuePtr const& right) {
-    Kolt::FlagList const none;
-    auto const leftFlags = Kolt::valueOr(left, none);
-    auto const rightFlags = Kolt::valueOr(right, none);
-    return std::equal(leftFlags.begin(), leftFlags.end(), rightFlags.begin(), rightFlags.end(),
-                      [](auto const& one, auto const& other) { return one.first == other.first; });
-}
 
 /// What a parameter holds, as the value and the key of its type; empty for a type without a format.
 QJsonObject typedObject(Kolt::VParameter const& parameter, Kolt::ValuePtr const& held) {
@@ -67,7 +57,7 @@ Kolt::ValuePtr typedValue(QByteArray const& json, ValueFormat const& format, Kol
         auto const read =
             format.read(root.required("value", "a copied value"), entries ? *entries : ValueFormat::Entries());
         auto const value = held->clone();
-        if (haveSameFlags(held, read) && value->assign(*read))
+        if (offerSameChoices(held, read) && value->assign(*read))
             return value;
         error = ClipboardTexts::tr("it has other flags");
     } catch (FormatError const& problem) {

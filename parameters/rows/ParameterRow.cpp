@@ -73,7 +73,8 @@ Kolt::UndoHistory& ParameterRow::history() const {
 }
 
 void ParameterRow::openEditor() {
-    if (cell_.widget())
+    isOpen_ = true;
+    if (cell_.widget() || cover_)
         return;
     auto const parameter = parameter_.strong();
     auto* const editor = cell_.open(this);
@@ -91,7 +92,7 @@ void ParameterRow::openEditor() {
     layout_->insertWidget(1, editor, editorShare);
     editor->show();
     names_->label()->setBuddy(editor);
-    cell_.nameControls(spokenName(*parameter), isEdited);
+    cell_.nameControls(spokenName(), isEdited);
     showDescription();
     if (isEdited)
         watchEditor(parameter);
@@ -199,7 +200,29 @@ void ParameterRow::setEditorEnabled(bool enabled) {
         showDescription();
 }
 
+void ParameterRow::setCover(QWidget* cover) {
+    if (cover == cover_)
+        return;
+    if (cover_) {
+        cover_->hide();
+        cover_->deleteLater();
+    }
+    bool const wasOpen = isOpen_;
+    cover_ = cover;
+    if (cover) {
+        closeEditor();
+        layout_->insertWidget(1, cover, editorShare, Qt::AlignLeft);
+        names_->label()->setBuddy(cover);
+        cover->show();
+    } else if (wasOpen) {
+        openEditor();
+        emit editorReplaced();
+    }
+    isOpen_ = wasOpen;
+}
+
 void ParameterRow::closeEditor() {
+    isOpen_ = false;
     afterEditor_.reset();
     delete std::exchange(unitLabel_, nullptr);
     cell_.close();
@@ -219,6 +242,7 @@ void ParameterRow::showPool() {
     showDefault();
     showNote();
     updateAccessibility();
+    emit poolShown();
 }
 
 void ParameterRow::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const* properties) {
@@ -236,11 +260,14 @@ void ParameterRow::showDefault() {
     if (!defaults || defaults->isEffectiveIn(*parameter, pool()))
         names_->hideModified();
     else
-        names_->showModified(spokenName(*parameter), valueText(*defaults->in(pool()).value));
+        names_->showModified(spokenName(), valueText(*defaults->in(pool()).value));
 }
 
-QString ParameterRow::spokenName(Kolt::VParameter const& parameter) const {
-    return componentName_.isEmpty() ? ParameterDescription(parameter).label : componentName_;
+QString ParameterRow::spokenName() const {
+    auto const parameter = parameter_.strong();
+    if (!componentName_.isEmpty() || !parameter)
+        return componentName_;
+    return ParameterDescription(*parameter).label;
 }
 
 QString ParameterRow::removedText() const {

@@ -75,6 +75,13 @@ public:
     void openEditor();
     /// Hides the editor and deletes it as soon as control returns to the event loop.
     void closeEditor();
+    /// Shows another widget in place of the editor, which is closed until the cover is taken away with null. The row
+    /// takes it over.
+    void setCover(QWidget* cover);
+    /// The widget in place of the editor; null for none.
+    QWidget* cover() const { return cover_; }
+    /// What people call the parameter: its label, or the names of the vector and of the component.
+    QString spokenName() const;
     /// Shows what the current pool holds.
     void showPool();
     /// Shows whether the value is the default, as after the defaults changed.
@@ -123,6 +130,8 @@ signals:
     void defaultChanged();
     /// The user wants to read the parameter's help.
     void helpRequested(Kolt::ParameterPtr const& parameter);
+    /// The row shows what another pool holds.
+    void poolShown();
     /// Another editor was made, as the one before could not show the value.
     void editorReplaced();
 
@@ -143,8 +152,6 @@ private:
     void reopenEditor();
     void connectNumberFields();
     std::vector<Kolt::ParameterPtr> livingVector() const;
-    /// What people call the parameter: its label, or the names of the vector and of the component.
-    QString spokenName(Kolt::VParameter const& parameter) const;
     void updateAccessibility();
     void showNote();
     QString noteText() const;
@@ -162,6 +169,9 @@ private:
     // Made when first needed: most rows never need them.
     RawValueLabel* rawValue_ = nullptr;
     QLabel* unitLabel_ = nullptr;
+    QPointer<QWidget> cover_;
+    // The editor of a covered row is opened when the cover goes.
+    bool isOpen_ = false;
     bool isEditorEnabled_ = true;
     // How the name is aligned with the editor.
     Qt::Alignment vertical_ = Qt::AlignVCenter;

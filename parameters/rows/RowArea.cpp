@@ -4,6 +4,7 @@
 #include <parameters/rows/FormPlan.hpp>
 #include <parameters/rows/RowTabs.hpp>
 #include <parameters/rows/SectionBox.hpp>
+#include <parameters/rows/SharedRow.hpp>
 #include <parameters/rows/TabStops.hpp>
 #include <QApplication>
 #include <QEvent>
@@ -148,6 +149,10 @@ void RowArea::setEnabledWhen(std::function<bool(Kolt::VParameter const&)> const&
     }
 }
 
+void RowArea::setOthers(std::function<std::vector<SharedParameter>(Kolt::VParameter const&)> const& othersOf) {
+    othersOf_ = othersOf;
+}
+
 void RowArea::setFoldedSections(QStringList const& titles) {
     sections_->setFolded(titles);
     showFolding();
@@ -191,6 +196,8 @@ void RowArea::make(Entry& entry) {
     connect(entry.row, &ParameterRow::editorReplaced, this, [this, &entry] { emitEditorOpened(entry); });
     made_.insert(place);
     vectors_.showNames(place);
+    if (auto others = othersOf_ ? othersOf_(*parameter) : std::vector<SharedParameter>(); !others.empty())
+        new SharedRow(objectName_, std::move(others), *entry.row);
     entry.row->setRawValueShown(rawValuesShown_);
     entry.row->setEditorEnabled(!isEnabled_ || isEnabled_(*parameter));
     if (editorsOpen_)

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <lattice/Object.hpp>
+#include <parameters/commands/SharedEdits.hpp>
 #include <parameters/rows/ContentArea.hpp>
 #include <parameters/rows/FormSections.hpp>
 #include <parameters/rows/ParameterRow.hpp>
@@ -67,6 +68,9 @@ public:
     /// Disables the editors of the parameters for which the predicate does not hold, also those that are made later; an
     /// empty one enables all. It is kept and asked again when a row is made.
     void setEnabledWhen(std::function<bool(Kolt::VParameter const&)> const& predicate);
+    /// Has each row show whether other parameters hold the same value, also those that are made later: those that the
+    /// function gives for its parameter. It is kept. Before the first row is made.
+    void setOthers(std::function<std::vector<SharedParameter>(Kolt::VParameter const&)> const& othersOf);
     /// Gives the focus to the first control of an editor in the first shown row that has one; false if there is none.
     bool focusFirstControl();
     /// How many parameters are not hidden by the filter.
@@ -143,6 +147,7 @@ private:
     // It only ever grows, so that the editors stay in their place when another pool is chosen.
     int nameWidth_ = 0;
     std::function<bool(Kolt::VParameter const&)> isEnabled_;
+    std::function<std::vector<SharedParameter>(Kolt::VParameter const&)> othersOf_;
     bool editorsOpen_ = true;
     bool rawValuesShown_ = false;
     bool making_ = false;

@@ -87,27 +87,6 @@ protected:
         return parameter(name)->effectiveValue(window->network()->pools().at(pool))->Text();
     }
 
-    /// Drags the handle of a slider with the mouse, by these numbers of pixels one after another.
-    static void drag(QSlider* slider, std::initializer_list<int> distances) {
-        QStyleOptionSlider option;
-        option.initFrom(slider);
-        option.orientation = slider->orientation();
-        option.minimum = slider->minimum();
-        option.maximum = slider->maximum();
-        option.sliderPosition = slider->sliderPosition();
-        option.sliderValue = slider->value();
-        auto place =
-            slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider).center();
-        QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, place);
-        for (int const distance : distances) {
-            place.rx() += distance;
-            QMouseEvent move(QEvent::MouseMove, place, slider->mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
-                             Qt::NoModifier);
-            QApplication::sendEvent(slider, &move);
-        }
-        QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, place);
-    }
-
     std::vector<std::string> steps() const {
         std::vector<std::string> steps;
         for (auto const& step : window->history().steps())

@@ -59,7 +59,7 @@ private:
     // Each makes one edit in the named way, and returns false if it does not know the name.
     bool editsNumber(std::string const& way) {
         if (way == "int/drag")
-            drag(slider("int"), {30, 30, -10});
+            dragHandle(slider("int"), {30, 30, -10});
         else if (way == "int/keys")
             QTest::keyClick(slider("int"), Qt::Key_Right);
         else if (way == "int/text")
@@ -69,7 +69,7 @@ private:
         else if (way == "double/keys")
             QTest::keyClick(slider("double"), Qt::Key_Right);
         else if (way == "double/drag")
-            drag(slider("double"), {30, 30, -10});
+            dragHandle(slider("double"), {30, 30, -10});
         else if (way == "double/text")
             enter(field("double"), "0.25");
         else

@@ -1,4 +1,5 @@
 #include "HistoryTest.hpp"
+#include "support/SliderDrag.hpp"
 
 #include <parameters/rows/RowArea.hpp>
 #include <QScrollBar>
@@ -41,9 +42,9 @@ TEST_F(HistoryTest, AColourIsEditedByKeyboardAlone) {
 }
 
 TEST_F(HistoryTest, TwoDragsAreTwoSteps) {
-    drag(slider("int"), {20, 20});
+    dragHandle(slider("int"), {20, 20});
     auto const between = valuesNow();
-    drag(slider("int"), {20, 20});
+    dragHandle(slider("int"), {20, 20});
     EXPECT_THAT(steps(), SizeIs(2));
     undo();
     EXPECT_EQ(valuesNow(), between);
@@ -52,7 +53,7 @@ TEST_F(HistoryTest, TwoDragsAreTwoSteps) {
 }
 
 TEST_F(HistoryTest, ADragThatComesBackIsNoStep) {
-    drag(slider("int"), {30, 20, -50});
+    dragHandle(slider("int"), {30, 20, -50});
     EXPECT_EQ(valuesNow(), text);
     EXPECT_TRUE(waitUntil([this] { return noGesture(); }));
     EXPECT_THAT(steps(), IsEmpty());

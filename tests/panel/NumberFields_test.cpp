@@ -1,4 +1,5 @@
 #include "EditingTest.hpp"
+#include "support/SliderDrag.hpp"
 #include "support/TextDrop.hpp"
 
 #include <QAccessible>
@@ -90,7 +91,7 @@ TEST_F(NumberFieldsTest, ATypedNumberIsEnteredByAClickElsewhere) {
     EXPECT_EQ(held("double"), "0.25");
     // The drag starts where the typed number left the handle.
     type("double", "0.5");
-    drag(slider("double"), {0});
+    dragHandle(slider("double"), {0});
     EXPECT_EQ(field("double")->text(), QString::number(std::stod(held("double")), 'f', 6));
 }
 

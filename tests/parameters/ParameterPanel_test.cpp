@@ -1,4 +1,5 @@
 #include "parameters/FormTest.hpp"
+#include "support/SliderDrag.hpp"
 
 #include <parameters/commands/UndoStackAdapter.hpp>
 #include <parameters/OnePool.hpp>
@@ -114,14 +115,7 @@ TEST_F(ParameterPanelTest, NamesParametersInUndoTextsAsTheHostDoes) {
 }
 
 TEST_F(ParameterPanelTest, ADragIsOneStep) {
-    QTest::mousePress(slider(), Qt::LeftButton, Qt::NoModifier, {20, slider()->height() / 2});
-    for (int const x : {40, 60, 80}) {
-        QMouseEvent move(QEvent::MouseMove, QPointF(x, slider()->height() / 2.0),
-                         slider()->mapToGlobal({x, slider()->height() / 2}), Qt::NoButton, Qt::LeftButton,
-                         Qt::NoModifier);
-        QApplication::sendEvent(slider(), &move);
-    }
-    QTest::mouseRelease(slider(), Qt::LeftButton, Qt::NoModifier, {80, slider()->height() / 2});
+    dragHandle(slider(), {20, 20, 20});
     EXPECT_TRUE(waitUntil([this] { return !history.isMacroOpen(); }));
     EXPECT_THAT(history.steps(), SizeIs(1));
 }
