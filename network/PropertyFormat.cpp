@@ -13,7 +13,7 @@ PropertyFormat::PropertyFormat(QString typeKey, QString folder)
     : typeKey_(std::move(typeKey)), folder_(std::move(folder)) {}
 
 PropertyFormat::Kind PropertyFormat::kindOf(QString const& name) const {
-    if (QStringList{"min", "max", "increment"}.contains(name))
+    if (QStringList{"min", "max", "increment", "softMinimum", "softMaximum"}.contains(name))
         return typeKey_ == "double" ? Kind::Real : Kind::Integer;
     if (QStringList{"precision", "wrap"}.contains(name))
         return Kind::Integer;

@@ -16,7 +16,7 @@ public:
         parser.setApplicationDescription(
             CommandLine::tr("A control panel for networks of objects with typed parameters."));
         parser.addOptions({help, version, object, pool, set, rawValues, screenshot, size, palette, rightToLeft, scale,
-                           values, gallery, language, noSession, listCreators, plugin, state});
+                           values, gallery, language, noSession, listCreators, plugin, onlyPlugin, state});
         parser.addPositionalArgument(QStringLiteral("NETWORK.json"),
                                      CommandLine::tr("The network to open; examples/networks/fractal.json by default."),
                                      QStringLiteral("[NETWORK.json]"));
@@ -68,7 +68,12 @@ public:
             "Prints the value type, name and preference set of each input creator, separated by tabs, and ends.")};
     QCommandLineOption const plugin{
         QStringLiteral("plugin"),
-        CommandLine::tr("Loads this plug-in file instead of qtalo_inputs.talo. May be repeated."),
+        CommandLine::tr("Loads this plug-in file as well. Those beside qtalo_inputs.talo, and in the folders that "
+                        "TALO_PLUGIN_PATH names, are loaded anyway. May be repeated."),
+        CommandLine::tr("FILE")};
+    QCommandLineOption const onlyPlugin{
+        QStringLiteral("only-plugin"),
+        CommandLine::tr("Loads this plug-in file instead of those that are found. May be repeated."),
         CommandLine::tr("FILE")};
     QCommandLineParser parser;
 };
@@ -102,6 +107,7 @@ private:
         line.pool = parser.value(options.pool);
         line.screenshot = parser.value(options.screenshot);
         line.plugins = parser.values(options.plugin);
+        line.onlyPlugins = parser.values(options.onlyPlugin);
         line.language = parser.value(options.language);
         line.state = parser.value(options.state);
     }
@@ -125,7 +131,7 @@ private:
     // An empty text is a slip of a script.
     QString checkValues() {
         for (auto const* const option : {&options.object, &options.pool, &options.screenshot, &options.plugin,
-                                         &options.language, &options.state}) {
+                                         &options.onlyPlugin, &options.language, &options.state}) {
             if (parser.values(*option).contains(QString()))
                 return tr("The option --%1 needs a value.").arg(option->names().constFirst());
         }

@@ -25,7 +25,10 @@ public:
     QString object;
     QString pool;
     QString screenshot;
+    /// Plug-in files besides those that are found.
     QStringList plugins;
+    /// Plug-in files instead of those that are found.
+    QStringList onlyPlugins;
     std::vector<Setting> settings;
     QSize size;
     Theme theme = Theme::System;

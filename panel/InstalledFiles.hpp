@@ -9,7 +9,8 @@ namespace Panel {
 /// The network that is opened when none is named; empty when it is not there.
 QString defaultNetworkFile();
 
-/// The plug-in that is loaded when none is named. Where it is not there, the place where it should be.
+/// The project's own plug-in, in the folder whose plug-ins are loaded. Where it is not there, the place where it should
+/// be.
 QString defaultPluginFile();
 
 } // namespace Panel

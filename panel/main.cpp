@@ -11,11 +11,13 @@
 #include <panel/EndSignals.hpp>
 #include <panel/gallery/Gallery.hpp>
 #include <panel/InstalledFiles.hpp>
+#include <panel/PluginSearch.hpp>
 #include <panel/Translations.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <panel/window/Session.hpp>
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 #include <QScreen>
 #include <tessera/TerminalText.hpp>
@@ -164,10 +166,15 @@ int draw(QWidget& window, std::function<bool()> const& isAtRest, QString const& 
     return 0;
 }
 
-int showGallery(Panel::CommandLine const& commandLine, QString const& pluginError) {
+/// Adds what could not be done to a list of messages.
+void tell(Panel::MessageList& messages, QStringList const& remarks) {
+    for (auto const& remark : remarks)
+        messages.add(Panel::MessageList::Source::Error, remark);
+}
+
+int showGallery(Panel::CommandLine const& commandLine, QStringList const& remarks) {
     Panel::Gallery gallery;
-    if (!pluginError.isEmpty())
-        gallery.messages()->add(Panel::MessageList::Source::Error, pluginError);
+    tell(*gallery.messages(), remarks);
     gallery.tapStandardOutput();
     if (commandLine.size.isValid())
         gallery.resize(commandLine.size);
@@ -179,17 +186,51 @@ int showGallery(Panel::CommandLine const& commandLine, QString const& pluginErro
     return show(gallery);
 }
 
-/// Loads the plug-ins that are asked for, or the project's own. Returns false, after saying why, if one that is asked
-/// for cannot be loaded; without the own one the program goes on, and the reason is in `error`.
-bool loadPlugins(Panel::Plugins& plugins, Panel::CommandLine const& commandLine, QString& error) {
-    bool const areAskedFor = !commandLine.plugins.isEmpty();
-    bool loaded = true;
-    for (auto const& file : areAskedFor ? commandLine.plugins : QStringList{Panel::defaultPluginFile()})
-        loaded = plugins.load(file, &error) && loaded;
-    auto const reasons = error.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (auto const& reason : reasons)
-        say(reason);
-    return loaded || !areAskedFor;
+/// The plug-ins that were loaded at the start.
+struct LoadedPlugins {
+    /// What is not loaded, and why: sentences.
+    QStringList remarks;
+    /// Whether each file that the command line names is loaded.
+    bool hasNamed = true;
+    /// Whether the project's own plug-in is loaded, or another one was asked for instead.
+    bool hasOwn = true;
+};
+
+/// The plug-ins that are named, and those that are found unless others are named instead of them.
+Panel::PluginSearch findPlugins(Panel::CommandLine const& commandLine) {
+    Panel::PluginSearch search;
+    auto const own = Panel::defaultPluginFile();
+    bool const looks = commandLine.onlyPlugins.isEmpty();
+    if (looks) {
+        search.addFolder(QFileInfo(own).path());
+        search.addPath(QFile::decodeName(qgetenv("TALO_PLUGIN_PATH")));
+    }
+    for (auto const& file : commandLine.onlyPlugins + commandLine.plugins)
+        search.addFile(file);
+    // Its loading tells that it is missing.
+    if (looks && !search.hasName(QFileInfo(own).fileName()))
+        search.addFile(own);
+    return search;
+}
+
+/// Loads plug-ins as the command line says, and says what is not loaded. Without one that was found the program goes
+/// on.
+LoadedPlugins loadPlugins(Panel::Plugins& plugins, Panel::CommandLine const& commandLine) {
+    auto const search = findPlugins(commandLine);
+    auto const named = commandLine.onlyPlugins + commandLine.plugins;
+    auto const ownName = QFileInfo(Panel::defaultPluginFile()).fileName();
+    LoadedPlugins loaded{search.remarks()};
+    for (auto const& file : search.files()) {
+        QString error;
+        if (plugins.load(file, &error))
+            continue;
+        loaded.remarks << error.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        loaded.hasNamed = loaded.hasNamed && !named.contains(file);
+        loaded.hasOwn = loaded.hasOwn && QFileInfo(file).fileName() != ownName;
+    }
+    for (auto const& remark : std::as_const(loaded.remarks))
+        say(remark);
+    return loaded;
 }
 
 /// The network that the command line names, prepared as it says; null, after saying why, if that cannot be done.
@@ -248,10 +289,9 @@ int showKept(Panel::MainWindow& window, Panel::CommandLine const& commandLine) {
 }
 
 int showWindow(Panel::Plugins& plugins, std::unique_ptr<Talo::Network> network, Panel::CommandLine const& commandLine,
-               QString const& pluginError) {
+               QStringList const& remarks) {
     Panel::MainWindow window(plugins);
-    if (!pluginError.isEmpty())
-        window.messages()->add(Panel::MessageList::Source::Error, pluginError);
+    tell(*window.messages(), remarks);
     window.tapStandardOutput();
     window.showNetwork(std::move(network));
     if (commandLine.screenshot.isEmpty())
@@ -264,23 +304,23 @@ int showWindow(Panel::Plugins& plugins, std::unique_ptr<Talo::Network> network, 
 int run(Panel::CommandLine const& commandLine) {
     // Closes the plug-ins after everything else was destroyed.
     Panel::Plugins plugins;
-    QString pluginError;
-    if (!loadPlugins(plugins, commandLine, pluginError))
+    auto const loaded = loadPlugins(plugins, commandLine);
+    if (!loaded.hasNamed)
         return badUse;
     // Qt sets the direction of the language when translations are loaded, as with the plug-ins.
     if (commandLine.rightToLeft)
         QApplication::setLayoutDirection(Qt::RightToLeft);
     bool const draws = !commandLine.screenshot.isEmpty();
     if (commandLine.listCreators) {
-        // A list without them would be wrong; everything else has placeholders.
-        if (!pluginError.isEmpty())
+        // A list without its creators would be wrong; everything else has placeholders.
+        if (!loaded.hasOwn)
             return badUse;
         int const status = printCreators();
         if (status != 0 || (!commandLine.values && !draws))
             return status;
     }
     if (commandLine.gallery)
-        return showGallery(commandLine, pluginError);
+        return showGallery(commandLine, loaded.remarks);
     auto network = openNetwork(commandLine);
     if (!network)
         return badUse;
@@ -289,7 +329,7 @@ int run(Panel::CommandLine const& commandLine) {
         if (status != 0 || !draws)
             return status;
     }
-    return showWindow(plugins, std::move(network), commandLine, pluginError);
+    return showWindow(plugins, std::move(network), commandLine, loaded.remarks);
 }
 
 } // namespace

@@ -19,6 +19,13 @@ Rank rankOf(VInputCreatorBase const& creator, VCreationPreferences::Names const&
     return {shared, creator.priority(), -static_cast<std::ptrdiff_t>(preferences.names().size())};
 }
 
+/// Decides between creators of one rank by their names, which do not depend on the order of loading.
+bool comesBefore(VInputCreatorBase const& creator, VInputCreatorBase const& other) {
+    auto const& names = creator.preferences()->names();
+    auto const& otherNames = other.preferences()->names();
+    return names == otherNames ? creator.Name() < other.Name() : names < otherNames;
+}
+
 } // namespace
 
 InputRegistry& InputRegistry::theRegistry() {
@@ -99,7 +106,7 @@ std::vector<CreatorRef> InputRegistry::creatorsOf(std::string const& valueType) 
 
 InputChoice InputRegistry::choose(std::string const& valueType, VCreationPreferences::Names const& wanted,
                                   VParameter const* parameter) const {
-    CreatorRef best;
+    Tessera::StrongPtr<VInputCreatorBase, VManagedObjectBase> best;
     Rank bestRank;
     int count = 0;
     for (auto const& candidate : creatorsOf(valueType)) {
@@ -107,18 +114,16 @@ InputChoice InputRegistry::choose(std::string const& valueType, VCreationPrefere
         if (!creator || (parameter && !creator->supports(*parameter)))
             continue;
         auto const rank = rankOf(*creator, wanted);
-        // Of equals the first registered stays.
-        if (count++ == 0 || rank > bestRank) {
-            best = candidate;
+        if (count++ == 0 || rank > bestRank || (rank == bestRank && comesBefore(*creator, *best))) {
+            best = creator;
             bestRank = rank;
         }
     }
-    auto const creator = best.strong();
-    if (!creator)
-        return {best, "no creator is registered for " + valueType};
+    if (!best)
+        return {{}, "no creator is registered for " + valueType};
     bool const holdsAll = std::get<0>(bestRank) == wanted.size();
     // Concatenated in one place, as it is made for every editor.
-    auto explanation = creator->describe();
+    auto explanation = best->describe();
     explanation.reserve(explanation.size() + valueType.size() + 128);
     explanation += holdsAll ? " holds all of the wanted " : " shares most with the wanted ";
     explanation += preferenceText(wanted);

@@ -38,8 +38,9 @@ public:
     static VCreationPreferences::Names wantedPreferences(VParameter const& parameter,
                                                          VCreationPreferences::Names const& frontEnd);
     /// The best creator for a type and a set of wanted names. Among the creators whose set contains all of them: the
-    /// highest priority, then the smallest set, then the first registered. If there is none, the creator that shares
-    /// most names, then the same. The order in which libraries were loaded therefore decides only between equals.
+    /// highest priority, then the smallest set, then the set whose names come first, then the creator whose name does.
+    /// If there is none, the creator that shares most names, then the same. The order in which libraries were loaded
+    /// does not matter.
     InputChoice choose(std::string const& valueType, VCreationPreferences::Names const& wanted) const;
     /// The best creator for a parameter among those that support it.
     InputChoice choose(VParameter const& parameter, VCreationPreferences::Names const& frontEnd) const;

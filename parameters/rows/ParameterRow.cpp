@@ -176,7 +176,9 @@ void ParameterRow::showDescription() {
     names_->setName(description.label);
     if (!cell_.widget())
         return;
-    showUnit(description.unit);
+    // Some editors of plug-ins show it within themselves.
+    bool const editorShowsUnit = cell_.widget()->property("showsUnit").toBool();
+    showUnit(editorShowsUnit ? QString() : description.unit);
     alignEditor();
     cell_.widget()->setEnabled(isEditorEnabled_ && !description.isReadOnly);
 }

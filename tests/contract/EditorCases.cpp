@@ -1,5 +1,22 @@
 #include "EditorCase.hpp"
 
+namespace {
+
+/// Fills in what the cases leave out.
+std::vector<EditorCase> completed(std::vector<EditorCase> cases) {
+    for (auto& editor : cases) {
+        if (!editor.change)
+            editor.change = [make = editor.makeValue](Kolt::VValueBase& value, int n) {
+                value.setValueFromText(make(n)->Text());
+            };
+        if (!editor.expected)
+            editor.expected = [](Kolt::VValueBase const& value) { return value.Text(); };
+    }
+    return cases;
+}
+
+} // namespace
+
 std::vector<EditorCase> const& editorCases() {
     static auto const cases = [] {
         std::vector<EditorCase> all;
@@ -8,15 +25,16 @@ std::vector<EditorCase> const& editorCases() {
         addSelectionEditors(all);
         addTextEditors(all);
         addActionEditors(all);
-        for (auto& editor : all) {
-            if (!editor.change)
-                editor.change = [make = editor.makeValue](Kolt::VValueBase& value, int n) {
-                    value.setValueFromText(make(n)->Text());
-                };
-            if (!editor.expected)
-                editor.expected = [](Kolt::VValueBase const& value) { return value.Text(); };
-        }
-        return all;
+        return completed(std::move(all));
+    }();
+    return cases;
+}
+
+std::vector<EditorCase> const& moreEditorCases() {
+    static auto const cases = [] {
+        std::vector<EditorCase> all;
+        addMoreEditors(all);
+        return completed(std::move(all));
     }();
     return cases;
 }

@@ -49,9 +49,21 @@ protected:
         bool operator==(Unknown const&) const { return true; }
     };
 
+    void SetUp() override {
+        PluginTest::SetUp();
+#ifdef TALO_MORE_PLUGIN_FILE
+        auto const outcome = loader.load(TALO_MORE_PLUGIN_FILE);
+        ASSERT_TRUE(outcome.ok) << outcome.message;
+#endif
+    }
+
     void TearDown() override {
         EXPECT_TRUE(printed().empty()) << "an unexpected line";
         PluginTest::TearDown();
+#ifdef TALO_MORE_PLUGIN_FILE
+        auto const outcome = loader.unload(TALO_MORE_PLUGIN_FILE);
+        EXPECT_TRUE(outcome.ok) << outcome.message;
+#endif
     }
 };
 
@@ -338,9 +350,19 @@ TEST_P(WritingContract, ThePanelMayCloseInsideTheNotificationOfAnEdit) {
 
 namespace {
 
-std::vector<EditorCase> casesWith(std::function<bool(EditorCase const&)> const& predicate) {
-    std::vector<EditorCase> chosen;
-    std::copy_if(editorCases().begin(), editorCases().end(), std::back_inserter(chosen), predicate);
+using Cases = std::vector<EditorCase>;
+
+Cases editable(Cases const& cases) {
+    Cases chosen;
+    std::copy_if(cases.begin(), cases.end(), std::back_inserter(chosen),
+                 [](auto const& each) { return bool(each.edit); });
+    return chosen;
+}
+
+Cases writing(Cases const& cases) {
+    Cases chosen = editable(cases);
+    chosen.erase(std::remove_if(chosen.begin(), chosen.end(), [](auto const& each) { return !each.writes; }),
+                 chosen.end());
     return chosen;
 }
 
@@ -355,8 +377,10 @@ void PrintTo(EditorCase const& editorCase, std::ostream* stream) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Editors, EditorContract, testing::ValuesIn(editorCases()), caseName);
-INSTANTIATE_TEST_SUITE_P(Editors, EditableContract,
-                         testing::ValuesIn(casesWith([](auto const& editor) { return bool(editor.edit); })), caseName);
-INSTANTIATE_TEST_SUITE_P(Editors, WritingContract,
-                         testing::ValuesIn(casesWith([](auto const& editor) { return editor.edit && editor.writes; })),
-                         caseName);
+INSTANTIATE_TEST_SUITE_P(Editors, EditableContract, testing::ValuesIn(editable(editorCases())), caseName);
+INSTANTIATE_TEST_SUITE_P(Editors, WritingContract, testing::ValuesIn(writing(editorCases())), caseName);
+#ifdef TALO_MORE_PLUGIN_FILE
+INSTANTIATE_TEST_SUITE_P(MoreEditors, EditorContract, testing::ValuesIn(moreEditorCases()), caseName);
+INSTANTIATE_TEST_SUITE_P(MoreEditors, EditableContract, testing::ValuesIn(editable(moreEditorCases())), caseName);
+INSTANTIATE_TEST_SUITE_P(MoreEditors, WritingContract, testing::ValuesIn(writing(moreEditorCases())), caseName);
+#endif

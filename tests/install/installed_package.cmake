@@ -16,6 +16,10 @@ foreach(language IN ITEMS de fr)
     endif()
 endforeach()
 
+if(NOT EXISTS "${plugin_folder}/more_inputs.talo")
+    message(FATAL_ERROR "more_inputs.talo is not installed in '${plugin_folder}'")
+endif()
+
 foreach(folder IN ITEMS "${prefix}" "${core}")
     file(STRINGS "${folder}/share/doc/qtalo_inputs/LICENSE" licence LIMIT_COUNT 1)
     if(NOT licence STREQUAL "MIT License")
@@ -42,7 +46,7 @@ refuse_and_expect("Talo has no component sprockets"
 
 # Compiles a simulated user into the small host.
 set(user "-DCMAKE_PROJECT_small_host_INCLUDE=${CMAKE_CURRENT_LIST_DIR}/small_host_user.cmake")
-foreach(example IN ITEMS small_host spin_inputs)
+foreach(example IN ITEMS small_host spin_inputs more_inputs)
     run(${configure} -S "${prefix}/share/talo/examples/${example}" -B "${WORK}/${example}"
         "-DCMAKE_PREFIX_PATH=${prefix}" "${user}")
     run("${CMAKE_COMMAND}" --build "${WORK}/${example}")

@@ -37,6 +37,25 @@ TEST_F(OutsidePluginTest, ItsEditorIsChosenByItsPreferenceAndWrites) {
     EXPECT_EQ(dlopen(TALO_OUTSIDE_PLUGIN, RTLD_NOW | RTLD_NOLOAD), nullptr);
 }
 
+TEST_F(OutsidePluginTest, ASecondOneWithSeveralEditorsWorksBesideIt) {
+    ASSERT_TRUE(loader.load(TALO_OUTSIDE_PLUGIN).ok);
+    auto const loaded = loader.load(TALO_OUTSIDE_MORE_PLUGIN);
+    ASSERT_TRUE(loaded.ok) << loaded.message;
+    pools.use(Kolt::PoolPtr(new Kolt::ValuePool));
+    {
+        Kolt::ParameterPtr const parameter(new Kolt::VParameter("count", Kolt::makeValue(41)));
+        parameter->setCreationPreferences(Kolt::PreferencesPtr(new Kolt::VCreationPreferences(std::string("field"))));
+        QWidget parent;
+        auto const editor = Kolt::makeEditor(parameter, &parent, &pools);
+        ASSERT_TRUE(editor.widget) << editor.choice.explanation;
+        parent.show();
+        QTest::keyClick(editor.widget, Qt::Key_Up);
+        EXPECT_EQ(parameter->ownValue()->Text(), "42");
+    }
+    EXPECT_TRUE(loader.unload(TALO_OUTSIDE_MORE_PLUGIN).ok);
+    EXPECT_EQ(dlopen(TALO_OUTSIDE_MORE_PLUGIN, RTLD_NOW | RTLD_NOLOAD), nullptr);
+}
+
 TEST_F(OutsidePluginTest, ItReportsToTheHostWhenItIsLoadedAndUnloaded) {
     struct Observer : Kolt::HostObserver {
         Observer() { setObserver(this); }

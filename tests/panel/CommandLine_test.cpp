@@ -28,6 +28,7 @@ TEST_F(CommandLineTest, WithoutArgumentsNothingIsAskedFor) {
     ASSERT_TRUE(line);
     EXPECT_TRUE(line->network.isEmpty());
     EXPECT_TRUE(line->plugins.isEmpty());
+    EXPECT_TRUE(line->onlyPlugins.isEmpty());
     EXPECT_TRUE(line->settings.empty());
     EXPECT_FALSE(line->size.isValid());
     EXPECT_EQ(line->theme, Panel::Theme::System);
@@ -62,6 +63,15 @@ TEST_F(CommandLineTest, TakesEveryOption) {
     EXPECT_EQ(line->language, QStringLiteral("de"));
     EXPECT_FALSE(line->session);
     EXPECT_TRUE(line->isBatch());
+}
+
+TEST_F(CommandLineTest, PluginsAreAddedOrReplaceThoseThatAreFound) {
+    auto const line = parse({QStringLiteral("--plugin=more.talo"), QStringLiteral("--only-plugin"),
+                             QStringLiteral("a.talo"), QStringLiteral("--only-plugin=b.talo")});
+    ASSERT_TRUE(line) << qPrintable(error);
+    EXPECT_EQ(line->plugins, QStringList{QStringLiteral("more.talo")});
+    EXPECT_EQ(line->onlyPlugins, (QStringList{QStringLiteral("a.talo"), QStringLiteral("b.talo")}));
+    EXPECT_THAT(refusal({QStringLiteral("--only-plugin=")}), HasSubstr("--only-plugin"));
 }
 
 TEST_F(CommandLineTest, TheGalleryIsShownWithoutANetwork) {

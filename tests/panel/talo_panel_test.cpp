@@ -206,9 +206,10 @@ TEST_F(TaloPanel, DrawsTheAskedForObjectPoolAndPalette) {
 
 TEST_F(TaloPanel, SaysHowToStartIt) {
     ASSERT_EQ(run({QStringLiteral("--help")}), 0);
-    for (auto const* const option : {"--screenshot", "--object", "--list-creators", "--set", "--pool", "--values",
-                                     "--plugin", "--size", "--palette", "--raw", "--scale", "--right-to-left",
-                                     "--gallery", "--state", "--language", "--no-session", "NETWORK.json"})
+    for (auto const* const option :
+         {"--screenshot", "--object", "--list-creators", "--set", "--pool", "--values", "--plugin", "--only-plugin",
+          "TALO_PLUGIN_PATH", "--size", "--palette", "--raw", "--scale", "--right-to-left", "--gallery", "--state",
+          "--language", "--no-session", "NETWORK.json"})
         EXPECT_THAT(output.toStdString(), HasSubstr(option));
     ASSERT_EQ(run({QStringLiteral("--version")}), 0);
     EXPECT_THAT(output.toStdString(), testing::MatchesRegex("talo_panel [0-9.]+\n"));
@@ -275,7 +276,7 @@ TEST_F(TaloPanel, FindsWhatIsInstalledWithIt) {
 TEST_F(TaloPanel, LoadsTheNamedPluginInsteadOfItsOwn) {
     auto const copy = folder.filePath(QStringLiteral("qtalo_inputs.talo"));
     ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE), copy));
-    ASSERT_EQ(run({QStringLiteral("--plugin"), copy, QStringLiteral("--list-creators")}), 0) << qPrintable(errors);
+    ASSERT_EQ(run({QStringLiteral("--only-plugin"), copy, QStringLiteral("--list-creators")}), 0) << qPrintable(errors);
     EXPECT_THAT(output.toStdString(), HasSubstr("bool\tboolean\tQT\n"));
     // Once: the program's own plug-in is not loaded as well.
     EXPECT_EQ(output.count("boolean"), 1);

@@ -1,0 +1,3 @@
+#include <plugin/Plugin.hpp>
+
+TALO_PLUGIN(more_inputs);
