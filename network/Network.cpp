@@ -102,19 +102,26 @@ Kolt::ObjectPtr Network::addObject(std::string const& name, std::vector<Kolt::Pa
 void Network::addObject(Kolt::ObjectPtr const& object, QString const& kind) {
     if (!object)
         return;
-    objects_.push_back(object);
-    kinds_.push_back(kind);
+    insertObject(object, kind);
     rememberOpened(*object);
     rememberSaved(*object);
 }
 
+void Network::insertObject(Kolt::ObjectPtr const& object, QString const& kind) {
+    objects_.push_back(object);
+    byName_.insert({object->Name(), object});
+    if (!kind.isEmpty())
+        kinds_.insert({object.get(), kind});
+}
+
 Kolt::ObjectPtr Network::findObject(QString const& name) const {
-    return findNamed(objects_, name);
+    auto const found = byName_.find(name.toStdString());
+    return found == byName_.end() ? nullptr : found->second;
 }
 
 QString Network::kind(Kolt::ObjectPtr const& object) const {
-    auto const found = std::find(objects_.begin(), objects_.end(), object);
-    return found == objects_.end() ? QString() : kinds_[static_cast<std::size_t>(found - objects_.begin())];
+    auto const found = kinds_.find(object.get());
+    return found == kinds_.end() ? QString() : found->second;
 }
 
 Kolt::ParameterPtr Network::findParameter(QString const& objectDotParameter) const {
@@ -227,10 +234,11 @@ QByteArray Network::toJson(QString const& targetFolder) const {
     for (auto const& pool : pools_)
         pools.append(nameOfPool(pool));
     QJsonArray objects;
-    for (std::size_t index = 0; index < objects_.size(); ++index) {
-        auto node = objectToJson(*objects_[index], targetFolder);
-        if (!kinds_[index].isEmpty())
-            node.insert("kind", kinds_[index]);
+    for (auto const& object : objects_) {
+        auto node = objectToJson(*object, targetFolder);
+        auto const objectKind = kind(object);
+        if (!objectKind.isEmpty())
+            node.insert("kind", objectKind);
         objects.append(node);
     }
     return QJsonDocument(QJsonObject{{"objects", objects}, {"pools", pools}, {"title", title_}}).toJson();

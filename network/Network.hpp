@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 #include <tessera/Export.hpp>
+#include <unordered_map>
 #include <vector>
 
 class QJsonObject;
@@ -122,6 +123,8 @@ private:
     };
     Network();
 
+    /// Adds an object and its kind, and nothing else.
+    void insertObject(Kolt::ObjectPtr const& object, QString const& kind);
     /// Makes the actions that a parameter of the object holds, its own and those of the pools, call the handler.
     void connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const;
     bool isSaved(SavedValue const& saved) const;
@@ -142,8 +145,10 @@ private:
     QString title_;
     std::vector<Kolt::PoolPtr> pools_;
     std::vector<Kolt::ObjectPtr> objects_;
-    // What each object is for, in the order of the objects.
-    std::vector<QString> kinds_;
+    // The first object of each name.
+    std::unordered_map<std::string, Kolt::ObjectPtr> byName_;
+    // What each object is for; no entry for an empty text.
+    std::unordered_map<Kolt::VObject const*, QString> kinds_;
     // What was shown at the start.
     std::map<Kolt::VParameter const*, SavedValue> displayed_;
     // What the file holds of the values that people edit.

@@ -133,8 +133,7 @@ void NetworkReader::readObject(JsonNode const& node) {
     auto const* const kindNode = node.find("kind");
     auto const kind = kindNode ? kindNode->text("the kind of an object") : QString();
     auto const object = makeObject_ ? makeObject_(kind, name) : Kolt::ObjectPtr(new Kolt::VObject(name.toStdString()));
-    network_->objects_.push_back(object);
-    network_->kinds_.push_back(kind);
+    network_->insertObject(object, kind);
 
     takenNames_.clear();
     if (auto const* const parameters = node.find("parameters"))

@@ -72,14 +72,16 @@ public:
         applyFilter();
     }
 
+    bool isFiltered() const { return !ParameterFilter(filter, onlyChanged).isEmpty(); }
+
     /// Finds the parameters by their values of now.
     void applyFilter() {
         found.clear();
         auto const living = object.strong();
-        ParameterFilter const words(filter);
-        if (living && !words.isEmpty())
+        ParameterFilter const wanted(filter, onlyChanged);
+        if (living && !wanted.isEmpty())
             for (auto const& parameter : living->parameters())
-                if (words.finds(*living, *parameter, pools.pool()))
+                if (wanted.finds(*living, *parameter, pools.pool(), kind))
                     found.insert(parameter.get());
         addVectorsTo(found);
         applyConditions();
@@ -97,34 +99,37 @@ public:
                     parameters.insert(member.get());
     }
 
+    /// Says why no parameter is shown.
+    QString emptyText() const {
+        if (!ParameterFilter(filter).isEmpty())
+            return tr("No parameter of this object is found by the filter.");
+        if (onlyChanged)
+            return tr("No parameter of this object differs from its default.");
+        return shared ? tr("The objects have no parameter in common that could be shown now.")
+                      : tr("All parameters of this object are advanced, or of no use now.");
+    }
+
     /// Shows which of the found parameters the conditions admit now.
     void applyConditions() {
-        bool const hasWords = !ParameterFilter(filter).isEmpty();
+        bool const hasFilter = isFiltered();
         auto const isShown = [&](Kolt::VParameter const& parameter) {
-            bool const isWanted = hasWords ? found.count(&parameter) != 0 : advancedShown || !isAdvanced(parameter);
+            bool const isWanted = hasFilter ? found.count(&parameter) != 0 : advancedShown || !isAdvanced(parameter);
             bool const isCommon = !shared || !shared->othersOf(parameter).empty();
             return isWanted && isCommon && conditions.isVisible(parameter, pools.pool());
         };
-        rows->setAllSectionsOpen(hasWords);
-        if (hasWords || shared || (hasAdvanced && !advancedShown) || conditions.hasConditions())
+        rows->setAllSectionsOpen(hasFilter);
+        if (hasFilter || shared || (hasAdvanced && !advancedShown) || conditions.hasConditions())
             rows->setFilter(isShown);
         else
             rows->setFilter({});
         auto const living = object.strong();
         bool const showsNone = living && !living->parameters().empty() && rows->shownCount() == 0;
         rows->setVisible(!showsNone);
-        emptyNote->setText(noteText(hasWords));
+        emptyNote->setText(emptyText());
         emptyNote->setVisible(showsNone);
         if (conditions.hasConditions())
             rows->setEnabledWhen(
                 [this](auto const& parameter) { return conditions.isEnabled(parameter, pools.pool()); });
-    }
-
-    QString noteText(bool hasWords) const {
-        if (hasWords)
-            return tr("No parameter of this object is found by the filter.");
-        return shared ? tr("The objects have no parameter in common that could be shown now.")
-                      : tr("All parameters of this object are advanced, or of no use now.");
     }
 
     Kolt::UndoHistory& history() const {
@@ -187,7 +192,10 @@ public:
     MutedLabel* const emptyNote;
     QTimer checkTimer;
     QString filter;
-    // Those that the words of the filter found; not asked without words.
+    // What the object is for.
+    QString kind;
+    bool onlyChanged = false;
+    // Those that the filter found; not asked without one.
     std::unordered_set<Kolt::VParameter const*> found;
     bool hasAdvanced = false;
     bool advancedShown = false;
@@ -232,6 +240,24 @@ void ParameterPanel::setFilter(QString const& words) {
         return;
     d_->rows->verticalScrollBar()->setValue(0);
     emit filterChanged(words);
+}
+
+void ParameterPanel::setKind(QString const& kind) {
+    if (std::exchange(d_->kind, kind) != kind && d_->isFiltered())
+        d_->applyFilter();
+}
+
+bool ParameterPanel::onlyChanged() const {
+    return d_->onlyChanged;
+}
+
+void ParameterPanel::setOnlyChanged(bool only) {
+    bool const isNew = std::exchange(d_->onlyChanged, only) != only;
+    d_->applyFilter();
+    if (!isNew)
+        return;
+    d_->rows->verticalScrollBar()->setValue(0);
+    emit onlyChangedChanged(only);
 }
 
 bool ParameterPanel::advancedShown() const {

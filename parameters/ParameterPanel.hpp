@@ -20,6 +20,7 @@ class RowArea;
 class TALO_EXPORT ParameterPanel : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged)
+    Q_PROPERTY(bool onlyChanged READ onlyChanged WRITE setOnlyChanged NOTIFY onlyChangedChanged)
     Q_PROPERTY(bool advancedShown READ advancedShown WRITE setAdvancedShown NOTIFY advancedShownChanged)
     Q_PROPERTY(bool rawValuesShown READ rawValuesShown WRITE setRawValuesShown NOTIFY rawValuesShownChanged)
 
@@ -40,15 +41,21 @@ public:
 
     Kolt::ObjectPtr object() const; ///< the shown object, the first of several; null if it was deleted
 
-    /// The words of the filter: only parameters that contain all of them in "object.parameter", label, help or value
-    /// are shown, advanced ones as well. Values count as they are when the filter or the pool is set: a parameter that
-    /// is being edited stays.
+    /// The words of the filter: only parameters that contain all of them in "object.parameter", label, help, value or
+    /// the object's kind are shown, advanced ones as well. Values count as they are when the filter or the pool is set:
+    /// a parameter that is being edited stays.
     QString filter() const;
     void setFilter(QString const& words); ///< empty: shows all; other words than before scroll to the top
-    bool advancedShown() const;           ///< whether parameters with the property "advanced" are shown; not at first
-    void setAdvancedShown(bool shown);    ///< shows or hides them
-    bool rawValuesShown() const;          ///< whether the parameters' texts are shown beside the editors
-    void setRawValuesShown(bool shown);   ///< shows or hides them
+    void setKind(QString const& kind);    ///< what the object is for, for the filter; none at first
+
+    /// Whether only parameters whose value differs from the default are shown, advanced ones as well. Differences count
+    /// as they are when this, the filter or the pool is set: a parameter that is being edited stays.
+    bool onlyChanged() const;
+    void setOnlyChanged(bool only);     ///< shows only changes, or all parameters
+    bool advancedShown() const;         ///< whether parameters with the property "advanced" are shown; not at first
+    void setAdvancedShown(bool shown);  ///< shows or hides them
+    bool rawValuesShown() const;        ///< whether the parameters' texts are shown beside the editors
+    void setRawValuesShown(bool shown); ///< shows or hides them
 
     /// A command as an action with its shortcut, for menus and tool bars; it is made when it is first asked for and
     /// belongs to the panel. ResetAll acts on all rows, the others but Undo and Redo on the row with the focus.
@@ -64,6 +71,7 @@ public:
 
 signals:
     void filterChanged(QString const& words);                                ///< the filter has other words
+    void onlyChangedChanged(bool only);                                      ///< only changes are shown, or all
     void advancedShownChanged(bool shown);                                   ///< advanced parameters came or went
     void rawValuesShownChanged(bool shown);                                  ///< the texts were shown or hidden
     void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor); ///< an editor was made

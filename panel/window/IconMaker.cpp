@@ -5,14 +5,14 @@
 
 namespace Panel {
 
-QWidget* IconMaker::makeIcon(Kolt::ObjectPtr const& object, QWidget* parent) {
+ObjectIcon IconMaker::makeIcon(Kolt::ObjectPtr const& object, QWidget* parent) {
     // A copy, as asking a parameter may change the object.
     auto const parameters = object->parameters();
     for (auto const& parameter : parameters) {
         if (auto* const icon = makeIcon(object, parameter, parent))
-            return icon;
+            return {icon, parameter};
     }
-    return nullptr;
+    return {};
 }
 
 QWidget* IconMaker::makeIcon(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, QWidget* parent) {

@@ -4,7 +4,7 @@
 #include <panel/window/ActivationRepair.hpp>
 #include <panel/window/Centre.hpp>
 #include <panel/window/MessageTexts.hpp>
-#include <parameters/commands/ParameterFilter.hpp>
+#include <panel/window/ObjectColumn.hpp>
 #include <parameters/input/FileDialogHelp.hpp>
 #include <QApplication>
 #include <QCloseEvent>
@@ -47,7 +47,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
                              {messageDock_->toggleViewAction(), historyDock_->toggleViewAction(),
                               helpDock_->toggleViewAction(), fractal_->previewAction()},
                              this)) {
-    setCentralWidget(new Centre(noticeBar_, objectList_, views_));
+    setCentralWidget(new Centre(noticeBar_, new ObjectColumn(objectList_), views_));
     makeDocks();
     addToolBar(toolBar_);
     menuBar()->addMenu(fileMenu_);
@@ -85,7 +85,7 @@ void MainWindow::makeEditMenu() {
     menu->addSeparator();
     menu->addActions(commands_.actions());
     menu->addSeparator();
-    menu->addAction(toolBar_->filterField()->findAction());
+    menu->addActions({toolBar_->filterField()->findAction(), toolBar_->filterField()->onlyChangedAction()});
     connect(menu, &QMenu::aboutToShow, &commands_, &Talo::ParameterCommands::updateActions);
 }
 
@@ -116,7 +116,7 @@ void MainWindow::connectParts() {
     connect(notices_, &FileNotices::reported, this, &MainWindow::report);
     connect(pluginMenu_, &PluginMenu::reported, this, &MainWindow::report);
     connect(pluginMenu_, &PluginMenu::failed, this, &MainWindow::reportError);
-    connect(toolBar_->filterField(), &QLineEdit::textChanged, this, &MainWindow::applyFilter);
+    connect(toolBar_->filterField(), &FilterField::filterChanged, this, &MainWindow::applyFilter);
     connect(toolBar_->filterField(), &QLineEdit::returnPressed, this, [this] {
         if (currentView())
             currentView()->panel()->rowArea()->focusFirstControl();
@@ -143,7 +143,7 @@ void MainWindow::showOpened(Talo::Network* network) {
     showTitle();
     fractal_->showNetwork(network, pools_.pool());
     objectList_->showNetwork(network);
-    toolBar_->filterField()->clear();
+    toolBar_->filterField()->reset();
     if (!network->objects().empty())
         showObject(QString::fromStdString(network->objects().front()->Name()));
     emit networkOpened();
@@ -178,15 +178,19 @@ void MainWindow::applyFilter() {
     if (!network())
         return;
     filterObjects();
-    views_->setFilter(toolBar_->filterField()->text());
+    auto const* const field = toolBar_->filterField();
+    views_->setFilter(field->text(), field->onlyChangedAction()->isChecked());
 }
 
 void MainWindow::filterObjects() {
-    Talo::ParameterFilter const filter(toolBar_->filterField()->text());
-    if (filter.isEmpty())
+    auto const filter = toolBar_->filterField()->filter();
+    if (filter.isEmpty()) {
         objectList_->setFilter({});
-    else
-        objectList_->setFilter([&](auto const& object) { return filter.finds(object, pools_.pool()); });
+        toolBar_->showFound({});
+        return;
+    }
+    toolBar_->showFound(objectList_->setFilter(
+        [&](auto const& object, auto const& kind) { return filter.countIn(object, pools_.pool(), kind); }));
 }
 
 void MainWindow::closeEditors() {

@@ -1,12 +1,16 @@
 #include <panel/window/PoolToolBar.hpp>
 
-#include <QLabel>
+#include <panel/window/CountTexts.hpp>
+#include <parameters/rows/MutedLabel.hpp>
 #include <QSignalBlocker>
 
 namespace Panel {
 
 PoolToolBar::PoolToolBar(QWidget* parent)
-    : QToolBar(tr("Pool and filter"), parent), selector_(new QComboBox), filterField_(new FilterField) {
+    : QToolBar(tr("Pool and filter"), parent),
+      selector_(new QComboBox),
+      filterField_(new FilterField),
+      found_(new Talo::MutedLabel) {
     setObjectName(QStringLiteral("pool"));
     setMovable(false);
     auto* const label = new QLabel(tr("P&ool:"));
@@ -21,6 +25,11 @@ PoolToolBar::PoolToolBar(QWidget* parent)
     auto* const gap = new QWidget;
     gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     addWidget(gap);
+    addWidget(found_);
+    found_->setObjectName(QStringLiteral("found"));
+    found_->setContentsMargins(6, 0, 6, 0);
+    addAction(filterField_->onlyChangedAction());
+    widgetForAction(filterField_->onlyChangedAction())->setFocusPolicy(Qt::TabFocus);
     addWidget(filterField_);
     connect(selector_, qOverload<int>(&QComboBox::currentIndexChanged), this, [this](int index) {
         if (index >= 0)
@@ -35,6 +44,14 @@ void PoolToolBar::showPools(Talo::Network const& network) {
     selector_->clear();
     for (auto const& pool : network.pools())
         selector_->addItem(QString::fromStdString(pool->Name()));
+}
+
+void PoolToolBar::showFound(std::optional<ObjectModel::Total> const& found) {
+    // A list, whose parts stand for themselves.
+    auto const text = [&] {
+        return parameterCountText(found->parameters) + QStringLiteral(" · ") + objectCountText(found->objects);
+    };
+    found_->setText(found ? text() : QString());
 }
 
 bool PoolToolBar::choosePool(QString const& name) {

@@ -2,7 +2,9 @@
 
 #include <network/Network.hpp>
 #include <panel/window/FilterField.hpp>
+#include <panel/window/ObjectModel.hpp>
 #include <QComboBox>
+#include <QLabel>
 #include <QToolBar>
 
 namespace Panel {
@@ -20,6 +22,8 @@ public:
     /// Chooses a pool by its name; false if there is none.
     bool choosePool(QString const& name);
     FilterField* filterField() const { return filterField_; }
+    /// Says beside the filter what it found; nothing without a filter.
+    void showFound(std::optional<ObjectModel::Total> const& found);
 
 signals:
     /// The user, or `choosePool`, chose another pool, by its place among those of the network.
@@ -28,6 +32,7 @@ signals:
 private:
     QComboBox* const selector_;
     FilterField* const filterField_;
+    QLabel* const found_;
 };
 
 } // namespace Panel

@@ -89,6 +89,8 @@ void Session::restoreWindow() {
     if (auto* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         splitter->restoreState(unsealed(settings_.value(QStringLiteral("window/columns"))));
     window_->setRawValuesShown(settings_.value(QStringLiteral("window/rawValues"), false).toBool());
+    auto const order = settings_.value(QStringLiteral("window/objectOrder")).toByteArray();
+    window_->objectList()->setOrder(ObjectModel::orderNamed(order));
     window_->setAdvancedShown(settings_.value(QStringLiteral("window/advanced"), false).toBool());
 }
 
@@ -111,6 +113,7 @@ void Session::restoreNetwork() {
         }
         if (!window_->showObject(found->object))
             window_->showObject(first);
+        window_->objectList()->setFoldedKinds(found->foldedKinds);
         docks = found->docks;
     }
     nameViewDocks();
@@ -126,12 +129,14 @@ void Session::keep() {
     settings_.setValue(QStringLiteral("window/docks"), sealed(docks));
     settings_.setValue(QStringLiteral("window/rawValues"), window_->rawValuesShown());
     settings_.setValue(QStringLiteral("window/advanced"), window_->advancedShown());
+    settings_.setValue(QStringLiteral("window/objectOrder"), ObjectModel::nameOf(window_->objectList()->order()));
     if (auto const* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         settings_.setValue(QStringLiteral("window/columns"), sealed(splitter->saveState()));
     if (window_->network()) {
         auto const pool = window_->pools().pool();
         keepNetwork({window_->document().path(), pool ? QString::fromStdString(pool->Name()) : QString(),
-                     shownObject(window_->currentView()), views, docks, window_->views().foldedSections()});
+                     shownObject(window_->currentView()), views, docks, window_->views().foldedSections(),
+                     window_->objectList()->foldedKinds()});
     }
     settings_.sync();
     if (settings_.status() == QSettings::AccessError)
@@ -154,6 +159,7 @@ void Session::keepNetwork(NetworkRecord const& network) {
         settings_.setValue(QStringLiteral("views"), record.views);
         settings_.setValue(QStringLiteral("docks"), sealed(record.docks));
         settings_.setValue(QStringLiteral("folded"), toList(record.folded));
+        settings_.setValue(QStringLiteral("foldedKinds"), record.foldedKinds);
     }
     settings_.endArray();
 }
@@ -168,7 +174,8 @@ std::vector<Session::NetworkRecord> Session::networks() {
                        settings_.value(QStringLiteral("object")).toString(),
                        settings_.value(QStringLiteral("views")).toStringList(),
                        unsealed(settings_.value(QStringLiteral("docks"))),
-                       fromList(settings_.value(QStringLiteral("folded")).toStringList())});
+                       fromList(settings_.value(QStringLiteral("folded")).toStringList()),
+                       settings_.value(QStringLiteral("foldedKinds")).toStringList()});
     }
     settings_.endArray();
     return all;

@@ -11,8 +11,8 @@ namespace Panel {
 class MainWindow;
 
 /// How the panel stood when it was closed, kept in a file from one start to the next: geometry, columns, docks and raw
-/// values of the window, and for each of the networks last open the chosen pool, the shown object and the further
-/// views. Values of parameters are none of it; those are saved in the network.
+/// values of the window, the order of the objects, and for each of the networks last open the chosen pool, the shown
+/// object, the folded kinds and the further views. Values of parameters are none of it; those are saved in the network.
 ///
 /// What the file does not say, and what is not there any more (an object, a pool, a screen), stays as it is in a window
 /// without a session. A file that was damaged or written by somebody else counts as one that says less.
@@ -51,6 +51,7 @@ private:
         QByteArray docks;
         /// The folded sections, by the names of their objects.
         QMap<QString, QStringList> folded;
+        QStringList foldedKinds;
     };
 
     void restoreWindow();

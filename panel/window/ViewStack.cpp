@@ -67,6 +67,8 @@ ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& ki
     auto* const panel = view->panel();
     panel->setRawValuesShown(rawValuesShown_);
     panel->setAdvancedShown(advancedShown_);
+    panel->setKind(kind);
+    panel->setOnlyChanged(onlyChanged_);
     panel->setFilter(filter_);
     connect(panel, &Talo::ParameterPanel::editorOpened, this, &ViewStack::editorOpened);
     connect(panel, &Talo::ParameterPanel::refused, this, &ViewStack::refused);
@@ -138,10 +140,14 @@ void ViewStack::deleteViews() {
         delete view;
 }
 
-void ViewStack::setFilter(QString const& words) {
+void ViewStack::setFilter(QString const& words, bool onlyChanged) {
     filter_ = words;
-    for (auto* const view : views())
+    onlyChanged_ = onlyChanged;
+    for (auto* const view : views()) {
+        if (view->panel()->onlyChanged() != onlyChanged)
+            view->panel()->setOnlyChanged(onlyChanged);
         view->panel()->setFilter(words);
+    }
 }
 
 void ViewStack::setRawValuesShown(bool shown) {

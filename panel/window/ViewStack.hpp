@@ -34,7 +34,8 @@ public:
     /// Deletes all views at once, before what they show is deleted.
     void deleteViews();
 
-    void setFilter(QString const& words);
+    /// Shows the parameters that the words find, and only those that differ from their defaults if that is wanted.
+    void setFilter(QString const& words, bool onlyChanged);
     void setRawValuesShown(bool shown);
     bool rawValuesShown() const { return rawValuesShown_; }
     void setAdvancedShown(bool shown);
@@ -66,6 +67,7 @@ private:
     Kolt::ValuePoolSource& pools_;
     QMainWindow& window_;
     QString filter_;
+    bool onlyChanged_ = false;
     bool rawValuesShown_ = false;
     bool advancedShown_ = false;
     QMap<QString, QStringList> folded_;

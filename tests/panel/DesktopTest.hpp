@@ -23,8 +23,7 @@ protected:
     /// Clicks on an object's name.
     void choose(QString const& object) {
         auto* const list = window->objectList();
-        auto* const item = list->findItems(object, Qt::MatchExactly).constFirst();
-        desktop.click(*list->viewport(), QPoint(20, list->visualItemRect(item).center().y()));
+        desktop.click(*list->viewport(), QPoint(20, list->visualRect(list->objects()->find(object)).center().y()));
         ASSERT_TRUE(waitUntil([&] {
             return window->currentView() && window->currentView()->object() == window->network()->findObject(object);
         })) << qPrintable(object);

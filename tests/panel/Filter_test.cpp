@@ -26,9 +26,9 @@ protected:
     std::vector<std::string> objects() const {
         std::vector<std::string> names;
         auto const* const list = window->objectList();
-        for (int index = 0; index < list->topLevelItemCount(); ++index)
-            if (!list->topLevelItem(index)->isHidden())
-                names.push_back(list->topLevelItem(index)->text(0).toStdString());
+        for (auto const& row : list->objects()->allRows())
+            if (!list->isRowHidden(row.row(), row.parent()))
+                names.push_back(row.data().toString().toStdString());
         return names;
     }
     static std::vector<std::string> parameters(Panel::ObjectView const* view) {
@@ -67,6 +67,42 @@ TEST_F(FilterTest, FindsParametersByTheirValuesInTheChosenPool) {
     EXPECT_THAT(objects(), IsEmpty());
     look("2");
     EXPECT_THAT(parameters(), ElementsAre("level"));
+}
+
+TEST_F(FilterTest, FindsParametersByTheKindsOfTheirObjects) {
+    look("light SOURCE");
+    EXPECT_THAT(objects(), ElementsAre("lamp"));
+    EXPECT_THAT(parameters(), ElementsAre("on", "steady", "housing.painted"));
+    look("source paint");
+    EXPECT_THAT(parameters(), ElementsAre("housing.painted"));
+}
+
+TEST_F(FilterTest, SaysHowManyParametersAndObjectsItFound) {
+    auto const* const found = window->findChild<QLabel*>(QStringLiteral("found"));
+    EXPECT_EQ(found->text(), QString());
+    look("lamp.on");
+    EXPECT_EQ(found->text(), QStringLiteral("2 parameters · 2 objects"));
+    look("level");
+    EXPECT_EQ(found->text(), QStringLiteral("1 parameter · 1 object"));
+    look("nowhere");
+    EXPECT_EQ(found->text(), QStringLiteral("0 parameters · 0 objects"));
+    EXPECT_TRUE(found->isVisible());
+    QTest::keyClick(field(), Qt::Key_Escape);
+    EXPECT_EQ(found->text(), QString());
+}
+
+TEST_F(FilterTest, DoesNotCountWhatTheObjectHidesNow) {
+    ASSERT_TRUE(window->openNetwork(networkFile("hidden.json", R"({ "pools": ["a"], "objects": [
+        { "name": "lamp", "parameters": [
+            { "name": "on", "type": "bool", "value": false },
+            { "name": "on time", "type": "int", "value": 3, "properties": { "visibleWhen": "on=true" } } ] } ] })")));
+    auto const* const found = window->findChild<QLabel*>(QStringLiteral("found"));
+    look("on");
+    EXPECT_THAT(parameters(), ElementsAre("on"));
+    EXPECT_EQ(found->text(), QStringLiteral("1 parameter · 1 object"));
+    set("lamp.on", "true");
+    look("lamp.on");
+    EXPECT_EQ(found->text(), QStringLiteral("2 parameters · 1 object"));
 }
 
 TEST_F(FilterTest, WantsEachWordSomewhere) {

@@ -222,7 +222,7 @@ TEST_F(HistoryTest, UndoAndRedoShowTheObjectOfTheChange) {
     ASSERT_EQ(window->currentView()->object()->Name(), "others");
     undo();
     EXPECT_EQ(window->currentView()->object()->Name(), "all");
-    EXPECT_EQ(window->objectList()->currentItem()->text(0), QStringLiteral("all"));
+    EXPECT_EQ(window->objectList()->currentIndex().data().toString(), QStringLiteral("all"));
     ASSERT_TRUE(window->showObject(QStringLiteral("others")));
     redo();
     EXPECT_EQ(window->currentView()->object()->Name(), "all");

@@ -37,10 +37,10 @@ protected:
 } // namespace
 
 TEST_F(MainWindowTest, ListsTheObjectsAndShowsTheFirst) {
-    auto const* const list = window->objectList();
-    ASSERT_EQ(list->topLevelItemCount(), 2);
-    EXPECT_EQ(list->topLevelItem(0)->text(0), QStringLiteral("lamp"));
-    EXPECT_EQ(list->topLevelItem(1)->text(0), QStringLiteral("second lamp"));
+    auto const* const objects = window->objectList()->objects();
+    ASSERT_EQ(objects->rowCount(), 2);
+    EXPECT_EQ(objects->index(0, 0).data().toString(), QStringLiteral("lamp"));
+    EXPECT_EQ(objects->index(1, 0).data().toString(), QStringLiteral("second lamp"));
     ASSERT_NE(window->currentView(), nullptr);
     EXPECT_EQ(window->currentView()->object(), window->network()->findObject(QStringLiteral("lamp")));
     EXPECT_THAT(window->windowTitle().toStdString(), HasSubstr("Two lamps"));
@@ -57,7 +57,7 @@ TEST_F(MainWindowTest, ACheckBoxOfThePluginEditsABool) {
 }
 
 TEST_F(MainWindowTest, ChoosingAnObjectInTheListShowsIt) {
-    window->objectList()->setCurrentItem(window->objectList()->topLevelItem(1));
+    window->objectList()->setCurrentIndex(window->objectList()->objects()->index(1, 0));
     EXPECT_EQ(window->currentView()->object(), window->network()->findObject(QStringLiteral("second lamp")));
     EXPECT_TRUE(box("on")->isChecked());
     EXPECT_FALSE(window->showObject(QStringLiteral("third lamp")));
@@ -275,7 +275,7 @@ TEST_F(MainWindowTest, AnotherNetworkTakesThePlaceOfTheOpenOne) {
 
 TEST_F(MainWindowTest, ANetworkWithoutObjectsIsShownEmpty) {
     ASSERT_TRUE(window->openNetwork(networkFile("empty.json", R"({ "pools": ["only"], "objects": [] })")));
-    EXPECT_EQ(window->objectList()->topLevelItemCount(), 0);
+    EXPECT_EQ(window->objectList()->objects()->rowCount(), 0);
     EXPECT_EQ(window->currentView(), nullptr);
     EXPECT_EQ(window->addView(), nullptr);
 }

@@ -53,7 +53,7 @@ TEST_F(WordingTest, RawValuesAreNamedForScreenReaders) {
 
 TEST_F(WordingTest, TheRowsOfTheObjectsAreAsHighAsLargeTextsNeed) {
     auto* const list = window->objectList();
-    auto const rowHeight = [&] { return list->visualItemRect(list->topLevelItem(0)).height(); };
+    auto const rowHeight = [&] { return list->visualRect(list->objects()->index(0, 0)).height(); };
     int const before = rowHeight();
     auto large = list->font();
     large.setPixelSize(3 * QFontInfo(large).pixelSize());

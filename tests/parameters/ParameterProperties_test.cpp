@@ -149,6 +149,36 @@ TEST_F(ParameterPropertiesTest, AdvancedParametersAreShownOnDemandOrWhenTheFilte
     EXPECT_THAT(shownRows(), ElementsAre("plain"));
 }
 
+TEST_F(ParameterPropertiesTest, OnlyChangedShowsWhatDiffersFromItsDefaultAdvancedOrNot) {
+    Parameter<int> const speed("speed", 3);
+    auto const secret = Parameter<int>("secret", 1).property("advanced", true);
+    add(speed);
+    add(Parameter<int>("pressure", 1));
+    add(secret);
+    show();
+    panel->setOnlyChanged(true);
+    EXPECT_THAT(shownRows(), IsEmpty());
+    EXPECT_TRUE(speed.write(4));
+    EXPECT_TRUE(secret.write(2));
+    // What differs is looked at when it is asked for.
+    EXPECT_THAT(shownRows(), IsEmpty());
+    panel->setOnlyChanged(true);
+    EXPECT_THAT(shownRows(), ElementsAre("speed", "secret"));
+    QSignalSpy const changes(panel, &Talo::ParameterPanel::onlyChangedChanged);
+    panel->setOnlyChanged(false);
+    EXPECT_EQ(changes.size(), 1);
+    EXPECT_THAT(shownRows(), ElementsAre("speed", "pressure"));
+}
+
+TEST_F(ParameterPropertiesTest, TheFilterFindsTheKindOfTheObject) {
+    add(Parameter<int>("speed", 3));
+    show();
+    panel->setFilter(QStringLiteral("machine"));
+    EXPECT_THAT(shownRows(), IsEmpty());
+    panel->setKind(QStringLiteral("Machine"));
+    EXPECT_THAT(shownRows(), ElementsAre("speed"));
+}
+
 TEST_F(ParameterPropertiesTest, AFormOfAdvancedParametersSaysWhyItIsEmpty) {
     add(Parameter<int>("special").property("advanced", true));
     show();
