@@ -92,6 +92,7 @@ void Session::restoreWindow() {
     auto const order = settings_.value(QStringLiteral("window/objectOrder")).toByteArray();
     window_->objectList()->setOrder(ObjectModel::orderNamed(order));
     window_->setAdvancedShown(settings_.value(QStringLiteral("window/advanced"), false).toBool());
+    window_->recentFiles().addOlder(settings_.value(QStringLiteral("window/recent")).toStringList());
 }
 
 void Session::restoreNetwork() {
@@ -130,6 +131,7 @@ void Session::keep() {
     settings_.setValue(QStringLiteral("window/rawValues"), window_->rawValuesShown());
     settings_.setValue(QStringLiteral("window/advanced"), window_->advancedShown());
     settings_.setValue(QStringLiteral("window/objectOrder"), ObjectModel::nameOf(window_->objectList()->order()));
+    settings_.setValue(QStringLiteral("window/recent"), window_->recentFiles().files());
     if (auto const* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         settings_.setValue(QStringLiteral("window/columns"), sealed(splitter->saveState()));
     if (window_->network()) {

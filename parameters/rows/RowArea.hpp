@@ -57,6 +57,8 @@ public:
     void setRawValuesShown(bool shown);
     /// Hides the parameters for which the predicate does not hold; an empty one shows all. The scroll position stays.
     void setFilter(std::function<bool(Kolt::VParameter const&)> const& filter);
+    /// The boxes around the rows.
+    FormSections* sections() const { return sections_; }
     /// The titles of the folded sections.
     QStringList foldedSections() const { return sections_->folded(); }
     /// Folds the sections with these titles and opens the others.
