@@ -30,7 +30,7 @@ QString plainText(QString const& text) {
     return plain;
 }
 
-QString keysOf(QAction const& action) {
+QString shortcutsOf(QAction const& action) {
     QStringList keys;
     auto const shortcuts = action.shortcuts();
     for (auto const& each : shortcuts)
@@ -44,7 +44,7 @@ void addActions(KeyGroup& group, QList<QAction*> const& actions, QSet<QAction co
     for (auto const* const action : actions) {
         if (action->menu())
             addActions(group, action->menu()->actions(), listed);
-        auto const keys = keysOf(*action);
+        auto const keys = shortcutsOf(*action);
         // The text of undo names the step as well; the text of its button does not.
         if (!keys.isEmpty() && !listed.contains(action)) {
             listed.insert(action);
@@ -54,7 +54,7 @@ void addActions(KeyGroup& group, QList<QAction*> const& actions, QSet<QAction co
 }
 
 /// The keys that no action has.
-QVector<KeyGroup> keysOfControls() {
+QVector<KeyGroup> controlKeys() {
     return {{KeyTexts::tr("Rows"),
              {{KeyTexts::tr("Next or previous control"), KeyTexts::tr("Tab, Shift+Tab")},
               {KeyTexts::tr("Leave a text of several lines"), KeyTexts::tr("Ctrl+Tab, Ctrl+Shift+Tab")},
@@ -90,7 +90,7 @@ QVector<KeyGroup> keysOf(QWidget const& window) {
             add(plainText(each->text()), each->menu() ? each->menu()->actions() : QList<QAction*>{each});
     }
     add(KeyTexts::tr("Other commands"), window.findChildren<QAction*>());
-    return groups + keysOfControls();
+    return groups + controlKeys();
 }
 
 } // namespace Panel

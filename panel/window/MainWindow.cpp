@@ -4,6 +4,7 @@
 #include <panel/window/ActivationRepair.hpp>
 #include <panel/window/Centre.hpp>
 #include <panel/window/FileDrop.hpp>
+#include <panel/window/HelpMenu.hpp>
 #include <panel/window/MessageTexts.hpp>
 #include <panel/window/ObjectColumn.hpp>
 #include <parameters/input/FileDialogHelp.hpp>
@@ -58,6 +59,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     makeEditMenu();
     menuBar()->addMenu(viewMenu_);
     menuBar()->addMenu(pluginMenu_);
+    menuBar()->addMenu(new HelpMenu(*this));
     connectParts();
     showTitle();
     resize(1200, 800);

@@ -60,6 +60,8 @@ public:
     void setRawValuesShown(bool shown) { viewMenu_->rawValuesAction()->setChecked(shown); }
     void setAdvancedShown(bool shown) { viewMenu_->advancedAction()->setChecked(shown); }
     bool advancedShown() const { return viewMenu_->advancedAction()->isChecked(); }
+    /// Colours and sizes of texts.
+    LookMenu& look() const { return viewMenu_->look(); }
     bool rawValuesShown() const { return viewMenu_->rawValuesAction()->isChecked(); }
     /// Shows the parameters that these words find (ParameterFilter), and the objects that have some.
     void setFilter(QString const& words) { toolBar_->filterField()->setText(words); }

@@ -20,6 +20,15 @@ QFont ParentLook::font() const {
     return parent_ ? parent_->font() : QApplication::font(&widget_);
 }
 
+QFont ParentLook::scaledFont(double factor) const {
+    auto scaled = font();
+    if (scaled.pointSizeF() > 0)
+        scaled.setPointSizeF(scaled.pointSizeF() * factor);
+    else
+        scaled.setPixelSize(qMax(1, qRound(scaled.pixelSize() * factor)));
+    return scaled;
+}
+
 void ParentLook::watchParent() {
     auto* const parent = widget_.parentWidget();
     if (parent == parent_)

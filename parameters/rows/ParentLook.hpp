@@ -24,6 +24,8 @@ public:
     QPalette palette() const;
     /// The font of the widget's parent; without a parent that of the application for such a widget.
     QFont font() const;
+    /// That font, larger by a factor.
+    QFont scaledFont(double factor) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
