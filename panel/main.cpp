@@ -253,6 +253,8 @@ std::unique_ptr<Talo::Network> openNetwork(Panel::CommandLine const& commandLine
 void prepareWindow(Panel::MainWindow& window, Panel::CommandLine const& commandLine) {
     if (commandLine.rawValues)
         window.setRawValuesShown(true);
+    if (commandLine.theme != Panel::Theme::System)
+        window.look().chooseTheme(commandLine.theme);
     if (commandLine.size.isValid()) {
         window.setWindowState(Qt::WindowNoState);
         window.resize(commandLine.size);

@@ -4,7 +4,7 @@
 #include <lattice/UndoHistory.hpp>
 #include <parameters/commands/ParameterCommands.hpp>
 #include <parameters/commands/ParameterFilter.hpp>
-#include <parameters/commands/RowCommands.hpp>
+#include <parameters/commands/ResetCommands.hpp>
 #include <parameters/commands/SharedEdits.hpp>
 #include <parameters/commands/UndoActions.hpp>
 #include <parameters/input/InputFilter.hpp>
@@ -14,6 +14,7 @@
 #include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/ParameterVector.hpp>
 #include <parameters/rows/RowArea.hpp>
+#include <QMenu>
 #include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -138,20 +139,6 @@ public:
         return hasParameter ? living->parameters().front()->history() : Kolt::UndoHistory::theHistory();
     }
 
-    void resetAll() const {
-        inputFilter->gestures().end();
-        auto const living = object.strong();
-        if (!living)
-            return;
-        Kolt::UndoHistory::Macro const macro(history());
-        // Copies: a notifier may change the object or delete the panel.
-        auto const parameters = living->parameters();
-        auto const source = pools;
-        for (auto const& parameter : parameters)
-            if (parameter->defaults() && isChangeable(*parameter))
-                (void)resetToDefault(parameter, source.pool());
-    }
-
     UndoActions& undoActionsOf(ParameterPanel& panel) {
         if (!undoActions) {
             undoActions = new UndoActions(history(), &panel);
@@ -172,9 +159,23 @@ public:
         if (!resetAllAction) {
             resetAllAction = new QAction(tr("Reset &all to default"), &panel);
             resetAllAction->setObjectName(QStringLiteral("resetAll"));
-            connect(resetAllAction, &QAction::triggered, &panel, [this] { resetAll(); });
+            connect(resetAllAction, &QAction::triggered, &panel, &ParameterPanel::resetAll);
         }
         return resetAllAction;
+    }
+    QAction* resetSectionActionOf(ParameterPanel& panel) {
+        if (!resetSectionAction) {
+            resetSectionAction = new QAction(tr("Reset s&ection to default"), &panel);
+            resetSectionAction->setObjectName(QStringLiteral("resetSection"));
+            connect(resetSectionAction, &QAction::triggered, &panel, [this, &panel] {
+                auto const* const row = commandsOf(panel).row();
+                if (auto const parameter = row ? row->parameter() : nullptr)
+                    panel.resetSection(ParameterDescription(*parameter).section);
+            });
+        }
+        // It follows which row has the focus.
+        commandsOf(panel);
+        return resetSectionAction;
     }
     static void addActions(ParameterPanel& panel, QList<QAction*> const& actions) {
         for (auto* const action : actions)
@@ -205,6 +206,7 @@ public:
     UndoActions* undoActions = nullptr;
     ParameterCommands* commands = nullptr;
     QAction* resetAllAction = nullptr;
+    QAction* resetSectionAction = nullptr;
 };
 
 ParameterPanel::ParameterPanel(Kolt::ObjectPtr const& object, Kolt::ValuePoolSource& pools, QWidget* parent)
@@ -218,6 +220,7 @@ ParameterPanel::ParameterPanel(std::vector<Kolt::ObjectPtr> const& objects, Kolt
     connect(d_->rows, &RowArea::editorOpened, this, &ParameterPanel::editorOpened);
     connect(d_->rows, &RowArea::refused, this, &ParameterPanel::refused);
     connect(d_->rows, &RowArea::helpRequested, this, &ParameterPanel::helpRequested);
+    connect(d_->rows->sections(), &FormSections::menuRequested, this, &ParameterPanel::showSectionMenu);
 }
 
 ParameterPanel::~ParameterPanel() {
@@ -227,6 +230,10 @@ ParameterPanel::~ParameterPanel() {
 
 Kolt::ObjectPtr ParameterPanel::object() const {
     return d_->object.strong();
+}
+
+Kolt::PoolPtr ParameterPanel::pool() const {
+    return d_->pools.pool();
 }
 
 QString ParameterPanel::filter() const {
@@ -290,6 +297,8 @@ QAction* ParameterPanel::action(Command command) {
         return d_->undoActionsOf(*this).redoAction();
     case Command::Reset:
         return d_->commandsOf(*this).action("resetValue");
+    case Command::ResetSection:
+        return d_->resetSectionActionOf(*this);
     case Command::ResetAll:
         return d_->resetAllActionOf(*this);
     case Command::Copy:
@@ -308,6 +317,25 @@ void ParameterPanel::setNaming(ParameterNaming naming) {
     d_->naming = std::move(naming);
     if (d_->undoActions)
         d_->undoActions->setNaming(d_->naming);
+}
+
+void ParameterPanel::resetAll() {
+    if (auto const living = object())
+        resetToDefaults(living->parameters(), d_->pools.pool());
+}
+
+void ParameterPanel::resetSection(QString const& title) {
+    if (auto const living = object())
+        resetToDefaults(parametersInSection(*living, title), d_->pools.pool());
+}
+
+void ParameterPanel::showSectionMenu(QString const& title, QPoint const& place) {
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(tr("Reset s&ection to default"), this, [this, title] { resetSection(title); })
+        ->setObjectName(QStringLiteral("resetSection"));
+    emit sectionMenuRequested(menu, title);
+    menu->popup(place);
 }
 
 void ParameterPanel::commitPendingEdit() {

@@ -8,6 +8,8 @@
 #include <QWidget>
 #include <tessera/Export.hpp>
 
+class QMenu;
+
 namespace Talo {
 
 class RowArea;
@@ -26,7 +28,7 @@ class TALO_EXPORT ParameterPanel : public QWidget {
 
 public:
     /// What `action` offers.
-    enum class Command { Undo, Redo, Reset, ResetAll, Copy, Paste, SetAsDefault, ShowHelp };
+    enum class Command { Undo, Redo, Reset, ResetSection, ResetAll, Copy, Paste, SetAsDefault, ShowHelp };
     Q_ENUM(Command)
 
     /// `pools` says which pool is edited; after it was destroyed edits are dropped. Undo and Redo act on the history of
@@ -40,6 +42,8 @@ public:
     ~ParameterPanel() override;
 
     Kolt::ObjectPtr object() const; ///< the shown object, the first of several; null if it was deleted
+
+    Kolt::PoolPtr pool() const;     ///< the pool that is edited; null for none
 
     /// The words of the filter: only parameters that contain all of them in "object.parameter", label, help, value or
     /// the object's kind are shown, advanced ones as well. Values count as they are when the filter or the pool is set:
@@ -58,10 +62,16 @@ public:
     void setRawValuesShown(bool shown); ///< shows or hides them
 
     /// A command as an action with its shortcut, for menus and tool bars; it is made when it is first asked for and
-    /// belongs to the panel. ResetAll acts on all rows, the others but Undo and Redo on the row with the focus.
-    /// The shortcuts work while the focus is in the panel.
+    /// belongs to the panel. ResetAll acts on all parameters of the object, ResetSection on
+    /// those of the section with the focus, the others but Undo and Redo on the row with the focus. The shortcuts work
+    /// while the focus is in the panel.
     QAction* action(Command command);
     void setNaming(ParameterNaming naming); ///< how undo texts name parameters; empty: by their own names
+
+    /// Makes the defaults of all parameters effective in the chosen pool, as one undo step (resetToDefaults).
+    void resetAll();
+    /// Does so for the parameters of one section, hidden ones as well.
+    void resetSection(QString const& title);
 
     void commitPendingEdit(); ///< before saving: writes a typed text and ends the gesture that goes on
     void closeEditors();      ///< deletes all editors, before a plug-in is unloaded
@@ -76,6 +86,8 @@ signals:
     void rawValuesShownChanged(bool shown);                                  ///< the texts were shown or hidden
     void editorOpened(Kolt::ParameterPtr const& parameter, QWidget* editor); ///< an editor was made
     void helpRequested(Kolt::ParameterPtr const& parameter);                 ///< to be shown in a HelpView, say
+    /// The context menu of a section is about to be shown: to add further commands.
+    void sectionMenuRequested(QMenu* menu, QString const& title);
     void refused(QString const& reason); ///< a command did nothing, for this reason: a sentence
 
 protected:
@@ -83,6 +95,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void showSectionMenu(QString const& title, QPoint const& place);
+
     class Private;
     std::unique_ptr<Private> const d_;
 };

@@ -1,5 +1,6 @@
 #include <fractal/ui/Preview.hpp>
 
+#include <QEvent>
 #include <QPainter>
 #include <QResizeEvent>
 
@@ -96,6 +97,13 @@ void Preview::resizeEvent(QResizeEvent* event) {
 void Preview::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     emit pictureSizeChanged();
+}
+
+void Preview::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    // The text below the picture has another height.
+    if (event->type() == QEvent::FontChange)
+        emit pictureSizeChanged();
 }
 
 void Preview::hideEvent(QHideEvent* event) {

@@ -136,6 +136,21 @@ void UndoHistory::closeStep() {
     changed();
 }
 
+bool UndoHistory::cancelStep() {
+    if (!open_ || isRestoring())
+        return false;
+    auto const step = std::exchange(open_, nullptr);
+    auto const undone = std::exchange(undoneBeforeOpen_, {});
+    remove(step);
+    {
+        Restoring const restoring(*this);
+        step->undo();
+    }
+    undone_ = undone;
+    changed();
+    return true;
+}
+
 bool UndoHistory::undo() {
     if (isRestoring())
         return false;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bramble/Action.hpp>
 #include <panel/gallery/GalleryExample.hpp>
+#include <panel/look/TitleLabel.hpp>
 #include <parameters/rows/ContentArea.hpp>
 #include <parameters/rows/MutedLabel.hpp>
 #include <QFrame>
@@ -32,12 +33,7 @@ QWidget* makeSectionTitle(QString const& text) {
     auto* const section = new QWidget;
     auto* const layout = new QHBoxLayout(section);
     layout->setContentsMargins(0, margin, 0, 0);
-    auto* const label = new QLabel(text);
-    label->setTextFormat(Qt::PlainText);
-    auto font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    layout->addWidget(label);
+    layout->addWidget(new TitleLabel(text));
     auto* const line = new QFrame;
     line->setFrameShape(QFrame::HLine);
     // Of one colour: a relief falls apart where a pixel is drawn on one and a half.

@@ -1,8 +1,10 @@
 #include <panel/look/Look.hpp>
 
+#include <cmath>
 #include <memory>
 #include <panel/look/PanelStyle.hpp>
 #include <QApplication>
+#include <QFont>
 #include <QFontDatabase>
 #include <QStyle>
 #include <QStyleFactory>
@@ -46,6 +48,22 @@ QPalette darkPalette() {
     return palette;
 }
 
+// What is chosen for the application, of which there is one.
+struct Chosen {
+    Theme theme = Theme::System;
+    int textSize = 0;
+    // That of the texts in their usual size.
+    QFont usualFont;
+};
+
+Chosen& chosen() {
+    static Chosen all{Theme::System, 0, QApplication::font()};
+    return all;
+}
+
+// A step of the text size; eight of them double it.
+constexpr double textStep = 1.09;
+
 QPalette lightPalette() {
     // The style's own colours do not depend on the desktop.
     return std::unique_ptr<QStyle>(QStyleFactory::create(QStringLiteral("Fusion")))->standardPalette();
@@ -69,17 +87,45 @@ void applyLook(Theme theme) {
     // The application owns its style.
     auto style = std::make_unique<PanelStyle>();
     QApplication::setStyle(style.release());
-    if (theme != Theme::System) {
-        auto const palette = themePalette(theme);
-        QApplication::setPalette(palette);
-        QToolTip::setPalette(palette);
-    }
+    if (theme != Theme::System)
+        setTheme(theme);
     auto const family = QStringLiteral("DejaVu Sans");
     if (QApplication::platformName() == QLatin1String("offscreen") && QFontDatabase().families().contains(family)) {
         QFont font(family, 9);
         font.setHintingPreference(QFont::PreferFullHinting);
         QApplication::setFont(font);
     }
+    chosen().usualFont = QApplication::font();
+}
+
+void setTheme(Theme theme) {
+    chosen().theme = theme;
+    auto palette = theme == Theme::System ? QPalette() : themePalette(theme);
+    // Of one that says nothing itself the platform says all.
+    if (theme == Theme::System)
+        palette.resolve(0);
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(QApplication::palette());
+}
+
+Theme theme() {
+    return chosen().theme;
+}
+
+void setTextSize(int steps) {
+    auto& all = chosen();
+    all.textSize = qBound(SmallestText, steps, LargestText);
+    auto font = all.usualFont;
+    double const factor = std::pow(textStep, all.textSize);
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * factor);
+    else
+        font.setPixelSize(qRound(font.pixelSize() * factor));
+    QApplication::setFont(font);
+}
+
+int textSize() {
+    return chosen().textSize;
 }
 
 } // namespace Panel

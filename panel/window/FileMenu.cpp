@@ -1,6 +1,7 @@
 #include <panel/window/FileMenu.hpp>
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -15,15 +16,28 @@ QString networkFilter() {
 } // namespace
 
 FileMenu::FileMenu(Document& document, QWidget& window)
-    : QMenu(tr("&File"), &window), document_(document), window_(window) {
+    : QMenu(tr("&File"), &window),
+      document_(document),
+      window_(window),
+      recent_(new RecentMenu(this)),
+      revertAction_(new QAction(tr("Re&vert to the file"), this)) {
     auto* const openAction = addAction(tr("&Open..."), this, &FileMenu::askForNetwork, QKeySequence::Open);
     openAction->setObjectName(QStringLiteral("open"));
+    addMenu(recent_);
     auto* const saveAction = addAction(tr("&Save values"), this, &FileMenu::saveOpen, QKeySequence::Save);
     saveAction->setObjectName(QStringLiteral("save"));
     addAction(tr("Save values &as..."), this, &FileMenu::askForSaveFile, QKeySequence(tr("Ctrl+Shift+S")))
         ->setObjectName(QStringLiteral("saveAs"));
+    revertAction_->setObjectName(QStringLiteral("revert"));
+    addAction(revertAction_);
     addSeparator();
-    addAction(tr("&Quit"), &window_, &QWidget::close, QKeySequence(tr("Ctrl+Q")));
+    addAction(tr("&Quit"), &window_, &QWidget::close, QKeySequence(tr("Ctrl+Q")))
+        ->setObjectName(QStringLiteral("quit"));
+    connect(recent_, &RecentMenu::chosen, this, &FileMenu::openRecent);
+    connect(revertAction_, &QAction::triggered, this, &FileMenu::revert);
+    connect(&document, &Document::opened, this, &FileMenu::showFile);
+    connect(&document, &Document::saved, this, &FileMenu::showFile);
+    showFile();
 }
 
 FileMenu::~FileMenu() = default;
@@ -33,9 +47,55 @@ void FileMenu::askForNetwork() {
         return;
     auto const current = document_.network() ? document_.network()->file() : QString();
     auto const file = QFileDialog::getOpenFileName(&window_, tr("Open a network"), current, networkFilter());
-    auto const reason = file.isEmpty() ? QString() : document_.open(file);
+    if (!file.isEmpty())
+        load(file);
+}
+
+void FileMenu::load(QString const& file) {
+    auto const reason = document_.open(file);
     if (!reason.isEmpty())
         emit failed(tr("The network cannot be opened"), reason);
+}
+
+void FileMenu::openFile(QString const& file) {
+    if (mayClose())
+        load(file);
+}
+
+void FileMenu::openRecent(QString const& file) {
+    if (QFileInfo::exists(file)) {
+        openFile(file);
+        return;
+    }
+    recent_->drop(file);
+    emit failed(tr("The network cannot be opened"), tr("%1 is gone. It is not listed any more.").arg(file));
+}
+
+void FileMenu::showFile() {
+    recent_->add(document_.path());
+    revertAction_->setEnabled(!document_.path().isEmpty());
+}
+
+void FileMenu::revert() {
+    // The running work belongs to the network that goes.
+    if (document_.network() && mayEndWork() && mayRevert())
+        load(document_.network()->file());
+}
+
+bool FileMenu::mayRevert() {
+    emit commitRequested();
+    document_.checkModified();
+    if (!document_.isModified())
+        return true;
+    QMessageBox box(QMessageBox::Warning, tr("Unsaved values"),
+                    tr("The values of “%1” were changed.").arg(document_.title()), QMessageBox::Cancel, &window_);
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(tr("They become those of the file. The changes are lost, and so is the history."));
+    auto* const revertButton = box.addButton(tr("Re&vert"), QMessageBox::DestructiveRole);
+    revertButton->setObjectName(QStringLiteral("revertValues"));
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == revertButton;
 }
 
 void FileMenu::askForSaveFile() {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <panel/window/Document.hpp>
+#include <panel/window/RecentMenu.hpp>
 #include <QMenu>
 
 namespace Panel {
@@ -15,6 +16,10 @@ public:
     FileMenu(Document& document, QWidget& window);
     ~FileMenu() override;
 
+    /// The files that were open last.
+    RecentMenu& recent() const { return *recent_; }
+    /// Opens a file in place of the open network, after the questions of mayClose().
+    void openFile(QString const& file);
     /// Whether the network may be closed: the user agrees that running work ends, and the open values are saved or may
     /// be lost. Saves them if the user wants it.
     bool mayClose();
@@ -29,6 +34,12 @@ signals:
 
 private:
     void askForNetwork();
+    void openRecent(QString const& file);
+    /// Opens the network's file again, without its unsaved changes.
+    void revert();
+    bool mayRevert();
+    void load(QString const& file);
+    void showFile();
     void askForSaveFile();
     bool mayEndWork();
     bool mayDiscardChanges();
@@ -38,6 +49,8 @@ private:
 
     Document& document_;
     QWidget& window_;
+    RecentMenu* const recent_;
+    QAction* const revertAction_;
     std::function<QString()> runningWork_;
 };
 

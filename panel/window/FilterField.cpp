@@ -1,5 +1,6 @@
 #include <panel/window/FilterField.hpp>
 
+#include <QEvent>
 #include <QKeyEvent>
 
 namespace Panel {
@@ -13,8 +14,7 @@ FilterField::FilterField(QWidget* parent)
     setAccessibleName(tr("Filter"));
     setToolTip(tr("Shows the parameters whose name, label, help, object, kind or value has all of these words"));
     setClearButtonEnabled(true);
-    // Wide enough for the placeholder text, beside the button.
-    setMaximumWidth(fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height());
+    setWidth();
     findAction_->setObjectName(QStringLiteral("find"));
     findAction_->setShortcut(QKeySequence::Find);
     connect(findAction_, &QAction::triggered, this, [this] {
@@ -33,6 +33,17 @@ FilterField::~FilterField() = default;
 void FilterField::reset() {
     clear();
     onlyChanged_->setChecked(false);
+}
+
+void FilterField::setWidth() {
+    // Wide enough for the placeholder text, beside the button.
+    setMaximumWidth(fontMetrics().horizontalAdvance(placeholderText()) + 3 * fontMetrics().height());
+}
+
+void FilterField::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        setWidth();
 }
 
 void FilterField::keyPressEvent(QKeyEvent* event) {

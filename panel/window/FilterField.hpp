@@ -30,8 +30,11 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void setWidth();
+
     QAction* const findAction_;
     QAction* const onlyChanged_;
 };

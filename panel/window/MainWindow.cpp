@@ -3,6 +3,8 @@
 #include <panel/look/Look.hpp>
 #include <panel/window/ActivationRepair.hpp>
 #include <panel/window/Centre.hpp>
+#include <panel/window/FileDrop.hpp>
+#include <panel/window/HelpMenu.hpp>
 #include <panel/window/MessageTexts.hpp>
 #include <panel/window/ObjectColumn.hpp>
 #include <parameters/input/FileDialogHelp.hpp>
@@ -35,6 +37,9 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
       commands_(nullptr, this),
       objectList_(new ObjectList(pools_)),
       views_(new ViewStack(pools_, *this)),
+      objectCommands_(new ObjectCommands(document_, *views_, commands_, pools_, this)),
+      presetMenu_(new PresetMenu(
+          document_, [this] { return objectCommands_->panel(); }, this)),
       messageDock_(new MessageDock(*this)),
       toolBar_(new PoolToolBar),
       noticeBar_(new NoticeBar),
@@ -54,6 +59,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     makeEditMenu();
     menuBar()->addMenu(viewMenu_);
     menuBar()->addMenu(pluginMenu_);
+    menuBar()->addMenu(new HelpMenu(*this));
     connectParts();
     showTitle();
     resize(1200, 800);
@@ -85,8 +91,22 @@ void MainWindow::makeEditMenu() {
     menu->addSeparator();
     menu->addActions(commands_.actions());
     menu->addSeparator();
+    menu->addActions(objectCommands_->resetActions());
+    menu->addMenu(presetMenu_);
+    menu->addSeparator();
     menu->addActions({toolBar_->filterField()->findAction(), toolBar_->filterField()->onlyChangedAction()});
     connect(menu, &QMenu::aboutToShow, &commands_, &Talo::ParameterCommands::updateActions);
+    connect(menu, &QMenu::aboutToShow, objectCommands_, &ObjectCommands::updateActions);
+}
+
+void MainWindow::showObjectMenu(QPoint const& place) {
+    auto* const menu = new QMenu(objectList_);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    objectCommands_->updateActions();
+    // Sections belong to a row.
+    menu->addActions(objectCommands_->resetActions().mid(1));
+    menu->addMenu(presetMenu_);
+    menu->popup(objectList_->viewport()->mapToGlobal(place));
 }
 
 void MainWindow::connectParts() {
@@ -109,6 +129,12 @@ void MainWindow::connectParts() {
     connect(views_, &ViewStack::refused, this, &MainWindow::showRefusal);
     connect(views_, &ViewStack::helpRequested, helpDock_, &HelpDock::showHelp);
     connect(fractal_.get(), &Fractal::FractalController::reported, this, &MainWindow::report);
+    objectList_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(objectList_, &QWidget::customContextMenuRequested, this, &MainWindow::showObjectMenu);
+    connect(objectCommands_, &ObjectCommands::commitRequested, this, &MainWindow::commitPendingEdit);
+    connect(presetMenu_, &PresetMenu::commitRequested, this, &MainWindow::commitPendingEdit);
+    connect(presetMenu_, &PresetMenu::failed, this, &MainWindow::reportError);
+    connect(presetMenu_, &PresetMenu::reported, this, &MainWindow::report);
     fileMenu_->setRunningWork([this] { return fractal_->unwrittenPicture(); });
     connect(fileMenu_, &FileMenu::commitRequested, this, &MainWindow::commitPendingEdit);
     connect(fileMenu_, &FileMenu::failed, this, &MainWindow::reportError);
@@ -127,9 +153,17 @@ void MainWindow::connectParts() {
     connect(&plugins_, &Plugins::aboutToChange, this, &MainWindow::closeEditors);
     connect(&plugins_, &Plugins::changed, this, &MainWindow::openEditors);
     new ActivationRepair(*this);
+    auto const* const drop = new FileDrop(*this);
+    connect(drop, &FileDrop::dropped, fileMenu_, &FileMenu::openFile);
+    connect(drop, &FileDrop::refused, this, &MainWindow::showRefusal);
 }
 
 void MainWindow::showOpened(Talo::Network* network) {
+    // A file that is opened again shows what it showed before.
+    bool const isSameFile = !network->file().isEmpty() && windowFilePath() == network->file();
+    auto const shown = isSameFile && currentView() ? currentView()->object() : nullptr;
+    auto const shownName = shown ? QString::fromStdString(shown->Name()) : QString();
+    auto const poolName = isSameFile && pools_.pool() ? QString::fromStdString(pools_.pool()->Name()) : QString();
     views_->closeViews();
     objectList_->showNetwork(nullptr);
     fractal_->showNetwork(nullptr, nullptr);
@@ -146,6 +180,8 @@ void MainWindow::showOpened(Talo::Network* network) {
     toolBar_->filterField()->reset();
     if (!network->objects().empty())
         showObject(QString::fromStdString(network->objects().front()->Name()));
+    choosePool(poolName);
+    showObject(shownName);
     emit networkOpened();
 }
 

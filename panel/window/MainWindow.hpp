@@ -9,9 +9,11 @@
 #include <panel/window/HelpDock.hpp>
 #include <panel/window/HistoryDock.hpp>
 #include <panel/window/MessageDock.hpp>
+#include <panel/window/ObjectCommands.hpp>
 #include <panel/window/ObjectList.hpp>
 #include <panel/window/PluginMenu.hpp>
 #include <panel/window/PoolToolBar.hpp>
+#include <panel/window/PresetMenu.hpp>
 #include <panel/window/ViewMenu.hpp>
 #include <panel/window/ViewStack.hpp>
 #include <parameters/commands/ParameterCommands.hpp>
@@ -58,9 +60,13 @@ public:
     void setRawValuesShown(bool shown) { viewMenu_->rawValuesAction()->setChecked(shown); }
     void setAdvancedShown(bool shown) { viewMenu_->advancedAction()->setChecked(shown); }
     bool advancedShown() const { return viewMenu_->advancedAction()->isChecked(); }
+    /// Colours and sizes of texts.
+    LookMenu& look() const { return viewMenu_->look(); }
     bool rawValuesShown() const { return viewMenu_->rawValuesAction()->isChecked(); }
     /// Shows the parameters that these words find (ParameterFilter), and the objects that have some.
     void setFilter(QString const& words) { toolBar_->filterField()->setText(words); }
+    /// The network files that were open last.
+    RecentMenu& recentFiles() const { return fileMenu_->recent(); }
     /// From now on lines on standard output are messages, too.
     void tapStandardOutput() { messageDock_->tapStandardOutput(); }
 
@@ -110,6 +116,8 @@ protected:
 private:
     void makeDocks();
     void makeEditMenu();
+    /// Shows the commands for the chosen object at a place in the list.
+    void showObjectMenu(QPoint const& place);
     void connectParts();
 
     void showOpened(Talo::Network* network);
@@ -141,6 +149,8 @@ private:
 
     ObjectList* const objectList_;
     ViewStack* const views_;
+    ObjectCommands* const objectCommands_;
+    PresetMenu* const presetMenu_;
     MessageDock* const messageDock_;
     PoolToolBar* const toolBar_;
     NoticeBar* const noticeBar_;

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QStyle>
@@ -45,15 +46,7 @@ MessageList::MessageList(QWidget* parent) : QTreeWidget(parent) {
     setFrameShape(QFrame::NoFrame);
     setAccessibleName(tr("Messages"));
     setItemDelegate(new Talo::TextDirectionDelegate(this));
-    // Of fixed width: to measure all rows at each message costs more with each.
-    int const margin = 4 * style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 8;
-    header()->resizeSection(timeColumn, fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + margin);
-    auto bold = font();
-    bold.setBold(true);
-    int widest = 0;
-    for (auto const source : {Source::Panel, Source::Output, Source::Warning, Source::Error})
-        widest = qMax(widest, QFontMetrics(bold).horizontalAdvance(sourceName(source)));
-    header()->resizeSection(sourceColumn, widest + margin);
+    setColumnWidths();
 
     auto* const clearAction = new QAction(tr("Clear"), this);
     connect(clearAction, &QAction::triggered, this, &QTreeWidget::clear);
@@ -70,6 +63,37 @@ MessageList::MessageList(QWidget* parent) : QTreeWidget(parent) {
     connect(model(), &QAbstractItemModel::modelReset, this, [this] { countOutput(0); });
 }
 
+void MessageList::setColumnWidths() {
+    // Of fixed width: to measure all rows at each message costs more with each.
+    int const margin = 4 * style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 8;
+    header()->resizeSection(timeColumn, fontMetrics().horizontalAdvance(QStringLiteral("00:00:00")) + margin);
+    auto bold = font();
+    bold.setBold(true);
+    int widest = 0;
+    for (auto const source : {Source::Panel, Source::Output, Source::Warning, Source::Error})
+        widest = qMax(widest, QFontMetrics(bold).horizontalAdvance(sourceName(source)));
+    header()->resizeSection(sourceColumn, widest + margin);
+}
+
+void MessageList::setItemLook(QTreeWidgetItem& item) const {
+    item.setForeground(timeColumn, Talo::mutedText(palette()));
+    auto const source = static_cast<Source>(item.data(sourceColumn, sourceRole).toInt());
+    if (source != Source::Warning && source != Source::Error)
+        return;
+    auto bold = font();
+    bold.setBold(true);
+    item.setFont(sourceColumn, bold);
+}
+
+void MessageList::changeEvent(QEvent* event) {
+    QTreeWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange && event->type() != QEvent::FontChange)
+        return;
+    setColumnWidths();
+    for (int index = 0; index < topLevelItemCount(); ++index)
+        setItemLook(*topLevelItem(index));
+}
+
 MessageList::~MessageList() {
     // The base clears its model when there is no list of messages any more.
     model()->disconnect(this);
@@ -81,12 +105,7 @@ void MessageList::add(Source source, QString const& text) {
         new QTreeWidgetItem({QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), sourceName(source), text});
     item->setData(sourceColumn, sourceRole, static_cast<int>(source));
     item->setToolTip(textColumn, QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
-    item->setForeground(timeColumn, Talo::mutedText(palette()));
-    if (source == Source::Warning || source == Source::Error) {
-        auto font = this->font();
-        font.setBold(true);
-        item->setFont(sourceColumn, font);
-    }
+    setItemLook(*item);
     addTopLevelItem(item);
     if (source == Source::Output) {
         item->setHidden(!outputShown_);

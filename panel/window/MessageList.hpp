@@ -40,7 +40,13 @@ signals:
     /// There is another number of printed messages.
     void outputCounted(int count);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void setColumnWidths();
+    /// Colours and font of a message, which follow those of the list.
+    void setItemLook(QTreeWidgetItem& item) const;
     static bool isOutput(QTreeWidgetItem const& item);
     void countOutput(int count);
     void removeOldest();

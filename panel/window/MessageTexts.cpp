@@ -8,6 +8,9 @@ namespace Panel {
 
 namespace {
 
+// In characters; a menu that is wider than the screen cannot be used.
+constexpr int longestMenuText = 70;
+
 struct Texts {
     Q_DECLARE_TR_FUNCTIONS(MessageTexts)
 };
@@ -30,6 +33,11 @@ QString windowTitleFor(QString const& title, QString const& file) {
     if (name.isEmpty() || name == title)
         return Texts::tr("%1[*] – Talo panel").arg(title);
     return Texts::tr("%1[*] – %2 – Talo panel").arg(title, name);
+}
+
+QString menuText(QString const& text, QFontMetrics const& metrics) {
+    auto const width = longestMenuText * metrics.averageCharWidth();
+    return metrics.elidedText(text.simplified(), Qt::ElideMiddle, width).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 void showFailure(QWidget& window, QString const& title, QString const& reason) {

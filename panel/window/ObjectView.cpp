@@ -1,26 +1,22 @@
 #include <panel/window/ObjectView.hpp>
 
+#include <panel/look/TitleLabel.hpp>
 #include <parameters/rows/MutedLabel.hpp>
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace Panel {
 
 namespace {
 
+// Of the usual size.
+constexpr double titleScale = 1.3;
+
 QWidget* makeHeader(QString const& name, QString const& kind) {
     auto* const header = new QWidget;
     auto* const layout = new QHBoxLayout(header);
     layout->setContentsMargins(12, 8, 12, 4);
     layout->setSpacing(10);
-    auto* const title = new QLabel(name);
-    title->setTextFormat(Qt::PlainText);
-    auto font = title->font();
-    font.setBold(true);
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * 1.3);
-    title->setFont(font);
-    layout->addWidget(title);
+    layout->addWidget(new TitleLabel(name, titleScale));
     // Some objects have the name of their kind.
     auto* const kindLabel = new Talo::MutedLabel(kind == name ? QString() : kind);
     kindLabel->setTextFormat(Qt::PlainText);

@@ -1,12 +1,14 @@
 #include <panel/window/Session.hpp>
 
 #include <algorithm>
+#include <optional>
 #include <panel/window/MainWindow.hpp>
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDockWidget>
 #include <QEvent>
 #include <QSplitter>
+#include <utility>
 
 namespace Panel {
 
@@ -52,6 +54,23 @@ QMap<QString, QStringList> fromList(QStringList const& list) {
     return folded;
 }
 
+constexpr std::pair<Theme, char const*> themeKeys[] = {
+    {Theme::System, "system"}, {Theme::Light, "light"}, {Theme::Dark, "dark"}};
+
+QString keyOf(Theme theme) {
+    for (auto const& [each, key] : themeKeys)
+        if (each == theme)
+            return QLatin1String(key);
+    return {};
+}
+
+std::optional<Theme> themeOfKey(QString const& key) {
+    for (auto const& [theme, each] : themeKeys)
+        if (key == QLatin1String(each))
+            return theme;
+    return {};
+}
+
 QString shownObject(ObjectView const* view) {
     auto const object = view ? view->object() : nullptr;
     return object ? QString::fromStdString(object->Name()) : QString();
@@ -92,6 +111,11 @@ void Session::restoreWindow() {
     auto const order = settings_.value(QStringLiteral("window/objectOrder")).toByteArray();
     window_->objectList()->setOrder(ObjectModel::orderNamed(order));
     window_->setAdvancedShown(settings_.value(QStringLiteral("window/advanced"), false).toBool());
+    if (auto const found = themeOfKey(settings_.value(QStringLiteral("window/look")).toString()))
+        window_->look().chooseTheme(*found);
+    if (int const steps = settings_.value(QStringLiteral("window/textSize"), 0).toInt(); steps != 0)
+        window_->look().chooseTextSize(steps);
+    window_->recentFiles().addOlder(settings_.value(QStringLiteral("window/recent")).toStringList());
 }
 
 void Session::restoreNetwork() {
@@ -130,6 +154,9 @@ void Session::keep() {
     settings_.setValue(QStringLiteral("window/rawValues"), window_->rawValuesShown());
     settings_.setValue(QStringLiteral("window/advanced"), window_->advancedShown());
     settings_.setValue(QStringLiteral("window/objectOrder"), ObjectModel::nameOf(window_->objectList()->order()));
+    settings_.setValue(QStringLiteral("window/look"), keyOf(theme()));
+    settings_.setValue(QStringLiteral("window/textSize"), textSize());
+    settings_.setValue(QStringLiteral("window/recent"), window_->recentFiles().files());
     if (auto const* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         settings_.setValue(QStringLiteral("window/columns"), sealed(splitter->saveState()));
     if (window_->network()) {

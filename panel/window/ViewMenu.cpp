@@ -7,7 +7,8 @@ namespace Panel {
 ViewMenu::ViewMenu(ViewStack& views, QList<QAction*> const& parts, QWidget* parent)
     : QMenu(tr("&View"), parent),
       rawValues_(new QAction(tr("&Raw values"), this)),
-      advanced_(new QAction(tr("&Advanced parameters"), this)) {
+      advanced_(new QAction(tr("&Advanced parameters"), this)),
+      look_(new LookMenu(this)) {
     addAction(tr("&New view"), &views, &ViewStack::addView, QKeySequence(tr("Ctrl+N")));
     addSeparator();
     rawValues_->setObjectName(QStringLiteral("rawValues"));
@@ -24,6 +25,9 @@ ViewMenu::ViewMenu(ViewStack& views, QList<QAction*> const& parts, QWidget* pare
     addAction(tr("&Open all sections"), this, [&views] {
         views.foldAllSections(false);
     })->setObjectName(QStringLiteral("openAll"));
+    addSeparator();
+    addMenu(look_->colours());
+    addMenu(look_->textSizes());
     addSeparator();
     addActions(parts);
     connect(rawValues_, &QAction::toggled, &views, &ViewStack::setRawValuesShown);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <panel/window/LookMenu.hpp>
 #include <QMenu>
 
 namespace Panel {
@@ -20,9 +21,13 @@ public:
     /// Shows and hides the parameters that are shown on demand only; checkable.
     QAction* advancedAction() const { return advanced_; }
 
+    /// Colours and sizes of texts.
+    LookMenu& look() const { return *look_; }
+
 private:
     QAction* const rawValues_;
     QAction* const advanced_;
+    LookMenu* const look_;
 };
 
 } // namespace Panel

@@ -2,6 +2,7 @@
 
 #include <bramble/HarmlessText.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
+#include <QEvent>
 
 namespace Talo {
 
@@ -19,7 +20,15 @@ void HelpView::showHelp(Kolt::VParameter const& parameter) {
     auto const body = Kolt::isRichText(help)
                           ? QString::fromStdString(Kolt::harmlessText(help))
                           : description.help.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
-    setHtml(QStringLiteral("<h3>%1</h3>%2").arg(description.label.toHtmlEscaped(), body));
+    html_ = QStringLiteral("<h3>%1</h3>%2").arg(description.label.toHtmlEscaped(), body);
+    setHtml(html_);
+}
+
+void HelpView::changeEvent(QEvent* event) {
+    QTextBrowser::changeEvent(event);
+    // A document keeps the colours of the links that it was read with.
+    if (event->type() == QEvent::PaletteChange && !html_.isEmpty())
+        setHtml(html_);
 }
 
 QVariant HelpView::loadResource(int, QUrl const&) {

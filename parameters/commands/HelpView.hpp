@@ -22,6 +22,10 @@ public:
 protected:
     /// Loads nothing.
     QVariant loadResource(int type, QUrl const& name) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    QString html_;
 };
 
 } // namespace Talo

@@ -1,8 +1,10 @@
 #include <parameters/commands/ValueClipboard.hpp>
 
+#include <network/JsonNode.hpp>
 #include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 #include <optional>
+#include <parameters/commands/TypedJson.hpp>
 #include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -17,15 +19,6 @@ namespace {
 struct ClipboardTexts {
     Q_DECLARE_TR_FUNCTIONS(ValueClipboard)
 };
-
-/// What a parameter holds, as the value and the key of its type; empty for a type without a format.
-QJsonObject typedObject(Kolt::VParameter const& parameter, Kolt::ValuePtr const& held) {
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
-    auto const written = format ? format->write(held) : QJsonValue(QJsonValue::Undefined);
-    if (written.isUndefined())
-        return {};
-    return {{QStringLiteral("type"), QLatin1String(format->key)}, {QStringLiteral("value"), written}};
-}
 
 QByteArray compact(QJsonObject const& object) {
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
@@ -45,36 +38,14 @@ QStringList wordsOf(QMimeData const& data) {
     return data.text().split(QRegularExpression(QStringLiteral("[\\s,;]+")), Qt::SkipEmptyParts);
 }
 
-/// The typed value for a parameter that holds `held`; null, and the reason unless it is of another type, where there is
-/// none.
-Kolt::ValuePtr typedValue(QByteArray const& json, ValueFormat const& format, Kolt::ValuePtr const& held,
-                          QString& error) {
-    try {
-        auto const root = JsonNode::parse(json);
-        if (root.required("type", "a copied value").text("the type of a copied value") != QLatin1String(format.key))
-            return nullptr;
-        auto const* const entries = entriesOf(held);
-        auto const read =
-            format.read(root.required("value", "a copied value"), entries ? *entries : ValueFormat::Entries());
-        auto const value = held->clone();
-        if (offerSameChoices(held, read) && value->assign(*read))
-            return value;
-        error = ClipboardTexts::tr("it has other flags");
-    } catch (FormatError const& problem) {
-        error = problem.text;
-    }
-    return nullptr;
-}
-
 /// The value for a parameter: the typed one, if there is one, else the one that the text is.
 ValueClipboard::Pasted pasted(QByteArray const& typed, std::optional<QString> const& text,
                               Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
     auto const name = QString::fromStdString(parameter.Name());
     auto const* const format = ValueFormat::ofType(parameter.declaredType());
-    auto const held = Kolt::copyEffectiveValue(parameter, pool).value;
-    QString reason;
     if (format && !typed.isEmpty()) {
-        if (auto const value = typedValue(typed, *format, held, reason))
+        auto const [value, reason] = valueFromTypedJson(typed, parameter, pool);
+        if (value)
             return {value, QString()};
         if (!reason.isEmpty())
             return {nullptr, ClipboardTexts::tr("The copied value does not fit %1: %2.").arg(name, reason)};
@@ -100,7 +71,7 @@ std::unique_ptr<QMimeData> ValueClipboard::copy(Kolt::VParameter const& paramete
     auto data = std::make_unique<QMimeData>();
     auto const held = Kolt::copyEffectiveValue(parameter, pool).value;
     data->setText(QString::fromStdString(held->Text()));
-    auto const typed = typedObject(parameter, held);
+    auto const typed = typedJson(parameter, pool);
     if (!typed.isEmpty())
         data->setData(mimeType(), compact(typed));
     return data;
@@ -120,7 +91,7 @@ std::unique_ptr<QMimeData> ValueClipboard::copyAll(std::vector<Kolt::ParameterPt
     for (auto const& parameter : parameters) {
         auto const held = Kolt::copyEffectiveValue(*parameter, pool).value;
         texts << QString::fromStdString(held->Text());
-        values << typedObject(*parameter, held);
+        values << typedJson(*parameter, pool);
     }
     data->setText(texts.join(QLatin1Char(' ')));
     data->setData(mimeType(), compact({{QStringLiteral("values"), values}}));

@@ -1,6 +1,7 @@
 #include <parameters/input/GestureWatcher.hpp>
 
 #include <parameters/input/GestureTarget.hpp>
+#include <QAbstractSlider>
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
@@ -116,10 +117,16 @@ void GestureWatcher::endLater() {
 }
 
 bool GestureWatcher::filter(QWidget& widget, QEvent& event) {
+    if (swallowMouse(event) || filterDragKey(event))
+        return true;
     switch (event.type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         press(&widget);
+        noteMouse(widget, static_cast<QMouseEvent&>(event));
+        break;
+    case QEvent::MouseMove:
+        noteMouse(widget, static_cast<QMouseEvent&>(event));
         break;
     case QEvent::MouseButtonRelease:
         if (kind_ == Kind::Mouse && static_cast<QMouseEvent*>(&event)->buttons() == Qt::NoButton)
@@ -163,6 +170,56 @@ void GestureWatcher::press(QWidget* widget) {
                         textFieldOf(widget) == target_ && widget->window() == target_->window();
     if (!inText)
         begin(Kind::Mouse, widget);
+}
+
+void GestureWatcher::noteMouse(QWidget const& widget, QMouseEvent const& event) {
+    if (kind_ != Kind::Mouse || target_ != &widget)
+        return;
+    place_ = event.pos();
+    if (event.type() != QEvent::MouseMove)
+        button_ = event.button();
+}
+
+bool GestureWatcher::isDrag() const {
+    // The right button opens a menu, which Escape closes.
+    return kind_ == Kind::Mouse && !ending_ && button_ != Qt::RightButton && qobject_cast<QAbstractSlider*>(target_);
+}
+
+bool GestureWatcher::filterDragKey(QEvent& event) {
+    bool const isPress = event.type() == QEvent::KeyPress;
+    // Escape is the shortcut of other commands as well.
+    bool const isOverride = event.type() == QEvent::ShortcutOverride;
+    if ((!isPress && !isOverride) || static_cast<QKeyEvent&>(event).key() != Qt::Key_Escape || !isDrag())
+        return false;
+    event.accept();
+    if (isPress)
+        cancelDrag();
+    return true;
+}
+
+void GestureWatcher::cancelDrag() {
+    auto const history = history_;
+    // The control moves with the mouse until it sees a release, which may change the value once more.
+    QMouseEvent release(QEvent::MouseButtonRelease, place_, target_->mapToGlobal(place_), button_, Qt::NoButton,
+                        Qt::NoModifier);
+    QApplication::sendEvent(target_, &release);
+    swallowsMouse_ = true;
+    if (auto const living = history.strong())
+        living->cancelStep();
+    end();
+}
+
+bool GestureWatcher::swallowMouse(QEvent const& event) {
+    auto const type = event.type();
+    bool const isPress = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    if (!swallowsMouse_ || (!isPress && type != QEvent::MouseMove && type != QEvent::MouseButtonRelease))
+        return false;
+    auto const& mouse = static_cast<QMouseEvent const&>(event);
+    bool const isLast = type == QEvent::MouseButtonRelease && mouse.buttons() == Qt::NoButton;
+    // The release may have gone to another program.
+    bool const isNew = isPress ? mouse.buttons() == mouse.button() : !isLast && mouse.buttons() == Qt::NoButton;
+    swallowsMouse_ = !isLast && !isNew;
+    return !isNew;
 }
 
 void GestureWatcher::keyPress(QWidget* widget, QKeyEvent const& event) {

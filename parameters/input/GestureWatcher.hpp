@@ -3,6 +3,7 @@
 #include <lattice/UndoHistory.hpp>
 #include <optional>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -20,6 +21,9 @@ namespace Talo {
 ///   elsewhere.
 /// Only what happens in a GestureTarget counts, its popups and dialogs included. InputFilter owns the one watcher and
 /// passes it the events of the whole application. User-interface thread.
+///
+/// Escape during a drag of a slider, a dial or a scroll bar takes back what the drag has changed and makes no step.
+/// What follows until all buttons are released does nothing.
 ///
 /// In a text field of a target the keys for undo and redo belong to the history; the field itself only undoes a text
 /// that was typed and is not written yet.
@@ -48,6 +52,16 @@ private:
     void keyRelease(QKeyEvent const& event);
     void type(QWidget* field);
     void turnWheel(QWidget* widget);
+    /// Remembers where the mouse is in the target, and which button was pressed.
+    void noteMouse(QWidget const& widget, QMouseEvent const& event);
+    /// Whether a drag goes on that Escape can take back.
+    bool isDrag() const;
+    /// Sees the keys for a drag; true if the event ends here.
+    bool filterDragKey(QEvent& event);
+    /// Lets the dragged control go and takes back what it has changed.
+    void cancelDrag();
+    /// After a cancelled drag: true for what the mouse does until all buttons are released.
+    bool swallowMouse(QEvent const& event);
     bool overrideShortcut(QWidget* widget, QKeyEvent* event);
     void begin(Kind kind, QWidget* target);
     /// Ends the gesture after the current event was delivered.
@@ -60,6 +74,11 @@ private:
     std::optional<Kolt::UndoHistory::Macro> macro_;
     int key_ = 0;
     bool ending_ = false;
+    // A drag was taken back, and its button is still pressed.
+    bool swallowsMouse_ = false;
+    // Where the mouse was in the target, and the button of the gesture.
+    QPoint place_;
+    Qt::MouseButton button_ = Qt::NoButton;
     // Distinguishes the gestures.
     unsigned number_ = 0;
     QTimer wheelTimer_;

@@ -3,6 +3,7 @@
 #include <parameters/input/EditorToolTip.hpp>
 #include <parameters/input/FileDialogHelp.hpp>
 #include <parameters/input/FocusDisplay.hpp>
+#include <parameters/input/LinkColour.hpp>
 #include <parameters/input/WheelGuard.hpp>
 #include <QCoreApplication>
 #include <QEvent>
@@ -31,6 +32,7 @@ bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
     auto* const widget = static_cast<QWidget*>(watched);
     helpFileDialog(*widget, *event);
     displayFocus(*widget, *event);
+    followLinkColour(*widget, *event);
     // A guarded wheel changes nothing, so it begins no gesture.
     return WheelGuard::filter(*widget, *event) || showEditorToolTip(*widget, *event) ||
            gestures_.filter(*widget, *event);

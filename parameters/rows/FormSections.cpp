@@ -31,6 +31,8 @@ SectionBox* FormSections::box(std::size_t section) {
     made = new SectionBox(title, &content_);
     made->setFolded(layout_.isFolded(section));
     connect(made, &SectionBox::foldRequested, this, [this, title](bool folded) { fold(title, folded); });
+    connect(made, &SectionBox::menuRequested, this,
+            [this, title](QPoint const& place) { emit menuRequested(title, place); });
     // The form watches what is added to its content.
     made->installEventFilter(parent());
     made->show();

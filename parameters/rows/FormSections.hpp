@@ -43,6 +43,8 @@ public:
 signals:
     /// A user folded or opened sections.
     void foldChanged();
+    /// A menu for the section with this title is wanted at this place of the screen.
+    void menuRequested(QString const& title, QPoint const& place);
 
 private:
     void updateLayout();

@@ -1,7 +1,5 @@
 #include <parameters/rows/MutedLabel.hpp>
 
-#include <QApplication>
-#include <QEvent>
 #include <QStyle>
 
 namespace Talo {
@@ -14,21 +12,16 @@ QColor mutedText(QPalette const& palette) {
             between(text.blue(), ground.blue())};
 }
 
-MutedLabel::MutedLabel(QString const& text, QWidget* parent) : QLabel(text, parent) {
+MutedLabel::MutedLabel(QString const& text, QWidget* parent) : QLabel(text, parent), look_(new ParentLook(*this)) {
+    connect(look_, &ParentLook::changed, this, &MutedLabel::updateColour);
     updateColour();
 }
 
 MutedLabel::~MutedLabel() = default;
 
-void MutedLabel::changeEvent(QEvent* event) {
-    QLabel::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ParentChange)
-        updateColour();
-}
-
 void MutedLabel::updateColour() {
     // The label's own text colour is the muted one already, so the parent's palette is asked.
-    auto const colour = mutedText(parentWidget() ? parentWidget()->palette() : QApplication::palette(this));
+    auto const colour = mutedText(look_->palette());
     auto muted = palette();
     if (muted.color(QPalette::Active, QPalette::WindowText) == colour)
         return;

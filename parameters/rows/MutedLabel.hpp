@@ -1,5 +1,6 @@
 #pragma once
 
+#include <parameters/rows/ParentLook.hpp>
 #include <QColor>
 #include <QLabel>
 #include <tessera/Export.hpp>
@@ -19,11 +20,13 @@ public:
     explicit MutedLabel(QString const& text = {}, QWidget* parent = nullptr);
     ~MutedLabel() override;
 
-protected:
-    void changeEvent(QEvent* event) override;
+    /// What the label looks like by its parent.
+    ParentLook const& parentLook() const { return *look_; }
 
 private:
     void updateColour();
+
+    ParentLook* const look_;
 };
 
 /// Aligns a label's text to the side where lines begin in the layout. A label by itself follows the script of its text,

@@ -55,8 +55,8 @@ void RowArea::addEntries(FormPlan const& plan) {
     }
     vectors_.setVectors(plan.vectors);
     sections_ = new FormSections(*content_, layout_, plan.sectionTitles, this);
-    // Most labels are narrower than the one with the most letters; a row that needs more widens the column.
-    nameWidth_ = fontMetrics().horizontalAdvance(plan.longestLabel);
+    longestLabel_ = plan.longestLabel;
+    estimateNameWidth();
 }
 
 RowArea::~RowArea() = default;
@@ -355,6 +355,7 @@ void RowArea::changeEvent(QEvent* event) {
     if (event->type() != QEvent::StyleChange && event->type() != QEvent::FontChange)
         return;
     layout_.forgetEstimates();
+    estimateNameWidth();
     sections_->measure();
     measureAll();
 }

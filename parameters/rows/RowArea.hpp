@@ -57,6 +57,8 @@ public:
     void setRawValuesShown(bool shown);
     /// Hides the parameters for which the predicate does not hold; an empty one shows all. The scroll position stays.
     void setFilter(std::function<bool(Kolt::VParameter const&)> const& filter);
+    /// The boxes around the rows.
+    FormSections* sections() const { return sections_; }
     /// The titles of the folded sections.
     QStringList foldedSections() const { return sections_->folded(); }
     /// Folds the sections with these titles and opens the others.
@@ -116,6 +118,8 @@ private:
     int rowWidth() const;
     /// The width of the column of names, which leaves more than half of a row to the editors.
     int nameColumn() const { return qMin(nameWidth_, rowWidth() * 2 / 5); }
+    /// Most labels are narrower than the one with the most letters; a row that needs more widens the column.
+    void estimateNameWidth() { nameWidth_ = fontMetrics().horizontalAdvance(longestLabel_); }
     void make(Entry& entry);
     void emitEditorOpened(Entry const& entry);
     void measure(std::size_t place);
@@ -144,7 +148,8 @@ private:
     FormSections* sections_ = nullptr;
     // The numbers of the entries that have a row.
     std::set<std::size_t> made_;
-    // It only ever grows, so that the editors stay in their place when another pool is chosen.
+    QString longestLabel_;
+    // In one font it only ever grows, so that the editors stay in their place when another pool is chosen.
     int nameWidth_ = 0;
     std::function<bool(Kolt::VParameter const&)> isEnabled_;
     std::function<std::vector<SharedParameter>(Kolt::VParameter const&)> othersOf_;

@@ -1,5 +1,6 @@
 #include <parameters/rows/SectionBox.hpp>
 
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QStyleOptionGroupBox>
 #include <QStylePainter>
@@ -63,6 +64,13 @@ void SectionBox::mouseReleaseEvent(QMouseEvent* event) {
     event->setAccepted(isClick);
     if (isClick)
         emit foldRequested(!isFolded_);
+}
+
+void SectionBox::contextMenuEvent(QContextMenuEvent* event) {
+    bool const isForSection = isOnTitle(event->pos());
+    event->setAccepted(isForSection);
+    if (isForSection)
+        emit menuRequested(event->globalPos());
 }
 
 } // namespace Talo

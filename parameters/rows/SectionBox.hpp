@@ -25,11 +25,14 @@ public:
 signals:
     /// The title was clicked.
     void foldRequested(bool folded);
+    /// A menu for the section is wanted at this place of the screen.
+    void menuRequested(QPoint const& place);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     bool isOnTitle(QPoint const& place) const;

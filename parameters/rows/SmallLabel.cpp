@@ -14,10 +14,9 @@ constexpr double smallFont = 0.85;
 SmallLabel::SmallLabel(QWidget* parent) : MutedLabel(QString(), parent) {
     setTextFormat(Qt::PlainText);
     alignWithLayout(*this);
-    auto font = this->font();
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * smallFont);
-    setFont(font);
+    auto const follow = [this] { setFont(parentLook().scaledFont(smallFont)); };
+    connect(&parentLook(), &ParentLook::changed, this, follow);
+    follow();
 }
 
 SmallLabel::~SmallLabel() = default;

@@ -93,6 +93,9 @@ bool SwatchExtension::eventFilter(QObject* watched, QEvent* event) {
     // A window that is only minimized hides the swatch, too, but then the event is spontaneous.
     if (event->type() == QEvent::Hide && !event->spontaneous())
         dialog_.hide();
+    // A colour may be transparent, and what is behind it has another colour now.
+    if (event->type() == QEvent::PaletteChange)
+        showText();
     // The swatch opens its dialog whichever button is pressed.
     return event->type() == QEvent::MouseButtonPress && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton;
 }

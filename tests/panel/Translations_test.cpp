@@ -100,7 +100,7 @@ TEST_F(TranslationsTest, EachMenuHasAKeyOfItsOwnForEachCommand) {
                 commands << command->text();
             expectDifferentKeys(commands);
         }
-        EXPECT_EQ(bar.size(), 4);
+        EXPECT_EQ(bar.size(), 5);
         for (auto const* const label : window->findChildren<QLabel*>())
             if (label->buddy() && !Talo::ParameterRow::rowOf(label->buddy()))
                 bar << label->text();

@@ -243,4 +243,37 @@ TEST_F(Undo, KnowsTheLivingHistories) {
     EXPECT_TRUE(any);
 }
 
+TEST_F(Undo, TheStepOfAnOpenMacroCanBeCancelled) {
+    Kolt::ParameterPtr const parameter(new Kolt::VParameter("p", Kolt::makeValue(1)));
+    auto const store = [&](int value) { return history_.store(parameter, nullptr, {Kolt::makeValue(value), false}); };
+    ASSERT_TRUE(store(2));
+    ASSERT_TRUE(history_.undo());
+    history_.beginMacro();
+    EXPECT_FALSE(history_.cancelStep()) << "nothing changed yet";
+    ASSERT_TRUE(store(3));
+    ASSERT_TRUE(store(4));
+    EXPECT_TRUE(history_.cancelStep());
+    EXPECT_EQ(parameter->ownValue()->Text(), "1");
+    EXPECT_THAT(history_.steps(), IsEmpty());
+    ASSERT_TRUE(store(5));
+    history_.endMacro();
+    EXPECT_THAT(names(), ElementsAre("p: 1 → 5"));
+    EXPECT_TRUE(history_.undo());
+    EXPECT_FALSE(history_.cancelStep()) << "no macro is open";
+}
+
+TEST_F(Undo, ACancelledStepLeavesWhatCanBeRedone) {
+    Kolt::ParameterPtr const parameter(new Kolt::VParameter("p", Kolt::makeValue(1)));
+    ASSERT_TRUE(history_.store(parameter, nullptr, {Kolt::makeValue(2), false}));
+    ASSERT_TRUE(history_.undo());
+    {
+        UndoHistory::Macro const macro(history_);
+        ASSERT_TRUE(history_.store(parameter, nullptr, {Kolt::makeValue(3), false}));
+        EXPECT_THAT(history_.undoneSteps(), IsEmpty());
+        EXPECT_TRUE(history_.cancelStep());
+    }
+    EXPECT_TRUE(history_.redo());
+    EXPECT_EQ(parameter->ownValue()->Text(), "2");
+}
+
 } // namespace
