@@ -1,5 +1,6 @@
 #include <panel/window/ViewMenu.hpp>
 
+#include <panel/window/ViewPoolMenu.hpp>
 #include <panel/window/ViewStack.hpp>
 
 namespace Panel {
@@ -9,6 +10,7 @@ ViewMenu::ViewMenu(ViewStack& views, QList<QAction*> const& parts, QWidget* pare
       rawValues_(new QAction(tr("&Raw values"), this)),
       advanced_(new QAction(tr("&Advanced parameters"), this)) {
     addAction(tr("&New view"), &views, &ViewStack::addView, QKeySequence(tr("Ctrl+N")));
+    addMenu(new ViewPoolMenu(views, this));
     addSeparator();
     rawValues_->setObjectName(QStringLiteral("rawValues"));
     rawValues_->setCheckable(true);
