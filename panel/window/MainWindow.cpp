@@ -8,6 +8,7 @@
 #include <panel/window/MessageTexts.hpp>
 #include <panel/window/ObjectColumn.hpp>
 #include <parameters/input/FileDialogHelp.hpp>
+#include <parameters/rows/ParameterDescription.hpp>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
@@ -48,10 +49,12 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
       pluginMenu_(new PluginMenu(plugins, *this)),
       historyDock_(new HistoryDock(document_.history())),
       helpDock_(new HelpDock),
-      viewMenu_(new ViewMenu(*views_,
-                             {messageDock_->toggleViewAction(), historyDock_->toggleViewAction(),
-                              helpDock_->toggleViewAction(), fractal_->previewAction()},
-                             this)) {
+      comparisonDock_(new ComparisonDock),
+      viewMenu_(
+          new ViewMenu(*views_,
+                       {messageDock_->toggleViewAction(), historyDock_->toggleViewAction(),
+                        helpDock_->toggleViewAction(), comparisonDock_->toggleViewAction(), fractal_->previewAction()},
+                       this)) {
     setCentralWidget(new Centre(noticeBar_, new ObjectColumn(objectList_), views_));
     makeDocks();
     addToolBar(toolBar_);
@@ -81,6 +84,7 @@ void MainWindow::makeDocks() {
     previewShare_ = new DockShare(*this, *fractal_->dock(), previewShare, leastRest);
     addDockWidget(trailingDockArea(layoutDirection()), historyDock_);
     addDockWidget(trailingDockArea(layoutDirection()), helpDock_);
+    tabifyDockWidget(messageDock_, comparisonDock_);
     statusBar()->addPermanentWidget(fractal_->progressWidget());
     statusBar()->addPermanentWidget(pluginMenu_->statusLabel());
 }
@@ -124,6 +128,8 @@ void MainWindow::connectParts() {
     connect(&undoActions_, &Talo::UndoActions::refused, this,
             [this](QString const& reason) { messages()->add(MessageList::Source::Error, reason); });
     connect(&undoActions_, &Talo::UndoActions::restored, this, &MainWindow::showChange);
+    connect(&undoActions_, &Talo::UndoActions::historyChanged, comparisonDock_->view(), &ComparisonView::compareLater);
+    connect(comparisonDock_->view(), &ComparisonView::parameterChosen, this, &MainWindow::revealParameter);
     connect(historyDock_->view(), &Talo::HistoryView::stateChosen, &undoActions_, &Talo::UndoActions::goToState);
     connect(views_, &ViewStack::editorOpened, fractal_.get(), &Fractal::FractalController::followLinks);
     connect(views_, &ViewStack::refused, this, &MainWindow::showRefusal);
@@ -166,6 +172,7 @@ void MainWindow::showOpened(Talo::Network* network) {
     auto const poolName = isSameFile && pools_.pool() ? QString::fromStdString(pools_.pool()->Name()) : QString();
     views_->closeViews();
     objectList_->showNetwork(nullptr);
+    comparisonDock_->view()->showNetwork(nullptr);
     fractal_->showNetwork(nullptr, nullptr);
     // The old steps are about parameters that are deleted now.
     commitPendingEdit();
@@ -173,6 +180,8 @@ void MainWindow::showOpened(Talo::Network* network) {
     undoActions_.setNaming(document_.naming());
     historyDock_->view()->setNaming(document_.naming());
     toolBar_->showPools(*network);
+    views_->setPools(network->pools());
+    comparisonDock_->view()->showNetwork(network);
     pools_.setPool(network->pools().front());
     showTitle();
     fractal_->showNetwork(network, pools_.pool());
@@ -255,11 +264,28 @@ void MainWindow::showChange(Kolt::UndoStep const& step) {
     auto const name = parameter ? network()->nameOf(parameter).section(QLatin1Char('.'), 0, 0) : QString();
     if (name.isEmpty())
         return;
-    auto const object = network()->findObject(name);
-    if (!views_->visibleView(object))
-        showObject(name);
-    if (auto const* const view = views_->visibleView(object))
-        view->panel()->rowArea()->showRow(QString::fromStdString(parameter->Name()));
+    showParameter(name, QString::fromStdString(parameter->Name()));
+}
+
+void MainWindow::showParameter(QString const& object, QString const& parameter) {
+    auto const shown = network()->findObject(object);
+    if (!views_->visibleView(shown))
+        showObject(object);
+    if (auto const* const view = views_->visibleView(shown))
+        view->panel()->rowArea()->showRow(parameter);
+}
+
+void MainWindow::revealParameter(QString const& object, QString const& parameter) {
+    showParameter(object, parameter);
+    auto const* const view = views_->visibleView(network()->findObject(object));
+    auto const* const row = view ? view->row(parameter) : nullptr;
+    if (!row || row->isVisible())
+        return;
+    toolBar_->filterField()->reset();
+    if (Talo::isAdvanced(*network()->findObject(object)->findParameter(parameter.toStdString())))
+        setAdvancedShown(true);
+    view->panel()->rowArea()->foldAllSections(false);
+    view->panel()->rowArea()->showRow(parameter);
 }
 
 void MainWindow::showRefusal(QString const& reason) {

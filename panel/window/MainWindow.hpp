@@ -2,6 +2,7 @@
 
 #include <fractal/ui/FractalController.hpp>
 #include <memory>
+#include <panel/window/ComparisonDock.hpp>
 #include <panel/window/DockShare.hpp>
 #include <panel/window/Document.hpp>
 #include <panel/window/FileMenu.hpp>
@@ -128,6 +129,10 @@ private:
     void closeEditors();
     void openEditors();
     void showTitle();
+    /// Scrolls to a parameter in a view of its object.
+    void showParameter(QString const& object, QString const& parameter);
+    /// Does so for a person who asks for it: ends the filter and unfolds, if the row is hidden by them.
+    void revealParameter(QString const& object, QString const& parameter);
     /// Shows the first parameter that a step changed, in a view of its object.
     void showChange(Kolt::UndoStep const& step);
     /// Reports a failure, if there is a reason for one; says whether there is none.
@@ -159,6 +164,7 @@ private:
     PluginMenu* const pluginMenu_;
     HistoryDock* const historyDock_;
     HelpDock* const helpDock_;
+    ComparisonDock* const comparisonDock_;
     DockShare* previewShare_ = nullptr;
     ViewMenu* const viewMenu_;
 };

@@ -7,11 +7,9 @@
 
 namespace Panel {
 
-ObjectColumn::ObjectColumn(ObjectList* list, QWidget* parent) : QWidget(parent), list_(list), button_(new QToolButton) {
+ObjectColumn::ObjectColumn(ObjectList* list, QWidget* parent) : QWidget(parent), list_(list), button_(new QPushButton) {
     button_->setObjectName(QStringLiteral("objectOrder"));
-    button_->setAutoRaise(true);
-    button_->setPopupMode(QToolButton::InstantPopup);
-    button_->setFocusPolicy(Qt::TabFocus);
+    button_->setFlat(true);
     button_->setAccessibleName(tr("Order of the objects"));
     button_->setToolTip(tr("The order in which the objects are listed"));
     auto* const menu = new QMenu(button_);

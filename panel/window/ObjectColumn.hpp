@@ -1,7 +1,7 @@
 #pragma once
 
 #include <panel/window/ObjectModel.hpp>
-#include <QToolButton>
+#include <QPushButton>
 
 namespace Panel {
 
@@ -21,7 +21,7 @@ private:
     void showOrder(ObjectModel::Order order);
 
     ObjectList* const list_;
-    QToolButton* const button_;
+    QPushButton* const button_;
 };
 
 } // namespace Panel

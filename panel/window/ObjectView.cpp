@@ -13,8 +13,13 @@ constexpr double titleScale = 1.3;
 
 QWidget* makeHeader(QString const& name, QString const& kind) {
     auto* const header = new QWidget;
-    auto* const layout = new QHBoxLayout(header);
-    layout->setContentsMargins(12, 8, 12, 4);
+    auto* const line = new QHBoxLayout(header);
+    line->setContentsMargins(12, 8, 12, 4);
+    // Of their own, so that both texts stand on one line beside a higher widget.
+    auto* const texts = new QWidget;
+    line->addWidget(texts, 1, Qt::AlignVCenter);
+    auto* const layout = new QHBoxLayout(texts);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(10);
     layout->addWidget(new TitleLabel(name, titleScale));
     // Some objects have the name of their kind.
@@ -29,14 +34,21 @@ QWidget* makeHeader(QString const& name, QString const& kind) {
 
 ObjectView::ObjectView(Kolt::ObjectPtr const& object, QString const& kind, Kolt::ValuePoolSource& pools,
                        QWidget* parent)
-    : QWidget(parent), kind_(kind), panel_(new Talo::ParameterPanel(object, pools)) {
+    : QWidget(parent),
+      kind_(kind),
+      head_(makeHeader(QString::fromStdString(object->Name()), kind)),
+      panel_(new Talo::ParameterPanel(object, pools)) {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(makeHeader(QString::fromStdString(object->Name()), kind));
+    layout->addWidget(head_);
     layout->addWidget(panel_, 1);
 }
 
 ObjectView::~ObjectView() = default;
+
+void ObjectView::addToHead(QWidget* widget) {
+    static_cast<QHBoxLayout*>(head_->layout())->addWidget(widget);
+}
 
 } // namespace Panel

@@ -27,8 +27,12 @@ public:
     /// The row of a parameter by its whole name, made if it does not exist; null if there is no such parameter.
     Talo::ParameterRow* row(QString const& parameterName) const { return panel_->rowArea()->row(parameterName); }
 
+    /// Puts a widget at the end of the line above the parameters; the view takes it over.
+    void addToHead(QWidget* widget);
+
 private:
     QString const kind_;
+    QWidget* const head_;
     Talo::ParameterPanel* const panel_;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <panel/window/MainWindow.hpp>
+#include <panel/window/ViewDock.hpp>
 #include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDockWidget>
@@ -131,10 +132,9 @@ void Session::restoreNetwork() {
         window_->views().setFoldedSections(found->folded);
         auto const first = shownObject(window_->currentView());
         auto const views = found->views.mid(0, mostViews);
-        for (auto const& view : views) {
-            if (window_->showObject(view))
-                window_->addView();
-        }
+        for (int index = 0; index < views.size(); ++index)
+            if (window_->showObject(views.at(index)))
+                window_->views().addViewOn(window_->network()->findPool(found->viewPools.value(index)));
         if (!window_->showObject(found->object))
             window_->showObject(first);
         window_->objectList()->setFoldedKinds(found->foldedKinds);
@@ -162,7 +162,7 @@ void Session::keep() {
     if (window_->network()) {
         auto const pool = window_->pools().pool();
         keepNetwork({window_->document().path(), pool ? QString::fromStdString(pool->Name()) : QString(),
-                     shownObject(window_->currentView()), views, docks, window_->views().foldedSections(),
+                     shownObject(window_->currentView()), views, viewPools(), docks, window_->views().foldedSections(),
                      window_->objectList()->foldedKinds()});
     }
     settings_.sync();
@@ -184,6 +184,7 @@ void Session::keepNetwork(NetworkRecord const& network) {
         settings_.setValue(QStringLiteral("pool"), record.pool);
         settings_.setValue(QStringLiteral("object"), record.object);
         settings_.setValue(QStringLiteral("views"), record.views);
+        settings_.setValue(QStringLiteral("viewPools"), record.viewPools);
         settings_.setValue(QStringLiteral("docks"), sealed(record.docks));
         settings_.setValue(QStringLiteral("folded"), toList(record.folded));
         settings_.setValue(QStringLiteral("foldedKinds"), record.foldedKinds);
@@ -200,6 +201,7 @@ std::vector<Session::NetworkRecord> Session::networks() {
                        settings_.value(QStringLiteral("pool")).toString(),
                        settings_.value(QStringLiteral("object")).toString(),
                        settings_.value(QStringLiteral("views")).toStringList(),
+                       settings_.value(QStringLiteral("viewPools")).toStringList(),
                        unsealed(settings_.value(QStringLiteral("docks"))),
                        fromList(settings_.value(QStringLiteral("folded")).toStringList()),
                        settings_.value(QStringLiteral("foldedKinds")).toStringList()});
@@ -224,6 +226,14 @@ QStringList Session::nameViewDocks() const {
         dock->setObjectName(QStringLiteral("view%1").arg(objects.size()));
     }
     return objects;
+}
+
+QStringList Session::viewPools() const {
+    QStringList pools;
+    auto const docks = window_->findChildren<ViewDock*>(QString(), Qt::FindDirectChildrenOnly);
+    for (auto const* const dock : docks)
+        pools << (dock->ownPool() ? QString::fromStdString(dock->ownPool()->Name()) : QString());
+    return pools;
 }
 
 } // namespace Panel

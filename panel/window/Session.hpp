@@ -48,6 +48,8 @@ private:
         QString object;
         /// The objects of the further views.
         QStringList views;
+        /// The pool of each of them, empty for that of the window.
+        QStringList viewPools;
         QByteArray docks;
         /// The folded sections, by the names of their objects.
         QMap<QString, QStringList> folded;
@@ -62,6 +64,8 @@ private:
     std::vector<NetworkRecord> networks();
     /// Names the docks with further views, by which the window knows them again, and returns which objects they show.
     QStringList nameViewDocks() const;
+    /// The pools that they have as their own, in the same order.
+    QStringList viewPools() const;
 
     QSettings settings_;
     QPointer<MainWindow> window_;

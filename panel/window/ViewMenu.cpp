@@ -1,5 +1,6 @@
 #include <panel/window/ViewMenu.hpp>
 
+#include <panel/window/ViewPoolMenu.hpp>
 #include <panel/window/ViewStack.hpp>
 
 namespace Panel {
@@ -10,6 +11,7 @@ ViewMenu::ViewMenu(ViewStack& views, QList<QAction*> const& parts, QWidget* pare
       advanced_(new QAction(tr("&Advanced parameters"), this)),
       look_(new LookMenu(this)) {
     addAction(tr("&New view"), &views, &ViewStack::addView, QKeySequence(tr("Ctrl+N")));
+    addMenu(new ViewPoolMenu(views, this));
     addSeparator();
     rawValues_->setObjectName(QStringLiteral("rawValues"));
     rawValues_->setCheckable(true);

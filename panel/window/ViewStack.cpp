@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <panel/look/Look.hpp>
+#include <panel/window/ViewDock.hpp>
 #include <QCoreApplication>
 #include <QDockWidget>
 
@@ -52,7 +53,7 @@ void ViewStack::showObject(Kolt::ObjectPtr const& object, QString const& kind) {
         setCurrentWidget(known);
         return;
     }
-    auto* const view = makeView(object, kind, this);
+    auto* const view = makeView(object, kind, pools_, this);
     addWidget(view);
     setCurrentWidget(view);
     while (count() > keptViews) {
@@ -62,8 +63,9 @@ void ViewStack::showObject(Kolt::ObjectPtr const& object, QString const& kind) {
     }
 }
 
-ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& kind, QWidget* parent) {
-    auto* const view = new ObjectView(object, kind, pools_, parent);
+ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& kind, Kolt::ValuePoolSource& pools,
+                                QWidget* parent) {
+    auto* const view = new ObjectView(object, kind, pools, parent);
     auto* const panel = view->panel();
     panel->setRawValuesShown(rawValuesShown_);
     panel->setAdvancedShown(advancedShown_);
@@ -79,15 +81,15 @@ ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& ki
     return view;
 }
 
-ObjectView* ViewStack::addView() {
+ObjectView* ViewStack::addViewOn(Kolt::PoolPtr const& pool) {
     auto* const current = currentView();
     auto const object = current ? current->object() : nullptr;
     if (!object)
         return nullptr;
-    auto* const dock = new QDockWidget(QString::fromStdString(object->Name()), &window_);
-    dock->setAttribute(Qt::WA_DeleteOnClose);
-    auto* const view = makeView(object, current->kind(), dock);
-    dock->setWidget(view);
+    auto* const dock = new ViewDock(offeredPools_, pools_, &window_);
+    dock->setOwnPool(pool);
+    auto* const view = makeView(object, current->kind(), dock->pools(), dock);
+    dock->setView(view);
     placeBesideForm(*dock);
     return view;
 }
@@ -125,6 +127,7 @@ void ViewStack::placeBesideForm(QDockWidget& dock) {
 
 void ViewStack::closeViews() {
     folded_.clear();
+    offeredPools_.clear();
     for (auto* const view : views()) {
         auto* const dock = qobject_cast<QDockWidget*>(view->parentWidget());
         QWidget* const closed = dock ? dock : static_cast<QWidget*>(view);
@@ -183,8 +186,12 @@ void ViewStack::followFolding(ObjectView const& view) {
 }
 
 void ViewStack::showPool() {
-    for (auto* const view : views())
-        view->panel()->showPool();
+    for (auto* const view : views()) {
+        if (auto* const dock = qobject_cast<ViewDock*>(view->parentWidget()))
+            dock->followWindow();
+        else
+            view->panel()->showPool();
+    }
 }
 
 void ViewStack::showDefaults() {

@@ -28,7 +28,13 @@ public:
     /// Shows an object in the middle. `kind` says what the object is for.
     void showObject(Kolt::ObjectPtr const& object, QString const& kind);
     /// Shows the current object once more, in a dock of its own. Null if there is none.
-    ObjectView* addView();
+    ObjectView* addView() { return addViewOn(nullptr); }
+    /// Adds a view that has a pool of its own; null for the pool of the window. Null if no object is shown.
+    ObjectView* addViewOn(Kolt::PoolPtr const& pool);
+    /// The pools that views can have as their own.
+    std::vector<Kolt::PoolPtr> const& pools() const { return offeredPools_; }
+    /// Offers these pools to views that are added from now on.
+    void setPools(std::vector<Kolt::PoolPtr> const& pools) { offeredPools_ = pools; }
     /// Closes all views, docks included. They are deleted as soon as control returns to the event loop.
     void closeViews();
     /// Deletes all views at once, before what they show is deleted.
@@ -44,6 +50,7 @@ public:
     void setFoldedSections(QMap<QString, QStringList> const& folded);
     /// Folds or opens the sections of the current view.
     void foldAllSections(bool folded);
+    /// Shows the pool that was chosen in the window.
     void showPool();
     void showDefaults();
     void closeEditors();
@@ -62,10 +69,12 @@ private:
     /// Gives a new dock half of the form's room, or its share of what the docks beside it have. Where that is too
     /// little, it becomes a tab.
     void placeBesideForm(QDockWidget& dock);
-    ObjectView* makeView(Kolt::ObjectPtr const& object, QString const& kind, QWidget* parent);
+    ObjectView* makeView(Kolt::ObjectPtr const& object, QString const& kind, Kolt::ValuePoolSource& pools,
+                         QWidget* parent);
 
     Kolt::ValuePoolSource& pools_;
     QMainWindow& window_;
+    std::vector<Kolt::PoolPtr> offeredPools_;
     QString filter_;
     bool onlyChanged_ = false;
     bool rawValuesShown_ = false;

@@ -2,6 +2,7 @@
 
 #include <panel/window/Session.hpp>
 #include <QElapsedTimer>
+#include <QPushButton>
 #include <QSignalSpy>
 
 using testing::ElementsAre;
@@ -115,7 +116,7 @@ TEST_F(ObjectTreeTest, TheOrderIsChosenInAMenu) {
     EXPECT_EQ(list()->currentIndex(), index("wolf"));
     action("orderKind")->trigger();
     EXPECT_THAT(lines(), ElementsAre("zookeeper", "bird", "eagle", "duck 10", "Duck 9", "mammal", "wolf", "bear"));
-    auto const* const button = window->findChild<QToolButton*>(QStringLiteral("objectOrder"));
+    auto const* const button = window->findChild<QPushButton*>(QStringLiteral("objectOrder"));
     EXPECT_EQ(button->text(), QStringLiteral("By kind"));
     action("orderFile")->trigger();
     EXPECT_EQ(lines().front(), "mammal");
