@@ -6,6 +6,7 @@
 #include <parameters/commands/ParameterFilter.hpp>
 #include <parameters/commands/RowCommands.hpp>
 #include <parameters/commands/UndoActions.hpp>
+#include <parameters/EditorChoice.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/input/PendingEdit.hpp>
 #include <parameters/rows/ConditionWatcher.hpp>
@@ -247,6 +248,15 @@ QAction* ParameterPanel::action(Command command) {
         return d_->commandsOf(*this).action("showHelp");
     }
     return nullptr;
+}
+
+void ParameterPanel::setEditorChoice(EditorChoice* choice) {
+    if (auto* const old = EditorChoice::around(this))
+        disconnect(old, &EditorChoice::changed, d_->rows, nullptr);
+    EditorChoice::install(*this, choice);
+    if (choice)
+        connect(choice, &EditorChoice::changed, d_->rows, &RowArea::showPool);
+    d_->rows->showPool();
 }
 
 void ParameterPanel::setNaming(ParameterNaming naming) {

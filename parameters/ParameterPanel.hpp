@@ -10,6 +10,7 @@
 
 namespace Talo {
 
+class EditorChoice;
 class RowArea;
 
 /// Shows the parameters of one object with their editors. Editors come from the plug-ins that are loaded. Each gesture
@@ -50,6 +51,9 @@ public:
     /// belongs to the panel. ResetAll acts on all rows, the others but Undo and Redo on the row with the focus.
     /// The shortcuts work while the focus is in the panel.
     QAction* action(Command command);
+    /// Who edits which parameter, where a person chose; the context menu of a row then offers the choice. Not owned;
+    /// null for none, as at first.
+    void setEditorChoice(EditorChoice* choice);
     void setNaming(ParameterNaming naming); ///< how undo texts name parameters; empty: by their own names
 
     void commitPendingEdit(); ///< before saving: writes a typed text and ends the gesture that goes on

@@ -3,6 +3,7 @@
 #include <panel/look/Look.hpp>
 #include <panel/window/ActivationRepair.hpp>
 #include <panel/window/Centre.hpp>
+#include <panel/window/EditorsMenu.hpp>
 #include <panel/window/MessageTexts.hpp>
 #include <parameters/commands/ParameterFilter.hpp>
 #include <parameters/input/FileDialogHelp.hpp>
@@ -52,6 +53,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     addToolBar(toolBar_);
     menuBar()->addMenu(fileMenu_);
     makeEditMenu();
+    viewMenu_->addMenu(new EditorsMenu(views_->editorChoice(), commands_, viewMenu_));
     menuBar()->addMenu(viewMenu_);
     menuBar()->addMenu(pluginMenu_);
     connectParts();

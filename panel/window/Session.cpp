@@ -52,6 +52,21 @@ QMap<QString, QStringList> fromList(QStringList const& list) {
     return folded;
 }
 
+/// Each key and its value after it.
+QStringList toList(QMap<QString, QString> const& map) {
+    QStringList all;
+    for (auto each = map.begin(); each != map.end(); ++each)
+        all << each.key() << each.value();
+    return all;
+}
+
+QMap<QString, QString> pairsOf(QStringList const& list) {
+    QMap<QString, QString> map;
+    for (int index = 0; index + 1 < list.size(); index += 2)
+        map.insert(list.at(index), list.at(index + 1));
+    return map;
+}
+
 QString shownObject(ObjectView const* view) {
     auto const object = view ? view->object() : nullptr;
     return object ? QString::fromStdString(object->Name()) : QString();
@@ -89,6 +104,8 @@ void Session::restoreWindow() {
     if (auto* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         splitter->restoreState(unsealed(settings_.value(QStringLiteral("window/columns"))));
     window_->setRawValuesShown(settings_.value(QStringLiteral("window/rawValues"), false).toBool());
+    window_->views().editorChoice().setOfTypes(
+        pairsOf(settings_.value(QStringLiteral("window/editors")).toStringList()));
     window_->setAdvancedShown(settings_.value(QStringLiteral("window/advanced"), false).toBool());
 }
 
@@ -103,6 +120,7 @@ void Session::restoreNetwork() {
     if (found != known.end()) {
         window_->choosePool(found->pool);
         window_->views().setFoldedSections(found->folded);
+        window_->views().editorChoice().setOfParameters(found->editors);
         auto const first = shownObject(window_->currentView());
         auto const views = found->views.mid(0, mostViews);
         for (auto const& view : views) {
@@ -126,12 +144,14 @@ void Session::keep() {
     settings_.setValue(QStringLiteral("window/docks"), sealed(docks));
     settings_.setValue(QStringLiteral("window/rawValues"), window_->rawValuesShown());
     settings_.setValue(QStringLiteral("window/advanced"), window_->advancedShown());
+    settings_.setValue(QStringLiteral("window/editors"), toList(window_->views().editorChoice().ofTypes()));
     if (auto const* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         settings_.setValue(QStringLiteral("window/columns"), sealed(splitter->saveState()));
     if (window_->network()) {
         auto const pool = window_->pools().pool();
         keepNetwork({window_->document().path(), pool ? QString::fromStdString(pool->Name()) : QString(),
-                     shownObject(window_->currentView()), views, docks, window_->views().foldedSections()});
+                     shownObject(window_->currentView()), views, docks, window_->views().foldedSections(),
+                     window_->views().editorChoice().ofParameters()});
     }
     settings_.sync();
     if (settings_.status() == QSettings::AccessError)
@@ -154,6 +174,7 @@ void Session::keepNetwork(NetworkRecord const& network) {
         settings_.setValue(QStringLiteral("views"), record.views);
         settings_.setValue(QStringLiteral("docks"), sealed(record.docks));
         settings_.setValue(QStringLiteral("folded"), toList(record.folded));
+        settings_.setValue(QStringLiteral("editors"), toList(record.editors));
     }
     settings_.endArray();
 }
@@ -168,7 +189,8 @@ std::vector<Session::NetworkRecord> Session::networks() {
                        settings_.value(QStringLiteral("object")).toString(),
                        settings_.value(QStringLiteral("views")).toStringList(),
                        unsealed(settings_.value(QStringLiteral("docks"))),
-                       fromList(settings_.value(QStringLiteral("folded")).toStringList())});
+                       fromList(settings_.value(QStringLiteral("folded")).toStringList()),
+                       pairsOf(settings_.value(QStringLiteral("editors")).toStringList())});
     }
     settings_.endArray();
     return all;

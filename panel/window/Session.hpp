@@ -51,6 +51,8 @@ private:
         QByteArray docks;
         /// The folded sections, by the names of their objects.
         QMap<QString, QStringList> folded;
+        /// The chosen creators, by "object.parameter".
+        QMap<QString, QString> editors;
     };
 
     void restoreWindow();

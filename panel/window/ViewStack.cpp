@@ -65,6 +65,7 @@ void ViewStack::showObject(Kolt::ObjectPtr const& object, QString const& kind) {
 ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& kind, QWidget* parent) {
     auto* const view = new ObjectView(object, kind, pools_, parent);
     auto* const panel = view->panel();
+    panel->setEditorChoice(&editorChoice_);
     panel->setRawValuesShown(rawValuesShown_);
     panel->setAdvancedShown(advancedShown_);
     panel->setFilter(filter_);
@@ -131,6 +132,7 @@ void ViewStack::closeViews() {
             removeWidget(view);
         closed->deleteLater();
     }
+    editorChoice_.setOfParameters({});
 }
 
 void ViewStack::deleteViews() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <panel/window/ObjectView.hpp>
+#include <parameters/EditorChoice.hpp>
 #include <QMainWindow>
 #include <QMap>
 #include <QStackedWidget>
@@ -43,6 +44,8 @@ public:
     void setFoldedSections(QMap<QString, QStringList> const& folded);
     /// Folds or opens the sections of the current view.
     void foldAllSections(bool folded);
+    /// Who edits which parameter in all views. Closing the views ends the choices for single parameters.
+    Talo::EditorChoice& editorChoice() { return editorChoice_; }
     void showPool();
     void showDefaults();
     void closeEditors();
@@ -65,6 +68,7 @@ private:
 
     Kolt::ValuePoolSource& pools_;
     QMainWindow& window_;
+    Talo::EditorChoice editorChoice_;
     QString filter_;
     bool rawValuesShown_ = false;
     bool advancedShown_ = false;

@@ -25,6 +25,8 @@ public:
     /// The action with this object name ("resetValue", "copyValue", "pasteValue", "setAsDefault", "showHelp"); null for
     /// any other.
     QAction* action(char const* objectName) const;
+    /// The row on which they act; null for none.
+    ParameterRow* row() const { return row_; }
     /// Enables the actions as the current row permits, as before a menu with them is shown.
     void updateActions();
 
