@@ -7,6 +7,7 @@
 #include <parameters/commands/ResetCommands.hpp>
 #include <parameters/commands/SharedEdits.hpp>
 #include <parameters/commands/UndoActions.hpp>
+#include <parameters/EditorChoice.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/input/PendingEdit.hpp>
 #include <parameters/rows/ConditionWatcher.hpp>
@@ -311,6 +312,15 @@ QAction* ParameterPanel::action(Command command) {
         return d_->commandsOf(*this).action("showHelp");
     }
     return nullptr;
+}
+
+void ParameterPanel::setEditorChoice(EditorChoice* choice) {
+    if (auto* const old = EditorChoice::around(this))
+        disconnect(old, &EditorChoice::changed, d_->rows, nullptr);
+    EditorChoice::install(*this, choice);
+    if (choice)
+        connect(choice, &EditorChoice::changed, d_->rows, &RowArea::showPool);
+    d_->rows->showPool();
 }
 
 void ParameterPanel::setNaming(ParameterNaming naming) {

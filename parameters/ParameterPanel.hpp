@@ -12,6 +12,7 @@ class QMenu;
 
 namespace Talo {
 
+class EditorChoice;
 class RowArea;
 
 /// Shows the parameters of one object with their editors. Editors come from the plug-ins that are loaded. Each gesture
@@ -43,7 +44,7 @@ public:
 
     Kolt::ObjectPtr object() const; ///< the shown object, the first of several; null if it was deleted
 
-    Kolt::PoolPtr pool() const;     ///< the pool that is edited; null for none
+    Kolt::PoolPtr pool() const; ///< the pool that is edited; null for none
 
     /// The words of the filter: only parameters that contain all of them in "object.parameter", label, help, value or
     /// the object's kind are shown, advanced ones as well. Values count as they are when the filter or the pool is set:
@@ -66,6 +67,9 @@ public:
     /// those of the section with the focus, the others but Undo and Redo on the row with the focus. The shortcuts work
     /// while the focus is in the panel.
     QAction* action(Command command);
+    /// Who edits which parameter, where a person chose; the context menu of a row then offers the choice. Not owned;
+    /// null for none, as at first.
+    void setEditorChoice(EditorChoice* choice);
     void setNaming(ParameterNaming naming); ///< how undo texts name parameters; empty: by their own names
 
     /// Makes the defaults of all parameters effective in the chosen pool, as one undo step (resetToDefaults).

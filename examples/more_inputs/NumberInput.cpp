@@ -23,7 +23,9 @@ public:
     }
     template <typename T>
     void readNumber(char const* name, double& into) const {
-        auto const* const map = parameter_ ? parameter_->properties() : nullptr;
+        // What another editor filled in says nothing about the parameter.
+        bool const counts = parameter_ && !parameter_->isFilledIn(name);
+        auto const* const map = counts ? parameter_->properties() : nullptr;
         auto const property = map ? map->getValue(name) : nullptr;
         if (auto const found = Kolt::storedValueIn<T>(property))
             into = static_cast<double>(*found);

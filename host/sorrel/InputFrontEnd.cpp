@@ -65,13 +65,21 @@ void connectFields(Editor const& editor, ValuePoolSource const* poolSource) {
 } // namespace
 
 Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource) {
+    return makeEditor(parameter, parent, poolSource, {});
+}
+
+Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                  CreatorRef const& chosen) {
     EventLoopDelivery::install();
     Editor editor;
     if (!parameter) {
         editor.choice.explanation = "there is no parameter";
         return editor;
     }
-    editor.choice = InputRegistry::theRegistry().choose(*parameter, {"QT"});
+    if (auto const living = chosen.strong())
+        editor.choice = {chosen, living->describe() + " was chosen by the user"};
+    else
+        editor.choice = InputRegistry::theRegistry().choose(*parameter, {"QT"});
     auto const creator = editor.choice.creator.strong();
     auto const widgets = creator ? creator->getInterface<QInputCreator>() : nullptr;
     if (!widgets) {

@@ -25,6 +25,10 @@ struct TALO_EXPORT Editor {
 [[nodiscard]] TALO_EXPORT Editor makeEditor(ParameterPtr const& parameter, QWidget* parent,
                                             ValuePoolSource* poolSource);
 
+/// The same, with a creator that somebody chose, of the parameter's type; an empty one counts as none.
+[[nodiscard]] TALO_EXPORT Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                                            CreatorRef const& chosen);
+
 /// Shows in an editor the value that is effective in the source's current pool: the pool's value, else the parameter's
 /// own. For an editor that shows something else meanwhile, such as that its user is choosing. Nothing is written, as
 /// with showPoolValue. Nothing happens for a null parameter or a destroyed editor. User-interface thread.

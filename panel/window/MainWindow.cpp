@@ -3,6 +3,7 @@
 #include <panel/look/Look.hpp>
 #include <panel/window/ActivationRepair.hpp>
 #include <panel/window/Centre.hpp>
+#include <panel/window/EditorsMenu.hpp>
 #include <panel/window/FileDrop.hpp>
 #include <panel/window/HelpMenu.hpp>
 #include <panel/window/MessageTexts.hpp>
@@ -60,6 +61,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
     addToolBar(toolBar_);
     menuBar()->addMenu(fileMenu_);
     makeEditMenu();
+    viewMenu_->addMenu(new EditorsMenu(views_->editorChoice(), commands_, viewMenu_));
     menuBar()->addMenu(viewMenu_);
     menuBar()->addMenu(pluginMenu_);
     menuBar()->addMenu(new HelpMenu(*this));

@@ -72,6 +72,21 @@ std::optional<Theme> themeOfKey(QString const& key) {
     return {};
 }
 
+/// Each key and its value after it.
+QStringList toList(QMap<QString, QString> const& map) {
+    QStringList all;
+    for (auto each = map.begin(); each != map.end(); ++each)
+        all << each.key() << each.value();
+    return all;
+}
+
+QMap<QString, QString> pairsOf(QStringList const& list) {
+    QMap<QString, QString> map;
+    for (int index = 0; index + 1 < list.size(); index += 2)
+        map.insert(list.at(index), list.at(index + 1));
+    return map;
+}
+
 QString shownObject(ObjectView const* view) {
     auto const object = view ? view->object() : nullptr;
     return object ? QString::fromStdString(object->Name()) : QString();
@@ -111,6 +126,8 @@ void Session::restoreWindow() {
     window_->setRawValuesShown(settings_.value(QStringLiteral("window/rawValues"), false).toBool());
     auto const order = settings_.value(QStringLiteral("window/objectOrder")).toByteArray();
     window_->objectList()->setOrder(ObjectModel::orderNamed(order));
+    window_->views().editorChoice().setOfTypes(
+        pairsOf(settings_.value(QStringLiteral("window/editors")).toStringList()));
     window_->setAdvancedShown(settings_.value(QStringLiteral("window/advanced"), false).toBool());
     if (auto const found = themeOfKey(settings_.value(QStringLiteral("window/look")).toString()))
         window_->look().chooseTheme(*found);
@@ -130,6 +147,7 @@ void Session::restoreNetwork() {
     if (found != known.end()) {
         window_->choosePool(found->pool);
         window_->views().setFoldedSections(found->folded);
+        window_->views().editorChoice().setOfParameters(found->editors);
         auto const first = shownObject(window_->currentView());
         auto const views = found->views.mid(0, mostViews);
         for (int index = 0; index < views.size(); ++index)
@@ -157,13 +175,14 @@ void Session::keep() {
     settings_.setValue(QStringLiteral("window/look"), keyOf(theme()));
     settings_.setValue(QStringLiteral("window/textSize"), textSize());
     settings_.setValue(QStringLiteral("window/recent"), window_->recentFiles().files());
+    settings_.setValue(QStringLiteral("window/editors"), toList(window_->views().editorChoice().ofTypes()));
     if (auto const* const splitter = window_->findChild<QSplitter*>(QStringLiteral("columns")))
         settings_.setValue(QStringLiteral("window/columns"), sealed(splitter->saveState()));
     if (window_->network()) {
         auto const pool = window_->pools().pool();
         keepNetwork({window_->document().path(), pool ? QString::fromStdString(pool->Name()) : QString(),
                      shownObject(window_->currentView()), views, viewPools(), docks, window_->views().foldedSections(),
-                     window_->objectList()->foldedKinds()});
+                     window_->objectList()->foldedKinds(), window_->views().editorChoice().ofParameters()});
     }
     settings_.sync();
     if (settings_.status() == QSettings::AccessError)
@@ -188,6 +207,7 @@ void Session::keepNetwork(NetworkRecord const& network) {
         settings_.setValue(QStringLiteral("docks"), sealed(record.docks));
         settings_.setValue(QStringLiteral("folded"), toList(record.folded));
         settings_.setValue(QStringLiteral("foldedKinds"), record.foldedKinds);
+        settings_.setValue(QStringLiteral("editors"), toList(record.editors));
     }
     settings_.endArray();
 }
@@ -204,7 +224,8 @@ std::vector<Session::NetworkRecord> Session::networks() {
                        settings_.value(QStringLiteral("viewPools")).toStringList(),
                        unsealed(settings_.value(QStringLiteral("docks"))),
                        fromList(settings_.value(QStringLiteral("folded")).toStringList()),
-                       settings_.value(QStringLiteral("foldedKinds")).toStringList()});
+                       settings_.value(QStringLiteral("foldedKinds")).toStringList(),
+                       pairsOf(settings_.value(QStringLiteral("editors")).toStringList())});
     }
     settings_.endArray();
     return all;

@@ -54,6 +54,8 @@ private:
         /// The folded sections, by the names of their objects.
         QMap<QString, QStringList> folded;
         QStringList foldedKinds;
+        /// The chosen creators, by "object.parameter".
+        QMap<QString, QString> editors;
     };
 
     void restoreWindow();

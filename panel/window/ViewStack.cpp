@@ -67,6 +67,7 @@ ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& ki
                                 QWidget* parent) {
     auto* const view = new ObjectView(object, kind, pools, parent);
     auto* const panel = view->panel();
+    panel->setEditorChoice(&editorChoice_);
     panel->setRawValuesShown(rawValuesShown_);
     panel->setAdvancedShown(advancedShown_);
     panel->setKind(kind);
@@ -136,6 +137,7 @@ void ViewStack::closeViews() {
             removeWidget(view);
         closed->deleteLater();
     }
+    editorChoice_.setOfParameters({});
 }
 
 void ViewStack::deleteViews() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <panel/window/ObjectView.hpp>
+#include <parameters/EditorChoice.hpp>
 #include <QMainWindow>
 #include <QMap>
 #include <QStackedWidget>
@@ -50,6 +51,8 @@ public:
     void setFoldedSections(QMap<QString, QStringList> const& folded);
     /// Folds or opens the sections of the current view.
     void foldAllSections(bool folded);
+    /// Who edits which parameter in all views. Closing the views ends the choices for single parameters.
+    Talo::EditorChoice& editorChoice() { return editorChoice_; }
     /// Shows the pool that was chosen in the window.
     void showPool();
     void showDefaults();
@@ -75,6 +78,7 @@ private:
     Kolt::ValuePoolSource& pools_;
     QMainWindow& window_;
     std::vector<Kolt::PoolPtr> offeredPools_;
+    Talo::EditorChoice editorChoice_;
     QString filter_;
     bool onlyChanged_ = false;
     bool rawValuesShown_ = false;

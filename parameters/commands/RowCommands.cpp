@@ -1,7 +1,9 @@
 #include <parameters/commands/RowCommands.hpp>
 
 #include <lattice/UndoHistory.hpp>
+#include <parameters/commands/EditorMenu.hpp>
 #include <parameters/commands/ValueClipboard.hpp>
+#include <parameters/EditorChoice.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/ParameterRow.hpp>
@@ -69,6 +71,10 @@ QMenu* makeRowMenu(ParameterRow& row) {
         action->setObjectName(QLatin1String(command.name));
         action->setEnabled(command.isEnabledFor(parameter));
         QObject::connect(action, &QAction::triggered, &row, command.run);
+    }
+    if (auto* const choice = EditorChoice::around(&row)) {
+        menu->addSeparator();
+        fillEditorMenu(*menu->addMenu(CommandTexts::tr("&Editors")), parameter, *choice);
     }
     return menu;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bramble/EnumSelection.hpp>
+#include <parameters/EditorChoice.hpp>
 #include <parameters/input/KeyboardChoice.hpp>
 #include <parameters/input/KeyboardPress.hpp>
 #include <parameters/input/WheelGuard.hpp>
@@ -48,6 +49,12 @@ QString captionOf(QWidget const& control) {
     return button ? shownCaption(*button) : QString();
 }
 
+/// The creator that a person chose for a parameter in a panel around the widget; empty for the usual one.
+Kolt::CreatorRef chosenFor(Kolt::VParameter const& parameter, QWidget const* widget) {
+    auto const* const choice = EditorChoice::around(widget);
+    return choice ? choice->creatorFor(parameter) : Kolt::CreatorRef();
+}
+
 /// The names among which an enumeration chooses; null for a value of another type.
 Tessera::StrongPtr<Tessera::StringList> namesIn(Kolt::ValuePtr const& value) {
     return Kolt::valueOr(value, Kolt::Enum()).names();
@@ -65,7 +72,8 @@ QWidget* EditorCell::open(QWidget* parent) {
     if (editor_.widget || !parameter)
         return editor_.widget;
     names_ = namesIn(parameter->effectiveValue(pools_.pool()));
-    editor_ = Kolt::makeEditor(parameter, parent, pools_.source());
+    chosen_ = chosenFor(*parameter, parent);
+    editor_ = Kolt::makeEditor(parameter, parent, pools_.source(), chosen_);
     isPlaceholder_ = !editor_.widget;
     if (isPlaceholder_)
         editor_.widget = new PlaceholderEditor(*parameter, parent);
@@ -122,6 +130,8 @@ std::vector<QWidget*> EditorCell::controls() const {
 
 bool EditorCell::canShowValue() const {
     auto const parameter = parameter_.strong();
+    if (parameter && editor_.widget && chosenFor(*parameter, editor_.widget) != chosen_)
+        return false;
     if (!parameter || !editor_.widget || parameter->declaredType() != Tessera::Typename(typeid(Kolt::Enum)))
         return true;
     auto const names = namesIn(parameter->effectiveValue(pools_.pool()));

@@ -51,8 +51,8 @@ public:
     /// The least width at which no control is cut off, in pixels. REQUIRES: an open cell.
     int leastWidth() const;
     /// Whether the editor can show what the pool source's pool holds. The buttons of an enumeration are those of the
-    /// value with which it was made, and once one is marked, one stays marked. An editor that cannot is to be closed
-    /// and opened again. True for a closed cell.
+    /// value with which it was made, and once one is marked, one stays marked. False as well when another creator was
+    /// chosen meanwhile (EditorChoice). An editor that cannot is to be closed and opened again. True for a closed cell.
     bool canShowValue() const;
     /// Shows what the pool source's pool holds. Nothing is written.
     void showPool();
@@ -68,6 +68,8 @@ private:
     Kolt::ParameterRef const parameter_;
     PoolSourceRef const pools_;
     Kolt::Editor editor_;
+    // That a person chose when the editor was made; empty for the usual one.
+    Kolt::CreatorRef chosen_;
     bool isPlaceholder_ = false;
     // Those of an enumeration when its editor was made; null for other types.
     Tessera::StrongPtr<Tessera::StringList> names_;
