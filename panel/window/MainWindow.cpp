@@ -39,7 +39,7 @@ MainWindow::MainWindow(Plugins& plugins, QWidget* parent)
       commands_(nullptr, this),
       objectList_(new ObjectList(pools_)),
       views_(new ViewStack(pools_, *this)),
-      objectCommands_(new ObjectCommands(document_, *views_, commands_, pools_, this)),
+      objectCommands_(new ObjectCommands(document_, *views_, *objectList_, commands_, pools_, this)),
       presetMenu_(new PresetMenu(
           document_, [this] { return objectCommands_->panel(); }, this)),
       messageDock_(new MessageDock(*this)),
@@ -97,6 +97,8 @@ void MainWindow::makeEditMenu() {
     menu->addSeparator();
     menu->addActions(commands_.actions());
     menu->addSeparator();
+    menu->addActions(objectCommands_->clipboardActions());
+    menu->addSeparator();
     menu->addActions(objectCommands_->resetActions());
     menu->addMenu(presetMenu_);
     menu->addSeparator();
@@ -110,6 +112,8 @@ void MainWindow::showObjectMenu(QPoint const& place) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     objectCommands_->updateActions();
     // Sections belong to a row.
+    menu->addActions(objectCommands_->clipboardActions().mid(1));
+    menu->addSeparator();
     menu->addActions(objectCommands_->resetActions().mid(1));
     menu->addMenu(presetMenu_);
     menu->popup(objectList_->viewport()->mapToGlobal(place));
@@ -140,6 +144,7 @@ void MainWindow::connectParts() {
     objectList_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(objectList_, &QWidget::customContextMenuRequested, this, &MainWindow::showObjectMenu);
     connect(objectCommands_, &ObjectCommands::commitRequested, this, &MainWindow::commitPendingEdit);
+    connect(objectCommands_, &ObjectCommands::refused, this, &MainWindow::showRefusal);
     connect(presetMenu_, &PresetMenu::commitRequested, this, &MainWindow::commitPendingEdit);
     connect(presetMenu_, &PresetMenu::failed, this, &MainWindow::reportError);
     connect(presetMenu_, &PresetMenu::reported, this, &MainWindow::report);
@@ -158,6 +163,9 @@ void MainWindow::connectParts() {
     connect(toolBar_, &PoolToolBar::poolChosen, this, qOverload<int>(&MainWindow::choosePool));
     connect(objectList_, &ObjectList::objectChosen, this,
             [this](Kolt::ObjectPtr const& object) { views_->showObject(object, network()->kind(object)); });
+    connect(objectList_, &ObjectList::objectsChosen, this, [this](std::vector<Kolt::ObjectPtr> const& objects) {
+        views_->showObjects(objects, network()->kind(objects.front()));
+    });
     connect(&plugins_, &Plugins::aboutToChange, this, &MainWindow::closeEditors);
     connect(&plugins_, &Plugins::changed, this, &MainWindow::openEditors);
     new ActivationRepair(*this);

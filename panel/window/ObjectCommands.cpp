@@ -1,22 +1,30 @@
 #include <panel/window/ObjectCommands.hpp>
 
 #include <panel/window/Document.hpp>
+#include <panel/window/ObjectList.hpp>
 #include <panel/window/ViewStack.hpp>
+#include <parameters/commands/ObjectClipboard.hpp>
 #include <parameters/commands/ResetCommands.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 
 namespace Panel {
 
-ObjectCommands::ObjectCommands(Document& document, ViewStack& views, Talo::ParameterCommands const& rowCommands,
-                               Talo::PoolSource& pools, QObject* parent)
+ObjectCommands::ObjectCommands(Document& document, ViewStack& views, ObjectList const& list,
+                               Talo::ParameterCommands const& rowCommands, Talo::PoolSource& pools, QObject* parent)
     : QObject(parent),
       document_(document),
       views_(views),
+      list_(list),
       rowCommands_(rowCommands),
       pools_(pools),
       resetSection_(makeAction("resetSection", tr("Reset s&ection to default"), &ObjectCommands::resetSection)),
       resetObject_(makeAction("resetObject", tr("Reset &object to default"), &ObjectCommands::resetObject)),
-      resetAll_(makeAction("resetAllObjects", tr("Reset &all objects to default"), &ObjectCommands::resetAll)) {
+      resetAll_(makeAction("resetAllObjects", tr("Reset &all objects to default"), &ObjectCommands::resetAll)),
+      copySection_(makeAction("copySection", tr("Copy sectio&n"), &ObjectCommands::copySection)),
+      copyObjects_(makeAction("copyObjects", tr("Copy o&bjects"), &ObjectCommands::copyObjects)),
+      pasteObjects_(makeAction("pasteObjects", tr("Paste into ob&jects"), &ObjectCommands::pasteObjects)) {
+    copyObjects_->setShortcut(tr("Ctrl+Alt+C"));
+    pasteObjects_->setShortcut(tr("Ctrl+Alt+V"));
     updateActions();
 }
 
@@ -47,6 +55,10 @@ void ObjectCommands::updateActions() {
     auto const* const shown = panel();
     resetObject_->setEnabled(shown && shown->object());
     resetAll_->setEnabled(document_.network() != nullptr);
+    copySection_->setEnabled(currentParameter() != nullptr);
+    // By its key it is used without a menu, whatever came to the clipboard.
+    copyObjects_->setEnabled(document_.network() != nullptr);
+    pasteObjects_->setEnabled(document_.network() != nullptr);
 }
 
 void ObjectCommands::resetSection() {
@@ -69,6 +81,38 @@ void ObjectCommands::resetAll() {
         for (auto const& object : document_.network()->objects())
             all.insert(all.end(), object->parameters().begin(), object->parameters().end());
     Talo::resetToDefaults(all, pools_.pool());
+}
+
+std::vector<Kolt::ObjectPtr> ObjectCommands::chosenObjects() const {
+    auto const* const shown = panel();
+    auto const* const view = views_.currentView();
+    if (shown && (!view || shown != view->panel()))
+        return shown->object() ? std::vector<Kolt::ObjectPtr>{shown->object()} : std::vector<Kolt::ObjectPtr>();
+    return list_.chosenObjects();
+}
+
+Kolt::PoolPtr ObjectCommands::pool() const {
+    auto const* const shown = panel();
+    return shown ? shown->pool() : pools_.pool();
+}
+
+void ObjectCommands::copySection() {
+    emit commitRequested();
+    auto const parameter = currentParameter();
+    auto const object = panel() ? panel()->object() : nullptr;
+    if (parameter && object)
+        Talo::copySection(object, Talo::ParameterDescription(*parameter).section, pool());
+}
+
+void ObjectCommands::copyObjects() {
+    emit commitRequested();
+    Talo::copyObjects(chosenObjects(), pool());
+}
+
+void ObjectCommands::pasteObjects() {
+    emit commitRequested();
+    for (auto const& reason : Talo::pasteObjects(chosenObjects(), pool()))
+        emit refused(reason);
 }
 
 } // namespace Panel

@@ -30,14 +30,30 @@ QWidget* makeHeader(QString const& name, QString const& kind) {
     return header;
 }
 
+QStringList namesOf(std::vector<Kolt::ObjectPtr> const& objects) {
+    QStringList names;
+    for (auto const& object : objects)
+        names << QString::fromStdString(object->Name());
+    return names;
+}
+
+QString titleOf(std::vector<Kolt::ObjectPtr> const& objects) {
+    auto const first = QString::fromStdString(objects.front()->Name());
+    auto const further = static_cast<int>(objects.size()) - 1;
+    return further == 0 ? first : ObjectView::tr("%1 and %n more", nullptr, further).arg(first);
+}
+
 } // namespace
 
-ObjectView::ObjectView(Kolt::ObjectPtr const& object, QString const& kind, Kolt::ValuePoolSource& pools,
+ObjectView::ObjectView(std::vector<Kolt::ObjectPtr> const& objects, QString const& kind, Kolt::ValuePoolSource& pools,
                        QWidget* parent)
     : QWidget(parent),
       kind_(kind),
-      head_(makeHeader(QString::fromStdString(object->Name()), kind)),
-      panel_(new Talo::ParameterPanel(object, pools)) {
+      showsSeveral_(objects.size() > 1),
+      head_(makeHeader(titleOf(objects), kind)),
+      panel_(new Talo::ParameterPanel(objects, pools)) {
+    if (showsSeveral_)
+        head_->setToolTip(namesOf(objects).join(QLatin1Char('\n')));
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

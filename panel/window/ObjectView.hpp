@@ -6,20 +6,24 @@
 
 namespace Panel {
 
-/// One object in the window: its name and what it is for above its parameters. Any number of views may show one object.
+/// One object in the window, or several in one form: the name and what it is for above the parameters. Any number of
+/// views may show one object.
 ///
-/// The view refers to the object weakly. User-interface thread.
+/// The view refers to the objects weakly. User-interface thread.
 class ObjectView : public QWidget {
     Q_OBJECT
 
 public:
-    /// `kind` says what the object is for, and may be empty. `pools` must outlive the view.
-    ObjectView(Kolt::ObjectPtr const& object, QString const& kind, Kolt::ValuePoolSource& pools,
+    /// `kind` says what the objects are for, and may be empty. `pools` must outlive the view. REQUIRES: at least one
+    /// object.
+    ObjectView(std::vector<Kolt::ObjectPtr> const& objects, QString const& kind, Kolt::ValuePoolSource& pools,
                QWidget* parent = nullptr);
     ~ObjectView() override;
 
-    /// The shown object; null if it was deleted.
+    /// The shown object, the first of several; null if it was deleted.
     Kolt::ObjectPtr object() const { return panel_->object(); }
+    /// Whether the form is that of several objects.
+    bool showsSeveral() const { return showsSeveral_; }
     QString const& kind() const { return kind_; }
     Talo::ParameterPanel* panel() const { return panel_; }
     /// The rows that exist; all of them where the object has few parameters and the view was shown.
@@ -32,6 +36,7 @@ public:
 
 private:
     QString const kind_;
+    bool const showsSeveral_;
     QWidget* const head_;
     Talo::ParameterPanel* const panel_;
 };

@@ -45,17 +45,20 @@ std::vector<ObjectView*> ViewStack::views() const {
 void ViewStack::showObject(Kolt::ObjectPtr const& object, QString const& kind) {
     for (int index = 0; index < count(); ++index) {
         auto* const known = widget(index);
-        if (static_cast<ObjectView*>(known)->object() != object)
+        auto const* const view = static_cast<ObjectView*>(known);
+        if (view->object() != object || view->showsSeveral())
             continue;
         // The last of the stack is the one that was shown last.
         removeWidget(known);
         addWidget(known);
         setCurrentWidget(known);
+        dropSeveral();
         return;
     }
-    auto* const view = makeView(object, kind, pools_, this);
+    auto* const view = makeView({object}, kind, pools_, this);
     addWidget(view);
     setCurrentWidget(view);
+    dropSeveral();
     while (count() > keptViews) {
         auto* const oldest = widget(0);
         removeWidget(oldest);
@@ -63,9 +66,30 @@ void ViewStack::showObject(Kolt::ObjectPtr const& object, QString const& kind) {
     }
 }
 
-ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& kind, Kolt::ValuePoolSource& pools,
-                                QWidget* parent) {
-    auto* const view = new ObjectView(object, kind, pools, parent);
+void ViewStack::showObjects(std::vector<Kolt::ObjectPtr> const& objects, QString const& kind) {
+    if (objects.size() == 1) {
+        showObject(objects.front(), kind);
+        return;
+    }
+    dropSeveral();
+    auto* const view = makeView(objects, kind, pools_, this);
+    addWidget(view);
+    setCurrentWidget(view);
+}
+
+void ViewStack::dropSeveral() {
+    for (int index = count() - 1; index >= 0; --index) {
+        auto* const view = static_cast<ObjectView*>(widget(index));
+        if (!view->showsSeveral())
+            continue;
+        removeWidget(view);
+        view->deleteLater();
+    }
+}
+
+ObjectView* ViewStack::makeView(std::vector<Kolt::ObjectPtr> const& objects, QString const& kind,
+                                Kolt::ValuePoolSource& pools, QWidget* parent) {
+    auto* const view = new ObjectView(objects, kind, pools, parent);
     auto* const panel = view->panel();
     panel->setEditorChoice(&editorChoice_);
     panel->setRawValuesShown(rawValuesShown_);
@@ -76,7 +100,7 @@ ObjectView* ViewStack::makeView(Kolt::ObjectPtr const& object, QString const& ki
     connect(panel, &Talo::ParameterPanel::editorOpened, this, &ViewStack::editorOpened);
     connect(panel, &Talo::ParameterPanel::refused, this, &ViewStack::refused);
     connect(panel, &Talo::ParameterPanel::helpRequested, this, &ViewStack::helpRequested);
-    panel->rowArea()->setFoldedSections(folded_.value(nameOf(object)));
+    panel->rowArea()->setFoldedSections(folded_.value(nameOf(objects.front())));
     connect(panel->rowArea(), &Talo::RowArea::foldChanged, this, [this, view] { followFolding(*view); });
     connect(panel->rowArea(), &Talo::RowArea::defaultChanged, this, &ViewStack::showDefaults);
     return view;
@@ -89,7 +113,7 @@ ObjectView* ViewStack::addViewOn(Kolt::PoolPtr const& pool) {
         return nullptr;
     auto* const dock = new ViewDock(offeredPools_, pools_, &window_);
     dock->setOwnPool(pool);
-    auto* const view = makeView(object, current->kind(), dock->pools(), dock);
+    auto* const view = makeView({object}, current->kind(), dock->pools(), dock);
     dock->setView(view);
     placeBesideForm(*dock);
     return view;

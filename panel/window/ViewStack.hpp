@@ -28,6 +28,9 @@ public:
 
     /// Shows an object in the middle. `kind` says what the object is for.
     void showObject(Kolt::ObjectPtr const& object, QString const& kind);
+    /// Shows several objects in the middle, in one form; a single one as `showObject` does. That form is not kept when
+    /// another object is shown. `kind` is that of the first. REQUIRES: at least one object.
+    void showObjects(std::vector<Kolt::ObjectPtr> const& objects, QString const& kind);
     /// Shows the current object once more, in a dock of its own. Null if there is none.
     ObjectView* addView() { return addViewOn(nullptr); }
     /// Adds a view that has a pool of its own; null for the pool of the window. Null if no object is shown.
@@ -72,8 +75,10 @@ private:
     /// Gives a new dock half of the form's room, or its share of what the docks beside it have. Where that is too
     /// little, it becomes a tab.
     void placeBesideForm(QDockWidget& dock);
-    ObjectView* makeView(Kolt::ObjectPtr const& object, QString const& kind, Kolt::ValuePoolSource& pools,
+    ObjectView* makeView(std::vector<Kolt::ObjectPtr> const& objects, QString const& kind, Kolt::ValuePoolSource& pools,
                          QWidget* parent);
+    /// Deletes the form of several objects, if there is one.
+    void dropSeveral();
 
     Kolt::ValuePoolSource& pools_;
     QMainWindow& window_;

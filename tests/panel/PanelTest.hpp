@@ -61,6 +61,12 @@ protected:
         return file.fileName();
     }
 
+    /// Opens a network in place of the one that is open.
+    void open(char const* text) const {
+        QString error;
+        ASSERT_TRUE(window->openNetwork(networkFile("opened.json", text), &error)) << qPrintable(error);
+    }
+
     Kolt::ParameterPtr parameter(char const* name) const {
         return window->network()->findParameter(QString::fromUtf8(name));
     }
