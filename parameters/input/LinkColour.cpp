@@ -3,6 +3,7 @@
 #include <parameters/input/GestureTarget.hpp>
 #include <QEvent>
 #include <QLabel>
+#include <QTextDocument>
 
 namespace Talo {
 
