@@ -140,6 +140,22 @@ public:
         return hasParameter ? living->parameters().front()->history() : Kolt::UndoHistory::theHistory();
     }
 
+    /// Of several objects the parameters that all of them have, those of the first object first; of one object these.
+    std::vector<Kolt::ParameterPtr> edited(std::vector<Kolt::ParameterPtr> const& parameters) const {
+        if (!shared)
+            return parameters;
+        std::vector<Kolt::ParameterPtr> first;
+        std::vector<Kolt::ParameterPtr> others;
+        for (auto const& parameter : parameters)
+            for (auto const& other : shared->othersOf(*parameter)) {
+                if (first.empty() || first.back() != parameter)
+                    first.push_back(parameter);
+                others.push_back(other.parameter.strong());
+            }
+        first.insert(first.end(), others.begin(), others.end());
+        return first;
+    }
+
     UndoActions& undoActionsOf(ParameterPanel& panel) {
         if (!undoActions) {
             undoActions = new UndoActions(history(), &panel);
@@ -331,12 +347,12 @@ void ParameterPanel::setNaming(ParameterNaming naming) {
 
 void ParameterPanel::resetAll() {
     if (auto const living = object())
-        resetToDefaults(living->parameters(), d_->pools.pool());
+        resetToDefaults(d_->edited(living->parameters()), d_->pools.pool());
 }
 
 void ParameterPanel::resetSection(QString const& title) {
     if (auto const living = object())
-        resetToDefaults(parametersInSection(*living, title), d_->pools.pool());
+        resetToDefaults(d_->edited(parametersInSection(*living, title)), d_->pools.pool());
 }
 
 void ParameterPanel::showSectionMenu(QString const& title, QPoint const& place) {

@@ -72,7 +72,8 @@ public:
     void setEditorChoice(EditorChoice* choice);
     void setNaming(ParameterNaming naming); ///< how undo texts name parameters; empty: by their own names
 
-    /// Makes the defaults of all parameters effective in the chosen pool, as one undo step (resetToDefaults).
+    /// Makes the defaults of all parameters effective in the chosen pool, as one undo step (resetToDefaults). Several
+    /// objects get their own defaults.
     void resetAll();
     /// Does so for the parameters of one section, hidden ones as well.
     void resetSection(QString const& title);

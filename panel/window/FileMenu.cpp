@@ -1,5 +1,6 @@
 #include <panel/window/FileMenu.hpp>
 
+#include <QAction>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>

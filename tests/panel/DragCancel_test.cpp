@@ -71,7 +71,7 @@ TEST_F(DragCancelTest, TheNextDragIsAStepAgain) {
     move(dragged, place + QPoint(40, 0));
     escape();
     release(dragged, place);
-    drag(dragged, {10, 20});
+    dragHandle(dragged, {10, 20});
     QApplication::processEvents();
     EXPECT_EQ(steps().size(), 1U);
     EXPECT_NE(valuesNow(), text);
@@ -80,7 +80,7 @@ TEST_F(DragCancelTest, TheNextDragIsAStepAgain) {
 }
 
 TEST_F(DragCancelTest, WhatWasUndoneCanStillBeRedone) {
-    drag(slider("int"), {30});
+    dragHandle(slider("int"), {30});
     QApplication::processEvents();
     auto const after = valuesNow();
     window->undo();

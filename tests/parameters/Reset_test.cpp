@@ -138,3 +138,31 @@ TEST_F(ResetTest, TheActionIsAboutTheSectionWithTheFocus) {
     action->trigger();
     EXPECT_THAT(on(), ElementsAre("on", "Motor.fast", "Motor.loud"));
 }
+
+TEST_F(ResetTest, SeveralObjectsGetTheirOwnDefaultsAsOneStep) {
+    Kolt::ObjectPtr const other(new Kolt::VObject("other"));
+    for (auto const* const name : {"on", "Motor.fast", "only here"}) {
+        Parameter<bool> const parameter(name, std::string(name) == "on");
+        Kolt::ParameterPtr const pointer = parameter;
+        other->addParameter(pointer);
+        pointer->setHistory(&history);
+        pointer->rememberDefaults();
+        write(*pointer, std::string(name) != "on");
+    }
+    Talo::ParameterPanel both({object, other}, pools);
+    both.resetAll();
+    EXPECT_THAT(on(), ElementsAre("Motor.loud", "Housing.red")) << "only what both have";
+    auto const isOn = [&](char const* name) {
+        return other->findParameter(name)->ownValue()->equals(*Kolt::makeValue(true));
+    };
+    EXPECT_TRUE(isOn("on"));
+    EXPECT_FALSE(isOn("Motor.fast"));
+    EXPECT_TRUE(isOn("only here"));
+    ASSERT_THAT(history.steps(), SizeIs(1));
+    EXPECT_TRUE(history.undo());
+    EXPECT_THAT(on(), SizeIs(4));
+    EXPECT_FALSE(isOn("on"));
+    EXPECT_TRUE(isOn("Motor.fast"));
+    for (auto const& parameter : other->parameters())
+        parameter->setHistory(nullptr);
+}
