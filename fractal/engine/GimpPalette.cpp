@@ -15,16 +15,15 @@ constexpr std::size_t mostColours = 4096;
 
 std::vector<QRgb> GimpPalette::parse(QByteArray const& text, int& line, QString& problem) {
     auto const lines = QString::fromUtf8(text).split(QLatin1Char('\n'));
-    auto const refuse = [&](QString const& expected) {
-        auto const found = lines.value(line - 1).trimmed().left(60);
-        problem =
-            tr("expected %1, found %2")
-                .arg(expected, found.isEmpty() ? tr("an empty line") : QLatin1Char('"') + found + QLatin1Char('"'));
+    auto const found = [&] { return lines.value(line - 1).trimmed().left(60); };
+    auto const refuse = [&](QString const& reason) {
+        problem = reason;
         return std::vector<QRgb>();
     };
     line = 1;
     if (lines.constFirst().trimmed() != QLatin1String("GIMP Palette"))
-        return refuse(tr("the first line \"GIMP Palette\""));
+        return refuse(found().isEmpty() ? tr("expected the first line \"GIMP Palette\", found an empty line")
+                                        : tr("expected the first line \"GIMP Palette\", found \"%1\"").arg(found()));
 
     static QRegularExpression const pattern(
         QStringLiteral("\\A\\s*([0-9]{1,3})\\s+([0-9]{1,3})\\s+([0-9]{1,3})(\\s.*)?\\z"));
@@ -39,14 +38,15 @@ std::vector<QRgb> GimpPalette::parse(QByteArray const& text, int& line, QString&
         int const green = match.captured(2).toInt();
         int const blue = match.captured(3).toInt();
         if (!match.hasMatch() || red > 255 || green > 255 || blue > 255)
-            return refuse(tr("red, green and blue from 0 to 255"));
+            return refuse(tr("expected red, green and blue from 0 to 255, found \"%1\"").arg(found()));
         if (colours.size() == mostColours)
-            return refuse(tr("at most %1 colours").arg(mostColours));
+            return refuse(tr("expected at most %1 colours, found \"%2\"").arg(QString::number(mostColours), found()));
         colours.push_back(qRgb(red, green, blue));
     }
     if (colours.empty()) {
         line = lines.size();
-        return refuse(tr("at least one colour"));
+        return refuse(found().isEmpty() ? tr("expected at least one colour, found an empty line")
+                                        : tr("expected at least one colour, found \"%1\"").arg(found()));
     }
     return colours;
 }

@@ -6,6 +6,7 @@
 #include <panel/look/TitleLabel.hpp>
 #include <parameters/rows/ContentArea.hpp>
 #include <parameters/rows/MutedLabel.hpp>
+#include <QEvent>
 #include <QFrame>
 #include <QVBoxLayout>
 
@@ -56,11 +57,11 @@ GalleryPage::GalleryPage(GalleryState state, QWidget* parent) : QWidget(parent) 
     auto* const sections = new QVBoxLayout(content);
     sections->setContentsMargins(margin, margin, margin, margin);
     sections->setSpacing(6);
-    auto* const titles = makeColumnTitles();
-    sections->addWidget(titles);
+    titles_ = makeColumnTitles();
+    sections->addWidget(titles_);
     addSections(sections, state);
     sections->addStretch(1);
-    alignColumns(titles);
+    alignColumns();
     if (state == GalleryState::DeadParameter) {
         parameters_.clear();
         for (auto* const row : rows_)
@@ -68,6 +69,7 @@ GalleryPage::GalleryPage(GalleryState state, QWidget* parent) : QWidget(parent) 
     }
 
     auto* const scrollArea = new Talo::ContentArea;
+    scrollArea->setAccessibleName(tr("Editors"));
     scrollArea->setWidget(content);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -97,6 +99,7 @@ QWidget* GalleryPage::makeHeader(GalleryState state) {
 
 void GalleryPage::makePoolSelector(QLayout* layout) {
     poolSelector_ = new QComboBox;
+    poolSelector_->setAccessibleName(tr("Pool"));
     for (auto const& pool : pools_)
         poolSelector_->addItem(QString::fromStdString(pool->Name()));
     auto* const label = new QLabel(tr("P&ool:"));
@@ -155,8 +158,15 @@ QWidget* GalleryPage::makeColumnTitles() const {
     return titles;
 }
 
-void GalleryPage::alignColumns(QWidget* titles) {
-    auto* const layout = titles->layout();
+void GalleryPage::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    // Later, when the labels have the font, too.
+    if (event->type() == QEvent::FontChange && titles_)
+        QMetaObject::invokeMethod(this, &GalleryPage::alignColumns, Qt::QueuedConnection);
+}
+
+void GalleryPage::alignColumns() {
+    auto* const layout = titles_->layout();
     auto const title = [&](int column) { return layout->itemAt(column)->widget(); };
     int name = title(0)->sizeHint().width();
     int editor = title(1)->sizeHint().width();

@@ -29,18 +29,22 @@ signals:
     /// An action of one of the editors was fired.
     void actionFired(QString const& name);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     QWidget* makeHeader(GalleryState state);
     void makePoolSelector(QLayout* layout);
     void addSections(QVBoxLayout* layout, GalleryState state);
     void connectActions(Kolt::VParameter const& parameter);
     QWidget* makeColumnTitles() const;
-    void alignColumns(QWidget* titles);
+    void alignColumns();
 
     Talo::PoolSource poolSource_;
     std::vector<Kolt::PoolPtr> pools_;
     std::vector<Kolt::ParameterPtr> parameters_;
     std::vector<GalleryRow*> rows_;
+    QWidget* titles_ = nullptr;
     QComboBox* poolSelector_ = nullptr;
 };
 

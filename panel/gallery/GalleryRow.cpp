@@ -88,7 +88,10 @@ QWidget* GalleryRow::makeCell(std::size_t index) {
     auto* const widget = editor.open(cell);
     if (!widget)
         return cell;
-    widget->setAccessibleName(tr("%1, editor %2").arg(QString::fromStdString(creatorName_)).arg(index + 1));
+    auto const name = tr("%1, editor %2").arg(QString::fromStdString(creatorName_)).arg(index + 1);
+    widget->setAccessibleName(name);
+    auto const parameter = parameter_.strong();
+    editor.nameControls(name, parameter && parameter->isEdited());
     // An editor that cannot fill the column is at its beginning; some have a fixed size only once they are shown.
     layout->addWidget(widget, 1);
     layout->addStretch(0);
@@ -116,6 +119,7 @@ void GalleryRow::setColumnWidths(int name, int editor, int counter) {
     names_->setFixedWidth(name);
     for (auto* const cell : cells_)
         cell->setMinimumWidth(editor);
+    rawValue_->setFixedWidth(rawValue_->sizeHint().width());
     counter_->setFixedWidth(counter);
 }
 

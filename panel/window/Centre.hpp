@@ -14,6 +14,15 @@ public:
     /// Takes the widgets over.
     Centre(NoticeBar* notices, QWidget* narrowColumn, QWidget* wideColumn);
     ~Centre() override;
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    /// Gives the narrow column room for names.
+    void setLeastWidth();
+
+    QWidget* const narrowColumn_;
 };
 
 } // namespace Panel

@@ -45,7 +45,7 @@ void DockShare::apply() {
     QScopedValueRollback const guard(applies_, true);
     if (dock_.isFloating())
         return;
-    setWidth_ = qMin(qRound(share_ * windowWidth_), windowWidth_ - rest_);
+    setWidth_ = qMin(qRound(share_ * windowWidth_), windowWidth_ - rest_ * window_.fontMetrics().averageCharWidth());
     window_.resizeDocks({&dock_}, {setWidth_}, Qt::Horizontal);
 }
 

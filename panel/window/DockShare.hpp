@@ -12,8 +12,8 @@ class DockShare : public QObject {
     Q_OBJECT
 
 public:
-    /// `share` is from 0 to 1; it applies when the window is shown, but for so many pixels that the rest of the window
-    /// needs.
+    /// `share` is from 0 to 1; it applies when the window is shown, but for the width of so many characters that the
+    /// rest of the window needs.
     DockShare(QMainWindow& window, QDockWidget& dock, double share, int rest);
     ~DockShare() override;
 

@@ -22,8 +22,8 @@ namespace {
 
 // Of the window's width; about as much as the list of objects and half of the editors.
 constexpr double previewShare = 1.0 / 3;
-// In pixels: the list and a form whose names and editors can be read.
-constexpr int leastRest = 490;
+// In characters: the list and a form whose names and editors can be read.
+constexpr int leastRest = 70;
 
 // How long messages stay in the status bar, in milliseconds.
 constexpr int refusalTime = 8000;

@@ -6,8 +6,8 @@ namespace Panel {
 
 namespace {
 
-// In pixels: a few lines.
-constexpr int usualHeight = 110;
+// In lines, the title and the header among them.
+constexpr int usualHeight = 6;
 
 } // namespace
 
@@ -16,7 +16,7 @@ MessageDock::MessageDock(QMainWindow& window)
     setObjectName(QStringLiteral("messages"));
     setWidget(makePage());
     window.addDockWidget(Qt::BottomDockWidgetArea, this);
-    window.resizeDocks({this}, {usualHeight}, Qt::Vertical);
+    window.resizeDocks({this}, {usualHeight * fontMetrics().height()}, Qt::Vertical);
     connect(&warnings_, &WarningListener::warned, messages_,
             [this](QString const& text) { messages_->add(MessageList::Source::Warning, text); });
 }

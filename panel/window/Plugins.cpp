@@ -1,6 +1,7 @@
 #include <panel/window/Plugins.hpp>
 
 #include <panel/Translations.hpp>
+#include <parameters/rows/HostTexts.hpp>
 #include <QFileInfo>
 #include <tessera/TerminalText.hpp>
 
@@ -14,7 +15,7 @@ void append(QString* error, std::string const& message) {
     if (!error->isEmpty())
         *error += QLatin1Char('\n');
     // A newline separates the reasons, so there is none in a reason.
-    *error += QString::fromStdString(Tessera::terminalText(message));
+    *error += Talo::hostText(QString::fromStdString(Tessera::terminalText(message)));
 }
 
 } // namespace

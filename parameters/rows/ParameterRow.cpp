@@ -3,6 +3,7 @@
 #include <lattice/UndoHistory.hpp>
 #include <parameters/commands/RowCommands.hpp>
 #include <parameters/commands/UndoText.hpp>
+#include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/RefusedNumber.hpp>
 #include <parameters/rows/RowFit.hpp>

@@ -3,6 +3,7 @@
 #include <bramble/HarmlessText.hpp>
 #include <network/ValueFormat.hpp>
 #include <parameters/commands/RowCommands.hpp>
+#include <parameters/rows/HostTexts.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <QCoreApplication>
 #include <QTextDocumentFragment>
@@ -83,7 +84,7 @@ QString creatorExplanation(Kolt::VParameter const& parameter, EditorCell const& 
     return QStringLiteral("<p>%1<br>%2</p><p>%3</p>")
         .arg(escaped(RowTexts::tr("Type: %1").arg(QString::fromStdString(parameter.declaredType()))),
              escaped(RowTexts::tr("Preferences: %1").arg(QString::fromStdString(Kolt::preferenceText(wanted)))),
-             escaped(RowTexts::tr("Editor: %1").arg(QString::fromStdString(cell.choice().explanation))));
+             escaped(RowTexts::tr("Editor: %1").arg(hostText(QString::fromStdString(cell.choice().explanation)))));
 }
 
 QString controlDescription(QString const& objectName, Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {

@@ -53,7 +53,16 @@ TEST_F(DockWidthTest, ThePreviewTakesItsShareOfEachWindow) {
     window->resize(640, 480);
     settle();
     EXPECT_EQ(window->width(), 640);
-    EXPECT_NEAR(preview()->width(), 150, 20) << "the form needs its room";
+    EXPECT_NEAR(preview()->width(), 640 / 3, 20);
+    // Of larger texts the form needs more.
+    auto const usual = window->font();
+    auto large = usual;
+    large.setPixelSize(14);
+    window->setFont(large);
+    window->resize(641, 480);
+    settle();
+    EXPECT_NEAR(preview()->width(), 641 - 70 * QFontMetrics(large).averageCharWidth(), 20) << "the form needs its room";
+    window->setFont(usual);
     window->resize(1200, 900);
     settle();
     EXPECT_NEAR(preview()->width(), 400, 20);
