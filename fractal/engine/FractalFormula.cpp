@@ -16,7 +16,6 @@ using Formula = FractalSettings::Formula;
 constexpr double farAway = 65536;
 // The distance, squared, below which a point has reached a root.
 constexpr double nearby = 1e-12;
-Point const juliaConstant{-0.8, 0.156};
 
 // Written out because the products of std::complex check for NaN and infinity at every step.
 Point square(Point const& z) {
@@ -45,12 +44,15 @@ std::array<Point, 3> const& roots() {
 } // namespace
 
 FractalFormula::FractalFormula(FractalSettings const& settings)
-    : formula_(settings.formula), iterations_(settings.iterations), smooth_(settings.smooth) {}
+    : formula_(settings.formula),
+      juliaConstant_(settings.juliaReal, settings.juliaImaginary),
+      iterations_(settings.iterations),
+      smooth_(settings.smooth) {}
 
 Point FractalFormula::step(Point const& place, Point const& point) const {
     switch (formula_) {
     case Formula::Julia:
-        return square(place) + juliaConstant;
+        return square(place) + juliaConstant_;
     case Formula::BurningShip:
         // By convention this formula is drawn upside down.
         return square({std::abs(place.real()), std::abs(place.imag())}) + std::conj(point);
@@ -149,7 +151,7 @@ Point FractalFormula::focus() const {
         return {-0.1010963638456222, 0.9562865108091415};
     case Formula::Julia:
         // The repelling fixed point.
-        return (1.0 + std::sqrt(1.0 - 4.0 * juliaConstant)) / 2.0;
+        return (1.0 + std::sqrt(1.0 - 4.0 * juliaConstant_)) / 2.0;
     case Formula::BurningShip:
         // The point on the mast at which two bands of the ship meet.
         return {-1.5436890126920764, 0};

@@ -42,6 +42,7 @@ private:
     EscapeResult descend(Point const& point) const;
 
     FractalSettings::Formula const formula_;
+    Point const juliaConstant_;
     int const iterations_;
     bool const smooth_;
 };

@@ -26,6 +26,8 @@ void FractalSettings::limit() {
     quality = std::clamp(quality, 1, 16);
     symmetry = (symmetry % 360 + 360) % 360;
     zoom = limited(zoom, -8, 44, usual.zoom);
+    juliaReal = limited(juliaReal, -2, 2, usual.juliaReal);
+    juliaImaginary = limited(juliaImaginary, -2, 2, usual.juliaImaginary);
     contrast = limited(contrast, 0, 16, usual.contrast);
     rotation = std::isfinite(rotation) ? std::fmod(rotation, fullTurn) : usual.rotation;
     if (rotation < 0)

@@ -38,6 +38,9 @@ struct FractalSettings {
     double contrast = 1;
     /// The rotation of the plane in degrees, counter-clockwise, 0 to 360.
     double rotation = 0;
+    /// The constant of the Julia set, both parts -2 to 2.
+    double juliaReal = -0.8;
+    double juliaImaginary = 0.156;
     /// Whether the number of steps has a fraction, which avoids bands of colour.
     bool smooth = true;
 

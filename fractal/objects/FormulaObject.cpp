@@ -22,6 +22,8 @@ void FormulaObject::applyParameters(FractalSettings& settings, Kolt::PoolPtr con
     settings.zoom = read("zoom", pool, settings.zoom);
     settings.contrast = read("contrast", pool, settings.contrast);
     settings.rotation = read("rotation", pool, settings.rotation);
+    settings.juliaReal = read("constant real", pool, settings.juliaReal);
+    settings.juliaImaginary = read("constant imaginary", pool, settings.juliaImaginary);
     settings.smooth = read("smooth", pool, settings.smooth);
 }
 

@@ -30,30 +30,6 @@
 <context>
     <name>Fractal::GimpPalette</name>
     <message>
-        <source>expected %1, found %2</source>
-        <translation>erwartet: %1, gefunden: %2</translation>
-    </message>
-    <message>
-        <source>an empty line</source>
-        <translation>eine leere Zeile</translation>
-    </message>
-    <message>
-        <source>the first line &quot;GIMP Palette&quot;</source>
-        <translation>die erste Zeile „GIMP Palette“</translation>
-    </message>
-    <message>
-        <source>red, green and blue from 0 to 255</source>
-        <translation>Rot, Grün und Blau von 0 bis 255</translation>
-    </message>
-    <message>
-        <source>at most %1 colours</source>
-        <translation>höchstens %1 Farben</translation>
-    </message>
-    <message>
-        <source>at least one colour</source>
-        <translation>mindestens eine Farbe</translation>
-    </message>
-    <message>
         <source>line %1: %2</source>
         <translation>Zeile %1: %2</translation>
     </message>
@@ -68,6 +44,30 @@
     <message>
         <source>expected a file that can be read, found: %1</source>
         <translation>erwartet: eine lesbare Datei, gefunden: %1</translation>
+    </message>
+    <message>
+        <source>expected the first line &quot;GIMP Palette&quot;, found an empty line</source>
+        <translation>erwartet die erste Zeile &quot;GIMP Palette&quot;, gefunden eine leere Zeile</translation>
+    </message>
+    <message>
+        <source>expected the first line &quot;GIMP Palette&quot;, found &quot;%1&quot;</source>
+        <translation>erwartet die erste Zeile &quot;GIMP Palette&quot;, gefunden &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>expected red, green and blue from 0 to 255, found &quot;%1&quot;</source>
+        <translation>erwartet Rot, Grün und Blau von 0 bis 255, gefunden &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>expected at most %1 colours, found &quot;%2&quot;</source>
+        <translation>erwartet höchstens %1 Farben, gefunden &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>expected at least one colour, found an empty line</source>
+        <translation>erwartet mindestens eine Farbe, gefunden eine leere Zeile</translation>
+    </message>
+    <message>
+        <source>expected at least one colour, found &quot;%1&quot;</source>
+        <translation>erwartet mindestens eine Farbe, gefunden &quot;%1&quot;</translation>
     </message>
 </context>
 <context>

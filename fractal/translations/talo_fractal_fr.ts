@@ -30,30 +30,6 @@
 <context>
     <name>Fractal::GimpPalette</name>
     <message>
-        <source>expected %1, found %2</source>
-        <translation>attendu : %1, trouvé : %2</translation>
-    </message>
-    <message>
-        <source>an empty line</source>
-        <translation>une ligne vide</translation>
-    </message>
-    <message>
-        <source>the first line &quot;GIMP Palette&quot;</source>
-        <translation>la première ligne « GIMP Palette »</translation>
-    </message>
-    <message>
-        <source>red, green and blue from 0 to 255</source>
-        <translation>rouge, vert et bleu de 0 à 255</translation>
-    </message>
-    <message>
-        <source>at most %1 colours</source>
-        <translation>au plus %1 couleurs</translation>
-    </message>
-    <message>
-        <source>at least one colour</source>
-        <translation>au moins une couleur</translation>
-    </message>
-    <message>
         <source>line %1: %2</source>
         <translation>ligne %1 : %2</translation>
     </message>
@@ -68,6 +44,30 @@
     <message>
         <source>expected a file that can be read, found: %1</source>
         <translation>attendu : un fichier lisible, trouvé : %1</translation>
+    </message>
+    <message>
+        <source>expected the first line &quot;GIMP Palette&quot;, found an empty line</source>
+        <translation>première ligne &quot;GIMP Palette&quot; attendue, ligne vide trouvée</translation>
+    </message>
+    <message>
+        <source>expected the first line &quot;GIMP Palette&quot;, found &quot;%1&quot;</source>
+        <translation>première ligne &quot;GIMP Palette&quot; attendue, &quot;%1&quot; trouvé</translation>
+    </message>
+    <message>
+        <source>expected red, green and blue from 0 to 255, found &quot;%1&quot;</source>
+        <translation>rouge, vert et bleu de 0 à 255 attendus, &quot;%1&quot; trouvé</translation>
+    </message>
+    <message>
+        <source>expected at most %1 colours, found &quot;%2&quot;</source>
+        <translation>au plus %1 couleurs attendues, &quot;%2&quot; trouvé</translation>
+    </message>
+    <message>
+        <source>expected at least one colour, found an empty line</source>
+        <translation>au moins une couleur attendue, ligne vide trouvée</translation>
+    </message>
+    <message>
+        <source>expected at least one colour, found &quot;%1&quot;</source>
+        <translation>au moins une couleur attendue, &quot;%1&quot; trouvé</translation>
     </message>
 </context>
 <context>

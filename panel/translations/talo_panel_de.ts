@@ -2,6 +2,149 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CountTexts</name>
+    <message>
+        <source>1 parameter</source>
+        <translation>1 Parameter</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parameters</source>
+        <translation>
+            <numerusform>%n Parameter</numerusform>
+            <numerusform>%n Parameter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 object</source>
+        <translation>1 Objekt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n objects</source>
+        <translation>
+            <numerusform>%n Objekte</numerusform>
+            <numerusform>%n Objekte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 parameter found</source>
+        <translation>1 Parameter gefunden</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parameters found</source>
+        <translation>
+            <numerusform>%n Parameter gefunden</numerusform>
+            <numerusform>%n Parameter gefunden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Next or previous control</source>
+        <translation>Nächstes oder voriges Bedienelement</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab, Umschalt+Tab</translation>
+    </message>
+    <message>
+        <source>Leave a text of several lines</source>
+        <translation>Einen mehrzeiligen Text verlassen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Tab, Ctrl+Shift+Tab</source>
+        <translation>Strg+Tab, Strg+Umschalt+Tab</translation>
+    </message>
+    <message>
+        <source>Change a slider, or go through choices</source>
+        <translation>Einen Regler verstellen oder durch die Auswahl gehen</translation>
+    </message>
+    <message>
+        <source>Arrow keys, Page Up, Page Down</source>
+        <translation>Pfeiltasten, Bild auf, Bild ab</translation>
+    </message>
+    <message>
+        <source>Lowest or highest value</source>
+        <translation>Kleinster oder größter Wert</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Pos1, Ende</translation>
+    </message>
+    <message>
+        <source>Press a button, or switch a check box</source>
+        <translation>Einen Knopf drücken oder ein Kästchen umschalten</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Enter what was typed</source>
+        <translation>Übernehmen, was getippt wurde</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Take back a typed number</source>
+        <translation>Eine getippte Zahl zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Take back a drag while the button is held</source>
+        <translation>Ein Ziehen zurücknehmen, solange die Maustaste gedrückt ist</translation>
+    </message>
+    <message>
+        <source>Change the value of the control with the focus</source>
+        <translation>Den Wert des Bedienelements mit dem Fokus ändern</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>Menü der Zeile</translation>
+    </message>
+    <message>
+        <source>Menu key, right mouse button</source>
+        <translation>Menütaste, rechte Maustaste</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Anderswo</translation>
+    </message>
+    <message>
+        <source>Filter: go to the first row that is found</source>
+        <translation>Filter: zur ersten gefundenen Zeile gehen</translation>
+    </message>
+    <message>
+        <source>Filter: show all</source>
+        <translation>Filter: alle zeigen</translation>
+    </message>
+    <message>
+        <source>History: go to the chosen state</source>
+        <translation>Verlauf: zum gewählten Stand gehen</translation>
+    </message>
+    <message>
+        <source>Cancel the computing</source>
+        <translation>Die Berechnung abbrechen</translation>
+    </message>
+    <message>
+        <source>Other commands</source>
+        <translation>Andere Befehle</translation>
+    </message>
+</context>
+<context>
     <name>MessageTexts</name>
     <message>
         <source>Action %1.%2 was fired in pool %3.</source>
@@ -107,10 +250,6 @@
         <translation>Gibt zu jedem Eingabe-Erzeuger Wertetyp, Namen und Vorgaben aus, durch Tabulatoren getrennt, und endet.</translation>
     </message>
     <message>
-        <source>Loads this plug-in file instead of qtalo_inputs.talo. May be repeated.</source>
-        <translation>Lädt diese Plug-in-Datei statt qtalo_inputs.talo. Darf mehrfach stehen.</translation>
-    </message>
-    <message>
         <source>FILE</source>
         <translation>DATEI</translation>
     </message>
@@ -194,12 +333,87 @@
         <source>The name of a network is empty.</source>
         <translation>Der Name eines Netzes ist leer.</translation>
     </message>
+    <message>
+        <source>Loads this plug-in file as well. Those beside qtalo_inputs.talo, and in the folders that TALO_PLUGIN_PATH names, are loaded anyway. May be repeated.</source>
+        <translation>Lädt auch diese Plug-in-Datei. Die Dateien neben qtalo_inputs.talo und in den Ordnern, die TALO_PLUGIN_PATH nennt, werden ohnehin geladen. Mehrfach möglich.</translation>
+    </message>
+    <message>
+        <source>Loads this plug-in file instead of those that are found. May be repeated.</source>
+        <translation>Lädt diese Plug-in-Datei anstelle der gefundenen. Mehrfach möglich.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ComparisonDock</name>
+    <message>
+        <source>Compare pools</source>
+        <translation>Pools vergleichen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ComparisonView</name>
+    <message>
+        <source>First pool</source>
+        <translation>Erster Pool</translation>
+    </message>
+    <message>
+        <source>Second pool</source>
+        <translation>Zweiter Pool</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Compares the values of now</source>
+        <translation>Vergleicht die jetzigen Werte</translation>
+    </message>
+    <message>
+        <source>Parameters that differ</source>
+        <translation>Parameter, die sich unterscheiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>1 parameter differs.</source>
+        <translation>1 Parameter unterscheidet sich.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parameters differ.</source>
+        <translation>
+            <numerusform>%n Parameter unterscheiden sich.</numerusform>
+            <numerusform>%n Parameter unterscheiden sich.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Panel::Document</name>
     <message>
         <source>No network is open.</source>
         <translation>Kein Netz ist geöffnet.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::EditorsMenu</name>
+    <message>
+        <source>&amp;Editors</source>
+        <translation>&amp;Editoren</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileDrop</name>
+    <message>
+        <source>Only one network file can be opened at a time.</source>
+        <translation>Es kann immer nur eine Netzwerkdatei geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>%1 is no file of this computer.</source>
+        <translation>%1 ist keine Datei dieses Rechners.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 ist keine Datei.</translation>
     </message>
 </context>
 <context>
@@ -300,6 +514,22 @@
         <source>&amp;End it</source>
         <translation>&amp;Beenden</translation>
     </message>
+    <message>
+        <source>Re&amp;vert to the file</source>
+        <translation>Auf die &amp;Datei zurücksetzen</translation>
+    </message>
+    <message>
+        <source>%1 is gone. It is not listed any more.</source>
+        <translation>%1 ist nicht mehr da. Die Datei wird nicht mehr aufgeführt.</translation>
+    </message>
+    <message>
+        <source>They become those of the file. The changes are lost, and so is the history.</source>
+        <translation>Sie werden zu denen der Datei. Die Änderungen gehen verloren, und der Verlauf auch.</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>Zu&amp;rücksetzen</translation>
+    </message>
 </context>
 <context>
     <name>Panel::FileNotices</name>
@@ -371,8 +601,16 @@
         <translation>Filter</translation>
     </message>
     <message>
-        <source>Shows the parameters whose name, object or value has all of these words</source>
-        <translation>Zeigt die Parameter, in deren Name, Objekt oder Wert alle diese Wörter stehen</translation>
+        <source>Only changed</source>
+        <translation>Nur Geändertes</translation>
+    </message>
+    <message>
+        <source>Shows the parameters whose name, label, help, object, kind or value has all of these words</source>
+        <translation>Zeigt die Parameter, in deren Namen, Beschriftung, Hilfe, Objekt, Art oder Wert alle diese Wörter vorkommen</translation>
+    </message>
+    <message>
+        <source>Shows only the parameters whose value differs from the default</source>
+        <translation>Zeigt nur die Parameter, deren Wert vom Standardwert abweicht</translation>
     </message>
 </context>
 <context>
@@ -415,6 +653,14 @@
     <message>
         <source>Notifications</source>
         <translation>Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>Editors</source>
+        <translation>Editoren</translation>
+    </message>
+    <message>
+        <source>Pool</source>
+        <translation>Pool</translation>
     </message>
 </context>
 <context>
@@ -487,10 +733,119 @@
     </message>
 </context>
 <context>
+    <name>Panel::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;About the Talo panel</source>
+        <translation>Ü&amp;ber das Talo-Panel</translation>
+    </message>
+    <message>
+        <source>About the Talo panel</source>
+        <translation>Über das Talo-Panel</translation>
+    </message>
+    <message>
+        <source>Talo panel %1</source>
+        <translation>Talo-Panel %1</translation>
+    </message>
+    <message>
+        <source>The panel shows and edits the parameters of a network.
+
+It is under the MIT licence; the file LICENSE has its text.
+
+It runs with Qt %1.</source>
+        <translation>Das Panel zeigt und bearbeitet die Parameter eines Netzwerks.
+
+Es steht unter der MIT-Lizenz; ihr Text ist in der Datei LICENSE.
+
+Es läuft mit Qt %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::HistoryDock</name>
     <message>
         <source>History</source>
         <translation>Verlauf</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::IconPlace</name>
+    <message>
+        <source>%1 = %2</source>
+        <extracomment>A parameter and its value.</extracomment>
+        <translation>%1 = %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::KeysDialog</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehl</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as text</source>
+        <translation>Als Text &amp;kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LookMenu</name>
+    <message>
+        <source>&amp;Look</source>
+        <translation>&amp;Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Text size</source>
+        <translation>&amp;Textgröße</translation>
+    </message>
+    <message>
+        <source>&amp;Larger text</source>
+        <translation>&amp;Größerer Text</translation>
+    </message>
+    <message>
+        <source>Ctrl++</source>
+        <translation>Ctrl++</translation>
+    </message>
+    <message>
+        <source>Ctrl+=</source>
+        <translation>Ctrl+=</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller text</source>
+        <translation>&amp;Kleinerer Text</translation>
+    </message>
+    <message>
+        <source>Ctrl+-</source>
+        <translation>Ctrl+-</translation>
+    </message>
+    <message>
+        <source>&amp;Usual text size</source>
+        <translation>&amp;Übliche Textgröße</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation>Ctrl+0</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>Wie das &amp;System</translation>
     </message>
 </context>
 <context>
@@ -596,10 +951,93 @@
     </message>
 </context>
 <context>
+    <name>Panel::ObjectColumn</name>
+    <message>
+        <source>Order of the objects</source>
+        <translation>Reihenfolge der Objekte</translation>
+    </message>
+    <message>
+        <source>The order in which the objects are listed</source>
+        <translation>Die Reihenfolge, in der die Objekte aufgelistet sind</translation>
+    </message>
+    <message>
+        <source>In &amp;file order</source>
+        <translation>Wie in der &amp;Datei</translation>
+    </message>
+    <message>
+        <source>By &amp;name</source>
+        <translation>Nach &amp;Namen</translation>
+    </message>
+    <message>
+        <source>By &amp;kind</source>
+        <translation>Nach &amp;Art</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ObjectCommands</name>
+    <message>
+        <source>Reset s&amp;ection to default</source>
+        <translation>A&amp;bschnitt zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset &amp;object to default</source>
+        <translation>&amp;Objekt zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset &amp;all objects to default</source>
+        <translation>&amp;Alle Objekte zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Copy sectio&amp;n</source>
+        <translation>Abschn&amp;itt kopieren</translation>
+    </message>
+    <message>
+        <source>Copy o&amp;bjects</source>
+        <translation>O&amp;bjekte kopieren</translation>
+    </message>
+    <message>
+        <source>Paste into ob&amp;jects</source>
+        <translation>In Ob&amp;jekte einfügen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+C</source>
+        <translation>Ctrl+Alt+C</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+V</source>
+        <translation>Ctrl+Alt+V</translation>
+    </message>
+</context>
+<context>
     <name>Panel::ObjectList</name>
     <message>
         <source>Objects</source>
         <translation>Objekte</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ObjectModel</name>
+    <message>
+        <source>Object</source>
+        <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>Parameters found</source>
+        <translation>Gefundene Parameter</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ObjectView</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -654,6 +1092,40 @@
     </message>
 </context>
 <context>
+    <name>Panel::PluginSearch</name>
+    <message>
+        <source>%1 is not loaded again: it is the file %2.</source>
+        <translation>%1 wird nicht noch einmal geladen: Es ist die Datei %2.</translation>
+    </message>
+    <message>
+        <source>%1 is loaded once only.</source>
+        <translation>%1 wird nur einmal geladen.</translation>
+    </message>
+    <message>
+        <source>%1 is not loaded: %2 has the same name and comes first.</source>
+        <translation>%1 wird nicht geladen: %2 hat denselben Namen und kommt zuerst.</translation>
+    </message>
+    <message>
+        <source>The folder %1 of TALO_PLUGIN_PATH cannot be read.</source>
+        <translation>Der Ordner %1 aus TALO_PLUGIN_PATH kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PoolDifferences</name>
+    <message>
+        <source>Object</source>
+        <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>In pool %1</source>
+        <translation>Im Pool %1</translation>
+    </message>
+</context>
+<context>
     <name>Panel::PoolToolBar</name>
     <message>
         <source>Pool and filter</source>
@@ -673,6 +1145,92 @@
     </message>
 </context>
 <context>
+    <name>Panel::PresetMenu</name>
+    <message>
+        <source>Prese&amp;ts</source>
+        <translation>Voreinste&amp;llungen</translation>
+    </message>
+    <message>
+        <source>The presets could not be copied to %1: %2</source>
+        <translation>Die Voreinstellungen konnten nicht nach %1 kopiert werden: %2</translation>
+    </message>
+    <message>
+        <source>&amp;Save as preset...</source>
+        <translation>Als Voreinstellung &amp;speichern ...</translation>
+    </message>
+    <message>
+        <source>Presets are kept beside the network file. Save the network first.</source>
+        <translation>Voreinstellungen liegen neben der Netzwerkdatei. Speichern Sie zuerst das Netzwerk.</translation>
+    </message>
+    <message>
+        <source>The file with the presets cannot be read.</source>
+        <translation>Die Datei mit den Voreinstellungen kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Re&amp;move preset</source>
+        <translation>Voreinstellung &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>There is no preset “%1” any more.</source>
+        <translation>Die Voreinstellung „%1“ gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Applied the preset “%1” to %2.</source>
+        <translation>Die Voreinstellung „%1“ wurde auf %2 angewendet.</translation>
+    </message>
+    <message>
+        <source>Not all values of the preset could be applied</source>
+        <translation>Nicht alle Werte der Voreinstellung konnten angewendet werden</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Als Voreinstellung speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset:</source>
+        <translation>&amp;Name der Voreinstellung:</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Eine Voreinstellung braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>Saved the preset “%1” in %2.</source>
+        <translation>Die Voreinstellung „%1“ wurde in %2 gespeichert.</translation>
+    </message>
+    <message>
+        <source>There is a preset “%1” already.</source>
+        <translation>Die Voreinstellung „%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it</source>
+        <translation>E&amp;rsetzen</translation>
+    </message>
+    <message>
+        <source>Removed the preset “%1”.</source>
+        <translation>Die Voreinstellung „%1“ wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::RecentMenu</name>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
     <name>Panel::Recovery</name>
     <message>
         <source>The unsaved values cannot be kept in %1: %2</source>
@@ -684,6 +1242,25 @@
     <message>
         <source>The session cannot be kept in %1.</source>
         <translation>Die Sitzung lässt sich nicht in %1 behalten.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ViewDock</name>
+    <message>
+        <source>Pool of this view</source>
+        <translation>Pool dieser Ansicht</translation>
+    </message>
+    <message>
+        <source>The pool whose values this view shows and edits</source>
+        <translation>Der Pool, dessen Werte diese Ansicht zeigt und bearbeitet</translation>
+    </message>
+    <message>
+        <source>Pool of the window</source>
+        <translation>Pool des Fensters</translation>
+    </message>
+    <message>
+        <source>%1 in pool %2</source>
+        <translation>%1 im Pool %2</translation>
     </message>
 </context>
 <context>
@@ -723,6 +1300,13 @@
     <message>
         <source>&amp;Open all sections</source>
         <translation>Alle Abschnitte &amp;aufklappen</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ViewPoolMenu</name>
+    <message>
+        <source>New view on &amp;pool</source>
+        <translation>Neue Ansicht auf &amp;Pool</translation>
     </message>
 </context>
 <context>

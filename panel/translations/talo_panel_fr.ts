@@ -2,6 +2,149 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>CountTexts</name>
+    <message>
+        <source>1 parameter</source>
+        <translation>1 paramètre</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parameters</source>
+        <translation>
+            <numerusform>%n paramètres</numerusform>
+            <numerusform>%n paramètres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 object</source>
+        <translation>1 objet</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n objects</source>
+        <translation>
+            <numerusform>%n objets</numerusform>
+            <numerusform>%n objets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 parameter found</source>
+        <translation>1 paramètre trouvé</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parameters found</source>
+        <translation>
+            <numerusform>%n paramètres trouvés</numerusform>
+            <numerusform>%n paramètres trouvés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>KeyList</name>
+    <message>
+        <source>Rows</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Next or previous control</source>
+        <translation>Contrôle suivant ou précédent</translation>
+    </message>
+    <message>
+        <source>Tab, Shift+Tab</source>
+        <translation>Tab, Maj+Tab</translation>
+    </message>
+    <message>
+        <source>Leave a text of several lines</source>
+        <translation>Quitter un texte de plusieurs lignes</translation>
+    </message>
+    <message>
+        <source>Ctrl+Tab, Ctrl+Shift+Tab</source>
+        <translation>Ctrl+Tab, Ctrl+Maj+Tab</translation>
+    </message>
+    <message>
+        <source>Change a slider, or go through choices</source>
+        <translation>Déplacer un curseur ou parcourir les choix</translation>
+    </message>
+    <message>
+        <source>Arrow keys, Page Up, Page Down</source>
+        <translation>Flèches, Page précédente, Page suivante</translation>
+    </message>
+    <message>
+        <source>Lowest or highest value</source>
+        <translation>Valeur la plus petite ou la plus grande</translation>
+    </message>
+    <message>
+        <source>Home, End</source>
+        <translation>Début, Fin</translation>
+    </message>
+    <message>
+        <source>Press a button, or switch a check box</source>
+        <translation>Appuyer sur un bouton ou basculer une case</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Enter what was typed</source>
+        <translation>Valider ce qui a été tapé</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Take back a typed number</source>
+        <translation>Annuler un nombre tapé</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Échap</translation>
+    </message>
+    <message>
+        <source>Take back a drag while the button is held</source>
+        <translation>Annuler un déplacement tant que le bouton est enfoncé</translation>
+    </message>
+    <message>
+        <source>Change the value of the control with the focus</source>
+        <translation>Modifier la valeur du contrôle qui a le focus</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Molette</translation>
+    </message>
+    <message>
+        <source>Menu of the row</source>
+        <translation>Menu de la ligne</translation>
+    </message>
+    <message>
+        <source>Menu key, right mouse button</source>
+        <translation>Touche Menu, bouton droit de la souris</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Ailleurs</translation>
+    </message>
+    <message>
+        <source>Filter: go to the first row that is found</source>
+        <translation>Filtre : aller à la première ligne trouvée</translation>
+    </message>
+    <message>
+        <source>Filter: show all</source>
+        <translation>Filtre : tout afficher</translation>
+    </message>
+    <message>
+        <source>History: go to the chosen state</source>
+        <translation>Historique : aller à l&apos;état choisi</translation>
+    </message>
+    <message>
+        <source>Cancel the computing</source>
+        <translation>Annuler le calcul</translation>
+    </message>
+    <message>
+        <source>Other commands</source>
+        <translation>Autres commandes</translation>
+    </message>
+</context>
+<context>
     <name>MessageTexts</name>
     <message>
         <source>Action %1.%2 was fired in pool %3.</source>
@@ -107,10 +250,6 @@
         <translation>Imprime le type de valeur, le nom et les préférences de chaque créateur d’entrées, séparés par des tabulations, et se termine.</translation>
     </message>
     <message>
-        <source>Loads this plug-in file instead of qtalo_inputs.talo. May be repeated.</source>
-        <translation>Charge ce fichier de greffon au lieu de qtalo_inputs.talo. Peut être répété.</translation>
-    </message>
-    <message>
         <source>FILE</source>
         <translation>FICHIER</translation>
     </message>
@@ -194,12 +333,87 @@
         <source>The name of a network is empty.</source>
         <translation>Le nom d’un réseau est vide.</translation>
     </message>
+    <message>
+        <source>Loads this plug-in file as well. Those beside qtalo_inputs.talo, and in the folders that TALO_PLUGIN_PATH names, are loaded anyway. May be repeated.</source>
+        <translation>Charge aussi ce fichier de greffon. Ceux qui se trouvent à côté de qtalo_inputs.talo et dans les dossiers que nomme TALO_PLUGIN_PATH sont chargés de toute façon. Peut être répété.</translation>
+    </message>
+    <message>
+        <source>Loads this plug-in file instead of those that are found. May be repeated.</source>
+        <translation>Charge ce fichier de greffon à la place de ceux qui sont trouvés. Peut être répété.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ComparisonDock</name>
+    <message>
+        <source>Compare pools</source>
+        <translation>Comparer les pools</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ComparisonView</name>
+    <message>
+        <source>First pool</source>
+        <translation>Premier pool</translation>
+    </message>
+    <message>
+        <source>Second pool</source>
+        <translation>Second pool</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <source>Compares the values of now</source>
+        <translation>Compare les valeurs actuelles</translation>
+    </message>
+    <message>
+        <source>Parameters that differ</source>
+        <translation>Paramètres qui diffèrent</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>1 parameter differs.</source>
+        <translation>1 paramètre diffère.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n parameters differ.</source>
+        <translation>
+            <numerusform>%n paramètres diffèrent.</numerusform>
+            <numerusform>%n paramètres diffèrent.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Panel::Document</name>
     <message>
         <source>No network is open.</source>
         <translation>Aucun réseau n’est ouvert.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::EditorsMenu</name>
+    <message>
+        <source>&amp;Editors</source>
+        <translation>&amp;Éditeurs</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::FileDrop</name>
+    <message>
+        <source>Only one network file can be opened at a time.</source>
+        <translation>Un seul fichier de réseau peut être ouvert à la fois.</translation>
+    </message>
+    <message>
+        <source>%1 is no file of this computer.</source>
+        <translation>%1 n&apos;est pas un fichier de cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>%1 is no file.</source>
+        <translation>%1 n&apos;est pas un fichier.</translation>
     </message>
 </context>
 <context>
@@ -300,6 +514,22 @@
         <source>&amp;End it</source>
         <translation>&amp;Arrêter</translation>
     </message>
+    <message>
+        <source>Re&amp;vert to the file</source>
+        <translation>Re&amp;venir au fichier</translation>
+    </message>
+    <message>
+        <source>%1 is gone. It is not listed any more.</source>
+        <translation>%1 n&apos;existe plus. Le fichier n&apos;est plus dans la liste.</translation>
+    </message>
+    <message>
+        <source>They become those of the file. The changes are lost, and so is the history.</source>
+        <translation>Elles redeviennent celles du fichier. Les modifications sont perdues, ainsi que l&apos;historique.</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>Re&amp;venir</translation>
+    </message>
 </context>
 <context>
     <name>Panel::FileNotices</name>
@@ -371,8 +601,16 @@
         <translation>Filtre</translation>
     </message>
     <message>
-        <source>Shows the parameters whose name, object or value has all of these words</source>
-        <translation>Montre les paramètres dont le nom, l’objet ou la valeur contient tous ces mots</translation>
+        <source>Only changed</source>
+        <translation>Modifiés seulement</translation>
+    </message>
+    <message>
+        <source>Shows the parameters whose name, label, help, object, kind or value has all of these words</source>
+        <translation>Affiche les paramètres dont le nom, le libellé, l&apos;aide, l&apos;objet, le type ou la valeur contient tous ces mots</translation>
+    </message>
+    <message>
+        <source>Shows only the parameters whose value differs from the default</source>
+        <translation>N&apos;affiche que les paramètres dont la valeur diffère de la valeur par défaut</translation>
     </message>
 </context>
 <context>
@@ -415,6 +653,14 @@
     <message>
         <source>Notifications</source>
         <translation>Notifications</translation>
+    </message>
+    <message>
+        <source>Editors</source>
+        <translation>Éditeurs</translation>
+    </message>
+    <message>
+        <source>Pool</source>
+        <translation>Pool</translation>
     </message>
 </context>
 <context>
@@ -487,10 +733,119 @@
     </message>
 </context>
 <context>
+    <name>Panel::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Touches</translation>
+    </message>
+    <message>
+        <source>&amp;About the Talo panel</source>
+        <translation>À &amp;propos du panneau Talo</translation>
+    </message>
+    <message>
+        <source>About the Talo panel</source>
+        <translation>À propos du panneau Talo</translation>
+    </message>
+    <message>
+        <source>Talo panel %1</source>
+        <translation>Panneau Talo %1</translation>
+    </message>
+    <message>
+        <source>The panel shows and edits the parameters of a network.
+
+It is under the MIT licence; the file LICENSE has its text.
+
+It runs with Qt %1.</source>
+        <translation>Le panneau affiche et modifie les paramètres d&apos;un réseau.
+
+Il est sous licence MIT ; son texte se trouve dans le fichier LICENSE.
+
+Il fonctionne avec Qt %1.</translation>
+    </message>
+</context>
+<context>
     <name>Panel::HistoryDock</name>
     <message>
         <source>History</source>
         <translation>Historique</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::IconPlace</name>
+    <message>
+        <source>%1 = %2</source>
+        <extracomment>A parameter and its value.</extracomment>
+        <translation>%1 = %2</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::KeysDialog</name>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Commande</translation>
+    </message>
+    <message>
+        <source>&amp;Copy as text</source>
+        <translation>&amp;Copier comme texte</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::LookMenu</name>
+    <message>
+        <source>&amp;Look</source>
+        <translation>&amp;Couleurs</translation>
+    </message>
+    <message>
+        <source>&amp;Text size</source>
+        <translation>&amp;Taille du texte</translation>
+    </message>
+    <message>
+        <source>&amp;Larger text</source>
+        <translation>Texte plus &amp;grand</translation>
+    </message>
+    <message>
+        <source>Ctrl++</source>
+        <translation>Ctrl++</translation>
+    </message>
+    <message>
+        <source>Ctrl+=</source>
+        <translation>Ctrl+=</translation>
+    </message>
+    <message>
+        <source>&amp;Smaller text</source>
+        <translation>Texte plus &amp;petit</translation>
+    </message>
+    <message>
+        <source>Ctrl+-</source>
+        <translation>Ctrl+-</translation>
+    </message>
+    <message>
+        <source>&amp;Usual text size</source>
+        <translation>Taille &amp;habituelle</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation>Ctrl+0</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>Comme le s&amp;ystème</translation>
     </message>
 </context>
 <context>
@@ -596,10 +951,93 @@
     </message>
 </context>
 <context>
+    <name>Panel::ObjectColumn</name>
+    <message>
+        <source>Order of the objects</source>
+        <translation>Ordre des objets</translation>
+    </message>
+    <message>
+        <source>The order in which the objects are listed</source>
+        <translation>L&apos;ordre dans lequel les objets sont listés</translation>
+    </message>
+    <message>
+        <source>In &amp;file order</source>
+        <translation>Dans l&apos;ordre du &amp;fichier</translation>
+    </message>
+    <message>
+        <source>By &amp;name</source>
+        <translation>Par &amp;nom</translation>
+    </message>
+    <message>
+        <source>By &amp;kind</source>
+        <translation>Par &amp;type</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ObjectCommands</name>
+    <message>
+        <source>Reset s&amp;ection to default</source>
+        <translation>Réinitialiser la s&amp;ection</translation>
+    </message>
+    <message>
+        <source>Reset &amp;object to default</source>
+        <translation>Réinitialiser l&apos;o&amp;bjet</translation>
+    </message>
+    <message>
+        <source>Reset &amp;all objects to default</source>
+        <translation>Réinitialiser &amp;tous les objets</translation>
+    </message>
+    <message>
+        <source>Copy sectio&amp;n</source>
+        <translation>Copier la sectio&amp;n</translation>
+    </message>
+    <message>
+        <source>Copy o&amp;bjects</source>
+        <translation>Copier les o&amp;bjets</translation>
+    </message>
+    <message>
+        <source>Paste into ob&amp;jects</source>
+        <translation>Coller dans les ob&amp;jets</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+C</source>
+        <translation>Ctrl+Alt+C</translation>
+    </message>
+    <message>
+        <source>Ctrl+Alt+V</source>
+        <translation>Ctrl+Alt+V</translation>
+    </message>
+</context>
+<context>
     <name>Panel::ObjectList</name>
     <message>
         <source>Objects</source>
         <translation>Objets</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ObjectModel</name>
+    <message>
+        <source>Object</source>
+        <translation>Objet</translation>
+    </message>
+    <message>
+        <source>Parameters found</source>
+        <translation>Paramètres trouvés</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ObjectView</name>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 et %n de plus</numerusform>
+            <numerusform>%1 et %n de plus</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -654,6 +1092,40 @@
     </message>
 </context>
 <context>
+    <name>Panel::PluginSearch</name>
+    <message>
+        <source>%1 is not loaded again: it is the file %2.</source>
+        <translation>%1 n’est pas chargé une nouvelle fois : c’est le fichier %2.</translation>
+    </message>
+    <message>
+        <source>%1 is loaded once only.</source>
+        <translation>%1 n’est chargé qu’une fois.</translation>
+    </message>
+    <message>
+        <source>%1 is not loaded: %2 has the same name and comes first.</source>
+        <translation>%1 n’est pas chargé : %2 porte le même nom et vient en premier.</translation>
+    </message>
+    <message>
+        <source>The folder %1 of TALO_PLUGIN_PATH cannot be read.</source>
+        <translation>Impossible de lire le dossier %1 de TALO_PLUGIN_PATH.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::PoolDifferences</name>
+    <message>
+        <source>Object</source>
+        <translation>Objet</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>In pool %1</source>
+        <translation>Dans le pool %1</translation>
+    </message>
+</context>
+<context>
     <name>Panel::PoolToolBar</name>
     <message>
         <source>Pool and filter</source>
@@ -673,6 +1145,92 @@
     </message>
 </context>
 <context>
+    <name>Panel::PresetMenu</name>
+    <message>
+        <source>Prese&amp;ts</source>
+        <translation>Prérégla&amp;ges</translation>
+    </message>
+    <message>
+        <source>The presets could not be copied to %1: %2</source>
+        <translation>Les préréglages n&apos;ont pas pu être copiés dans %1 : %2</translation>
+    </message>
+    <message>
+        <source>&amp;Save as preset...</source>
+        <translation>&amp;Enregistrer comme préréglage...</translation>
+    </message>
+    <message>
+        <source>Presets are kept beside the network file. Save the network first.</source>
+        <translation>Les préréglages sont rangés à côté du fichier du réseau. Enregistrez d&apos;abord le réseau.</translation>
+    </message>
+    <message>
+        <source>The file with the presets cannot be read.</source>
+        <translation>Le fichier des préréglages ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>Re&amp;move preset</source>
+        <translation>S&amp;upprimer un préréglage</translation>
+    </message>
+    <message>
+        <source>There is no preset “%1” any more.</source>
+        <translation>Le préréglage « %1 » n&apos;existe plus.</translation>
+    </message>
+    <message>
+        <source>Applied the preset “%1” to %2.</source>
+        <translation>Le préréglage « %1 » a été appliqué à %2.</translation>
+    </message>
+    <message>
+        <source>Not all values of the preset could be applied</source>
+        <translation>Certaines valeurs du préréglage n&apos;ont pas pu être appliquées</translation>
+    </message>
+    <message>
+        <source>Save as preset</source>
+        <translation>Enregistrer comme préréglage</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the preset:</source>
+        <translation>&amp;Nom du préréglage :</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Un préréglage a besoin d&apos;un nom.</translation>
+    </message>
+    <message>
+        <source>Saved the preset “%1” in %2.</source>
+        <translation>Le préréglage « %1 » a été enregistré dans %2.</translation>
+    </message>
+    <message>
+        <source>There is a preset “%1” already.</source>
+        <translation>Le préréglage « %1 » existe déjà.</translation>
+    </message>
+    <message>
+        <source>&amp;Replace it</source>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>Removed the preset “%1”.</source>
+        <translation>Le préréglage « %1 » a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::RecentMenu</name>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>Fichiers &amp;récents</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 dans %2</translation>
+    </message>
+    <message>
+        <source>&amp;Clear the list</source>
+        <translation>&amp;Vider la liste</translation>
+    </message>
+</context>
+<context>
     <name>Panel::Recovery</name>
     <message>
         <source>The unsaved values cannot be kept in %1: %2</source>
@@ -684,6 +1242,25 @@
     <message>
         <source>The session cannot be kept in %1.</source>
         <translation>La session ne peut pas être gardée dans %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ViewDock</name>
+    <message>
+        <source>Pool of this view</source>
+        <translation>Pool de cette vue</translation>
+    </message>
+    <message>
+        <source>The pool whose values this view shows and edits</source>
+        <translation>Le pool dont cette vue affiche et modifie les valeurs</translation>
+    </message>
+    <message>
+        <source>Pool of the window</source>
+        <translation>Pool de la fenêtre</translation>
+    </message>
+    <message>
+        <source>%1 in pool %2</source>
+        <translation>%1 dans le pool %2</translation>
     </message>
 </context>
 <context>
@@ -723,6 +1300,13 @@
     <message>
         <source>&amp;Open all sections</source>
         <translation>&amp;Déplier toutes les sections</translation>
+    </message>
+</context>
+<context>
+    <name>Panel::ViewPoolMenu</name>
+    <message>
+        <source>New view on &amp;pool</source>
+        <translation>Nouvelle vue sur un &amp;pool</translation>
     </message>
 </context>
 <context>

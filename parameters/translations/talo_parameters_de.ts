@@ -9,6 +9,126 @@
     </message>
 </context>
 <context>
+    <name>EditorMenu</name>
+    <message>
+        <source>&amp;Usual</source>
+        <translation>&amp;Üblicher</translation>
+    </message>
+    <message>
+        <source>%1 is not loaded</source>
+        <translation>%1 ist nicht geladen</translation>
+    </message>
+    <message>
+        <source>No parameter is chosen</source>
+        <translation>Es ist kein Parameter gewählt</translation>
+    </message>
+    <message>
+        <source>This &amp;parameter</source>
+        <translation>Dieser &amp;Parameter</translation>
+    </message>
+    <message>
+        <source>All parameters of this &amp;type</source>
+        <translation>Alle Parameter dieses &amp;Typs</translation>
+    </message>
+</context>
+<context>
+    <name>HostTexts</name>
+    <message>
+        <source>No creator is registered for %1.</source>
+        <translation>Für %1 ist kein Erzeuger eingetragen.</translation>
+    </message>
+    <message>
+        <source>There is no parameter.</source>
+        <translation>Es gibt keinen Parameter.</translation>
+    </message>
+    <message>
+        <source>%1 holds all of the wanted %2. Creators for %4: %3.</source>
+        <translation>%1 enthält alle gewünschten %2. Erzeuger für %4: %3.</translation>
+    </message>
+    <message>
+        <source>%1 shares most with the wanted %2. Creators for %4: %3.</source>
+        <translation>%1 hat am meisten mit den gewünschten %2 gemeinsam. Erzeuger für %4: %3.</translation>
+    </message>
+    <message>
+        <source>Without a pool source the editor drops every edit.</source>
+        <translation>Ohne eine Quelle für Pools verwirft der Editor jede Eingabe.</translation>
+    </message>
+    <message>
+        <source>The editor drops every edit as long as its source has no pool.</source>
+        <translation>Der Editor verwirft jede Eingabe, solange seine Quelle keinen Pool hat.</translation>
+    </message>
+    <message>
+        <source>This creator makes no Qt widgets.</source>
+        <translation>Dieser Erzeuger macht keine Qt-Widgets.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is loaded already.</source>
+        <translation>Das Plug-in %1 ist schon geladen.</translation>
+    </message>
+    <message>
+        <source>Cannot open the plug-in %1: %2</source>
+        <translation>Das Plug-in %1 lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>Cannot find the export %1 in the plug-in %2: %3</source>
+        <translation>Im Plug-in %2 fehlt der Export %1: %3</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 says that it is not compatible with this host (%2).</source>
+        <translation>Das Plug-in %1 sagt, dass es nicht zu diesem Programm passt (%2).</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not loaded.</source>
+        <translation>Das Plug-in %1 ist nicht geladen.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be unloaded. Editors in use: %2.</source>
+        <translation>Das Plug-in %1 lässt sich nicht entladen. Editoren in Gebrauch: %2.</translation>
+    </message>
+    <message>
+        <source>Cannot close the plug-in %1: %2</source>
+        <translation>Das Plug-in %1 lässt sich nicht schließen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ObjectClipboard</name>
+    <message>
+        <source>There are no values of objects on the clipboard.</source>
+        <translation>In der Zwischenablage sind keine Werte von Objekten.</translation>
+    </message>
+    <message>
+        <source>No values of %1 were copied.</source>
+        <translation>Es wurden keine Werte von %1 kopiert.</translation>
+    </message>
+    <message>
+        <source>%1 keeps a value: %2.</source>
+        <translation>%1 behält einen Wert: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ObjectValues</name>
+    <message>
+        <source>there is no such parameter</source>
+        <translation>diesen Parameter gibt es nicht</translation>
+    </message>
+    <message>
+        <source>it cannot be changed here</source>
+        <translation>er kann hier nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>it is of another type</source>
+        <translation>er hat einen anderen Typ</translation>
+    </message>
+    <message>
+        <source>it does not take a value in this pool</source>
+        <translation>er nimmt in diesem Pool keinen Wert an</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>RefusedNumber</name>
     <message>
         <source>Write a whole number without separators.</source>
@@ -80,6 +200,10 @@
     <message>
         <source>F1</source>
         <translation>F1</translation>
+    </message>
+    <message>
+        <source>&amp;Editors</source>
+        <translation>&amp;Editoren</translation>
     </message>
 </context>
 <context>
@@ -175,6 +299,30 @@
     </message>
 </context>
 <context>
+    <name>Talo::MixedButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a value and the objects that have it</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>verschieden</translation>
+    </message>
+    <message>
+        <source>%1: mixed values</source>
+        <translation>%1: verschiedene Werte</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Set all to</source>
+        <translation>Alle setzen auf</translation>
+    </message>
+</context>
+<context>
     <name>Talo::ModifiedIndicator</name>
     <message>
         <source>Reset %1 to its default</source>
@@ -203,6 +351,18 @@
         <source>All parameters of this object are advanced, or of no use now.</source>
         <translation>Alle Parameter dieses Objekts sind erweitert oder zurzeit ohne Bedeutung.</translation>
     </message>
+    <message>
+        <source>No parameter of this object differs from its default.</source>
+        <translation>Kein Parameter dieses Objekts weicht von seinem Standardwert ab.</translation>
+    </message>
+    <message>
+        <source>The objects have no parameter in common that could be shown now.</source>
+        <translation>Die Objekte haben keinen gemeinsamen Parameter, der jetzt gezeigt werden könnte.</translation>
+    </message>
+    <message>
+        <source>Reset s&amp;ection to default</source>
+        <translation>A&amp;bschnitt zurücksetzen</translation>
+    </message>
 </context>
 <context>
     <name>Talo::ParameterRow</name>
@@ -225,6 +385,11 @@
     <message>
         <source>%1 has no default to go back to.</source>
         <translation>%1 hat keinen Standardwert, auf den sich zurücksetzen ließe.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>vector, component</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>

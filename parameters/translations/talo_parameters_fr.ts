@@ -9,6 +9,126 @@
     </message>
 </context>
 <context>
+    <name>EditorMenu</name>
+    <message>
+        <source>&amp;Usual</source>
+        <translation>&amp;Habituel</translation>
+    </message>
+    <message>
+        <source>%1 is not loaded</source>
+        <translation>%1 n’est pas chargé</translation>
+    </message>
+    <message>
+        <source>No parameter is chosen</source>
+        <translation>Aucun paramètre n’est choisi</translation>
+    </message>
+    <message>
+        <source>This &amp;parameter</source>
+        <translation>Ce &amp;paramètre</translation>
+    </message>
+    <message>
+        <source>All parameters of this &amp;type</source>
+        <translation>Tous les paramètres de ce &amp;type</translation>
+    </message>
+</context>
+<context>
+    <name>HostTexts</name>
+    <message>
+        <source>No creator is registered for %1.</source>
+        <translation>Aucun créateur n&apos;est enregistré pour %1.</translation>
+    </message>
+    <message>
+        <source>There is no parameter.</source>
+        <translation>Il n&apos;y a pas de paramètre.</translation>
+    </message>
+    <message>
+        <source>%1 holds all of the wanted %2. Creators for %4: %3.</source>
+        <translation>%1 contient toutes les préférences voulues %2. Créateurs pour %4 : %3.</translation>
+    </message>
+    <message>
+        <source>%1 shares most with the wanted %2. Creators for %4: %3.</source>
+        <translation>%1 partage le plus avec les préférences voulues %2. Créateurs pour %4 : %3.</translation>
+    </message>
+    <message>
+        <source>Without a pool source the editor drops every edit.</source>
+        <translation>Sans source de pools, l&apos;éditeur ignore toute modification.</translation>
+    </message>
+    <message>
+        <source>The editor drops every edit as long as its source has no pool.</source>
+        <translation>L&apos;éditeur ignore toute modification tant que sa source n&apos;a pas de pool.</translation>
+    </message>
+    <message>
+        <source>This creator makes no Qt widgets.</source>
+        <translation>Ce créateur ne produit pas de widgets Qt.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is loaded already.</source>
+        <translation>Le greffon %1 est déjà chargé.</translation>
+    </message>
+    <message>
+        <source>Cannot open the plug-in %1: %2</source>
+        <translation>Impossible d&apos;ouvrir le greffon %1 : %2</translation>
+    </message>
+    <message>
+        <source>Cannot find the export %1 in the plug-in %2: %3</source>
+        <translation>L&apos;export %1 est introuvable dans le greffon %2 : %3</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 says that it is not compatible with this host (%2).</source>
+        <translation>Le greffon %1 indique qu&apos;il n&apos;est pas compatible avec ce programme (%2).</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is not loaded.</source>
+        <translation>Le greffon %1 n&apos;est pas chargé.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be unloaded. Editors in use: %2.</source>
+        <translation>Impossible de décharger le greffon %1. Éditeurs utilisés : %2.</translation>
+    </message>
+    <message>
+        <source>Cannot close the plug-in %1: %2</source>
+        <translation>Impossible de fermer le greffon %1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>ObjectClipboard</name>
+    <message>
+        <source>There are no values of objects on the clipboard.</source>
+        <translation>Le presse-papiers ne contient aucune valeur d&apos;objet.</translation>
+    </message>
+    <message>
+        <source>No values of %1 were copied.</source>
+        <translation>Aucune valeur de %1 n&apos;a été copiée.</translation>
+    </message>
+    <message>
+        <source>%1 keeps a value: %2.</source>
+        <translation>%1 garde une valeur : %2.</translation>
+    </message>
+</context>
+<context>
+    <name>ObjectValues</name>
+    <message>
+        <source>there is no such parameter</source>
+        <translation>ce paramètre n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>it cannot be changed here</source>
+        <translation>il ne peut pas être modifié ici</translation>
+    </message>
+    <message>
+        <source>it is of another type</source>
+        <translation>il est d&apos;un autre type</translation>
+    </message>
+    <message>
+        <source>it does not take a value in this pool</source>
+        <translation>il n&apos;accepte pas de valeur dans ce pool</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>RefusedNumber</name>
     <message>
         <source>Write a whole number without separators.</source>
@@ -80,6 +200,10 @@
     <message>
         <source>F1</source>
         <translation>F1</translation>
+    </message>
+    <message>
+        <source>&amp;Editors</source>
+        <translation>&amp;Éditeurs</translation>
     </message>
 </context>
 <context>
@@ -175,6 +299,30 @@
     </message>
 </context>
 <context>
+    <name>Talo::MixedButton</name>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a value and the objects that have it</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>différentes</translation>
+    </message>
+    <message>
+        <source>%1: mixed values</source>
+        <translation>%1 : valeurs différentes</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifier</translation>
+    </message>
+    <message>
+        <source>Set all to</source>
+        <translation>Donner à tous</translation>
+    </message>
+</context>
+<context>
     <name>Talo::ModifiedIndicator</name>
     <message>
         <source>Reset %1 to its default</source>
@@ -203,6 +351,18 @@
         <source>All parameters of this object are advanced, or of no use now.</source>
         <translation>Tous les paramètres de cet objet sont avancés ou sans usage pour le moment.</translation>
     </message>
+    <message>
+        <source>No parameter of this object differs from its default.</source>
+        <translation>Aucun paramètre de cet objet ne diffère de sa valeur par défaut.</translation>
+    </message>
+    <message>
+        <source>The objects have no parameter in common that could be shown now.</source>
+        <translation>Les objets n&apos;ont aucun paramètre commun qui puisse être affiché maintenant.</translation>
+    </message>
+    <message>
+        <source>Reset s&amp;ection to default</source>
+        <translation>Réinitialiser la s&amp;ection</translation>
+    </message>
 </context>
 <context>
     <name>Talo::ParameterRow</name>
@@ -225,6 +385,11 @@
     <message>
         <source>%1 has no default to go back to.</source>
         <translation>%1 n’a pas de valeur par défaut à rétablir.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>vector, component</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>

@@ -49,6 +49,25 @@ TEST_F(FractalFormulaTest, TheLargestPartsHaveTheirTrueEdge) {
     EXPECT_FALSE(resultOf(Formula::Mandelbrot, {-0.75, 0.05}).stays);
 }
 
+TEST_F(FractalFormulaTest, TheConstantMakesAnotherJuliaSet) {
+    EXPECT_FALSE(resultOf(Formula::Julia, {1.3, 0}).stays);
+    settings.juliaReal = -1;
+    settings.juliaImaginary = 0;
+    // 0 and -1 follow each other for ever.
+    EXPECT_TRUE(resultOf(Formula::Julia, {0, 0}).stays);
+    expectNear(formula(Formula::Julia).orbitOf({0.5, 0}, 2).at(1), {-0.75, 0}, 1e-12);
+    auto const fixed = formula(Formula::Julia).focus();
+    expectNear(fixed * fixed - 1.0, fixed, 1e-12);
+    settings.juliaReal = 2.5;
+    settings.juliaImaginary = -std::numeric_limits<double>::infinity();
+    settings.limit();
+    EXPECT_EQ(settings.juliaReal, 2);
+    EXPECT_EQ(settings.juliaImaginary, -2);
+    settings.juliaReal = std::numeric_limits<double>::quiet_NaN();
+    settings.limit();
+    EXPECT_EQ(settings.juliaReal, FractalSettings().juliaReal);
+}
+
 TEST_F(FractalFormulaTest, CountsTheStepsToTheEscape) {
     settings.smooth = false;
     // 0, 3, 12, 147, 21612: the fifth place is the first whose square exceeds 65536.
