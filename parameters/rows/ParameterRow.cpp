@@ -25,10 +25,6 @@ namespace {
 // In pixels. Higher editors have their name beside their first line.
 constexpr int highestCentredEditor = 100;
 
-// In characters: a short number, and one with a slider beside it.
-constexpr int leastFieldWidth = 8;
-constexpr int leastEditorWidth = 20;
-
 // Shares of what a form has to spare: the unit stays behind an editor that cannot grow, and leaves the room to others.
 constexpr int editorShare = 1000;
 constexpr int unitShare = 1;
@@ -190,9 +186,7 @@ void ParameterRow::showUnit(QString const& unit) {
         return;
     }
     if (!unitLabel_) {
-        unitLabel_ = new MutedLabel;
-        unitLabel_->setTextFormat(Qt::PlainText);
-        unitLabel_->setContentsMargins(0, 4, 0, 4);
+        unitLabel_ = makeUnitLabel();
         layout_->insertWidget(2, unitLabel_, unitShare);
     }
     unitLabel_->setText(unit);
@@ -362,11 +356,7 @@ void ParameterRow::setComponent(ParameterVector const& vector, int component, bo
 }
 
 int ParameterRow::leastWidth() const {
-    if (!cell_.widget())
-        return 0;
-    int const characters = cell_.controls().size() > 1 ? leastEditorWidth : leastFieldWidth;
-    int const editor = qMax(cell_.leastWidth(), characters * fontMetrics().averageCharWidth());
-    return editor + widthBesideEditor(cell_, scroller_, *layout_) - names_->vectorWidth();
+    return cell_.widget() ? leastRowWidth(cell_, scroller_, *layout_) - names_->vectorWidth() : 0;
 }
 
 void ParameterRow::fitInto(int width) {
@@ -403,18 +393,8 @@ QString ParameterRow::toolTipText() const {
     return parameter ? rowToolTip(parameter) : QString();
 }
 
-QString ParameterRow::noteText() const {
-    auto const parameter = parameter_.strong();
-    if (!parameter)
-        return tr("was removed");
-    if (!parameter->keepsValuesPerPool())
-        return {};
-    auto const current = pool();
-    return current ? tr("in pool %1").arg(QString::fromStdString(current->Name())) : tr("no pool");
-}
-
 void ParameterRow::showNote() {
-    names_->setNote(noteText());
+    names_->setNote(rowNote(parameter_.strong(), pool()));
 }
 
 } // namespace Talo

@@ -154,7 +154,6 @@ private:
     std::vector<Kolt::ParameterPtr> livingVector() const;
     void updateAccessibility();
     void showNote();
-    QString noteText() const;
     QString removedText() const;
 
     QString const objectName_;

@@ -1,6 +1,14 @@
 #include <parameters/rows/RowFit.hpp>
 
+#include <parameters/rows/MutedLabel.hpp>
+
 namespace Talo {
+
+namespace {
+
+// In characters: a short number, and one with a slider beside it.
+constexpr int leastFieldWidth = 8;
+constexpr int leastEditorWidth = 20;
 
 int widthBesideEditor(EditorCell const& cell, QPointer<EditorScroller> const& scroller, QHBoxLayout const& layout) {
     auto const* const editor = cell.widget();
@@ -12,6 +20,21 @@ int widthBesideEditor(EditorCell const& cell, QPointer<EditorScroller> const& sc
             width += item->minimumSize().width() + layout.spacing();
     }
     return width;
+}
+
+} // namespace
+
+int leastRowWidth(EditorCell const& cell, QPointer<EditorScroller> const& scroller, QHBoxLayout const& layout) {
+    int const characters = cell.controls().size() > 1 ? leastEditorWidth : leastFieldWidth;
+    int const editor = qMax(cell.leastWidth(), characters * cell.widget()->fontMetrics().averageCharWidth());
+    return editor + widthBesideEditor(cell, scroller, layout);
+}
+
+QLabel* makeUnitLabel() {
+    auto* const label = new MutedLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setContentsMargins(0, 4, 0, 4);
+    return label;
 }
 
 void fitEditor(EditorCell& cell, QPointer<EditorScroller>& scroller, QHBoxLayout& layout, int width) {

@@ -87,6 +87,14 @@ QString creatorExplanation(Kolt::VParameter const& parameter, EditorCell const& 
              escaped(RowTexts::tr("Editor: %1").arg(hostText(QString::fromStdString(cell.choice().explanation)))));
 }
 
+QString rowNote(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool) {
+    if (!parameter)
+        return RowTexts::tr("was removed");
+    if (!parameter->keepsValuesPerPool())
+        return {};
+    return pool ? RowTexts::tr("in pool %1").arg(QString::fromStdString(pool->Name())) : RowTexts::tr("no pool");
+}
+
 QString controlDescription(QString const& objectName, Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
     auto const& typeName = parameter.declaredType();
     auto const* const format = ValueFormat::ofType(typeName);
