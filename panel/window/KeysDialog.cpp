@@ -3,18 +3,19 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialogButtonBox>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace Panel {
 
 namespace {
 
-// In lines; the table scrolls.
-constexpr int shownLines = 24;
-// In characters.
-constexpr int shownCharacters = 80;
+// In lines of text; the table scrolls.
+constexpr int shownLines = 40;
 
 } // namespace
 
@@ -34,9 +35,11 @@ KeysDialog::KeysDialog(QVector<KeyGroup> const& groups, QWidget* parent)
         for (auto const& entry : group.entries)
             addRow(entry.command, entry.keys);
     }
-    table_->resizeColumnToContents(0);
+    table_->setWordWrap(false);
+    table_->resizeColumnsToContents();
     table_->resizeRowsToContents();
     table_->horizontalHeader()->setStretchLastSection(true);
+    table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
 
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     auto* const copyButton = buttons->addButton(tr("&Copy as text"), QDialogButtonBox::ActionRole);
@@ -46,7 +49,12 @@ KeysDialog::KeysDialog(QVector<KeyGroup> const& groups, QWidget* parent)
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(table_);
     layout->addWidget(buttons);
-    resize(QSize(shownCharacters * fontMetrics().averageCharWidth(), shownLines * fontMetrics().lineSpacing()));
+    int const columns = table_->horizontalHeader()->length() + 2 * table_->frameWidth();
+    int const bar = table_->verticalScrollBar()->sizeHint().width();
+    auto const margins = layout->contentsMargins();
+    // The table scrolls where the screen is smaller.
+    resize(QSize(columns + bar + margins.left() + margins.right(), shownLines * fontMetrics().lineSpacing())
+               .boundedTo(QGuiApplication::primaryScreen()->availableSize()));
 }
 
 KeysDialog::~KeysDialog() = default;

@@ -13,7 +13,11 @@ QColor mutedText(QPalette const& palette) {
 }
 
 MutedLabel::MutedLabel(QString const& text, QWidget* parent) : QLabel(text, parent), look_(new ParentLook(*this)) {
-    connect(look_, &ParentLook::changed, this, &MutedLabel::updateColour);
+    connect(look_, &ParentLook::changed, this, [this] {
+        updateColour();
+        // A label that never had a text does not notice another font by itself.
+        setIndent(indent());
+    });
     updateColour();
 }
 

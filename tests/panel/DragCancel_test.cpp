@@ -1,9 +1,8 @@
 // Escape during a drag of a control.
 
 #include "EditingTest.hpp"
+#include "support/SliderDrag.hpp"
 
-#include <QDial>
-#include <QScrollBar>
 #include <QShortcut>
 
 using testing::ElementsAre;
@@ -13,17 +12,6 @@ namespace {
 
 class DragCancelTest : public EditingTest {
 protected:
-    static QPoint middle(QWidget const* widget) { return widget->rect().center(); }
-    static QPoint handle(QSlider const* slider) {
-        QStyleOptionSlider option;
-        option.initFrom(slider);
-        option.orientation = slider->orientation();
-        option.minimum = slider->minimum();
-        option.maximum = slider->maximum();
-        option.sliderPosition = slider->sliderPosition();
-        option.sliderValue = slider->value();
-        return slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider).center();
-    }
     static void move(QWidget* widget, QPoint const& place) {
         QMouseEvent event(QEvent::MouseMove, place, widget->mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
                           Qt::NoModifier);
@@ -45,7 +33,7 @@ TEST_F(DragCancelTest, EscapeBringsBackWhatHeldBeforeAndMakesNoStep) {
     for (auto const* const name : {"int", "double"}) {
         auto* const dragged = slider(name);
         int const before = dragged->value();
-        auto place = handle(dragged);
+        auto place = handleOf(dragged);
         press(dragged, place);
         place.rx() += 40;
         move(dragged, place);
@@ -66,7 +54,7 @@ TEST_F(DragCancelTest, EscapeBringsBackWhatHeldBeforeAndMakesNoStep) {
 
 TEST_F(DragCancelTest, TheNextDragIsAStepAgain) {
     auto* const dragged = slider("int");
-    auto place = handle(dragged);
+    auto place = handleOf(dragged);
     press(dragged, place);
     move(dragged, place + QPoint(40, 0));
     escape();
@@ -85,7 +73,7 @@ TEST_F(DragCancelTest, WhatWasUndoneCanStillBeRedone) {
     auto const after = valuesNow();
     window->undo();
     auto* const dragged = slider("double");
-    auto const place = handle(dragged);
+    auto const place = handleOf(dragged);
     press(dragged, place);
     move(dragged, place + QPoint(40, 0));
     escape();
@@ -100,7 +88,7 @@ TEST_F(DragCancelTest, EscapeCancelsNothingElseDuringADrag) {
     int cancelled = 0;
     QObject::connect(&shortcut, &QShortcut::activated, [&] { ++cancelled; });
     auto* const dragged = slider("int");
-    auto const place = handle(dragged);
+    auto const place = handleOf(dragged);
     press(dragged, place);
     move(dragged, place + QPoint(40, 0));
     escape();
@@ -114,7 +102,7 @@ TEST_F(DragCancelTest, EscapeCancelsNothingElseDuringADrag) {
 
 TEST_F(DragCancelTest, AReleaseThatNeverCameDoesNotLockTheMouse) {
     auto* const dragged = slider("int");
-    auto const place = handle(dragged);
+    auto const place = handleOf(dragged);
     press(dragged, place);
     move(dragged, place + QPoint(40, 0));
     escape();

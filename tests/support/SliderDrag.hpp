@@ -8,10 +8,8 @@
 #include <QStyleOptionSlider>
 #include <QtTest/QTest>
 
-/// Drags the handle of a slider with the mouse, by these numbers of pixels one after another. `afterMove` is called
-/// after each move.
-inline void dragHandle(QSlider* slider, std::initializer_list<int> distances,
-                       std::function<void()> const& afterMove = {}) {
+/// The middle of a slider's handle.
+inline QPoint handleOf(QSlider const* slider) {
     QStyleOptionSlider option;
     option.initFrom(slider);
     option.orientation = slider->orientation();
@@ -19,7 +17,14 @@ inline void dragHandle(QSlider* slider, std::initializer_list<int> distances,
     option.maximum = slider->maximum();
     option.sliderPosition = slider->sliderPosition();
     option.sliderValue = slider->value();
-    auto place = slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider).center();
+    return slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider).center();
+}
+
+/// Drags the handle of a slider with the mouse, by these numbers of pixels one after another. `afterMove` is called
+/// after each move.
+inline void dragHandle(QSlider* slider, std::initializer_list<int> distances,
+                       std::function<void()> const& afterMove = {}) {
+    auto place = handleOf(slider);
     QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, place);
     for (int const distance : distances) {
         place.rx() += distance;
