@@ -7,16 +7,41 @@ namespace Fractal {
 
 using Format = ExporterObject::Format;
 
+namespace {
+
+/// One sentence: of a file, of the picture of a pool, and of a picture without a pool.
+struct JobTexts {
+    char const* ofFile;
+    char const* ofPool;
+    char const* ofPicture;
+};
+
+// In the order of PictureJob::Sentence.
+constexpr JobTexts jobTexts[] = {
+    {QT_TRANSLATE_NOOP("Fractal::PictureJob", "Computing %1"),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "Computing the picture of %1"),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "Computing the picture")},
+    {QT_TRANSLATE_NOOP("Fractal::PictureJob", "There is not enough memory for %1."),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "There is not enough memory for the picture of %1."),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "There is not enough memory for the picture.")},
+    {QT_TRANSLATE_NOOP("Fractal::PictureJob", "Given up: %1."),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "Given up: the picture of %1."),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "Given up: the picture.")},
+    {QT_TRANSLATE_NOOP("Fractal::PictureJob", "Cancelled: %1."),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "Cancelled: the picture of %1."),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "Cancelled: the picture.")},
+    {QT_TRANSLATE_NOOP("Fractal::PictureJob", "Wrote %1."),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "Computed the picture of %1."),
+     QT_TRANSLATE_NOOP("Fractal::PictureJob", "Computed the picture.")},
+};
+
+} // namespace
+
 PictureJob::PictureJob(ComputingNetwork const& network, Kolt::PoolPtr const& pool)
     : PictureJob(network, pool, QString(), Format::Png) {}
 
 PictureJob::PictureJob(ComputingNetwork const& network, Kolt::PoolPtr const& pool, QString file, Format format)
-    : pool_(pool),
-      file_(std::move(file)),
-      format_(format),
-      title_(isToBeWritten() ? file_
-             : pool          ? tr("the picture of %1").arg(QString::fromStdString(pool->Name()))
-                             : tr("the picture")) {
+    : pool_(pool), file_(std::move(file)), format_(format) {
     request_.settings = network.settings(pool);
     request_.size = {request_.settings.width, request_.settings.height()};
     // In a PDF the texts are around the picture, not on it.
@@ -32,9 +57,7 @@ void PictureJob::run(Worker& worker) {
     clock.start();
     auto const reportProgress = [&](int percent) {
         percent_ = percent;
-        writeStatus(QStringLiteral("%1 <a href=\"%2\">%3</a>")
-                        .arg(tr("Computing %1: %2 %.").arg(title_.toHtmlEscaped(), QString::number(percent)),
-                             QLatin1String(CancelLink), tr("Cancel")));
+        writeStatus(progressText(percent));
         worker.reportProgress();
     };
     reportProgress(0);
@@ -43,7 +66,7 @@ void PictureJob::run(Worker& worker) {
     if (cancelled)
         return;
     if (!points) {
-        problem_ = tr("There is not enough memory for %1.").arg(title_);
+        problem_ = say(Sentence::NoMemory);
         return;
     }
     image_ = points->image;
@@ -53,8 +76,21 @@ void PictureJob::run(Worker& worker) {
     summary_ = summaryOf(*points, static_cast<double>(clock.elapsed()) / 1000);
 }
 
+QString PictureJob::say(Sentence sentence) const {
+    auto const& texts = jobTexts[static_cast<int>(sentence)];
+    if (isToBeWritten())
+        return tr(texts.ofFile).arg(file_);
+    return pool_ ? tr(texts.ofPool).arg(QString::fromStdString(pool_->Name())) : tr(texts.ofPicture);
+}
+
+QString PictureJob::progressText(int percent) const {
+    //: What is computed, and how much of it is done.
+    auto const text = tr("%1: %2 %.").arg(say(Sentence::Computing).toHtmlEscaped(), QString::number(percent));
+    return QStringLiteral("%1 <a href=\"%2\">%3</a>").arg(text, QLatin1String(CancelLink), tr("Cancel"));
+}
+
 QString PictureJob::problem() const {
-    return failure().isEmpty() ? problem_ : tr("%1 Given up: %2.").arg(failure(), title_);
+    return failure().isEmpty() ? problem_ : failure() + QLatin1Char(' ') + say(Sentence::GivenUp);
 }
 
 void PictureJob::writeStatus(QString const& text) const {

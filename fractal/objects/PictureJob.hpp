@@ -28,9 +28,13 @@ public:
     void writeStatus(QString const& text) const;
 
     bool isToBeWritten() const { return !file_.isEmpty(); }
+    /// The file that is to be written; empty for a picture to view.
+    QString const& file() const { return file_; }
     Kolt::PoolPtr const& pool() const { return pool_; }
-    /// Names the picture in texts for the user.
-    QString const& title() const { return title_; }
+    /// What is said of the job: that it goes on, was cancelled, or is done.
+    enum class Sentence { Computing, NoMemory, GivenUp, Cancelled, Done };
+    /// A sentence that names the file, or else the picture and its pool, for the user.
+    QString say(Sentence sentence) const;
     /// The progress in percent. Any thread.
     int percent() const { return percent_; }
 
@@ -47,12 +51,13 @@ public:
     bool isReplaced = false;
 
 private:
+    /// How far the job is, as rich text with a link that cancels it.
+    QString progressText(int percent) const;
     QString summaryOf(FractalPoints const& points, double seconds) const;
 
     Kolt::PoolPtr const pool_;
     QString const file_;
     ExporterObject::Format const format_;
-    QString const title_;
     Picture::RenderRequest request_;
     std::vector<StatusReport> reports_;
     std::atomic<int> percent_{0};

@@ -72,13 +72,13 @@ int RenderQueue::percent() const {
 }
 
 QString RenderQueue::description() const {
-    return jobs_.empty() ? QString() : tr("Computing %1").arg(jobs_.front()->title());
+    return jobs_.empty() ? QString() : jobs_.front()->say(PictureJob::Sentence::Computing);
 }
 
 QString RenderQueue::unwritten() const {
     for (auto const& job : jobs_)
         if (job->isToBeWritten())
-            return tr("%1 is still being written.").arg(job->title());
+            return tr("%1 is still being written.").arg(job->file());
     return {};
 }
 
@@ -106,13 +106,11 @@ void RenderQueue::finish(PictureJob const& job) {
         return;
     QString outcome;
     if (job.cancelled && job.image().isNull())
-        outcome = tr("Cancelled: %1.").arg(job.title());
+        outcome = job.say(PictureJob::Sentence::Cancelled);
     else if (!job.problem().isEmpty())
         outcome = job.problem();
-    else if (job.isToBeWritten())
-        outcome = tr("Wrote %1.").arg(job.title());
     else
-        outcome = tr("Computed %1.").arg(job.title());
+        outcome = job.say(PictureJob::Sentence::Done);
 
     // A file name may look like rich text.
     job.writeStatus(Qt::mightBeRichText(outcome) ? QStringLiteral("<p>%1</p>").arg(outcome.toHtmlEscaped()) : outcome);

@@ -4,6 +4,7 @@
 #include <fractal/ui/RenderQueue.hpp>
 #include <mutex>
 #include <QImage>
+#include <QTranslator>
 #include <thread>
 
 using Fractal::ExporterObject;
@@ -109,6 +110,22 @@ TEST_F(RenderQueueTest, ComputesThePictureOfThePool) {
     EXPECT_EQ(status(), "Computed the picture of draft.");
     EXPECT_THAT(valueOf("render.progress", draft), StartsWith("96 × 72 points, 50 steps at most, 1 × 1 samples: "));
     EXPECT_THAT(warnings.texts, IsEmpty());
+}
+
+TEST_F(RenderQueueTest, WhatItSaysIsTranslatedAsWholeSentences) {
+    struct Marks : QTranslator {
+        bool isEmpty() const override { return false; }
+        QString translate(char const* context, char const* text, char const*, int) const override {
+            return QByteArray(context).startsWith("Fractal") ? QLatin1Char('[') + QLatin1String(text) + QLatin1Char(']')
+                                                             : QString();
+        }
+    } marks;
+    QCoreApplication::installTranslator(&marks);
+    renderQueue.start(draft);
+    EXPECT_EQ(renderQueue.description(), QStringLiteral("[Computing the picture of draft]"));
+    ASSERT_TRUE(ends());
+    EXPECT_THAT(messages, ElementsAre("[Computed the picture of draft.]"));
+    QCoreApplication::removeTranslator(&marks);
 }
 
 TEST_F(RenderQueueTest, TheWorkerItselfReportsItsStatus) {
