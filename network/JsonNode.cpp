@@ -4,11 +4,13 @@
 #include <cmath>
 #include <lattice/ValueTrait.hpp>
 #include <limits>
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
 #include <QStringList>
+#include <QVarLengthArray>
 
 namespace Talo {
 
@@ -39,6 +41,40 @@ QString described(QJsonValue const& value) {
     return "nothing";
 }
 
+/// The keys of an object. Most objects have few, for which a list is faster than a set.
+class TakenKeys {
+public:
+    /// False if the key was taken already.
+    bool take(QString const& key) {
+        if (few_.contains(key) || many_.contains(key))
+            return false;
+        if (few_.size() < mostInList)
+            few_.append(key);
+        else
+            many_.insert(key);
+        return true;
+    }
+
+private:
+    static constexpr int mostInList = 12;
+    QVarLengthArray<QString, mostInList> few_;
+    QSet<QString> many_;
+};
+
+/// Whether a text has no half of a surrogate pair.
+bool isWhole(QString const& text) {
+    for (int place = 0; place < text.size(); ++place) {
+        if (!text.at(place).isSurrogate())
+            continue;
+        bool const isPair =
+            text.at(place).isHighSurrogate() && place + 1 < text.size() && text.at(place + 1).isLowSurrogate();
+        if (!isPair)
+            return false;
+        ++place;
+    }
+    return true;
+}
+
 } // namespace
 
 /// Finds out where the values stand that Qt read: it keeps no places. The text was accepted by Qt's parser, so this one
@@ -58,7 +94,7 @@ public:
         else if (node.value_.isArray())
             scanArray(node);
         else if (node.value_.isString())
-            readString();
+            skipString();
         else
             next_ = std::find_if(next_, end_, [](char c) { return isBlank(c) || c == ',' || c == ']' || c == '}'; });
     }
@@ -83,31 +119,45 @@ private:
         return true;
     }
 
-    QString readString() {
-        auto const* const begin = next_++;
+    /// Goes behind a text; says whether characters in it are written by a backslash.
+    bool skipString() {
+        bool isEscaped = false;
+        ++next_;
         while (next_ != end_ && *next_ != '"') {
-            if (*next_ == '\\')
+            if (*next_ == '\\') {
+                isEscaped = true;
                 ++next_;
+            }
             advance();
         }
         ++next_;
-        auto const text = "[" + QByteArray(begin, static_cast<int>(next_ - begin)) + "]";
-        return QJsonDocument::fromJson(text).array().at(0).toString();
+        return isEscaped;
+    }
+    /// Reads a key. Keys are few and come again and again, so all of one text share it.
+    QString readKey() {
+        auto const* const begin = next_;
+        bool const isEscaped = skipString();
+        QByteArray const written(begin, static_cast<int>(next_ - begin));
+        auto& known = keys_[written];
+        if (known.isNull())
+            known = isEscaped ? QJsonDocument::fromJson('[' + written + ']').array().at(0).toString()
+                              : QString::fromUtf8(written.constData() + 1, written.size() - 2);
+        return known;
     }
 
     void scanObject(JsonNode& node) {
         auto const object = node.value_.toObject();
-        QSet<QString> keys;
+        TakenKeys keys;
+        node.children_.reserve(static_cast<std::size_t>(object.size()));
         ++next_;
         while (!skip('}')) {
             skip(',');
             skipBlanks();
             JsonNode member;
             member.keyLine_ = line_;
-            member.key_ = readString();
-            if (keys.contains(member.key_))
+            member.key_ = readKey();
+            if (!keys.take(member.key_))
                 throw FormatError{member.keyLine_, "expected each key once, found " + quoted(member.key_) + " again"};
-            keys.insert(member.key_);
             skip(':');
             member.value_ = object.value(member.key_);
             scan(member);
@@ -117,6 +167,7 @@ private:
 
     void scanArray(JsonNode& node) {
         auto const array = node.value_.toArray();
+        node.children_.reserve(static_cast<std::size_t>(array.size()));
         ++next_;
         for (auto const& value : array) {
             skip(',');
@@ -128,6 +179,8 @@ private:
         skip(']');
     }
 
+    // By what stands in the file.
+    QHash<QByteArray, QString> keys_;
     char const* next_;
     char const* const end_;
     int line_ = 1;
@@ -158,8 +211,7 @@ QString JsonNode::text(QString const& what) const {
     if (!value_.isString())
         refuse(what + ", a text");
     auto const read = value_.toString();
-    // Half of a surrogate pair.
-    if (QString::fromStdString(read.toStdString()) != read)
+    if (!isWhole(read))
         refuse(what + ", a text of whole Unicode characters");
     return read;
 }
@@ -210,7 +262,7 @@ std::vector<JsonNode> const& JsonNode::members(QString const& what) const {
 
 std::vector<JsonNode> const& JsonNode::members(QString const& what, std::initializer_list<char const*> known) const {
     for (auto const& member : members(what)) {
-        if (std::any_of(known.begin(), known.end(), [&](auto const* key) { return member.key_ == key; }))
+        if (std::any_of(known.begin(), known.end(), [&](auto const* key) { return member.key_ == QLatin1String(key); }))
             continue;
         QStringList keys;
         for (auto const* const key : known)
@@ -222,8 +274,8 @@ std::vector<JsonNode> const& JsonNode::members(QString const& what, std::initial
 }
 
 JsonNode const* JsonNode::find(char const* key) const {
-    auto const found =
-        std::find_if(children_.begin(), children_.end(), [&](auto const& child) { return child.key_ == key; });
+    auto const found = std::find_if(children_.begin(), children_.end(),
+                                    [&](auto const& child) { return child.key_ == QLatin1String(key); });
     return value_.isObject() && found != children_.end() ? &*found : nullptr;
 }
 

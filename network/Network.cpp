@@ -77,7 +77,9 @@ Network::LoadResult Network::load(QString const& file, ObjectFactory const& make
         return {nullptr, file + ":0: expected a file that can be read, found: " +
                              QString::fromLocal8Bit(content.reason().c_str())};
     try {
-        return {NetworkReader::read(QByteArray::fromStdString(content.bytes()), file, makeObject), QString()};
+        auto const& bytes = content.bytes();
+        auto const json = QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size()));
+        return {NetworkReader::read(json, file, makeObject), QString()};
     } catch (FormatError const& error) {
         return {nullptr, file + ':' + QString::number(error.line) + ": " + error.text};
     }

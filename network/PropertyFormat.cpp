@@ -4,7 +4,9 @@
 #include <limits>
 #include <network/ValueFormat.hpp>
 #include <QDir>
+#include <QHash>
 #include <QJsonObject>
+#include <QSet>
 #include <QStringList>
 
 namespace Talo {
@@ -13,17 +15,16 @@ PropertyFormat::PropertyFormat(QString typeKey, QString folder)
     : typeKey_(std::move(typeKey)), folder_(std::move(folder)) {}
 
 PropertyFormat::Kind PropertyFormat::kindOf(QString const& name) const {
-    if (QStringList{"min", "max", "increment", "softMinimum", "softMaximum"}.contains(name))
-        return typeKey_ == "double" ? Kind::Real : Kind::Integer;
-    if (QStringList{"precision", "wrap"}.contains(name))
-        return Kind::Integer;
-    if (QStringList{"tooltip", "inputmask", "Extension", "label", "help", "unit", "group", "rowOf", "visibleWhen",
-                    "enabledWhen"}
-            .contains(name))
-        return Kind::Text;
-    if (QStringList{"advanced", "readOnly"}.contains(name))
-        return Kind::Truth;
-    return name == "icon" ? Kind::Icon : Kind::Free;
+    auto const bound = typeKey_ == "double" ? Kind::Real : Kind::Integer;
+    // Asked for each property of a network, of which there may be a hundred thousand.
+    static QHash<QString, Kind> const kinds = {
+        {"precision", Kind::Integer}, {"wrap", Kind::Integer},     {"tooltip", Kind::Text},
+        {"inputmask", Kind::Text},    {"Extension", Kind::Text},   {"label", Kind::Text},
+        {"help", Kind::Text},         {"unit", Kind::Text},        {"group", Kind::Text},
+        {"rowOf", Kind::Text},        {"visibleWhen", Kind::Text}, {"enabledWhen", Kind::Text},
+        {"advanced", Kind::Truth},    {"readOnly", Kind::Truth},   {"icon", Kind::Icon}};
+    static QSet<QString> const bounds = {"min", "max", "increment", "softMinimum", "softMaximum"};
+    return bounds.contains(name) ? bound : kinds.value(name, Kind::Free);
 }
 
 Kolt::ValuePtr PropertyFormat::readProperty(JsonNode const& node) const {

@@ -1,6 +1,7 @@
 #include <lattice/InputRegistry.hpp>
 
 #include <algorithm>
+#include <dlfcn.h>
 #include <lattice/HostObserver.hpp>
 #include <tessera/NoDestructor.hpp>
 #include <tuple>
@@ -19,11 +20,13 @@ Rank rankOf(VInputCreatorBase const& creator, VCreationPreferences::Names const&
     return {shared, creator.priority(), -static_cast<std::ptrdiff_t>(preferences.names().size())};
 }
 
-/// Decides between creators of one rank by their names, which do not depend on the order of loading.
-bool comesBefore(VInputCreatorBase const& creator, VInputCreatorBase const& other) {
-    auto const& names = creator.preferences()->names();
-    auto const& otherNames = other.preferences()->names();
-    return names == otherNames ? creator.Name() < other.Name() : names < otherNames;
+/// The base name of the file, a plug-in or the program, that contains the creator's class; empty if that is unknown.
+std::string fileOf(VInputCreatorBase const& creator) {
+    Dl_info info{};
+    if (dladdr(&typeid(creator), &info) == 0 || !info.dli_fname)
+        return {};
+    std::string const file = info.dli_fname;
+    return file.substr(file.rfind('/') + 1);
 }
 
 } // namespace
@@ -45,7 +48,12 @@ bool InputRegistry::add(std::type_info const& valueType, CreatorRef const& creat
         HostObserver::theObserver().creatorRefused(typeName);
         return false;
     }
-    registrations_.push_back({{typeName, creator}, living.get(), living->Name(), living->preferences()->names()});
+    Registration const registration{
+        {typeName, creator}, living.get(), living->Name(), living->preferences()->names(), fileOf(*living)};
+    // Between equals the first one edits, which shall not depend on the order in which files were loaded.
+    auto const place = std::upper_bound(registrations_.begin(), registrations_.end(), registration,
+                                        [](auto const& left, auto const& right) { return left.file < right.file; });
+    registrations_.insert(place, registration);
     HostObserver::theObserver().creatorRegistered(typeName, *living);
     return true;
 }
@@ -114,7 +122,8 @@ InputChoice InputRegistry::choose(std::string const& valueType, VCreationPrefere
         if (!creator || (parameter && !creator->supports(*parameter)))
             continue;
         auto const rank = rankOf(*creator, wanted);
-        if (count++ == 0 || rank > bestRank || (rank == bestRank && comesBefore(*creator, *best))) {
+        // Of equals the first stays.
+        if (count++ == 0 || rank > bestRank) {
             best = creator;
             bestRank = rank;
         }

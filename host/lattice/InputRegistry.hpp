@@ -30,7 +30,7 @@ public:
     /// The registry of the process; never destroyed.
     static InputRegistry& theRegistry();
 
-    /// All living creators, in order of registration.
+    /// All living creators by the names of the files that contain them, those of one file in order of registration.
     std::vector<Entry> entries() const;
 
     /// The names that a parameter wants of its editor: its own creation preferences and those of the front end, and for
@@ -38,9 +38,8 @@ public:
     static VCreationPreferences::Names wantedPreferences(VParameter const& parameter,
                                                          VCreationPreferences::Names const& frontEnd);
     /// The best creator for a type and a set of wanted names. Among the creators whose set contains all of them: the
-    /// highest priority, then the smallest set, then the set whose names come first, then the creator whose name does.
-    /// If there is none, the creator that shares most names, then the same. The order in which libraries were loaded
-    /// does not matter.
+    /// highest priority, then the smallest set, then the first of entries(). If there is none, the creator that shares
+    /// most names, then the same. The order in which libraries were loaded does not matter.
     InputChoice choose(std::string const& valueType, VCreationPreferences::Names const& wanted) const;
     /// The best creator for a parameter among those that support it.
     InputChoice choose(VParameter const& parameter, VCreationPreferences::Names const& frontEnd) const;
@@ -55,6 +54,8 @@ private:
         std::string name;
         // A copy of the set at the registration: a creator may add names to it afterwards.
         VCreationPreferences::Names preferences;
+        // The plug-in, or the program, without folders.
+        std::string file;
     };
 
     friend Tessera::NoDestructor<InputRegistry>;
@@ -66,6 +67,7 @@ private:
     InputChoice choose(std::string const& valueType, VCreationPreferences::Names const& wanted,
                        VParameter const* parameter) const;
 
+    // By file, those of one file in order of registration.
     std::vector<Registration> registrations_;
 };
 

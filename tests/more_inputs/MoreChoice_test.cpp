@@ -88,7 +88,8 @@ TEST_F(MoreChoice, AWishForBothIsDecidedAlikeInBothOrders) {
         unloadAll();
         return name;
     };
-    EXPECT_EQ(chosen({TALO_PLUGIN_FILE, TALO_MORE_PLUGIN_FILE}), chosen({TALO_MORE_PLUGIN_FILE, TALO_PLUGIN_FILE}));
+    EXPECT_EQ(chosen({TALO_PLUGIN_FILE, TALO_MORE_PLUGIN_FILE}), "spin") << "more_inputs comes before qtalo_inputs";
+    EXPECT_EQ(chosen({TALO_MORE_PLUGIN_FILE, TALO_PLUGIN_FILE}), "spin");
 }
 
 TEST_F(MoreChoice, ItsEditorsAreThere) {
