@@ -80,18 +80,6 @@
 <context>
     <name>Fractal::PictureJob</name>
     <message>
-        <source>the picture of %1</source>
-        <translation>das Bild von %1</translation>
-    </message>
-    <message>
-        <source>the picture</source>
-        <translation>das Bild</translation>
-    </message>
-    <message>
-        <source>Computing %1: %2 %.</source>
-        <translation>Wird berechnet: %1, %2 %.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -104,8 +92,65 @@
         <translation>%1 × %2 Punkte, höchstens %3 Schritte, %4 × %4 Proben: %5 s. %6 % der Punkte bleiben.</translation>
     </message>
     <message>
-        <source>%1 Given up: %2.</source>
-        <translation>%1 Aufgegeben: %2.</translation>
+        <source>Computing %1</source>
+        <translation>%1 wird berechnet</translation>
+    </message>
+    <message>
+        <source>Computing the picture of %1</source>
+        <translation>Das Bild von %1 wird berechnet</translation>
+    </message>
+    <message>
+        <source>Computing the picture</source>
+        <translation>Das Bild wird berechnet</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the picture of %1.</source>
+        <translation>Für das Bild von %1 reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the picture.</source>
+        <translation>Für das Bild reicht der Speicher nicht.</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>Aufgegeben: %1.</translation>
+    </message>
+    <message>
+        <source>Given up: the picture of %1.</source>
+        <translation>Aufgegeben: das Bild von %1.</translation>
+    </message>
+    <message>
+        <source>Given up: the picture.</source>
+        <translation>Aufgegeben: das Bild.</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1.</source>
+        <translation>Abgebrochen: %1.</translation>
+    </message>
+    <message>
+        <source>Cancelled: the picture of %1.</source>
+        <translation>Abgebrochen: das Bild von %1.</translation>
+    </message>
+    <message>
+        <source>Cancelled: the picture.</source>
+        <translation>Abgebrochen: das Bild.</translation>
+    </message>
+    <message>
+        <source>Wrote %1.</source>
+        <translation>%1 wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Computed the picture of %1.</source>
+        <translation>Das Bild von %1 ist berechnet.</translation>
+    </message>
+    <message>
+        <source>Computed the picture.</source>
+        <translation>Das Bild ist berechnet.</translation>
+    </message>
+    <message>
+        <source>%1: %2 %.</source>
+        <extracomment>What is computed, and how much of it is done.</extracomment>
+        <translation>%1: %2 %.</translation>
     </message>
 </context>
 <context>
@@ -124,22 +169,6 @@
     <message>
         <source>Nothing is being computed.</source>
         <translation>Es wird nichts berechnet.</translation>
-    </message>
-    <message>
-        <source>Computing %1</source>
-        <translation>Wird berechnet: %1</translation>
-    </message>
-    <message>
-        <source>Cancelled: %1.</source>
-        <translation>Abgebrochen: %1.</translation>
-    </message>
-    <message>
-        <source>Wrote %1.</source>
-        <translation>Geschrieben: %1.</translation>
-    </message>
-    <message>
-        <source>Computed %1.</source>
-        <translation>Berechnet: %1.</translation>
     </message>
     <message>
         <source>%1 is still being written.</source>

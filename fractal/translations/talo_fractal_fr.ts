@@ -80,18 +80,6 @@
 <context>
     <name>Fractal::PictureJob</name>
     <message>
-        <source>the picture of %1</source>
-        <translation>l’image de %1</translation>
-    </message>
-    <message>
-        <source>the picture</source>
-        <translation>l’image</translation>
-    </message>
-    <message>
-        <source>Computing %1: %2 %.</source>
-        <translation>Calcul de %1 : %2 %.</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
@@ -104,8 +92,65 @@
         <translation>%1 × %2 points, au plus %3 pas, %4 × %4 échantillons : %5 s. %6 % des points restent.</translation>
     </message>
     <message>
-        <source>%1 Given up: %2.</source>
-        <translation>%1 Abandonné : %2.</translation>
+        <source>Computing %1</source>
+        <translation>Calcul de %1</translation>
+    </message>
+    <message>
+        <source>Computing the picture of %1</source>
+        <translation>Calcul de l&apos;image de %1</translation>
+    </message>
+    <message>
+        <source>Computing the picture</source>
+        <translation>Calcul de l&apos;image</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the picture of %1.</source>
+        <translation>La mémoire ne suffit pas pour l&apos;image de %1.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the picture.</source>
+        <translation>La mémoire ne suffit pas pour l&apos;image.</translation>
+    </message>
+    <message>
+        <source>Given up: %1.</source>
+        <translation>Abandon : %1.</translation>
+    </message>
+    <message>
+        <source>Given up: the picture of %1.</source>
+        <translation>Abandon : l&apos;image de %1.</translation>
+    </message>
+    <message>
+        <source>Given up: the picture.</source>
+        <translation>Abandon : l&apos;image.</translation>
+    </message>
+    <message>
+        <source>Cancelled: %1.</source>
+        <translation>Annulé : %1.</translation>
+    </message>
+    <message>
+        <source>Cancelled: the picture of %1.</source>
+        <translation>Annulé : l&apos;image de %1.</translation>
+    </message>
+    <message>
+        <source>Cancelled: the picture.</source>
+        <translation>Annulé : l&apos;image.</translation>
+    </message>
+    <message>
+        <source>Wrote %1.</source>
+        <translation>%1 a été écrit.</translation>
+    </message>
+    <message>
+        <source>Computed the picture of %1.</source>
+        <translation>L&apos;image de %1 est calculée.</translation>
+    </message>
+    <message>
+        <source>Computed the picture.</source>
+        <translation>L&apos;image est calculée.</translation>
+    </message>
+    <message>
+        <source>%1: %2 %.</source>
+        <extracomment>What is computed, and how much of it is done.</extracomment>
+        <translation>%1 : %2 %.</translation>
     </message>
 </context>
 <context>
@@ -124,22 +169,6 @@
     <message>
         <source>Nothing is being computed.</source>
         <translation>Aucun calcul en cours.</translation>
-    </message>
-    <message>
-        <source>Computing %1</source>
-        <translation>Calcul de %1</translation>
-    </message>
-    <message>
-        <source>Cancelled: %1.</source>
-        <translation>Annulé : %1.</translation>
-    </message>
-    <message>
-        <source>Wrote %1.</source>
-        <translation>Écrit : %1.</translation>
-    </message>
-    <message>
-        <source>Computed %1.</source>
-        <translation>Calculé : %1.</translation>
     </message>
     <message>
         <source>%1 is still being written.</source>

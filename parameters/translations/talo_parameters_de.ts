@@ -256,6 +256,18 @@
         <source>%1, type %2, in pool %3</source>
         <translation>%1, Typ %2, im Pool %3</translation>
     </message>
+    <message>
+        <source>was removed</source>
+        <translation>wurde entfernt</translation>
+    </message>
+    <message>
+        <source>in pool %1</source>
+        <translation>im Pool %1</translation>
+    </message>
+    <message>
+        <source>no pool</source>
+        <translation>kein Pool</translation>
+    </message>
 </context>
 <context>
     <name>Talo::FileButtonText</name>
@@ -366,18 +378,6 @@
 </context>
 <context>
     <name>Talo::ParameterRow</name>
-    <message>
-        <source>was removed</source>
-        <translation>wurde entfernt</translation>
-    </message>
-    <message>
-        <source>in pool %1</source>
-        <translation>im Pool %1</translation>
-    </message>
-    <message>
-        <source>no pool</source>
-        <translation>kein Pool</translation>
-    </message>
     <message>
         <source>%1 was removed.</source>
         <translation>%1 wurde entfernt.</translation>
