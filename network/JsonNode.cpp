@@ -11,6 +11,7 @@
 #include <QSet>
 #include <QStringList>
 #include <QVarLengthArray>
+#include <utility>
 
 namespace Talo {
 
@@ -277,6 +278,15 @@ JsonNode const* JsonNode::find(char const* key) const {
     auto const found = std::find_if(children_.begin(), children_.end(),
                                     [&](auto const& child) { return child.key_ == QLatin1String(key); });
     return value_.isObject() && found != children_.end() ? &*found : nullptr;
+}
+
+JsonNode* JsonNode::find(char const* key) {
+    return const_cast<JsonNode*>(std::as_const(*this).find(key));
+}
+
+void JsonNode::release(char const* key) {
+    if (auto* const found = find(key))
+        found->children_ = {};
 }
 
 JsonNode const& JsonNode::required(char const* key, QString const& what) const {

@@ -51,6 +51,14 @@ public:
     /// The value under a key of an object; refuses an object without it.
     JsonNode const& required(char const* key, QString const& what) const;
 
+    /// Frees what is in the value under a key of an object, after it was read: of a large file that is most of what is
+    /// kept. Nothing without the key.
+    void release(char const* key);
+    /// The value under a key of an object, to release parts of it; null when there is none.
+    JsonNode* find(char const* key);
+    /// The n-th value of a list. REQUIRES: there is one.
+    JsonNode& element(std::size_t n) { return children_[n]; }
+
     /// Throws "expected ..., found ..." with a description of the node.
     [[noreturn]] void refuse(QString const& expected) const;
     /// Throws "expected ..., found ..." with this description of what was found.

@@ -89,12 +89,13 @@ NetworkReader::NetworkReader(QString const& file, ObjectFactory const& makeObjec
 std::unique_ptr<Network> NetworkReader::read(QByteArray const& json, QString const& file,
                                              ObjectFactory const& makeObject) {
     NetworkReader reader(file, makeObject);
-    reader.readRoot(JsonNode::parse(json));
+    auto root = JsonNode::parse(json);
+    reader.readRoot(root);
     reader.network_->rememberDefaults();
     return std::move(reader.network_);
 }
 
-void NetworkReader::readRoot(JsonNode const& root) {
+void NetworkReader::readRoot(JsonNode& root) {
     root.members("a network", {"objects", "pools", "title"});
     if (auto const* const title = root.find("title"))
         network_->title_ = title->text("the title");
@@ -106,8 +107,11 @@ void NetworkReader::readRoot(JsonNode const& root) {
         pools.refuse("at least one pool");
 
     auto const& objects = root.required("objects", "a network").elements("the objects");
-    for (auto const& object : objects)
-        readObject(object);
+    for (std::size_t index = 0; index < objects.size(); ++index) {
+        readObject(objects[index]);
+        // So that a large network is in memory once and not twice.
+        root.find("objects")->element(index).release("parameters");
+    }
     // A slot may be bound to a parameter of an object that comes later.
     for (std::size_t index = 0; index < objects.size(); ++index)
         if (auto const* const slotList = objects[index].find("slots"))

@@ -20,7 +20,8 @@ public:
 
 private:
     NetworkReader(QString const& file, ObjectFactory const& makeObject);
-    void readRoot(JsonNode const& root);
+    /// Reads the network, and releases what was read.
+    void readRoot(JsonNode& root);
     void readPool(JsonNode const& node);
     void readObject(JsonNode const& node);
     void readParameters(JsonNode const& node, Kolt::ObjectPtr const& object);
