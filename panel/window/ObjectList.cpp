@@ -127,7 +127,8 @@ void ObjectList::selectionChanged(QItemSelection const& selected, QItemSelection
     chosen_.erase(
         std::remove_if(chosen_.begin(), chosen_.end(), [&](auto const& index) { return gone.contains(index); }),
         chosen_.end());
-    for (auto const& index : rows(selected))
+    auto const added = rows(selected);
+    for (auto const& index : added)
         chosen_.emplace_back(index);
     // A kind that is chosen alone leaves the object that is shown.
     if (chosen_.empty())
@@ -145,7 +146,7 @@ QWidget* ObjectList::icon(QString const& name) {
     if (!index.isValid())
         return nullptr;
     makeIcon(index);
-    auto const place = icons_.value(index);
+    auto const place = icons_.value(index.internalId());
     return place ? place->icon() : nullptr;
 }
 
@@ -219,8 +220,11 @@ void ObjectList::keyboardSearch(QString const& typed) {
     sinceTyped_.start();
     typed_ = goesOn ? typed_ + typed : typed;
     // The same letter again goes to the next object that begins with it.
-    bool const isRepeated = typed_.count(typed_.left(1), Qt::CaseInsensitive) == typed_.size();
-    auto const wanted = isRepeated ? typed_.left(1) : typed_;
+    if (typed_.isEmpty())
+        return;
+    auto const first = typed_.at(0);
+    bool const isRepeated = typed_.count(first, Qt::CaseInsensitive) == typed_.size();
+    auto const wanted = isRepeated ? QString(first) : typed_;
     auto rows = model_->allRows();
     auto const here = std::find(rows.begin(), rows.end(), currentIndex().siblingAtColumn(ObjectModel::Name));
     if (here != rows.end())
@@ -244,8 +248,9 @@ void ObjectList::makeVisibleIcons() {
     auto unseen = std::exchange(icons_, {});
     for (auto index = indexAt({0, 0}).siblingAtColumn(ObjectModel::Name);
          index.isValid() && visualRect(index).top() < viewport()->height(); index = indexBelow(index)) {
-        if (unseen.contains(index))
-            icons_.insert(index, unseen.take(index));
+        auto const id = index.internalId();
+        if (unseen.contains(id))
+            icons_.insert(id, unseen.take(id));
         else
             makeIcon(index);
     }
@@ -255,12 +260,12 @@ void ObjectList::makeVisibleIcons() {
 
 void ObjectList::makeIcon(QModelIndex const& index) {
     auto const object = model_->object(index);
-    if (!iconsOpen_ || !object || icons_.contains(index))
+    if (!iconsOpen_ || !object || icons_.contains(index.internalId()))
         return;
     auto place = std::make_unique<IconPlace>(this);
     auto const made = iconMaker_.makeIcon(object, place.get());
     // Also what has no icon is remembered, because it is not asked twice.
-    icons_.insert(index, made.widget ? place.get() : nullptr);
+    icons_.insert(index.internalId(), made.widget ? place.get() : nullptr);
     if (!made.widget)
         return;
     made.widget->setAccessibleName(index.data().toString());
@@ -274,12 +279,12 @@ void ObjectList::makeIcon(QModelIndex const& index) {
     setIndexWidget(index.siblingAtColumn(ObjectModel::Icon), place.release());
 }
 
-void ObjectList::deleteIcon(QModelIndex const& index, QPointer<IconPlace> const& place) {
+void ObjectList::deleteIcon(quintptr rowId, QPointer<IconPlace> const& place) {
     if (!place)
         return;
     // The view deletes the widget as soon as Qt is done with it.
     place->hide();
-    setIndexWidget(index.siblingAtColumn(ObjectModel::Icon), nullptr);
+    setIndexWidget(model_->withId(rowId).siblingAtColumn(ObjectModel::Icon), nullptr);
 }
 
 void ObjectList::closeIcons() {
@@ -293,7 +298,7 @@ bool ObjectList::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         auto const* const help = static_cast<QHelpEvent*>(event);
         auto const index = indexAt(help->pos());
-        auto const place = icons_.value(index.siblingAtColumn(ObjectModel::Name));
+        auto const place = index.isValid() ? icons_.value(index.internalId()) : nullptr;
         if (place && index.column() == ObjectModel::Icon) {
             QToolTip::showText(help->globalPos(), place->valueText(Kolt::currentPool(&pools_)), viewport());
             return true;

@@ -77,7 +77,7 @@ private:
     void makeIcon(QModelIndex const& index);
     /// Makes the icons that can be seen, and deletes the others.
     void makeVisibleIcons();
-    void deleteIcon(QModelIndex const& index, QPointer<IconPlace> const& place);
+    void deleteIcon(quintptr rowId, QPointer<IconPlace> const& place);
     /// Hides what the filter leaves out; says which row is the first that it does not.
     QModelIndex hideRows();
     /// Chooses none that is hidden, and the first shown one if none is left.
@@ -86,8 +86,8 @@ private:
     ObjectModel* const model_;
     Kolt::ValuePoolSource& pools_;
     IconMaker iconMaker_;
-    // Null for an object without an icon.
-    QHash<QPersistentModelIndex, QPointer<IconPlace>> icons_;
+    // By the ids of the rows; null for an object without an icon.
+    QHash<quintptr, QPointer<IconPlace>> icons_;
     std::vector<QPersistentModelIndex> chosen_;
     // The one that was reported last.
     QPersistentModelIndex current_;

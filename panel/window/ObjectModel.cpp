@@ -81,12 +81,12 @@ void ObjectModel::makeGroups() {
 
 void ObjectModel::arrange() {
     auto const byName = order_ == Order::Name ? &Row::name : nullptr;
-    sort(top_, order_ == Order::Kind ? &Row::kind : byName);
+    sortRows(top_, order_ == Order::Kind ? &Row::kind : byName);
     for (std::size_t id = objectCount_; id < rows_.size(); ++id)
-        sort(rows_[id].children, byName);
+        sortRows(rows_[id].children, byName);
 }
 
-void ObjectModel::sort(Ids& ids, QString Row::*text) {
+void ObjectModel::sortRows(Ids& ids, QString Row::*text) {
     std::sort(ids.begin(), ids.end(),
               [this](auto left, auto right) { return rows_[left].fileOrder < rows_[right].fileOrder; });
     if (text) {

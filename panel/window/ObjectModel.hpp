@@ -58,6 +58,8 @@ public:
     bool isShown(QModelIndex const& index) const { return index.isValid() && rowOf(index).isShown; }
     /// The object of a row; null for a kind, and for an object that was deleted.
     Kolt::ObjectPtr object(QModelIndex const& index) const;
+    /// The row with an internal id, which it keeps until another network is shown.
+    QModelIndex withId(quintptr id) const { return indexOf(id); }
     /// The row of an object by its name; invalid if there is none.
     QModelIndex find(QString const& objectName) const;
     /// All rows, as they stand, those of a kind's objects after it; also those that are left out.
@@ -95,7 +97,7 @@ private:
     /// Puts the rows in the order that was chosen.
     void arrange();
     /// Sorts rows of one parent, by a text of theirs or else as in the file, and numbers them.
-    void sort(Ids& ids, QString Row::*text);
+    void sortRows(Ids& ids, QString Row::*text);
     QString toolTip(QModelIndex const& index) const;
 
     std::vector<Row> rows_;
