@@ -111,7 +111,8 @@ void ObjectCommands::copyObjects() {
 
 void ObjectCommands::pasteObjects() {
     emit commitRequested();
-    for (auto const& reason : Talo::pasteObjects(chosenObjects(), pool()))
+    auto const reasons = Talo::pasteObjects(chosenObjects(), pool());
+    for (auto const& reason : reasons)
         emit refused(reason);
 }
 

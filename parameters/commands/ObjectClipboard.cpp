@@ -127,7 +127,8 @@ QStringList pasteObjects(std::vector<Kolt::ObjectPtr> const& objects, Kolt::Pool
         }
         if (!macro && !object->parameters().empty())
             macro.emplace(object->parameters().front()->history());
-        for (auto const& reason : applyObjectValues(object, pool, source->values))
+        auto const reasons = applyObjectValues(object, pool, source->values);
+        for (auto const& reason : reasons)
             refused << ObjectClipboardTexts::tr("%1 keeps a value: %2.").arg(nameOf(*object), reason);
     }
     return refused;

@@ -9,6 +9,7 @@
 #include <bramble/ObjectStatus.hpp>
 #include <bramble/StringSelection.hpp>
 #include <lattice/InputRegistry.hpp>
+#include <network/PresetFile.hpp>
 #include <QImage>
 #include <QRegularExpression>
 #include <set>
@@ -133,8 +134,14 @@ TEST_F(Network, EveryPieceOfTheDescriptionIsRight) {
     QRegularExpression const block("```json\\n(.*?)```", QRegularExpression::DotMatchesEverythingOption);
     std::set<std::string> types;
     int networks = 0;
+    int presetFiles = 0;
     for (auto all = block.globalMatch(description); all.hasNext();) {
         auto const text = all.next().captured(1).toUtf8();
+        if (text.contains("\"presets\"")) {
+            EXPECT_EQ(Talo::PresetFile(write(text)).read().toStdString(), "");
+            ++presetFiles;
+            continue;
+        }
         bool const whole = text.contains("\"objects\"");
         networks += whole ? 1 : 0;
         auto const result = Talo::Network::load(write(whole ? text : withParameters(text)));
@@ -144,6 +151,7 @@ TEST_F(Network, EveryPieceOfTheDescriptionIsRight) {
                 types.insert(parameter->declaredType());
     }
     EXPECT_EQ(networks, 1);
+    EXPECT_EQ(presetFiles, 1);
     EXPECT_EQ(types.size(), 13U);
 }
 
