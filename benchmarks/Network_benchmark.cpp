@@ -71,7 +71,7 @@ public:
 
     QWidget* widget() override {
         if (!view_)
-            view_ = std::make_unique<Panel::ObjectView>(object_, QString(), pools_);
+            view_ = std::make_unique<Panel::ObjectView>(std::vector<Kolt::ObjectPtr>{object_}, QString(), pools_);
         return view_.get();
     }
     QScrollBar* scrollBar() override { return view_->panel()->rowArea()->verticalScrollBar(); }

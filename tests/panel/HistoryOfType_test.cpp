@@ -1,6 +1,8 @@
 #include "HistoryTest.hpp"
 
 #include "support/FileDialogs.hpp"
+#include "support/SliderDrag.hpp"
+
 #include <QColorDialog>
 #include <QComboBox>
 #include <QLabel>

@@ -138,7 +138,7 @@ TEST_F(ObjectViewTest, TheViewOfADestroyedObjectStaysOpen) {
     {
         Kolt::ObjectPtr const object(new Kolt::VObject("short-lived"));
         object->addParameter(Kolt::ParameterPtr(new Kolt::VParameter("flag", Kolt::makeValue(true))));
-        view = new Panel::ObjectView(object, QString(), window->pools(), &parent);
+        view = new Panel::ObjectView({object}, QString(), window->pools(), &parent);
         EXPECT_TRUE(box(view, "flag")->isChecked());
     }
     EXPECT_EQ(view->object(), nullptr);
@@ -165,7 +165,7 @@ protected:
             object->addParameter(Kolt::ParameterPtr(new Kolt::VParameter("p" + name, value)));
         }
         frame.resize(700, 500);
-        view = new Panel::ObjectView(object, QString(), window->pools(), &frame);
+        view = new Panel::ObjectView({object}, QString(), window->pools(), &frame);
         view->resize(frame.size());
         frame.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&frame));
