@@ -36,7 +36,7 @@ void SpinInput::writeValue(int value) {
 namespace {
 
 TALO_STATIC_CREATOR QInputWidgetCreator<int, SpinInput> const
-    spinCreator("spin", PreferencesPtr(new VCreationPreferences(std::string("spin"))));
+    spinCreator("spin box", PreferencesPtr(new VCreationPreferences(std::string("spin"))));
 
 } // namespace
 

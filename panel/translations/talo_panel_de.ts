@@ -398,7 +398,7 @@
     <name>Panel::EditorsMenu</name>
     <message>
         <source>&amp;Editors</source>
-        <translation>&amp;Editoren</translation>
+        <translation>E&amp;ditoren</translation>
     </message>
 </context>
 <context>
@@ -993,7 +993,7 @@ Es läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>Copy o&amp;bjects</source>
-        <translation>O&amp;bjekte kopieren</translation>
+        <translation>Objek&amp;te kopieren</translation>
     </message>
     <message>
         <source>Paste into ob&amp;jects</source>

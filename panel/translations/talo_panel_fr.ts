@@ -993,11 +993,11 @@ Il fonctionne avec Qt %1.</translation>
     </message>
     <message>
         <source>Copy o&amp;bjects</source>
-        <translation>Copier les o&amp;bjets</translation>
+        <translation>Copier les ob&amp;jets</translation>
     </message>
     <message>
         <source>Paste into ob&amp;jects</source>
-        <translation>Coller dans les ob&amp;jets</translation>
+        <translation>Coller dans &amp;les objets</translation>
     </message>
     <message>
         <source>Ctrl+Alt+C</source>

@@ -15,23 +15,26 @@ constexpr int leastNarrowWidth = 18;
 
 } // namespace
 
-Centre::Centre(NoticeBar* notices, QWidget* narrowColumn, QWidget* wideColumn) : narrowColumn_(narrowColumn) {
-    auto* const columns = new QSplitter;
+Centre::Centre(NoticeBar* notices, QWidget* narrowColumn, QWidget* wideColumn)
+    : narrowColumn_(narrowColumn),
+      columns_(new QSplitter),
+      narrowWidth_(usualNarrowWidth),
+      characterWidth_(fontMetrics().averageCharWidth()) {
     // The session knows it by this name.
-    columns->setObjectName(QStringLiteral("columns"));
-    columns->addWidget(narrowColumn);
-    columns->addWidget(wideColumn);
-    columns->setStretchFactor(1, 1);
-    int const usual = usualNarrowWidth * fontMetrics().averageCharWidth();
-    columns->setSizes({usual, 3 * usual});
-    columns->setChildrenCollapsible(false);
+    columns_->setObjectName(QStringLiteral("columns"));
+    columns_->addWidget(narrowColumn);
+    columns_->addWidget(wideColumn);
+    columns_->setStretchFactor(1, 1);
+    int const usual = qRound(narrowWidth_ * characterWidth_);
+    columns_->setSizes({usual, 3 * usual});
+    columns_->setChildrenCollapsible(false);
     setLeastWidth();
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(notices);
-    layout->addWidget(columns, 1);
+    layout->addWidget(columns_, 1);
 }
 
 Centre::~Centre() = default;
@@ -43,7 +46,18 @@ void Centre::setLeastWidth() {
 void Centre::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange)
-        setLeastWidth();
+        followFont();
+}
+
+void Centre::followFont() {
+    auto const sizes = columns_->sizes();
+    // Moved by the user, or restored.
+    if (sizes.front() != qRound(narrowWidth_ * characterWidth_))
+        narrowWidth_ = static_cast<double>(sizes.front()) / characterWidth_;
+    characterWidth_ = fontMetrics().averageCharWidth();
+    setLeastWidth();
+    int const narrow = qRound(narrowWidth_ * characterWidth_);
+    columns_->setSizes({narrow, sizes.front() + sizes.back() - narrow});
 }
 
 } // namespace Panel

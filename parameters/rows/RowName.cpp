@@ -62,7 +62,10 @@ void RowName::setNote(QString const& text) {
         return;
     if (!noteLabel_) {
         noteLabel_ = new SmallLabel(this);
-        grid_->addWidget(noteLabel_, 1, VectorColumn, 1, isComponent_ ? 1 : ColumnCount);
+        if (isComponent_)
+            grid_->addWidget(noteLabel_, 1, VectorColumn);
+        else
+            grid_->addWidget(noteLabel_, 1, NameColumn, 1, ColumnCount - NameColumn);
     }
     noteLabel_->setText(note);
     noteLabel_->setVisible(!note.isEmpty());

@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>&amp;Editors</source>
-        <translation>&amp;Editoren</translation>
+        <translation>E&amp;ditoren</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,15 @@ std::vector<EditorCase> completed(std::vector<EditorCase> cases) {
 
 } // namespace
 
+std::vector<EditorCase> const& moreEditorCases() {
+    static auto const cases = [] {
+        std::vector<EditorCase> all;
+        addMoreEditors(all);
+        return completed(std::move(all));
+    }();
+    return cases;
+}
+
 std::vector<EditorCase> const& editorCases() {
     static auto const cases = [] {
         std::vector<EditorCase> all;
@@ -25,15 +34,6 @@ std::vector<EditorCase> const& editorCases() {
         addSelectionEditors(all);
         addTextEditors(all);
         addActionEditors(all);
-        return completed(std::move(all));
-    }();
-    return cases;
-}
-
-std::vector<EditorCase> const& moreEditorCases() {
-    static auto const cases = [] {
-        std::vector<EditorCase> all;
-        addMoreEditors(all);
         return completed(std::move(all));
     }();
     return cases;

@@ -50,7 +50,7 @@ TEST_F(FractalFormulaTest, TheLargestPartsHaveTheirTrueEdge) {
 }
 
 TEST_F(FractalFormulaTest, TheConstantMakesAnotherJuliaSet) {
-    EXPECT_FALSE(resultOf(Formula::Julia, {1.3, 0}).stays);
+    EXPECT_FALSE(resultOf(Formula::Julia, {1.7, 0}).stays);
     settings.juliaReal = -1;
     settings.juliaImaginary = 0;
     // 0 and -1 follow each other for ever.

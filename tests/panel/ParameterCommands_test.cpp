@@ -149,7 +149,7 @@ TEST_F(ParameterCommandsTest, ARowOffersItsCommandsInAContextMenu) {
     QTest::keyClick(slider("int"), Qt::Key_Right);
     QPointer<QMenu> const menu = contextMenu(row("int")->nameLabel());
     ASSERT_TRUE(menu);
-    EXPECT_THAT(menu->actions(), SizeIs(5));
+    EXPECT_THAT(menu->actions(), SizeIs(7)) << "five, a line and the editors";
     EXPECT_FALSE(commandOf(menu, "showHelp")->isEnabled()) << "there is none";
     auto const first = menu->actionGeometry(commandOf(menu, "resetValue")).center();
     QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, first);

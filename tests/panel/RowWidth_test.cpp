@@ -105,7 +105,9 @@ TEST_F(RowWidthTest, ALateTextWraps) {
     auto const* const label = qobject_cast<QLabel*>(row("state")->editor());
     ASSERT_NE(label, nullptr);
     int const before = row("state")->height();
-    set("wide.state", "a text that comes late and is far too long for one line of a form, so that it needs some lines");
+    set("wide.state",
+        "a text that comes late and is far too long for one line of a form, so that it needs some lines, "
+        "however wide the window is and whatever else stands in it, which this text makes sure of by going on and on");
     EXPECT_TRUE(waitUntil([&] { return row("state")->height() > before; }));
     EXPECT_GE(label->height(), label->heightForWidth(label->width()));
     EXPECT_GT(label->height(), 2 * label->fontMetrics().height());
