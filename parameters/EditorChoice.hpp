@@ -22,6 +22,7 @@ public:
     /// The names of creators (nameOf), by types or by "object.parameter".
     using Names = QMap<QString, QString>;
 
+    /// Without choices.
     explicit EditorChoice(QObject* parent = nullptr);
     ~EditorChoice() override;
 

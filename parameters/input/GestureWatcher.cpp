@@ -80,13 +80,18 @@ GestureWatcher::~GestureWatcher() {
 }
 
 void GestureWatcher::begin(Kind kind, QWidget* target) {
+    // A listener of the history that hears of the last gesture may delete the target, or take it out of its row.
+    QPointer<QWidget> const pressed(target);
     end();
+    auto const* const row = dynamic_cast<GestureTarget const*>(GestureTarget::around(pressed));
+    if (!row)
+        return;
     kind_ = kind;
     target_ = target;
     ++number_;
     // A deleted target sees neither the release nor the loss of the focus.
     connect(target, &QObject::destroyed, this, &GestureWatcher::end);
-    auto& history = dynamic_cast<GestureTarget&>(*GestureTarget::around(target)).history();
+    auto& history = row->history();
     history_ = Tessera::WeakPtr<Kolt::UndoHistory>(&history);
     macro_.emplace(history);
 }

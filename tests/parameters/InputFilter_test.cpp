@@ -1,5 +1,7 @@
 #include "support/TaloTest.hpp"
 
+#include <lattice/TypedParameter.hpp>
+#include <lattice/UndoHistory.hpp>
 #include <parameters/input/GestureTarget.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/input/WheelGuard.hpp>
@@ -73,6 +75,24 @@ TEST_F(InputFilterTest, APressToItsReleaseIsOneGesture) {
     QTest::mouseRelease(area, Qt::LeftButton);
     QTest::mouseRelease(area, Qt::RightButton);
     EXPECT_TRUE(closes());
+}
+
+TEST_F(InputFilterTest, ATargetMayLeaveItsRowAsTheLastGestureEnds) {
+    QTest::keyClick(text, Qt::Key_A);
+    // A step without a change in the end is dropped when the gesture ends, which listeners hear of.
+    auto& history = Kolt::UndoHistory::theHistory();
+    auto const number = Kolt::Parameter<int>("number", 1);
+    ASSERT_TRUE(history.store(number, nullptr, {Kolt::makeValue(2), false}));
+    ASSERT_TRUE(history.store(number, nullptr, {Kolt::makeValue(1), false}));
+    int calls = 0;
+    auto const connection = history.addListener([&] {
+        ++calls;
+        area->setParent(&window);
+    });
+    QTest::mousePress(area, Qt::LeftButton);
+    EXPECT_EQ(calls, 1);
+    EXPECT_FALSE(isMacroOpen()) << "it is in no row any more";
+    QTest::mouseRelease(area, Qt::LeftButton);
 }
 
 TEST_F(InputFilterTest, APressBesideTheTargetsIsNone) {
