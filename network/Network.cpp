@@ -72,14 +72,16 @@ Network::Network() : self_(std::make_shared<Network*>(this)) {}
 Network::~Network() = default;
 
 Network::LoadResult Network::load(QString const& file, ObjectFactory const& makeObject) {
-    auto const content = Tessera::FileContent::read(QFile::encodeName(file).toStdString(), largestFile);
+    auto content = Tessera::FileContent::read(QFile::encodeName(file).toStdString(), largestFile);
     if (!content)
         return {nullptr, file + ":0: expected a file that can be read, found: " +
                              QString::fromLocal8Bit(content.reason().c_str())};
     try {
         auto const& bytes = content.bytes();
-        auto const json = QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size()));
-        return {NetworkReader::read(json, file, makeObject), QString()};
+        auto root = JsonNode::parse(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
+        // A large network need not be in memory as text as well.
+        content = {};
+        return {NetworkReader::read(std::move(root), file, makeObject), QString()};
     } catch (FormatError const& error) {
         return {nullptr, file + ':' + QString::number(error.line) + ": " + error.text};
     }
@@ -252,7 +254,7 @@ bool Network::save(QString const& file, QString* error) const {
     try {
         json = toJson(QFileInfo(file).absolutePath());
         // What was added since the file was loaded may be more than the format allows.
-        NetworkReader::read(json, file);
+        NetworkReader::read(JsonNode::parse(json), file);
     } catch (FormatError const& problem) {
         return refused(problem.text);
     }

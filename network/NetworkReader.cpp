@@ -86,10 +86,8 @@ NetworkReader::NetworkReader(QString const& file, ObjectFactory const& makeObjec
     network_->file_ = file;
 }
 
-std::unique_ptr<Network> NetworkReader::read(QByteArray const& json, QString const& file,
-                                             ObjectFactory const& makeObject) {
+std::unique_ptr<Network> NetworkReader::read(JsonNode root, QString const& file, ObjectFactory const& makeObject) {
     NetworkReader reader(file, makeObject);
-    auto root = JsonNode::parse(json);
     reader.readRoot(root);
     reader.network_->rememberDefaults();
     return std::move(reader.network_);

@@ -13,10 +13,9 @@ struct ValueFormat;
 /// Makes a network from the text of a network file.
 class TALO_EXPORT NetworkReader {
 public:
-    /// The whole network; throws a FormatError when anything in the text is wrong. `file` says where relative paths
+    /// The whole network; throws a FormatError when anything in the JSON is wrong. `file` says where relative paths
     /// start; it need not exist. The factory makes the objects; an empty one makes objects that do nothing.
-    static std::unique_ptr<Network> read(QByteArray const& json, QString const& file,
-                                         ObjectFactory const& makeObject = {});
+    static std::unique_ptr<Network> read(JsonNode root, QString const& file, ObjectFactory const& makeObject = {});
 
 private:
     NetworkReader(QString const& file, ObjectFactory const& makeObject);

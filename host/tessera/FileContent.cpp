@@ -42,7 +42,7 @@ FileContent FileContent::read(std::string const& file, std::uintmax_t limit) {
     if (fstat(descriptor, &status) != 0)
         return failed(Problem::NotOpened);
     auto const opened = checked(status.st_mode, static_cast<std::uintmax_t>(status.st_size), limit);
-    return opened ? readOpened(descriptor, limit) : opened;
+    return opened ? readOpened(descriptor, static_cast<std::size_t>(status.st_size), limit) : opened;
 }
 
 FileContent FileContent::check(std::string const& file, std::uintmax_t limit) {
@@ -73,8 +73,9 @@ FileContent FileContent::checked(std::uint32_t mode, std::uintmax_t size, std::u
     return {};
 }
 
-FileContent FileContent::readOpened(int descriptor, std::uintmax_t limit) {
+FileContent FileContent::readOpened(int descriptor, std::size_t size, std::uintmax_t limit) {
     FileContent content;
+    content.bytes_.reserve(size);
     char block[65536];
     for (;;) {
         auto const count = ::read(descriptor, block, sizeof block);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <tessera/Export.hpp>
@@ -39,7 +40,8 @@ private:
     static FileContent refused(Problem problem, std::string reason);
     static FileContent failed(Problem problem);
     static FileContent checked(std::uint32_t mode, std::uintmax_t size, std::uintmax_t limit);
-    static FileContent readOpened(int descriptor, std::uintmax_t limit);
+    /// `size` is what the file is expected to have.
+    static FileContent readOpened(int descriptor, std::size_t size, std::uintmax_t limit);
 
     Problem problem_ = Problem::None;
     std::string reason_;
