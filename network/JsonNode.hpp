@@ -10,7 +10,7 @@ namespace Talo {
 
 /// An error in a network file. Thrown by everything that reads one.
 struct TALO_EXPORT FormatError {
-    /// The line of the file, counted from 1.
+    /// The line of the file, counted from 1; 0 where the file itself cannot be read.
     int line;
     QString text; ///< "expected ..., found ..."
 };

@@ -65,6 +65,16 @@ QJsonObject propertiesToJson(Kolt::VParameter const& parameter, PropertyFormat c
     return map;
 }
 
+/// The JSON in a file; throws a FormatError, of line 0 if the file cannot be read.
+JsonNode parseFile(QString const& file) {
+    auto const content = Tessera::FileContent::read(QFile::encodeName(file).toStdString(), largestFile);
+    if (!content)
+        throw FormatError{0, "expected a file that can be read, found: " +
+                                 QString::fromLocal8Bit(content.reason().c_str())};
+    auto const& bytes = content.bytes();
+    return JsonNode::parse(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
+}
+
 } // namespace
 
 Network::Network() : self_(std::make_shared<Network*>(this)) {}
@@ -72,16 +82,9 @@ Network::Network() : self_(std::make_shared<Network*>(this)) {}
 Network::~Network() = default;
 
 Network::LoadResult Network::load(QString const& file, ObjectFactory const& makeObject) {
-    auto content = Tessera::FileContent::read(QFile::encodeName(file).toStdString(), largestFile);
-    if (!content)
-        return {nullptr, file + ":0: expected a file that can be read, found: " +
-                             QString::fromLocal8Bit(content.reason().c_str())};
     try {
-        auto const& bytes = content.bytes();
-        auto root = JsonNode::parse(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
         // A large network need not be in memory as text as well.
-        content = {};
-        return {NetworkReader::read(std::move(root), file, makeObject), QString()};
+        return {NetworkReader::read(parseFile(file), file, makeObject), QString()};
     } catch (FormatError const& error) {
         return {nullptr, file + ':' + QString::number(error.line) + ": " + error.text};
     }

@@ -4,6 +4,7 @@
 #include <network/Condition.hpp>
 #include <network/PropertyFormat.hpp>
 #include <network/ValueFormat.hpp>
+#include <utility>
 
 namespace Talo {
 
@@ -88,12 +89,12 @@ NetworkReader::NetworkReader(QString const& file, ObjectFactory const& makeObjec
 
 std::unique_ptr<Network> NetworkReader::read(JsonNode root, QString const& file, ObjectFactory const& makeObject) {
     NetworkReader reader(file, makeObject);
-    reader.readRoot(root);
+    reader.readRoot(std::move(root));
     reader.network_->rememberDefaults();
     return std::move(reader.network_);
 }
 
-void NetworkReader::readRoot(JsonNode& root) {
+void NetworkReader::readRoot(JsonNode root) {
     root.members("a network", {"objects", "pools", "title"});
     if (auto const* const title = root.find("title"))
         network_->title_ = title->text("the title");

@@ -20,7 +20,7 @@ public:
 private:
     NetworkReader(QString const& file, ObjectFactory const& makeObject);
     /// Reads the network, and releases what was read.
-    void readRoot(JsonNode& root);
+    void readRoot(JsonNode root);
     void readPool(JsonNode const& node);
     void readObject(JsonNode const& node);
     void readParameters(JsonNode const& node, Kolt::ObjectPtr const& object);
