@@ -10,7 +10,7 @@ namespace Panel {
 namespace {
 
 // In characters.
-constexpr int usualNarrowWidth = 28;
+constexpr int usualNarrowWidth = 34;
 constexpr int leastNarrowWidth = 18;
 
 } // namespace
