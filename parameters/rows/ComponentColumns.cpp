@@ -15,10 +15,10 @@ constexpr int columnDistance = 12;
 
 } // namespace
 
-ComponentColumns::ComponentColumns(std::map<std::size_t, ParameterVector> vectors) {
-    for (auto& [row, parameters] : vectors) {
+ComponentColumns::ComponentColumns(std::map<std::size_t, ParameterVector> const& vectors) {
+    for (auto const& [row, parameters] : vectors) {
         Vector vector;
-        vector.parameters = std::move(parameters);
+        vector.parameters = parameters;
         vector.firstRow = row;
         vector.headedRow = row;
         fit(vector, std::numeric_limits<int>::max() / 2, 1);

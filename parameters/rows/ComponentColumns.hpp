@@ -32,7 +32,7 @@ public:
     /// No vectors.
     ComponentColumns() = default;
     /// The vectors by the numbers of their first rows (FormPlan::vectors).
-    explicit ComponentColumns(std::map<std::size_t, ParameterVector> vectors);
+    explicit ComponentColumns(std::map<std::size_t, ParameterVector> const& vectors);
 
     /// The vector that a row is a component of; null for none.
     Vector* find(std::size_t row);

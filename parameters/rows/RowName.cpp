@@ -56,9 +56,9 @@ void RowName::setComponent(QString const& component, QString const& vector) {
     vectorLabel_->setName(vector);
 }
 
-void RowName::setNote(QString const& text) {
-    auto const note = isComponent_ && !vectorLabel_ ? QString() : text;
-    if (note.isEmpty() && !noteLabel_)
+void RowName::setNote(QString const& note) {
+    auto const shown = isComponent_ && !vectorLabel_ ? QString() : note;
+    if (shown.isEmpty() && !noteLabel_)
         return;
     if (!noteLabel_) {
         noteLabel_ = new SmallLabel(this);
@@ -67,8 +67,8 @@ void RowName::setNote(QString const& text) {
         else
             grid_->addWidget(noteLabel_, 1, NameColumn, 1, ColumnCount - NameColumn);
     }
-    noteLabel_->setText(note);
-    noteLabel_->setVisible(!note.isEmpty());
+    noteLabel_->setText(shown);
+    noteLabel_->setVisible(!shown.isEmpty());
 }
 
 void RowName::showModified(QString const& parameterName, QString const& defaultText) {

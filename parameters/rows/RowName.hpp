@@ -32,7 +32,7 @@ public:
     /// Shows the name of the parameter.
     void setName(QString const& name);
     /// Shows a component's short name in place of the parameter's. With the name of the vector before it, unless that
-    /// is empty.
+    /// is empty. The note is to be set again.
     void setComponent(QString const& component, QString const& vector);
     /// Shows a line below the name; an empty one hides it. Components but the first have none.
     void setNote(QString const& note);

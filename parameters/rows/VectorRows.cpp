@@ -8,8 +8,8 @@ namespace Talo {
 VectorRows::VectorRows(RowLayout& layout, std::function<ParameterRow*(std::size_t row)> madeRow)
     : layout_(layout), madeRow_(std::move(madeRow)) {}
 
-void VectorRows::setVectors(std::map<std::size_t, ParameterVector> vectors) {
-    columns_ = ComponentColumns(std::move(vectors));
+void VectorRows::setVectors(std::map<std::size_t, ParameterVector> const& vectors) {
+    columns_ = ComponentColumns(vectors);
     (void)join();
 }
 

@@ -18,7 +18,7 @@ public:
     VectorRows(RowLayout& layout, std::function<ParameterRow*(std::size_t row)> madeRow);
 
     /// Takes the vectors of a form by the numbers of their first rows (FormPlan::vectors).
-    void setVectors(std::map<std::size_t, ParameterVector> vectors);
+    void setVectors(std::map<std::size_t, ParameterVector> const& vectors);
     /// Joins the rows that are shown now. Returns the made rows whose names changed.
     std::vector<std::size_t> join();
     /// Gives a made row the names of its vector and component, if it has some.
