@@ -58,11 +58,8 @@ void DropdownFrame::showTexts(std::vector<std::string> const& texts, int current
         list << QString::fromStdString(text);
     {
         QSignalBlocker const blocker(box_);
-        auto* const old = box_->model();
+        // The box deletes the model that it had, as that is its child.
         box_->setModel(new QStringListModel(list, box_));
-        // The first model of a box is its own; it deletes that by itself.
-        if (old != box_->model() && old->parent() == box_)
-            old->deleteLater();
     }
     showCurrent(current);
 }

@@ -221,20 +221,23 @@ void NumberField::changeEvent(QEvent* event) {
         placeUnit();
 }
 
+void NumberField::press(QMouseEvent const& event) {
+    isPressed_ = event.button() == Qt::LeftButton && !isTyping() && !isReadOnly();
+    isDragging_ = false;
+    beginDrag(event);
+}
+
 bool NumberField::eventFilter(QObject* watched, QEvent* event) {
-    auto const& mouse = *static_cast<QMouseEvent const*>(event);
     switch (event->type()) {
     case QEvent::Resize:
         placeUnit();
         break;
     case QEvent::MouseButtonPress:
-        isPressed_ = mouse.button() == Qt::LeftButton && !isTyping() && !isReadOnly();
-        isDragging_ = false;
-        beginDrag(mouse);
+        press(*static_cast<QMouseEvent const*>(event));
         break;
     case QEvent::MouseMove:
         if (isPressed_) {
-            drag(mouse);
+            drag(*static_cast<QMouseEvent const*>(event));
             return true;
         }
         break;

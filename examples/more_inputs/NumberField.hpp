@@ -59,6 +59,7 @@ private:
     void showError(QString const& error);
     QString refusal(double number) const;
     // Parts of the drag.
+    void press(QMouseEvent const& event);
     void beginDrag(QMouseEvent const& event);
     void drag(QMouseEvent const& event);
     void placeUnit();
