@@ -85,20 +85,20 @@ public:
             for (auto const& parameter : living->parameters())
                 if (wanted.finds(*living, *parameter, pools.pool(), kind))
                     found.insert(parameter.get());
-        addVectorsTo(found);
+        addVectorsToFound();
         applyConditions();
     }
 
     /// With one component of a vector the whole vector is found.
-    void addVectorsTo(std::unordered_set<Kolt::VParameter const*>& parameters) const {
+    void addVectorsToFound() {
         auto const living = object.strong();
-        if (!living || parameters.empty())
+        if (!living || found.empty())
             return;
         for (auto const& [name, components, members] : vectorsOf(living->parameters()))
             if (std::any_of(members.begin(), members.end(),
-                            [&](auto const& member) { return parameters.count(member.get()) != 0; }))
+                            [&](auto const& member) { return found.count(member.get()) != 0; }))
                 for (auto const& member : members)
-                    parameters.insert(member.get());
+                    found.insert(member.get());
     }
 
     /// Says why no parameter is shown.

@@ -2,6 +2,7 @@
 
 #include <lattice/UndoHistory.hpp>
 #include <optional>
+#include <parameters/commands/SharedEdits.hpp>
 #include <parameters/commands/TypedJson.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
@@ -52,6 +53,7 @@ QStringList applyObjectValues(Kolt::ObjectPtr const& object, Kolt::PoolPtr const
     std::optional<Kolt::UndoHistory::Macro> macro;
     if (!parameters.isEmpty())
         macro.emplace(object->parameters().front()->history());
+    SharedEdits::Pause const pause;
     QStringList refused;
     for (auto value = values.begin(); value != values.end(); ++value) {
         auto const reason = applyOne(parameters.value(value.key()), pool, value.value());

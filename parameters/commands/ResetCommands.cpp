@@ -4,6 +4,7 @@
 #include <deque>
 #include <lattice/UndoHistory.hpp>
 #include <parameters/commands/RowCommands.hpp>
+#include <parameters/commands/SharedEdits.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <set>
@@ -21,6 +22,7 @@ void resetToDefaults(std::vector<Kolt::ParameterPtr> const& parameters, Kolt::Po
     std::deque<Kolt::UndoHistory::Macro> macros;
     for (auto* const history : histories)
         macros.emplace_back(*history);
+    SharedEdits::Pause const pause;
     // What a parameter without a place for a value refuses is not reported: the others are reset all the same.
     for (auto const& parameter : changed)
         (void)resetToDefault(parameter, pool);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <network/ValueFormat.hpp>
+#include <parameters/rows/ParameterDescription.hpp>
 #include <QScopedValueRollback>
 #include <utility>
 
@@ -23,7 +24,17 @@ bool areAlike(Kolt::VParameter const& one, Kolt::VParameter const& other) {
     return one.declaredType() == other.declaredType() && offerSameChoices(one.ownValue(), other.ownValue());
 }
 
+int pauses = 0;
+
 } // namespace
+
+SharedEdits::Pause::Pause() {
+    ++pauses;
+}
+
+SharedEdits::Pause::~Pause() {
+    --pauses;
+}
 
 SharedEdits::SharedEdits(Kolt::ObjectPtr const& shown, std::vector<Kolt::ObjectPtr> const& others) {
     auto const& parameters = shown->parameters();
@@ -46,7 +57,10 @@ SharedEdits::SharedEdits(Kolt::ObjectPtr const& shown, std::vector<Kolt::ObjectP
         }
     }
     history_ = &parameters.front()->history();
-    step_ = history_->nextUndo();
+    for (auto const& step : history_->steps())
+        known_.insert(step);
+    for (auto const& step : history_->undoneSteps())
+        known_.insert(step);
     connection_ = history_->addListener([this] { shareLatestStep(); });
 }
 
@@ -58,23 +72,28 @@ std::vector<SharedParameter> const& SharedEdits::othersOf(Kolt::VParameter const
     return found == others_.end() ? none : found->second;
 }
 
+bool SharedEdits::isNew(Kolt::UndoHistory::Step const& step) {
+    return known_.insert(step).second;
+}
+
 void SharedEdits::shareLatestStep() {
     // What an undo restores was shared when it was edited.
     if (isSharing_ || Kolt::UndoHistory::isAnyRestoring())
         return;
     QScopedValueRollback const guard(isSharing_, true);
     auto const step = history_->nextUndo();
-    if (!step)
-        return;
     if (step != step_) {
-        step_ = step;
+        step_ = step && isNew(step) ? step : nullptr;
         shared_.clear();
     }
+    if (!step_)
+        return;
     // By number, as the changes of the others are added.
     for (std::size_t index = 0; index < step->changes().size(); ++index) {
         auto const change = step->changes()[index];
         shared_.resize(std::max(shared_.size(), index + 1));
-        if (std::exchange(shared_[index], change.after().value) != change.after().value)
+        bool const isShared = std::exchange(shared_[index], change.after().value) == change.after().value;
+        if (!isShared && pauses == 0)
             share(change);
     }
 }
@@ -85,7 +104,7 @@ void SharedEdits::share(Kolt::ValueChange const& change) const {
         return;
     auto const others = othersOf(*parameter);
     for (auto const& [objectName, reference] : others)
-        if (auto const other = reference.strong(); other && &other->history() == history_)
+        if (auto const other = reference.strong(); other && isChangeable(*other) && &other->history() == history_)
             // A value that the one inherits is not the one that the other would inherit.
             (void)history_->store(other, change.pool(), {change.after().value, false}, parameter);
 }

@@ -99,7 +99,7 @@ void SharedRow::setAll(int number) {
     Kolt::UndoHistory::Macro const macro(parameter->history());
     (void)parameter->history().store(parameter, pool, value);
     for (auto const& [objectName, reference] : others)
-        if (auto const other = reference.strong())
+        if (auto const other = reference.strong(); other && isChangeable(*other))
             (void)other->history().store(other, pool, value);
 }
 

@@ -3,7 +3,7 @@
 #include "parameters/FormTest.hpp"
 #include "support/SliderDrag.hpp"
 
-#include <parameters/commands/SharedEdits.hpp>
+#include <parameters/commands/ResetCommands.hpp>
 #include <parameters/rows/MixedButton.hpp>
 #include <QCheckBox>
 #include <QLabel>
@@ -104,6 +104,39 @@ TEST_F(SeveralObjectsTest, AnEditGoesToAllAsOneStep) {
     history.redo();
     EXPECT_THAT(on(), ElementsAre(true, true, true));
     EXPECT_THAT(history.steps(), SizeIs(1));
+}
+
+TEST_F(SeveralObjectsTest, UndoAndRedoShareNoOlderStep) {
+    auto const level = object->findParameter("level");
+    ASSERT_TRUE(history.store(level, firstPool, {Kolt::makeValue(50), false}));
+    showLamps();
+    clickOn();
+    history.undo();
+    EXPECT_THAT(values("level"), ElementsAre(50, 20, 30)) << "it was edited in one object alone";
+    history.undo();
+    history.redo();
+    history.redo();
+    EXPECT_THAT(values("level"), ElementsAre(50, 20, 30));
+    EXPECT_THAT(on(), ElementsAre(true, true, true));
+    EXPECT_THAT(history.steps(), SizeIs(2));
+}
+
+TEST_F(SeveralObjectsTest, AReadOnlyParameterOfAnotherObjectStays) {
+    lamps[1]->findParameter("on")->setProperty("readOnly", Kolt::makeValue(true), nullptr, nullptr, nullptr);
+    lamps[1]->findParameter("level")->setProperty("readOnly", Kolt::makeValue(true), nullptr, nullptr, nullptr);
+    showLamps();
+    clickOn();
+    EXPECT_THAT(on(), ElementsAre(true, false, true));
+    mixed("level")->menu()->actions().last()->trigger();
+    EXPECT_THAT(values("level"), ElementsAre(30, 20, 30));
+}
+
+TEST_F(SeveralObjectsTest, CommandsForWholeObjectsAreNotShared) {
+    showLamps();
+    write(object, "level", 60);
+    write(lamps[1], "level", 70);
+    Talo::resetToDefaults({lamps[1]->findParameter("level"), object->findParameter("level")}, firstPool);
+    EXPECT_THAT(values("level"), ElementsAre(10, 20, 30)) << "each has a default of its own";
 }
 
 TEST_F(SeveralObjectsTest, AMixedValueIsWrittenOnlyWhenItIsEdited) {
