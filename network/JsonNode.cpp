@@ -95,7 +95,7 @@ public:
         else if (node.value_.isArray())
             scanArray(node);
         else if (node.value_.isString())
-            skipString();
+            scanText(node);
         else
             next_ = std::find_if(next_, end_, [](char c) { return isBlank(c) || c == ',' || c == ']' || c == '}'; });
     }
@@ -146,6 +146,12 @@ private:
         return known;
     }
 
+    void scanText(JsonNode& node) {
+        skipString();
+        node.text_ = node.value_.toString();
+        node.value_ = QJsonValue(QJsonValue::String);
+    }
+
     void scanObject(JsonNode& node) {
         auto const object = node.value_.toObject();
         TakenKeys keys;
@@ -164,6 +170,7 @@ private:
             scan(member);
             node.children_.push_back(std::move(member));
         }
+        node.value_ = QJsonObject();
     }
 
     void scanArray(JsonNode& node) {
@@ -178,9 +185,10 @@ private:
             node.children_.push_back(std::move(element));
         }
         skip(']');
+        node.value_ = QJsonArray();
     }
 
-    // By what stands in the file.
+    // By the key as it is written in the file.
     QHash<QByteArray, QString> keys_;
     char const* next_;
     char const* const end_;
@@ -200,8 +208,26 @@ JsonNode JsonNode::parse(QByteArray const& json) {
     return root;
 }
 
+QJsonValue JsonNode::value() const {
+    if (value_.isString())
+        return text_;
+    if (value_.isObject()) {
+        QJsonObject object;
+        for (auto const& child : children_)
+            object.insert(child.key_, child.value());
+        return object;
+    }
+    if (value_.isArray()) {
+        QJsonArray array;
+        for (auto const& child : children_)
+            array.append(child.value());
+        return array;
+    }
+    return value_;
+}
+
 void JsonNode::refuse(QString const& expected) const {
-    refuse(expected, described(value_));
+    refuse(expected, described(value()));
 }
 
 void JsonNode::refuse(QString const& expected, QString const& found) const {
@@ -211,10 +237,9 @@ void JsonNode::refuse(QString const& expected, QString const& found) const {
 QString JsonNode::text(QString const& what) const {
     if (!value_.isString())
         refuse(what + ", a text");
-    auto const read = value_.toString();
-    if (!isWhole(read))
+    if (!isWhole(text_))
         refuse(what + ", a text of whole Unicode characters");
-    return read;
+    return text_;
 }
 
 QString JsonNode::nonEmptyText(QString const& what) const {
@@ -242,9 +267,8 @@ double JsonNode::real(QString const& what) const {
     if (value_.isDouble())
         return value_.toDouble();
     double number = 0.0;
-    auto const text = value_.toString();
-    if (!QStringList{"nan", "inf", "-inf", "-0"}.contains(text) ||
-        !Kolt::VValueTrait<double>::setValueFromText(number, text.toStdString()))
+    if (!QStringList{"nan", "inf", "-inf", "-0"}.contains(text_) ||
+        !Kolt::VValueTrait<double>::setValueFromText(number, text_.toStdString()))
         refuse(what + R"(, a number or one of "nan", "inf", "-inf", "-0")");
     return number;
 }

@@ -26,7 +26,7 @@ public:
     /// The key of the node in its object; empty in a list and for the outermost value.
     QString const& key() const { return key_; }
     /// The node as Qt reads it.
-    QJsonValue const& value() const { return value_; }
+    QJsonValue value() const;
     /// Whether the node is `null`.
     bool isNull() const { return value_.isNull(); }
 
@@ -70,7 +70,10 @@ private:
     QString key_;
     int keyLine_ = 1;
     int line_ = 1;
+    // Of a text, a list and an object the type alone: Qt's value of a text would keep all that the file has beside it
+    // and below.
     QJsonValue value_;
+    QString text_;
     std::vector<JsonNode> children_;
 };
 

@@ -293,7 +293,7 @@ bool Network::saveAs(QString const& file, QString* error) {
 void Network::rememberDefaults() {
     for (auto const& object : objects_)
         rememberOpened(*object);
-    rememberSaved();
+    rememberDefaultsAsSaved();
 }
 
 void Network::rememberOpened(Kolt::VObject const& object) {
@@ -316,6 +316,19 @@ void Network::rememberSaved() {
     saved_.clear();
     for (auto const& object : objects_)
         rememberSaved(*object);
+}
+
+void Network::rememberDefaultsAsSaved() {
+    std::size_t count = 0;
+    for (auto const& object : objects_)
+        count += object->parameters().size();
+    saved_.clear();
+    saved_.reserve(count);
+    for (auto const& object : objects_)
+        for (auto const& parameter : object->parameters())
+            // The copy shares the value objects, of which a large network has many.
+            if (auto const* const defaults = parameter->isEdited() ? parameter->defaults() : nullptr)
+                saved_.push_back({parameter, *defaults});
 }
 
 void Network::rememberSaved(Kolt::VObject const& object) {

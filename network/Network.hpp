@@ -133,6 +133,7 @@ private:
     /// What a parameter that shows a state showed at the start; null for any other.
     Kolt::ValueSnapshot const* whenOpened(Kolt::VParameter const& parameter) const;
     /// From now on the values count as saved.
+    void rememberDefaultsAsSaved();
     void rememberSaved();
     void rememberSaved(Kolt::VObject const& object);
     /// The folder of the file, absolute.

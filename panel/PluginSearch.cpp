@@ -17,7 +17,7 @@ void PluginSearch::addFile(QString const& file) {
             return remark(tr("%1 is not loaded again: it is the file %2.").arg(file, known));
         if (isSame || added.absoluteFilePath() == other.absoluteFilePath())
             return remark(tr("%1 is loaded once only.").arg(file));
-        // The name is that of the function which a plug-in exports, so it stands for the plug-in.
+        // The name is that of the function which a plug-in exports, so it identifies the plug-in.
         if (added.fileName() == other.fileName())
             return remark(tr("%1 is not loaded: %2 has the same name and comes first.").arg(file, known));
     }

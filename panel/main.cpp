@@ -205,7 +205,8 @@ Panel::PluginSearch findPlugins(Panel::CommandLine const& commandLine) {
         search.addFolder(QFileInfo(own).path());
         search.addPath(QFile::decodeName(qgetenv("TALO_PLUGIN_PATH")));
     }
-    for (auto const& file : commandLine.onlyPlugins + commandLine.plugins)
+    auto const files = commandLine.onlyPlugins + commandLine.plugins;
+    for (auto const& file : files)
         search.addFile(file);
     // Its loading tells that it is missing.
     if (looks && !search.hasName(QFileInfo(own).fileName()))

@@ -142,15 +142,18 @@ void VParameter::setProperty(std::string const& name, ValuePtr const& value,
                                  "\" should be of type " + expected + ", not " + Tessera::Typename(value->valueType()));
     if (!properties_)
         properties_ = std::make_shared<ValueMap>();
+    filledIn_.erase(std::remove(filledIn_.begin(), filledIn_.end(), name), filledIn_.end());
     if (source.alive() && !properties_->getValue(name))
-        filledIn_.insert(name);
-    else
-        filledIn_.erase(name);
+        filledIn_.push_back(name);
     properties_->setValue(name, value);
 
     auto const properties = properties_;
     auto const context = pool.strong();
     notifyValueChange(effectiveValue(context), context, std::string(), source, alsoNotify, properties.get());
+}
+
+bool VParameter::isFilledIn(std::string const& property) const {
+    return std::find(filledIn_.begin(), filledIn_.end(), property) != filledIn_.end();
 }
 
 UndoHistory& VParameter::history() const {

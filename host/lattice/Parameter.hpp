@@ -6,7 +6,6 @@
 #include <lattice/ValueSnapshot.hpp>
 #include <memory>
 #include <optional>
-#include <set>
 #include <tessera/Export.hpp>
 #include <type_traits>
 
@@ -105,7 +104,7 @@ public:
                      ValueNotifierList const* alsoNotify, Tessera::WeakPtr<ValuePool> const& pool);
     /// Whether an editor filled the property in because it was missing, and nobody has set it since: a notifier was the
     /// source. Such a property says nothing about the parameter and is not saved.
-    bool isFilledIn(std::string const& property) const { return filledIn_.count(property) != 0; }
+    bool isFilledIn(std::string const& property) const;
 
     /// The preferences with which an editor for this parameter is chosen; null for none. The set is shared, not copied.
     PreferencesPtr const& creationPreferences() const { return preferences_; }
@@ -140,7 +139,7 @@ private:
     mutable std::vector<LocalValue> localValues_;
     // Shared, as a notifier may destroy the parameter during a notification.
     std::shared_ptr<ValueMap> properties_;
-    std::set<std::string> filledIn_;
+    std::vector<std::string> filledIn_;
     PreferencesPtr preferences_;
     std::unique_ptr<ValueSnapshot> defaults_;
     std::weak_ptr<EditRecorder> recorder_;

@@ -55,8 +55,8 @@ public:
     bool isMacroOpen() const { return macros_ > 0; }
     /// Ends the current step of the open macro; what follows in the macro is another step.
     void closeStep();
-    /// Takes back what the current step of the open macro has changed, and forgets the step; what was undone before can
-    /// be redone again. What follows in the macro is another step. False if the step changed nothing, or while a
+    /// Undoes what the current step of the open macro has changed, and forgets the step; what was undone before can be
+    /// redone again. What follows in the macro is another step. False if the step changed nothing, or while a
     /// history is restoring.
     bool cancelStep();
     /// Whether something changed in the open macro since its current step began.

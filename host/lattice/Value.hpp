@@ -3,7 +3,6 @@
 #include <lattice/ValueBase.hpp>
 #include <lattice/ValueTrait.hpp>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <typeinfo>
 
@@ -61,10 +60,8 @@ public:
         return true;
     }
     bool set(T const& value) override {
-        // Made before the lock is taken; the old one is destroyed after it is given back.
-        auto content = share(value);
-        std::lock_guard const lock(mutex_);
-        content_.swap(content);
+        // The old content is destroyed at the end, no longer under the lock.
+        auto const old = std::atomic_exchange(&content_, share(value));
         return true;
     }
     // Compared in place, so that a long text is not copied.
@@ -76,13 +73,10 @@ private:
     // before the value dies.
     [[gnu::noinline]] static std::shared_ptr<T const> share(T const& value) { return std::make_shared<T const>(value); }
 
-    std::shared_ptr<T const> content() const {
-        std::lock_guard const lock(mutex_);
-        return content_;
-    }
+    std::shared_ptr<T const> content() const { return std::atomic_load(&content_); }
 
-    mutable std::mutex mutex_;
-    // Replaced as a whole by each store.
+    // Replaced as a whole by each store. Read and replaced atomically, as a mutex of its own would be a third of a
+    // value object, and networks have a hundred thousand of them.
     std::shared_ptr<T const> content_;
 };
 

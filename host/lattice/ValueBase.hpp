@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <tessera/Ageable.hpp>
 #include <tessera/Interface.hpp>
 #include <tessera/Reference.hpp>
@@ -46,15 +47,18 @@ public:
     /// Sets the value that this one is a part of. It is held weakly.
     void setContainerValue(Tessera::WeakPtr<VValueBase> const& container);
     /// The value that this one is a part of; empty for a value of its own.
-    Tessera::WeakPtr<VValueBase> const& containerValue() const { return container_; }
+    Tessera::WeakPtr<VValueBase> containerValue() const;
     /// Sets the object that produced the value. It is held weakly.
     void setSource(Tessera::WeakPtr<VManagedObject, VManagedObjectBase> const& source);
     /// The object that produced the value; empty if none was set.
-    Tessera::WeakPtr<VManagedObject, VManagedObjectBase> const& source() const { return source_; }
+    Tessera::WeakPtr<VManagedObject, VManagedObjectBase> source() const;
 
 private:
-    Tessera::WeakPtr<VValueBase> container_;
-    Tessera::WeakPtr<VManagedObject, VManagedObjectBase> source_;
+    struct Origin;
+    Origin& origin();
+
+    // Null until the container or the source is set, which is rare.
+    std::unique_ptr<Origin> origin_;
 };
 
 } // namespace Kolt

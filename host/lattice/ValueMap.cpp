@@ -1,17 +1,30 @@
 #include <lattice/ValueMap.hpp>
 
+#include <algorithm>
+#include <cstddef>
+
 namespace Kolt {
 
+ValueMap::Entries::const_iterator ValueMap::place(std::string const& name) const {
+    return std::lower_bound(entries_.begin(), entries_.end(), name,
+                            [](auto const& entry, std::string const& sought) { return entry.first < sought; });
+}
+
 ValuePtr ValueMap::getValue(std::string const& name) const {
-    auto const found = values_.find(name);
-    return found == values_.end() ? nullptr : found->second;
+    auto const found = place(name);
+    return found == entries_.end() || found->first != name ? nullptr : found->second;
 }
 
 void ValueMap::setValue(std::string const& name, ValuePtr const& value) {
-    if (value)
-        values_[name] = value;
-    else
-        values_.erase(name);
+    auto const index = place(name) - entries_.cbegin();
+    bool const exists = index != static_cast<std::ptrdiff_t>(entries_.size()) && entries_.begin()[index].first == name;
+    if (exists)
+        entries_.erase(entries_.begin() + index);
+    if (!value)
+        return;
+    // No more than is needed, as a large network has ten thousand of these maps.
+    entries_.reserve(entries_.size() + 1);
+    entries_.insert(entries_.begin() + index, {name, value});
 }
 
 } // namespace Kolt

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <lattice/Value.hpp>
-#include <map>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace Kolt {
 
@@ -9,22 +11,24 @@ namespace Kolt {
 /// User-interface thread. Prints nothing.
 class TALO_EXPORT ValueMap {
 public:
-    /// Values by name.
-    using Map = std::map<std::string, ValuePtr>;
+    /// Names and values.
+    using Entries = std::vector<std::pair<std::string, ValuePtr>>;
 
     /// The value under a name; null if there is none.
     ValuePtr getValue(std::string const& name) const;
     /// Stores a value under a name and replaces the one that is there. Null removes the name.
     void setValue(std::string const& name, ValuePtr const& value);
 
-    /// The entries, in order of their names; no value is null. Changing the map invalidates only the iterators to
-    /// removed entries.
-    Map::const_iterator begin() const { return values_.begin(); }
+    /// The entries, in order of their names; no value is null. Changing the map invalidates the iterators.
+    Entries::const_iterator begin() const { return entries_.begin(); }
     /// Past the last property.
-    Map::const_iterator end() const { return values_.end(); }
+    Entries::const_iterator end() const { return entries_.end(); }
 
 private:
-    Map values_;
+    Entries::const_iterator place(std::string const& name) const;
+
+    // Sorted. A parameter has a few properties, so a vector takes less memory than a tree and is searched as quickly.
+    Entries entries_;
 };
 
 } // namespace Kolt

@@ -5,6 +5,7 @@
 #include <lattice/Value.hpp>
 #include <lattice/ValueMap.hpp>
 #include <memory>
+#include <mutex>
 #include <tessera/Export.hpp>
 #include <tessera/Intercube.hpp>
 #include <vector>

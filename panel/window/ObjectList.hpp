@@ -59,7 +59,7 @@ signals:
     void objectChosen(Kolt::ObjectPtr const& object);
     /// Other objects are chosen: at least one, the current one first. Comes after `objectChosen`.
     void objectsChosen(std::vector<Kolt::ObjectPtr> const& objects);
-    /// The rows stand in another order.
+    /// The order of the rows was changed.
     void orderChanged(ObjectModel::Order order);
 
 protected:

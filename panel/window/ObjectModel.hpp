@@ -9,7 +9,7 @@
 
 namespace Panel {
 
-/// The objects of a network as rows, below their kinds where kinds group them. An object without a kind stands at the
+/// The objects of a network as rows, below their kinds where kinds group them. An object without a kind is at the
 /// top level. Kinds make no level where there is only one, or where each object has a kind of its own.
 ///
 /// All rows are made at once; an object is found by its name without a search. Refers to the objects weakly.

@@ -47,7 +47,7 @@ void PoolToolBar::showPools(Talo::Network const& network) {
 }
 
 void PoolToolBar::showFound(std::optional<ObjectModel::Total> const& found) {
-    // A list, whose parts stand for themselves.
+    // A list of two counts, each a sentence part of its own.
     auto const text = [&] {
         return parameterCountText(found->parameters) + QStringLiteral(" · ") + objectCountText(found->objects);
     };

@@ -22,7 +22,7 @@ namespace Talo {
 /// Only what happens in a GestureTarget counts, its popups and dialogs included. InputFilter owns the one watcher and
 /// passes it the events of the whole application. User-interface thread.
 ///
-/// Escape during a drag of a slider, a dial or a scroll bar takes back what the drag has changed and makes no step.
+/// Escape during a drag of a slider, a dial or a scroll bar undoes what the drag has changed and makes no step.
 /// What follows until all buttons are released does nothing.
 ///
 /// In a text field of a target the keys for undo and redo belong to the history; the field itself only undoes a text
@@ -58,7 +58,7 @@ private:
     bool isDrag() const;
     /// Sees the keys for a drag; true if the event ends here.
     bool filterDragKey(QEvent& event);
-    /// Lets the dragged control go and takes back what it has changed.
+    /// Lets the dragged control go and undoes what it has changed.
     void cancelDrag();
     /// After a cancelled drag: true for what the mouse does until all buttons are released.
     bool swallowMouse(QEvent const& event);
@@ -74,7 +74,7 @@ private:
     std::optional<Kolt::UndoHistory::Macro> macro_;
     int key_ = 0;
     bool ending_ = false;
-    // A drag was taken back, and its button is still pressed.
+    // A drag was cancelled, and its button is still pressed.
     bool swallowsMouse_ = false;
     // Where the mouse was in the target, and the button of the gesture.
     QPoint place_;

@@ -6,8 +6,8 @@
 
 namespace Talo {
 
-/// Stands in a row for the editor of values that differ: it says "mixed". A click asks for the editor; its menu, which
-/// the down key opens as well, has the values. User-interface thread.
+/// What a row shows in place of the editor where the values differ: it says "mixed". A click asks for the editor; its
+/// menu, which the down key opens as well, has the values. User-interface thread.
 class TALO_EXPORT MixedButton : public QToolButton {
     Q_OBJECT
 

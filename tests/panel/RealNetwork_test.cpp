@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <set>
 
+extern "C" [[gnu::weak]] std::size_t __sanitizer_get_current_allocated_bytes();
+
 namespace {
 
 class RealNetwork : public TaloTest {
@@ -76,7 +78,11 @@ protected:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         takeOutput();
     }
-    static double heapInUse() { return static_cast<double>(mallinfo2().uordblks); }
+    /// In bytes. The sanitizers have an allocator of their own, of which mallinfo2 knows nothing.
+    static double heapInUse() {
+        return static_cast<double>(__sanitizer_get_current_allocated_bytes ? __sanitizer_get_current_allocated_bytes()
+                                                                           : mallinfo2().uordblks);
+    }
 
     QString const file = QStringLiteral(TALO_EXAMPLES "/networks/transfer.json");
     QTemporaryDir folder;
@@ -137,8 +143,7 @@ TEST_F(RealNetwork, WalkingThroughItAgainTakesNoMemory) {
     walk();
     walk();
     auto const before = heapInUse();
-    if (before == 0)
-        GTEST_SKIP() << "the heap of this build is not counted";
+    ASSERT_GT(before, 0);
     walk();
     walk();
     // A kept view takes some 2 MB; a single row that stays behind at each visit of an object would be more than this.
