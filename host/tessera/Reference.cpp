@@ -1,5 +1,6 @@
 #include <tessera/Reference.hpp>
 
+#include <tessera/LivingObjects.hpp>
 #include <tessera/SpeakPtr.hpp>
 
 namespace Tessera {
@@ -25,9 +26,15 @@ void ReferenceControl::adopt(std::type_info const& type, void const* address) {
     // The dynamic type grows while constructors run: another type than at the first adoption means that the first
     // one happened in the constructor of a base.
     std::type_info const* first = nullptr;
-    if (!type_.compare_exchange_strong(first, &type) && *first != type) {
+    bool const isFirst = type_.compare_exchange_strong(first, &type);
+    bool const hasGrown = !isFirst && *first != type;
+    if (hasGrown) {
         type_ = &type;
         SpeakPtr::theSpeaker().SelfConstruction(type, address, object_.load());
+    }
+    if ((isFirst || hasGrown) && LivingObjects::concerns(type)) {
+        LivingObjects::add(*this, object_.load(), type);
+        isNoted_.store(true, std::memory_order_release);
     }
     if (!adopted_.exchange(true, std::memory_order_acq_rel) && strong_.load() > 1)
         SpeakPtr::theSpeaker().WarningUnctionChange(strong_.load(), weakCount(), type);
@@ -58,12 +65,19 @@ int ReferenceControl::weakCount() const noexcept {
     return users_.load() - (strong_.load() > 0 ? 1 : 0) - 1;
 }
 
+void ReferenceControl::abandon() noexcept {
+    dying_ = true;
+    if (object_.exchange(nullptr))
+        releaseWeak();
+}
+
 void ReferenceControl::objectGone() {
+    if (isNoted_.load(std::memory_order_acquire))
+        LivingObjects::remove(*this);
     if (adopted_.load() && strong_.load() > 0)
         SpeakPtr::theSpeaker().DestructionAssertion(strong_.load(), weakCount(), *type_.load());
-    dying_ = true;
-    object_.store(nullptr, std::memory_order_release);
-    releaseWeak();
+    // An abandoned object has given its share back.
+    abandon();
 }
 
 ReferenceCounted::ReferenceCounted() : control_(new ReferenceControl(this)) {}

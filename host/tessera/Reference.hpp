@@ -59,6 +59,11 @@ public:
     void addWeak() noexcept { users_.fetch_add(1, std::memory_order_relaxed); }
     /// Gives a weak count back; the last one deletes the counters. REQUIRES: a weak count was taken.
     void releaseWeak() noexcept;
+    /// How many strong references there are. Other threads may change it meanwhile.
+    int strongCount() const noexcept { return strong_.load(std::memory_order_acquire); }
+    /// Empties all references to the object and leaves it where it is: it is not deleted and not used any more. For an
+    /// object whose code was unloaded. The counters must not be used afterwards unless the caller has a reference.
+    void abandon() noexcept;
 
 private:
     friend class ReferenceCounted;
@@ -75,6 +80,8 @@ private:
     std::atomic<int> users_{1};
     std::atomic<bool> adopted_{false};
     std::atomic<bool> dying_{false};
+    // Whether LivingObjects knows the object.
+    std::atomic<bool> isNoted_{false};
     std::atomic<std::type_info const*> type_{nullptr};
 };
 
