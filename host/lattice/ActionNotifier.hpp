@@ -3,6 +3,7 @@
 #include <string>
 #include <tessera/Export.hpp>
 #include <tessera/Reference.hpp>
+#include <vector>
 
 namespace Kolt {
 
@@ -21,6 +22,8 @@ public:
     /// Notifies every living notifier, in the order in which they were made. Without a notifier the text is printed to
     /// standard error as one line, so that it is not lost. Loading thread or user-interface thread.
     static void Warning(std::string const& text);
+    /// All living notifiers, in the order in which they were made.
+    static std::vector<Tessera::StrongPtr<VActionNotifier>> living();
 };
 
 } // namespace Kolt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <lattice/InterfaceStamp.hpp>
 #include <tessera/Export.hpp>
 
 namespace Kolt {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lattice/CreationPreferences.hpp>
+#include <lattice/InterfaceStamp.hpp>
 #include <lattice/ManagedObject.hpp>
 #include <lattice/Parameter.hpp>
 #include <tessera/Export.hpp>

@@ -37,6 +37,10 @@ InputRegistry& InputRegistry::theRegistry() {
 }
 
 bool InputRegistry::add(std::type_info const& valueType, CreatorRef const& creator) {
+    // A creator whose code was unloaded is dead and was never removed.
+    registrations_.erase(std::remove_if(registrations_.begin(), registrations_.end(),
+                                        [](auto const& registration) { return !registration.entry.creator.alive(); }),
+                         registrations_.end());
     auto const typeName = Tessera::Typename(valueType);
     auto const living = creator.strong();
     bool const known =

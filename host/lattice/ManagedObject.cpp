@@ -1,6 +1,7 @@
 #include <lattice/ManagedObject.hpp>
 
 #include <map>
+#include <tessera/MakeStrong.hpp>
 #include <tessera/NoDestructor.hpp>
 #include <vector>
 
@@ -10,7 +11,10 @@ namespace {
 
 struct Managed {
     std::string domain;
+    int priority;
     VManagedObject* object;
+    // Empty for one that was abandoned, because its code was unloaded: it must not be used.
+    Tessera::WeakPtr<VManagedObject, VManagedObjectBase> reference;
 };
 
 struct Registry {
@@ -35,7 +39,7 @@ VManagedObjectIterator::~VManagedObjectIterator() = default;
 
 VManagedObject::VManagedObject(std::type_info const& domain, std::string const& name, int priority)
     : MutableName(name), domain_(domain.name()), priority_(priority), number_(++registry().lastNumber) {
-    registry().objects.emplace(number_, Managed{domain_, this});
+    registry().objects.emplace(number_, Managed{domain_, priority_, this, Tessera::watch<VManagedObject>(this)});
 }
 
 VManagedObject::~VManagedObject() {
@@ -46,15 +50,24 @@ void VManagedObject::traverse(std::type_info const& domain, VManagedObjectIterat
                               int highestPriority) {
     std::vector<Tessera::WeakPtr<VManagedObject, VManagedObjectBase>> walked;
     for (auto const& [number, managed] : registry().objects) {
-        int const priority = managed.object->priority();
-        if (managed.domain == domain.name() && priority >= lowestPriority && priority <= highestPriority)
-            walked.emplace_back(managed.object);
+        bool const isInRange = managed.priority >= lowestPriority && managed.priority <= highestPriority;
+        if (managed.domain == domain.name() && isInRange)
+            walked.push_back(managed.reference);
     }
     for (auto const& object : walked) {
         auto const living = object.strong();
         if (living && !iterator.visit(*living))
             return;
     }
+}
+
+std::vector<VManagedObject*> VManagedObject::living() {
+    std::vector<VManagedObject*> living;
+    for (auto const& [number, managed] : registry().objects) {
+        if (managed.reference.alive())
+            living.push_back(managed.object);
+    }
+    return living;
 }
 
 } // namespace Kolt

@@ -5,6 +5,7 @@
 #include <tessera/Intercube.hpp>
 #include <tessera/MutableName.hpp>
 #include <typeinfo>
+#include <vector>
 
 namespace Kolt {
 
@@ -45,6 +46,8 @@ public:
     /// turn.
     static void traverse(std::type_info const& domain, VManagedObjectIterator& iterator, int lowestPriority,
                          int highestPriority);
+    /// All existing managed objects of all domains, in order of construction.
+    static std::vector<VManagedObject*> living();
 
 private:
     std::string const domain_;

@@ -1,11 +1,14 @@
 #include <lattice/PluginLoader.hpp>
 
 #include <algorithm>
-#include <dlfcn.h>
+#include <exception>
 #include <filesystem>
+#include <lattice/ActionNotifier.hpp>
+#include <lattice/PluginFile.hpp>
+#include <lattice/PluginRemains.hpp>
+#include <lattice/PluginUses.hpp>
 #include <lattice/UndoHistory.hpp>
-#include <lattice/ValueNotifier.hpp>
-#include <tessera/FileContent.hpp>
+#include <tessera/LivingObjects.hpp>
 #include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
@@ -14,53 +17,34 @@ namespace {
 
 using Export = bool (*)(VInitialization*);
 
-// In bytes.
-constexpr std::uintmax_t largestFile = 256 << 20;
-
-std::string loaderReason() {
-    char const* const reason = dlerror();
-    return reason ? reason : "the system gives no reason";
-}
-
-std::filesystem::path pathOf(std::string const& file) {
-    // The system would search its library folders for a bare name and take an empty one for the program itself. Two
-    // links to one file are the same plug-in.
-    std::error_code ignored;
-    auto const absolute = std::filesystem::absolute(file.empty() ? "." : file, ignored);
-    auto const real = std::filesystem::weakly_canonical(absolute, ignored);
-    return real.empty() ? absolute.lexically_normal() : real;
-}
-
 // Never destroyed: plug-ins may keep a pointer to it.
 VInitialization& plainHost() {
     static Tessera::NoDestructor<VInitialization> host;
     return *host;
 }
 
+/// Calls a plug-in's export. Returns why the plug-in cannot be used, as the end of a sentence; empty if it can.
+std::string callExport(void* entry, VInitialization& host) {
+    // The exception is destroyed here: its code may be the plug-in's, which is unloaded afterwards.
+    try {
+        if (reinterpret_cast<Export>(entry)(&host))
+            return {};
+        return std::string("says that it is not compatible with this host (") + VInitialization::apiKey() + ").";
+    } catch (std::exception const& exception) {
+        return "ended with an exception: " + std::string(exception.what());
+    } catch (...) {
+        return "ended with an exception of unknown type.";
+    }
+}
+
 } // namespace
 
-class PluginLoader::Plugin {
-public:
-    Plugin(std::string fileName, void* library, void const* base)
-        : file(std::move(fileName)), handle(library), base_(base) {}
-
-    // The type information of a type lies in the library that defines it.
-    bool defines(std::type_info const& type) const {
-        Dl_info info{};
-        return dladdr(&type, &info) != 0 && info.dli_fbase == base_;
-    }
-    int livingEditors() const {
-        auto const notifiers = ValueNotifier::living();
-        return static_cast<int>(std::count_if(notifiers.begin(), notifiers.end(), [&](ValueNotifier const* notifier) {
-            return defines(typeid(*notifier));
-        }));
-    }
-
-    std::string const file;
-    void* const handle;
-
-private:
-    void const* const base_;
+struct PluginLoader::Plugin {
+    // As it was given to load().
+    std::string name;
+    // Stored, as the file and the links to it may change afterwards.
+    std::string path;
+    std::unique_ptr<PluginLibrary> library;
 };
 
 PluginLoader::PluginLoader(VInitialization& host) : host_(host) {}
@@ -68,76 +52,137 @@ PluginLoader::PluginLoader(VInitialization& host) : host_(host) {}
 PluginLoader::PluginLoader() : PluginLoader(plainHost()) {}
 
 PluginLoader::~PluginLoader() {
-    // The latest first. A file whose editors exist stays loaded, as unloading their code would crash.
+    // The latest first. A file that is in use stays loaded, as unloading its code would crash.
     while (!plugins_.empty()) {
-        if (!unload(plugins_.back()->file).ok)
+        if (!unload(std::prev(plugins_.end())).ok)
             plugins_.pop_back();
     }
 }
 
 std::string PluginLoader::exportName(std::string const& file) {
-    return "TALO_API_2023_MAR_29__" + std::filesystem::path(file).stem().string();
+    return PluginFile::exportPrefix() + std::filesystem::path(file).stem().string();
 }
 
 PluginLoader::Plugins::const_iterator PluginLoader::find(std::string const& file) const {
-    return std::find_if(plugins_.begin(), plugins_.end(),
-                        [path = pathOf(file)](auto const& plugin) { return pathOf(plugin->file) == path; });
+    auto const found =
+        std::find_if(plugins_.begin(), plugins_.end(),
+                     [path = PluginFile::canonicalPath(file)](auto const& plugin) { return plugin->path == path; });
+    if (found != plugins_.end())
+        return found;
+    // A relative name or a link that was loaded may lead elsewhere by now.
+    return std::find_if(plugins_.begin(), plugins_.end(), [&](auto const& plugin) { return plugin->name == file; });
 }
 
 PluginLoader::Outcome PluginLoader::load(std::string const& file) {
-    if (find(file) != plugins_.end())
+    auto const path = PluginFile::canonicalPath(file);
+    auto const isLoaded = [&](auto const& plugin) { return plugin->path == path; };
+    if (std::any_of(plugins_.begin(), plugins_.end(), isLoaded))
         return {false, "The plug-in " + file + " is loaded already."};
-    // The system would wait for a pipe. Of a file that is missing it says more itself.
-    auto const looked = Tessera::FileContent::check(pathOf(file).string(), largestFile);
-    if (!looked && looked.problem() != Tessera::FileContent::Problem::NotOpened)
-        return {false, "Cannot open the plug-in " + file + ": " + looked.reason()};
-    void* const handle = dlopen(pathOf(file).c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!handle)
-        return {false, "Cannot open the plug-in " + file + ": " + loaderReason()};
-    auto const name = exportName(file);
-    void* const entry = dlsym(handle, name.c_str());
-    if (!entry) {
-        auto const reason = loaderReason();
-        dlclose(handle);
-        return {false, "Cannot find the export " + name + " in the plug-in " + file + ": " + reason};
+    PluginFile const looked(file);
+    if (!looked.problem().empty())
+        return {false, looked.problem()};
+    Tessera::LivingObjects::Loading const loading;
+    std::string problem;
+    auto library = PluginLibrary::open(path, problem);
+    if (!library)
+        return {false, "Cannot open the plug-in " + file + ": " + problem};
+    return start(std::make_unique<Plugin>(Plugin{file, path, std::move(library)}));
+}
+
+PluginLoader::Outcome PluginLoader::start(std::unique_ptr<Plugin> plugin) {
+    auto const& file = plugin->name;
+    auto const& library = *plugin->library;
+    // Two names of one file that are no links lead to one library.
+    for (auto const& other : plugins_) {
+        if (other->library->range().begin == library.range().begin) {
+            plugin->library->leave();
+            return {false, "The plug-in " + file + " is loaded already, as " + other->name + "."};
+        }
     }
-    if (!reinterpret_cast<Export>(entry)(&host_)) {
-        dlclose(handle);
-        return {false, "The plug-in " + file + " says that it is not compatible with this host (" +
-                           VInitialization::apiKey() + ")."};
-    }
-    Dl_info info{};
-    dladdr(entry, &info);
-    plugins_.push_back(std::make_unique<Plugin>(file, handle, info.dli_fbase));
+    Tessera::LivingObjects::watch(library.range());
+    auto const name = exportName(plugin->path);
+    void* const entry = library.symbol(name);
+    auto const refusal = entry ? callExport(entry, host_) : "has lost its export " + name + ".";
+    if (!refusal.empty())
+        return discard(std::move(plugin), "The plug-in " + file + " " + refusal);
+    plugins_.push_back(std::move(plugin));
     return {true, {}};
+}
+
+PluginLoader::Outcome PluginLoader::discard(std::unique_ptr<Plugin> plugin, std::string message) {
+    plugins_.push_back(std::move(plugin));
+    auto const place = std::prev(plugins_.end());
+    auto closed = close(place);
+    for (auto const& addition : {closed.message, closed.remains}) {
+        if (!addition.empty())
+            message += " " + addition;
+    }
+    return {false, message};
 }
 
 PluginLoader::Outcome PluginLoader::unload(std::string const& file) {
     auto const found = find(file);
-    if (found == plugins_.end())
-        return {false, "The plug-in " + file + " is not loaded."};
-    auto const& plugin = **found;
-    if (int const living = plugin.livingEditors())
-        return {false, "The plug-in " + file + " cannot be unloaded while " + std::to_string(living) +
-                           (living == 1 ? " of its editors is in use." : " of its editors are in use.")};
-    // The code that undoes these records is unloaded with the plug-in.
-    UndoHistory::forgetEverywhere([&](VUndoAction const& action) { return plugin.defines(typeid(action)); });
-    if (dlclose(plugin.handle) != 0)
-        return {false, "Cannot close the plug-in " + file + ": " + loaderReason()};
-    plugins_.erase(found);
-    return {true, {}};
+    return found == plugins_.end() ? Outcome{false, "The plug-in " + file + " is not loaded."} : unload(found);
+}
+
+PluginLoader::Outcome PluginLoader::unload(Plugins::const_iterator place) {
+    auto const closed = close(place);
+    if (!closed.remains.empty())
+        VActionNotifier::Warning(closed.remains);
+    return {closed.message.empty(), closed.message};
+}
+
+std::string PluginLoader::reasonToStay(Plugin const& plugin) {
+    auto const start = "The plug-in " + plugin.name + " cannot be unloaded while ";
+    if (plugin.library->isOnStack())
+        return start + "its own code is running.";
+    auto const& library = *plugin.library;
+    auto uses = PluginUses::of(library, PluginUses::Records::Ignored);
+    if (uses.empty()) {
+        // The code that undoes these records is unloaded with the plug-in.
+        UndoHistory::forgetEverywhere([&](VUndoAction const& action) { return library.defines(typeid(action)); });
+        uses = PluginUses::of(library, PluginUses::Records::Counted);
+    }
+    if (uses.empty())
+        return {};
+    int const editors = PluginUses::notifiers(library);
+    if (uses.size() == 1 && editors > 0)
+        return start + std::to_string(editors) +
+               (editors == 1 ? " of its editors is in use." : " of its editors are in use.");
+    std::string list;
+    for (auto const& use : uses)
+        list += (list.empty() ? "" : ", ") + use;
+    return start + "these are in use: " + list + ".";
+}
+
+PluginLoader::Closing PluginLoader::close(Plugins::const_iterator place) {
+    auto& plugin = **place;
+    if (auto reason = reasonToStay(plugin); !reason.empty())
+        return {std::move(reason), {}};
+    PluginRemains remains(*plugin.library);
+    std::string problem;
+    auto const closed = plugin.library->close(problem);
+    if (closed == PluginLibrary::Closed::Failed)
+        return {"Cannot close the plug-in " + plugin.name + ": " + problem, {}};
+    if (closed == PluginLibrary::Closed::Remains)
+        return {"The plug-in " + plugin.name + " was closed and is still in memory, because something else holds it.",
+                {}};
+    auto const left = remains.cleanUp();
+    auto const name = plugin.name;
+    plugins_.erase(place);
+    return {{}, left.empty() ? left : "The plug-in " + name + " left behind what was removed now: " + left + "."};
 }
 
 std::vector<std::string> PluginLoader::files() const {
     std::vector<std::string> files;
     for (auto const& plugin : plugins_)
-        files.push_back(plugin->file);
+        files.push_back(plugin->name);
     return files;
 }
 
 int PluginLoader::livingEditors(std::string const& file) const {
     auto const found = find(file);
-    return found == plugins_.end() ? 0 : (*found)->livingEditors();
+    return found == plugins_.end() ? 0 : PluginUses::notifiers(*(*found)->library);
 }
 
 } // namespace Kolt

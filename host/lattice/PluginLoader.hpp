@@ -4,7 +4,6 @@
 #include <memory>
 #include <string>
 #include <tessera/Export.hpp>
-#include <typeinfo>
 #include <vector>
 
 namespace Kolt {
@@ -30,25 +29,49 @@ public:
     PluginLoader(PluginLoader const&) = delete;
     PluginLoader& operator=(PluginLoader const&) = delete;
 
-    /// Opens the file, finds its export (exportName) and calls it. Fails if it is no regular file of at most 256 MB, if
-    /// the file cannot be opened, lacks the
-    /// export, or says that it is not compatible with the host; the message names the step and the system's reason, and
-    /// the file is closed again. Also fails, without an effect, for a file that is loaded already.
+    /// Loads a plug-in file and calls its export (exportName). Before anything of it runs, the file itself is looked at
+    /// (PluginFile). Fails for a file that cannot be loaded, lacks its export, was built for another interface of the
+    /// host, says that it is not compatible with the host, or whose export throws; the message names the file and the
+    /// reason. What the file has registered until then is removed, and the file is closed again. Also fails, without an
+    /// effect, for a file that is loaded already, by whatever name or link.
     Outcome load(std::string const& file);
-    /// Closes a file that was loaded. Fails while an editor or icon of the file exists. The records that the file gave
-    /// to undo histories are forgotten in all of them (UndoHistory::forgetEverywhere), as their code is unloaded.
+    /// Closes a file that was loaded, by its name, a link to it, or the name that was given to load(). Fails, without
+    /// an effect, while code of the file is running on this thread, and while objects of its types are in use: editors,
+    /// widgets, icons, values, records, creators, interfaces (PluginUses). Code of the file that other threads execute
+    /// cannot be seen: a plug-in ends its threads itself. Also fails if something else keeps the file in memory; it is
+    /// still one of files() then.
+    ///
+    /// The records that the file gave to undo histories are forgotten in all of them (UndoHistory::forgetEverywhere),
+    /// as their code is unloaded. What a file has registered and does not take back is removed, with a warning
+    /// (VActionNotifier::Warning).
     Outcome unload(std::string const& file);
     /// The loaded files, with the names that were given to load(), in order of loading.
     std::vector<std::string> files() const;
-    /// How many editors and icons of a loaded file exist; 0 for a file that is not loaded.
+    /// How many notifiers of a loaded file exist, which are its editors and some of its icons; 0 for a file that is not
+    /// loaded.
     int livingEditors(std::string const& file) const;
     /// The name of the function that a plug-in file must export: a fixed prefix and the base name of the file.
     static std::string exportName(std::string const& file);
 
 private:
-    class Plugin;
+    struct Plugin;
     using Plugins = std::vector<std::unique_ptr<Plugin>>;
+    // Both are sentences for people, and empty for nothing.
+    struct Closing {
+        // Why the plug-in was not closed.
+        std::string message;
+        // What it left behind.
+        std::string remains;
+    };
     Plugins::const_iterator find(std::string const& file) const;
+    // Of a plug-in whose library was just loaded.
+    Outcome start(std::unique_ptr<Plugin> plugin);
+    // Closes a plug-in that cannot be used, and says so with the message.
+    Outcome discard(std::unique_ptr<Plugin> plugin, std::string message);
+    Outcome unload(Plugins::const_iterator place);
+    // Why a plug-in must stay loaded; empty if it need not.
+    static std::string reasonToStay(Plugin const& plugin);
+    Closing close(Plugins::const_iterator place);
 
     VInitialization& host_;
     Plugins plugins_;

@@ -4,7 +4,6 @@
 #include <lattice/HostObserver.hpp>
 #include <tessera/MakeStrong.hpp>
 #include <tessera/NoDestructor.hpp>
-#include <vector>
 
 namespace Kolt {
 
@@ -60,6 +59,15 @@ int VValueCreator::registered(std::string const& typeName) {
     return static_cast<int>(std::count_if(known.begin(), known.end(), [&](auto const& entry) {
         return entry.typeName == typeName && entry.creator.alive();
     }));
+}
+
+std::vector<Tessera::StrongPtr<VValueCreator>> VValueCreator::living() {
+    std::vector<Tessera::StrongPtr<VValueCreator>> living;
+    for (auto const& known : knownValueCreators()) {
+        if (auto creator = known.creator.strong())
+            living.push_back(std::move(creator));
+    }
+    return living;
 }
 
 } // namespace Kolt

@@ -2,6 +2,7 @@
 
 #include <lattice/Value.hpp>
 #include <tessera/MakeStrong.hpp>
+#include <vector>
 
 namespace Kolt {
 
@@ -23,6 +24,8 @@ public:
     [[nodiscard]] static ValuePtr create(std::string const& typeName);
     /// How many living creators are registered under the name.
     static int registered(std::string const& typeName);
+    /// All living creators that are registered, in order of registration.
+    static std::vector<Tessera::StrongPtr<VValueCreator>> living();
 };
 
 /// The creator of VValue<T> objects. T must be default constructible.

@@ -4,6 +4,7 @@
 #include <lattice/ValuePoolProvider.hpp>
 #include <QWidget>
 #include <tessera/Export.hpp>
+#include <vector>
 
 namespace Kolt {
 
@@ -24,6 +25,10 @@ public:
     Tessera::StrongPtr<ValuePoolProvider> const& provider() const { return provider_; }
     /// The icon as a widget; never null.
     virtual QWidget* widget() = 0;
+
+    /// All existing icons, in no particular order. A host that unloads a library needs them to know whose code is still
+    /// in use.
+    static std::vector<VIcon*> living();
 
 private:
     Tessera::WeakPtr<VObject, VManagedObjectBase> object_;
