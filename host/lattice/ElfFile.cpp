@@ -22,6 +22,7 @@ using DynamicEntry = ElfW(Dyn);
 
 constexpr auto outside = std::numeric_limits<std::uint64_t>::max();
 constexpr std::size_t longestName = 1000;
+constexpr std::size_t mostFunctions = 1000;
 constexpr char cutOff[] = "it is cut off";
 
 bool looksLikeText(std::string_view bytes) {
@@ -181,7 +182,7 @@ std::vector<std::string> ElfFile::functions(std::string_view prefix) const {
     if (!fault_.empty())
         return functions;
     auto const symbols = dynamicSymbols();
-    for (std::uint64_t index = 0; index < symbols.count; ++index) {
+    for (std::uint64_t index = 0; index < symbols.count && functions.size() < mostFunctions; ++index) {
         Symbol symbol{};
         if (!read(symbols.table + index * sizeof symbol, symbol))
             break;

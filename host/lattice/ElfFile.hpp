@@ -19,7 +19,7 @@ public:
     /// off". Empty if they are one.
     std::string const& fault() const { return fault_; }
     /// The names of the functions that the library defines for others and that begin with `prefix`, in the order of its
-    /// symbol table. Names of more than 1000 bytes are left out. Empty if there is a fault.
+    /// symbol table, at most 1000 of them. Names of more than 1000 bytes are left out. Empty if there is a fault.
     std::vector<std::string> functions(std::string_view prefix) const;
     /// The content of the first section with this name; empty if there is none, or a fault.
     std::string_view section(std::string_view name) const;

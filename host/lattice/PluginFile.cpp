@@ -11,11 +11,13 @@ namespace Kolt {
 
 namespace {
 
-std::string joined(std::vector<std::string> const& names) {
+/// A few are enough to know what the file is.
+std::string firstOf(std::vector<std::string> const& names) {
+    constexpr std::size_t most = 3;
     std::string text;
-    for (auto const& name : names)
-        text += (text.empty() ? "" : ", ") + name;
-    return text;
+    for (std::size_t index = 0; index < std::min(names.size(), most); ++index)
+        text += (text.empty() ? "" : ", ") + names[index];
+    return text + (names.size() > most ? " and others" : "");
 }
 
 /// Why the host cannot work with a file of this name that was compiled with the stamps in this section; empty if it
@@ -66,9 +68,9 @@ std::string PluginFile::problemOfContent(std::string const& file, std::string co
     auto const exports = elf.functions(exportPrefix());
     if (std::find(exports.begin(), exports.end(), name) == exports.end())
         return "Cannot find the export " + name + " in the plug-in " + file + ": " +
-               (exports.empty() ? "it has none" : "it has " + joined(exports));
+               (exports.empty() ? "it has none" : "it has " + firstOf(exports));
     if (exports.size() > 1)
-        return "Cannot open the plug-in " + file + ": it has several exports, " + joined(exports);
+        return "Cannot open the plug-in " + file + ": it has several exports, " + firstOf(exports);
     return problemOfStamps(file, elf.section(".talo.interface"));
 }
 

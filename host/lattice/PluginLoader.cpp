@@ -112,11 +112,11 @@ PluginLoader::Outcome PluginLoader::start(std::unique_ptr<Plugin> plugin) {
 PluginLoader::Outcome PluginLoader::discard(std::unique_ptr<Plugin> plugin, std::string message) {
     plugins_.push_back(std::move(plugin));
     auto const place = std::prev(plugins_.end());
-    auto closed = close(place);
-    for (auto const& addition : {closed.message, closed.remains}) {
-        if (!addition.empty())
-            message += " " + addition;
-    }
+    auto const closed = close(place);
+    if (!closed.message.empty())
+        message += " " + closed.message;
+    if (!closed.remains.empty())
+        message += " " + closed.remains + ".";
     return {false, message};
 }
 
@@ -132,10 +132,24 @@ PluginLoader::Outcome PluginLoader::unload(Plugins::const_iterator place) {
     return {closed.message.empty(), closed.message};
 }
 
+PluginLoader::Outcome PluginLoader::checkIdle() const {
+    for (auto const& plugin : plugins_) {
+        if (auto idle = checkIdle(*plugin); !idle.ok)
+            return idle;
+    }
+    return {true, {}};
+}
+
+PluginLoader::Outcome PluginLoader::checkIdle(Plugin const& plugin) {
+    if (!plugin.library->isOnStack())
+        return {true, {}};
+    return {false, "The plug-in " + plugin.name + " cannot be unloaded while its own code is running."};
+}
+
 std::string PluginLoader::reasonToStay(Plugin const& plugin) {
+    if (auto idle = checkIdle(plugin); !idle.ok)
+        return idle.message;
     auto const start = "The plug-in " + plugin.name + " cannot be unloaded while ";
-    if (plugin.library->isOnStack())
-        return start + "its own code is running.";
     auto const& library = *plugin.library;
     auto uses = PluginUses::of(library, PluginUses::Records::Ignored);
     if (uses.empty()) {
@@ -170,7 +184,7 @@ PluginLoader::Closing PluginLoader::close(Plugins::const_iterator place) {
     auto const left = remains.cleanUp();
     auto const name = plugin.name;
     plugins_.erase(place);
-    return {{}, left.empty() ? left : "The plug-in " + name + " left behind what was removed now: " + left + "."};
+    return {{}, left.empty() ? left : "The plug-in " + name + " left behind what was removed now: " + left};
 }
 
 std::vector<std::string> PluginLoader::files() const {

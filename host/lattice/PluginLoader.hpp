@@ -45,6 +45,9 @@ public:
     /// as their code is unloaded. What a file has registered and does not take back is removed, with a warning
     /// (VActionNotifier::Warning).
     Outcome unload(std::string const& file);
+    /// Succeeds if no code of the loaded files is running on this thread, as it must be to unload all of them. A host
+    /// asks before it closes editors in order to unload.
+    Outcome checkIdle() const;
     /// The loaded files, with the names that were given to load(), in order of loading.
     std::vector<std::string> files() const;
     /// How many notifiers of a loaded file exist, which are its editors and some of its icons; 0 for a file that is not
@@ -56,11 +59,10 @@ public:
 private:
     struct Plugin;
     using Plugins = std::vector<std::unique_ptr<Plugin>>;
-    // Both are sentences for people, and empty for nothing.
     struct Closing {
-        // Why the plug-in was not closed.
+        // Why the plug-in was not closed, a sentence for people; empty if it was.
         std::string message;
-        // What it left behind.
+        // What it left behind, a sentence without a full stop; empty for nothing.
         std::string remains;
     };
     Plugins::const_iterator find(std::string const& file) const;
@@ -69,6 +71,8 @@ private:
     // Closes a plug-in that cannot be used, and says so with the message.
     Outcome discard(std::unique_ptr<Plugin> plugin, std::string message);
     Outcome unload(Plugins::const_iterator place);
+    // Fails while code of the plug-in is running on this thread.
+    static Outcome checkIdle(Plugin const& plugin);
     // Why a plug-in must stay loaded; empty if it need not.
     static std::string reasonToStay(Plugin const& plugin);
     Closing close(Plugins::const_iterator place);

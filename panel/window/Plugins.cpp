@@ -34,6 +34,8 @@ bool Plugins::load(QString const& file, QString* error) {
 }
 
 bool Plugins::unload(QString* error) {
+    if (!isIdle(error))
+        return false;
     emit aboutToChange();
     bool const unloaded = unloadFiles(error);
     emit changed();
@@ -41,6 +43,8 @@ bool Plugins::unload(QString* error) {
 }
 
 bool Plugins::reload(QString* error) {
+    if (!isIdle(error))
+        return false;
     emit aboutToChange();
     bool reloaded = unloadFiles(error);
     auto const loaded = loadedFiles();
@@ -52,6 +56,14 @@ bool Plugins::reload(QString* error) {
     return reloaded;
 }
 
+bool Plugins::isIdle(QString* error) const {
+    // Before any editor is closed: one of them may be what is running.
+    auto const idle = loader_.checkIdle();
+    if (!idle.ok)
+        append(error, idle.message);
+    return idle.ok;
+}
+
 QStringList Plugins::loadedFiles() const {
     QStringList files;
     for (auto const& file : loader_.files())
@@ -61,7 +73,8 @@ QStringList Plugins::loadedFiles() const {
 
 bool Plugins::loadFile(QString const& file, QString* error) {
     auto const outcome = loader_.load(file.toStdString());
-    QFileInfo const info(file);
+    // A link has the translation of the file that it leads to.
+    QFileInfo const info(QFileInfo(file).canonicalFilePath());
     if (outcome.ok)
         translations_[file] = installTranslation(info.absolutePath(), info.completeBaseName());
     else

@@ -25,9 +25,11 @@ public:
     /// not be loaded is not remembered.
     bool load(QString const& file, QString* error = nullptr);
     /// Unloads all loaded files, the latest first. False, and the reasons in `error` unless that is null, when one
-    /// stays, because editors made by it are still in use.
+    /// stays, because editors or values made by it are still in use. While code of a file is running on this thread,
+    /// nothing is closed or unloaded.
     bool unload(QString* error = nullptr);
     /// Unloads all loaded files and loads all remembered ones, in the order in which they were first loaded.
+    /// While code of a file is running on this thread, nothing happens and it returns false.
     bool reload(QString* error = nullptr);
 
     /// The loaded files.
@@ -42,6 +44,8 @@ signals:
     void changed();
 
 private:
+    // Whether no code of the files is running.
+    bool isIdle(QString* error) const;
     bool loadFile(QString const& file, QString* error);
     bool unloadFiles(QString* error);
 

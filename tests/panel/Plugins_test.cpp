@@ -1,6 +1,7 @@
 #include "PanelTest.hpp"
 
 #include <parameters/rows/PlaceholderEditor.hpp>
+#include <plugins_bad/own_value.hpp>
 #include <QMessageBox>
 
 using testing::HasSubstr;
@@ -106,6 +107,45 @@ TEST_F(PluginsTest, AnEditorInUseElsewhereKeepsThePluginLoaded) {
     EXPECT_NE(box("on"), nullptr);
     delete editor.widget;
     EXPECT_TRUE(plugins.unload());
+}
+
+TEST_F(PluginsTest, NothingIsClosedWhileCodeOfAPluginIsRunning) {
+    QString error;
+    ASSERT_TRUE(plugins.load(QStringLiteral(TALO_BAD_PLUGINS "own_value.talo"), &error)) << qPrintable(error);
+    QPointer<QCheckBox> const editor = box("on");
+    ASSERT_TRUE(editor);
+    auto const call = [](std::function<void()> const& function) {
+        for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
+            if (auto const workshop = entry.creator.strong()->getInterface<OwnValueWorkshop>())
+                return workshop->call(function);
+        }
+        FAIL() << "the plug-in has no workshop";
+    };
+    call([&] { EXPECT_FALSE(plugins.unload(&error)); });
+    EXPECT_THAT(error.toStdString(), testing::EndsWith("own_value.talo cannot be unloaded while its own code is "
+                                                       "running."));
+    error.clear();
+    call([&] { EXPECT_FALSE(plugins.reload(&error)); });
+    EXPECT_THAT(error.toStdString(), HasSubstr("its own code is running"));
+    EXPECT_TRUE(editor) << "no editor was closed";
+    EXPECT_EQ(plugins.loadedFiles().size(), 2);
+    EXPECT_TRUE(plugins.unload(&error)) << qPrintable(error);
+}
+
+TEST_F(PluginsTest, AValueOfAPluginsOwnTypeKeepsThePluginLoaded) {
+    QString error;
+    ASSERT_TRUE(plugins.load(QStringLiteral(TALO_BAD_PLUGINS "own_value.talo"), &error)) << qPrintable(error);
+    Kolt::ValuePtr kept;
+    for (auto const& entry : Kolt::InputRegistry::theRegistry().entries()) {
+        if (auto const workshop = entry.creator.strong()->getInterface<OwnValueWorkshop>())
+            kept = workshop->makeOwnType();
+    }
+    ASSERT_TRUE(kept);
+    EXPECT_FALSE(plugins.unload(&error));
+    EXPECT_THAT(error.toStdString(), HasSubstr("1 value of type Kolt::VValue<OwnValue::Vector>"));
+    EXPECT_EQ(plugins.loadedFiles().size(), 1) << "the other file is unloaded";
+    kept.reset();
+    EXPECT_TRUE(plugins.unload(&error)) << qPrintable(error);
 }
 
 TEST_F(PluginsTest, AStandInNamesTypeAndPreferences) {

@@ -2,6 +2,7 @@
 
 #include "support/TestHost.hpp"
 
+#include <dlfcn.h>
 #include <lattice/PluginLoader.hpp>
 #include <lattice/TypedParameter.hpp>
 #include <parameters/rows/HostTexts.hpp>
@@ -79,6 +80,31 @@ TEST_F(HostTextsTest, WhyAPluginCannotBeLoadedIsTranslated) {
     EXPECT_THAT(translated(other.load("/nowhere.talo").message),
                 AllOf(StartsWith("<Cannot open the plug-in /nowhere.talo: "), EndsWith(">")));
     EXPECT_EQ(translated(other.unload("/nowhere.talo").message), "<The plug-in /nowhere.talo is not loaded.>");
+}
+
+TEST_F(HostTextsTest, WhatABadPluginDidIsTranslated) {
+    Kolt::PluginLoader other;
+    auto const refusal = [&](char const* name) {
+        return translated(other.load(std::string(TALO_BAD_PLUGINS) + name + ".talo").message);
+    };
+    auto const expected = [](std::string const& name, std::string const& end) {
+        return "<The plug-in " TALO_BAD_PLUGINS + name + ".talo " + end + ">";
+    };
+    EXPECT_EQ(refusal("throws"), expected("throws", "ended with an exception: there is no licence"));
+    EXPECT_EQ(refusal("throws_a_number"), expected("throws_a_number", "ended with an exception of unknown type."));
+    EXPECT_EQ(refusal("without_stamp"),
+              expected("without_stamp", "does not say for which interface of the host it was built."));
+    ASSERT_EQ(refusal("leaves_observer"), "");
+    RecordedWarnings own;
+    auto const file = std::string(TALO_BAD_PLUGINS) + "leaves_observer.talo";
+    void* const handle = dlopen(file.c_str(), RTLD_NOW);
+    EXPECT_EQ(translated(other.unload(file).message),
+              expected("leaves_observer", "was closed and is still in memory, because something else holds it."));
+    dlclose(handle);
+    ASSERT_TRUE(other.unload(file).ok);
+    ASSERT_THAT(own.texts, testing::SizeIs(1));
+    EXPECT_EQ(translated(own.texts[0]),
+              expected("leaves_observer", "left behind what was removed now: 1 observer, 1 speaker"));
 }
 
 TEST_F(HostTextsTest, WithoutATranslationTheHostSpeaksItself) {

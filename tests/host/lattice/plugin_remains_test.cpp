@@ -48,7 +48,7 @@ TEST_F(PluginRemainders, OfAPluginThatNeverUnregistersAreRemovedAndTold) {
         EXPECT_TRUE(unloaded.ok) << unloaded.message;
         EXPECT_THAT(warnings_.texts, ElementsAre("The plug-in " + file +
                                                  " left behind what was removed now: 2 creators, 1 value creator, 1 "
-                                                 "warning receiver."));
+                                                 "warning receiver"));
         EXPECT_FALSE(isMapped(file));
         EXPECT_THAT(Kolt::InputRegistry::theRegistry().entries(), IsEmpty());
         EXPECT_EQ(Kolt::VValueCreator::registered("OwnType"), 0);
@@ -73,7 +73,7 @@ TEST_F(PluginRemainders, ThatAreInstalledInTheHostAreRemovedAndTold) {
     EXPECT_NE(&Tessera::SpeakPtr::theSpeaker(), speaker);
     EXPECT_TRUE(loader_.unload(file).ok);
     EXPECT_THAT(warnings_.texts,
-                ElementsAre("The plug-in " + file + " left behind what was removed now: 1 observer, 1 speaker."));
+                ElementsAre("The plug-in " + file + " left behind what was removed now: 1 observer, 1 speaker"));
     EXPECT_EQ(&Kolt::HostObserver::theObserver(), observer);
     EXPECT_EQ(&Tessera::SpeakPtr::theSpeaker(), speaker);
 }
