@@ -21,6 +21,8 @@ public:
     std::string const& Name() const { return name_; }
     /// Replaces the handler; an empty one makes the action do nothing.
     void setHandler(Handler handler) { handler_ = std::move(handler); }
+    /// The type of the function object that is the handler; typeid(void) for none.
+    std::type_info const& handlerType() const { return handler_.target_type(); }
     /// Calls the handler, if there is one, and passes on what it throws. The handler may delete anything, the action
     /// included, and may set another handler.
     void emitAction(PoolPtr const& pool, ParameterPtr const& parameter);

@@ -54,8 +54,14 @@ PluginLoader::PluginLoader() : PluginLoader(plainHost()) {}
 PluginLoader::~PluginLoader() {
     // The latest first. A file that is in use stays loaded, as unloading its code would crash.
     while (!plugins_.empty()) {
-        if (!unload(std::prev(plugins_.end())).ok)
-            plugins_.pop_back();
+        auto const closed = close(std::prev(plugins_.end()));
+        if (!closed.remains.empty())
+            VActionNotifier::Warning(closed.remains);
+        if (closed.message.empty())
+            continue;
+        if (closed.isHeldByOthers)
+            plugins_.back()->library->leave();
+        plugins_.pop_back();
     }
 }
 
@@ -180,7 +186,8 @@ PluginLoader::Closing PluginLoader::close(Plugins::const_iterator place) {
         return {"Cannot close the plug-in " + plugin.name + ": " + problem, {}};
     if (closed == PluginLibrary::Closed::Remains)
         return {"The plug-in " + plugin.name + " was closed and is still in memory, because something else holds it.",
-                {}};
+                {},
+                true};
     auto const left = remains.cleanUp();
     auto const name = plugin.name;
     plugins_.erase(place);

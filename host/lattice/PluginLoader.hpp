@@ -64,6 +64,8 @@ private:
         std::string message;
         // What it left behind, a sentence without a full stop; empty for nothing.
         std::string remains;
+        // Whether it was not closed because something else holds the file.
+        bool isHeldByOthers = false;
     };
     Plugins::const_iterator find(std::string const& file) const;
     // Of a plug-in whose library was just loaded.

@@ -24,6 +24,10 @@ PluginRemains::PluginRemains(PluginLibrary const& library) : range_(library.rang
         if (library.defines(typeid(*notifier)))
             add("warning receiver", notifier.get());
     }
+    for (auto* const notifier : ValueNotifier::living()) {
+        if (range_.contains(notifier))
+            add("notifier", notifier);
+    }
     noteInstalled(library);
 }
 
@@ -62,6 +66,7 @@ void PluginRemains::noteInstalled(PluginLibrary const& library) {
 }
 
 std::string PluginRemains::cleanUp() {
+    ValueNotifier::abandon(range_);
     std::map<std::string, int> counts;
     for (auto const& registered : registered_) {
         if (!registered.object.alive())

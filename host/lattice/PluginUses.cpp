@@ -83,14 +83,20 @@ private:
 
 } // namespace
 
-void PluginUses::addLister(Lister lister) {
-    listers().push_back(lister);
+PluginUses::Listing::Listing(Lister lister) : lister_(lister) {
+    listers().push_back(lister_);
+}
+
+PluginUses::Listing::~Listing() {
+    auto& all = listers();
+    all.erase(std::find(all.begin(), all.end(), lister_));
 }
 
 int PluginUses::notifiers(PluginLibrary const& library) {
     auto const notifiers = ValueNotifier::living();
     return static_cast<int>(std::count_if(notifiers.begin(), notifiers.end(), [&](ValueNotifier const* notifier) {
-        return library.defines(typeid(*notifier));
+        // Its static ones end with it.
+        return library.defines(typeid(*notifier)) && !library.range().contains(notifier);
     }));
 }
 

@@ -8,7 +8,7 @@
 namespace Kolt {
 
 /// What keeps a plug-in library from being unloaded: living objects of its types. These are notifiers (editors, almost
-/// always), the kinds that other libraries list (addLister), and all adopted objects to which others than the plug-in
+/// always), the kinds that other libraries list (Listing), and all adopted objects to which others than the plug-in
 /// itself refer (Tessera::LivingObjects): values, undo records, interfaces, creators, actions. User-interface thread.
 class TALO_EXPORT PluginUses {
 public:
@@ -19,13 +19,22 @@ public:
     };
     /// Lists all objects of some kinds, those of all plug-ins and of the host.
     using Lister = std::vector<Use> (*)();
-    /// Adds a lister, for a library with kinds of objects of its own. REQUIRES: the library is never unloaded.
-    static void addLister(Lister lister);
+    /// Has a lister asked as long as it exists: a static object of a library with kinds of objects of its own.
+    class TALO_EXPORT Listing {
+    public:
+        explicit Listing(Lister lister);
+        ~Listing();
+        Listing(Listing const&) = delete;
+        Listing& operator=(Listing const&) = delete;
+
+    private:
+        Lister const lister_;
+    };
 
     /// Whether undo records count.
     enum class Records { Ignored, Counted };
 
-    /// How many notifiers of the library's types exist.
+    /// How many notifiers of the library's types exist, without its static ones, which end with it.
     static int notifiers(PluginLibrary const& library);
     /// What is in use, for people: "2 editors", "1 value of type Sample::Vector (box.size)"; empty if nothing is.
     static std::vector<std::string> of(PluginLibrary const& library, Records records);

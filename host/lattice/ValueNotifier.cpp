@@ -3,44 +3,62 @@
 #include <algorithm>
 #include <lattice/NotifierGuard.hpp>
 #include <tessera/NoDestructor.hpp>
+#include <unordered_map>
 
 namespace Kolt {
 
 namespace {
 
-// Never destroyed: notifiers of other libraries may be destroyed after the statics of this one.
-std::mutex& livingMutex() {
-    static Tessera::NoDestructor<std::mutex> mutex;
-    return *mutex;
-}
+struct LivingNotifiers {
+    std::mutex mutex;
+    std::unordered_map<ValueNotifier*, std::shared_ptr<NotifierGuard>> guards;
+};
 
-// The head of the linked list of all notifiers.
-ValueNotifier* firstLiving = nullptr;
+// Never destroyed: notifiers of other libraries may be destroyed after the statics of this one.
+LivingNotifiers& livingNotifiers() {
+    static Tessera::NoDestructor<LivingNotifiers> living;
+    return *living;
+}
 
 } // namespace
 
 ValueNotifier::ValueNotifier() : guard_(std::make_shared<NotifierGuard>(this)) {
-    std::lock_guard const lock(livingMutex());
-    next_ = firstLiving;
-    if (next_)
-        next_->previous_ = this;
-    firstLiving = this;
+    auto& living = livingNotifiers();
+    std::lock_guard const lock(living.mutex);
+    living.guards.emplace(this, guard_);
 }
 
 ValueNotifier::~ValueNotifier() {
     stopNotifications();
-    std::lock_guard const lock(livingMutex());
-    (previous_ ? previous_->next_ : firstLiving) = next_;
-    if (next_)
-        next_->previous_ = previous_;
+    auto& living = livingNotifiers();
+    std::lock_guard const lock(living.mutex);
+    living.guards.erase(this);
 }
 
 std::vector<ValueNotifier*> ValueNotifier::living() {
-    std::lock_guard const lock(livingMutex());
+    auto& living = livingNotifiers();
+    std::lock_guard const lock(living.mutex);
     std::vector<ValueNotifier*> notifiers;
-    for (auto* notifier = firstLiving; notifier; notifier = notifier->next_)
+    notifiers.reserve(living.guards.size());
+    for (auto const& [notifier, guard] : living.guards)
         notifiers.push_back(notifier);
     return notifiers;
+}
+
+void ValueNotifier::abandon(Tessera::AddressRange const& range) {
+    auto& living = livingNotifiers();
+    std::vector<std::shared_ptr<NotifierGuard>> abandoned;
+    {
+        std::lock_guard const lock(living.mutex);
+        for (auto entry = living.guards.begin(); entry != living.guards.end();) {
+            bool const isGone = range.contains(entry->first);
+            if (isGone)
+                abandoned.push_back(entry->second);
+            entry = isGone ? living.guards.erase(entry) : std::next(entry);
+        }
+    }
+    for (auto const& guard : abandoned)
+        guard->close();
 }
 
 void ValueNotifier::stopNotifications() {

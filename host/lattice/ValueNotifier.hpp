@@ -6,6 +6,7 @@
 #include <lattice/ValueMap.hpp>
 #include <memory>
 #include <mutex>
+#include <tessera/AddressRange.hpp>
 #include <tessera/Export.hpp>
 #include <tessera/Intercube.hpp>
 #include <vector>
@@ -39,6 +40,9 @@ public:
     /// still in use.
     /// User-interface thread.
     static std::vector<ValueNotifier*> living();
+    /// Forgets the notifiers that lie in a part of the memory that is gone, such as that of an unloaded library. They
+    /// are not notified any more, and not used here. User-interface thread.
+    static void abandon(Tessera::AddressRange const& range);
 
 protected:
     /// Ends the notifications for good. Waits for a notification by another thread that is under way; one on this
@@ -49,9 +53,6 @@ protected:
 private:
     friend class ValueNotifierList;
     std::shared_ptr<NotifierGuard> guard_;
-    // The linked list of all notifiers.
-    ValueNotifier* previous_ = nullptr;
-    ValueNotifier* next_ = nullptr;
 };
 
 /// Notifiers in order of registration. The list refers to them weakly; a destroyed notifier is left out. Notifiers may

@@ -9,11 +9,7 @@ namespace Kolt {
 
 namespace {
 
-struct WidgetLister {
-    WidgetLister() { PluginUses::addLister(widgetUses); }
-};
-
-WidgetLister const widgetLister;
+PluginUses::Listing const widgetListing(widgetUses);
 
 } // namespace
 

@@ -71,6 +71,9 @@ LivingObjects::Loading::~Loading() {
 void LivingObjects::watch(AddressRange const& library) {
     auto& watched = watchedObjects();
     std::lock_guard const lock(watched.mutex);
+    auto const isSame = [&](AddressRange const& other) { return other.begin == library.begin; };
+    if (std::any_of(watched.libraries.begin(), watched.libraries.end(), isSame))
+        return;
     watched.libraries.push_back(library);
     updateBounds(watched.libraries);
     for (auto& [control, living] : watched.objects) {

@@ -24,7 +24,7 @@ public:
     };
 
     /// Watches a library that was just loaded. The references to its objects that exist now are taken to be the
-    /// library's own: it gives them up when it is unloaded.
+    /// library's own: it gives them up when it is unloaded. Nothing happens for a library that is watched already.
     static void watch(AddressRange const& library);
     /// The living objects whose type the library defines and to which others than the library itself refer.
     static std::vector<StrongPtr<ReferenceCounted>> heldByOthers(AddressRange const& library);

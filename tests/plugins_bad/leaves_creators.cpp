@@ -15,12 +15,18 @@ struct Listener : Kolt::VActionNotifier {
     void onWarning(std::string const&) override {}
 };
 
+struct Notifier : Kolt::ValueNotifier {
+    void onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) override {}
+};
+
 } // namespace
 
 static Tessera::NoDestructor<EmptyCreator> inOwnMemory("in its own memory");
 static EmptyCreator const* const elsewhere = new EmptyCreator("elsewhere");
 static Tessera::NoDestructor<Kolt::TypedValueCreator<OwnType>> values;
 static Tessera::NoDestructor<Listener> listener;
+static Notifier const tidyNotifier;
+static Tessera::NoDestructor<Notifier> notifier;
 
 extern "C" __attribute__((visibility("default"))) bool
 TALO_API_2023_MAR_29__leaves_creators(Kolt::VInitialization const* host) {

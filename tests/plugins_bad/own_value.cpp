@@ -1,9 +1,11 @@
 // Makes values, records and interfaces of its own, which a host may keep for too long.
+#include <bramble/Action.hpp>
 #include <lattice/Initialization.hpp>
 #include <lattice/UndoAction.hpp>
 #include <lattice/Value.hpp>
 #include <plugins_bad/EmptyCreator.hpp>
 #include <plugins_bad/own_value.hpp>
+#include <tessera/MakeStrong.hpp>
 
 namespace OwnValue {
 
@@ -37,6 +39,10 @@ struct Workshop : OwnValueWorkshop {
     Kolt::ValuePtr makeNumber() override { return Kolt::makeValue(42); }
     Tessera::StrongPtr<Kolt::VUndoAction> makeRecord() override {
         return Tessera::StrongPtr<Kolt::VUndoAction>(new Record);
+    }
+    Kolt::ValuePtr makeAction() override {
+        auto const doNothing = [](Kolt::PoolPtr const&, Kolt::ParameterPtr const&) {};
+        return Kolt::makeValue(Tessera::makeStrong<Kolt::VAction>("do nothing", doNothing));
     }
     void call(std::function<void()> const& function) override { function(); }
 };

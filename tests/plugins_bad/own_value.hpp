@@ -16,6 +16,8 @@ struct OwnValueWorkshop : Tessera::Interface<OwnValueWorkshop> {
     virtual Kolt::ValuePtr makeNumber() = 0;
     /// An undo record of a class of the plug-in.
     virtual Tessera::StrongPtr<Kolt::VUndoAction> makeRecord() = 0;
+    /// A value with an action of the host whose handler is code of the plug-in.
+    virtual Kolt::ValuePtr makeAction() = 0;
     /// Calls the function while the plug-in's code is on the stack.
     virtual void call(std::function<void()> const& function) = 0;
 };

@@ -46,9 +46,10 @@ TEST_F(PluginRemainders, OfAPluginThatNeverUnregistersAreRemovedAndTold) {
         EXPECT_THAT(Kolt::InputRegistry::theRegistry().entries(), testing::SizeIs(2)) << "in each round";
         auto const unloaded = loader_.unload(file);
         EXPECT_TRUE(unloaded.ok) << unloaded.message;
-        EXPECT_THAT(warnings_.texts, ElementsAre("The plug-in " + file +
-                                                 " left behind what was removed now: 2 creators, 1 value creator, 1 "
-                                                 "warning receiver"));
+        EXPECT_THAT(warnings_.texts,
+                    ElementsAre("The plug-in " + file +
+                                " left behind what was removed now: 2 creators, 1 notifier, 1 value creator, 1 "
+                                "warning receiver"));
         EXPECT_FALSE(isMapped(file));
         EXPECT_THAT(Kolt::InputRegistry::theRegistry().entries(), IsEmpty());
         EXPECT_EQ(Kolt::VValueCreator::registered("OwnType"), 0);
@@ -90,6 +91,19 @@ TEST_F(PluginRemainders, AFileThatOthersHoldStaysListedUntilTheyLetGo) {
     EXPECT_THAT(Kolt::InputRegistry::theRegistry().entries(), testing::SizeIs(1)) << "its creator still works";
     dlclose(handle);
     EXPECT_TRUE(loader_.unload(file).ok);
+    EXPECT_FALSE(isMapped(file));
+}
+
+TEST_F(PluginRemainders, TwoLoadersCanHaveOneFile) {
+    std::string const file = TALO_SAMPLE_PLUGIN;
+    {
+        Kolt::PluginLoader second;
+        ASSERT_TRUE(loader_.load(file).ok);
+        ASSERT_TRUE(second.load(file).ok);
+        EXPECT_FALSE(second.unload(file).ok) << "the first one has it";
+    }
+    EXPECT_TRUE(isMapped(file));
+    EXPECT_TRUE(loader_.unload(file).ok) << "the second one has let go";
     EXPECT_FALSE(isMapped(file));
 }
 

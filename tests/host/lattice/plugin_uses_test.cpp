@@ -2,9 +2,11 @@
 
 #include "host/lattice/PluginLoaderTest.hpp"
 
+#include <bramble/Action.hpp>
 #include <lattice/Object.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <plugins_bad/own_value.hpp>
+#include <tessera/MakeStrong.hpp>
 
 namespace {
 
@@ -106,6 +108,14 @@ TEST_F(PluginUse, ARecordThatAHistoryHasIsForgottenAndOneThatOthersKeepCounts) {
 TEST_F(PluginUse, AnInterfaceThatTheHostKeepsCounts) {
     auto const kept = workshop();
     expectInUse("1 interface of type OwnValue::Workshop");
+}
+
+TEST_F(PluginUse, AnActionThatCallsItsCodeCounts) {
+    Kolt::ObjectPtr const box(new Kolt::VObject("box"));
+    box->addParameter(Kolt::ParameterPtr(new Kolt::VParameter("open", workshop()->makeAction())));
+    box->addParameter(Kolt::ParameterPtr(
+        new Kolt::VParameter("close", Kolt::makeValue(Tessera::makeStrong<Kolt::VAction>("close")))));
+    expectInUse("1 action");
 }
 
 TEST_F(PluginUse, ItsRunningCodeIsSeen) {
