@@ -7,8 +7,8 @@
 #include <limits>
 #include <link.h>
 
-// The header of the library that this source is linked into; the linker defines the name.
-extern "C" [[gnu::visibility("hidden")]] ElfW(Ehdr) const __ehdr_start;
+// The header of the library that this source is linked into, which the linker defines.
+extern "C" [[gnu::visibility("hidden")]] ElfW(Ehdr) const ownHeader __asm__("__ehdr_start");
 
 namespace Kolt {
 
@@ -72,13 +72,13 @@ std::string ElfFile::faultOfHeader() const {
     std::memcpy(&header, bytes_.data(), std::min(sizeof header, bytes_.size()));
     if (bytes_.size() < EI_NIDENT)
         return cutOff;
-    if (header.e_ident[EI_CLASS] != __ehdr_start.e_ident[EI_CLASS])
+    if (header.e_ident[EI_CLASS] != ownHeader.e_ident[EI_CLASS])
         return header.e_ident[EI_CLASS] == ELFCLASS32 ? "it is for a machine of 32 bits" : "it is for another machine";
-    if (header.e_ident[EI_DATA] != __ehdr_start.e_ident[EI_DATA])
+    if (header.e_ident[EI_DATA] != ownHeader.e_ident[EI_DATA])
         return "it is for another machine";
     if (bytes_.size() < sizeof header)
         return cutOff;
-    if (header.e_machine != __ehdr_start.e_machine)
+    if (header.e_machine != ownHeader.e_machine)
         return "it is for another machine";
     if (header.e_type != ET_DYN)
         return "it is an ELF file but no shared library";

@@ -16,7 +16,7 @@ std::string loaderReason() {
 }
 
 struct RangeSearch {
-    ElfW(Addr) base;
+    ElfW(Addr) base = 0;
     Tessera::AddressRange range;
 };
 
@@ -51,7 +51,8 @@ struct StackSearch {
 
 _Unwind_Reason_Code lookAtFrame(_Unwind_Context* context, void* data) {
     auto& search = *static_cast<StackSearch*>(data);
-    search.found = search.range.contains(reinterpret_cast<void const*>(_Unwind_GetIP(context)));
+    std::uintptr_t const place = _Unwind_GetIP(context);
+    search.found = place >= search.range.begin && place < search.range.end;
     return search.found ? _URC_END_OF_STACK : _URC_NO_REASON;
 }
 

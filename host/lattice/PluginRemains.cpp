@@ -16,13 +16,15 @@ PluginRemains::PluginRemains(PluginLibrary const& library) : range_(library.rang
         if (library.defines(typeid(*object)))
             add(dynamic_cast<VInputCreatorBase*>(object) ? "creator" : "managed object", object);
     }
-    for (auto const& creator : VValueCreator::living()) {
+    for (auto const& reference : VValueCreator::living()) {
+        auto* const creator = reference.get();
         if (library.defines(typeid(*creator)))
-            add("value creator", creator.get());
+            add("value creator", creator);
     }
-    for (auto const& notifier : VActionNotifier::living()) {
-        if (library.defines(typeid(*notifier)))
-            add("warning receiver", notifier.get());
+    for (auto const& reference : VActionNotifier::living()) {
+        auto* const receiver = reference.get();
+        if (library.defines(typeid(*receiver)))
+            add("warning receiver", receiver);
     }
     for (auto* const notifier : ValueNotifier::living()) {
         if (range_.contains(notifier))

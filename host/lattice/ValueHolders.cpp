@@ -28,10 +28,10 @@ void ValueHolders::addParameter(VParameter const& parameter) {
         add(parameter.getLocalValue(pool, {}, false), name);
     if (auto const* const properties = parameter.properties()) {
         for (auto const& [property, value] : *properties)
-            add(value, name + ", property " + property);
+            add(value, std::string(name).append(", property ").append(property));
     }
     // Without a pool the default is that of the parameter itself.
-    pools.push_back(nullptr);
+    pools.emplace_back();
     for (auto const& pool : pools) {
         if (auto const* const defaults = parameter.defaults())
             add(defaults->in(pool).value, name + ", default");

@@ -20,8 +20,8 @@ protected:
     static ProgramRun abi(std::string const& arguments) {
         return runProgram(quoted(TALO_SOURCES "/scripts/abi") + " " + arguments + " 2>&1");
     }
-    void replaceInValueBase(std::string const& before, std::string const& after) const {
-        auto const file = copy_ / "lattice" / "ValueBase.hpp";
+    void replace(char const* header, std::string const& before, std::string const& after) const {
+        auto const file = copy_ / "lattice" / header;
         std::ostringstream content;
         content << std::ifstream(file).rdbuf();
         auto text = content.str();
@@ -38,13 +38,14 @@ TEST_F(InterfaceStamps, TheStampIsThatOfTheHeaders) {
 }
 
 TEST_F(InterfaceStamps, WhatChangesNoLayoutChangesNoStamp) {
-    replaceInValueBase("private:", "    // A comment.\n    int numberOfNothing() const { return 0; }\n\nprivate:");
+    replace("ValueBase.hpp",
+            "private:", "    // A comment.\n    int numberOfNothing() const { return 0; }\n\nprivate:");
     EXPECT_EQ(abi("--check " + quoted(copy_.string())).status, 0);
 }
 
 TEST_F(InterfaceStamps, OneMoreVirtualFunctionIsAnotherInterface) {
-    replaceInValueBase("    virtual bool isEdited() const;",
-                       "    virtual void oneMore();\n    virtual bool isEdited() const;");
+    replace("ValueBase.hpp", "    virtual bool isEdited() const;",
+            "    virtual void oneMore();\n    virtual bool isEdited() const;");
     auto const run = abi("--check " + quoted(copy_.string()));
     EXPECT_EQ(run.status, 1);
     EXPECT_THAT(run.lines, testing::ElementsAre(testing::HasSubstr("the stamp of the interface is ")));
@@ -53,9 +54,9 @@ TEST_F(InterfaceStamps, OneMoreVirtualFunctionIsAnotherInterface) {
 }
 
 TEST_F(InterfaceStamps, MembersInAnotherOrderAreAnotherInterface) {
-    std::string const first = "    Tessera::WeakPtr<VValueBase> container_;\n";
-    replaceInValueBase(first, "");
-    replaceInValueBase("source_;\n", "source_;\n" + first);
+    std::string const name = "    std::string const name_;\n";
+    std::string const value = "    ValuePtr const ownValue_;\n";
+    replace("Parameter.hpp", name + value, value + name);
     EXPECT_EQ(abi("--check " + quoted(copy_.string())).status, 1);
 }
 
