@@ -32,12 +32,13 @@ void ReferenceControl::adopt(std::type_info const& type, void const* address) {
         type_ = &type;
         SpeakPtr::theSpeaker().SelfConstruction(type, address, object_.load());
     }
-    if ((isFirst || hasGrown) && LivingObjects::concerns(type)) {
-        LivingObjects::add(*this, object_.load(), type);
-        isNoted_.store(true, std::memory_order_release);
-    }
     if (!adopted_.exchange(true, std::memory_order_acq_rel) && strong_.load() > 1)
         SpeakPtr::theSpeaker().WarningUnctionChange(strong_.load(), weakCount(), type);
+    // Last, as who finds the object among the living ones may take a further reference at once.
+    if ((isFirst || hasGrown) && LivingObjects::concerns(type)) {
+        isNoted_.store(true, std::memory_order_release);
+        LivingObjects::add(*this, object_.load(), type);
+    }
 }
 
 void ReferenceControl::lastStrongGone() noexcept {
@@ -46,8 +47,12 @@ void ReferenceControl::lastStrongGone() noexcept {
         // Counted during the hook, so that a reference that the hook takes and drops again is not the last one.
         strong_.fetch_add(1, std::memory_order_acq_rel);
         object->referenceHook();
+        // Read before the count is given back: who has taken a reference on another thread may drop it at once, and the
+        // counters with it.
+        auto const& type = *type_.load();
+        int const weak = weakCount();
         if (int const left = strong_.fetch_sub(1, std::memory_order_acq_rel) - 1; left > 0) {
-            SpeakPtr::theSpeaker().DestructionCancelled(left, weakCount(), *type_.load());
+            SpeakPtr::theSpeaker().DestructionCancelled(left, weak, type);
             return;
         }
         dying_ = true;
