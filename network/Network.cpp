@@ -1,11 +1,10 @@
 #include <algorithm>
-#include <bramble/Info.hpp>
-#include <bramble/ObjectStatus.hpp>
+#include <bramble/Action.hpp>
+#include <network/JsonFormat.hpp>
 #include <network/NetworkParts.hpp>
 #include <network/NetworkReader.hpp>
 #include <network/PropertyFormat.hpp>
 #include <network/SaveFile.hpp>
-#include <network/ValueFormat.hpp>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -37,8 +36,8 @@ typename List::value_type findNamed(List const& list, QString const& name) {
 
 /// Whether the parameter shows how something stands, which nobody saves.
 bool showsState(Kolt::VParameter const& parameter) {
-    auto const& type = parameter.ownValue()->valueType();
-    return type == typeid(Kolt::info) || type == typeid(Kolt::VObjectStatus);
+    auto const* const format = formatOf(parameter);
+    return format && format->showsState();
 }
 
 QJsonArray textsToJson(std::vector<std::string> const& texts) {
@@ -178,26 +177,26 @@ void Network::connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr 
 }
 
 QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString const& targetFolder) const {
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    auto const* const format = formatOf(parameter);
     if (!format)
         refuseToWrite("no network file can hold a parameter of type " +
                       QString::fromStdString(parameter.declaredType()));
+    auto const key = QString::fromStdString(format->key());
     auto const* const opened = whenOpened(parameter);
     auto const ownValue = opened ? opened->in(nullptr).value : parameter.ownValue();
     auto const* const ownEntries = entriesOf(ownValue);
     auto const json = [&](Kolt::ValuePtr const& value) {
-        auto const written = format->write(value);
+        auto const written = writeValue(*format, value);
         if (written.isUndefined())
-            refuseToWrite("the value is not of type " + QString(format->key) + " or has a text that is not UTF-8");
+            refuseToWrite("the value is not of type " + key + " or has a text that is not UTF-8");
         auto const* const entries = entriesOf(value);
         if (entries && (!ownEntries || *entries != *ownEntries))
             refuseToWrite("the value of a pool chooses among other entries than the parameter");
         return written;
     };
 
-    QJsonObject node{
-        {"name", QString::fromStdString(parameter.Name())}, {"type", format->key}, {"value", json(ownValue)}};
-    if (format->choosesEntries)
+    QJsonObject node{{"name", QString::fromStdString(parameter.Name())}, {"type", key}, {"value", json(ownValue)}};
+    if (choosesEntries(*format))
         node.insert("entries", ownEntries ? textsToJson(*ownEntries) : QJsonArray());
     auto const poolValues = poolValuesToJson(pools_, poolValuesOf(parameter, opened), json);
     if (!poolValues.isEmpty())
@@ -208,7 +207,7 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
         auto const& names = preferences->names();
         node.insert("preferences", textsToJson({names.begin(), names.end()}));
     }
-    auto const properties = propertiesToJson(parameter, PropertyFormat(format->key, folder()), targetFolder);
+    auto const properties = propertiesToJson(parameter, PropertyFormat(key, folder()), targetFolder);
     if (!properties.isEmpty())
         node.insert("properties", properties);
     return node;
@@ -275,10 +274,10 @@ bool Network::saveAs(QString const& file, QString* error) {
     file_ = file;
     for (auto const& object : objects_) {
         for (auto const& parameter : object->parameters()) {
-            auto const* const format = ValueFormat::ofType(parameter->declaredType());
+            auto const* const format = formatOf(*parameter);
             if (!format || !parameter->properties())
                 continue;
-            PropertyFormat const propertyFormat(format->key, oldFolder);
+            PropertyFormat const propertyFormat(QString::fromStdString(format->key()), oldFolder);
             // A copy, as the map changes.
             auto const properties = *parameter->properties();
             for (auto const& [key, value] : properties)

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <network/Condition.hpp>
+#include <network/JsonFormat.hpp>
 #include <network/PropertyFormat.hpp>
-#include <network/ValueFormat.hpp>
+#include <QStringList>
 #include <utility>
 
 namespace Talo {
@@ -24,20 +25,23 @@ std::vector<std::string> differentTexts(JsonNode const& node, QString const& wha
     return texts;
 }
 
-ValueFormat const& readFormat(JsonNode const& typeNode) {
-    auto const* const format = ValueFormat::ofKey(typeNode.text("a type"));
-    if (!format)
-        typeNode.refuse("a type, one of " + ValueFormat::keys());
-    return *format;
+Kolt::VValueFormat const& readFormat(JsonNode const& typeNode) {
+    auto const key = typeNode.text("a type").toStdString();
+    if (auto const* const format = Kolt::VValueFormat::ofKey(key))
+        return *format;
+    QStringList keys;
+    for (auto const* const format : Kolt::VValueFormat::all())
+        keys << QString::fromStdString(format->key());
+    typeNode.refuse("a type, one of " + keys.join(", "));
 }
 
 /// The entries of a parameter of this type; none for a type without entries.
-std::vector<std::string> readEntries(JsonNode const& node, ValueFormat const& format) {
-    if (format.choosesEntries)
-        return differentTexts(node.required("entries", "a parameter of type " + QString(format.key)), "the entries",
-                              "an entry");
+std::vector<std::string> readEntries(JsonNode const& node, Kolt::VValueFormat const& format) {
+    auto const key = QString::fromStdString(format.key());
+    if (choosesEntries(format))
+        return differentTexts(node.required("entries", "a parameter of type " + key), "the entries", "an entry");
     if (auto const* const unwanted = node.find("entries"))
-        unwanted->refuse("no entries for the type " + QString(format.key));
+        unwanted->refuse("no entries for the type " + key);
     return {};
 }
 
@@ -181,7 +185,7 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
     node.members(what, {"entries", "name", "perPool", "preferences", "properties", "type", "value", "values"});
     auto const& format = readFormat(node.required("type", what));
     auto const entries = readEntries(node, format);
-    auto const ownValue = format.read(node.required("value", what), entries);
+    auto const ownValue = readValue(format, node.required("value", what), entries);
     auto const* const poolValues = node.find("values");
     auto const* const perPool = node.find("perPool");
     bool const keepsPerPool = perPool ? perPool->truth("\"perPool\"") : poolValues != nullptr;
@@ -189,7 +193,7 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
         perPool->refuse("true where \"values\" are given");
     using Values = Kolt::VParameter::Values;
     Kolt::ParameterPtr const parameter(new Kolt::VParameter(
-        name.toStdString(), ownValue, keepsPerPool ? Values::PerPool : Values::Shared, format.typeName));
+        name.toStdString(), ownValue, keepsPerPool ? Values::PerPool : Values::Shared, format.typeName()));
     object->addParameter(parameter);
     if (poolValues)
         readPoolValues(*poolValues, *parameter, format, entries);
@@ -197,17 +201,18 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
     network_->connectActions(*parameter, object);
     readPreferences(node, *parameter);
     if (auto const* const properties = node.find("properties"))
-        for (auto const& [key, value] : PropertyFormat(format.key, network_->folder()).read(*properties))
+        for (auto const& [key, value] :
+             PropertyFormat(QString::fromStdString(format.key()), network_->folder()).read(*properties))
             parameter->setProperty(key, value, nullptr, nullptr, nullptr);
 }
 
-void NetworkReader::readPoolValues(JsonNode const& node, Kolt::VParameter const& parameter, ValueFormat const& format,
-                                   std::vector<std::string> const& entries) const {
+void NetworkReader::readPoolValues(JsonNode const& node, Kolt::VParameter const& parameter,
+                                   Kolt::VValueFormat const& format, std::vector<std::string> const& entries) const {
     for (auto const& member : node.members("the values of pools")) {
         auto const pool = network_->findPool(member.key());
         if (!pool)
             member.refuse("values of the pools of the network", "the pool " + quoted(member.key()));
-        format.copy(format.read(member, entries), parameter.getLocalValue(pool, std::string(), true));
+        parameter.getLocalValue(pool, std::string(), true)->assign(*readValue(format, member, entries));
     }
 }
 

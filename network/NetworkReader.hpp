@@ -1,5 +1,6 @@
 #pragma once
 
+#include <lattice/ValueFormat.hpp>
 #include <network/JsonNode.hpp>
 #include <network/Network.hpp>
 #include <QSet>
@@ -8,7 +9,6 @@
 namespace Talo {
 
 class PropertyFormat;
-struct ValueFormat;
 
 /// Makes a network from the text of a network file.
 class TALO_EXPORT NetworkReader {
@@ -28,7 +28,7 @@ private:
     void readParameter(JsonNode const& node, Kolt::ObjectPtr const& object);
     /// The parameter with that name, which is not taken.
     void readParameter(JsonNode const& node, Kolt::ObjectPtr const& object, QString const& name);
-    void readPoolValues(JsonNode const& node, Kolt::VParameter const& parameter, ValueFormat const& format,
+    void readPoolValues(JsonNode const& node, Kolt::VParameter const& parameter, Kolt::VValueFormat const& format,
                         std::vector<std::string> const& entries) const;
     void readSlots(JsonNode const& node, Kolt::ObjectPtr const& object);
 

@@ -3,8 +3,8 @@
 #include <network/Network.hpp>
 
 #include <algorithm>
+#include <network/JsonFormat.hpp>
 #include <network/NetworkParts.hpp>
-#include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -15,9 +15,9 @@ namespace {
 
 /// All values of a parameter; null for what no file can contain.
 QJsonObject valuesToJson(Kolt::VParameter const& parameter, std::vector<Kolt::PoolPtr> const& pools) {
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    auto const* const format = formatOf(parameter);
     auto const json = [&](Kolt::ValuePtr const& value) {
-        auto const written = format ? format->write(value) : QJsonValue(QJsonValue::Undefined);
+        auto const written = format ? writeValue(*format, value) : QJsonValue(QJsonValue::Undefined);
         return written.isUndefined() ? QJsonValue() : written;
     };
     QJsonObject entry{{"value", json(parameter.ownValue())}};
@@ -36,13 +36,11 @@ struct ReadValues {
 /// Throws a FormatError for what does not fit the parameter or the pools.
 ReadValues readValues(JsonNode const& node, Kolt::VParameter const& parameter,
                       std::vector<Kolt::PoolPtr> const& pools) {
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    auto const* const format = formatOf(parameter);
     if (!format || !parameter.isEdited())
         node.refuse("a parameter that people edit");
     auto const* const entries = entriesOf(parameter.ownValue());
-    auto const read = [&](JsonNode const& value) {
-        return format->read(value, entries ? *entries : ValueFormat::Entries());
-    };
+    auto const read = [&](JsonNode const& value) { return readValue(*format, value, entries ? *entries : Entries()); };
     ReadValues all{read(node.required("value", "the values of a parameter")),
                    std::vector<Kolt::ValuePtr>(pools.size())};
     auto const* const values = node.find("values");

@@ -2,7 +2,7 @@
 
 #include <cmath>
 #include <limits>
-#include <network/ValueFormat.hpp>
+#include <network/JsonFormat.hpp>
 #include <QDir>
 #include <QHash>
 #include <QJsonObject>

@@ -152,12 +152,6 @@ private:
 /// The update step: marks the value that is effective in the pool as changed, by a new age stamp.
 TALO_EXPORT void markValueChanged(VParameter const& parameter, PoolPtr const& pool);
 
-/// Whether values can be of type T. Of the numbers these are bool, int and double; texts are std::string.
-template <typename T>
-constexpr bool IsStorable =
-    std::is_arithmetic_v<T> ? std::is_same_v<T, bool> || std::is_same_v<T, int> || std::is_same_v<T, double>
-                            : !std::is_pointer_v<T> && !std::is_array_v<T>;
-
 /// Warns (VActionNotifier::Warning) that a value of a type cannot be stored in the parameter's value of the pool, and
 /// why. Nothing happens where the pool merely has no value yet.
 TALO_EXPORT void reportRefusedStore(VParameter const& parameter, std::type_info const& valueType, PoolPtr const& pool);
@@ -169,7 +163,6 @@ template <typename T>
 [[nodiscard]] bool
 setParameterValue(VParameter const& parameter, T const& newValue, PoolPtr const& pool, std::string const& member,
                   bool create, Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify) {
-    static_assert(IsStorable<T>, "Parameters hold the numbers bool, int and double, std::string, or class types.");
     auto const local = parameter.keepsValuesPerPool() ? parameter.getLocalValue(pool, member, create) : nullptr;
     // The parameter's own object lives as long as the parameter.
     auto const& value = parameter.keepsValuesPerPool() ? local : parameter.ownValue();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <lattice/Connection.hpp>
 #include <lattice/Parameter.hpp>
@@ -56,7 +57,10 @@ private:
 /// ParameterPtr holds it. A value, bound or function of the wrong type does not compile. User-interface thread.
 template <typename T>
 class Parameter {
-    static_assert(IsStorable<T>, "Parameters hold the numbers bool, int and double, std::string, or class types.");
+    static_assert(IsStorable<T>, "Values are the numbers bool, int and double, std::string, or of class types.");
+    static_assert(!std::is_same_v<T, std::array<std::string, 1>>,
+                  "The editor of an array of one text edits a std::string: make a VParameter with a std::string value "
+                  "and the array as its declared type.");
 
 public:
     /// A parameter with one value, the same in every pool. The name is UTF-8.

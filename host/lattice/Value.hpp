@@ -12,6 +12,8 @@ namespace Kolt {
 /// thread.
 template <typename T>
 class VTypedValueBase : public VValueBase {
+    static_assert(IsStorable<T>, "Values are the numbers bool, int and double, std::string, or of class types.");
+
 public:
     /// Copies the value to `out`. Returns false, and leaves `out` alone, if the value cannot be read.
     [[nodiscard]] virtual bool get(T& out) const = 0;

@@ -19,13 +19,16 @@ struct ValueTraitDefaults {
     static bool Equal(T const& left, T const& right) { return left == right; }
 };
 
+/// Marks the trait of a type that has no text.
+struct TextlessTrait {};
+
 /// How values of type T are written as text, read, copied and compared. Texts are UTF-8 and do not depend on the
 /// locale. `setValueFromText` returns false and leaves the value alone if the text is no T. The functions have no
 /// state and print nothing: any thread.
 ///
 /// A type without a specialisation has no text: it is written as the empty text and is never set from one.
 template <typename T>
-struct VValueTrait : ValueTraitDefaults<T> {
+struct VValueTrait : ValueTraitDefaults<T>, TextlessTrait {
     /// The value as text.
     static std::string Text(T const&) { return {}; }
     /// Reads a value from text; false, and the value unchanged, if the text is none.
@@ -37,6 +40,16 @@ template <typename T, typename = void>
 inline constexpr bool IsEditedType = true;
 template <typename T>
 inline constexpr bool IsEditedType<T, std::void_t<decltype(VValueTrait<T>::IsEdited)>> = VValueTrait<T>::IsEdited;
+
+/// Whether values of type T have a text: VValueTrait is specialised for it.
+template <typename T>
+inline constexpr bool HasText = !std::is_base_of_v<TextlessTrait, VValueTrait<T>>;
+
+/// Whether values can be of type T. Of the numbers these are bool, int and double; texts are std::string.
+template <typename T>
+inline constexpr bool IsStorable =
+    std::is_arithmetic_v<T> ? std::is_same_v<T, bool> || std::is_same_v<T, int> || std::is_same_v<T, double>
+                            : !std::is_pointer_v<T> && !std::is_array_v<T>;
 
 /// Written as "true" and "false"; no other text is read.
 template <>

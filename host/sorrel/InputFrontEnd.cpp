@@ -1,6 +1,7 @@
 #include <sorrel/InputFrontEnd.hpp>
 
 #include <lattice/ActionNotifier.hpp>
+#include <lattice/EditedValue.hpp>
 #include <lattice/InputRegistry.hpp>
 #include <sorrel/CommitOnDrop.hpp>
 #include <sorrel/EventLoopDelivery.hpp>
@@ -32,6 +33,17 @@ void explainMissingPool(Editor& editor, VParameter const& parameter, ValuePoolSo
     } else if (!currentPool(poolSource)) {
         editor.choice.explanation += ", but it drops every edit as long as its source has no pool";
     }
+}
+
+void explainMissingValue(Editor& editor, VParameter const& parameter, ValuePoolSource const* poolSource) {
+    auto const pool = currentPool(poolSource);
+    auto const needed = missingValueType(parameter, pool);
+    if (needed.empty())
+        return;
+    auto const held = Tessera::Typename(parameter.effectiveValue(pool)->valueType());
+    editor.choice.explanation += ", but it edits a value of type " + needed + " and not " + held;
+    VActionNotifier::Warning("The parameter \"" + parameter.fullName() + "\" of type " + parameter.declaredType() +
+                             " needs a value of type " + needed + " to be edited, not " + held);
 }
 
 /// Writes what the input's parameter holds once more, as an edit by the input. False if there is nothing of the
@@ -96,6 +108,7 @@ Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSourc
         delete tracked;
     if (editor.widget)
         connectFields(editor, tracked);
+    explainMissingValue(editor, *parameter, poolSource);
     explainMissingPool(editor, *parameter, poolSource);
     showPoolValue(editor, parameter, poolSource);
     return editor;

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <lattice/ValueCreator.hpp>
+#include <network/JsonFormat.hpp>
 #include <network/PropertyFormat.hpp>
-#include <network/ValueFormat.hpp>
 #include <QDir>
 
 namespace Panel {
@@ -53,23 +53,22 @@ constexpr Example examples[] = {
     {"stringarray", "", R"({"value": ["A line of text"], "values": [["A draft"], ["The final text"]]})"},
 };
 
-Example const* findExample(char const* typeKey, Kolt::VCreationPreferences const& preferences) {
+Example const* findExample(std::string const& typeKey, Kolt::VCreationPreferences const& preferences) {
     auto const* const found = std::find_if(std::begin(examples), std::end(examples), [&](auto const& example) {
-        return std::string_view(example.typeKey) == typeKey &&
-               (*example.preference == '\0' || preferences.contains(example.preference));
+        return example.typeKey == typeKey && (*example.preference == '\0' || preferences.contains(example.preference));
     });
     return found == std::end(examples) ? nullptr : found;
 }
 
 /// A value that no editor of the type can read.
 Kolt::ValuePtr valueOfOtherType(std::string const& valueType) {
-    auto const* const format = Talo::ValueFormat::ofType(valueType);
-    bool const isText = format && QByteArray(format->key).startsWith("string");
+    auto const key = Talo::shortTypeName(valueType);
+    bool const isText = key == QLatin1String("string") || key == QLatin1String("stringarray");
     return isText ? Kolt::makeValue(7) : Kolt::makeValue(std::string("a text"));
 }
 
 /// The parameter as the example says; the own value and those of the pools are of the right type.
-Kolt::ParameterPtr readExample(std::string const& name, Example const& example, Talo::ValueFormat const& format,
+Kolt::ParameterPtr readExample(std::string const& name, Example const& example, Kolt::VValueFormat const& format,
                                Kolt::VParameter::Values values, Pools const& pools) {
     auto const root = Talo::JsonNode::parse(example.json);
     std::vector<std::string> entries;
@@ -77,13 +76,14 @@ Kolt::ParameterPtr readExample(std::string const& name, Example const& example, 
         for (auto const& entry : entryList->elements(QStringLiteral("the entries")))
             entries.push_back(entry.text(QStringLiteral("an entry")).toStdString());
     Kolt::ParameterPtr const parameter(new Kolt::VParameter(
-        name, format.read(root.required("value", QStringLiteral("an example")), entries), values, format.typeName));
+        name, Talo::readValue(format, root.required("value", QStringLiteral("an example")), entries), values,
+        format.typeName()));
     if (values == Kolt::VParameter::Values::PerPool) {
         auto const& poolValues =
             root.required("values", QStringLiteral("an example")).elements(QStringLiteral("the values of pools"));
         for (std::size_t index = 0; index < std::min(pools.size(), poolValues.size()); ++index)
-            format.copy(format.read(poolValues[index], entries),
-                        parameter->getLocalValue(pools[index], std::string(), true));
+            parameter->getLocalValue(pools[index], std::string(), true)
+                ->assign(*Talo::readValue(format, poolValues[index], entries));
     }
     if (auto const* const properties = root.find("properties"))
         for (auto const& [key, value] :
@@ -99,10 +99,10 @@ Kolt::ParameterPtr makeParameter(std::string const& name, std::string const& val
     if (state == GalleryState::WrongType)
         return Kolt::ParameterPtr(new Kolt::VParameter(name, valueOfOtherType(valueType), Values::Shared, valueType));
     auto const values = state == GalleryState::PerPool ? Values::PerPool : Values::Shared;
-    auto const* const format = Talo::ValueFormat::ofType(valueType);
-    if (auto const* const example = format ? findExample(format->key, preferences) : nullptr)
+    auto const* const format = Kolt::VValueFormat::ofType(valueType);
+    if (auto const* const example = format ? findExample(format->key(), preferences) : nullptr)
         return readExample(name, *example, *format, values, pools);
-    // A type that network files do not know, as another plug-in may bring one.
+    // A type that a plug-in brings.
     auto const value = Kolt::VValueCreator::create(valueType);
     return value ? Kolt::ParameterPtr(new Kolt::VParameter(name, value, values, valueType)) : nullptr;
 }
@@ -111,8 +111,7 @@ Kolt::ParameterPtr makeParameter(std::string const& name, std::string const& val
 
 QString valueTypeTitle(std::string const& valueType) {
     auto const type = QString::fromStdString(valueType);
-    auto const* const format = Talo::ValueFormat::ofType(valueType);
-    auto const key = format ? QString::fromLatin1(format->key) : type;
+    auto const key = Talo::shortTypeName(valueType);
     return key == type ? type : QStringLiteral("%1 – %2").arg(key, type);
 }
 

@@ -1,7 +1,7 @@
 #include <parameters/commands/SharedEdits.hpp>
 
 #include <algorithm>
-#include <network/ValueFormat.hpp>
+#include <network/JsonFormat.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <QScopedValueRollback>
 #include <utility>

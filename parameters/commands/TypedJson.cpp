@@ -1,6 +1,6 @@
 #include <parameters/commands/TypedJson.hpp>
 
-#include <network/ValueFormat.hpp>
+#include <network/JsonFormat.hpp>
 #include <QCoreApplication>
 
 namespace Talo {
@@ -15,27 +15,26 @@ struct TypedJsonTexts {
 } // namespace
 
 QJsonObject typedJson(Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    auto const* const format = formatOf(parameter);
     if (!format)
         return {};
-    auto const written = format->write(Kolt::copyEffectiveValue(parameter, pool).value);
+    auto const written = writeValue(*format, Kolt::copyEffectiveValue(parameter, pool).value);
     if (written.isUndefined())
         return {};
-    return {{QStringLiteral("type"), QLatin1String(format->key)}, {QStringLiteral("value"), written}};
+    return {{QStringLiteral("type"), QString::fromStdString(format->key())}, {QStringLiteral("value"), written}};
 }
 
 TypedValue valueFromTypedJson(QByteArray const& json, Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
+    auto const* const format = formatOf(parameter);
     if (!format)
         return {};
     try {
         auto const root = JsonNode::parse(json);
-        if (root.required("type", "a copied value").text("the type of a copied value") != QLatin1String(format->key))
+        if (root.required("type", "a copied value").text("the type of a copied value").toStdString() != format->key())
             return {};
         auto const held = Kolt::copyEffectiveValue(parameter, pool).value;
         auto const* const entries = entriesOf(held);
-        auto const read =
-            format->read(root.required("value", "a copied value"), entries ? *entries : ValueFormat::Entries());
+        auto const read = readValue(*format, root.required("value", "a copied value"), entries ? *entries : Entries());
         auto const value = held->clone();
         if (offerSameChoices(held, read) && value->assign(*read))
             return {value, {}};

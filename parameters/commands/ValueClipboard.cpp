@@ -1,7 +1,7 @@
 #include <parameters/commands/ValueClipboard.hpp>
 
+#include <network/JsonFormat.hpp>
 #include <network/JsonNode.hpp>
-#include <network/ValueFormat.hpp>
 #include <network/ValueText.hpp>
 #include <optional>
 #include <parameters/commands/TypedJson.hpp>
@@ -42,8 +42,7 @@ QStringList wordsOf(QMimeData const& data) {
 ValueClipboard::Pasted pasted(QByteArray const& typed, std::optional<QString> const& text,
                               Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
     auto const name = QString::fromStdString(parameter.Name());
-    auto const* const format = ValueFormat::ofType(parameter.declaredType());
-    if (format && !typed.isEmpty()) {
+    if (!typed.isEmpty()) {
         auto const [value, reason] = valueFromTypedJson(typed, parameter, pool);
         if (value)
             return {value, QString()};
@@ -57,8 +56,7 @@ ValueClipboard::Pasted pasted(QByteArray const& typed, std::optional<QString> co
     if (auto const value = valueFromText(parameter, pool, text->trimmed()))
         return {value, QString()};
     return {nullptr, ClipboardTexts::tr("%1 is no value of %2, which is of type %3.")
-                         .arg(quoted(*text), name,
-                              format ? QLatin1String(format->key) : QString::fromStdString(parameter.declaredType()))};
+                         .arg(quoted(*text), name, shortTypeName(parameter.declaredType()))};
 }
 
 } // namespace

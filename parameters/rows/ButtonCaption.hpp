@@ -1,13 +1,11 @@
 #pragma once
 
-#include <QAbstractButton>
+#include <QString>
 
 namespace Talo {
 
-/// The caption of a button as it is shown: one ampersand marks a key and is not shown, two are one. User-interface
-/// thread.
-inline QString shownCaption(QAbstractButton const& button) {
-    auto caption = button.text();
+/// A caption as it is shown: one ampersand marks a key and is not shown, two are one. Any thread.
+inline QString shownCaption(QString caption) {
     for (int place = 0; (place = caption.indexOf(QLatin1Char('&'), place)) >= 0; ++place)
         caption.remove(place, 1);
     return caption;

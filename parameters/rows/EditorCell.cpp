@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bramble/EnumSelection.hpp>
+#include <lattice/EditedValue.hpp>
 #include <parameters/EditorChoice.hpp>
 #include <parameters/input/KeyboardChoice.hpp>
 #include <parameters/input/KeyboardPress.hpp>
@@ -13,6 +14,7 @@
 #include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -43,10 +45,14 @@ int usefulWidth(QLayout const& layout) {
     return qMin(width, QLAYOUTSIZE_MAX);
 }
 
-/// A button's caption; empty for other controls.
-QString captionOf(QWidget const& control) {
-    auto const* const button = qobject_cast<QAbstractButton const*>(&control);
-    return button ? shownCaption(*button) : QString();
+/// A button's caption, or the label of a field; empty for other controls.
+QString captionOf(QWidget const& editor, QWidget const& control) {
+    if (auto const* const button = qobject_cast<QAbstractButton const*>(&control))
+        return shownCaption(button->text());
+    auto const labels = editor.findChildren<QLabel*>();
+    auto const found =
+        std::find_if(labels.begin(), labels.end(), [&](auto const* label) { return label->buddy() == &control; });
+    return found == labels.end() ? QString() : shownCaption((*found)->text());
 }
 
 /// The creator that a person chose for a parameter in a panel around the widget; empty for the usual one.
@@ -74,9 +80,13 @@ QWidget* EditorCell::open(QWidget* parent) {
     names_ = namesIn(parameter->effectiveValue(pools_.pool()));
     chosen_ = chosenFor(*parameter, parent);
     editor_ = Kolt::makeEditor(parameter, parent, pools_.source(), chosen_);
+    neededType_ = Kolt::missingValueType(*parameter, pools_.pool());
+    if (!neededType_.empty())
+        // What people type into it would be lost.
+        delete editor_.widget;
     isPlaceholder_ = !editor_.widget;
     if (isPlaceholder_)
-        editor_.widget = new PlaceholderEditor(*parameter, parent);
+        editor_.widget = new PlaceholderEditor(*parameter, parent, neededType_);
     new WheelGuard(editor_.widget);
     return editor_.widget;
 }
@@ -130,7 +140,9 @@ std::vector<QWidget*> EditorCell::controls() const {
 
 bool EditorCell::canShowValue() const {
     auto const parameter = parameter_.strong();
-    if (parameter && editor_.widget && chosenFor(*parameter, editor_.widget) != chosen_)
+    if (parameter && editor_.widget &&
+        (chosenFor(*parameter, editor_.widget) != chosen_ ||
+         Kolt::missingValueType(*parameter, pools_.pool()) != neededType_))
         return false;
     if (!parameter || !editor_.widget || parameter->declaredType() != Tessera::Typename(typeid(Kolt::Enum)))
         return true;
@@ -153,7 +165,7 @@ void EditorCell::nameControls(QString const& name, bool edited) {
     auto* const firstControl = named.empty() ? nullptr : named.front();
     named.push_back(&editor);
     for (auto* const control : named) {
-        auto const caption = captionOf(*control);
+        auto const caption = captionOf(editor, *control);
         if (control->accessibleName().isEmpty())
             control->setAccessibleName(caption.isEmpty() || caption == name ? name
                                                                             : Texts::tr("%1: %2").arg(name, caption));

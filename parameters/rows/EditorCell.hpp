@@ -12,7 +12,7 @@ namespace Talo {
 
 /// Makes one editor for a parameter and adapts it to a form: the wheel changes it only when it has the focus; on demand
 /// its width is limited, and every control gets an accessible name and can be used by keyboard. Where no editor can be
-/// made, a PlaceholderEditor takes its place.
+/// made, or it would lose every edit, a PlaceholderEditor takes its place.
 ///
 /// The editor belongs to its parent widget; the cell may be destroyed before it. The parameter is referred to weakly.
 /// User-interface thread.
@@ -52,7 +52,8 @@ public:
     int leastWidth() const;
     /// Whether the editor can show what the pool source's pool holds. The buttons of an enumeration are those of the
     /// value with which it was made, and once one is marked, one stays marked. False as well when another creator was
-    /// chosen meanwhile (EditorChoice). An editor that cannot is to be closed and opened again. True for a closed cell.
+    /// chosen meanwhile (EditorChoice), and when the value has become, or is no longer, of a type that is edited. An
+    /// editor that cannot is to be closed and opened again. True for a closed cell.
     bool canShowValue() const;
     /// Shows what the pool source's pool holds. Nothing is written.
     void showPool();
@@ -71,6 +72,8 @@ private:
     // That a person chose when the editor was made; empty for the usual one.
     Kolt::CreatorRef chosen_;
     bool isPlaceholder_ = false;
+    // What the value lacked to be edited when the editor was made (Kolt::missingValueType).
+    std::string neededType_;
     // Those of an enumeration when its editor was made; null for other types.
     Tessera::StrongPtr<Tessera::StringList> names_;
     // The accessible description of every control, without its tool tip.

@@ -53,8 +53,7 @@ void FileButtonText::refresh() {
     name_ = QString::fromStdString(parameter->effectiveValue(pools_.pool())->Text());
     if (name_.isEmpty() || button_.text().isEmpty())
         button_.setText(caption_);
-    QPushButton caption(caption_);
-    button_.setToolTip(name_.isEmpty() ? QString() : tr("%1: %2").arg(shownCaption(caption), name_));
+    button_.setToolTip(name_.isEmpty() ? QString() : tr("%1: %2").arg(shownCaption(caption_), name_));
 }
 
 } // namespace Talo

@@ -28,6 +28,8 @@ constexpr HostSentence hostSentences[] = {
      QT_TRANSLATE_NOOP("HostTexts", "Without a pool source the editor drops every edit.")},
     {"but it drops every edit as long as its source has no pool",
      QT_TRANSLATE_NOOP("HostTexts", "The editor drops every edit as long as its source has no pool.")},
+    {"but it edits a value of type (.+) and not (.+)",
+     QT_TRANSLATE_NOOP("HostTexts", "The editor edits a value of type %1 and not %2.")},
     {"but it makes no Qt widgets", QT_TRANSLATE_NOOP("HostTexts", "This creator makes no Qt widgets.")},
     {"The plug-in (.+) is loaded already\\.", QT_TRANSLATE_NOOP("HostTexts", "The plug-in %1 is loaded already.")},
     {"Cannot open the plug-in (.+?): (.+)", QT_TRANSLATE_NOOP("HostTexts", "Cannot open the plug-in %1: %2")},

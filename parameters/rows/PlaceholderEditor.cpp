@@ -4,7 +4,10 @@ namespace Talo {
 
 namespace {
 
-QString sentence(Kolt::VParameter const& parameter) {
+QString sentence(Kolt::VParameter const& parameter, std::string const& neededType) {
+    if (!neededType.empty())
+        return PlaceholderEditor::tr("The editor of the type %1 needs a value of type %2.")
+            .arg(QString::fromStdString(parameter.declaredType()), QString::fromStdString(neededType));
     auto const names = parameter.creationPreferences() ? parameter.creationPreferences()->names()
                                                        : Kolt::VCreationPreferences::Names();
     auto const type = QString::fromStdString(parameter.declaredType());
@@ -16,8 +19,8 @@ QString sentence(Kolt::VParameter const& parameter) {
 
 } // namespace
 
-PlaceholderEditor::PlaceholderEditor(Kolt::VParameter const& parameter, QWidget* parent)
-    : MutedLabel(sentence(parameter), parent) {
+PlaceholderEditor::PlaceholderEditor(Kolt::VParameter const& parameter, QWidget* parent, std::string const& neededType)
+    : MutedLabel(sentence(parameter, neededType), parent) {
     // The name of a type can look like a tag.
     setTextFormat(Qt::PlainText);
     setWordWrap(true);

@@ -1,7 +1,7 @@
 #include <parameters/rows/RowTexts.hpp>
 
 #include <bramble/HarmlessText.hpp>
-#include <network/ValueFormat.hpp>
+#include <network/JsonFormat.hpp>
 #include <parameters/commands/RowCommands.hpp>
 #include <parameters/rows/HostTexts.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
@@ -96,10 +96,8 @@ QString rowNote(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool) 
 }
 
 QString controlDescription(QString const& objectName, Kolt::VParameter const& parameter, Kolt::PoolPtr const& pool) {
-    auto const& typeName = parameter.declaredType();
-    auto const* const format = ValueFormat::ofType(typeName);
     auto const name = objectName + QLatin1Char('.') + QString::fromStdString(parameter.Name());
-    auto const type = format ? QString::fromLatin1(format->key) : QString::fromStdString(typeName);
+    auto const type = shortTypeName(parameter.declaredType());
     if (!parameter.keepsValuesPerPool())
         return RowTexts::tr("%1, type %2").arg(name, type);
     if (!pool)

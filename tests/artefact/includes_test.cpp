@@ -142,7 +142,7 @@ TEST_F(Includes, AlongTheDependenciesAreFine) {
                                                          {"panel", "sorrel/InputFrontEnd.hpp"},
                                                          {"panel", "network/Network.hpp"},
                                                          {"panel", "fractal/ui/Preview.hpp"},
-                                                         {"parameters", "network/ValueFormat.hpp"},
+                                                         {"parameters", "network/JsonFormat.hpp"},
                                                          {"panel", "sys/eventfd.h"},
                                                          {"tessera", "cxxabi.h"},
                                                          {"tessera", "unordered_map"}};

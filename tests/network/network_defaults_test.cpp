@@ -3,7 +3,7 @@
 
 #include <bramble/FlagList.hpp>
 #include <lattice/TypedParameter.hpp>
-#include <network/ValueFormat.hpp>
+#include <network/JsonFormat.hpp>
 #include <network/ValueText.hpp>
 
 using testing::HasSubstr;

@@ -5,7 +5,7 @@
 #include <bramble/FlagList.hpp>
 #include <lattice/InputRegistry.hpp>
 #include <map>
-#include <network/ValueFormat.hpp>
+#include <network/JsonFormat.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
 #include <QAbstractSlider>
 #include <QAccessible>

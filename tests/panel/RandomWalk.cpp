@@ -4,7 +4,7 @@
 #include "support/TaloTest.hpp"
 #include "WindowMouse.hpp"
 #include <lattice/UndoHistory.hpp>
-#include <network/ValueFormat.hpp>
+#include <network/JsonFormat.hpp>
 #include <QColorDialog>
 #include <QDockWidget>
 #include <QJsonDocument>

@@ -67,6 +67,12 @@ TEST_F(HostTextsTest, WhatTheHostAddsIsTranslatedToo) {
     delete editor.widget;
 }
 
+TEST_F(HostTextsTest, WhatAValueMustBeToBeEditedIsTranslated) {
+    auto const parameter = makeParameter("caption", Kolt::makeValue(std::array<std::string, 1>{"kept"}));
+    EXPECT_THAT(translated(Kolt::makeEditor(parameter, parent, &pools).choice.explanation),
+                EndsWith(" <The editor edits a value of type std::string and not std::array<std::string, 1>.>"));
+}
+
 TEST_F(HostTextsTest, WhyAPluginCannotBeLoadedIsTranslated) {
     QTemporaryDir const folder;
     QFile file(folder.filePath(QStringLiteral("no 100%1.talo")));

@@ -8,6 +8,7 @@
 #include <lattice/TypedParameter.hpp>
 #include <parameters/ParameterPanel.hpp>
 #include <parameters/rows/ParameterRow.hpp>
+#include <parameters/rows/PlaceholderEditor.hpp>
 #include <parameters/rows/RowArea.hpp>
 #include <QAccessible>
 #include <QAction>
@@ -245,4 +246,27 @@ TEST_F(RowEditorsTest, AHalfFilledDateThatIsHeldHasNoMark) {
     EXPECT_TRUE(field->findChild<QAction*>(QStringLiteral("unentered"))) << "Return does not take it over";
     ASSERT_TRUE(date.write("2025-01-01"));
     EXPECT_FALSE(field->findChild<QAction*>(QStringLiteral("unentered")));
+}
+
+TEST_F(RowEditorsTest, ATextEditorOfAnArraySaysWhatValueItNeeds) {
+    using Array = std::array<std::string, 1>;
+    auto const held = makeParameter("caption", Kolt::makeValue(Array{"kept"}), {}, Values::PerPool);
+    auto const text = makeParameter("title", Kolt::makeValue(std::string("typed")), {}, Values::Shared,
+                                    Tessera::Typename(typeid(Array)));
+    show({held, text});
+    auto* const placeholder = control<Talo::PlaceholderEditor>("caption");
+    ASSERT_NE(placeholder, nullptr) << "a field would lose what is typed";
+    EXPECT_EQ(placeholder->text().toStdString(),
+              "The editor of the type std::array<std::string, 1> needs a value of type std::string.");
+    EXPECT_THAT(warnings.texts, testing::Each(HasSubstr("needs a value of type std::string to be edited")));
+    EXPECT_FALSE(warnings.texts.empty());
+    ASSERT_NE(control<QLineEdit>("title"), nullptr);
+    EXPECT_EQ(control<QLineEdit>("title")->text().toStdString(), "typed");
+
+    // A pool whose value is a text can be edited.
+    held->setLocalValue(secondPool, Kolt::makeValue(std::string("final text")));
+    pools.use(secondPool);
+    panel->showPool();
+    ASSERT_TRUE(waitUntil([&] { return control<QLineEdit>("caption") != nullptr; }));
+    EXPECT_EQ(control<QLineEdit>("caption")->text().toStdString(), "final text");
 }

@@ -53,6 +53,19 @@ TEST_F(ArrayOfOneText, StartsEmptyAndWritesNothingWhereItHoldsATrueArray) {
     EXPECT_EQ(editor->text(), QStringLiteral("abc"));
 }
 
+TEST_F(ArrayOfOneText, SaysWhatItNeedsWhereItHoldsATrueArray) {
+    auto const parameter = makeValueParameter(Array{"kept"});
+    auto const editor = makeEditor(parameter, parent, &pools);
+    EXPECT_THAT(editor.choice.explanation,
+                testing::EndsWith(", but it edits a value of type std::string and not std::array<std::string, 1>"));
+    EXPECT_THAT(warnings.texts, ElementsAre("The parameter \"" + parameter->fullName() +
+                                            "\" of type std::array<std::string, 1> needs a value of type std::string "
+                                            "to be edited, not std::array<std::string, 1>"));
+    warnings.texts.clear();
+    EXPECT_TRUE(makeEditor(makeDeclaredArray("abc"), parent, &pools).widget);
+    EXPECT_THAT(warnings.texts, IsEmpty());
+}
+
 TEST_F(ArrayOfOneText, KeepsATrueArrayOfAPoolAsItIs) {
     auto const parameter = makeValueParameter(Array{"own"}, Values::PerPool);
     auto* const editor = create<QLineEdit>("singlelinestring", parameter);

@@ -1,4 +1,6 @@
-#include <network/ValueFormat.hpp>
+// The formats of the host's own value types. They are registered when this library is loaded, before any other format.
+
+#include <network/JsonFormat.hpp>
 
 #include <algorithm>
 #include <bramble/Action.hpp>
@@ -22,7 +24,6 @@ namespace Talo {
 
 namespace {
 
-using Entries = ValueFormat::Entries;
 using ActionPtr = Tessera::StrongPtr<Kolt::VAction>;
 using StringArray = std::array<std::string, 1>;
 
@@ -31,14 +32,6 @@ template <typename T, typename Write>
 QJsonValue written(Kolt::ValuePtr const& value, Write const& write) {
     auto const content = Kolt::valueIn<T>(value);
     return content ? QJsonValue(write(*content)) : QJsonValue(QJsonValue::Undefined);
-}
-
-template <typename T>
-void copyContent(Kolt::ValuePtr const& from, Kolt::ValuePtr const& to) {
-    auto const content = Kolt::valueIn<T>(from);
-    auto* const target = Kolt::typedValue<T>(to.get());
-    if (content && target)
-        target->set(*content);
 }
 
 /// The text; undefined for bytes that are not UTF-8, which JSON cannot hold.
@@ -231,83 +224,31 @@ QJsonValue writeStringArray(Kolt::ValuePtr const& value) {
     return text ? QJsonValue(QJsonArray{textToJson(*text)}) : QJsonValue(QJsonValue::Undefined);
 }
 
-std::vector<ValueFormat> const& formats() {
-    using Tessera::Typename;
-    static std::vector<ValueFormat> const all = {
-        {"bool", Typename(typeid(bool)), false, readBool, writeBool, copyContent<bool>},
-        {"int", Typename(typeid(int)), false, readInt, writeInt, copyContent<int>},
-        {"double", Typename(typeid(double)), false, readDouble, writeDouble, copyContent<double>},
-        {"action", Typename(typeid(ActionPtr)), false, readAction, writeAction, copyContent<ActionPtr>},
-        {"colour", Typename(typeid(Ferro::rgba_float_t)), false, readColour, writeColour,
-         copyContent<Ferro::rgba_float_t>},
-        {"enum", Typename(typeid(Kolt::Enum)), true, readEnum, writeEnum, copyContent<Kolt::Enum>},
-        {"flags", Typename(typeid(Kolt::FlagList)), false, readFlags, writeFlags, copyContent<Kolt::FlagList>},
-        {"info", Typename(typeid(Kolt::info)), false, readInfo, writeInfo, copyContent<Kolt::info>},
-        {"selection", Typename(typeid(Kolt::VStringList)), true, readSelection, writeSelection,
-         copyContent<Kolt::VStringList>},
-        {"multiselection", Typename(typeid(Kolt::VMultipleStringList)), true, readMultipleSelection,
-         writeMultipleSelection, copyContent<Kolt::VMultipleStringList>},
-        {"status", Typename(typeid(Kolt::VObjectStatus)), false, readStatus, writeStatus,
-         copyContent<Kolt::VObjectStatus>},
-        {"string", Typename(typeid(std::string)), false, readString, writeString, copyContent<std::string>},
-        {"stringarray", Typename(typeid(StringArray)), false, readStringArray, writeStringArray,
-         copyContent<std::string>}};
-    return all;
+using Purpose = JsonFormat::Purpose;
+
+template <typename T>
+JsonFormat ownFormat(char const* key, JsonFormat::Read read, JsonFormat::Write write,
+                     Purpose purpose = Purpose::Plain) {
+    return JsonFormat(key, Tessera::Typename(typeid(T)), read, write, purpose);
 }
 
-template <typename Matches>
-ValueFormat const* findFormat(Matches const& matches) {
-    auto const found = std::find_if(formats().begin(), formats().end(), matches);
-    return found == formats().end() ? nullptr : &*found;
-}
+// Messages list the keys in this order.
+JsonFormat const boolFormat = ownFormat<bool>("bool", readBool, writeBool);
+JsonFormat const intFormat = ownFormat<int>("int", readInt, writeInt);
+JsonFormat const doubleFormat = ownFormat<double>("double", readDouble, writeDouble);
+JsonFormat const actionFormat = ownFormat<ActionPtr>("action", readAction, writeAction);
+JsonFormat const colourFormat = ownFormat<Ferro::rgba_float_t>("colour", readColour, writeColour);
+JsonFormat const enumFormat = ownFormat<Kolt::Enum>("enum", readEnum, writeEnum, Purpose::ChoosesEntries);
+JsonFormat const flagsFormat = ownFormat<Kolt::FlagList>("flags", readFlags, writeFlags);
+JsonFormat const infoFormat = ownFormat<Kolt::info>("info", readInfo, writeInfo, Purpose::ShowsState);
+JsonFormat const selectionFormat =
+    ownFormat<Kolt::VStringList>("selection", readSelection, writeSelection, Purpose::ChoosesEntries);
+JsonFormat const multipleSelectionFormat = ownFormat<Kolt::VMultipleStringList>(
+    "multiselection", readMultipleSelection, writeMultipleSelection, Purpose::ChoosesEntries);
+JsonFormat const statusFormat = ownFormat<Kolt::VObjectStatus>("status", readStatus, writeStatus, Purpose::ShowsState);
+JsonFormat const stringFormat = ownFormat<std::string>("string", readString, writeString);
+JsonFormat const stringArrayFormat = ownFormat<StringArray>("stringarray", readStringArray, writeStringArray);
 
 } // namespace
-
-ValueFormat const* ValueFormat::ofKey(QString const& key) {
-    return findFormat([&](auto const& format) { return key == format.key; });
-}
-
-ValueFormat const* ValueFormat::ofType(std::string const& typeName) {
-    return findFormat([&](auto const& format) { return typeName == format.typeName; });
-}
-
-QString ValueFormat::keys() {
-    QStringList all;
-    for (auto const& format : formats())
-        all << format.key;
-    return all.join(", ");
-}
-
-ValueFormat::Entries const* entriesOf(Kolt::ValuePtr const& value) {
-    Tessera::StringList const* list = nullptr;
-    if (auto const choice = Kolt::valueIn<Kolt::Enum>(value))
-        list = choice->names().get();
-    else if (auto const selection = Kolt::valueIn<Kolt::VStringList>(value))
-        list = selection->get();
-    else if (auto const multiple = Kolt::valueIn<Kolt::VMultipleStringList>(value))
-        list = multiple->get();
-    return list ? &list->strings() : nullptr;
-}
-
-bool offerSameChoices(Kolt::ValuePtr const& left, Kolt::ValuePtr const& right) {
-    Kolt::FlagList const none;
-    auto const leftFlags = Kolt::valueOr(left, none);
-    auto const rightFlags = Kolt::valueOr(right, none);
-    auto const* const leftEntries = entriesOf(left);
-    auto const* const rightEntries = entriesOf(right);
-    bool const haveSameEntries =
-        leftEntries && rightEntries ? *leftEntries == *rightEntries : leftEntries == rightEntries;
-    return haveSameEntries && std::equal(leftFlags.begin(), leftFlags.end(), rightFlags.begin(), rightFlags.end(),
-                                         [](auto const& one, auto const& other) { return one.first == other.first; });
-}
-
-QJsonValue realToJson(double number) {
-    if (std::isnan(number))
-        return "nan";
-    bool const negativeZero = number == 0.0 && std::signbit(number);
-    if (std::isfinite(number) && !negativeZero)
-        return number;
-    return QString::fromStdString(Kolt::VValueTrait<double>::Text(number));
-}
 
 } // namespace Talo
