@@ -46,7 +46,7 @@ refuse_and_expect("Talo has no component sprockets"
 
 # Compiles a simulated user into the small host.
 set(user "-DCMAKE_PROJECT_small_host_INCLUDE=${CMAKE_CURRENT_LIST_DIR}/small_host_user.cmake")
-foreach(example IN ITEMS small_host spin_inputs more_inputs)
+foreach(example IN ITEMS small_host spin_inputs more_inputs vector_inputs)
     run(${configure} -S "${prefix}/share/talo/examples/${example}" -B "${WORK}/${example}"
         "-DCMAKE_PREFIX_PATH=${prefix}" "${user}")
     run("${CMAKE_COMMAND}" --build "${WORK}/${example}")

@@ -2,7 +2,9 @@
 
 #include <dlfcn.h>
 #include <lattice/HostObserver.hpp>
+#include <lattice/ValueFormat.hpp>
 #include <panel/window/MainWindow.hpp>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <QTemporaryDir>
 
@@ -102,4 +104,29 @@ TEST_F(OutsidePluginTest, ItsEditorWorksInThePanel) {
         EXPECT_EQ(window.network()->findParameter(QLatin1String("counter.count"))->ownValue()->Text(), "42");
     }
     EXPECT_TRUE(plugins.unload(&error)) << qPrintable(error);
+}
+
+TEST_F(OutsidePluginTest, AValueTypeOfItsOwnWorksInThePanelAndLeavesNothing) {
+    Panel::Plugins plugins;
+    QString error;
+    ASSERT_TRUE(plugins.load(QString::fromUtf8(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+    ASSERT_TRUE(plugins.load(QString::fromUtf8(TALO_OUTSIDE_VECTOR_PLUGIN), &error)) << qPrintable(error);
+    {
+        Panel::MainWindow window(plugins);
+        ASSERT_TRUE(window.openNetwork(QStringLiteral(TALO_VECTOR_NETWORK), &error)) << qPrintable(error);
+        window.show();
+        auto* const row = window.currentView()->row(QStringLiteral("target"));
+        auto const fields = row->editor()->findChildren<QLineEdit*>();
+        ASSERT_EQ(fields.size(), 3);
+        fields[0]->setText(QStringLiteral("2.5"));
+        QTest::keyClick(fields[0], Qt::Key_Return);
+        EXPECT_EQ(window.network()->findParameter(QStringLiteral("camera.target"))->ownValue()->Text(), "2.5 1 0");
+        window.undo();
+        EXPECT_EQ(fields[0]->text(), QStringLiteral("0"));
+    }
+    EXPECT_NE(Kolt::VValueFormat::ofKey("vector3"), nullptr);
+    EXPECT_TRUE(plugins.unload(&error)) << qPrintable(error);
+    EXPECT_EQ(dlopen(TALO_OUTSIDE_VECTOR_PLUGIN, RTLD_NOW | RTLD_NOLOAD), nullptr);
+    EXPECT_EQ(Kolt::VValueFormat::ofKey("vector3"), nullptr) << "its code is gone";
+    EXPECT_FALSE(Kolt::VValueCreator::create("VectorInputs::Vector3"));
 }
