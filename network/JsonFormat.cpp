@@ -70,7 +70,7 @@ Kolt::ValuePtr JsonFormat::read(std::string const& text) const {
 Kolt::ValuePtr readValue(Kolt::VValueFormat const& format, JsonNode const& node, Entries const& entries) {
     if (auto const* const json = dynamic_cast<JsonFormat const*>(&format))
         return json->readNode(node, entries);
-    auto const what = QString::fromStdString("a " + format.key() + " value, " + format.description());
+    auto const what = QString::fromStdString("a value of type " + format.key() + ", " + format.description());
     auto const text = notationOf(node, format.notation(), what);
     Kolt::ValuePtr value;
     try {

@@ -188,7 +188,7 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
     auto const json = [&](Kolt::ValuePtr const& value) {
         auto const written = writeValue(*format, value);
         if (written.isUndefined())
-            refuseToWrite("the value is not of type " + key + " or has a text that is not UTF-8");
+            refuseToWrite("the value is not of type " + key + ", or no file can hold it, as a text that is not UTF-8");
         auto const* const entries = entriesOf(value);
         if (entries && (!ownEntries || *entries != *ownEntries))
             refuseToWrite("the value of a pool chooses among other entries than the parameter");

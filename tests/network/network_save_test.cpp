@@ -37,7 +37,7 @@ TEST_F(NetworkNotSaved, WithABinaryText) {
     auto const read = network(withParameters(R"({ "name": "p", "type": "string", "value": "" })"));
     ASSERT_TRUE(
         Kolt::setParameterValue<std::string>(*parameterOf(*read), "\xFF", nullptr, {}, false, nullptr, nullptr));
-    expectRefused(*read, "o.p: the value is not of type string or has a text that is not UTF-8");
+    expectRefused(*read, "o.p: the value is not of type string, or no file can hold it, as a text that is not UTF-8");
     EXPECT_TRUE(QJsonDocument::fromJson(read->values()).object()["o"].toObject()["p"].toObject()["value"].isNull());
 }
 

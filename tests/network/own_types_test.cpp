@@ -18,9 +18,24 @@ struct Point {
     bool operator==(Point const& other) const { return x == other.x && y == other.y; }
 };
 
+/// Shows how something stands.
+struct Light {
+    bool isOn = false;
+    bool operator==(Light const& other) const { return isOn == other.isOn; }
+};
+
 } // namespace Sample
 
 namespace Kolt {
+
+template <>
+struct VValueTrait<Sample::Light> : ValueTraitDefaults<Sample::Light> {
+    static constexpr bool IsEdited = false;
+    static std::string Text(Sample::Light const& light) { return VValueTrait<bool>::Text(light.isOn); }
+    static bool setValueFromText(Sample::Light& light, std::string const& text) {
+        return VValueTrait<bool>::setValueFromText(light.isOn, text);
+    }
+};
 
 template <>
 struct VValueTrait<Sample::Point> : ValueTraitDefaults<Sample::Point> {
@@ -128,16 +143,16 @@ TEST_F(OwnTypes, AreUnknownBeforeAndAfterTheirFormatIs) {
 TEST_F(OwnTypes, AWrongValueIsAnErrorThatSaysWhatIsExpected) {
     useText();
     EXPECT_THAT(errorOf(point("\"1\"")),
-                HasSubstr(R"(:3: o.p: expected a point value, written as its text, found the text "1")"));
-    EXPECT_THAT(errorOf(point("[1, 2]")), HasSubstr(":3: o.p: expected a point value, written as its text"));
+                HasSubstr(R"(:3: o.p: expected a value of type point, written as its text, found the text "1")"));
+    EXPECT_THAT(errorOf(point("[1, 2]")), HasSubstr(":3: o.p: expected a value of type point, written as its text"));
     EXPECT_THAT(errorOf(R"({ "name": "p", "type": "point", "value": "1 2", "entries": [] })"),
                 HasSubstr("expected no entries for the type point"));
     format_.reset();
     useJson();
     EXPECT_THAT(errorOf(point("\"1 2\"")),
-                HasSubstr(R"(:3: o.p: expected a point value, a list of two integers, found the text "1 2")"));
+                HasSubstr(R"(:3: o.p: expected a value of type point, a list of two integers, found the text "1 2")"));
     EXPECT_THAT(errorOf(point("[13, 2]")),
-                HasSubstr("expected a point value, a list of two integers (bad luck), found"));
+                HasSubstr("expected a value of type point, a list of two integers (bad luck), found"));
 }
 
 TEST_F(OwnTypes, AValueThatCannotBeWrittenIsNotSaved) {
@@ -166,6 +181,27 @@ TEST_F(OwnTypes, HaveDefaultsUndoAndUnsavedValues) {
     EXPECT_EQ(content<Point>(parameter->defaults()->in(nullptr).value), (Point{1, 2}));
     EXPECT_THAT(loaded->values().toStdString(), HasSubstr("5"));
     parameter->history().clear();
+}
+
+TEST_F(OwnTypes, ThatNobodyEditsAreSavedAsTheyWereWhenOpened) {
+    Kolt::TypedValueFormat<Sample::Light> const format("light");
+    auto const loaded = network(withParameters(R"({ "name": "p", "type": "light", "value": "false" })"));
+    auto const before = saved(*loaded);
+    ASSERT_TRUE(loaded->setText("o.p", "true", nullptr, nullptr));
+    EXPECT_TRUE(content<Sample::Light>(parameterOf(*loaded)->ownValue()).isOn);
+    EXPECT_FALSE(loaded->isModified());
+    EXPECT_EQ(saved(*loaded), before);
+    EXPECT_THAT(before.toStdString(), HasSubstr(R"("value": "false")"));
+}
+
+TEST_F(OwnTypes, HaveNumbersWithFractionsAsPropertiesThatSaySo) {
+    useText();
+    auto const loaded = network(withParameters(R"({ "name": "p", "type": "point", "value": "1 2",
+        "properties": { "min": 1, "max": { "double": 2.5 } } })"));
+    EXPECT_EQ(propertyOf(parameterOf(*loaded), "min"), "int 1");
+    EXPECT_EQ(propertyOf(parameterOf(*loaded), "max"), "double 2.5");
+    auto const bytes = saved(*loaded);
+    EXPECT_EQ(saved(*network(bytes)), bytes);
 }
 
 TEST_F(OwnTypes, AreTextsOfConditions) {
