@@ -45,7 +45,7 @@ VValueFormat::VValueFormat(std::string key, std::string typeName, Notation notat
 }
 
 VValueFormat::~VValueFormat() {
-    unregister(*this);
+    unregister(this);
 }
 
 VValueFormat const* VValueFormat::ofKey(std::string const& key) {
@@ -60,9 +60,13 @@ std::vector<VValueFormat const*> VValueFormat::all() {
     return registeredFormats();
 }
 
-void VValueFormat::unregister(VValueFormat const& format) {
+bool VValueFormat::unregister(VValueFormat const* format) {
     auto& formats = registeredFormats();
-    formats.erase(std::remove(formats.begin(), formats.end(), &format), formats.end());
+    auto const found = std::find(formats.begin(), formats.end(), format);
+    bool const isRegistered = found != formats.end();
+    if (isRegistered)
+        formats.erase(found);
+    return isRegistered;
 }
 
 } // namespace Kolt

@@ -52,9 +52,9 @@ public:
     static VValueFormat const* ofType(std::string const& typeName);
     /// All registered formats, in order of registration.
     static std::vector<VValueFormat const*> all();
-    /// Takes a format back before it is destroyed, as for a plug-in that leaves one behind; nothing for one that is not
-    /// registered.
-    static void unregister(VValueFormat const& format);
+    /// Takes back a format that was not destroyed, as one that a plug-in left behind; the object is not used and may be
+    /// gone by then. Whether it was registered.
+    static bool unregister(VValueFormat const* format);
 
 private:
     std::string const key_;

@@ -81,9 +81,12 @@ QWidget* EditorCell::open(QWidget* parent) {
     chosen_ = chosenFor(*parameter, parent);
     editor_ = Kolt::makeEditor(parameter, parent, pools_.source(), chosen_);
     neededType_ = Kolt::missingValueType(*parameter, pools_.pool());
-    if (!neededType_.empty())
+    if (!neededType_.empty()) {
         // What people type into it would be lost.
-        delete editor_.widget;
+        auto* const unfit = editor_.widget.data();
+        editor_.widget.clear();
+        delete unfit;
+    }
     isPlaceholder_ = !editor_.widget;
     if (isPlaceholder_)
         editor_.widget = new PlaceholderEditor(*parameter, parent, neededType_);

@@ -141,9 +141,9 @@ TEST_F(ValueFormats, AreRefusedWithAWarningWhereTheKeyOrTheTypeIsTaken) {
 
 TEST_F(ValueFormats, AreNotReachedAfterTheyWereTakenBack) {
     auto const format = std::make_unique<TypedValueFormat<Weight>>("weight");
-    VValueFormat::unregister(*format);
+    EXPECT_TRUE(VValueFormat::unregister(format.get()));
     EXPECT_EQ(VValueFormat::ofKey("weight"), nullptr);
-    VValueFormat::unregister(*format);
+    EXPECT_FALSE(VValueFormat::unregister(format.get()));
     TypedValueFormat<Weight> const next("weight");
     EXPECT_EQ(VValueFormat::ofKey("weight"), &next);
 }
