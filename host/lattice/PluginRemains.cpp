@@ -5,6 +5,7 @@
 #include <lattice/InputCreator.hpp>
 #include <lattice/NotificationThread.hpp>
 #include <lattice/ValueCreator.hpp>
+#include <lattice/ValueFormat.hpp>
 #include <map>
 #include <tessera/LivingObjects.hpp>
 #include <tessera/SpeakPtr.hpp>
@@ -29,6 +30,11 @@ PluginRemains::PluginRemains(PluginLibrary const& library) : range_(library.rang
     for (auto* const notifier : ValueNotifier::living()) {
         if (range_.contains(notifier))
             add("notifier", notifier);
+    }
+    for (auto const* const format : VValueFormat::all()) {
+        // One of a class of the host lies in the plug-in or has functions of it.
+        if (library.defines(typeid(*format)) || range_.contains(format))
+            installed_.push_back({"format", [format] { return VValueFormat::unregister(format); }});
     }
     noteInstalled(library);
 }

@@ -12,9 +12,9 @@ namespace Kolt {
 /// removed. Its code is gone by then, so none of it may be used. User-interface thread.
 class PluginRemains {
 public:
-    /// Notes what objects of the library's types are registered: creators, value creators, managed objects, notifiers,
-    /// warning of warnings, and what is installed as the host's observer, speaker or notification thread. To be made
-    /// just before the library is closed.
+    /// Notes what objects of the library's types are registered: creators, value creators, formats, managed
+    /// objects, notifiers, receivers of warnings, and what is installed as the host's observer, speaker or notification
+    /// thread. To be made just before the library is closed.
     explicit PluginRemains(PluginLibrary const& library);
 
     /// Removes what is still registered. To be called once, after the library was unloaded. Returns what was removed,

@@ -58,6 +58,25 @@ TEST_F(VectorValuesTest, AFileIsRefusedUntilThePluginIsLoaded) {
     EXPECT_EQ(shown("target"), "0 1 0");
 }
 
+TEST_F(VectorValuesTest, KeepTheirPluginLoadedWhileANetworkHasThem) {
+    enter("target", 0, "5");
+    QString error;
+    EXPECT_FALSE(plugins.unload(&error));
+    EXPECT_THAT(error.toStdString(), HasSubstr("vector_inputs.talo cannot be unloaded while these are in use: "));
+    EXPECT_THAT(error.toStdString(),
+                HasSubstr("values of type Kolt::VValue<VectorInputs::Vector3> (camera.position; "));
+    ASSERT_TRUE(plugins.load(QStringLiteral(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+    EXPECT_EQ(shown("target"), "5 1 0");
+    action("undo")->trigger();
+    EXPECT_EQ(shown("target"), "0 1 0");
+    action("redo")->trigger();
+
+    // Another network and its history have none of its values.
+    ASSERT_TRUE(window->openNetwork(networkFile("lamps.json", lamps), &error)) << qPrintable(error);
+    error.clear();
+    EXPECT_TRUE(plugins.unload(&error)) << qPrintable(error);
+}
+
 TEST_F(VectorValuesTest, AreSavedAsListsAndLoadedAgain) {
     enter("target", 1, "0.1");
     EXPECT_TRUE(waitUntil([this] { return window->isWindowModified(); }));

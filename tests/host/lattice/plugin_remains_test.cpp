@@ -4,6 +4,7 @@
 
 #include <lattice/HostObserver.hpp>
 #include <lattice/ValueCreator.hpp>
+#include <lattice/ValueFormat.hpp>
 #include <tessera/SpeakPtr.hpp>
 
 namespace {
@@ -62,6 +63,20 @@ TEST_F(PluginRemainders, OfAPluginThatNeverUnregistersAreRemovedAndTold) {
         EXPECT_EQ(visitor.visited, 0);
         Kolt::VActionNotifier::Warning("goes to the living alone");
     }
+}
+
+TEST_F(PluginRemainders, OfAPluginThatLeavesAFormatAreRemovedAndTold) {
+    auto const file = badPlugin("leaves_format");
+    PlantedLeak const leak;
+    ASSERT_TRUE(loader_.load(file).ok);
+    ASSERT_NE(Kolt::VValueFormat::ofKey("left"), nullptr);
+    EXPECT_TRUE(loader_.unload(file).ok);
+    EXPECT_FALSE(isMapped(file));
+    EXPECT_THAT(Kolt::VValueFormat::all(), IsEmpty());
+    EXPECT_EQ(Kolt::VValueFormat::ofKey("left"), nullptr);
+    EXPECT_EQ(Kolt::VValueCreator::create("Bad::Left"), nullptr);
+    EXPECT_THAT(warnings_.texts,
+                ElementsAre("The plug-in " + file + " left behind what was removed now: 1 format, 1 value creator"));
 }
 
 TEST_F(PluginRemainders, ThatAreInstalledInTheHostAreRemovedAndTold) {
