@@ -1,4 +1,4 @@
-#include "EditorCase.hpp"
+#include "EditorCases.hpp"
 
 #include <bramble/Action.hpp>
 #include <bramble/Color.hpp>

@@ -1,17 +1,11 @@
-#include "EditorCase.hpp"
+#include "EditorCases.hpp"
 
 namespace {
 
 /// Fills in what the cases leave out.
 std::vector<EditorCase> completed(std::vector<EditorCase> cases) {
-    for (auto& editor : cases) {
-        if (!editor.change)
-            editor.change = [make = editor.makeValue](Kolt::VValueBase& value, int n) {
-                value.setValueFromText(make(n)->Text());
-            };
-        if (!editor.expected)
-            editor.expected = [](Kolt::VValueBase const& value) { return value.Text(); };
-    }
+    for (auto& editor : cases)
+        Checker::complete(editor);
     return cases;
 }
 

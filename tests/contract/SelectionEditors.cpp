@@ -1,4 +1,4 @@
-#include "EditorCase.hpp"
+#include "EditorCases.hpp"
 
 #include <bramble/Enum.hpp>
 #include <bramble/EnumSelection.hpp>

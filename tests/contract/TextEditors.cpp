@@ -1,4 +1,4 @@
-#include "EditorCase.hpp"
+#include "EditorCases.hpp"
 #include "support/FileDialogs.hpp"
 
 #include <array>

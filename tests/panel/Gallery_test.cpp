@@ -1,4 +1,4 @@
-#include "contract/EditorCase.hpp"
+#include "contract/EditorCases.hpp"
 #include "support/TaloTest.hpp"
 
 #include <algorithm>

@@ -3,52 +3,14 @@
 #include "support/TaloTest.hpp"
 #include "support/TestWarnings.hpp"
 
+#include <checker/ChosenPools.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/PluginLoader.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <sorrel/InputFrontEnd.hpp>
 
-/// A pool source whose pool the test chooses.
-class TestPools : public Kolt::ValuePoolSource {
-public:
-    TestPools() : provider_(new Provider) {}
-    Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override { return provider_; }
-
-    void use(Kolt::PoolPtr const& pool) { provider_->pool = pool; }
-    /// Removes the provider.
-    void dropProvider() { provider_.reset(); }
-
-private:
-    struct Provider : Kolt::ValuePoolProvider {
-        Kolt::PoolPtr getValuePool() const override { return pool; }
-        Kolt::PoolPtr pool;
-    };
-    Tessera::StrongPtr<Provider, Kolt::ValuePoolProvider> provider_;
-};
-
-/// Records a parameter's notifications, as any other part of a host receives them.
-class RecordingNotifier : public Kolt::ValueNotifier {
-public:
-    void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
-                       Kolt::ValueMap const* properties) override {
-        if (properties) {
-            ++propertyChanges;
-        } else {
-            values.push_back(newValue ? newValue->Text() : std::string());
-            pools.push_back(context.pool());
-        }
-        if (reaction)
-            reaction();
-    }
-
-    /// The text of each notified value, and the pool of each notification; notifications of properties are only
-    /// counted.
-    std::vector<std::string> values;
-    std::vector<Kolt::PoolPtr> pools;
-    int propertyChanges = 0;
-    /// Called for each notification.
-    std::function<void()> reaction;
-};
+using TestPools = Checker::ChosenPools;
+using Checker::RecordingNotifier;
 
 /// A small host that loads the built plug-in file before each test; after the test the file must unload.
 class PluginTest : public TaloTest {

@@ -1,20 +1,24 @@
 #pragma once
 
 #include <functional>
-#include <lattice/Value.hpp>
+#include <lattice/InputCreator.hpp>
 #include <QWidget>
 #include <string>
 #include <vector>
 
-/// One editor of the contract: how to open it, read what it shows, and edit as a user does. Every editor of the plug-in
-/// has one, and all must pass the same tests.
+namespace Checker {
+
+/// One editor of the contract: how to open it, read what it shows, and edit as a user does. All editors must pass the
+/// same checks (EditorContract).
 struct EditorCase {
     using Value = Kolt::ValuePtr;
 
     /// The name of its tests: only letters and digits.
     std::string name;
-    /// The creator that must be chosen for the parameter.
+    /// The name of the creator that must be chosen for the parameter.
     std::string creator;
+    /// The creator itself, if the choice is not a part of the contract.
+    Kolt::CreatorRef chosen;
     /// The parameter's creation preferences; empty for none.
     std::vector<std::string> preferences;
     /// The parameter's declared type, if it differs from the type of the value.
@@ -47,6 +51,9 @@ struct EditorCase {
     /// Whether an edit without a pool still reports a missing parameter.
     bool reportsMissingOwnerWithoutPool = false;
 
+    /// Whether the editor is known so well that its output, its warnings and the properties that it adds are as below;
+    /// of others they are not looked at.
+    bool isKnown = true;
     /// Warnings to the host when the editor is opened for a destroyed parameter, and for one with a value of another
     /// type.
     std::vector<std::string> warningsWithoutOwner;
@@ -57,15 +64,7 @@ struct EditorCase {
     std::string trace;
 };
 
-/// All editors of the plug-in qtalo_inputs, by family.
-std::vector<EditorCase> const& editorCases();
-/// All editors of the plug-in more_inputs.
-std::vector<EditorCase> const& moreEditorCases();
+/// Fills in what a case leaves out: how to change a value and what is expected to be shown.
+void complete(EditorCase& editor);
 
-// One function for each family, in its own file.
-void addBooleanEditors(std::vector<EditorCase>& cases);
-void addNumberEditors(std::vector<EditorCase>& cases);
-void addSelectionEditors(std::vector<EditorCase>& cases);
-void addTextEditors(std::vector<EditorCase>& cases);
-void addActionEditors(std::vector<EditorCase>& cases);
-void addMoreEditors(std::vector<EditorCase>& cases);
+} // namespace Checker

@@ -1,0 +1,107 @@
+#include <checker/CommandLine.hpp>
+
+#include <QCommandLineParser>
+#include <QFile>
+#include <random>
+
+namespace Checker {
+
+namespace {
+
+/// The one list of the options, for parsing and for the help.
+class Options {
+public:
+    Options() {
+        for (auto* const option : {&run, &findings, &eventSeconds})
+            option->setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.setApplicationDescription(
+            "Checks a plug-in file: whether it loads and unloads, and whether its editors do what hosts rely on.\n"
+            "Status 0 if all checks pass, 1 if one fails, 2 if the command line is wrong.");
+        parser.addOptions(
+            {help, version, level, seed, seconds, format, output, quick, list, run, findings, eventSeconds});
+        parser.addPositionalArgument("FILE.talo", "The plug-in file to check.");
+    }
+
+    QCommandLineOption const help{{"h", "help"}, "Prints this help and ends."};
+    QCommandLineOption const version{{"v", "version"}, "Prints the version and ends."};
+    QCommandLineOption const level{"level", "Makes the checks up to this level, from 1 to 10, which is the default.",
+                                   "N"};
+    QCommandLineOption const seed{"seed", "Draws the random events from this number, to replay a report.", "NUMBER"};
+    QCommandLineOption const seconds{"seconds", "The time limit of each check; 60 by default.", "SECONDS"};
+    QCommandLineOption const format{"format", "How the report is written: text, json or junit.", "FORMAT"};
+    QCommandLineOption const output{"output", "Writes the report into this file.", "FILE"};
+    QCommandLineOption const quick{"quick", "Only loads and unloads the file, in this very process."};
+    QCommandLineOption const list{"list", "Prints the checks and ends."};
+    QCommandLineOption run{"run", "Makes one check in this process.", "CHECK"};
+    QCommandLineOption findings{"findings", "The file for what that check finds.", "FILE"};
+    QCommandLineOption eventSeconds{"event-seconds", "How long each editor gets random events.", "SECONDS"};
+    QCommandLineParser parser;
+};
+
+QString listOfChecks() {
+    QString text;
+    for (auto const& check : allChecks())
+        text += QStringLiteral("%1  %2\n        %3\n")
+                    .arg(check.level, 2)
+                    .arg(QString::fromStdString(check.name), QString::fromStdString(check.meaning));
+    return text;
+}
+
+/// Reads a number; an error if it is none or out of range.
+int numberOf(QCommandLineParser const& parser, QCommandLineOption const& option, int usual, int most, QString& error) {
+    if (!parser.isSet(option))
+        return usual;
+    bool isNumber = false;
+    int const number = parser.value(option).toInt(&isNumber);
+    if (!isNumber || number < 1 || number > most)
+        error = QStringLiteral("--%1 needs a whole number from 1 to %2.").arg(option.names().constFirst()).arg(most);
+    return number;
+}
+
+void readFormat(QString const& name, CommandLine& line) {
+    if (name == "json")
+        line.format = CommandLine::Format::Json;
+    else if (name == "junit")
+        line.format = CommandLine::Format::JUnit;
+    else if (!name.isEmpty() && name != "text")
+        line.error = "--format is text, json or junit.";
+}
+
+} // namespace
+
+CommandLine readCommandLine(QStringList const& arguments) {
+    Options options;
+    auto& parser = options.parser;
+    CommandLine line;
+    if (!parser.parse(arguments)) {
+        line.error = parser.errorText();
+        return line;
+    }
+    if (parser.isSet(options.help))
+        line.text = parser.helpText();
+    else if (parser.isSet(options.version))
+        line.text = QStringLiteral("talo_check " TALO_VERSION "\n");
+    else if (parser.isSet(options.list))
+        line.text = listOfChecks();
+    if (!line.text.isEmpty())
+        return line;
+    auto const files = parser.positionalArguments();
+    if (files.size() != 1)
+        line.error = "One plug-in file is needed.";
+    else
+        line.subject.file = QFile::encodeName(files.constFirst()).toStdString();
+    constexpr int large = 1000000000;
+    line.subject.seed = static_cast<unsigned>(
+        numberOf(parser, options.seed, static_cast<int>(std::random_device()() % large) + 1, large, line.error));
+    line.subject.eventSeconds = numberOf(parser, options.eventSeconds, 1, 3600, line.error);
+    line.level = numberOf(parser, options.level, HighestLevel, HighestLevel, line.error);
+    line.seconds = numberOf(parser, options.seconds, 60, 3600, line.error);
+    readFormat(parser.value(options.format), line);
+    line.output = parser.value(options.output);
+    line.quick = parser.isSet(options.quick);
+    line.run = parser.value(options.run);
+    line.findings = parser.value(options.findings);
+    return line;
+}
+
+} // namespace Checker

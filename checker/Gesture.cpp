@@ -1,0 +1,95 @@
+#include <checker/Gesture.hpp>
+
+#include <checker/DialogCloser.hpp>
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <QWheelEvent>
+
+namespace Checker {
+
+namespace {
+
+std::function<void(QWidget&)> key(Qt::Key which) {
+    return [which](QWidget& widget) { QTest::keyClick(&widget, which); };
+}
+
+void turnWheel(QWidget& widget) {
+    QPointF const place = widget.rect().center();
+    QWheelEvent event(place, widget.mapToGlobal(place.toPoint()), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
+}
+
+/// Chooses another entry of a list.
+void stepTo(QWidget& list, int current, int count) {
+    QTest::keyClick(&list, current + 1 < count ? Qt::Key_Down : Qt::Key_Up);
+}
+
+/// Makes another choice among buttons or entries, whatever is chosen.
+void chooseAnother(QWidget& editor) {
+    for (auto* const widget : workable(editor)) {
+        auto* const button = qobject_cast<QAbstractButton*>(widget);
+        if (button && button->isCheckable() && !button->isChecked())
+            return QTest::keyClick(button, Qt::Key_Space);
+        if (auto* const box = qobject_cast<QComboBox*>(widget))
+            return stepTo(*box, box->currentIndex(), box->count());
+        if (auto* const view = qobject_cast<QAbstractItemView*>(widget))
+            return view->model() ? stepTo(*view, view->currentIndex().row(), view->model()->rowCount()) : void();
+    }
+}
+
+/// Types a letter as an input method does, and leaves the editor with the mouse.
+void typeAndLeave(QWidget& widget) {
+    QInputMethodEvent typed;
+    typed.setCommitString(QStringLiteral("x"));
+    QCoreApplication::sendEvent(&widget, &typed);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&widget, &leave);
+}
+
+void typeAndReturn(QWidget& widget) {
+    QTest::keyClick(&widget, Qt::Key_5);
+    QTest::keyClick(&widget, Qt::Key_Return);
+}
+
+} // namespace
+
+QWidgetList workable(QWidget& editor) {
+    QWidgetList widgets{&editor};
+    for (auto* const child : editor.findChildren<QWidget*>())
+        if (child->window() == editor.window() && child->isVisibleTo(&editor))
+            widgets << child;
+    return widgets;
+}
+
+void perform(Gesture const& gesture, QWidget& editor) {
+    DialogCloser const closer;
+    auto const widgets = workable(editor);
+    if (gesture.widget < widgets.size())
+        gesture.doIt(*widgets.at(gesture.widget));
+}
+
+std::vector<Gesture> gesturesFor(QWidget& editor) {
+    std::vector<Gesture> const kinds = {
+        {0, "the Up key", key(Qt::Key_Up)},
+        {0, "the Down key", key(Qt::Key_Down)},
+        {0, "the space bar", key(Qt::Key_Space)},
+        {0, "typing", key(Qt::Key_5)},
+        {0, "typing and leaving", typeAndLeave},
+        {0, "typing and Return", typeAndReturn},
+        {0, "the wheel", turnWheel},
+        {0, "a click", [](QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }},
+        {0, "the Right key", key(Qt::Key_Right)}};
+    std::vector<Gesture> all{{0, "another choice", chooseAnother}};
+    int const count = static_cast<int>(workable(editor).size());
+    for (auto const& kind : kinds)
+        for (int widget = count - 1; widget >= 0; --widget)
+            all.push_back({widget, kind.name, kind.doIt});
+    return all;
+}
+
+} // namespace Checker

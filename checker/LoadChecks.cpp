@@ -1,0 +1,124 @@
+#include <checker/Check.hpp>
+#include <checker/LoadedPlugin.hpp>
+#include <dlfcn.h>
+#include <filesystem>
+#include <fstream>
+#include <lattice/Initialization.hpp>
+#include <lattice/PluginLoader.hpp>
+#include <lattice/ValueCreator.hpp>
+#include <sorrel/QInputCreator.hpp>
+#include <unistd.h>
+
+namespace Checker {
+
+namespace {
+
+bool isMapped(std::string const& file) {
+    std::error_code ignored;
+    auto const path = std::filesystem::canonical(file, ignored);
+    void* const handle = dlopen(path.c_str(), RTLD_LAZY | RTLD_NOLOAD);
+    if (handle)
+        dlclose(handle);
+    return handle != nullptr;
+}
+
+void loads(Subject const& subject, Findings& findings) {
+    LoadedPlugin const plugin(subject.file, findings);
+}
+
+void isUnmappedAfterwards(Subject const& subject, Findings& findings) {
+    LoadedPlugin plugin(subject.file, findings);
+    if (!plugin.isLoaded())
+        return;
+    plugin.unload();
+    findings.expect(!isMapped(subject.file), "the file is still in memory after it was unloaded");
+}
+
+std::size_t entriesOf(char const* folder) {
+    std::size_t count = 0;
+    std::error_code ignored;
+    for ([[maybe_unused]] auto const& entry : std::filesystem::directory_iterator(folder, ignored))
+        ++count;
+    return count;
+}
+
+/// In pages, the process's resident memory.
+long residentPages() {
+    std::ifstream file("/proc/self/statm");
+    long total = 0;
+    long resident = 0;
+    file >> total >> resident;
+    return resident;
+}
+
+void loadsAThousandTimes(Subject const& subject, Findings& findings) {
+    constexpr int times = 1000;
+    auto const once = [&] {
+        LoadedPlugin plugin(subject.file, findings);
+        plugin.unload();
+        return findings.faults().empty();
+    };
+    // The first times fill what the system keeps for good.
+    for (int time = 0; time < times / 10; ++time)
+        if (!once())
+            return;
+    auto const descriptors = entriesOf("/proc/self/fd");
+    auto const threads = entriesOf("/proc/self/task");
+    auto const memory = residentPages();
+    for (int time = times / 10; time < times; ++time)
+        if (!once())
+            return;
+    findings.expectEqual(entriesOf("/proc/self/fd"), descriptors, "the number of open files after a thousand loads");
+    findings.expectEqual(entriesOf("/proc/self/task"), threads, "the number of threads after a thousand loads");
+    // A kilobyte for each load.
+    auto const kilobytes = (residentPages() - memory) * sysconf(_SC_PAGESIZE) / 1024;
+    findings.expect(kilobytes < times, "a thousand loads leave " + std::to_string(kilobytes) + " KB behind");
+}
+
+void creatorsAreComplete(Subject const& subject, Findings& findings) {
+    LoadedPlugin plugin(subject.file, findings);
+    for (auto const& entry : plugin.creators()) {
+        auto const creator = entry.creator.strong();
+        findings.setSubject("the creator \"" + creator->Name() + "\" for " + entry.valueType + ": ");
+        findings.expect(!creator->Name().empty(), "it has no name");
+        findings.expectEqual(creator->apiKey(), Kolt::VInitialization::apiKey(), "its key of the host's interface");
+        findings.expect(creator->preferences()->contains("QT"), "its preferences lack \"QT\", so no host chooses it");
+        findings.expect(bool(creator->getInterface<Kolt::QInputCreator>()), "it makes no Qt widgets");
+    }
+    findings.setSubject({});
+    if (plugin.isLoaded() && plugin.creators().empty())
+        findings.note("it registers no editor");
+}
+
+void registrationsAreAccepted(Subject const& subject, Findings& findings) {
+    LoadedPlugin plugin(subject.file, findings);
+    for (auto const& warning : plugin.warnings().texts)
+        findings.fault("the host warns while it loads: " + warning);
+}
+
+void everythingIsTakenBack(Subject const& subject, Findings& findings) {
+    LoadedPlugin plugin(subject.file, findings);
+    std::vector<std::string> types;
+    for (auto const& entry : plugin.creators())
+        types.push_back(entry.valueType);
+    plugin.warnings().texts.clear();
+    plugin.unload();
+    for (auto const& warning : plugin.warnings().texts)
+        findings.fault("the host warns while it unloads: " + warning);
+    findings.expectEqual(plugin.creators().size(), 0, "the number of creators after unloading");
+}
+
+} // namespace
+
+void addLoadChecks(std::vector<Check>& checks) {
+    checks.push_back({2, "load", "It loads, attaches, and unloads.", loads});
+    checks.push_back({2, "unmapped", "The file is no longer in memory after it was unloaded.", isUnmappedAfterwards});
+    checks.push_back(
+        {3, "creators", "Each creator has a name, the host's key, \"QT\", and makes Qt widgets.", creatorsAreComplete});
+    checks.push_back({3, "registered", "The host accepts all that is registered.", registrationsAreAccepted});
+    checks.push_back({3, "taken-back", "All that was registered is taken back.", everythingIsTakenBack});
+    checks.push_back(
+        {4, "thousand", "It loads and unloads a thousand times, and leaves nothing behind.", loadsAThousandTimes});
+}
+
+} // namespace Checker
