@@ -18,7 +18,7 @@ public:
             "Checks a plug-in file: whether it loads and unloads, and whether its editors do what hosts rely on.\n"
             "Status 0 if all checks pass, 1 if one fails, 2 if the command line is wrong.");
         parser.addOptions(
-            {help, version, level, seed, seconds, format, output, quick, list, run, findings, eventSeconds});
+            {help, version, level, only, seed, seconds, format, output, quick, list, run, findings, eventSeconds});
         parser.addPositionalArgument("FILE.talo", "The plug-in file to check.");
     }
 
@@ -26,6 +26,7 @@ public:
     QCommandLineOption const version{{"v", "version"}, "Prints the version and ends."};
     QCommandLineOption const level{"level", "Makes the checks up to this level, from 1 to 10, which is the default.",
                                    "N"};
+    QCommandLineOption const only{"only", "Makes only this check; --list names all.", "CHECK"};
     QCommandLineOption const seed{"seed", "Draws the random events from this number, to replay a report.", "NUMBER"};
     QCommandLineOption const seconds{"seconds", "The time limit of each check; 60 by default.", "SECONDS"};
     QCommandLineOption const format{"format", "How the report is written: text, json or junit.", "FORMAT"};
@@ -97,6 +98,9 @@ CommandLine readCommandLine(QStringList const& arguments) {
     line.level = numberOf(parser, options.level, HighestLevel, HighestLevel, line.error);
     line.seconds = numberOf(parser, options.seconds, 60, 3600, line.error);
     readFormat(parser.value(options.format), line);
+    line.only = parser.value(options.only);
+    if (!line.only.isEmpty() && !findCheck(line.only.toStdString()))
+        line.error = "There is no check of this name; --list names all.";
     line.output = parser.value(options.output);
     line.quick = parser.isSet(options.quick);
     line.run = parser.value(options.run);

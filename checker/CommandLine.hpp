@@ -14,6 +14,7 @@ struct CommandLine {
     QString error;                ///< why the command line is wrong, a sentence; empty if it is not
     QString text;                 ///< what is to be printed instead of checking (help, version); else empty
     Subject subject;              ///< what is checked
+    QString only;                 ///< the one check that is made; empty for all
     int level = HighestLevel;     ///< checks above it are left out
     int seconds = 60;             ///< the time limit of a check
     Format format = Format::Text; ///< of the report

@@ -45,6 +45,7 @@ EditorContract::EditorContract(EditorCase editor, TakeOutput takeOutput, Finding
 }
 
 EditorContract::~EditorContract() {
+    expectSilence("at the end");
     delete parent_;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Kolt::UndoHistory::theHistory().forget([](auto const&) { return true; });

@@ -34,6 +34,7 @@ public:
 
     /// All are kept; the findings must outlive the contract.
     EditorContract(EditorCase editor, TakeOutput takeOutput, Findings& findings);
+    /// Looks for output that no check took.
     ~EditorContract();
 
     /// All checks.

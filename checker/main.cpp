@@ -59,7 +59,7 @@ bool save(QByteArray const& text, QString const& name) {
 int checkAll(CommandLine const& line) {
     Report report{QFile::decodeName(line.subject.file.c_str()), line.subject.seed, {}};
     for (auto const& check : allChecks())
-        if (check.level <= line.level)
+        if (line.only.isEmpty() ? check.level <= line.level : line.only == QString::fromStdString(check.name))
             report.results.push_back(runInChild(check, line.subject, line.seconds));
     auto const text = written(report, line.format);
     if (line.output.isEmpty())

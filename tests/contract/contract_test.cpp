@@ -57,11 +57,12 @@ std::string dutyName(testing::TestParamInfo<Duty> const& info) {
     return info.param.editor.name + '_' + info.param.check.name;
 }
 
-} // namespace
-
+// Names the editor in the output of a failure.
 void PrintTo(Duty const& duty, std::ostream* stream) {
     *stream << duty.editor.name << ' ' << duty.check.name;
 }
+
+} // namespace
 
 INSTANTIATE_TEST_SUITE_P(Editors, Contract, testing::ValuesIn(duties(editorCases())), dutyName);
 #ifdef TALO_MORE_PLUGIN_FILE

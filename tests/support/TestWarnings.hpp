@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/TaloTest.hpp"
+
 #include <checker/Recorders.hpp>
 
 using Checker::RecordedWarnings;

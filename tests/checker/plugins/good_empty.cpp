@@ -1,0 +1,5 @@
+// It registers nothing.
+
+#include "PlainEditor.hpp"
+
+TALO_PLUGIN(good_empty);

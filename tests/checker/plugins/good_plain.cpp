@@ -1,0 +1,5 @@
+// A plain plug-in.
+
+#include "PlainEditor.hpp"
+
+PLANT(PlainEditor, good_plain);
