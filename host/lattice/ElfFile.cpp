@@ -22,7 +22,7 @@ using DynamicEntry = ElfW(Dyn);
 
 constexpr auto outside = std::numeric_limits<std::uint64_t>::max();
 constexpr std::size_t longestName = 1000;
-constexpr std::size_t mostFunctions = 1000;
+constexpr std::size_t mostDefined = 100000;
 constexpr char cutOff[] = "it is cut off";
 
 bool looksLikeText(std::string_view bytes) {
@@ -177,24 +177,38 @@ std::uint64_t ElfFile::countByGnuHash(std::uint64_t table) const {
     return last;
 }
 
-std::vector<std::string> ElfFile::functions(std::string_view prefix) const {
-    std::vector<std::string> functions;
+char const* ElfFile::nameAt(std::string_view names, std::uint64_t offset) {
+    if (offset >= names.size())
+        return nullptr;
+    auto const rest = names.substr(offset, longestName + 1);
+    return rest.find('\0') == std::string_view::npos ? nullptr : rest.data();
+}
+
+std::vector<ElfFile::Defined> ElfFile::defined() const {
+    std::vector<Defined> all;
     if (!fault_.empty())
-        return functions;
+        return all;
     auto const symbols = dynamicSymbols();
-    for (std::uint64_t index = 0; index < symbols.count && functions.size() < mostFunctions; ++index) {
+    for (std::uint64_t index = 0; index < symbols.count && all.size() < mostDefined; ++index) {
         Symbol symbol{};
         if (!read(symbols.table + index * sizeof symbol, symbol))
             break;
-        bool const isFunction = ELF64_ST_TYPE(symbol.st_info) == STT_FUNC && symbol.st_shndx != SHN_UNDEF;
-        if (!isFunction || symbol.st_name >= symbols.names.size())
-            continue;
-        auto const rest = symbols.names.substr(symbol.st_name, longestName + 1);
-        auto const end = rest.find('\0');
-        if (end != std::string_view::npos && rest.substr(0, prefix.size()) == prefix)
-            functions.emplace_back(rest.substr(0, end));
+        auto const type = ELF64_ST_TYPE(symbol.st_info);
+        auto const binding = ELF64_ST_BIND(symbol.st_info);
+        bool const isForOthers =
+            symbol.st_shndx != SHN_UNDEF && binding != STB_LOCAL && (type == STT_FUNC || type == STT_OBJECT);
+        if (auto const* const name = isForOthers ? nameAt(symbols.names, symbol.st_name) : nullptr)
+            all.push_back({name, type == STT_FUNC, binding == STB_GNU_UNIQUE});
     }
-    return functions;
+    return all;
+}
+
+std::vector<std::string> ElfFile::functions(std::string_view prefix) const {
+    std::vector<std::string> names;
+    for (auto& symbol : defined())
+        if (symbol.isFunction && symbol.name.compare(0, prefix.size(), prefix) == 0)
+            names.push_back(std::move(symbol.name));
+    return names;
 }
 
 std::string_view ElfFile::section(std::string_view name) const {

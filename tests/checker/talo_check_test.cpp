@@ -12,7 +12,9 @@
 namespace {
 
 QString planted(char const* name) {
-    return QStringLiteral(TALO_PLANTED "/%1.talo").arg(QLatin1String(name));
+    auto const file = QLatin1String(name) + ".talo";
+    auto const own = TALO_PLANTED "/" + file;
+    return QFileInfo::exists(own) ? own : TALO_BAD_PLUGINS + file;
 }
 
 /// What the checker ended with.
@@ -163,14 +165,18 @@ TEST_F(TaloCheck, QuicklyLoadsAndUnloads) {
 INSTANTIATE_TEST_SUITE_P(
     Plugins, PlantedFault,
     testing::Values(
-        Fault{"no_export", "load", "export"}, Fault{"unresolved", "load", "undefined symbol"},
-        Fault{"keeps_itself", "unmapped", "in memory"}, Fault{"says_no", "load", "not compatible"},
-        Fault{"throws_in_export", "load", "planted"},
+        Fault{"no_export", "file", "Cannot find the export"}, Fault{"two_exports", "file", "several exports"},
+        Fault{"without_stamp", "file", "does not say for which interface"},
+        Fault{"visible_rest", "hidden", "it exports planted_visible_number"},
+        Fault{"stays_in_memory", "unmapped", "in memory"}, Fault{"unresolved", "load", "undefined symbol"},
+        Fault{"keeps_itself", "unique", "is unique"}, Fault{"says_no", "load", "not compatible"},
+        Fault{"throws", "load", "ended with an exception"},
         Fault{"crashes_at_load", "load", "it crashed: Segmentation fault"},
         Fault{"hangs_at_load", "load", "it did not end within 5 seconds"},
         Fault{"exits_at_load", "load", "it ended the program"},
         Fault{"crashes_at_unload", "load", "it crashed: Segmentation fault"},
-        Fault{"never_unregisters", "taken-back", "never_unregisters"}, Fault{"nameless", "creators", "it has no name"},
+        Fault{"leaves_creators", "taken-back", "the host warns while it unloads"},
+        Fault{"nameless", "creators", "it has no name"},
         Fault{"wrong_key", "registered", "the host warns while it loads"},
         Fault{"not_for_qt", "creators", "its preferences lack"},
         Fault{"no_widgets", "creators", "it makes no Qt widgets"},
@@ -209,7 +215,8 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"leaves_a_timer", "left.timers", "the number of timers"},
         Fault{"leaves_a_thread", "left.threads", "the number of threads"},
         Fault{"changes_the_locale", "left.locale", "the locale"}, Fault{"changes_the_font", "left.style", "font"},
-        Fault{"crashes_at_a_key", "events", "it crashed"}, Fault{"throws_at_an_edit", "events", "it crashed"},
+        Fault{"crashes_at_a_key", "events", "it crashed"},
+        Fault{"throws_at_an_edit", "events", "an exception left it: std::runtime_error, planted"},
         Fault{"slow_to_make", "speed.creation", "making it takes"},
         Fault{"slow_to_follow", "speed.change", "showing a change takes"}),
     [](auto const& fault) { return std::string(fault.param.plugin); });

@@ -10,7 +10,7 @@ template <typename T>
 int Unique<T>::number = 1;
 
 int& uniqueNumber() {
-    return Unique<PlainEditor>::number;
+    return Unique<int>::number;
 }
 
 PLANT(PlainEditor, keeps_itself);
