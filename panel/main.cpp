@@ -20,6 +20,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QScreen>
+#include <sorrel/GuardedApplication.hpp>
 #include <tessera/TerminalText.hpp>
 
 namespace {
@@ -357,7 +358,7 @@ int main(int argc, char* argv[]) {
         qputenv("QT_SCALE_FACTOR", commandLine->scale.toLatin1());
     qInstallMessageHandler(passOnMessages);
     int qtArguments = 1;
-    QApplication const application(qtArguments, argv);
+    Kolt::GuardedApplication const application(qtArguments, argv);
     Panel::Translations const translations;
     QApplication::setApplicationName(QStringLiteral("talo_panel"));
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Talo panel"));

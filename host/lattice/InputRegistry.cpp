@@ -1,8 +1,9 @@
 #include <lattice/InputRegistry.hpp>
 
 #include <algorithm>
-#include <dlfcn.h>
+#include <lattice/ActionNotifier.hpp>
 #include <lattice/HostObserver.hpp>
+#include <lattice/InputFaults.hpp>
 #include <tessera/NoDestructor.hpp>
 #include <tuple>
 
@@ -20,13 +21,15 @@ Rank rankOf(VInputCreatorBase const& creator, VCreationPreferences::Names const&
     return {shared, creator.priority(), -static_cast<std::ptrdiff_t>(preferences.names().size())};
 }
 
-/// The base name of the file, a plug-in or the program, that contains the creator's class; empty if that is unknown.
-std::string fileOf(VInputCreatorBase const& creator) {
-    Dl_info info{};
-    if (dladdr(&typeid(creator), &info) == 0 || !info.dli_fname)
-        return {};
-    std::string const file = info.dli_fname;
-    return file.substr(file.rfind('/') + 1);
+/// Whether the creator can serve the parameter. One that throws cannot.
+bool supports(VInputCreatorBase const& creator, VParameter const& parameter) {
+    try {
+        return creator.supports(parameter);
+    } catch (...) {
+        VActionNotifier::Warning("The creator " + creator.describe() + ", asked for the parameter \"" +
+                                 parameter.fullName() + "\", " + InputFaults::describeCurrent());
+        return false;
+    }
 }
 
 } // namespace
@@ -52,8 +55,11 @@ bool InputRegistry::add(std::type_info const& valueType, CreatorRef const& creat
         HostObserver::theObserver().creatorRefused(typeName);
         return false;
     }
-    Registration const registration{
-        {typeName, creator}, living.get(), living->Name(), living->preferences()->names(), fileOf(*living)};
+    Registration const registration{{typeName, creator},
+                                    living.get(),
+                                    living->Name(),
+                                    living->preferences()->names(),
+                                    fileDefining(typeid(*living))};
     // Between equals the first one edits, which shall not depend on the order in which files were loaded.
     auto const place = std::upper_bound(registrations_.begin(), registrations_.end(), registration,
                                         [](auto const& left, auto const& right) { return left.file < right.file; });
@@ -123,7 +129,7 @@ InputChoice InputRegistry::choose(std::string const& valueType, VCreationPrefere
     int count = 0;
     for (auto const& candidate : creatorsOf(valueType)) {
         auto const creator = candidate.strong();
-        if (!creator || (parameter && !creator->supports(*parameter)))
+        if (!creator || (parameter && !supports(*creator, *parameter)))
             continue;
         auto const rank = rankOf(*creator, wanted);
         // Of equals the first stays.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <lattice/InputFaults.hpp>
 #include <lattice/NotificationThread.hpp>
 #include <lattice/ValueNotifier.hpp>
 #include <lattice/WaitingNotifiers.hpp>
@@ -103,7 +104,15 @@ void NotifierGuard::run(Report const& report, Lock& lock) {
     if (!notifier)
         return;
     Delivery const delivery(*this, lock);
-    notifier->onValueChange(report.value, report.context, report.properties);
+    try {
+        notifier->onValueChange(report.value, report.context, report.properties);
+    } catch (...) {
+        // It may have destroyed itself before.
+        if (auto* const living = notifier_.load())
+            InputFaults::notificationEnded(*living);
+        else
+            throw;
+    }
 }
 
 void NotifierGuard::runKept(Lock& lock) {

@@ -2,8 +2,10 @@
 
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/EditedValue.hpp>
+#include <lattice/InputFaults.hpp>
 #include <lattice/InputRegistry.hpp>
 #include <sorrel/CommitOnDrop.hpp>
+#include <sorrel/EditorFaults.hpp>
 #include <sorrel/EventLoopDelivery.hpp>
 #include <sorrel/QLeaveLineEdit.hpp>
 #include <tuple>
@@ -63,6 +65,69 @@ bool writeCurrentValue(VInputBase& input, ValuePoolSource const* poolSource) {
     return true;
 }
 
+/// What a creator made for the parent: a widget, and its input.
+using MadeWidget = std::pair<QPointer<QWidget>, InputRef>;
+
+/// Lets the creator make the widget. An exception is told; nothing is made then.
+MadeWidget make(QInputCreator& widgets, ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource,
+                std::string& fault) {
+    try {
+        return widgets.create(parameter, parent, poolSource);
+    } catch (...) {
+        fault = InputFaults::describeCurrent();
+        return {};
+    }
+}
+
+/// Why the host cannot use what a creator made, as the end of a sentence; empty if it can. What is the host's own is
+/// left alone, the rest is deleted.
+std::string faultOf(MadeWidget const& made, QWidget const* parent) {
+    auto* const widget = made.first.data();
+    if (!widget)
+        return "made no widget";
+    if (widget == parent || (parent && widget->isAncestorOf(parent)))
+        return "handed out a widget of the host's own";
+    if (made.second.alive())
+        return {};
+    delete widget;
+    return "made a widget without an input";
+}
+
+/// Puts the widget where the host wants it, if its creator did not. Says what was wrong, as the end of a sentence.
+std::string adopt(QWidget& widget, QWidget* parent) {
+    if (!parent || (widget.parentWidget() == parent && !widget.isWindow()))
+        return {};
+    bool const isElsewhere = widget.parentWidget() != parent;
+    widget.setParent(parent, Qt::Widget);
+    return isElsewhere ? "put its widget into another one than the given parent" : "made a window of its own";
+}
+
+/// Warns of what a creator did.
+void tell(InputChoice const& choice, VParameter const& parameter, std::string const& deed) {
+    auto const creator = choice.creator.strong();
+    VActionNotifier::Warning("The creator of the editor of the parameter \"" + parameter.fullName() + "\"" +
+                             (creator ? ", of " + fileDefining(typeid(*creator)) + "," : std::string()) + ' ' + deed);
+}
+
+/// Makes the widget and looks at it. Without a widget the choice's explanation says why.
+void makeWidget(Editor& editor, QInputCreator& widgets, ParameterPtr const& parameter, QWidget* parent,
+                ValuePoolSource* poolSource) {
+    std::string fault;
+    auto const made = make(widgets, parameter, parent, poolSource, fault);
+    if (fault.empty())
+        fault = faultOf(made, parent);
+    if (!fault.empty()) {
+        editor.choice.explanation += ", but it " + fault;
+        tell(editor.choice, *parameter, fault);
+        return;
+    }
+    std::tie(editor.widget, editor.input) = made;
+    auto const deed = adopt(*editor.widget, parent);
+    if (!deed.empty())
+        tell(editor.choice, *parameter, deed);
+    EditorFaults::watch(*editor.widget);
+}
+
 /// What the editor's fields need to know of its input, which lives as long as they do.
 void connectFields(Editor const& editor, ValuePoolSource const* poolSource) {
     auto const fields = editor.widget->findChildren<QLeaveLineEdit*>();
@@ -100,7 +165,7 @@ Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSourc
         return editor;
     }
     auto* const tracked = poolSource ? new TrackedPoolSource(poolSource) : nullptr;
-    std::tie(editor.widget, editor.input) = widgets->create(parameter, parent, tracked);
+    makeWidget(editor, *widgets, parameter, parent, tracked);
     // The editor asks until its last child is gone.
     if (editor.widget)
         QObject::connect(editor.widget, &QObject::destroyed, [tracked] { delete tracked; });

@@ -8,6 +8,7 @@
 #include <parameters/input/KeyboardPress.hpp>
 #include <parameters/input/WheelGuard.hpp>
 #include <parameters/rows/ButtonCaption.hpp>
+#include <parameters/rows/HostTexts.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -66,6 +67,12 @@ Tessera::StrongPtr<Tessera::StringList> namesIn(Kolt::ValuePtr const& value) {
     return Kolt::valueOr(value, Kolt::Enum()).names();
 }
 
+/// What the host says of an editor, as a sentence.
+QString sentenceOf(QString const& said) {
+    auto const text = hostText(said);
+    return text.endsWith(QLatin1Char('.')) ? text : text + QLatin1Char('.');
+}
+
 } // namespace
 
 EditorCell::EditorCell(Kolt::ParameterRef parameter, PoolSourceRef const& pools)
@@ -79,7 +86,8 @@ QWidget* EditorCell::open(QWidget* parent) {
         return editor_.widget;
     names_ = namesIn(parameter->effectiveValue(pools_.pool()));
     chosen_ = chosenFor(*parameter, parent);
-    editor_ = Kolt::makeEditor(parameter, parent, pools_.source(), chosen_);
+    if (fault_.isEmpty())
+        editor_ = Kolt::makeEditor(parameter, parent, pools_.source(), chosen_);
     neededType_ = Kolt::missingValueType(*parameter, pools_.pool());
     if (!neededType_.empty()) {
         // What people type into it would be lost.
@@ -89,9 +97,18 @@ QWidget* EditorCell::open(QWidget* parent) {
     }
     isPlaceholder_ = !editor_.widget;
     if (isPlaceholder_)
-        editor_.widget = new PlaceholderEditor(*parameter, parent, neededType_);
+        editor_.widget = placeholder(*parameter, parent);
     new WheelGuard(editor_.widget);
     return editor_.widget;
+}
+
+QWidget* EditorCell::placeholder(Kolt::VParameter const& parameter, QWidget* parent) const {
+    if (!fault_.isEmpty())
+        return new PlaceholderEditor(sentenceOf(fault_), parent);
+    // A creator was chosen and did not make an editor.
+    if (neededType_.empty() && editor_.choice.creator.alive())
+        return new PlaceholderEditor(sentenceOf(QString::fromStdString(editor_.choice.explanation)), parent);
+    return new PlaceholderEditor(parameter, parent, neededType_);
 }
 
 void EditorCell::close() {

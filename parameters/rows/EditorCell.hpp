@@ -27,6 +27,9 @@ public:
     /// Makes the editor, or its placeholder, as a child of `parent` and returns it, not yet shown. Returns the existing
     /// one if there is one, and null if the parameter is gone.
     QWidget* open(QWidget* parent);
+    /// Says that the editor had a fault: from the next time that the cell is opened on, it has a placeholder with this
+    /// sentence.
+    void setFault(QString sentence) { fault_ = std::move(sentence); }
     /// Hides the editor and deletes it as soon as control returns to the event loop.
     void close();
 
@@ -66,9 +69,13 @@ public:
     void describe(QWidget& control) const;
 
 private:
+    QWidget* placeholder(Kolt::VParameter const& parameter, QWidget* parent) const;
+
     Kolt::ParameterRef const parameter_;
     PoolSourceRef const pools_;
     Kolt::Editor editor_;
+    // Empty while the editor had none.
+    QString fault_;
     // That a person chose when the editor was made; empty for the usual one.
     Kolt::CreatorRef chosen_;
     bool isPlaceholder_ = false;

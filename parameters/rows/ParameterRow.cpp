@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QThread>
 #include <QToolTip>
+#include <sorrel/EditorFaults.hpp>
 #include <sorrel/QLeaveLineEdit.hpp>
 
 namespace Talo {
@@ -28,6 +29,15 @@ constexpr int highestCentredEditor = 100;
 // Shares of what a form has to spare: the unit stays behind an editor that cannot grow, and leaves the room to others.
 constexpr int editorShare = 1000;
 constexpr int unitShare = 1;
+
+/// From the first row on, the row of an editor that had a fault shows it.
+void followFaults() {
+    static auto const connection = QObject::connect(&Kolt::EditorFaults::theFaults(), &Kolt::EditorFaults::failed,
+                                                    [](QWidget* editor, QString const& sentence) {
+                                                        if (auto* const row = ParameterRow::rowOf(editor))
+                                                            row->showFault(sentence);
+                                                    });
+}
 
 } // namespace
 
@@ -69,8 +79,16 @@ Kolt::UndoHistory& ParameterRow::history() const {
     return parameter ? parameter->history() : Kolt::UndoHistory::theHistory();
 }
 
+void ParameterRow::showFault(QString const& sentence) {
+    if (!cell_.widget() || cell_.isPlaceholder())
+        return;
+    cell_.setFault(sentence);
+    reopenEditor();
+}
+
 void ParameterRow::openEditor() {
     isOpen_ = true;
+    followFaults();
     if (cell_.widget() || cover_)
         return;
     auto const parameter = parameter_.strong();

@@ -73,6 +73,8 @@ public:
 
     /// Makes the editor, or a placeholder where none can be made. Does nothing if there is one.
     void openEditor();
+    /// Shows a sentence instead of the editor, whose code had a fault (Kolt::EditorFaults). Nothing while it is closed.
+    void showFault(QString const& sentence);
     /// Hides the editor and deletes it as soon as control returns to the event loop.
     void closeEditor();
     /// Shows another widget in place of the editor, which is closed until the cover is taken away with null. The row

@@ -20,7 +20,9 @@ QString sentence(Kolt::VParameter const& parameter, std::string const& neededTyp
 } // namespace
 
 PlaceholderEditor::PlaceholderEditor(Kolt::VParameter const& parameter, QWidget* parent, std::string const& neededType)
-    : MutedLabel(sentence(parameter, neededType), parent) {
+    : PlaceholderEditor(sentence(parameter, neededType), parent) {}
+
+PlaceholderEditor::PlaceholderEditor(QString const& sentence, QWidget* parent) : MutedLabel(sentence, parent) {
     // The name of a type can look like a tag.
     setTextFormat(Qt::PlainText);
     setWordWrap(true);

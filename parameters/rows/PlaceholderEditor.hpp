@@ -16,6 +16,8 @@ public:
     /// value must have so that it can be edited; empty if there is no editor.
     explicit PlaceholderEditor(Kolt::VParameter const& parameter, QWidget* parent = nullptr,
                                std::string const& neededType = {});
+    /// Shows this sentence instead: why the editor cannot be used.
+    explicit PlaceholderEditor(QString const& sentence, QWidget* parent = nullptr);
     ~PlaceholderEditor() override;
 };
 

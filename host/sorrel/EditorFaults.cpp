@@ -1,0 +1,57 @@
+#include <sorrel/EditorFaults.hpp>
+
+#include <lattice/ActionNotifier.hpp>
+#include <lattice/Input.hpp>
+#include <lattice/InputFaults.hpp>
+#include <QVariant>
+
+namespace Kolt {
+
+namespace {
+
+constexpr char const* mark = "_talo_editor";
+
+void inputFailed(VInputBase& input, std::string const& sentence) {
+    // Almost every input is a widget as well.
+    auto* const editor = EditorFaults::editorOf(dynamic_cast<QWidget*>(&input));
+    if (editor)
+        emit EditorFaults::theFaults().failed(editor, QString::fromStdString(sentence));
+}
+
+} // namespace
+
+EditorFaults::EditorFaults() {
+    InputFaults::setListener(inputFailed);
+}
+
+EditorFaults::~EditorFaults() = default;
+
+EditorFaults& EditorFaults::theFaults() {
+    static auto* const faults = new EditorFaults;
+    return *faults;
+}
+
+void EditorFaults::watch(QWidget& editor) {
+    theFaults();
+    editor.setProperty(mark, true);
+}
+
+QWidget* EditorFaults::editorOf(QObject* object) {
+    for (; object; object = object->parent())
+        if (object->isWidgetType() && object->property(mark).isValid())
+            return static_cast<QWidget*>(object);
+    return nullptr;
+}
+
+void EditorFaults::eventEnded(QObject* receiver) {
+    auto* const editor = editorOf(receiver);
+    // The class is the plug-in's, and so is what it throws.
+    auto const file = editor ? fileDefining(typeid(*editor)) : std::string();
+    auto const sentence = (editor ? "An editor of " + file : std::string("The handling of an event")) + ' ' +
+                          InputFaults::describeCurrent();
+    VActionNotifier::Warning(sentence);
+    if (editor)
+        emit failed(editor, QString::fromStdString(sentence));
+}
+
+} // namespace Kolt
