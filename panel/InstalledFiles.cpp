@@ -31,4 +31,8 @@ QString defaultPluginFile() {
     return file.isEmpty() ? QDir(QCoreApplication::applicationDirPath()).filePath(besideProgram) : file;
 }
 
+QString checkerProgram() {
+    return firstThatExists({QStringLiteral("talo_check")});
+}
+
 } // namespace Panel

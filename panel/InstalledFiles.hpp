@@ -13,4 +13,7 @@ QString defaultNetworkFile();
 /// be.
 QString defaultPluginFile();
 
+/// The checker of plug-in files (talo_check); empty when it is not there.
+QString checkerProgram();
+
 } // namespace Panel

@@ -12,6 +12,7 @@
 #include <panel/gallery/Gallery.hpp>
 #include <panel/InstalledFiles.hpp>
 #include <panel/PluginSearch.hpp>
+#include <panel/PluginTrial.hpp>
 #include <panel/Translations.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <panel/window/Session.hpp>
@@ -307,7 +308,9 @@ int showWindow(Panel::Plugins& plugins, std::unique_ptr<Talo::Network> network, 
 
 int run(Panel::CommandLine const& commandLine) {
     // Closes the plug-ins after everything else was destroyed.
+    Panel::PluginTrial trial(Panel::checkerProgram(), Panel::PluginTrial::userFile());
     Panel::Plugins plugins;
+    plugins.setTrial([&trial](QString const& file) { return trial.problemOf(file); });
     auto const loaded = loadPlugins(plugins, commandLine);
     if (!loaded.hasNamed)
         return badUse;

@@ -2,6 +2,7 @@
 
 #include <lattice/InputRegistry.hpp>
 #include <QFileDialog>
+#include <QMessageBox>
 
 namespace Panel {
 
@@ -31,9 +32,19 @@ void PluginMenu::update() {
 void PluginMenu::askForPlugin() {
     auto const file = QFileDialog::getOpenFileName(parentWidget(), tr("Load a plug-in"), QString(),
                                                    tr("Plug-ins (*.talo);;All files (*)"));
+    if (file.isEmpty() || !isWanted(file))
+        return;
     QString error;
-    if (!file.isEmpty() && !plugins_.load(file, &error))
+    if (!plugins_.load(file, &error, Plugins::Trust::Anyway))
         emit failed(tr("The plug-in cannot be loaded"), error);
+}
+
+bool PluginMenu::isWanted(QString const& file) {
+    auto const problem = plugins_.problemOf(file);
+    return problem.isEmpty() ||
+           QMessageBox::warning(parentWidget(), tr("Load a plug-in"),
+                                tr("%1\n\nLoad it anyway? Unsaved values may be lost.").arg(problem),
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 void PluginMenu::unload() {

@@ -28,6 +28,8 @@ signals:
 
 private:
     void askForPlugin();
+    // Whether nothing is known against the file, or the user wants it nevertheless.
+    bool isWanted(QString const& file);
     void unload();
     void reload();
 

@@ -24,7 +24,13 @@ Plugins::Plugins(QObject* parent) : QObject(parent), loader_(host_) {}
 
 Plugins::~Plugins() = default;
 
-bool Plugins::load(QString const& file, QString* error) {
+bool Plugins::load(QString const& file, QString* error, Trust trust) {
+    auto const problem = trust == Trust::Tried ? problemOf(file) : QString();
+    if (!problem.isEmpty()) {
+        if (error)
+            *error = problem;
+        return false;
+    }
     emit aboutToChange();
     bool const loaded = loadFile(file, error);
     if (loaded && !knownFiles_.contains(file))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <lattice/PluginLoader.hpp>
 #include <map>
 #include <memory>
@@ -21,9 +22,18 @@ public:
     explicit Plugins(QObject* parent = nullptr);
     ~Plugins() override;
 
+    /// Why a file must not be loaded, a sentence; empty if nothing is known against it.
+    using Trial = std::function<QString(QString const& file)>;
+    /// Sets what is asked before a file is loaded; nothing is asked at first.
+    void setTrial(Trial trial) { trial_ = std::move(trial); }
+    /// Why the trial is against a file; empty if it is not.
+    QString problemOf(QString const& file) const { return trial_ ? trial_(file) : QString(); }
+    /// Whether load() asks the trial.
+    enum class Trust { Tried, Anyway };
+
     /// Loads a file. False, and the reason in `error` unless that is null, when it cannot be loaded; a file that could
     /// not be loaded is not remembered.
-    bool load(QString const& file, QString* error = nullptr);
+    bool load(QString const& file, QString* error = nullptr, Trust trust = Trust::Tried);
     /// Unloads all loaded files, the latest first. False, and the reasons in `error` unless that is null, when one
     /// stays, because editors or values made by it are still in use. While code of a file is running on this thread,
     /// nothing is closed or unloaded.
@@ -49,6 +59,7 @@ private:
     bool loadFile(QString const& file, QString* error);
     bool unloadFiles(QString* error);
 
+    Trial trial_;
     Kolt::VInitialization host_;
     Kolt::PluginLoader loader_;
     QStringList knownFiles_;
