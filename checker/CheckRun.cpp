@@ -54,6 +54,9 @@ QString wrongEnd(QProcess const& child, bool inTime, bool ended, int seconds) {
             .arg(QString::fromLocal8Bit(strsignal(child.exitCode())));
     if (!ended)
         return QStringLiteral("it ended the program, with the status %1").arg(child.exitCode());
+    // 0 and 1 are the child's own. A sanitizer has one for what it found at the end.
+    if (child.exitCode() > 1)
+        return QStringLiteral("the program ended with the status %1").arg(child.exitCode());
     return {};
 }
 

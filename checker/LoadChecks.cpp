@@ -1,13 +1,13 @@
 #include <checker/Check.hpp>
+#include <checker/HeapInUse.hpp>
 #include <checker/LoadedPlugin.hpp>
 #include <dlfcn.h>
 #include <filesystem>
-#include <fstream>
+#include <lattice/HostObserver.hpp>
 #include <lattice/Initialization.hpp>
 #include <lattice/PluginLoader.hpp>
-#include <lattice/ValueCreator.hpp>
+#include <lattice/ValueFormat.hpp>
 #include <sorrel/QInputCreator.hpp>
-#include <unistd.h>
 
 namespace Checker {
 
@@ -26,6 +26,35 @@ void loads(Subject const& subject, Findings& findings) {
     LoadedPlugin const plugin(subject.file, findings);
 }
 
+/// Records what the plug-in tells its host when it is loaded and unloaded.
+class Reports : public Kolt::HostObserver {
+public:
+    Reports() { setObserver(this); }
+    ~Reports() override { setObserver(nullptr); }
+    void pluginCalled(Kolt::VInitialization::InitPluginReason reason, std::string const&,
+                      std::string const& key) override {
+        isAttached = isAttached || reason == Kolt::VInitialization::Attach;
+        isDetached = isDetached || reason == Kolt::VInitialization::Detach;
+        hasRightKey = hasRightKey && key == Kolt::VInitialization::apiKey();
+    }
+
+    bool isAttached = false;
+    bool isDetached = false;
+    bool hasRightKey = true;
+};
+
+void reportsAttachAndDetach(Subject const& subject, Findings& findings) {
+    Reports const reports;
+    LoadedPlugin plugin(subject.file, findings);
+    if (!plugin.isLoaded())
+        return;
+    findings.expect(reports.isAttached, "it does not report attach while it is loaded");
+    findings.expect(!reports.isDetached, "it reports detach before it is unloaded");
+    plugin.unload();
+    findings.expect(reports.isDetached, "it does not report detach while it is unloaded");
+    findings.expect(reports.hasRightKey, "it reports with another key than the host's");
+}
+
 void isUnmappedAfterwards(Subject const& subject, Findings& findings) {
     LoadedPlugin plugin(subject.file, findings);
     if (!plugin.isLoaded())
@@ -42,15 +71,6 @@ std::size_t entriesOf(char const* folder) {
     return count;
 }
 
-/// In pages, the process's resident memory.
-long residentPages() {
-    std::ifstream file("/proc/self/statm");
-    long total = 0;
-    long resident = 0;
-    file >> total >> resident;
-    return resident;
-}
-
 void loadsAThousandTimes(Subject const& subject, Findings& findings) {
     constexpr int times = 1000;
     auto const once = [&] {
@@ -64,14 +84,15 @@ void loadsAThousandTimes(Subject const& subject, Findings& findings) {
             return;
     auto const descriptors = entriesOf("/proc/self/fd");
     auto const threads = entriesOf("/proc/self/task");
-    auto const memory = residentPages();
+    auto const memory = heapInUse();
     for (int time = times / 10; time < times; ++time)
         if (!once())
             return;
     findings.expectEqual(entriesOf("/proc/self/fd"), descriptors, "the number of open files after a thousand loads");
     findings.expectEqual(entriesOf("/proc/self/task"), threads, "the number of threads after a thousand loads");
     // A kilobyte for each load.
-    auto const kilobytes = (residentPages() - memory) * sysconf(_SC_PAGESIZE) / 1024;
+    auto const now = heapInUse();
+    auto const kilobytes = now > memory ? (now - memory) / 1024 : 0;
     findings.expect(kilobytes < times, "a thousand loads leave " + std::to_string(kilobytes) + " KB behind");
 }
 
@@ -98,20 +119,20 @@ void registrationsAreAccepted(Subject const& subject, Findings& findings) {
 
 void everythingIsTakenBack(Subject const& subject, Findings& findings) {
     LoadedPlugin plugin(subject.file, findings);
-    std::vector<std::string> types;
-    for (auto const& entry : plugin.creators())
-        types.push_back(entry.valueType);
     plugin.warnings().texts.clear();
     plugin.unload();
     for (auto const& warning : plugin.warnings().texts)
         findings.fault("the host warns while it unloads: " + warning);
     findings.expectEqual(plugin.creators().size(), 0, "the number of creators after unloading");
+    findings.expectEqual(Kolt::VValueFormat::all().size(), 0, "the number of formats after unloading");
 }
 
 } // namespace
 
 void addLoadChecks(std::vector<Check>& checks) {
     checks.push_back({2, "load", "It loads, attaches, and unloads.", loads});
+    checks.push_back(
+        {2, "reports", "It reports attach when it is loaded, and detach when it is unloaded.", reportsAttachAndDetach});
     checks.push_back({2, "unmapped", "The file is no longer in memory after it was unloaded.", isUnmappedAfterwards});
     checks.push_back(
         {3, "creators", "Each creator has a name, the host's key, \"QT\", and makes Qt widgets.", creatorsAreComplete});

@@ -2,12 +2,14 @@
 #include <checker/LoadedPlugin.hpp>
 #include <checker/UnknownEditor.hpp>
 #include <clocale>
+#include <cstdio>
 #include <filesystem>
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QLocale>
-#include <QTimer>
+#include <QTemporaryFile>
 #include <QWidget>
+#include <unistd.h>
 
 namespace Checker {
 
@@ -55,6 +57,42 @@ std::string locales() {
     return std::string(std::setlocale(LC_ALL, nullptr)) + ' ' + QLocale().name().toStdString();
 }
 
+/// Directs standard output into a file as long as it lives.
+class CapturedOutput {
+public:
+    CapturedOutput() : real_(dup(STDOUT_FILENO)) {
+        std::fflush(stdout);
+        if (file_.open())
+            dup2(file_.handle(), STDOUT_FILENO);
+    }
+    ~CapturedOutput() {
+        std::fflush(stdout);
+        dup2(real_, STDOUT_FILENO);
+        close(real_);
+    }
+    CapturedOutput(CapturedOutput const&) = delete;
+    CapturedOutput& operator=(CapturedOutput const&) = delete;
+
+    int lines() {
+        std::fflush(stdout);
+        file_.seek(0);
+        return file_.readAll().count('\n');
+    }
+
+private:
+    QTemporaryFile file_;
+    int const real_;
+};
+
+void noteOutput(Subject const& subject, Findings& findings) {
+    LoadedPlugin plugin(subject.file, findings);
+    CapturedOutput output;
+    work(plugin);
+    int const lines = output.lines();
+    if (lines > 0)
+        findings.note("its editors print " + std::to_string(lines) + " lines on standard output");
+}
+
 } // namespace
 
 void addResidueChecks(std::vector<Check>& checks) {
@@ -65,6 +103,7 @@ void addResidueChecks(std::vector<Check>& checks) {
                       unchanged("the number of timers of the application", timerCount)});
     checks.push_back({7, "left.threads", "No thread is left.", unchanged("the number of threads", threadCount)});
     checks.push_back({7, "left.locale", "The locale is not changed.", unchanged("the locale", locales)});
+    checks.push_back({7, "output", "What is printed on standard output is noted.", noteOutput});
     checks.push_back({7, "left.style", "Style, palette and font of the program are not changed.",
                       unchanged("the style sheet and font", [] {
                           return (qApp->styleSheet() + ' ' + QApplication::font().toString()).toStdString();

@@ -3,17 +3,23 @@
 #include <checker/LoadedPlugin.hpp>
 #include <checker/SampleValues.hpp>
 #include <lattice/ValueCreator.hpp>
+#include <lattice/ValueFormat.hpp>
 
 namespace Checker {
 
 namespace {
 
-/// The types of the creators, each once.
+/// The types that the plug-in edits or brings, each once.
 std::vector<std::string> typesOf(LoadedPlugin const& plugin) {
     std::vector<std::string> types;
+    auto const add = [&](std::string const& type) {
+        if (std::find(types.begin(), types.end(), type) == types.end())
+            types.push_back(type);
+    };
     for (auto const& entry : plugin.creators())
-        if (std::find(types.begin(), types.end(), entry.valueType) == types.end())
-            types.push_back(entry.valueType);
+        add(entry.valueType);
+    for (auto const* const format : Kolt::VValueFormat::all())
+        add(format->typeName());
     return types;
 }
 
@@ -65,10 +71,27 @@ void copiesAreEqual(Subject const& subject, Findings& findings) {
     });
 }
 
+void formatsReadWhatTheyWrite(Subject const& subject, Findings& findings) {
+    forEachValue(subject, findings, [&](ValueMaker const& make, int n) {
+        auto const value = make(n);
+        auto const* const format = Kolt::VValueFormat::ofType(Tessera::Typename(value->valueType()));
+        // The host's own types have none in this process.
+        if (!format)
+            return;
+        auto const text = format->write(value);
+        if (!findings.expect(text.has_value(), "its format cannot write " + value->Text()))
+            return;
+        auto const read = format->read(*text);
+        if (findings.expect(bool(read), "its format cannot read what it writes: " + *text))
+            findings.expect(read->equals(*value), "its format reads another value than it writes: " + *text);
+    });
+}
+
 } // namespace
 
 void addValueChecks(std::vector<Check>& checks) {
     checks.push_back({8, "values.text", "Values are read from the texts that they write.", textsAreRead});
+    checks.push_back({8, "values.format", "Files give back the values of its own types.", formatsReadWhatTheyWrite});
     checks.push_back({8, "values.copy", "Copies of values are equal and independent.", copiesAreEqual});
 }
 

@@ -19,10 +19,11 @@ template <typename T, typename W>
 class QInputWidgetCreator : public VInputCreator<T, VInputCreatorBase> {
 public:
     /// Registers the creator, adds "QT" to its preferences and attaches its QInputCreator. `prefs` becomes the
-    /// creator's set; null makes an empty one. `name` need not be unique. If the host refuses the registration, one
+    /// creator's set; null makes an empty one. `name` need not be unique. Of the creators that serve a parameter
+    /// equally well the one of the highest `priority` makes its editor. If the host refuses the registration, one
     /// warning is printed and passed to the host, and the creator stays constructed.
-    QInputWidgetCreator(std::string const& name, PreferencesPtr const& prefs)
-        : VInputCreator<T, VInputCreatorBase>(name, 0, prefs ? prefs : PreferencesPtr(new VCreationPreferences),
+    QInputWidgetCreator(std::string const& name, PreferencesPtr const& prefs, int priority = 0)
+        : VInputCreator<T, VInputCreatorBase>(name, priority, prefs ? prefs : PreferencesPtr(new VCreationPreferences),
                                               "TALO_API_VERSION") {
         *this->preferences() += "QT";
         this->addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new QCreator(*this)));

@@ -1090,6 +1090,14 @@ Es läuft mit Qt %1.</translation>
         <source>The plug-ins cannot be loaded again</source>
         <translation>Die Plug-ins lassen sich nicht neu laden</translation>
     </message>
+    <message>
+        <source>%1
+
+Load it anyway? Unsaved values may be lost.</source>
+        <translation>%1
+
+Trotzdem laden? Ungespeicherte Werte können verloren gehen.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PluginSearch</name>
@@ -1307,6 +1315,25 @@ Es läuft mit Qt %1.</translation>
     <message>
         <source>New view on &amp;pool</source>
         <translation>Neue Ansicht auf &amp;Pool</translation>
+    </message>
+</context>
+<context>
+    <name>PluginTrial</name>
+    <message>
+        <source>The plug-in %1 was not loaded, because it would end this program: %2</source>
+        <translation>Das Plug-in %1 wurde nicht geladen, weil es dieses Programm beenden würde: %2</translation>
+    </message>
+    <message>
+        <source>loading it takes more than %1 seconds.</source>
+        <translation>das Laden dauert länger als %1 Sekunden.</translation>
+    </message>
+    <message>
+        <source>it crashes while it is loaded (%1).</source>
+        <translation>es stürzt beim Laden ab (%1).</translation>
+    </message>
+    <message>
+        <source>it ends the program while it is loaded.</source>
+        <translation>es beendet das Programm beim Laden.</translation>
     </message>
 </context>
 <context>

@@ -1090,6 +1090,14 @@ Il fonctionne avec Qt %1.</translation>
         <source>The plug-ins cannot be loaded again</source>
         <translation>Les greffons ne peuvent pas être rechargés</translation>
     </message>
+    <message>
+        <source>%1
+
+Load it anyway? Unsaved values may be lost.</source>
+        <translation>%1
+
+Le charger quand même ? Des valeurs non enregistrées peuvent être perdues.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::PluginSearch</name>
@@ -1307,6 +1315,25 @@ Il fonctionne avec Qt %1.</translation>
     <message>
         <source>New view on &amp;pool</source>
         <translation>Nouvelle vue sur un &amp;pool</translation>
+    </message>
+</context>
+<context>
+    <name>PluginTrial</name>
+    <message>
+        <source>The plug-in %1 was not loaded, because it would end this program: %2</source>
+        <translation>Le greffon %1 n’a pas été chargé, car il mettrait fin à ce programme : %2</translation>
+    </message>
+    <message>
+        <source>loading it takes more than %1 seconds.</source>
+        <translation>son chargement dure plus de %1 secondes.</translation>
+    </message>
+    <message>
+        <source>it crashes while it is loaded (%1).</source>
+        <translation>il plante pendant son chargement (%1).</translation>
+    </message>
+    <message>
+        <source>it ends the program while it is loaded.</source>
+        <translation>il met fin au programme pendant son chargement.</translation>
     </message>
 </context>
 <context>

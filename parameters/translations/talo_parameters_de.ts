@@ -89,6 +89,70 @@
         <source>Cannot close the plug-in %1: %2</source>
         <translation>Das Plug-in %1 lässt sich nicht schließen: %2</translation>
     </message>
+    <message>
+        <source>The editor edits a value of type %1 and not %2.</source>
+        <translation>Der Editor bearbeitet einen Wert vom Typ %1 und nicht %2.</translation>
+    </message>
+    <message>
+        <source>Its creator made no widget.</source>
+        <translation>Sein Erzeuger hat kein Widget gemacht.</translation>
+    </message>
+    <message>
+        <source>Its creator handed out a widget of the program&apos;s own.</source>
+        <translation>Sein Erzeuger hat ein Widget des Programms selbst herausgegeben.</translation>
+    </message>
+    <message>
+        <source>Its creator made a widget without an input.</source>
+        <translation>Sein Erzeuger hat ein Widget ohne Eingabe gemacht.</translation>
+    </message>
+    <message>
+        <source>Its creator ended with an exception: %1.</source>
+        <translation>Sein Erzeuger endete mit einer Ausnahme: %1.</translation>
+    </message>
+    <message>
+        <source>The editor of the parameter &quot;%1&quot;, of %2, ended with an exception: %3.</source>
+        <translation>Der Editor des Parameters „%1“ aus %2 endete mit einer Ausnahme: %3.</translation>
+    </message>
+    <message>
+        <source>An editor of %1 ended with an exception: %2.</source>
+        <translation>Ein Editor aus %1 endete mit einer Ausnahme: %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is loaded already, as %2.</source>
+        <translation>Das Plug-in %1 ist schon geladen, als %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not say for which interface of the host it was built.</source>
+        <translation>Das Plug-in %1 sagt nicht, für welche Schnittstelle des Programms es gebaut wurde.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 was built for another interface of the host (%2, not %3). Build it again.</source>
+        <translation>Das Plug-in %1 wurde für eine andere Schnittstelle des Programms gebaut (%2 statt %3). Es muss neu gebaut werden.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 ended with an exception of unknown type.</source>
+        <translation>Das Plug-in %1 endete mit einer Ausnahme unbekannter Art.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 ended with an exception: %2</source>
+        <translation>Das Plug-in %1 endete mit einer Ausnahme: %2</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be unloaded while its own code is running.</source>
+        <translation>Das Plug-in %1 kann nicht entladen werden, während sein eigener Code läuft.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be unloaded while these are in use: %2.</source>
+        <translation>Das Plug-in %1 kann nicht entladen werden, solange dies verwendet wird: %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 was closed and is still in memory, because something else holds it.</source>
+        <translation>Das Plug-in %1 wurde geschlossen und ist noch im Speicher, weil etwas anderes es festhält.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 left behind what was removed now: %2</source>
+        <translation>Das Plug-in %1 hat zurückgelassen, was nun entfernt wurde: %2</translation>
+    </message>
 </context>
 <context>
     <name>ObjectClipboard</name>
@@ -401,6 +465,10 @@
     <message>
         <source>No editor is registered for the type %1 with the preferences %2.</source>
         <translation>Für den Typ %1 mit den Vorgaben %2 ist kein Editor angemeldet.</translation>
+    </message>
+    <message>
+        <source>The editor of the type %1 needs a value of type %2.</source>
+        <translation>Der Editor des Typs %1 braucht einen Wert vom Typ %2.</translation>
     </message>
 </context>
 <context>

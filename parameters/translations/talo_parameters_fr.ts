@@ -89,6 +89,70 @@
         <source>Cannot close the plug-in %1: %2</source>
         <translation>Impossible de fermer le greffon %1 : %2</translation>
     </message>
+    <message>
+        <source>The editor edits a value of type %1 and not %2.</source>
+        <translation>L’éditeur modifie une valeur de type %1 et non %2.</translation>
+    </message>
+    <message>
+        <source>Its creator made no widget.</source>
+        <translation>Son créateur n’a pas fait de widget.</translation>
+    </message>
+    <message>
+        <source>Its creator handed out a widget of the program&apos;s own.</source>
+        <translation>Son créateur a remis un widget du programme lui-même.</translation>
+    </message>
+    <message>
+        <source>Its creator made a widget without an input.</source>
+        <translation>Son créateur a fait un widget sans entrée.</translation>
+    </message>
+    <message>
+        <source>Its creator ended with an exception: %1.</source>
+        <translation>Son créateur s’est terminé par une exception : %1.</translation>
+    </message>
+    <message>
+        <source>The editor of the parameter &quot;%1&quot;, of %2, ended with an exception: %3.</source>
+        <translation>L’éditeur du paramètre « %1 », de %2, s’est terminé par une exception : %3.</translation>
+    </message>
+    <message>
+        <source>An editor of %1 ended with an exception: %2.</source>
+        <translation>Un éditeur de %1 s’est terminé par une exception : %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 is loaded already, as %2.</source>
+        <translation>Le plug-in %1 est déjà chargé, sous le nom %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 does not say for which interface of the host it was built.</source>
+        <translation>Le plug-in %1 ne dit pas pour quelle interface du programme il a été construit.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 was built for another interface of the host (%2, not %3). Build it again.</source>
+        <translation>Le plug-in %1 a été construit pour une autre interface du programme (%2 au lieu de %3). Il doit être reconstruit.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 ended with an exception of unknown type.</source>
+        <translation>Le plug-in %1 s&apos;est terminé par une exception de type inconnu.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 ended with an exception: %2</source>
+        <translation>Le plug-in %1 s&apos;est terminé par une exception : %2</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be unloaded while its own code is running.</source>
+        <translation>Le plug-in %1 ne peut pas être déchargé pendant que son propre code s&apos;exécute.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 cannot be unloaded while these are in use: %2.</source>
+        <translation>Le plug-in %1 ne peut pas être déchargé tant que ceci est utilisé : %2.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 was closed and is still in memory, because something else holds it.</source>
+        <translation>Le plug-in %1 a été fermé et reste en mémoire, parce qu&apos;autre chose le retient.</translation>
+    </message>
+    <message>
+        <source>The plug-in %1 left behind what was removed now: %2</source>
+        <translation>Le plug-in %1 a laissé derrière lui ce qui vient d&apos;être retiré : %2</translation>
+    </message>
 </context>
 <context>
     <name>ObjectClipboard</name>
@@ -401,6 +465,10 @@
     <message>
         <source>No editor is registered for the type %1 with the preferences %2.</source>
         <translation>Aucun éditeur n’est inscrit pour le type %1 avec les préférences %2.</translation>
+    </message>
+    <message>
+        <source>The editor of the type %1 needs a value of type %2.</source>
+        <translation>L’éditeur du type %1 a besoin d’une valeur de type %2.</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,7 @@ std::map<std::string, std::vector<std::string>> const allowed = {
     {"qVinputs", {"tessera", "lattice", "bramble", "sorrel", "plugin"}},
     {"network", {"tessera", "lattice", "bramble"}},
     {"parameters", {"tessera", "lattice", "bramble", "sorrel", "network"}},
+    {"checker", {"tessera", "lattice", "bramble", "sorrel"}},
     {"fractal", {"tessera", "lattice", "bramble", "network"}},
     {"panel", {"tessera", "lattice", "bramble", "sorrel", "network", "parameters", "fractal"}}};
 
@@ -94,7 +95,7 @@ TEST_P(IncludesOfModule, FollowTheDependencies) {
 
 INSTANTIATE_TEST_SUITE_P(Modules, IncludesOfModule,
                          testing::Values("tessera", "lattice", "bramble", "sorrel", "plugin", "qVinputs", "network",
-                                         "parameters", "fractal", "panel"),
+                                         "parameters", "checker", "fractal", "panel"),
                          [](auto const& test) { return std::string(test.param); });
 
 TEST_F(Includes, AreFoundInEverySpelling) {
@@ -125,7 +126,9 @@ TEST_F(Includes, AgainstTheDependenciesAreRejected) {
                                                          {"qVinputs", "elsewhere/Thing.hpp"},
                                                          {"qVinputs", "QBool.hpp"},
                                                          {"panel", "../plugin/VInputValue.hpp"},
-                                                         {"lattice", "Value.hpp"}};
+                                                         {"lattice", "Value.hpp"},
+                                                         {"checker", "plugin/VInputValue.hpp"},
+                                                         {"checker", "panel/look/Look.hpp"}};
     for (auto const& [module, header] : wrong)
         EXPECT_TRUE(objection(module, header)) << module << " " << header;
 }

@@ -91,6 +91,14 @@ TEST_F(TaloCheck, TheSecondPluginPassesEveryLevel) {
 }
 #endif
 
+TEST_F(TaloCheck, OutputIsNotedAndNoFault) {
+    auto const run = check({"--only", "output", planted("good_talkative")});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.output.toStdString(), testing::ContainsRegex("note: its editors print [0-9]+ lines"));
+    EXPECT_THAT(check({"--only", "output", planted("good_plain")}).output.toStdString(),
+                testing::Not(testing::HasSubstr("note")));
+}
+
 TEST_F(TaloCheck, TheSameSeedGivesTheSameReport) {
     QStringList const arguments{"--only", "events", "--seed", "7", planted("crashes_at_a_key")};
     auto const first = check(arguments);
@@ -215,6 +223,9 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"leaves_a_timer", "left.timers", "the number of timers"},
         Fault{"leaves_a_thread", "left.threads", "the number of threads"},
         Fault{"changes_the_locale", "left.locale", "the locale"}, Fault{"changes_the_font", "left.style", "font"},
+        Fault{"reports_nothing", "reports", "it does not report attach"},
+        Fault{"forgets_texts", "values.text", "a value that is read from its text"},
+        Fault{"forgets_in_files", "values.format", "its format reads another value than it writes"},
         Fault{"crashes_at_a_key", "events", "it crashed"},
         Fault{"throws_at_an_edit", "events", "an exception left it: std::runtime_error, planted"},
         Fault{"slow_to_make", "speed.creation", "making it takes"},

@@ -52,6 +52,11 @@ foreach(example IN ITEMS small_host spin_inputs more_inputs vector_inputs)
     run("${CMAKE_COMMAND}" --build "${WORK}/${example}")
 endforeach()
 
+# The plug-ins pass every level of the installed checker.
+foreach(plugin IN ITEMS spin_inputs more_inputs vector_inputs)
+    run_and_expect("[0-9]+ of [0-9]+ checks passed" "${prefix}/bin/talo_check" "${WORK}/${plugin}/${plugin}.talo")
+endforeach()
+
 # The simulated user works with editors, undo, pools and the filter; the host saves and draws its window.
 file(MAKE_DIRECTORY "${WORK}/user")
 run("${CMAKE_COMMAND}" -E chdir "${WORK}/user" "${WORK}/small_host/small_host")

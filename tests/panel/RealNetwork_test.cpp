@@ -3,14 +3,12 @@
 
 #include "support/TaloTest.hpp"
 
-#include <malloc.h>
+#include <checker/HeapInUse.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <QProcess>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <set>
-
-extern "C" [[gnu::weak]] std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace {
 
@@ -78,11 +76,7 @@ protected:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         takeOutput();
     }
-    /// In bytes. The sanitizers have an allocator of their own, of which mallinfo2 knows nothing.
-    static double heapInUse() {
-        return static_cast<double>(__sanitizer_get_current_allocated_bytes ? __sanitizer_get_current_allocated_bytes()
-                                                                           : mallinfo2().uordblks);
-    }
+    static double heapInUse() { return static_cast<double>(Checker::heapInUse()); }
 
     QString const file = QStringLiteral(TALO_EXAMPLES "/networks/transfer.json");
     QTemporaryDir folder;

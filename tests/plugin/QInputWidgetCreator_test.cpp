@@ -68,3 +68,14 @@ TEST_F(InputWidgetCreator, IsRegisteredWithoutQtAndWantsNoPriority) {
     EXPECT_EQ(entries.front().valueType, "int");
     EXPECT_EQ(entries.front().creator.strong().get(), &creator);
 }
+
+TEST_F(InputWidgetCreator, OfEqualOnesTheHighestPriorityEdits) {
+    for (bool const isFirst : {true, false}) {
+        auto const usual = [] { return std::make_unique<Creator>("usual", nullptr); };
+        auto const better = [] { return std::make_unique<Creator>("better", nullptr, 5); };
+        auto const one = isFirst ? better() : usual();
+        auto const other = isFirst ? usual() : better();
+        auto const choice = InputRegistry::theRegistry().choose(*parameter_, {"QT"});
+        EXPECT_EQ(choice.creator.strong()->Name(), "better") << "whatever is registered first";
+    }
+}
