@@ -62,6 +62,12 @@ private:
     void theParameterMayDieInsideTheNotificationOfAnEdit();
     void thePanelMayCloseInsideTheNotificationOfAnEdit();
 
+    // What an editor of the project says at an edit whose parameter is gone.
+    static constexpr char const* missingOwnerLine =
+        "**POSSIBLE INTERNAL FAULT**: VInputBase without owner? That's not good.";
+    static std::size_t undoSteps();
+    static std::string joined(std::vector<std::string> const& lines);
+
     std::string declaredType() const;
     Kolt::ParameterPtr parameterWith(Kolt::ValuePtr const& value, Kolt::VParameter::Values values);
     Kolt::ParameterPtr parameterWith(int n, Kolt::VParameter::Values values = Kolt::VParameter::Values::Shared);
