@@ -1,5 +1,5 @@
 #include "PanelCheck.hpp"
-#include "contract/EditorCase.hpp"
+#include "contract/EditorCases.hpp"
 
 #include <algorithm>
 #include <bramble/FlagList.hpp>
