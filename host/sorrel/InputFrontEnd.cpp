@@ -79,18 +79,12 @@ MadeWidget make(QInputCreator& widgets, ParameterPtr const& parameter, QWidget* 
     }
 }
 
-/// Why the host cannot use what a creator made, as the end of a sentence; empty if it can. What is the host's own is
-/// left alone, the rest is deleted.
-std::string faultOf(MadeWidget const& made, QWidget const* parent) {
-    auto* const widget = made.first.data();
+/// Why the host cannot use what a creator made, as the end of a sentence; empty if it can.
+std::string faultOf(QWidget const* widget, QWidget const* parent) {
     if (!widget)
         return "made no widget";
-    if (widget == parent || (parent && widget->isAncestorOf(parent)))
-        return "handed out a widget of the host's own";
-    if (made.second.alive())
-        return {};
-    delete widget;
-    return "made a widget without an input";
+    bool const isTheHosts = widget == parent || (parent && widget->isAncestorOf(parent));
+    return isTheHosts ? "handed out a widget of the host's own" : "";
 }
 
 /// Puts the widget where the host wants it, if its creator did not. Says what was wrong, as the end of a sentence.
@@ -115,7 +109,7 @@ void makeWidget(Editor& editor, QInputCreator& widgets, ParameterPtr const& para
     std::string fault;
     auto const made = make(widgets, parameter, parent, poolSource, fault);
     if (fault.empty())
-        fault = faultOf(made, parent);
+        fault = faultOf(made.first, parent);
     if (!fault.empty()) {
         editor.choice.explanation += ", but it " + fault;
         tell(editor.choice, *parameter, fault);
@@ -125,6 +119,8 @@ void makeWidget(Editor& editor, QInputCreator& widgets, ParameterPtr const& para
     auto const deed = adopt(*editor.widget, parent);
     if (!deed.empty())
         tell(editor.choice, *parameter, deed);
+    if (!editor.input.alive())
+        tell(editor.choice, *parameter, "made a widget without an input, which cannot follow changes");
     EditorFaults::watch(*editor.widget);
 }
 

@@ -34,8 +34,6 @@ constexpr HostSentence hostSentences[] = {
     {"but it made no widget", QT_TRANSLATE_NOOP("HostTexts", "Its creator made no widget.")},
     {"but it handed out a widget of the host's own",
      QT_TRANSLATE_NOOP("HostTexts", "Its creator handed out a widget of the program's own.")},
-    {"but it made a widget without an input",
-     QT_TRANSLATE_NOOP("HostTexts", "Its creator made a widget without an input.")},
     {"but it ended with an exception: (.+)",
      QT_TRANSLATE_NOOP("HostTexts", "Its creator ended with an exception: %1.")},
     {"The editor of the parameter \"(.+)\", of (.+), ended with an exception: (.+)",

@@ -102,10 +102,6 @@
         <translation>Sein Erzeuger hat ein Widget des Programms selbst herausgegeben.</translation>
     </message>
     <message>
-        <source>Its creator made a widget without an input.</source>
-        <translation>Sein Erzeuger hat ein Widget ohne Eingabe gemacht.</translation>
-    </message>
-    <message>
         <source>Its creator ended with an exception: %1.</source>
         <translation>Sein Erzeuger endete mit einer Ausnahme: %1.</translation>
     </message>

@@ -102,10 +102,6 @@
         <translation>Son créateur a remis un widget du programme lui-même.</translation>
     </message>
     <message>
-        <source>Its creator made a widget without an input.</source>
-        <translation>Son créateur a fait un widget sans entrée.</translation>
-    </message>
-    <message>
         <source>Its creator ended with an exception: %1.</source>
         <translation>Son créateur s’est terminé par une exception : %1.</translation>
     </message>

@@ -121,12 +121,12 @@ TEST_F(EditorFaultsTest, AnExceptionInAnEventReplacesTheEditor) {
 INSTANTIATE_TEST_SUITE_P(Plugins, RefusedEditor,
                          testing::Values(BadCreator{"makes_nothing", "made no widget"},
                                          BadCreator{"takes_the_window", "handed out a widget of the host's own"},
-                                         BadCreator{"no_input", "made a widget without an input"},
                                          BadCreator{"throws_in_create", "ended with an exception: planted"}),
                          [](auto const& creator) { return std::string(creator.param.plugin); });
 INSTANTIATE_TEST_SUITE_P(Plugins, AdoptedEditor,
                          testing::Values(BadCreator{"other_parent", "another one than the given parent"},
-                                         BadCreator{"own_window", "made a window of its own"}),
+                                         BadCreator{"own_window", "made a window of its own"},
+                                         BadCreator{"no_input", "made a widget without an input"}),
                          [](auto const& creator) { return std::string(creator.param.plugin); });
 
 // The application object is the one of hosts that survive exceptions.
