@@ -1,5 +1,6 @@
 // The panel tries plug-in files in a process of their own, once, and loads none that would end it.
 
+#include "support/FileDialogs.hpp"
 #include "support/TaloTest.hpp"
 
 #include <panel/PluginTrial.hpp>
@@ -106,18 +107,22 @@ TEST_F(PluginTrialTest, TheMenuAsksWhetherToLoadItAnyway) {
     std::unique_ptr<QLabel> const label(menu.statusLabel());
     QStringList asked;
     auto const load = [&](QMessageBox::StandardButton answer) {
+        // The question comes after the dialog for the file.
         QTimer timer;
+        UnansweredDialog unanswered;
         QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-            if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            auto* const modal = QApplication::activeModalWidget();
+            unanswered.look(modal);
+            if (auto* const box = qobject_cast<QMessageBox*>(modal)) {
                 asked << box->text();
                 box->button(answer)->click();
-            } else if (auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
-                dialog->selectFile(file);
-                QMetaObject::invokeMethod(dialog, "accept");
             }
         });
-        timer.start(10);
-        menu.findChild<QAction*>("load")->trigger();
+        auto const trigger = [&] { menu.findChild<QAction*>("load")->trigger(); };
+        EXPECT_TRUE(withFileDialog(trigger, [&](QFileDialog& dialog) {
+            timer.start(10);
+            enterFileName(dialog, file);
+        }));
     };
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     load(QMessageBox::No);
