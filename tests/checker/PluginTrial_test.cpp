@@ -1,5 +1,6 @@
 // The panel tries plug-in files in a process of their own, once, and loads none that would end it.
 
+#include "support/CrashingChildren.hpp"
 #include "support/FileDialogs.hpp"
 #include "support/TaloTest.hpp"
 
@@ -32,6 +33,7 @@ protected:
         return trial.problemOf(file).toStdString();
     }
 
+    CrashingChildren const crashing;
     QTemporaryDir folder;
 };
 

@@ -1,5 +1,6 @@
 // talo_check finds each planted fault, names it, and accuses no good plug-in.
 
+#include "support/CrashingChildren.hpp"
 #include "support/TaloTest.hpp"
 
 #include <QJsonArray>
@@ -38,6 +39,7 @@ struct Run {
 };
 
 Run check(QStringList const& arguments) {
+    CrashingChildren const crashing;
     QProcess checker;
     checker.start(QStringLiteral(TALO_CHECK), arguments);
     Run run;
