@@ -9,9 +9,9 @@ namespace Checker {
 
 /// What a check is given.
 struct Subject {
-    std::string file;     ///< the plug-in, a path
-    unsigned seed = 1;    ///< what random events are drawn from
-    int eventSeconds = 1; ///< how long each editor gets random events
+    std::string file;  ///< the plug-in, a path
+    unsigned seed = 1; ///< what random events are drawn from
+    int events = 200;  ///< how many random events each editor gets
 };
 
 /// One of the checks. Each is run in a process of its own, in which nothing was loaded before.

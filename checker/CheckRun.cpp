@@ -87,8 +87,7 @@ CheckResult runInChild(Check const& check, Subject const& subject, int secondsAt
     child.setProcessChannelMode(QProcess::MergedChannels);
     child.start(QCoreApplication::applicationFilePath(),
                 {"--run", result.name, "--findings", findings.fileName(), "--seed", QString::number(subject.seed),
-                 "--event-seconds", QString::number(subject.eventSeconds), "--",
-                 QFile::decodeName(subject.file.c_str())});
+                 "--events", QString::number(subject.events), "--", QFile::decodeName(subject.file.c_str())});
     bool const inTime = child.waitForFinished(secondsAtMost * 1000);
     if (!inTime) {
         child.kill();

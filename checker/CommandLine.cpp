@@ -12,13 +12,13 @@ namespace {
 class Options {
 public:
     Options() {
-        for (auto* const option : {&run, &findings, &eventSeconds})
+        for (auto* const option : {&run, &findings})
             option->setFlags(QCommandLineOption::HiddenFromHelp);
         parser.setApplicationDescription(
             "Checks a plug-in file: whether it loads and unloads, and whether its editors do what hosts rely on.\n"
             "Status 0 if all checks pass, 1 if one fails, 2 if the command line is wrong.");
         parser.addOptions(
-            {help, version, level, only, seed, seconds, format, output, quick, list, run, findings, eventSeconds});
+            {help, version, level, only, seed, seconds, format, output, quick, list, events, run, findings});
         parser.addPositionalArgument("FILE.talo", "The plug-in file to check.");
     }
 
@@ -28,6 +28,7 @@ public:
                                    "N"};
     QCommandLineOption const only{"only", "Makes only this check; --list names all.", "CHECK"};
     QCommandLineOption const seed{"seed", "Draws the random events from this number, to replay a report.", "NUMBER"};
+    QCommandLineOption const events{"events", "How many random events each editor gets; 200 by default.", "NUMBER"};
     QCommandLineOption const seconds{"seconds", "The time limit of each check; 60 by default.", "SECONDS"};
     QCommandLineOption const format{"format", "How the report is written: text, json or junit.", "FORMAT"};
     QCommandLineOption const output{"output", "Writes the report into this file.", "FILE"};
@@ -35,7 +36,6 @@ public:
     QCommandLineOption const list{"list", "Prints the checks and ends."};
     QCommandLineOption run{"run", "Makes one check in this process.", "CHECK"};
     QCommandLineOption findings{"findings", "The file for what that check finds.", "FILE"};
-    QCommandLineOption eventSeconds{"event-seconds", "How long each editor gets random events.", "SECONDS"};
     QCommandLineParser parser;
 };
 
@@ -94,7 +94,7 @@ CommandLine readCommandLine(QStringList const& arguments) {
     constexpr int large = 1000000000;
     line.subject.seed = static_cast<unsigned>(
         numberOf(parser, options.seed, static_cast<int>(std::random_device()() % large) + 1, large, line.error));
-    line.subject.eventSeconds = numberOf(parser, options.eventSeconds, 1, 3600, line.error);
+    line.subject.events = numberOf(parser, options.events, 200, large, line.error);
     line.level = numberOf(parser, options.level, HighestLevel, HighestLevel, line.error);
     line.seconds = numberOf(parser, options.seconds, 60, 3600, line.error);
     readFormat(parser.value(options.format), line);
