@@ -80,6 +80,8 @@ std::vector<EditorContract::Check> const& EditorContract::checks() {
          &C::aParameterThatWentIsReportedOnceForEachEdit},
         {"AnEditIsStoredNotifiedOnceAndStamped", "An edit is stored, notified once, and marks the value as changed.",
          For::Writing, &C::anEditIsStoredNotifiedOnceAndStamped},
+        {"AnEditIsToldAsTheEditorsOwn", "An edit names its editor as the source, which is not notified itself.",
+         For::Writing, &C::anEditIsToldAsTheEditorsOwn},
         {"TwoEditorsFollowEachOtherWithoutAnEcho", "Two editors of one parameter follow each other without an echo.",
          For::Writing, &C::twoEditorsFollowEachOtherWithoutAnEcho},
         {"AnEditReachesItsPoolAlone", "An edit changes the value of its pool alone.", For::Writing,

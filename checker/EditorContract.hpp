@@ -57,6 +57,7 @@ private:
     void withoutAPoolSourceNothingIsWritten();
     void aParameterThatWentIsReportedOnceForEachEdit();
     void anEditIsStoredNotifiedOnceAndStamped();
+    void anEditIsToldAsTheEditorsOwn();
     void twoEditorsFollowEachOtherWithoutAnEcho();
     void anEditReachesItsPoolAlone();
     void theParameterMayDieInsideTheNotificationOfAnEdit();

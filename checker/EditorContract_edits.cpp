@@ -1,6 +1,7 @@
 // The checks for editors that people edit.
 
 #include <checker/EditorContract.hpp>
+#include <lattice/EditRecorder.hpp>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QWidget>
@@ -74,6 +75,19 @@ void EditorContract::anEditIsStoredNotifiedOnceAndStamped() {
     expectSilence("by an edit");
     if (case_.isKnown)
         findings_.expectEqual(joined(warnings_.texts), "", "the text of the warnings of an edit");
+}
+
+void EditorContract::anEditIsToldAsTheEditorsOwn() {
+    auto const parameter = parameterWith(0);
+    auto const recorder = Kolt::EditRecorder::watch(parameter);
+    auto const editor = open(parameter);
+    if (!editor.widget)
+        return;
+    edit(editor);
+    // A change without a source is one of the host: nobody can undo it, and the editor itself is notified of it.
+    findings_.expect(undoSteps() > 0,
+                     "an edit cannot be undone, because it is notified without the editor as its source");
+    expectSilence("by an edit that is recorded");
 }
 
 void EditorContract::twoEditorsFollowEachOtherWithoutAnEcho() {

@@ -225,6 +225,7 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"leaves_a_timer", "left.timers", "the number of timers"},
         Fault{"leaves_a_thread", "left.threads", "the number of threads"},
         Fault{"changes_the_locale", "left.locale", "the locale"}, Fault{"changes_the_font", "left.style", "font"},
+        Fault{"tells_itself", "contract.an-edit-is-told-as-the-editors-own", "an edit cannot be undone"},
         Fault{"reports_nothing", "reports", "it does not report attach"},
         Fault{"forgets_texts", "values.text", "a value that is read from its text"},
         Fault{"forgets_in_files", "values.format", "its format reads another value than it writes"},
