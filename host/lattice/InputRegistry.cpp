@@ -55,11 +55,12 @@ bool InputRegistry::add(std::type_info const& valueType, CreatorRef const& creat
         HostObserver::theObserver().creatorRefused(typeName);
         return false;
     }
+    auto const& object = *living;
     Registration const registration{{typeName, creator},
                                     living.get(),
                                     living->Name(),
                                     living->preferences()->names(),
-                                    fileDefining(typeid(*living))};
+                                    fileDefining(typeid(object))};
     // Between equals the first one edits, which shall not depend on the order in which files were loaded.
     auto const place = std::upper_bound(registrations_.begin(), registrations_.end(), registration,
                                         [](auto const& left, auto const& right) { return left.file < right.file; });

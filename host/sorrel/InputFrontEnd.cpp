@@ -99,8 +99,9 @@ std::string adopt(QWidget& widget, QWidget* parent) {
 /// Warns of what a creator did.
 void tell(InputChoice const& choice, VParameter const& parameter, std::string const& deed) {
     auto const creator = choice.creator.strong();
+    auto const* const object = creator.get();
     VActionNotifier::Warning("The creator of the editor of the parameter \"" + parameter.fullName() + "\"" +
-                             (creator ? ", of " + fileDefining(typeid(*creator)) + "," : std::string()) + ' ' + deed);
+                             (object ? ", of " + fileDefining(typeid(*object)) + "," : std::string()) + ' ' + deed);
 }
 
 /// Makes the widget and looks at it. Without a widget the choice's explanation says why.

@@ -32,11 +32,12 @@ constexpr int unitShare = 1;
 
 /// From the first row on, the row of an editor that had a fault shows it.
 void followFaults() {
-    static auto const connection = QObject::connect(&Kolt::EditorFaults::theFaults(), &Kolt::EditorFaults::failed,
-                                                    [](QWidget* editor, QString const& sentence) {
-                                                        if (auto* const row = ParameterRow::rowOf(editor))
-                                                            row->showFault(sentence);
-                                                    });
+    auto& faults = Kolt::EditorFaults::theFaults();
+    static auto const connection =
+        QObject::connect(&faults, &Kolt::EditorFaults::failed, &faults, [](QWidget* editor, QString const& sentence) {
+            if (auto* const row = ParameterRow::rowOf(editor))
+                row->showFault(sentence);
+        });
 }
 
 } // namespace
