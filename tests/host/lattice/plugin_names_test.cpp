@@ -61,11 +61,13 @@ TEST_F(PluginNames, ARelativePathIsTheFileItWasInWhateverFolderTheProgramIsNow) 
 }
 
 TEST_F(PluginNames, AFileThatWasReplacedOrRemovedIsUnloadedByItsName) {
-    auto const copy = file_.parent_path() / "copied" / file_.filename();
+    // As deep as the file, so that the copy finds the same libraries.
+    auto const copy = file_.parent_path().parent_path() / "copied" / file_.filename();
     fs::create_directories(copy.parent_path());
     for (bool const isReplaced : {true, false}) {
         fs::copy_file(TALO_SAMPLE_PLUGIN, copy, fs::copy_options::overwrite_existing);
-        ASSERT_TRUE(loader_.load(copy.string()).ok);
+        auto const loaded = loader_.load(copy.string());
+        ASSERT_TRUE(loaded.ok) << loaded.message;
         fs::remove(copy);
         if (isReplaced)
             fs::copy_file(TALO_SECOND_SAMPLE_PLUGIN, copy);
