@@ -22,6 +22,7 @@ public:
     /// Has a lister asked as long as it exists: a static object of a library with kinds of objects of its own.
     class TALO_EXPORT Listing {
     public:
+        /// From now on the lister is asked, too.
         explicit Listing(Lister lister);
         ~Listing();
         Listing(Listing const&) = delete;
