@@ -89,6 +89,7 @@ void namingParameter(Kolt::VObject const& object, QString const& name, Function 
 NetworkReader::NetworkReader(QString const& file, ObjectFactory const& makeObject)
     : network_(new Network), makeObject_(makeObject) {
     network_->file_ = file;
+    folder_ = network_->folder();
 }
 
 std::unique_ptr<Network> NetworkReader::read(JsonNode root, QString const& file, ObjectFactory const& makeObject) {
@@ -201,8 +202,7 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
     network_->connectActions(*parameter, object);
     readPreferences(node, *parameter);
     if (auto const* const properties = node.find("properties"))
-        for (auto const& [key, value] :
-             PropertyFormat(QString::fromStdString(format.key()), network_->folder()).read(*properties))
+        for (auto const& [key, value] : PropertyFormat(QString::fromStdString(format.key()), folder_).read(*properties))
             parameter->setProperty(key, value, nullptr, nullptr, nullptr);
 }
 

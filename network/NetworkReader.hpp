@@ -33,6 +33,8 @@ private:
     void readSlots(JsonNode const& node, Kolt::ObjectPtr const& object);
 
     std::unique_ptr<Network> network_;
+    // The network's, asked once, as each parameter needs it.
+    QString folder_;
     ObjectFactory const& makeObject_;
     // The names of the parameters of the object that is being read.
     QSet<QString> takenNames_;
