@@ -16,10 +16,14 @@ struct Subject {
 
 /// One of the checks. Each is run in a process of its own, in which nothing was loaded before.
 struct Check {
+    /// Whether what the plug-in prints becomes a note.
+    enum class Output { Ignored, Noted };
+
     int level;                                          ///< 1 to 10
     std::string name;                                   ///< one word, with dots
     std::string meaning;                                ///< what holds for a good plug-in, a sentence
     std::function<void(Subject const&, Findings&)> run; ///< adds what it finds
+    Output output = Output::Ignored;                    ///< what is done with printed lines
 };
 
 /// The highest level.

@@ -35,14 +35,13 @@ bool readFindings(QFile& file, CheckResult& result) {
     return ended;
 }
 
-QStringList lastLines(QByteArray const& output) {
-    constexpr int most = 5;
+QStringList linesOf(QByteArray const& output) {
     QStringList lines;
     for (auto const& line : QString::fromUtf8(output).split('\n', Qt::SkipEmptyParts))
         // These two come from Qt's platform without a display.
         if (!line.contains("propagateSizeHints") && !line.contains("XDG_RUNTIME_DIR"))
             lines << line;
-    return lines.mid(qMax(0, lines.size() - most));
+    return lines;
 }
 
 /// How the child ended, if it should not have ended so; empty otherwise.
@@ -98,12 +97,17 @@ CheckResult runInChild(Check const& check, Subject const& subject, int secondsAt
     auto const wrong = wrongEnd(child, inTime, ended, secondsAtMost);
     if (!wrong.isEmpty())
         result.faults << wrong;
-    result.output = lastLines(child.readAll());
+    auto const lines = linesOf(child.readAll());
+    if (check.output == Check::Output::Noted && !lines.isEmpty())
+        result.notes << QStringLiteral("its editors print %1 lines").arg(lines.size());
+    // The last ones say most about a crash.
+    constexpr int most = 5;
+    result.output = lines.mid(qMax(0, lines.size() - most));
     return result;
 }
 
 int runAsChild(Check const& check, Subject const& subject, QString const& findingsFile) {
-    // Its crash is told; nobody needs its memory.
+    // The parent reports a crash; a core file is not needed.
     rlimit const none{0, 0};
     setrlimit(RLIMIT_CORE, &none);
     int const descriptor = open(QFile::encodeName(findingsFile).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
@@ -112,9 +116,9 @@ int runAsChild(Check const& check, Subject const& subject, QString const& findin
     Findings findings(descriptor);
     caught(findings, [&] { check.run(subject, findings); });
     char const end[] = {endMark, '\n'};
-    bool const told = write(descriptor, end, sizeof end) == sizeof end;
+    bool const isWritten = write(descriptor, end, sizeof end) == sizeof end;
     close(descriptor);
-    return told && findings.faults().empty() ? 0 : 1;
+    return isWritten && findings.faults().empty() ? 0 : 1;
 }
 
 } // namespace Checker

@@ -17,9 +17,9 @@ void understandAll(Subject const& subject, Findings& findings) {
 void keep(EditorContract::Check const& check, Subject const& subject, Findings& findings) {
     LoadedPlugin plugin(subject.file, findings);
     plugin.forEachEditor([&](Kolt::InputRegistry::Entry const& entry) {
-        // The check before tells what is wrong with the description.
-        Findings told;
-        auto const editor = unknownEditor(entry, told);
+        // The check "shown" reports what is wrong with the description.
+        Findings ignored;
+        auto const editor = unknownEditor(entry, ignored);
         if (!editor.makeValue || !EditorContract::concerns(check, editor))
             return;
         EditorContract contract(editor, {}, findings);

@@ -2,6 +2,7 @@
 #include <checker/ChosenPools.hpp>
 #include <checker/LoadedPlugin.hpp>
 #include <checker/SampleValues.hpp>
+#include <checker/StrangeValue.hpp>
 #include <QApplication>
 #include <QWidget>
 #include <sorrel/InputFrontEnd.hpp>
@@ -71,11 +72,6 @@ std::function<void(Subject const&, Findings&)> opened(Make const& make) {
     };
 }
 
-/// A type of values that no editor supports.
-struct StrangeValue {
-    bool operator==(StrangeValue const&) const { return true; }
-};
-
 Opening strangeValue(Entry const& entry) {
     return {Kolt::ParameterPtr(
         new Kolt::VParameter("object.parameter", Kolt::makeValue(StrangeValue()), Values::Shared, entry.valueType))};
@@ -89,7 +85,7 @@ Opening hostileProperties(Entry const& entry) {
     auto const set = [&](char const* name, Kolt::ValuePtr const& value) {
         parameter->setProperty(name, value, nullptr, nullptr, nullptr);
     };
-    auto const long_ = std::string(100000, 'x');
+    std::string const longText(100000, 'x');
     set("min", Kolt::makeValue(std::string("least")));
     set("max", Kolt::makeValue(-5));
     set("increment", Kolt::makeValue(0.0));
@@ -97,7 +93,7 @@ Opening hostileProperties(Entry const& entry) {
     set("wrap", Kolt::makeValue(0));
     set("inputmask", Kolt::makeValue(std::string("\\\\9;;")));
     set("icon", Kolt::makeValue(std::string("/dev/zero")));
-    set("tooltip", Kolt::makeValue(long_));
+    set("tooltip", Kolt::makeValue(longText));
     set("Extension", Kolt::makeValue(std::string("(((")));
     set("unit", Kolt::makeValue(StrangeValue()));
     set("", Kolt::makeValue(true));

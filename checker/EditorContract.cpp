@@ -1,6 +1,7 @@
 #include <checker/EditorContract.hpp>
 
 #include <algorithm>
+#include <checker/StrangeValue.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <QCoreApplication>
 #include <QEvent>
@@ -12,11 +13,6 @@ namespace {
 
 using Values = Kolt::VParameter::Values;
 using Kolt::ParameterPtr;
-
-/// A type of values that no editor supports.
-struct UnknownValue {
-    bool operator==(UnknownValue const&) const { return true; }
-};
 
 } // namespace
 
@@ -80,8 +76,8 @@ std::vector<EditorContract::Check> const& EditorContract::checks() {
          &C::aParameterThatWentIsReportedOnceForEachEdit},
         {"AnEditIsStoredNotifiedOnceAndStamped", "An edit is stored, notified once, and marks the value as changed.",
          For::Writing, &C::anEditIsStoredNotifiedOnceAndStamped},
-        {"AnEditIsToldAsTheEditorsOwn", "An edit names its editor as the source, which is not notified itself.",
-         For::Writing, &C::anEditIsToldAsTheEditorsOwn},
+        {"AnEditNamesItsEditor", "An edit names its editor as the source, which is not notified itself.", For::Writing,
+         &C::anEditNamesItsEditor},
         {"TwoEditorsFollowEachOtherWithoutAnEcho", "Two editors of one parameter follow each other without an echo.",
          For::Writing, &C::twoEditorsFollowEachOtherWithoutAnEcho},
         {"AnEditReachesItsPoolAlone", "An edit changes the value of its pool alone.", For::Writing,
@@ -244,7 +240,7 @@ void EditorContract::aValueOfAnotherTypeIsIgnored() {
     auto const input = editor.input.strong();
     if (!findings_.expect(bool(input), "the editor has no input"))
         return;
-    input->onValueChange(Kolt::makeValue(UnknownValue()), Kolt::VContext(firstPool_, nullptr), nullptr);
+    input->onValueChange(Kolt::makeValue(StrangeValue()), Kolt::VContext(firstPool_, nullptr), nullptr);
     expectShown(editor, *case_.makeValue(1), "after a notification with a value of another type");
     input->onValueChange(nullptr, Kolt::VContext(nullptr), nullptr);
     expectShown(editor, *case_.makeValue(1), "after a notification without a value");
@@ -253,7 +249,7 @@ void EditorContract::aValueOfAnotherTypeIsIgnored() {
 }
 
 void EditorContract::aParameterWithAValueOfAnotherTypeOpens() {
-    auto const parameter = parameterWith(Kolt::makeValue(UnknownValue()), Values::Shared);
+    auto const parameter = parameterWith(Kolt::makeValue(StrangeValue()), Values::Shared);
     auto const editor = open(parameter);
     if (!editor.widget)
         return;
@@ -263,7 +259,7 @@ void EditorContract::aParameterWithAValueOfAnotherTypeOpens() {
     if (case_.edit)
         edit(editor);
     expectUntouched(*parameter, "though it is of another type");
-    findings_.expect(dynamic_cast<Kolt::VValue<UnknownValue>*>(parameter->ownValue().get()) != nullptr,
+    findings_.expect(dynamic_cast<Kolt::VValue<StrangeValue>*>(parameter->ownValue().get()) != nullptr,
                      "the value of another type was replaced");
     expectSilence("for a value of another type");
 }

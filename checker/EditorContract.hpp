@@ -57,7 +57,7 @@ private:
     void withoutAPoolSourceNothingIsWritten();
     void aParameterThatWentIsReportedOnceForEachEdit();
     void anEditIsStoredNotifiedOnceAndStamped();
-    void anEditIsToldAsTheEditorsOwn();
+    void anEditNamesItsEditor();
     void twoEditorsFollowEachOtherWithoutAnEcho();
     void anEditReachesItsPoolAlone();
     void theParameterMayDieInsideTheNotificationOfAnEdit();

@@ -78,7 +78,7 @@ void EditorContract::anEditIsStoredNotifiedOnceAndStamped() {
         findings_.expectEqual(joined(warnings_.texts), "", "the text of the warnings of an edit");
 }
 
-void EditorContract::anEditIsToldAsTheEditorsOwn() {
+void EditorContract::anEditNamesItsEditor() {
     Kolt::UndoHistory history;
     auto const parameter = parameterWith(0);
     parameter->setHistory(&history);

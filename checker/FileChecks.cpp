@@ -1,4 +1,5 @@
 #include <checker/Check.hpp>
+#include <dlfcn.h>
 #include <lattice/ElfFile.hpp>
 #include <lattice/PluginFile.hpp>
 #include <lattice/PluginLoader.hpp>
@@ -41,12 +42,21 @@ void hasNoUniqueSymbol(Subject const& subject, Findings& findings) {
     });
 }
 
+void findsEverySymbol(Subject const& subject, Findings& findings) {
+    auto const path = Kolt::PluginFile::canonicalPath(subject.file);
+    // All symbols are looked up at once.
+    void* const handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (findings.expect(handle != nullptr, handle ? "" : dlerror()))
+        dlclose(handle);
+}
+
 } // namespace
 
 void addFileChecks(std::vector<Check>& checks) {
     checks.push_back(
         {1, "file", "It is a plug-in for this machine and host, with one export of the right name.", canBeLoaded});
     checks.push_back({1, "hidden", "Nothing but the export can be seen by others.", hidesTheRest});
+    checks.push_back({1, "resolved", "The libraries that it names define all that it needs.", findsEverySymbol});
     checks.push_back({1, "unique", "It has no symbol that keeps it loaded.", hasNoUniqueSymbol});
 }
 

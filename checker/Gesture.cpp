@@ -1,13 +1,13 @@
 #include <checker/Gesture.hpp>
 
 #include <checker/DialogCloser.hpp>
+#include <checker/WheelTurn.hpp>
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QInputMethodEvent>
 #include <QTest>
-#include <QWheelEvent>
 
 namespace Checker {
 
@@ -15,13 +15,6 @@ namespace {
 
 std::function<void(QWidget&)> key(Qt::Key which) {
     return [which](QWidget& widget) { QTest::keyClick(&widget, which); };
-}
-
-void turnWheel(QWidget& widget) {
-    QPointF const place = widget.rect().center();
-    QWheelEvent event(place, widget.mapToGlobal(place.toPoint()), QPoint(), QPoint(0, 120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &event);
 }
 
 /// Chooses another entry of a list.
@@ -81,7 +74,7 @@ std::vector<Gesture> gesturesFor(QWidget& editor) {
         {0, "typing", key(Qt::Key_5)},
         {0, "typing and leaving", typeAndLeave},
         {0, "typing and Return", typeAndReturn},
-        {0, "the wheel", turnWheel},
+        {0, "the wheel", [](QWidget& widget) { turnWheel(widget, 1); }},
         {0, "a click", [](QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }},
         {0, "the Right key", key(Qt::Key_Right)}};
     std::vector<Gesture> all{{0, "another choice", chooseAnother}};

@@ -1,6 +1,6 @@
 #include <checker/Check.hpp>
-#include <checker/HeapInUse.hpp>
 #include <checker/LoadedPlugin.hpp>
+#include <checker/ProcessCounts.hpp>
 #include <dlfcn.h>
 #include <filesystem>
 #include <lattice/HostObserver.hpp>
@@ -63,14 +63,6 @@ void isUnmappedAfterwards(Subject const& subject, Findings& findings) {
     findings.expect(!isMapped(subject.file), "the file is still in memory after it was unloaded");
 }
 
-std::size_t entriesOf(char const* folder) {
-    std::size_t count = 0;
-    std::error_code ignored;
-    for ([[maybe_unused]] auto const& entry : std::filesystem::directory_iterator(folder, ignored))
-        ++count;
-    return count;
-}
-
 void loadsAThousandTimes(Subject const& subject, Findings& findings) {
     constexpr int times = 1000;
     auto const once = [&] {
@@ -82,14 +74,14 @@ void loadsAThousandTimes(Subject const& subject, Findings& findings) {
     for (int time = 0; time < times / 10; ++time)
         if (!once())
             return;
-    auto const descriptors = entriesOf("/proc/self/fd");
-    auto const threads = entriesOf("/proc/self/task");
+    auto const descriptors = openFileCount();
+    auto const threads = threadCount();
     auto const memory = heapInUse();
     for (int time = times / 10; time < times; ++time)
         if (!once())
             return;
-    findings.expectEqual(entriesOf("/proc/self/fd"), descriptors, "the number of open files after a thousand loads");
-    findings.expectEqual(entriesOf("/proc/self/task"), threads, "the number of threads after a thousand loads");
+    findings.expectEqual(openFileCount(), descriptors, "the number of open files after a thousand loads");
+    findings.expectEqual(threadCount(), threads, "the number of threads after a thousand loads");
     // A kilobyte for each load.
     auto const now = heapInUse();
     auto const kilobytes = now > memory ? (now - memory) / 1024 : 0;
@@ -117,7 +109,7 @@ void registrationsAreAccepted(Subject const& subject, Findings& findings) {
         findings.fault("the host warns while it loads: " + warning);
 }
 
-void everythingIsTakenBack(Subject const& subject, Findings& findings) {
+void unregistersEverything(Subject const& subject, Findings& findings) {
     LoadedPlugin plugin(subject.file, findings);
     plugin.warnings().texts.clear();
     plugin.unload();
@@ -137,7 +129,8 @@ void addLoadChecks(std::vector<Check>& checks) {
     checks.push_back(
         {3, "creators", "Each creator has a name, the host's key, \"QT\", and makes Qt widgets.", creatorsAreComplete});
     checks.push_back({3, "registered", "The host accepts all that is registered.", registrationsAreAccepted});
-    checks.push_back({3, "taken-back", "All that was registered is taken back.", everythingIsTakenBack});
+    checks.push_back(
+        {3, "unregistered", "All that was registered is unregistered at unloading.", unregistersEverything});
     checks.push_back(
         {4, "thousand", "It loads and unloads a thousand times, and leaves nothing behind.", loadsAThousandTimes});
 }

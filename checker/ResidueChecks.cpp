@@ -1,27 +1,16 @@
 #include <checker/Check.hpp>
 #include <checker/LoadedPlugin.hpp>
+#include <checker/ProcessCounts.hpp>
 #include <checker/UnknownEditor.hpp>
 #include <clocale>
-#include <cstdio>
-#include <filesystem>
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QLocale>
-#include <QTemporaryFile>
 #include <QWidget>
-#include <unistd.h>
 
 namespace Checker {
 
 namespace {
-
-std::size_t threadCount() {
-    std::size_t count = 0;
-    std::error_code ignored;
-    for ([[maybe_unused]] auto const& entry : std::filesystem::directory_iterator("/proc/self/task", ignored))
-        ++count;
-    return count;
-}
 
 std::size_t timerCount() {
     auto* const dispatcher = QAbstractEventDispatcher::instance();
@@ -34,8 +23,8 @@ std::size_t timerCount() {
 /// Opens, edits and closes every editor.
 void work(LoadedPlugin& plugin) {
     plugin.forEachEditor([](Kolt::InputRegistry::Entry const& entry) {
-        Findings told;
-        (void)unknownEditor(entry, told);
+        Findings ignored;
+        (void)unknownEditor(entry, ignored);
     });
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
@@ -57,40 +46,10 @@ std::string locales() {
     return std::string(std::setlocale(LC_ALL, nullptr)) + ' ' + QLocale().name().toStdString();
 }
 
-/// Directs standard output into a file as long as it lives.
-class CapturedOutput {
-public:
-    CapturedOutput() : real_(dup(STDOUT_FILENO)) {
-        std::fflush(stdout);
-        if (file_.open())
-            dup2(file_.handle(), STDOUT_FILENO);
-    }
-    ~CapturedOutput() {
-        std::fflush(stdout);
-        dup2(real_, STDOUT_FILENO);
-        close(real_);
-    }
-    CapturedOutput(CapturedOutput const&) = delete;
-    CapturedOutput& operator=(CapturedOutput const&) = delete;
-
-    int lines() {
-        std::fflush(stdout);
-        file_.seek(0);
-        return file_.readAll().count('\n');
-    }
-
-private:
-    QTemporaryFile file_;
-    int const real_;
-};
-
-void noteOutput(Subject const& subject, Findings& findings) {
+/// What is printed meanwhile is counted by the parent process.
+void onlyWork(Subject const& subject, Findings& findings) {
     LoadedPlugin plugin(subject.file, findings);
-    CapturedOutput output;
     work(plugin);
-    int const lines = output.lines();
-    if (lines > 0)
-        findings.note("its editors print " + std::to_string(lines) + " lines on standard output");
 }
 
 } // namespace
@@ -103,7 +62,7 @@ void addResidueChecks(std::vector<Check>& checks) {
                       unchanged("the number of timers of the application", timerCount)});
     checks.push_back({7, "left.threads", "No thread is left.", unchanged("the number of threads", threadCount)});
     checks.push_back({7, "left.locale", "The locale is not changed.", unchanged("the locale", locales)});
-    checks.push_back({7, "output", "What is printed on standard output is noted.", noteOutput});
+    checks.push_back({7, "output", "What its editors print is noted.", onlyWork, Check::Output::Noted});
     checks.push_back({7, "left.style", "Style, palette and font of the program are not changed.",
                       unchanged("the style sheet and font", [] {
                           return (qApp->styleSheet() + ' ' + QApplication::font().toString()).toStdString();

@@ -39,14 +39,14 @@ public:
     }
 
     QWidget* widget() const { return editor_.widget; }
-    /// What the gesture does to the value: nothing, it is written, or only told.
-    enum class Effect { None, Told, Written };
+    /// What the gesture does to the value: nothing, a new value, or only a notification.
+    enum class Effect { None, Notified, Written };
     Effect effectOf(Gesture const& gesture) {
         auto const before = parameter_->ownValue()->Text();
         perform(gesture, *editor_.widget);
         if (parameter_->ownValue()->Text() != before)
             return Effect::Written;
-        return recorder_.values.empty() ? Effect::None : Effect::Told;
+        return recorder_.values.empty() ? Effect::None : Effect::Notified;
     }
 
 private:
@@ -57,7 +57,7 @@ private:
     Kolt::Editor editor_;
 };
 
-/// The first gesture that changes each of the three values; else one that tells something. Empty for a display.
+/// The first gesture that changes each of the three values; else one that notifies. Empty for a display.
 struct FoundEdit {
     std::optional<Gesture> gesture;
     bool writes = false;
@@ -72,7 +72,7 @@ FoundEdit findEdit(Kolt::InputRegistry::Entry const& entry, ValueMaker const& ma
             Trial trial(entry, make(n));
             auto const effect = trial.widget() ? trial.effectOf(gesture) : Trial::Effect::None;
             written += effect == Trial::Effect::Written ? 1 : 0;
-            if (effect == Trial::Effect::Told && !found.gesture)
+            if (effect == Trial::Effect::Notified && !found.gesture)
                 found = {gesture, false};
             if (effect == Trial::Effect::None)
                 break;

@@ -20,10 +20,12 @@ void print(std::FILE* stream, QByteArray const& text) {
 /// Loads and unloads the file, for a host that wants to know whether that can be survived.
 int loadQuickly(CommandLine const& line) {
     Findings findings;
+    // Without this line the checker itself did not start, and nothing is known of the file.
+    print(stdout, "talo_check: begin\n");
     { LoadedPlugin const plugin(line.subject.file, findings); }
     for (auto const& fault : findings.faults())
         print(stderr, QByteArray::fromStdString(fault + '\n'));
-    // Whoever reads this knows that the file has not ended the program.
+    // Without this line the file has ended the process.
     print(stdout, "talo_check: done\n");
     return findings.faults().empty() ? 0 : 1;
 }

@@ -40,35 +40,49 @@ QString PluginTrial::problemOf(QString const& file) {
         return {};
     auto const state = stateOf(info);
     auto const key = keyOf(info.filePath());
-    // The state, and the problem at its end.
+    // The state, and the verdict at its end.
     auto kept = kept_.value(key).toStringList();
     if (kept.size() != state.size() + 1 || kept.mid(0, state.size()) != state) {
         kept = state + QStringList{tried(info.filePath())};
         kept_.setValue(key, kept);
     }
-    return kept.last().isEmpty()
-               ? QString()
-               : tr("The plug-in %1 was not loaded, because it would end this program: %2").arg(file, kept.last());
+    return sentence(file, kept.last());
+}
+
+QString PluginTrial::sentence(QString const& file, QString const& verdict) const {
+    if (verdict.isEmpty())
+        return {};
+    if (verdict == QLatin1String("hang"))
+        return tr("The plug-in %1 was not loaded, because loading it takes more than %2 seconds.")
+            .arg(file)
+            .arg(seconds_);
+    if (verdict == QLatin1String("end"))
+        return tr("The plug-in %1 was not loaded, because it ends the program while it is loaded.").arg(file);
+    int const signal = verdict.section(QLatin1Char(' '), 1).toInt();
+    return tr("The plug-in %1 was not loaded, because it crashes while it is loaded (%2).")
+        .arg(file, QString::fromLocal8Bit(strsignal(signal)));
 }
 
 QString PluginTrial::tried(QString const& path) const {
     QProcess process;
     process.setStandardErrorFile(QProcess::nullDevice());
     process.start(checker_, {QStringLiteral("--quick"), QStringLiteral("--"), path});
-    // Without the checker nothing is known against the file.
     if (!process.waitForStarted())
         return {};
-    if (!process.waitForFinished(seconds_ * 1000)) {
+    bool const inTime = process.waitForFinished(seconds_ * 1000);
+    if (!inTime) {
         process.kill();
         process.waitForFinished();
-        return tr("loading it takes more than %1 seconds.").arg(seconds_);
     }
+    auto const lines = process.readAllStandardOutput();
+    // A checker that does not start, as without one of its libraries, says nothing against the file.
+    if (!lines.startsWith("talo_check: begin\n"))
+        return {};
+    if (!inTime)
+        return QStringLiteral("hang");
     if (process.exitStatus() == QProcess::CrashExit)
-        return tr("it crashes while it is loaded (%1).").arg(QString::fromLocal8Bit(strsignal(process.exitCode())));
-    // The checker says in its last line that it came to its end.
-    if (!process.readAllStandardOutput().endsWith("talo_check: done\n"))
-        return tr("it ends the program while it is loaded.");
-    return {};
+        return QStringLiteral("crash %1").arg(process.exitCode());
+    return lines.endsWith("talo_check: done\n") ? QString() : QStringLiteral("end");
 }
 
 } // namespace Panel

@@ -28,7 +28,10 @@ public:
     QString problemOf(QString const& file);
 
 private:
+    // What came of a trial, in a form that can be kept: empty if the file does no harm, "hang", "end", or "crash" and
+    // the number of the signal.
     QString tried(QString const& path) const;
+    QString sentence(QString const& file, QString const& verdict) const;
 
     QString const checker_;
     QSettings kept_;

@@ -1,9 +1,9 @@
 #include <lattice/PluginLoader.hpp>
 
 #include <algorithm>
-#include <exception>
 #include <filesystem>
 #include <lattice/ActionNotifier.hpp>
+#include <lattice/InputFaults.hpp>
 #include <lattice/PluginFile.hpp>
 #include <lattice/PluginRemains.hpp>
 #include <lattice/PluginUses.hpp>
@@ -30,10 +30,8 @@ std::string callExport(void* entry, VInitialization& host) {
         if (reinterpret_cast<Export>(entry)(&host))
             return {};
         return std::string("says that it is not compatible with this host (") + VInitialization::apiKey() + ").";
-    } catch (std::exception const& exception) {
-        return "ended with an exception: " + std::string(exception.what());
     } catch (...) {
-        return "ended with an exception of unknown type.";
+        return InputFaults::describeCurrent();
     }
 }
 

@@ -42,7 +42,7 @@ public:
     /// still one of files() then.
     ///
     /// The records that the file gave to undo histories are forgotten in all of them (UndoHistory::forgetEverywhere),
-    /// as their code is unloaded. What a file has registered and does not take back is removed, with a warning
+    /// as their code is unloaded. What a file has registered and does not unregister is removed, with a warning
     /// (VActionNotifier::Warning).
     Outcome unload(std::string const& file);
     /// Succeeds if no code of the loaded files is running on this thread, as it must be to unload all of them. A host

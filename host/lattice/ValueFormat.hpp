@@ -9,7 +9,7 @@
 namespace Kolt {
 
 /// How files write the values of one type, and the key that names the type in them: "vector3" in
-/// {"type": "vector3", "value": "1 2 3"}. The constructor registers the format, the destructor takes it back; usually
+/// {"type": "vector3", "value": "1 2 3"}. The constructor registers the format, the destructor unregisters it; usually
 /// it is a static object of the program or plug-in that defines the type. It is not copied.
 ///
 /// A format is refused, with a warning (VActionNotifier::Warning), if its key is empty or taken, or if the type has a
@@ -52,8 +52,8 @@ public:
     static VValueFormat const* ofType(std::string const& typeName);
     /// All registered formats, in order of registration.
     static std::vector<VValueFormat const*> all();
-    /// Takes back a format that was not destroyed, as one that a plug-in left behind; the object is not used and may be
-    /// gone by then. Whether it was registered.
+    /// Unregisters a format that was not destroyed, as one that a plug-in left behind; the object is not used and may
+    /// be gone by then. Whether it was registered.
     static bool unregister(VValueFormat const* format);
 
 private:

@@ -68,7 +68,7 @@ bool writeCurrentValue(VInputBase& input, ValuePoolSource const* poolSource) {
 /// What a creator made for the parent: a widget, and its input.
 using MadeWidget = std::pair<QPointer<QWidget>, InputRef>;
 
-/// Lets the creator make the widget. An exception is told; nothing is made then.
+/// Calls the creator. If it throws, `fault` says so, and the result is empty.
 MadeWidget make(QInputCreator& widgets, ParameterPtr const& parameter, QWidget* parent, ValuePoolSource* poolSource,
                 std::string& fault) {
     try {

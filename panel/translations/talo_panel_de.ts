@@ -1320,20 +1320,16 @@ Trotzdem laden? Ungespeicherte Werte können verloren gehen.</translation>
 <context>
     <name>PluginTrial</name>
     <message>
-        <source>The plug-in %1 was not loaded, because it would end this program: %2</source>
-        <translation>Das Plug-in %1 wurde nicht geladen, weil es dieses Programm beenden würde: %2</translation>
+        <source>The plug-in %1 was not loaded, because loading it takes more than %2 seconds.</source>
+        <translation>Das Plug-in %1 wurde nicht geladen, weil das Laden länger als %2 Sekunden dauert.</translation>
     </message>
     <message>
-        <source>loading it takes more than %1 seconds.</source>
-        <translation>das Laden dauert länger als %1 Sekunden.</translation>
+        <source>The plug-in %1 was not loaded, because it ends the program while it is loaded.</source>
+        <translation>Das Plug-in %1 wurde nicht geladen, weil es das Programm beim Laden beendet.</translation>
     </message>
     <message>
-        <source>it crashes while it is loaded (%1).</source>
-        <translation>es stürzt beim Laden ab (%1).</translation>
-    </message>
-    <message>
-        <source>it ends the program while it is loaded.</source>
-        <translation>es beendet das Programm beim Laden.</translation>
+        <source>The plug-in %1 was not loaded, because it crashes while it is loaded (%2).</source>
+        <translation>Das Plug-in %1 wurde nicht geladen, weil es beim Laden abstürzt (%2).</translation>
     </message>
 </context>
 <context>

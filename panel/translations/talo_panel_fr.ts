@@ -1320,20 +1320,16 @@ Le charger quand même ? Des valeurs non enregistrées peuvent être perdues.</t
 <context>
     <name>PluginTrial</name>
     <message>
-        <source>The plug-in %1 was not loaded, because it would end this program: %2</source>
-        <translation>Le greffon %1 n’a pas été chargé, car il mettrait fin à ce programme : %2</translation>
+        <source>The plug-in %1 was not loaded, because loading it takes more than %2 seconds.</source>
+        <translation>Le greffon %1 n’a pas été chargé, car son chargement dure plus de %2 secondes.</translation>
     </message>
     <message>
-        <source>loading it takes more than %1 seconds.</source>
-        <translation>son chargement dure plus de %1 secondes.</translation>
+        <source>The plug-in %1 was not loaded, because it ends the program while it is loaded.</source>
+        <translation>Le greffon %1 n’a pas été chargé, car il met fin au programme pendant son chargement.</translation>
     </message>
     <message>
-        <source>it crashes while it is loaded (%1).</source>
-        <translation>il plante pendant son chargement (%1).</translation>
-    </message>
-    <message>
-        <source>it ends the program while it is loaded.</source>
-        <translation>il met fin au programme pendant son chargement.</translation>
+        <source>The plug-in %1 was not loaded, because it crashes while it is loaded (%2).</source>
+        <translation>Le greffon %1 n’a pas été chargé, car il plante pendant son chargement (%2).</translation>
     </message>
 </context>
 <context>

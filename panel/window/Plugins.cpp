@@ -25,12 +25,8 @@ Plugins::Plugins(QObject* parent) : QObject(parent), loader_(host_) {}
 Plugins::~Plugins() = default;
 
 bool Plugins::load(QString const& file, QString* error, Trust trust) {
-    auto const problem = trust == Trust::Tried ? problemOf(file) : QString();
-    if (!problem.isEmpty()) {
-        if (error)
-            *error = problem;
+    if (trust == Trust::Tried && !passesTrial(file, error))
         return false;
-    }
     emit aboutToChange();
     bool const loaded = loadFile(file, error);
     if (loaded && !knownFiles_.contains(file))
@@ -55,8 +51,9 @@ bool Plugins::reload(QString* error) {
     bool reloaded = unloadFiles(error);
     auto const loaded = loadedFiles();
     for (auto const& file : std::as_const(knownFiles_)) {
+        // It may have been built again meanwhile.
         if (!loaded.contains(file))
-            reloaded = loadFile(file, error) && reloaded;
+            reloaded = passesTrial(file, error) && loadFile(file, error) && reloaded;
     }
     emit changed();
     return reloaded;
@@ -75,6 +72,13 @@ QStringList Plugins::loadedFiles() const {
     for (auto const& file : loader_.files())
         files << QString::fromStdString(file);
     return files;
+}
+
+bool Plugins::passesTrial(QString const& file, QString* error) const {
+    auto const problem = problemOf(file);
+    if (!problem.isEmpty())
+        append(error, problem.toStdString());
+    return problem.isEmpty();
 }
 
 bool Plugins::loadFile(QString const& file, QString* error) {

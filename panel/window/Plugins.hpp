@@ -24,7 +24,7 @@ public:
 
     /// Why a file must not be loaded, a sentence; empty if nothing is known against it.
     using Trial = std::function<QString(QString const& file)>;
-    /// Sets what is asked before a file is loaded; nothing is asked at first.
+    /// Sets what is asked before a file is loaded or reloaded; nothing is asked at first.
     void setTrial(Trial trial) { trial_ = std::move(trial); }
     /// Why the trial is against a file; empty if it is not.
     QString problemOf(QString const& file) const { return trial_ ? trial_(file) : QString(); }
@@ -56,6 +56,7 @@ signals:
 private:
     // Whether no code of the files is running.
     bool isIdle(QString* error) const;
+    bool passesTrial(QString const& file, QString* error) const;
     bool loadFile(QString const& file, QString* error);
     bool unloadFiles(QString* error);
 

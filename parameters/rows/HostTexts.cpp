@@ -56,8 +56,6 @@ constexpr HostSentence hostSentences[] = {
     {"The plug-in (.+) was built for another interface of the host \\((.+), not (.+)\\)\\. Build it again\\.",
      QT_TRANSLATE_NOOP("HostTexts", "The plug-in %1 was built for another interface of the host (%2, not %3). "
                                     "Build it again.")},
-    {"The plug-in (.+) ended with an exception of unknown type\\.",
-     QT_TRANSLATE_NOOP("HostTexts", "The plug-in %1 ended with an exception of unknown type.")},
     {"The plug-in (.+) ended with an exception: (.+)",
      QT_TRANSLATE_NOOP("HostTexts", "The plug-in %1 ended with an exception: %2")},
     {"The plug-in (.+) cannot be unloaded while its own code is running\\.",

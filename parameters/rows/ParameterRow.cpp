@@ -6,6 +6,7 @@
 #include <parameters/rows/MutedLabel.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/RefusedNumber.hpp>
+#include <parameters/rows/RowFaults.hpp>
 #include <parameters/rows/RowFit.hpp>
 #include <parameters/rows/RowTexts.hpp>
 #include <parameters/rows/UnenteredMark.hpp>
@@ -16,7 +17,6 @@
 #include <QMenu>
 #include <QThread>
 #include <QToolTip>
-#include <sorrel/EditorFaults.hpp>
 #include <sorrel/QLeaveLineEdit.hpp>
 
 namespace Talo {
@@ -29,16 +29,6 @@ constexpr int highestCentredEditor = 100;
 // Shares of what a form has to spare: the unit stays behind an editor that cannot grow, and leaves the room to others.
 constexpr int editorShare = 1000;
 constexpr int unitShare = 1;
-
-/// From the first row on, the row of an editor that had a fault shows it.
-void followFaults() {
-    auto& faults = Kolt::EditorFaults::theFaults();
-    static auto const connection =
-        QObject::connect(&faults, &Kolt::EditorFaults::failed, &faults, [](QWidget* editor, QString const& sentence) {
-            if (auto* const row = ParameterRow::rowOf(editor))
-                row->showFault(sentence);
-        });
-}
 
 } // namespace
 
@@ -89,7 +79,7 @@ void ParameterRow::showFault(QString const& sentence) {
 
 void ParameterRow::openEditor() {
     isOpen_ = true;
-    followFaults();
+    showFaultsInRows();
     if (cell_.widget() || cover_)
         return;
     auto const parameter = parameter_.strong();

@@ -126,10 +126,6 @@
         <translation>Das Plug-in %1 wurde für eine andere Schnittstelle des Programms gebaut (%2 statt %3). Es muss neu gebaut werden.</translation>
     </message>
     <message>
-        <source>The plug-in %1 ended with an exception of unknown type.</source>
-        <translation>Das Plug-in %1 endete mit einer Ausnahme unbekannter Art.</translation>
-    </message>
-    <message>
         <source>The plug-in %1 ended with an exception: %2</source>
         <translation>Das Plug-in %1 endete mit einer Ausnahme: %2</translation>
     </message>

@@ -126,10 +126,6 @@
         <translation>Le plug-in %1 a été construit pour une autre interface du programme (%2 au lieu de %3). Il doit être reconstruit.</translation>
     </message>
     <message>
-        <source>The plug-in %1 ended with an exception of unknown type.</source>
-        <translation>Le plug-in %1 s&apos;est terminé par une exception de type inconnu.</translation>
-    </message>
-    <message>
         <source>The plug-in %1 ended with an exception: %2</source>
         <translation>Le plug-in %1 s&apos;est terminé par une exception : %2</translation>
     </message>

@@ -1,4 +1,4 @@
-// Editors of plug-ins that do not keep to the rules: each is told, the rest of the panel goes on.
+// Editors of plug-ins that break the rules: the host warns, and the rest of the panel works on.
 
 #include "parameters/FormTest.hpp"
 #include "support/FreshHome.hpp"

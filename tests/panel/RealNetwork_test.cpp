@@ -3,7 +3,7 @@
 
 #include "support/TaloTest.hpp"
 
-#include <checker/HeapInUse.hpp>
+#include <checker/ProcessCounts.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <QProcess>
 #include <QScrollBar>

@@ -97,7 +97,7 @@ TEST_F(HostTextsTest, WhatABadPluginDidIsTranslated) {
         return "<The plug-in " TALO_BAD_PLUGINS + name + ".talo " + end + ">";
     };
     EXPECT_EQ(refusal("throws"), expected("throws", "ended with an exception: there is no licence"));
-    EXPECT_EQ(refusal("throws_a_number"), expected("throws_a_number", "ended with an exception of unknown type."));
+    EXPECT_EQ(refusal("throws_a_number"), expected("throws_a_number", "ended with an exception: its type is unknown"));
     EXPECT_EQ(refusal("without_stamp"),
               expected("without_stamp", "does not say for which interface of the host it was built."));
     ASSERT_EQ(refusal("leaves_observer"), "");

@@ -1,4 +1,4 @@
-// Never takes back how files write its own type.
+// Never unregisters the format of its own type.
 #include <lattice/Initialization.hpp>
 #include <lattice/ValueFormat.hpp>
 #include <tessera/NoDestructor.hpp>

@@ -1,4 +1,4 @@
-// It throws when it is told of a change to a number that it does not like.
+// It throws when it is notified of the value 40.
 
 #include "PlainEditor.hpp"
 #include <stdexcept>

@@ -1,4 +1,4 @@
-// Compiled with many an expression that must be refused: a number or text of a kind that no value holds.
+// Compiled once for each expression that must not compile: a number or text of a kind that no value holds.
 
 #include <lattice/TypedParameter.hpp>
 #include <lattice/ValueFormat.hpp>

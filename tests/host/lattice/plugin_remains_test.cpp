@@ -1,4 +1,4 @@
-// What a plug-in leaves behind is removed and told.
+// What a plug-in leaves registered is removed, with a warning.
 
 #include "host/lattice/PluginLoaderTest.hpp"
 
@@ -20,7 +20,7 @@ TEST_F(PluginRemainders, OfAPluginWhoseExportThrowsAreRemoved) {
     EXPECT_FALSE(outcome.ok);
     EXPECT_EQ(outcome.message, "The plug-in " + file + " ended with an exception: there is no licence");
     EXPECT_EQ(loader_.load(badPlugin("throws_a_number")).message,
-              "The plug-in " + badPlugin("throws_a_number") + " ended with an exception of unknown type.");
+              "The plug-in " + badPlugin("throws_a_number") + " ended with an exception: its type is unknown");
     EXPECT_THAT(loader_.files(), IsEmpty());
     EXPECT_FALSE(isMapped(file));
     EXPECT_FALSE(isMapped(badPlugin("throws_a_number")));

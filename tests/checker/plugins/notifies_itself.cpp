@@ -1,4 +1,4 @@
-// It does not say that an edit is its own, so that it is notified of it.
+// It does not name itself as the source of an edit, so it is notified of its own edit.
 
 #include "PlainEditor.hpp"
 
@@ -16,4 +16,4 @@ public:
 
 } // namespace
 
-PLANT(Editor, tells_itself);
+PLANT(Editor, notifies_itself);

@@ -1,4 +1,4 @@
-// It stores an edit and tells nobody.
+// It stores an edit and notifies nobody.
 
 #include "PlainEditor.hpp"
 
@@ -19,4 +19,4 @@ public:
 
 } // namespace
 
-PLANT(Editor, tells_nobody);
+PLANT(Editor, notifies_nobody);
