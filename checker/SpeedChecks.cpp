@@ -3,6 +3,8 @@
 #include <checker/ChosenPools.hpp>
 #include <checker/LoadedPlugin.hpp>
 #include <checker/SampleValues.hpp>
+#include <cmath>
+#include <limits>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QHBoxLayout>
@@ -19,20 +21,29 @@ namespace {
 constexpr double creationLimit = 200;
 constexpr double changeLimit = 500;
 
+// In nanoseconds: what nobody notices is not too long, however quick the plainest editor is.
+constexpr qint64 unnoticed = 20'000'000;
+
 constexpr int rounds = 9;
 
-/// In nanoseconds, the median of several rounds.
+/// In nanoseconds, the shortest of several rounds: whatever else the machine does makes a round longer only.
 template <typename Function>
-double medianTime(Function const& function) {
-    std::vector<qint64> times;
+qint64 shortestTime(Function const& function) {
+    auto shortest = std::numeric_limits<qint64>::max();
     for (int round = 0; round < rounds; ++round) {
         QElapsedTimer time;
         time.start();
         function();
-        times.push_back(time.nsecsElapsed());
+        shortest = std::min(shortest, time.nsecsElapsed());
     }
-    std::nth_element(times.begin(), times.begin() + rounds / 2, times.end());
-    return static_cast<double>(times[rounds / 2]);
+    return shortest;
+}
+
+void compareTimes(qint64 ours, qint64 plain, double limit, char const* what, Findings& findings) {
+    auto const ratio = static_cast<double>(ours) / static_cast<double>(plain);
+    findings.expect(ours < unnoticed || ratio < limit,
+                    std::string(what) + " takes " + std::to_string(std::lround(ratio)) +
+                        " times as long as in the plainest editor, more than " + std::to_string(std::lround(limit)));
 }
 
 /// A line edit and a slider in a row.
@@ -55,11 +66,9 @@ void compareCreation(Kolt::InputRegistry::Entry const& entry, ValueMaker const& 
     pools.use(Kolt::PoolPtr(new Kolt::ValuePool("draft")));
     Kolt::ParameterPtr const parameter(
         new Kolt::VParameter("object.parameter", make(0), Kolt::VParameter::Values::Shared, entry.valueType));
-    auto const plain = medianTime([&] { PlainEditor const editor(&window); });
-    auto const ours = medianTime([&] { delete Kolt::makeEditor(parameter, &window, &pools, entry.creator).widget; });
-    findings.expect(ours < creationLimit * plain, "making it takes " + std::to_string(static_cast<long>(ours / plain)) +
-                                                      " times as long as the plainest editor, more than " +
-                                                      std::to_string(static_cast<long>(creationLimit)));
+    auto const plain = shortestTime([&] { PlainEditor const editor(&window); });
+    auto const ours = shortestTime([&] { delete Kolt::makeEditor(parameter, &window, &pools, entry.creator).widget; });
+    compareTimes(ours, plain, creationLimit, "making it", findings);
 }
 
 void compareChange(Kolt::InputRegistry::Entry const& entry, ValueMaker const& make, Findings& findings) {
@@ -72,16 +81,13 @@ void compareChange(Kolt::InputRegistry::Entry const& entry, ValueMaker const& ma
     auto const editor = Kolt::makeEditor(parameter, &window, &pools, entry.creator);
     PlainEditor plainEditor(&window);
     int next = 0;
-    auto const plain = medianTime([&] { plainEditor.showText(QString::number(++next)); });
-    auto const ours = medianTime([&] {
+    auto const plain = shortestTime([&] { plainEditor.showText(QString::number(++next)); });
+    auto const ours = shortestTime([&] {
         auto const& value = parameter->ownValue();
         value->assign(*make(++next % 3));
         parameter->notifyValueChange(value, pool, std::string(), nullptr, nullptr, nullptr);
     });
-    findings.expect(ours < changeLimit * plain, "showing a change takes " +
-                                                    std::to_string(static_cast<long>(ours / plain)) +
-                                                    " times as long as in the plainest editor, more than " +
-                                                    std::to_string(static_cast<long>(changeLimit)));
+    compareTimes(ours, plain, changeLimit, "showing a change", findings);
 }
 
 template <typename Compare>
