@@ -23,7 +23,8 @@ constexpr char endMark = 'E';
 /// What is in the file of the child: its findings. Returns whether it came to its end.
 bool readFindings(QFile& file, CheckResult& result) {
     bool ended = false;
-    for (auto const& line : file.readAll().split('\n')) {
+    auto const written = file.readAll().split('\n');
+    for (auto const& line : written) {
         auto const text = QString::fromUtf8(line.mid(2));
         if (line.startsWith('F'))
             result.faults << text;
@@ -36,8 +37,9 @@ bool readFindings(QFile& file, CheckResult& result) {
 }
 
 QStringList linesOf(QByteArray const& output) {
+    auto const printed = QString::fromUtf8(output).split('\n', Qt::SkipEmptyParts);
     QStringList lines;
-    for (auto const& line : QString::fromUtf8(output).split('\n', Qt::SkipEmptyParts))
+    for (auto const& line : printed)
         // These two come from Qt's platform without a display.
         if (!line.contains("propagateSizeHints") && !line.contains("XDG_RUNTIME_DIR"))
             lines << line;

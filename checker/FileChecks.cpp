@@ -46,8 +46,10 @@ void findsEverySymbol(Subject const& subject, Findings& findings) {
     auto const path = Kolt::PluginFile::canonicalPath(subject.file);
     // All symbols are looked up at once.
     void* const handle = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (findings.expect(handle != nullptr, handle ? "" : dlerror()))
+    if (handle)
         dlclose(handle);
+    else
+        findings.fault(dlerror());
 }
 
 } // namespace

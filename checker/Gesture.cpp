@@ -24,7 +24,8 @@ void stepTo(QWidget& list, int current, int count) {
 
 /// Makes another choice among buttons or entries, whatever is chosen.
 void chooseAnother(QWidget& editor) {
-    for (auto* const widget : workable(editor)) {
+    auto const widgets = workable(editor);
+    for (auto* const widget : widgets) {
         auto* const button = qobject_cast<QAbstractButton*>(widget);
         if (button && button->isCheckable() && !button->isChecked())
             return QTest::keyClick(button, Qt::Key_Space);
@@ -53,7 +54,8 @@ void typeAndReturn(QWidget& widget) {
 
 QWidgetList workable(QWidget& editor) {
     QWidgetList widgets{&editor};
-    for (auto* const child : editor.findChildren<QWidget*>())
+    auto const children = editor.findChildren<QWidget*>();
+    for (auto* const child : children)
         if (child->window() == editor.window() && child->isVisibleTo(&editor))
             widgets << child;
     return widgets;

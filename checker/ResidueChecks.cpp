@@ -15,7 +15,8 @@ namespace {
 std::size_t timerCount() {
     auto* const dispatcher = QAbstractEventDispatcher::instance();
     std::size_t count = static_cast<std::size_t>(dispatcher->registeredTimers(qApp).size());
-    for (auto* const object : qApp->findChildren<QObject*>())
+    auto const objects = qApp->findChildren<QObject*>();
+    for (auto* const object : objects)
         count += static_cast<std::size_t>(dispatcher->registeredTimers(object).size());
     return count;
 }
