@@ -30,7 +30,7 @@ public:
     QCommandLineOption const seed{"seed", "Draws the random events from this number, to replay a report.", "NUMBER"};
     QCommandLineOption const events{"events", "How many random events each editor gets; 200 by default.", "NUMBER"};
     QCommandLineOption const seconds{"seconds", "The time limit of each check; 60 by default.", "SECONDS"};
-    QCommandLineOption const format{"format", "How the report is written: text, json or junit.", "FORMAT"};
+    QCommandLineOption const format{"format", "How the report is written; text by default.", "text|json|junit"};
     QCommandLineOption const output{"output", "Writes the report into this file.", "FILE"};
     QCommandLineOption const quick{"quick", "Only loads and unloads the file, in this very process."};
     QCommandLineOption const list{"list", "Prints the checks and ends."};
@@ -78,13 +78,12 @@ CommandLine readCommandLine(QStringList const& arguments) {
         line.error = parser.errorText();
         return line;
     }
-    if (parser.isSet(options.help))
-        line.text = parser.helpText();
-    else if (parser.isSet(options.version))
+    line.help = parser.isSet(options.help);
+    if (parser.isSet(options.version))
         line.text = QStringLiteral("talo_check " TALO_VERSION "\n");
     else if (parser.isSet(options.list))
         line.text = listOfChecks();
-    if (!line.text.isEmpty())
+    if (line.help || !line.text.isEmpty())
         return line;
     auto const files = parser.positionalArguments();
     if (files.size() != 1)
@@ -106,6 +105,10 @@ CommandLine readCommandLine(QStringList const& arguments) {
     line.run = parser.value(options.run);
     line.findings = parser.value(options.findings);
     return line;
+}
+
+QString helpText() {
+    return Options().parser.helpText();
 }
 
 } // namespace Checker

@@ -12,7 +12,8 @@ struct CommandLine {
     enum class Format { Text, Json, JUnit };
 
     QString error;                ///< why the command line is wrong, a sentence; empty if it is not
-    QString text;                 ///< what is to be printed instead of checking (help, version); else empty
+    QString text;                 ///< what is to be printed instead of checking (version, list); else empty
+    bool help = false;            ///< whether the help is to be printed instead of checking
     Subject subject;              ///< what is checked
     QString only;                 ///< the one check that is made; empty for all
     int level = HighestLevel;     ///< checks above it are left out
@@ -26,5 +27,8 @@ struct CommandLine {
 
 /// Reads the arguments of the program, the first of which is its name.
 CommandLine readCommandLine(QStringList const& arguments);
+
+/// The text for `--help`. Needs the application object, which knows the name of the program.
+QString helpText();
 
 } // namespace Checker

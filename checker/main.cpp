@@ -84,6 +84,11 @@ int main(int count, char** arguments) {
         print(stderr, line.error.toLocal8Bit() + "\ntalo_check --help says more.\n");
         return 2;
     }
+    if (line.help) {
+        QCoreApplication const application(count, arguments);
+        print(stdout, helpText().toLocal8Bit());
+        return 0;
+    }
     if (!line.text.isEmpty()) {
         print(stdout, line.text.toLocal8Bit());
         return 0;

@@ -153,6 +153,15 @@ TEST_F(TaloCheck, AHangEndsAtTheTimeLimit) {
     EXPECT_EQ(run.faults(), QStringList{"load: it did not end within 1 seconds"});
 }
 
+TEST_F(TaloCheck, TheHelpNamesTheProgramAndItsOptions) {
+    auto const run = check({"--help"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_TRUE(run.output.startsWith("Usage: ")) << run.output.constData();
+    for (auto const* const word : {"talo_check [options] FILE.talo", "--level <N>", "--format <text|json|junit>"})
+        EXPECT_THAT(run.output.toStdString(), testing::HasSubstr(word));
+    EXPECT_EQ(run.errors.toStdString(), "");
+}
+
 TEST_F(TaloCheck, BadUseIsTold) {
     auto const good = planted("good_plain");
     for (auto const& arguments :
