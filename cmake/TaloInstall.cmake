@@ -4,10 +4,11 @@
 #   network   the library network
 #   widgets   sorrel, parameters
 #   plugin    the plug-in file with its translations, and what plug-in authors need
-#   panel     the program
+#   panel     the program, and what makes it at home on a desktop (TaloDesktop)
 #   examples  networks and sources to start from
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
+include(TaloDesktop)
 
 set(TALO_INSTALL_PACKAGE_DIR "${CMAKE_INSTALL_LIBDIR}/cmake/Talo")
 set(TALO_INSTALL_PLUGIN_DIR "${CMAKE_INSTALL_LIBDIR}/talo")
@@ -39,6 +40,25 @@ function(talo_install_program)
     talo_installed_path(libraries "${CMAKE_INSTALL_BINDIR}" "${CMAKE_INSTALL_LIBDIR}")
     set_target_properties(talo_panel PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
     install(TARGETS talo_panel RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT panel)
+    talo_program_pages(talo_panel "edit the parameters of a network of objects" panel)
+    talo_install_desktop()
+endfunction()
+
+# For builds with pkg-config. The files find the installation from where they are, so that it can be moved.
+function(talo_install_pkgconfig)
+    set(folder "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+    talo_installed_path(TALO_PREFIX_FROM_PKGCONFIG "${folder}" "${CMAKE_INSTALL_PREFIX}")
+    foreach(kind IN ITEMS LIB INCLUDE)
+        set(TALO_PKGCONFIG_${kind}DIR "${CMAKE_INSTALL_${kind}DIR}")
+        if(NOT IS_ABSOLUTE "${CMAKE_INSTALL_${kind}DIR}")
+            set(TALO_PKGCONFIG_${kind}DIR "\${prefix}/${CMAKE_INSTALL_${kind}DIR}")
+        endif()
+    endforeach()
+    foreach(component IN ITEMS core network widgets)
+        configure_file("${PROJECT_SOURCE_DIR}/packaging/pkgconfig/talo-${component}.pc.in"
+            "${PROJECT_BINARY_DIR}/talo-${component}.pc" @ONLY)
+        install(FILES "${PROJECT_BINARY_DIR}/talo-${component}.pc" DESTINATION "${folder}" COMPONENT ${component})
+    endforeach()
 endfunction()
 
 function(talo_install_package)
@@ -63,7 +83,11 @@ function(talo_install)
     if(TARGET talo_panel)
         talo_install_program()
     endif()
+    if(TARGET talo_check)
+        talo_program_pages(talo_check "check a plug-in file" plugin)
+    endif()
     talo_install_package()
+    talo_install_pkgconfig()
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples" DESTINATION "${TALO_INSTALL_DATA_DIR}" COMPONENT examples)
 endfunction()
 if(TALO_INSTALL)

@@ -1,5 +1,5 @@
 find_package(GTest REQUIRED)
-find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
+find_package(Qt${TALO_QT} ${TALO_QT_VERSION} REQUIRED COMPONENTS Test)
 
 set(TALO_TEST_PLATFORM offscreen CACHE STRING "Qt's platform for the tests; xcb needs a display with a window manager")
 

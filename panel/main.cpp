@@ -13,6 +13,7 @@
 #include <panel/InstalledFiles.hpp>
 #include <panel/PluginSearch.hpp>
 #include <panel/PluginTrial.hpp>
+#include <panel/ProgramIcon.hpp>
 #include <panel/Translations.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <panel/window/Session.hpp>
@@ -366,6 +367,9 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationName(QStringLiteral("talo_panel"));
     QApplication::setApplicationDisplayName(QCoreApplication::translate("main", "Talo panel"));
     QApplication::setApplicationVersion(QStringLiteral(TALO_VERSION));
+    // By this name the desktop finds the entry of the menus, and with it the name and the icon of the windows.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.talo.panel"));
+    QApplication::setWindowIcon(Panel::programIcon());
     if (commandLine->help) {
         return print(Panel::CommandLine::helpText().toUtf8());
     }

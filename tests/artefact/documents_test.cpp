@@ -65,7 +65,7 @@ protected:
         add(root / "CMakeLists.txt");
         add(root / "CMakePresets.json");
         for (auto const* const folder : {"host", "plugin", "qVinputs", "network", "parameters", "checker", "fractal",
-                                         "panel", "tests", "benchmarks", "cmake", "examples", "scripts"}) {
+                                         "panel", "tests", "benchmarks", "cmake", "examples", "packaging", "scripts"}) {
             for (auto const& entry : fs::recursive_directory_iterator(root / folder)) {
                 if (!entry.is_regular_file() || entry.path().extension() == ".md" || entry.path().extension() == ".ts")
                     continue;

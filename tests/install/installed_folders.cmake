@@ -8,7 +8,7 @@ run("${CMAKE_COMMAND}" -S "${SOURCE}" -B "${WORK}/build" -G "${GENERATOR}" "-DCM
     "-DCMAKE_BUILD_TYPE=${BUILD_TYPE}" "-DCMAKE_CXX_FLAGS_DEBUG=${FLAGS_DEBUG}"
     "-DCMAKE_CXX_FLAGS_RELEASE=${FLAGS_RELEASE}" "-DTALO_SANITIZE=${SANITIZE}" "-DTALO_COVERAGE=${COVERAGE}"
     "-DCMAKE_UNITY_BUILD=${UNITY}"
-    -DTALO_BUILD_TESTS=OFF "-DCMAKE_INSTALL_LIBDIR=${LIBDIR}" "-DCMAKE_INSTALL_PREFIX=${prefix}")
+    -DTALO_BUILD_TESTS=OFF "-DTALO_QT=${QT}" "-DCMAKE_INSTALL_LIBDIR=${LIBDIR}" "-DCMAKE_INSTALL_PREFIX=${prefix}")
 run("${CMAKE_COMMAND}" --build "${WORK}/build")
 run("${CMAKE_COMMAND}" --install "${WORK}/build")
 # The installed files must find the installed libraries, not those of the build.

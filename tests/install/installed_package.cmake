@@ -33,13 +33,13 @@ if(NOT EXISTS "${core}/${LIBDIR}/liblattice.so.${SOVERSION}")
 endif()
 
 # The core component needs neither other components nor Qt; the others report what is missing.
-set(core_host ${configure} --fresh -S "${CMAKE_CURRENT_LIST_DIR}/core_host" -DCMAKE_DISABLE_FIND_PACKAGE_Qt5=ON)
+set(core_host ${configure} --fresh -S "${CMAKE_CURRENT_LIST_DIR}/core_host" "-DCMAKE_DISABLE_FIND_PACKAGE_Qt${QT}=ON")
 run(${core_host} -B "${WORK}/core_host" "-DCMAKE_PREFIX_PATH=${core}" -DCOMPONENTS=core)
 run("${CMAKE_COMMAND}" --build "${WORK}/core_host")
 run_and_expect("^count = 41\nstatus = ready\n$" "${WORK}/core_host/core_host")
 refuse_and_expect("The component network of Talo is not installed"
     ${core_host} -B "${WORK}/refused" "-DCMAKE_PREFIX_PATH=${core}" -DCOMPONENTS=widgets)
-refuse_and_expect("The component network of Talo needs Qt 5.15"
+refuse_and_expect("The component network of Talo needs Qt ${QT}\\."
     ${core_host} -B "${WORK}/refused" "-DCMAKE_PREFIX_PATH=${prefix}" -DCOMPONENTS=widgets)
 refuse_and_expect("Talo has no component sprockets"
     ${core_host} -B "${WORK}/refused" "-DCMAKE_PREFIX_PATH=${prefix}" -DCOMPONENTS=sprockets)

@@ -1,0 +1,11 @@
+# The version of Qt that everything is built with. Its targets are Qt${TALO_QT}::Core and so on.
+set(TALO_QT 5 CACHE STRING "Qt's major version, 5 or 6")
+set_property(CACHE TALO_QT PROPERTY STRINGS 5 6)
+if(TALO_QT EQUAL 5)
+    set(TALO_QT_VERSION 5.15)
+elseif(TALO_QT EQUAL 6)
+    set(TALO_QT_VERSION 6.4)
+else()
+    message(FATAL_ERROR "TALO_QT is 5 or 6, not ${TALO_QT}.")
+endif()
+find_package(Qt${TALO_QT} ${TALO_QT_VERSION} REQUIRED COMPONENTS Core Gui Widgets)
