@@ -20,7 +20,7 @@ function(talo_sanitize target sanitizers)
     target_compile_options(${target} INTERFACE -fsanitize=${sanitizers} -fno-omit-frame-pointer
         -fno-sanitize-recover=all
         # The code that the sanitizers add makes g++ see uninitialised members in the standard library.
-        -Wno-maybe-uninitialized)
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     # What is linked together needs the run-time libraries of all.
     target_link_options(${target} INTERFACE -fsanitize=${TALO_SANITIZE})
 endfunction()

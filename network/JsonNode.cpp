@@ -104,6 +104,8 @@ private:
     static bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
     void advance() {
+        if (next_ == end_)
+            throw FormatError{line_, "expected valid JSON, found its end"};
         if (*next_++ == '\n')
             ++line_;
     }
@@ -123,15 +125,15 @@ private:
     /// Goes behind a text; says whether characters in it are written by a backslash.
     bool skipString() {
         bool isEscaped = false;
-        ++next_;
+        advance();
         while (next_ != end_ && *next_ != '"') {
             if (*next_ == '\\') {
                 isEscaped = true;
-                ++next_;
+                advance();
             }
             advance();
         }
-        ++next_;
+        advance();
         return isEscaped;
     }
     /// Reads a key. Keys are few and come again and again, so all of one text share it.
@@ -144,6 +146,16 @@ private:
             known = isEscaped ? QJsonDocument::fromJson('[' + written + ']').array().at(0).toString()
                               : QString::fromUtf8(written.constData() + 1, written.size() - 2);
         return known;
+    }
+
+    /// The value of a member by its key. Qt compares keys up to a U+0000, and loses a byte order mark at their start,
+    /// so it would find the value of another key, or none.
+    static QJsonValue valueOf(QJsonObject const& object, JsonNode const& member) {
+        auto const found = object.constFind(member.key_);
+        if (found == object.constEnd() || member.key_.contains(QChar::Null))
+            throw FormatError{member.keyLine_, "expected a key without the characters U+0000 and U+FEFF, found " +
+                                                   quoted(QString(member.key_).remove(QChar::Null))};
+        return *found;
     }
 
     void scanText(JsonNode& node) {
@@ -166,7 +178,7 @@ private:
             if (!keys.take(member.key_))
                 throw FormatError{member.keyLine_, "expected each key once, found " + quoted(member.key_) + " again"};
             skip(':');
-            member.value_ = object.value(member.key_);
+            member.value_ = valueOf(object, member);
             scan(member);
             node.children_.push_back(std::move(member));
         }

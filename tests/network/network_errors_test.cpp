@@ -64,6 +64,14 @@ std::vector<WrongFile> wrongFiles() {
         {"List", "\n[]", 2, "expected a network, an object, found a list of 0"},
         {"UnknownKeyOfNetwork", "{ \"pools\": [\"a\"],\n\"object\":\n[] }", 2,
          "expected only the keys objects, pools, title in a network, found \"object\""},
+        // Qt loses a byte order mark when it gives a key out, and finds no value for what is left.
+        {"KeyWithByteOrderMark", "{ \"pools\": [\"draft\"],\n\"\xEF\xBB\xBFobjects\": [0, 1] }", 2,
+         "expected a key without the characters U+0000 and U+FEFF, found \"objects\""},
+        // Qt takes keys for equal whose texts are equal up to such a character.
+        {"KeysWithNul", QByteArray(R"({ "@a": [["draft"], 2, 3, 4], "@b": [] })").replace('@', '\0'), 1,
+         "expected a key without the characters U+0000 and U+FEFF, found \"a\""},
+        {"EscapedNulInKey", "{\n\"a\\u0000b\": 1 }", 2,
+         "expected a key without the characters U+0000 and U+FEFF, found \"ab\""},
         {"KeyTwice", "{ \"title\": \"a\",\n\"title\": \"b\" }", 2, "expected each key once, found \"title\" again"},
         {"EscapedKeyTwice", "{ \"title\": \"a\",\n\n\"t\\u0069tle\": \"b\" }", 3,
          "expected each key once, found \"title\" again"},
