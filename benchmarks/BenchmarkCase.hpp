@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <lattice/Parameter.hpp>
+#include <QString>
 #include <QWidget>
 #include <string>
 #include <vector>
@@ -14,6 +15,15 @@ public:
     virtual QWidget* widget() = 0;
     /// The program stores the n-th value, 0 or 1, and shows it.
     virtual void change(int n) = 0;
+    /// Called after a person's edit, with the text of the new value, where the program wants to know.
+    std::function<void(QString const& text)> edited;
+
+protected:
+    /// Says that a person edited the value.
+    void notify(QString const& text) const {
+        if (edited)
+            edited(text);
+    }
 };
 
 /// One kind of editor: how the plug-in's comes to be, how the same is made of bare Qt, and how both are used.

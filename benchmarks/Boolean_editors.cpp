@@ -16,7 +16,10 @@ public:
         layout->setContentsMargins(3, 3, 3, 3);
         setLayout(layout);
         box_->setChecked(value_);
-        connect(box_, &QCheckBox::clicked, this, [this](bool checked) { value_ = checked; });
+        connect(box_, &QCheckBox::clicked, this, [this](bool checked) {
+            value_ = checked;
+            notify(QString::number(value_));
+        });
     }
 
     QWidget* widget() override { return this; }

@@ -1,6 +1,7 @@
 #include "BenchmarkCase.hpp"
 
 #include <cmath>
+#include <deque>
 #include <QAbstractSlider>
 #include <QApplication>
 #include <QDial>
@@ -12,7 +13,6 @@
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QUndoStack>
 #include <QWheelEvent>
 
 namespace {
@@ -34,14 +34,20 @@ QAbstractSlider* makeControl(QWidget* parent, std::vector<std::string> const& pr
     return dial;
 }
 
-/// The program's steps that can be taken back, as many as the host of the plug-in keeps.
-QUndoStack& undoStack() {
-    static auto& stack = []() -> QUndoStack& {
-        auto* const made = new QUndoStack;
-        made->setUndoLimit(1000);
-        return *made;
-    }();
-    return stack;
+/// A step of the program that can be undone.
+struct SetInteger {
+    QPointer<QObject> editor;
+    int previous = 0;
+    int value = 0;
+    QString text;
+};
+
+/// The program's steps, as many as the host of the plug-in keeps.
+void record(SetInteger const& step) {
+    static std::deque<SetInteger> steps;
+    steps.push_back(step);
+    if (steps.size() > 1000)
+        steps.pop_front();
 }
 
 class BareInteger : public QWidget, public BareEditor {
@@ -59,8 +65,12 @@ public:
         setLayout(layout);
         change(0);
         connect(control_, &QAbstractSlider::valueChanged, this, [this](int value) {
-            if (value != value_)
-                undoStack().push(new SetValue(this, value_, value));
+            if (value == value_)
+                return;
+            record({this, value_, value, QLatin1String("Set int value to ") + QString::number(value_)});
+            value_ = value;
+            showText();
+            notify(lineEdit_->text());
         });
         connect(lineEdit_, &QLineEdit::returnPressed, this, [this] { control_->setValue(lineEdit_->text().toInt()); });
     }
@@ -79,30 +89,6 @@ private:
         lineEdit_->home(false);
     }
 
-    class SetValue : public QUndoCommand {
-    public:
-        SetValue(BareInteger* editor, int previous, int value)
-            : QUndoCommand(QLatin1String("Set int value to ") + QString::number(previous)),
-              editor_(editor),
-              previous_(previous),
-              value_(value) {}
-        void undo() override { set(previous_); }
-        void redo() override { set(value_); }
-
-    private:
-        void set(int value) {
-            if (!editor_)
-                return;
-            editor_->value_ = value;
-            editor_->showText();
-            QSignalBlocker const blocker(editor_->control_);
-            editor_->control_->setValue(value);
-        }
-
-        QPointer<BareInteger> const editor_;
-        int const previous_;
-        int const value_;
-    };
     // Made first, so that it has the focus, as in the editor: Qt tells the input method of its changes then.
     QLineEdit* const lineEdit_;
     QAbstractSlider* const control_;
@@ -129,6 +115,7 @@ public:
         connect(control_, &QAbstractSlider::valueChanged, this, [this](int position) {
             value_ = static_cast<double>(position) / RealPositions;
             showText();
+            notify(lineEdit_->text());
         });
         connect(lineEdit_, &QLineEdit::returnPressed, this, [this] {
             control_->setValue(static_cast<int>(std::lround(lineEdit_->text().toDouble() * RealPositions)));

@@ -1,48 +1,37 @@
 #include "RatioReporter.hpp"
 
+#include "Figures.hpp"
+
 #include <algorithm>
-#include <iomanip>
-#include <limits>
-#include <ostream>
-#include <set>
+#include <iterator>
 #include <sstream>
 
-double RatioReporter::goal(Row const& row) {
-    auto const& [kind, measure] = row;
-    // How long a view takes to open and to scroll is measured against a frame.
-    if (measure == "open" || measure == "scroll" || measure == "rows")
-        return std::numeric_limits<double>::infinity();
-    // A drag is many edits of which none is painted, so the host's part of each weighs more. So it is where thousands
-    // of values change of which few are shown.
-    if (measure == "drag" || measure == "tick")
-        return 1.2;
-    return kind == "network" && measure == "heap" ? 1.15 : 1.1;
-}
+namespace {
+
+// What the plug-in's editor may take of what the bare one takes.
+constexpr double goal = 1.1;
+
+} // namespace
 
 void RatioReporter::ReportRuns(std::vector<Run> const& runs) {
     auto const counts = [](Run const& run) { return run.run_type == Run::RT_Iteration && !run.error_occurred; };
-    Run const* least = nullptr;
-    for (auto const& run : runs) {
-        if (counts(run) && (!least || run.GetAdjustedCPUTime() < least->GetAdjustedCPUTime()))
-            least = &run;
-    }
-    if (!least)
+    std::vector<Run> counted;
+    std::copy_if(runs.begin(), runs.end(), std::back_inserter(counted), counts);
+    if (counted.empty())
         return;
-    auto shown = *least;
-    shown.run_name.min_time.clear();
-    shown.run_name.repetitions.clear();
-    shown.run_name.time_type.clear();
-    ConsoleReporter::ReportRuns({shown});
-
-    std::istringstream name(least->run_name.function_name);
+    auto const middle = counted.begin() + static_cast<std::ptrdiff_t>(counted.size() / 2);
+    std::nth_element(counted.begin(), middle, counted.end(), [](Run const& left, Run const& right) {
+        return left.GetAdjustedCPUTime() < right.GetAdjustedCPUTime();
+    });
+    std::istringstream name(middle->run_name.function_name);
     std::string kind;
     std::string measure;
     std::string side;
     std::string count;
     std::getline(std::getline(std::getline(std::getline(name, kind, '/'), measure, '/'), side, '/'), count);
-    take({kind, measure}, side, std::stoi(count), least->GetAdjustedCPUTime());
-    auto const heap = least->counters.find("heap");
-    if (heap != least->counters.end())
+    take({kind, measure}, side, std::stoi(count), middle->GetAdjustedCPUTime());
+    auto const heap = middle->counters.find("heap");
+    if (heap != middle->counters.end())
         take({kind, "heap"}, side, std::stoi(count), heap->second);
 }
 
@@ -55,31 +44,12 @@ void RatioReporter::take(Row const& row, std::string const& side, int count, dou
 
 void RatioReporter::Finalize() {
     ConsoleReporter::Finalize();
-    auto& out = GetOutputStream();
-    std::set<int> counts;
-    for (auto const& entry : pairs_)
-        counts.insert(entry.first.second);
     std::sort(rows_.begin(), rows_.end());
-
-    out << "\nplug-in / bare Qt, by number of editors\n" << std::left << std::setw(34) << "" << std::right;
-    for (int const count : counts)
-        out << std::setw(8) << count;
-    out << "\n";
-    int above = 0;
-    for (auto const& row : rows_) {
-        out << std::left << std::setw(22) << row.first << std::setw(12) << row.second << std::right << std::fixed
-            << std::setprecision(2);
-        for (int const count : counts) {
-            auto const found = pairs_.find({row, count});
-            if (found == pairs_.end() || found->second.bare == 0 || found->second.plugin == 0) {
-                out << std::setw(8) << "-";
-                continue;
-            }
-            double const ratio = found->second.plugin / found->second.bare;
-            above += ratio > goal(row) ? 1 : 0;
-            out << std::setw(8) << ratio;
-        }
-        out << "\n";
-    }
-    out << above << " above their goals\n";
+    for (auto const& row : rows_)
+        for (auto const& [key, pair] : pairs_)
+            if (key.first == row && pair.bare > 0 && pair.plugin > 0)
+                above_ += printFigure(row.first + ", " + row.second + ", " + std::to_string(key.second),
+                                      pair.plugin / pair.bare, goal)
+                              ? 1
+                              : 0;
 }

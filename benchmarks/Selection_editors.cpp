@@ -6,7 +6,6 @@
 #include <bramble/FlagList.hpp>
 #include <bramble/MultipleStringSelection.hpp>
 #include <bramble/StringSelection.hpp>
-#include <cstdio>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -43,8 +42,10 @@ public:
             layout->addWidget(button, place / 3, place % 3);
             button->setChecked(place == value_);
             connect(button, &QRadioButton::toggled, this, [this, place](bool on) {
-                if (on)
-                    value_ = place;
+                if (!on)
+                    return;
+                value_ = place;
+                notify(QString::number(place));
             });
             buttons_.push_back(button);
             ++place;
@@ -73,6 +74,7 @@ public:
             connect(box, &QCheckBox::stateChanged, this, [this] {
                 for (std::size_t place = 0; place < boxes_.size(); ++place)
                     value_[names[place]] = boxes_[place]->isChecked();
+                notify(QStringLiteral("flags"));
             });
         }
     }
@@ -99,21 +101,20 @@ public:
         layout->setContentsMargins(0, 0, 0, 0);
         box_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         box_->setEditable(editable);
-        fill(0);
-        connect(box_, QOverload<int>::of(&QComboBox::activated), this, [this](int place) { value_ = place; });
+        box_->addItems(shownNames());
+        connect(box_, QOverload<int>::of(&QComboBox::activated), this, [this](int place) {
+            value_ = place;
+            notify(box_->itemText(place));
+        });
     }
 
     QWidget* widget() override { return this; }
-    void change(int n) override { fill(n); }
-
-private:
-    void fill(int current) {
-        value_ = current;
-        box_->clear();
-        box_->addItems(shownNames());
-        box_->setCurrentIndex(current);
+    void change(int n) override {
+        value_ = n;
+        box_->setCurrentIndex(n);
     }
 
+private:
     QComboBox* const box_;
     int value_ = 0;
 };
@@ -130,6 +131,8 @@ public:
                 connect(button, &QPushButton::pressed, this, [this] {
                     for (int row = 0; row < list_->count(); ++row)
                         list_->item(row)->setSelected(!list_->item(row)->isSelected());
+                    value_ = list_->selectionModel()->selectedRows();
+                    notify(QStringLiteral("rows"));
                 });
         }
         auto* const remove = new QCheckBox(QLatin1String("remove"), this);
@@ -147,32 +150,31 @@ public:
         layout->addWidget(list_);
         list_->setMovement(QListView::Static);
         list_->setSelectionMode(QAbstractItemView::MultiSelection);
-        fill(0);
+        fill();
+        change(0);
     }
 
     QWidget* widget() override { return this; }
-    void change(int n) override { fill(n); }
+    void change(int n) override {
+        for (int row = 0; row < list_->count(); ++row)
+            list_->item(row)->setSelected(row == n);
+        list_->setCurrentRow(n, QItemSelectionModel::NoUpdate);
+    }
 
 private:
-    void fill(int chosen) {
-        std::puts("calling getSeletion from valueChanged");
-        std::fflush(stdout);
-        list_->clear();
+    void fill() {
         int width = 0;
         for (auto const& name : shownNames()) {
             width = std::max(width, list_->fontMetrics().horizontalAdvance(name) * 15 / 10);
             auto* const item = new QListWidgetItem(name);
             list_->insertItem(list_->count(), item);
-            item->setSelected(list_->count() - 1 == chosen);
         }
-        list_->setCurrentRow(chosen, QItemSelectionModel::NoUpdate);
         auto const hint = list_->sizeHint();
         setFixedSize(std::max(width, hint.width()), static_cast<int>(hint.height() * 1.3));
-        if (parentWidget())
-            parentWidget()->adjustSize();
     }
 
     QListWidget* const list_;
+    QModelIndexList value_;
 };
 
 Kolt::Enum enumerationOf(unsigned n) {

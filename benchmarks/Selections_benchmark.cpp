@@ -3,12 +3,11 @@
 // 100,000 strings, 1.0 s for filling the list anew, and at most 15 times the cost of 10,000 strings.
 
 #include "BenchmarkProgram.hpp"
+#include "Figures.hpp"
 
 #include <benchmark/benchmark.h>
 #include <bramble/MultipleStringSelection.hpp>
 #include <functional>
-#include <iomanip>
-#include <iostream>
 #include <map>
 #include <QApplication>
 #include <QCheckBox>
@@ -170,12 +169,10 @@ public:
             if (large == seconds_.end() || medium == seconds_.end())
                 continue;
             double const growth = large->second / medium->second;
-            bool const met = large->second <= action.goal && growth <= growthGoal;
-            allMet = allMet && met;
-            std::cout << std::left << std::setw(16) << action.name << std::right << std::fixed << std::setprecision(4)
-                      << std::setw(8) << large->second << " s of " << std::setprecision(1) << action.goal
-                      << " s, growth " << std::setw(4) << growth << " of " << growthGoal
-                      << (met ? ": met\n" : ": MISSED\n");
+            auto const name = std::string("list of 100,000, ") + action.name;
+            bool const isSlow = printFigure(name, large->second * 1000, action.goal * 1000, "ms");
+            bool const growsFast = printFigure(name + ", growth from 10,000", growth, growthGoal);
+            allMet = allMet && !isSlow && !growsFast;
         }
         return allMet;
     }

@@ -49,7 +49,10 @@ public:
     explicit BareLine(QWidget* parent) : QLineEdit(parent) {
         setFont(smallBold("DejaVu Sans Mono", font()));
         setText(QString::fromStdString(value_));
-        connect(this, &QLineEdit::textEdited, this, [this](QString const& text) { value_ = text.toStdString(); });
+        connect(this, &QLineEdit::textEdited, this, [this](QString const& text) {
+            value_ = text.toStdString();
+            notify(text);
+        });
     }
     QWidget* widget() override { return this; }
     void change(int n) override {

@@ -1,0 +1,269 @@
+// A window of the panel beside one of bare Qt with the same rows, which are made as late there: how long it takes from
+// a change or an edit until the window is painted, to open and to scroll a form of ten thousand values, and what a row
+// takes of the heap. Prints a line for each job (Jobs.hpp); the status is 1 if a figure is above its goal.
+
+#include "BenchmarkCase.hpp"
+#include "BenchmarkProgram.hpp"
+#include "Jobs.hpp"
+#include "PanelSides.hpp"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+#include <QAbstractSlider>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QTest>
+
+namespace {
+
+constexpr int manyValues = 10'000;
+QSize const usualSize(760, 760);
+// High enough for a row of each kind, as on a screen that stands upright.
+QSize const highSize(760, 2200);
+
+using MakeSide = std::unique_ptr<PanelSide> (*)(Kinds const&, int, int);
+
+double heapInUse() {
+    return static_cast<double>(mallinfo2().uordblks);
+}
+
+/// Both sides of a job that differ in nothing but who makes the window.
+Job compare(std::string const& name, double goal, std::function<Measurement(MakeSide)> const& prepare) {
+    return {name, goal, [prepare] { return prepare(makePanelSide); }, [prepare] { return prepare(makeBareSide); }, {}};
+}
+
+/// A window with a row of each kind.
+std::shared_ptr<PanelSide> openAllKinds(MakeSide make, int numbers = 0) {
+    auto const kinds = allKinds();
+    std::shared_ptr<PanelSide> side(make(kinds, static_cast<int>(kinds.size()), numbers));
+    side->open(highSize);
+    if (side->rowCount() < static_cast<int>(kinds.size()))
+        qFatal("A kind of editor is not shown.");
+    return side;
+}
+
+/// The n-th of some works that are alike, twenty of which are one measurement.
+template <typename Work>
+Measurement repeated(Work const& work) {
+    return [work, n = 0]() mutable {
+        return timeOf([&] {
+            for (int time = 0; time < 20; ++time) {
+                n = 1 - n;
+                work(n);
+                QCoreApplication::processEvents();
+            }
+        });
+    };
+}
+
+/// The program changes a value, which is painted. At first every value is its default, and later every second one is.
+Job change(std::string const& kind, double goal) {
+    return compare("host change and repaint, " + kind, goal, [kind](MakeSide make) {
+        auto const side = openAllKinds(make);
+        int const row = kindsNamed({kind}).front();
+        return repeated([side, row](int n) { side->change(row, n); });
+    });
+}
+
+/// A person changes a value, which is painted.
+Job edit(std::string const& kind, std::string const& shown, double goal) {
+    return compare("edit until painted, " + shown, goal, [kind](MakeSide make) {
+        auto const side = openAllKinds(make);
+        int const row = kindsNamed({kind}).front();
+        return repeated([side, row](int n) {
+            auto& editor = *side->editor(row);
+            // A wheel turns what has no focus in bare Qt, but not in the panel.
+            if (auto* const control = editor.findChild<QAbstractSlider*>(); control && control->parent() == &editor)
+                QTest::keyClick(control, n == 0 ? Qt::Key_Left : Qt::Key_Right);
+            else
+                benchmarkCases()[static_cast<std::size_t>(row)].edit(editor, n);
+        });
+    });
+}
+
+/// A simulation changes ten thousand values, of which one of each kind is shown and painted.
+Measurement tick(MakeSide make) {
+    auto const kinds = static_cast<int>(allKinds().size());
+    auto const side = openAllKinds(make, manyValues - kinds);
+    return [side, kinds, n = 0]() mutable {
+        n = 1 - n;
+        return timeOf([&] {
+            side->changeNumbers(n);
+            for (int row = 0; row < kinds; ++row)
+                side->change(row, n);
+            QCoreApplication::processEvents();
+        });
+    };
+}
+
+Measurement openMany(MakeSide make) {
+    std::shared_ptr<PanelSide> const side(make(allKinds(), manyValues, 0));
+    return [side] {
+        auto const time = timeOf([&] { side->open(usualSize); });
+        side->close();
+        return time;
+    };
+}
+
+Measurement closeMany(MakeSide make) {
+    std::shared_ptr<PanelSide> const side(make(allKinds(), manyValues, 0));
+    return [side] {
+        side->open(usualSize);
+        return timeOf([&] { side->close(); });
+    };
+}
+
+/// Every row of a form is made, one of each kind; without what a form takes that has no rows.
+Measurement makeRows(MakeSide make, bool heap) {
+    auto const kinds = allKinds();
+    return [make, kinds, heap] {
+        auto const figureOf = [&](int count) {
+            auto const side = make(kinds, count, 0);
+            auto const before = heapInUse();
+            auto const time = timeOf([&] { side->open(highSize); });
+            return heap ? heapInUse() - before : time;
+        };
+        auto const full = figureOf(static_cast<int>(kinds.size()));
+        return full - figureOf(0);
+    };
+}
+
+/// What the form keeps of a parameter whose row was never made.
+Measurement heapOfUnmadeRow() {
+    return [] {
+        auto const takenWith = [](int count) {
+            auto const side = makePanelSide(kindsNamed({"double"}), count, 0);
+            auto const before = heapInUse();
+            side->open(usualSize);
+            return heapInUse() - before;
+        };
+        return (takenWith(2 * manyValues) - takenWith(manyValues)) / manyValues;
+    };
+}
+
+/// A notch of the wheel after the other until the window is painted, onwards through the form.
+Measurement scroll(MakeSide make) {
+    std::shared_ptr<PanelSide> const side(make(allKinds(), manyValues, 0));
+    side->open(usualSize);
+    // Three lines of twenty pixels, as the wheel goes at each notch.
+    constexpr int notch = 60;
+    return [side] {
+        return timeOf([&] {
+            for (int time = 0; time < 30; ++time) {
+                auto* const bar = side->scrollBar();
+                bar->setValue(bar->value() + notch);
+                QCoreApplication::processEvents();
+            }
+        });
+    };
+}
+
+/// The mouse takes the handle of the scroll bar through the whole form. Gives what a step takes in milliseconds, or the
+/// greatest number of rows that there were meanwhile.
+Measurement dragScrollBar(bool countRows) {
+    std::shared_ptr<PanelSide> const side(makePanelSide(allKinds(), manyValues, 0));
+    side->open(usualSize);
+    return [side, countRows] {
+        auto* const bar = side->scrollBar();
+        bar->setValue(0);
+        QStyleOptionSlider option;
+        option.initFrom(bar);
+        option.orientation = Qt::Vertical;
+        option.maximum = bar->maximum();
+        option.pageStep = bar->pageStep();
+        option.subControls = QStyle::SC_All;
+        auto const at =
+            bar->style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, bar).center();
+        QTest::mousePress(bar, Qt::LeftButton, {}, at);
+        int most = 0;
+        int steps = 0;
+        auto const time = timeOf([&] {
+            for (int y = at.y(); y < bar->height() - at.y(); y += 2, ++steps) {
+                QMouseEvent move(QEvent::MouseMove, QPoint(at.x(), y), Qt::NoButton, Qt::LeftButton, {});
+                QCoreApplication::sendEvent(bar, &move);
+                QCoreApplication::processEvents();
+                most = std::max(most, side->rowCount());
+            }
+        });
+        QTest::mouseRelease(bar, Qt::LeftButton, {}, {at.x(), bar->height() - at.y()});
+        if (bar->value() < bar->maximum() / 2)
+            qFatal("The scroll bar cannot be dragged.");
+        return countRows ? most : time / steps;
+    };
+}
+
+/// Tab goes over rows that take no focus, to the next control.
+Measurement tabOverDisplays() {
+    return [] {
+        constexpr int displays = 2000;
+        auto kinds = Kinds(displays, kindsNamed({"InformationDisplay"}).front());
+        auto const box = kindsNamed({"boolean"}).front();
+        kinds.insert(kinds.begin(), box);
+        kinds.push_back(box);
+        auto const side = makePanelSide(kinds, static_cast<int>(kinds.size()), 0);
+        side->open(usualSize);
+        QTest::qWait(1);
+        side->editor(0)->setFocus();
+        auto* const before = QApplication::focusWidget();
+        auto const time = timeOf([&] {
+            QTest::keyClick(before, Qt::Key_Tab);
+            QCoreApplication::processEvents();
+        });
+        if (!before || QApplication::focusWidget() == before)
+            qFatal("Tab does not move the focus.");
+        return time;
+    };
+}
+
+/// Words that no row has, and none.
+Measurement filterMany(MakeSide make) {
+    std::shared_ptr<PanelSide> const side(make(allKinds(), manyValues, 0));
+    side->open(usualSize);
+    return [side] {
+        return timeOf([&] {
+            for (auto const* const words : {"noSuchName", ""}) {
+                side->filter(QLatin1String(words));
+                QCoreApplication::processEvents();
+            }
+        });
+    };
+}
+
+std::vector<Job> jobs() {
+    return {
+        change("boolean", 1.1),
+        change("int", 1.1),
+        change("double", 1.1),
+        change("simplestring", 1.1),
+        edit("boolean", "check box", 1.3),
+        edit("int", "key in a number", 1.3),
+        edit("multiple selection", "multiple selection", 1.3),
+        edit("selection", "drop-down list", 1.3),
+        edit("simplestring", "key in a line", 1.3),
+        {"10,000 values at 60 Hz, share of a frame",
+         15,
+         [] { return [measure = tick(makePanelSide)] { return measure() / (1000.0 / 60) * 100; }; },
+         {},
+         "%"},
+        compare("10,000 values change, 23 are painted", 1.3, tick),
+        compare("opening 10,000 values", 1.5, openMany),
+        compare("closing 10,000 values", 1.5, closeMany),
+        compare("every row made", 1.15, [](MakeSide make) { return makeRows(make, false); }),
+        compare("heap of a row", 1.05, [](MakeSide make) { return makeRows(make, true); }),
+        {"heap of a row that is not made", 64, heapOfUnmadeRow, {}, "B", 3},
+        compare("wheel through 10,000 rows", 1.5, scroll),
+        {"scroll-bar drag over 10,000 rows, a step", 5, [] { return dragScrollBar(false); }, {}, "ms", 3},
+        {"scroll-bar drag over 10,000 rows, rows", 80, [] { return dragScrollBar(true); }, {}, "", 3},
+        {"Tab over 2,000 rows without focus", 20, tabOverDisplays, {}, "ms", 3},
+        {"filter 10,000 rows and back", 50, [] { return filterMany(makePanelSide); }, {}, "ms", 5},
+    };
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    return runBenchmarkProgram(argc, argv, [] { return runJobs(jobs(), benchmark::GetBenchmarkFilter()); });
+}
