@@ -376,7 +376,15 @@ QSize ParameterRow::sizeHint() const {
     return QWidget::sizeHint().expandedTo({width(), 0});
 }
 
+bool ParameterRow::takeSizeChange() {
+    if (!std::exchange(wasLaidOut_, false))
+        return false;
+    auto const needs = RowNeeds::of(*this, cell_.widget(), nameWidth());
+    return std::exchange(needs_, needs) != needs;
+}
+
 bool ParameterRow::event(QEvent* event) {
+    wasLaidOut_ = wasLaidOut_ || event->type() == QEvent::LayoutRequest;
     if (event->type() != QEvent::ToolTip || !names_->geometry().contains(static_cast<QHelpEvent*>(event)->pos()))
         return QWidget::event(event);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipText(), names_);

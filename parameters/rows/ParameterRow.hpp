@@ -10,6 +10,7 @@
 #include <parameters/rows/ParameterVector.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
 #include <parameters/rows/RowName.hpp>
+#include <parameters/rows/RowNeeds.hpp>
 #include <QLabel>
 #include <QWidget>
 #include <tessera/Export.hpp>
@@ -107,6 +108,9 @@ public:
     /// Limits the editor to what a row of this width leaves it. One that cannot become so narrow scrolls from then on.
     void fitInto(int width);
 
+    /// Whether the row asks for another size since this was last called. Cheap for a row that was not laid out since.
+    bool takeSizeChange();
+
     /// The commands for the value in the current pool. Reset and paste are undo steps. What cannot be done is
     /// `refused`.
     void resetToDefault();
@@ -174,6 +178,9 @@ private:
     // The editor of a covered row is opened when the cover goes.
     bool isOpen_ = false;
     bool isEditorEnabled_ = true;
+    // Whether the row was laid out since its needs were last asked for.
+    bool wasLaidOut_ = true;
+    RowNeeds needs_;
     // How the name is aligned with the editor.
     Qt::Alignment vertical_ = Qt::AlignVCenter;
     EditorCell cell_;

@@ -37,7 +37,8 @@ RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> cons
       pools_(pools),
       content_(new QWidget),
       layout_(spacing),
-      vectors_(layout_, [this](auto place) { return entries_[place].row; }) {
+      vectors_(layout_, [this](auto place) { return entries_[place].row; }),
+      sizes_(layout_, vectors_, made_, [this](auto place) { return entries_[place].row; }) {
     addEntries(FormPlan(parameters));
     connect(sections_, &FormSections::foldChanged, this, &RowArea::showFolding);
     connect(sections_, &FormSections::foldChanged, this, &RowArea::foldChanged);
@@ -56,7 +57,7 @@ void RowArea::addEntries(FormPlan const& plan) {
     vectors_.setVectors(plan.vectors);
     sections_ = new FormSections(*content_, layout_, plan.sectionTitles, this);
     longestLabel_ = plan.longestLabel;
-    estimateNameWidth();
+    sizes_.setNameWidth(fontMetrics().horizontalAdvance(longestLabel_));
 }
 
 RowArea::~RowArea() = default;
@@ -136,7 +137,7 @@ void RowArea::setFilter(std::function<bool(Kolt::VParameter const&)> const& filt
             row->setVisible(layout_.isShown(place));
     }
     for (auto const place : vectors_.join())
-        measureRow(place);
+        sizes_.measure(place, rowWidth());
     arrangeInPlace();
     makeVisibleRows();
 }
@@ -203,7 +204,7 @@ void RowArea::make(Entry& entry) {
     if (editorsOpen_)
         entry.row->openEditor();
     entry.row->setVisible(layout_.isShown(place));
-    measure(place);
+    sizes_.measure(place, rowWidth());
     if (editorsOpen_)
         emitEditorOpened(entry);
 }
@@ -214,31 +215,9 @@ void RowArea::emitEditorOpened(Entry const& entry) {
         emit editorOpened(parameter, entry.row->editor());
 }
 
-void RowArea::measure(std::size_t place) {
-    auto& row = *entries_[place].row;
-    if (row.nameWidth() > nameWidth_) {
-        nameWidth_ = row.nameWidth();
-        for (auto* const each : rows())
-            each->setNameWidth(nameColumn());
-    }
-    row.setNameWidth(nameColumn());
-    for (auto const other : vectors_.fit(place, rowWidth(), nameColumn()))
-        measureRow(other);
-    measureRow(place);
-}
-
-void RowArea::measureRow(std::size_t place) {
-    auto& row = *entries_[place].row;
-    row.setNameWidth(nameColumn());
-    int const width = vectors_.span(place, rowWidth(), nameColumn()).width;
-    row.fitInto(width);
-    int const wanted = row.hasHeightForWidth() ? row.heightForWidth(width) : row.sizeHint().height();
-    layout_.setHeight(place, qMax(wanted, row.hasHeightForWidth() ? 0 : row.minimumSizeHint().height()));
-}
-
 void RowArea::measureAll() {
     for (auto const place : made_)
-        measure(place);
+        sizes_.measure(place, rowWidth());
     arrangeInPlace();
     makeVisibleRows();
 }
@@ -249,7 +228,7 @@ void RowArea::arrange() {
     placeSections();
     for (auto const place : made_) {
         int const top = layout_.top(place) - layout_.sectionTop(layout_.sectionOf(place));
-        auto const [left, width] = vectors_.span(place, rowWidth(), nameColumn());
+        auto const [left, width] = vectors_.span(place, rowWidth(), sizes_.nameColumn(rowWidth()));
         QRect const line(sections_->margins().left(), top, rowWidth(), layout_.height(place));
         QRect const part(line.left() + left, top, width, line.height());
         entries_[place].row->setGeometry(QStyle::visualRect(layoutDirection(), line, part));
@@ -332,9 +311,12 @@ void RowArea::dropFarRows() {
 }
 
 bool RowArea::eventFilter(QObject* watched, QEvent* event) {
-    // A row in a box has another size hint.
-    if (event->type() == QEvent::LayoutRequest && watched != content_ && watched->parent() == content_)
-        measureAll();
+    // A row in a box was laid out. Most were so without another size.
+    if (event->type() == QEvent::LayoutRequest && watched != content_ && watched->parent() == content_ &&
+        sizes_.measureChanged(rowWidth())) {
+        arrangeInPlace();
+        makeVisibleRows();
+    }
     return ContentArea::eventFilter(watched, event);
 }
 
@@ -355,7 +337,7 @@ void RowArea::changeEvent(QEvent* event) {
     if (event->type() != QEvent::StyleChange && event->type() != QEvent::FontChange)
         return;
     layout_.forgetEstimates();
-    estimateNameWidth();
+    sizes_.setNameWidth(fontMetrics().horizontalAdvance(longestLabel_));
     sections_->measure();
     measureAll();
 }

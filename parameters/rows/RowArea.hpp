@@ -7,6 +7,7 @@
 #include <parameters/rows/FormSections.hpp>
 #include <parameters/rows/ParameterRow.hpp>
 #include <parameters/rows/RowLayout.hpp>
+#include <parameters/rows/RowSizes.hpp>
 #include <parameters/rows/VectorRows.hpp>
 #include <set>
 #include <tessera/Export.hpp>
@@ -116,14 +117,8 @@ private:
     Entry* entryOf(QWidget const* widget);
     std::size_t placeOf(Entry const& entry) const { return static_cast<std::size_t>(&entry - entries_.data()); }
     int rowWidth() const;
-    /// The width of the column of names, which leaves more than half of a row to the editors.
-    int nameColumn() const { return qMin(nameWidth_, rowWidth() * 2 / 5); }
-    /// Most labels are narrower than the one with the most letters; a row that needs more widens the column.
-    void estimateNameWidth() { nameWidth_ = fontMetrics().horizontalAdvance(longestLabel_); }
     void make(Entry& entry);
     void emitEditorOpened(Entry const& entry);
-    void measure(std::size_t place);
-    void measureRow(std::size_t place);
     void measureAll();
     /// Gives every widget its place.
     void arrange();
@@ -148,9 +143,8 @@ private:
     FormSections* sections_ = nullptr;
     // The numbers of the entries that have a row.
     std::set<std::size_t> made_;
+    RowSizes sizes_;
     QString longestLabel_;
-    // In one font it only ever grows, so that the editors stay in their place when another pool is chosen.
-    int nameWidth_ = 0;
     std::function<bool(Kolt::VParameter const&)> isEnabled_;
     std::function<std::vector<SharedParameter>(Kolt::VParameter const&)> othersOf_;
     bool editorsOpen_ = true;

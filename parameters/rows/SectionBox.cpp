@@ -1,6 +1,7 @@
 #include <parameters/rows/SectionBox.hpp>
 
 #include <QContextMenuEvent>
+#include <QImage>
 #include <QMouseEvent>
 #include <QStyleOptionGroupBox>
 #include <QStylePainter>
@@ -25,8 +26,41 @@ int SectionBox::foldedHeight() const {
     return contentsMargins().top();
 }
 
-void SectionBox::paintEvent(QPaintEvent*) {
+QColor SectionBox::insideColour() const {
+    // Large enough to have an inside under any title.
+    constexpr QSize size(200, 100);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    option.rect = {QPoint(), size};
+    auto const inside = style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this);
+    option.subControls = QStyle::SC_GroupBoxFrame;
+    QPainter painter(&image);
+    style()->drawComplexControl(QStyle::CC_GroupBox, &option, &painter, this);
+    painter.end();
+    auto const colour = image.pixelColor(inside.center());
+    QImage filled(image.size(), image.format());
+    filled.fill(colour);
+    return image.copy(inside) == filled.copy(inside) ? colour : QColor();
+}
+
+void SectionBox::changeEvent(QEvent* event) {
+    QGroupBox::changeEvent(event);
+    inside_.reset();
+}
+
+void SectionBox::paintEvent(QPaintEvent* event) {
     QStylePainter painter(this);
+    // Some styles load a picture for each frame that they paint, and most changes are within it.
+    if (!isFolded_ && contentsRect().contains(event->rect())) {
+        if (!inside_)
+            inside_ = insideColour();
+        if (inside_->isValid()) {
+            painter.fillRect(event->rect(), *inside_);
+            return;
+        }
+    }
     QStyleOptionGroupBox option;
     initStyleOption(&option);
     // Where the style has them, with room for a check box, in whose place the arrow is.

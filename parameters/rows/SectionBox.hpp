@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <QColor>
 #include <QGroupBox>
 #include <tessera/Export.hpp>
 
@@ -30,15 +32,19 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     bool isOnTitle(QPoint const& place) const;
+    QColor insideColour() const;
 
     bool isFolded_ = false;
     bool isPressed_ = false;
+    // What the style fills the frame with; invalid if that is more than one colour. Empty until it is asked for.
+    std::optional<QColor> inside_;
 };
 
 } // namespace Talo
