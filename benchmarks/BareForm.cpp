@@ -212,7 +212,9 @@ BareForm::Row BareForm::makeRow(int number) {
     row.editor->change(value.n);
     row.editor->edited = [this, number](QString const& text) {
         history_.record(values_[static_cast<std::size_t>(number)].name, text);
-        rows_.at(number).dot->show();
+        // The edits of the jobs go to and fro, so every second one leads back to the default.
+        auto* const dot = rows_.at(number).dot;
+        dot->setVisible(!dot->isVisible());
     };
     int const top = tops_[static_cast<std::size_t>(number)];
     row.widget->setGeometry(margin / 2, top, content_->width() - margin, rowHeight(value.kind));

@@ -271,8 +271,11 @@ void GestureWatcher::turnWheel(QWidget* widget) {
 }
 
 bool GestureWatcher::overrideShortcut(QWidget* widget, QKeyEvent* event) {
-    bool const redo = event->matches(QKeySequence::Redo);
-    if (!redo && !event->matches(QKeySequence::Undo))
+    // As QKeyEvent::matches does.
+    QKeySequence const keys((static_cast<int>(event->modifiers()) | event->key()) &
+                            ~static_cast<int>(Qt::KeypadModifier | Qt::GroupSwitchModifier));
+    bool const redo = redoKeys_.contains(keys);
+    if (!redo && !undoKeys_.contains(keys))
         return false;
     QPointer<QWidget> const field = GestureTarget::around(widget) ? textFieldOf(widget) : nullptr;
     if (!field)

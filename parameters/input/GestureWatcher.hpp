@@ -3,6 +3,8 @@
 #include <lattice/UndoHistory.hpp>
 #include <optional>
 #include <QKeyEvent>
+#include <QKeySequence>
+#include <QList>
 #include <QMouseEvent>
 #include <QObject>
 #include <QPointer>
@@ -40,6 +42,8 @@ public:
 
     /// Ends the gesture that goes on, as before a command.
     void end();
+    /// The widget in a row that the mouse has pressed; null for none, and after the release.
+    QWidget* pressed() const { return kind_ == Kind::Mouse ? target_.data() : nullptr; }
 
 private:
     friend class InputFilter;
@@ -82,6 +86,9 @@ private:
     // Distinguishes the gestures.
     unsigned number_ = 0;
     QTimer wheelTimer_;
+    // The platform is asked once, as each key is compared with them.
+    QList<QKeySequence> const undoKeys_ = QKeySequence::keyBindings(QKeySequence::Undo);
+    QList<QKeySequence> const redoKeys_ = QKeySequence::keyBindings(QKeySequence::Redo);
 };
 
 } // namespace Talo

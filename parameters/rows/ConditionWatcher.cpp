@@ -7,10 +7,12 @@ namespace Talo {
 ConditionWatcher::ConditionWatcher(std::vector<Kolt::ParameterPtr> const& parameters, QObject* parent)
     : QObject(parent) {
     std::map<std::string, Kolt::ParameterPtr> byName;
-    for (auto const& parameter : parameters)
-        byName.insert({parameter->Name(), parameter});
     auto const watch = [&](Kolt::VParameter const& parameter, char const* property) -> std::optional<Watched> {
         auto const condition = Condition::of(parameter, property);
+        // Most objects have no condition.
+        if (condition && byName.empty())
+            for (auto const& each : parameters)
+                byName.insert({each->Name(), each});
         auto const other = condition ? byName.find(condition->parameterName()) : byName.end();
         if (other == byName.end())
             return std::nullopt;
@@ -18,6 +20,8 @@ ConditionWatcher::ConditionWatcher(std::vector<Kolt::ParameterPtr> const& parame
         return Watched{*condition, other->second};
     };
     for (auto const& parameter : parameters) {
+        if (!parameter->properties())
+            continue;
         Conditions own{watch(*parameter, Condition::Properties[0]), watch(*parameter, Condition::Properties[1])};
         if (own.visible || own.enabled)
             conditions_.insert({parameter.get(), std::move(own)});

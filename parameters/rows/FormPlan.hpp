@@ -16,7 +16,6 @@ struct TALO_EXPORT FormPlan {
     struct Row {
         /// The parameter of the row.
         Kolt::ParameterPtr parameter;
-        QString name; ///< the whole name
         /// The number of the section, counted from 0.
         std::size_t section = 0;
         std::size_t heightClass = 0; ///< equal for parameters whose editors are probably equally high

@@ -84,9 +84,11 @@ void FormSections::foldAll(bool folded) {
     emit foldChanged();
 }
 
-void FormSections::setAllOpen(bool open) {
-    if (std::exchange(allOpen_, open) != open)
-        updateLayout();
+bool FormSections::setAllOpen(bool open) {
+    if (std::exchange(allOpen_, open) == open)
+        return false;
+    updateLayout();
+    return true;
 }
 
 void FormSections::fold(QString const& title, bool folded) {

@@ -37,8 +37,8 @@ public:
     void setFolded(QStringList const& titles);
     /// Folds or opens all sections that have a title, as a user does.
     void foldAll(bool folded);
-    /// Shows the rows of folded sections as well, as while a filter finds them.
-    void setAllOpen(bool open);
+    /// Shows the rows of folded sections as well, as while a filter finds them. Says whether that is new.
+    bool setAllOpen(bool open);
 
 signals:
     /// A user folded or opened sections.

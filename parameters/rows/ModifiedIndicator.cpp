@@ -9,7 +9,10 @@ namespace Talo {
 ModifiedIndicator::ModifiedIndicator(QString const& parameterName, QWidget* parent) : QToolButton(parent) {
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // It comes and goes with each edit, and the row is not to be laid out anew for that.
+    QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
     setAccessibleName(tr("Reset %1 to its default").arg(parameterName));
 }
 

@@ -1,6 +1,7 @@
 #include <parameters/rows/RowArea.hpp>
 
 #include <algorithm>
+#include <parameters/input/InputFilter.hpp>
 #include <parameters/rows/FormPlan.hpp>
 #include <parameters/rows/RowTabs.hpp>
 #include <parameters/rows/SectionBox.hpp>
@@ -21,7 +22,7 @@ namespace {
 constexpr QMargins contentMargins(12, 6, 12, 12);
 
 // In characters, so that two forms fit into a small window; enough for a short name and a number.
-constexpr int leastRowWidth = 20;
+constexpr int leastFormWidth = 20;
 
 constexpr RowLayout::Spacing spacing{contentMargins.top(), contentMargins.bottom(), 12, 6, 36};
 
@@ -48,11 +49,13 @@ RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> cons
 }
 
 void RowArea::addEntries(FormPlan const& plan) {
-    for (auto const& [parameter, name, section, heightClass] : plan.rows) {
+    entries_.reserve(plan.rows.size());
+    layout_.reserve(plan.rows.size());
+    for (auto const& [parameter, section, heightClass] : plan.rows) {
         while (layout_.sectionCount() <= section)
             layout_.addSection();
         layout_.addRow(heightClass);
-        entries_.push_back({name, parameter});
+        entries_.push_back({parameter});
     }
     vectors_.setVectors(plan.vectors);
     sections_ = new FormSections(*content_, layout_, plan.sectionTitles, this);
@@ -71,8 +74,11 @@ std::vector<ParameterRow*> RowArea::rows() const {
 }
 
 ParameterRow* RowArea::row(QString const& parameterName) {
-    auto const entry =
-        std::find_if(entries_.begin(), entries_.end(), [&](auto const& each) { return each.name == parameterName; });
+    auto const name = parameterName.toStdString();
+    auto const entry = std::find_if(entries_.begin(), entries_.end(), [&](auto const& each) {
+        auto const parameter = each.parameter.strong();
+        return parameter ? parameter->Name() == name : each.row && each.row->parameterName() == parameterName;
+    });
     if (entry == entries_.end())
         return nullptr;
     if (!entry->row) {
@@ -90,6 +96,7 @@ void RowArea::showRow(QString const& parameterName) {
 
 void RowArea::openEditors() {
     editorsOpen_ = true;
+    focusGuess_.forget();
     // A copy, and a look at each row: a receiver of the signal may scroll, which makes and deletes rows.
     for (auto const place : std::set<std::size_t>(made_)) {
         if (!entries_[place].row)
@@ -107,6 +114,8 @@ void RowArea::closeEditors() {
 }
 
 void RowArea::showPool() {
+    // Another editor may have been chosen.
+    focusGuess_.forget();
     for (auto* const row : rows())
         row->showPool();
     measureAll();
@@ -131,8 +140,8 @@ void RowArea::setRawValuesShown(bool shown) {
 
 void RowArea::setFilter(std::function<bool(Kolt::VParameter const&)> const& filter) {
     for (std::size_t place = 0; place < entries_.size(); ++place) {
-        auto const parameter = entries_[place].parameter.strong();
-        layout_.setShown(place, !filter || (parameter ? filter(*parameter) : false));
+        auto const parameter = filter ? entries_[place].parameter.strong() : nullptr;
+        layout_.setShown(place, !filter || (parameter && filter(*parameter)));
         if (auto* const row = entries_[place].row)
             row->setVisible(layout_.isShown(place));
     }
@@ -160,8 +169,8 @@ void RowArea::setFoldedSections(QStringList const& titles) {
 }
 
 void RowArea::setAllSectionsOpen(bool open) {
-    sections_->setAllOpen(open);
-    showFolding();
+    if (sections_->setAllOpen(open))
+        showFolding();
 }
 
 void RowArea::showFolding() {
@@ -205,8 +214,10 @@ void RowArea::make(Entry& entry) {
         entry.row->openEditor();
     entry.row->setVisible(layout_.isShown(place));
     sizes_.measure(place, rowWidth());
-    if (editorsOpen_)
-        emitEditorOpened(entry);
+    if (!editorsOpen_)
+        return;
+    focusGuess_.learn(*entry.row, layout_.heightClassOf(place));
+    emitEditorOpened(entry);
 }
 
 void RowArea::emitEditorOpened(Entry const& entry) {
@@ -249,7 +260,7 @@ void RowArea::resizeContent() {
 }
 
 QSize RowArea::minimumSizeHint() const {
-    int const row = leastRowWidth * fontMetrics().averageCharWidth();
+    int const row = leastFormWidth * fontMetrics().averageCharWidth();
     int const margins =
         contentMargins.left() + contentMargins.right() + sections_->margins().left() + sections_->margins().right();
     return {row + margins + verticalScrollBar()->sizeHint().width(), ContentArea::minimumSizeHint().height()};
@@ -279,27 +290,32 @@ void RowArea::makeVisibleRows() {
         return;
     QScopedValueRollback const guard(making_, true);
     placeSections();
-    for (bool made = true; made;) {
-        made = false;
-        for (auto place = layout_.firstRowBelow(visibleTop());
-             place < entries_.size() && layout_.top(place) < visibleBottom() && !made; ++place) {
-            if (entries_[place].row || !layout_.isShown(place))
-                continue;
-            make(entries_[place]);
-            arrangeInPlace();
-            made = true;
-        }
-    }
+    while (makeSeenRows())
+        arrangeInPlace();
     dropFarRows();
 }
 
+bool RowArea::makeSeenRows() {
+    bool made = false;
+    int grown = 0;
+    for (auto place = layout_.firstRowBelow(visibleTop());
+         place < entries_.size() && layout_.top(place) + grown < visibleBottom(); ++place) {
+        if (entries_[place].row || !layout_.isShown(place))
+            continue;
+        int const estimate = layout_.ownHeight(place);
+        make(entries_[place]);
+        grown += layout_.ownHeight(place) - estimate;
+        made = true;
+    }
+    return made;
+}
+
 void RowArea::dropFarRows() {
-    // While a button is held, a handle may be moving.
-    if (QApplication::mouseButtons() != Qt::NoButton)
-        return;
+    // A handle that the mouse holds may be moving.
+    auto* const pressed = InputFilter::shared()->gestures().pressed();
     for (auto const place : layout_.farRows(made_, visibleTop(), visibleBottom(), keptRows)) {
         auto& entry = entries_[place];
-        if (isInUse(*entry.row))
+        if (isInUse(*entry.row) || (pressed && ParameterRow::rowOf(pressed) == entry.row))
             continue;
         entry.row->closeEditor();
         entry.row->hide();
@@ -347,9 +363,12 @@ void RowArea::scrollContentsBy(int dx, int dy) {
     makeVisibleRows();
 }
 
-ParameterRow* RowArea::shownRow(std::size_t place) {
+ParameterRow* RowArea::focusRow(std::size_t place) {
     auto& entry = entries_[place];
     if (!layout_.isShown(place))
+        return nullptr;
+    auto const parameter = entry.row || othersOf_ ? nullptr : entry.parameter.strong();
+    if (parameter && !focusGuess_.mayTakeFocus(*parameter, layout_.heightClassOf(place), pools_.pool(), *this))
         return nullptr;
     if (!entry.row) {
         make(entry);
@@ -359,7 +378,7 @@ ParameterRow* RowArea::shownRow(std::size_t place) {
 }
 
 bool RowArea::focusFirstControl() {
-    return RowTabs(*this, entries_.size(), [this](auto place) { return shownRow(place); }).focusFirstEditor();
+    return RowTabs(*this, entries_.size(), [this](auto place) { return focusRow(place); }).focusFirstEditor();
 }
 
 bool RowArea::focusNextPrevChild(bool next) {
@@ -367,7 +386,7 @@ bool RowArea::focusNextPrevChild(bool next) {
     auto const* const current = focus ? entryOf(focus) : nullptr;
     if (!current)
         return ContentArea::focusNextPrevChild(next);
-    RowTabs const tabs(*this, entries_.size(), [this](auto place) { return shownRow(place); });
+    RowTabs const tabs(*this, entries_.size(), [this](auto place) { return focusRow(place); });
     return tabs.focusNext(*focus, placeOf(*current), next);
 }
 

@@ -4,6 +4,7 @@
 #include <lattice/Object.hpp>
 #include <parameters/commands/SharedEdits.hpp>
 #include <parameters/rows/ContentArea.hpp>
+#include <parameters/rows/FocusGuess.hpp>
 #include <parameters/rows/FormSections.hpp>
 #include <parameters/rows/ParameterRow.hpp>
 #include <parameters/rows/RowLayout.hpp>
@@ -106,7 +107,6 @@ protected:
 
 private:
     struct Entry {
-        QString name;
         Kolt::ParameterRef parameter;
         ParameterRow* row = nullptr;
     };
@@ -127,11 +127,14 @@ private:
     /// Like `arrange`, but the first row that the user sees stays in its place.
     void arrangeInPlace();
     void makeVisibleRows();
+    /// Makes rows that are in sight when those above them have the heights that they ask for. False if there is none.
+    bool makeSeenRows();
     void dropFarRows();
     int visibleTop() const;
     int visibleBottom() const;
-    /// The row at a place, made if it does not exist; null for one that is not shown, or whose parameter is gone.
-    ParameterRow* shownRow(std::size_t place);
+    /// The row at a place, made if it does not exist; null for one that is not shown, or whose parameter is gone, and
+    /// for one that does not exist and would have no control that takes the focus.
+    ParameterRow* focusRow(std::size_t place);
 
     QString const objectName_;
     PoolSourceRef const pools_;
@@ -150,6 +153,7 @@ private:
     bool editorsOpen_ = true;
     bool rawValuesShown_ = false;
     bool making_ = false;
+    FocusGuess focusGuess_;
 };
 
 } // namespace Talo

@@ -7,6 +7,7 @@
 namespace Talo {
 
 std::size_t RowLayout::addSection() {
+    isArranged_ = false;
     sections_.push_back({});
     sections_.back().firstRow = rows_.size();
     return sections_.size() - 1;
@@ -14,8 +15,9 @@ std::size_t RowLayout::addSection() {
 
 std::size_t RowLayout::addRow(std::size_t heightClass) {
     Row row;
-    row.section = sections_.size() - 1;
-    row.heightClass = heightClass;
+    isArranged_ = false;
+    row.section = static_cast<std::uint32_t>(sections_.size() - 1);
+    row.heightClass = static_cast<std::uint32_t>(heightClass);
     row.height = spacing_.unknownRowHeight;
     rows_.push_back(row);
     ++sections_.back().rowCount;
@@ -26,20 +28,42 @@ std::size_t RowLayout::addRow(std::size_t heightClass) {
 
 void RowLayout::setSectionMargins(std::size_t section, SectionMargins const& margins) {
     sections_[section].margins = margins;
+    isArranged_ = false;
 }
 
 bool RowLayout::setHeight(std::size_t row, int height) {
-    estimates_[rows_[row].heightClass] = height;
+    bool const isNewEstimate = std::exchange(estimates_[rows_[row].heightClass], height) != height;
     rows_[row].measured = true;
-    return std::exchange(rows_[row].height, height) != height;
+    bool const hasChanged = std::exchange(rows_[row].height, height) != height;
+    isArranged_ = isArranged_ && !isNewEstimate && !hasChanged;
+    return hasChanged;
 }
 
 void RowLayout::dropHeight(std::size_t row) {
-    rows_[row].measured = false;
+    auto& dropped = rows_[row];
+    dropped.measured = false;
+    auto const estimate = estimates_[dropped.heightClass];
+    isArranged_ = isArranged_ && (estimate == 0 || estimate == dropped.height);
+}
+
+void RowLayout::setFolded(std::size_t section, bool folded) {
+    if (std::exchange(sections_[section].folded, folded) != folded)
+        isArranged_ = false;
+}
+
+void RowLayout::setShown(std::size_t row, bool shown) {
+    if (std::exchange(rows_[row].shown, shown) != shown)
+        isArranged_ = false;
+}
+
+void RowLayout::setJoined(std::size_t row, bool joined) {
+    if (std::exchange(rows_[row].joined, joined) != joined)
+        isArranged_ = false;
 }
 
 void RowLayout::forgetEstimates() {
     std::fill(estimates_.begin(), estimates_.end(), 0);
+    isArranged_ = false;
 }
 
 std::size_t RowLayout::shownCount() const {
@@ -48,6 +72,8 @@ std::size_t RowLayout::shownCount() const {
 }
 
 void RowLayout::arrange() {
+    if (std::exchange(isArranged_, true))
+        return;
     int top = spacing_.top;
     for (auto& section : sections_) {
         section.top = top;

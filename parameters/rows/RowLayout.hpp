@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <set>
 #include <tessera/Export.hpp>
 #include <vector>
@@ -36,6 +37,8 @@ public:
     /// A form without sections.
     explicit RowLayout(Spacing const& spacing) : spacing_(spacing) {}
 
+    /// Makes room for that many rows, so that adding them moves none.
+    void reserve(std::size_t rows) { rows_.reserve(rows); }
     /// Adds a section at the end and returns its number.
     std::size_t addSection();
     /// Adds a row at the end of the last section and returns its number. REQUIRES: a section. Rows of one height class
@@ -51,14 +54,15 @@ public:
     /// Forgets the estimates, as after a change of the font.
     void forgetEstimates();
     /// Of a folded section only its title is seen, if it has a shown row. Sections are open at first.
-    void setFolded(std::size_t section, bool folded) { sections_[section].folded = folded; }
+    void setFolded(std::size_t section, bool folded);
     /// A row that is not shown takes no room. Rows are shown at first.
-    void setShown(std::size_t row, bool shown) { rows_[row].shown = shown; }
+    void setShown(std::size_t row, bool shown);
 
     /// Puts a row beside the one before it, or below it, as it is at first. The first row of a section stays below.
-    void setJoined(std::size_t row, bool joined) { rows_[row].joined = joined; }
+    void setJoined(std::size_t row, bool joined);
 
-    /// Computes the places of all rows and sections. To be called after changes, before places are asked for.
+    /// Computes the places of all rows and sections. To be called after changes, before places are asked for; without
+    /// one since the last call it does nothing.
     void arrange();
 
     /// The number of rows, shown or not.
@@ -79,6 +83,10 @@ public:
     int top(std::size_t row) const { return rows_[row].top; }
     /// The height of the row's place, measured or estimated; 0 for one that is not shown, nor any row beside it.
     int height(std::size_t row) const { return rows_[row].placeHeight; }
+    /// The height of the row itself, measured or estimated, wherever the rows beside it end. Known at once.
+    int ownHeight(std::size_t row) const { return rows_[row].height; }
+    /// The height class of the row.
+    std::size_t heightClassOf(std::size_t row) const { return rows_[row].heightClass; }
     /// Where the row ends, from the top of the form.
     int bottom(std::size_t row) const { return top(row) + height(row); }
     /// Where the section begins, from the top of the form.
@@ -93,9 +101,10 @@ public:
     std::size_t firstRowBelow(int y) const;
 
 private:
+    // A form has a hundred thousand of them.
     struct Row {
-        std::size_t section = 0;
-        std::size_t heightClass = 0;
+        std::uint32_t section = 0;
+        std::uint32_t heightClass = 0;
         int top = 0;
         int height = 0;
         int placeHeight = 0;
@@ -123,6 +132,7 @@ private:
     // By class; 0 for one of which no row was measured.
     std::vector<int> estimates_;
     int totalHeight_ = 0;
+    bool isArranged_ = false;
 };
 
 } // namespace Talo

@@ -86,14 +86,13 @@ void RowName::hideModified() {
     if (!indicator_)
         return;
     indicator_->hide();
-    keepIndicatorRoom();
 }
 
 void RowName::keepIndicatorRoom() {
     if (!isComponent_)
         return;
     // An empty column has no distance to the others.
-    bool const isEmpty = !indicator_ || indicator_->isHidden();
+    bool const isEmpty = !indicator_;
     grid_->setColumnMinimumWidth(IndicatorColumn, ModifiedIndicator::side(*label_) + (isEmpty ? indicatorDistance : 0));
 }
 

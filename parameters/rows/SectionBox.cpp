@@ -1,10 +1,10 @@
 #include <parameters/rows/SectionBox.hpp>
 
 #include <QContextMenuEvent>
-#include <QImage>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPaintEvent>
 #include <QStyleOptionGroupBox>
-#include <QStylePainter>
 
 namespace Talo {
 
@@ -26,62 +26,35 @@ int SectionBox::foldedHeight() const {
     return contentsMargins().top();
 }
 
-QColor SectionBox::insideColour() const {
-    // Large enough to have an inside under any title.
-    constexpr QSize size(200, 100);
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QStyleOptionGroupBox option;
-    initStyleOption(&option);
-    option.rect = {QPoint(), size};
-    auto const inside = style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this);
-    option.subControls = QStyle::SC_GroupBoxFrame;
-    QPainter painter(&image);
-    style()->drawComplexControl(QStyle::CC_GroupBox, &option, &painter, this);
-    painter.end();
-    auto const colour = image.pixelColor(inside.center());
-    QImage filled(image.size(), image.format());
-    filled.fill(colour);
-    return image.copy(inside) == filled.copy(inside) ? colour : QColor();
-}
-
 void SectionBox::changeEvent(QEvent* event) {
     QGroupBox::changeEvent(event);
-    inside_.reset();
+    frame_.forget();
 }
 
 void SectionBox::paintEvent(QPaintEvent* event) {
-    QStylePainter painter(this);
-    // Some styles load a picture for each frame that they paint, and most changes are within it.
-    if (!isFolded_ && contentsRect().contains(event->rect())) {
-        if (!inside_)
-            inside_ = insideColour();
-        if (inside_->isValid()) {
-            painter.fillRect(event->rect(), *inside_);
-            return;
-        }
-    }
+    QPainter painter(this);
     QStyleOptionGroupBox option;
     initStyleOption(&option);
+    if (!isFolded_)
+        frame_.paint(painter, option, event->rect(), *this);
+    // Most changes are below the title.
+    if (!title().isEmpty() && event->rect().top() < foldedHeight())
+        paintTitle(painter, option);
+}
+
+void SectionBox::paintTitle(QPainter& painter, QStyleOptionGroupBox const& option) const {
     // Where the style has them, with room for a check box, in whose place the arrow is.
     auto const partOf = [&](QStyle::SubControl part) {
         return style()->subControlRect(QStyle::CC_GroupBox, &option, part, this);
     };
-    auto const label = partOf(QStyle::SC_GroupBoxLabel);
+    style()->drawItemText(&painter, partOf(QStyle::SC_GroupBoxLabel), Qt::AlignCenter, palette(), isEnabled(), title(),
+                          QPalette::WindowText);
     QStyleOption arrow;
     arrow.initFrom(this);
     arrow.rect = partOf(QStyle::SC_GroupBoxCheckBox);
-    if (!isFolded_) {
-        auto frame = option;
-        frame.subControls = QStyle::SC_GroupBoxFrame;
-        painter.drawComplexControl(QStyle::CC_GroupBox, frame);
-    }
-    if (title().isEmpty())
-        return;
-    painter.drawItemText(label, Qt::AlignCenter, palette(), isEnabled(), title(), QPalette::WindowText);
     auto const aside =
         layoutDirection() == Qt::LeftToRight ? QStyle::PE_IndicatorArrowRight : QStyle::PE_IndicatorArrowLeft;
-    painter.drawPrimitive(isFolded_ ? aside : QStyle::PE_IndicatorArrowDown, arrow);
+    style()->drawPrimitive(isFolded_ ? aside : QStyle::PE_IndicatorArrowDown, &arrow, &painter, this);
 }
 
 bool SectionBox::isOnTitle(QPoint const& place) const {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <optional>
-#include <QColor>
+#include <parameters/rows/BoxFrame.hpp>
 #include <QGroupBox>
 #include <tessera/Export.hpp>
 
@@ -39,12 +38,11 @@ protected:
 
 private:
     bool isOnTitle(QPoint const& place) const;
-    QColor insideColour() const;
+    void paintTitle(QPainter& painter, QStyleOptionGroupBox const& option) const;
 
     bool isFolded_ = false;
     bool isPressed_ = false;
-    // What the style fills the frame with; invalid if that is more than one colour. Empty until it is asked for.
-    std::optional<QColor> inside_;
+    BoxFrame frame_;
 };
 
 } // namespace Talo
