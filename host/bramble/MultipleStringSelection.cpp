@@ -27,13 +27,13 @@ std::size_t MultipleStringSelection::firstPlace(std::string const& text) const {
 void MultipleStringSelection::add(std::string const& text) {
     auto const place = firstPlace(text);
     if (place < size())
-        chosen_[place] = true;
+        chosen_.set(place, true);
 }
 
 void MultipleStringSelection::addOrRemove(std::string const& text) {
     auto const place = firstPlace(text);
     if (place < size())
-        chosen_[place] = !chosen_[place];
+        chosen_.set(place, !chosen_[place]);
 }
 
 bool MultipleStringSelection::isInSelection(std::string const& text) const {
@@ -44,11 +44,11 @@ bool MultipleStringSelection::isInSelection(std::string const& text) const {
 void MultipleStringSelection::removeFromSelection(std::string const& text) {
     auto const place = firstPlace(text);
     if (place < size())
-        chosen_[place] = false;
+        chosen_.set(place, false);
 }
 
 void MultipleStringSelection::addAll() {
-    chosen_.assign(size(), true);
+    chosen_.setAll(true);
 }
 
 void MultipleStringSelection::invertAll() {
@@ -56,7 +56,7 @@ void MultipleStringSelection::invertAll() {
 }
 
 void MultipleStringSelection::removeAll() {
-    chosen_.assign(size(), false);
+    chosen_.setAll(false);
 }
 
 std::size_t MultipleStringSelection::chosenCount() const {
@@ -67,13 +67,14 @@ std::size_t MultipleStringSelection::chosenCount() const {
 }
 
 bool MultipleStringSelection::hasSameChoice(MultipleStringSelection const& other) const {
-    if (!hasSameTexts(other))
-        return false;
-    for (std::size_t place = 0; place < size(); ++place) {
-        if (chosen_[place] != other.chosen_[place] && block().firstPlace(place) == place)
-            return false;
-    }
-    return true;
+    return hasSameTexts(other) && firstDifference(other) == size();
+}
+
+std::size_t MultipleStringSelection::firstDifference(MultipleStringSelection const& other) const {
+    auto place = chosen_.firstDifference(other.chosen_);
+    while (place < size() && block().firstPlace(place) != place)
+        place = chosen_.firstDifference(other.chosen_, place + 1);
+    return place;
 }
 
 Tessera::StrongPtr<Tessera::StringList> MultipleStringSelection::clone() const {
@@ -116,6 +117,10 @@ VMultipleStringList VValueTrait<VMultipleStringList>::Clone(VMultipleStringList 
 
 bool VValueTrait<VMultipleStringList>::Equal(VMultipleStringList const& left, VMultipleStringList const& right) {
     return left && right ? left->hasSameChoice(*right) : !left && !right;
+}
+
+std::size_t VValueTrait<VMultipleStringList>::ByteCount(VMultipleStringList const& value) {
+    return value ? sizeof *value + value->choiceBytes() : 0;
 }
 
 template class VTypedValueBase<VMultipleStringList>;

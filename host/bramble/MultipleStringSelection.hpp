@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bramble/ChoiceBits.hpp>
 #include <lattice/Value.hpp>
 #include <tessera/StringList.hpp>
 
@@ -9,8 +10,8 @@ namespace Kolt {
 /// chosen together.
 ///
 /// Values refer to a selection, and it is changed in place: all that share it see the change at once, and it notifies
-/// nobody by itself. An operation on one text does not depend on the length of the list; a clone shares the texts and
-/// costs one bit a text. User-interface thread. Prints nothing.
+/// nobody by itself. An operation on one text does not depend on the length of the list; a clone shares the texts
+/// and what of the choice is equal (ChoiceBits). User-interface thread. Prints nothing.
 class TALO_EXPORT MultipleStringSelection : public Tessera::StringList {
 public:
     /// Nothing is chosen at first.
@@ -25,6 +26,13 @@ public:
     void addOrRemove(std::string const& text);
     /// Whether a text is chosen; false for a text that is not in the list.
     bool isInSelection(std::string const& text) const;
+    /// Whether the text at a place is chosen. REQUIRES: `place` is below size().
+    bool isChosen(std::size_t place) const { return chosen_[block().firstPlace(place)]; }
+    /// The first place of a text that only one of both chose; size() if there is none. REQUIRES: both have the same
+    /// texts.
+    std::size_t firstDifference(MultipleStringSelection const& other) const;
+    /// The bytes of the choice that no clone shares.
+    std::size_t choiceBytes() const { return chosen_.byteCount(); }
     /// Removes a text from the choice. A text that is not chosen changes nothing.
     void removeFromSelection(std::string const& text);
     /// Chooses every text.
@@ -46,7 +54,7 @@ private:
     std::size_t firstPlace(std::string const& text) const;
 
     // By place; only the bit at the first place of a text counts.
-    std::vector<bool> chosen_;
+    ChoiceBits chosen_;
     // After the text last asked for. Most callers walk through the list in order, and the next text is found without a
     // search, which in a long list waits for the memory.
     mutable std::size_t nextPlace_ = 0;
@@ -66,6 +74,8 @@ struct TALO_EXPORT VValueTrait<VMultipleStringList> {
     static bool setValueFromText(VMultipleStringList& value, std::string const& text);
     /// A selection of its own that shares the texts.
     static VMultipleStringList Clone(VMultipleStringList const& value);
+    /// Of the choice without the texts.
+    static std::size_t ByteCount(VMultipleStringList const& value);
     /// Whether both have the same texts and chose the same ones, or both are null.
     static bool Equal(VMultipleStringList const& left, VMultipleStringList const& right);
 };

@@ -42,6 +42,10 @@ bool VValueTrait<VStringList>::Equal(VStringList const& left, VStringList const&
     return Tessera::sameTexts(left.get(), right.get()) && (!left || left->selected() == right->selected());
 }
 
+std::size_t VValueTrait<VStringList>::ByteCount(VStringList const& value) {
+    return value ? sizeof *value + value->selected().size() : 0;
+}
+
 template class VTypedValueBase<VStringList>;
 template class VValue<VStringList>;
 

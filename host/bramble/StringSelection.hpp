@@ -43,6 +43,8 @@ struct TALO_EXPORT VValueTrait<VStringList> {
     static VStringList Clone(VStringList const& value);
     /// Whether both have the same texts and selected the same one, or both are null.
     static bool Equal(VStringList const& left, VStringList const& right);
+    /// Of the selection without its texts.
+    static std::size_t ByteCount(VStringList const& value);
 };
 
 extern template class TALO_EXPORT VTypedValueBase<VStringList>;

@@ -2,7 +2,9 @@
 
 #include <lattice/ManagedObject.hpp>
 #include <lattice/Slot.hpp>
+#include <memory>
 #include <tessera/Export.hpp>
+#include <unordered_map>
 
 namespace Kolt {
 
@@ -18,7 +20,8 @@ public:
     void addParameter(ParameterPtr const& parameter);
     /// Removes a parameter, which is destroyed unless somebody else holds it. Ignored if the object does not have it.
     void removeParameter(ParameterPtr const& parameter);
-    /// The first parameter with the name, found in linear time; null if there is none.
+    /// The first parameter with the name; null if there is none. In a long list only the first search after a
+    /// parameter was added or removed depends on the number of parameters.
     ParameterPtr findParameter(std::string const& name) const;
     /// In the order in which they were added.
     std::vector<ParameterPtr> const& parameters() const { return parameters_; }
@@ -32,6 +35,8 @@ private:
     void leave(VParameter& parameter) const;
 
     std::vector<ParameterPtr> parameters_;
+    // The first place of each name; null until a long list is searched.
+    mutable std::unique_ptr<std::unordered_map<std::string, std::size_t>> places_;
 };
 
 using ObjectPtr = Tessera::StrongPtr<VObject, VManagedObjectBase>;

@@ -44,6 +44,8 @@ public:
 
     /// The name, UTF-8. In a name with dots the part after the last one names the parameter, the rest its group.
     std::string Name() const { return name_; }
+    /// The object that has the parameter: of several the one that it was added to last. Null for none.
+    VObject const* object() const { return object_; }
     /// "object.parameter", for messages; the name alone while no object has the parameter.
     std::string fullName() const;
     /// The readable name of the type by which editors are chosen.

@@ -1,6 +1,7 @@
 #include <lattice/UndoHistory.hpp>
 
 #include <algorithm>
+#include <numeric>
 #include <tessera/NoDestructor.hpp>
 
 namespace Kolt {
@@ -73,6 +74,7 @@ void UndoHistory::record(ValueChange const& change) {
     bool const joins = !steps_.empty() && steps_.back()->awaitsChangeOf(change);
     auto& step = joins ? *steps_.back() : currentStep();
     step.add(change);
+    trim();
     changed();
 }
 
@@ -103,6 +105,7 @@ bool UndoHistory::store(ParameterPtr const& parameter, PoolPtr const& pool, Effe
         return true;
     if (auto* const step = continueStepOf(cause)) {
         step->add(change);
+        trim();
         changed();
     } else {
         record(change);
@@ -244,6 +247,7 @@ void UndoHistory::clear() {
     auto const undone = std::exchange(undone_, {});
     auto const undoneBeforeOpen = std::exchange(undoneBeforeOpen_, {});
     open_.reset();
+    forgotten_ = 0;
     changed();
 }
 
@@ -270,12 +274,26 @@ UndoStep& UndoHistory::currentStep() {
 }
 
 void UndoHistory::insert(OwnStep const& step) {
-    // Destroyed last: the destructor of a record may do anything.
-    auto const oldest = steps_.size() >= Capacity ? steps_.front() : nullptr;
-    if (oldest)
-        steps_.pop_front();
     steps_.push_back(step);
     ++inserted_;
+    trim();
+}
+
+void UndoHistory::trim() {
+    // Destroyed last: the destructor of a record may do anything.
+    std::vector<OwnStep> oldest;
+    for (auto bytes = byteCount(); steps_.size() > Capacity || (bytes > ByteCapacity && steps_.size() > 1);) {
+        bytes -= steps_.front()->byteCount();
+        oldest.push_back(steps_.front());
+        steps_.pop_front();
+        ++forgotten_;
+    }
+}
+
+std::size_t UndoHistory::byteCount() const {
+    auto const add = [](std::size_t bytes, OwnStep const& step) { return bytes + step->byteCount(); };
+    return std::accumulate(undone_.begin(), undone_.end(),
+                           std::accumulate(steps_.begin(), steps_.end(), std::size_t{0}, add), add);
 }
 
 void UndoHistory::remove(OwnStep const& step) {

@@ -20,6 +20,9 @@ class TALO_EXPORT UndoHistory : public Tessera::ReferenceBase<UndoHistory> {
 public:
     /// How many steps are kept. A full history forgets its oldest step with each new one.
     static constexpr std::size_t Capacity = 1000;
+    /// How many bytes the values of the steps may take (byteCount). A history with more forgets its oldest steps, but
+    /// never the latest one.
+    static constexpr std::size_t ByteCapacity = std::size_t{64} << 20;
 
     /// A step, which lives as long as somebody refers to it.
     using Step = std::shared_ptr<UndoStep const>;
@@ -83,6 +86,11 @@ public:
     /// The step that the next redo() takes; null for none.
     Step nextRedo() const;
 
+    /// About how many bytes of memory the steps take, the undone ones included (UndoStep::byteCount).
+    std::size_t byteCount() const;
+    /// How many steps were forgotten because the history was full, since it was cleared last.
+    std::size_t forgottenSteps() const { return forgotten_; }
+
     /// Forgets the records for which `predicate` is true. A step keeps its changes of values and can still be undone; a
     /// step without changes is removed with its last record.
     void forget(std::function<bool(VUndoAction const&)> const& predicate);
@@ -118,10 +126,13 @@ private:
     /// The latest step, if it changed the parameter, which then has no undone steps after it; null otherwise.
     UndoStep* continueStepOf(ParameterRef const& cause);
     void insert(OwnStep const& step);
+    /// Forgets the oldest steps of a history that is full.
+    void trim();
     void remove(OwnStep const& step);
     void changed() const;
 
     std::deque<OwnStep> steps_;
+    std::size_t forgotten_ = 0;
     // Counts the steps ever inserted, so that undo and redo notice one that was recorded meanwhile.
     unsigned long inserted_ = 0;
     // The last one is redone first.

@@ -1,6 +1,7 @@
 #include <lattice/UndoStep.hpp>
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace Kolt {
 
@@ -59,7 +60,17 @@ std::string UndoStep::description() const {
 }
 
 bool UndoStep::hasChanged(ParameterRef const& parameter) const {
-    return std::any_of(changes_.begin(), changes_.end(), [&](auto const& change) { return change.isOf(parameter); });
+    if (places_.empty())
+        return !changes_.empty() && changes_.front().isOf(parameter);
+    auto const found = places_.lower_bound({parameter.identity(), nullptr});
+    return found != places_.end() && found->first.first == parameter.identity();
+}
+
+std::size_t UndoStep::placeOf(ValueChange const& change) const {
+    if (places_.empty())
+        return !changes_.empty() && changes_.front().hasSameTarget(change) ? 0 : changes_.size();
+    auto const found = places_.find(change.target());
+    return found == places_.end() ? changes_.size() : found->second;
 }
 
 bool UndoStep::knowsChangeOf(Record const& record) const {
@@ -67,13 +78,18 @@ bool UndoStep::knowsChangeOf(Record const& record) const {
 }
 
 void UndoStep::add(ValueChange const& change) {
-    auto const known =
-        std::find_if(changes_.begin(), changes_.end(), [&](auto const& each) { return each.hasSameTarget(change); });
-    if (known == changes_.end())
-        changes_.push_back(change);
-    else
-        known->mergeWith(change);
     awaitsChange_ = false;
+    auto const known = placeOf(change);
+    if (known < changes_.size()) {
+        changes_[known].mergeWith(change);
+        return;
+    }
+    if (changes_.size() == 1)
+        places_.emplace(changes_.front().target(), 0);
+    if (!changes_.empty())
+        places_.emplace(change.target(), known);
+    changes_.push_back(change);
+    bytes_ += sizeof change + change.before().value->byteCount();
 }
 
 bool UndoStep::changesNothing() const {
@@ -91,14 +107,15 @@ bool UndoStep::undo() {
     auto const changes = changes_;
     // A record can be undone once.
     auto const records = std::exchange(records_, {});
+    // The oldest record of a value restores the start; the later ones would restore states in between.
+    std::unordered_map<void const*, Record const*> oldest;
+    for (auto const& record : records)
+        oldest.emplace(record.parameter.identity(), &record);
     for (auto change = changes.rbegin(); change != changes.rend(); ++change) {
         if (!change->isPossible())
             continue;
-        // The oldest record of a value restores the start; the later ones would restore states in between.
-        auto const oldest = std::find_if(records.begin(), records.end(),
-                                         [&](auto const& record) { return change->isOf(record.parameter); });
-        if (oldest != records.end())
-            oldest->action->undo();
+        if (auto const known = oldest.find(change->target().first); known != oldest.end())
+            known->second->action->undo();
         // The record may fail, as when its editor was destroyed.
         done = change->undo() || done;
     }

@@ -2,7 +2,9 @@
 
 #include <lattice/Parameter.hpp>
 #include <lattice/ValueSnapshot.hpp>
+#include <map>
 #include <tessera/Export.hpp>
+#include <utility>
 
 namespace Kolt {
 
@@ -29,6 +31,9 @@ public:
 
     /// Whether it is a change of this parameter.
     bool isOf(ParameterRef const& parameter) const { return parameter_ == parameter; }
+    /// What the change is of. Only compared: two changes have the same one if they are of the same parameter in the
+    /// same pool.
+    std::pair<void const*, void const*> target() const { return {parameter_.identity(), pool_.identity()}; }
     /// Whether both change the same parameter in the same pool.
     bool hasSameTarget(ValueChange const& other) const {
         return parameter_ == other.parameter_ && pool_ == other.pool_;
@@ -72,6 +77,9 @@ public:
     std::vector<ValueChange> const& changes() const { return changes_; }
     /// Whether it changed a parameter, in whatever pool.
     bool hasChanged(ParameterRef const& parameter) const;
+    /// About how many bytes of memory the step takes. Of each change the value before it counts: the one after it is
+    /// that of the parameter, or is counted by the next step.
+    std::size_t byteCount() const { return bytes_; }
     /// The step for people, UTF-8: its first change as "iterations: 400 → 500", or the description of its first record.
     std::string description() const;
 
@@ -82,6 +90,8 @@ private:
         ParameterRef parameter;
     };
     bool knowsChangeOf(Record const& record) const;
+    /// The place of the change with this target; the number of changes if there is none.
+    std::size_t placeOf(ValueChange const& change) const;
     void add(ValueChange const& change);
     /// Whether all values are the same before and after the step.
     bool changesNothing() const;
@@ -93,6 +103,9 @@ private:
     void discardLocalValues();
 
     std::vector<ValueChange> changes_;
+    // The places of the changes by ValueChange::target; empty as long as there is one.
+    std::map<std::pair<void const*, void const*>, std::size_t> places_;
+    std::size_t bytes_ = 0;
     // In the order in which they were handed over.
     std::vector<Record> records_;
     bool awaitsChange_ = false;

@@ -19,6 +19,12 @@ public:
     [[nodiscard]] virtual bool get(T& out) const = 0;
     /// Stores a value. Returns whether it was accepted. Nobody is notified.
     virtual bool set(T const& value) = 0;
+    /// The value without a copy, if the object keeps it as a whole, else a copy; null if it cannot be read. What it
+    /// refers to may be changed in place.
+    [[nodiscard]] virtual std::shared_ptr<T const> shared() const {
+        auto copy = std::make_shared<T>();
+        return get(*copy) ? copy : nullptr;
+    }
     /// Whether the stored value equals this one, as VValueTrait compares; false if the value cannot be read.
     virtual bool holds(T const& value) const {
         T own{};
@@ -27,8 +33,8 @@ public:
 
     std::type_info const& valueType() const override { return typeid(T); }
     std::string Text() const override {
-        T value{};
-        return get(value) ? VValueTrait<T>::Text(value) : std::string();
+        auto const value = shared();
+        return value ? VValueTrait<T>::Text(*value) : std::string();
     }
     bool setValueFromText(std::string const& text) override {
         T value{};
@@ -37,8 +43,8 @@ public:
     }
     bool equals(VValueBase const& other) const override {
         auto const* const typed = dynamic_cast<VTypedValueBase const*>(&other);
-        T value{};
-        return typed && typed->get(value) && holds(value);
+        auto const value = typed ? typed->shared() : nullptr;
+        return value && holds(*value);
     }
     bool assign(VValueBase const& other) override {
         auto const* const typed = dynamic_cast<VTypedValueBase const*>(&other);
@@ -66,9 +72,11 @@ public:
         auto const old = std::atomic_exchange(&content_, share(value));
         return true;
     }
+    std::shared_ptr<T const> shared() const override { return content(); }
     // Compared in place, so that a long text is not copied.
     bool holds(T const& value) const override { return VValueTrait<T>::Equal(*content(), value); }
     ValuePtr clone() const override { return ValuePtr(new VValue(VValueTrait<T>::Clone(*content()))); }
+    std::size_t byteCount() const override { return sizeof *this + sizeof(T) + FurtherBytes<T>::of(*content()); }
 
 private:
     // Not inline: what destroys the content must be in the library that has the template, not in one that is unloaded
@@ -112,6 +120,14 @@ template <typename T>
 template <typename T>
 [[nodiscard]] std::optional<T> valueIn(ValuePtr const& value) {
     return valueIn<T>(value.get());
+}
+
+/// The T in a value object without a copy, if the object keeps it as a whole (VTypedValueBase::shared); null where
+/// valueIn is empty.
+template <typename T>
+[[nodiscard]] std::shared_ptr<T const> sharedValueIn(VValueBase const* value) {
+    auto const* const typed = typedValue<T>(value);
+    return typed ? typed->shared() : nullptr;
 }
 
 /// The T in a value object; `fallback` where valueIn is empty.

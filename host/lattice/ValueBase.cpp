@@ -15,6 +15,10 @@ bool VValueBase::isEdited() const {
     return true;
 }
 
+std::size_t VValueBase::byteCount() const {
+    return sizeof *this;
+}
+
 Tessera::StrongPtr<Tessera::InterfaceBase> VValueBase::getInterface() const {
     return nullptr;
 }

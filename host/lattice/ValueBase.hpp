@@ -41,6 +41,9 @@ public:
     virtual bool assign(VValueBase const& other) = 0;
     /// Whether people edit values of this kind; VTypedValueBase answers with IsEditedType<T>.
     virtual bool isEdited() const;
+    /// About how many bytes of memory the value takes by itself; what it shares with its clones is left out. A history
+    /// counts them. Any thread where the value may be read on any.
+    virtual std::size_t byteCount() const;
     /// An interface that the value carries; null unless a derived class has one.
     virtual Tessera::StrongPtr<Tessera::InterfaceBase> getInterface() const;
 

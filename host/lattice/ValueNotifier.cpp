@@ -65,6 +65,8 @@ void ValueNotifier::stopNotifications() {
     guard_->close();
 }
 
+void ValueNotifier::onListGone() {}
+
 void ValueNotifier::notify(ValuePtr const& newValue, VContext const& context) {
     // A notifier may destroy itself.
     auto const guard = guard_;
@@ -73,7 +75,13 @@ void ValueNotifier::notify(ValuePtr const& newValue, VContext const& context) {
 
 ValueNotifierList::ValueNotifierList() = default;
 
-ValueNotifierList::~ValueNotifierList() = default;
+ValueNotifierList::~ValueNotifierList() {
+    if (!hasListeners())
+        return;
+    for (auto const& guard : snapshot())
+        if (auto* const notifier = guard->notifier())
+            notifier->onListGone();
+}
 
 void ValueNotifierList::addNotifier(Tessera::WeakPtr<ValueNotifier> const& notifier) const {
     auto const living = notifier.strong();

@@ -33,6 +33,10 @@ public:
     /// thread is notifying this notifier at that moment, that one calls.
     virtual void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) = 0;
 
+    /// A list that contains the notifier, such as a parameter, is being destroyed: no strong reference to it can be
+    /// made any more, but it may still count as alive. Called on the thread that destroys it. Does nothing.
+    virtual void onListGone();
+
     /// Notifies this notifier alone, as a list that contains it would. The context holds the pool, as above.
     void notify(ValuePtr const& newValue, VContext const& context);
 
@@ -60,6 +64,7 @@ private:
 class TALO_EXPORT ValueNotifierList : public Tessera::ReferenceBase<ValueNotifierList> {
 public:
     ValueNotifierList();
+    /// Tells the notifiers that it is gone (ValueNotifier::onListGone).
     ~ValueNotifierList() override;
     ValueNotifierList(ValueNotifierList const&) = delete;
     ValueNotifierList& operator=(ValueNotifierList const&) = delete;

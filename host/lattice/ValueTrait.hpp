@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <tessera/Export.hpp>
 #include <type_traits>
+#include <utility>
 
 namespace Kolt {
 
@@ -40,6 +42,19 @@ template <typename T, typename = void>
 inline constexpr bool IsEditedType = true;
 template <typename T>
 inline constexpr bool IsEditedType<T, std::void_t<decltype(VValueTrait<T>::IsEdited)>> = VValueTrait<T>::IsEdited;
+
+/// How many bytes a value keeps beside itself: VValueTrait<T>::ByteCount(value); 0 where the trait does not say. What
+/// copies of the value share is left out.
+template <typename T, typename = void>
+struct FurtherBytes {
+    /// Of one value.
+    static std::size_t of(T const&) { return 0; }
+};
+template <typename T>
+struct FurtherBytes<T, std::void_t<decltype(VValueTrait<T>::ByteCount(std::declval<T const&>()))>> {
+    /// Of one value.
+    static std::size_t of(T const& value) { return VValueTrait<T>::ByteCount(value); }
+};
 
 /// Whether values of type T have a text: VValueTrait is specialised for it.
 template <typename T>
@@ -88,6 +103,8 @@ struct TALO_EXPORT VValueTrait<std::string> : ValueTraitDefaults<std::string> {
     static std::string Text(std::string const& value) { return value; }
     /// Reads a value from text; false, and the value unchanged, if the text is none.
     static bool setValueFromText(std::string& value, std::string const& text);
+    /// The characters.
+    static std::size_t ByteCount(std::string const& value) { return value.size(); }
     /// The preference name of a one-line text: "OneLine".
     static std::string OneLine();
     /// The preference name of a multi-line text: "MultiLine".
@@ -101,6 +118,8 @@ struct TALO_EXPORT VValueTrait<std::array<std::string, 1>> : ValueTraitDefaults<
     static std::string Text(std::array<std::string, 1> const& value) { return value[0]; }
     /// Reads a value from text; false, and the value unchanged, if the text is none.
     static bool setValueFromText(std::array<std::string, 1>& value, std::string const& text);
+    /// The characters of the element.
+    static std::size_t ByteCount(std::array<std::string, 1> const& value) { return value[0].size(); }
 };
 
 } // namespace Kolt

@@ -280,6 +280,9 @@ public:
     explicit operator bool() const noexcept { return alive(); }
     /// This pointer's serial number; 0 for one that was made empty.
     unsigned long id() const noexcept { return id_; }
+    /// Two references have the same identity if they are equal, so that maps can be searched for an object that may be
+    /// destroyed. Only compared, never used.
+    void const* identity() const noexcept { return control_; }
 
     /// Whether both refer to one object, even if it was destroyed. Two empty references are equal.
     template <typename U, typename C>

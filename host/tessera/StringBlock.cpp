@@ -1,5 +1,7 @@
 #include <tessera/StringBlock.hpp>
 
+#include <algorithm>
+
 namespace Tessera {
 
 StringBlock::StringBlock(std::vector<std::string> strings) : strings_(std::move(strings)) {}
@@ -23,6 +25,14 @@ std::size_t StringBlock::find(std::string_view text) const {
     auto const& places = index().places;
     auto const found = places.find(text);
     return found == places.end() ? strings_.size() : found->second;
+}
+
+std::size_t StringBlock::findLast(std::string_view text) const {
+    auto const first = find(text);
+    if (first == strings_.size() || index().firstPlaces.empty())
+        return first;
+    auto const last = std::find(strings_.rbegin(), strings_.rend(), text);
+    return static_cast<std::size_t>(strings_.rend() - last) - 1;
 }
 
 std::size_t StringBlock::firstPlace(std::size_t place) const {

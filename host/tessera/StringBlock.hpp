@@ -27,6 +27,9 @@ public:
     std::vector<std::string> const& strings() const { return strings_; }
     /// The first place of a text, from 0; the number of texts if it is not in the list. Compared byte for byte.
     std::size_t find(std::string_view text) const;
+    /// The last place of a text; the number of texts if it is not in the list. In a list in which no text occurs twice
+    /// it costs what find() does.
+    std::size_t findLast(std::string_view text) const;
     /// The first place of the text at `place`. REQUIRES: `place` is below the number of texts.
     std::size_t firstPlace(std::size_t place) const;
 

@@ -37,6 +37,8 @@ public:
     /// The first place of a text; size() if it is not in the list. Only the first search in a list and its clones
     /// depends on the number of texts.
     std::size_t find(std::string const& text) const { return block_->find(text); }
+    /// The last place of a text; size() if it is not in the list.
+    std::size_t findLast(std::string const& text) const { return block_->findLast(text); }
     /// Whether the text is in the list.
     bool contains(std::string const& text) const { return find(text) < size(); }
     /// Whether both have the same texts in the same order. Costs nothing for a list and its clone.

@@ -139,6 +139,26 @@ TEST_F(Objects, OwnTheirParametersInOrder) {
     EXPECT_FALSE(object_->findParameter("c"));
 }
 
+TEST_F(Objects, OfManyParametersEachIsFoundByItsName) {
+    constexpr int count = 1000;
+    for (int number = 0; number < count; ++number)
+        object_->addParameter(ParameterPtr(new VParameter("p" + std::to_string(number), makeValue(number))));
+    EXPECT_EQ(object_->findParameter("p999"), object_->parameters().back());
+    EXPECT_FALSE(object_->findParameter("a"));
+    object_->addParameter(a_);
+    EXPECT_EQ(object_->findParameter("a"), a_);
+    // The first one of a name.
+    object_->addParameter(ParameterPtr(new VParameter("a", makeValue(3))));
+    EXPECT_EQ(object_->findParameter("a"), a_);
+    object_->removeParameter(a_);
+    EXPECT_EQ(object_->findParameter("a"), object_->parameters().back());
+    object_->removeParameter(object_->parameters().front());
+    EXPECT_FALSE(object_->findParameter("p0"));
+    EXPECT_EQ(object_->findParameter("p1"), object_->parameters().front());
+    EXPECT_EQ(a_->object(), nullptr);
+    EXPECT_EQ(object_->parameters().back()->object(), object_.get());
+}
+
 TEST_F(Objects, AParameterThatIsGivenUpDies) {
     ParameterPtr passing(new VParameter("passing", makeValue(1)));
     Tessera::WeakPtr<VParameter, Kolt::ValueNotifierList> const watched(passing);

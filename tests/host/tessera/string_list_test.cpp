@@ -69,6 +69,14 @@ TEST_F(StringLists, OfEqualTextsAreTheSameWhateverTheyShare) {
     EXPECT_FALSE(Tessera::sameTexts(nullptr, &list));
 }
 
+TEST_F(StringLists, FindsTheLastOfEqualTexts) {
+    EXPECT_EQ(StringList({"a", "b", "a", "c"}).findLast("a"), 2U);
+    EXPECT_EQ(StringList({"a", "b", "a", "c"}).findLast("b"), 1U);
+    EXPECT_EQ(StringList({"a", "b", "a", "c"}).findLast("d"), 4U);
+    EXPECT_EQ(StringList({"a", "b"}).findLast("b"), 1U);
+    EXPECT_EQ(StringList().findLast(""), 0U);
+}
+
 TEST_F(StringLists, ABlockKnowsWhereEachTextIsFirst) {
     Tessera::StringBlock const repeated({"a", "b", "a", "b", "c"});
     std::vector<std::size_t> places;
