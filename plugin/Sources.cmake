@@ -21,6 +21,8 @@ set(editors
 )
 # What they share.
 set(plugin_sources
+    FilledTexts.cpp
+    FilledTexts.hpp
     FloatInterval.cpp
     FloatInterval.hpp
     IconFile.cpp

@@ -121,22 +121,19 @@ void qVMultipleStringList::showValue(ValuePtr const& value) {
         return;
 
     DrawingPause const pause(list_);
-    list_->clear();
-    QStringList texts;
-    texts.reserve(static_cast<int>(cached_->size()));
+    bool const isFilledAnew = fillRows();
     Rows chosen;
     chosen.reserve(cached_->size());
-    for (auto const& text : *cached_) {
-        texts.append(QString::fromStdString(text));
+    for (auto const& text : *cached_)
         chosen.push_back(cached_->isInSelection(text));
-    }
-    list_->insertItems(0, texts);
     int const lastChosen = lastOf(chosen);
-    // Of rows that are filled in one by one, the next row ends the selection of the one before.
-    bool const isLastRow = lastChosen != NoRow && lastChosen == rowCount() - 1;
-    if (isLastRow)
-        chosen.back() = false;
-    showRows(chosen, isLastRow ? lastChosen : NoRow, true);
+    if (isFilledAnew || chosen != selectedRows()) {
+        // Of rows that are filled in one by one, the next row ends the selection of the one before.
+        bool const isLastRow = lastChosen != NoRow && lastChosen == rowCount() - 1;
+        if (isLastRow)
+            chosen.back() = false;
+        showRows(chosen, isLastRow ? lastChosen : NoRow, true);
+    }
 
     auto const hint = list_->sizeHint();
     int const width = std::min(std::max(widthOfTexts(), hint.width()), QWIDGETSIZE_MAX);
@@ -149,6 +146,24 @@ void qVMultipleStringList::showValue(ValuePtr const& value) {
     setFixedSize(width, height);
     if (auto* const parent = parentWidget())
         parent->adjustSize();
+}
+
+bool qVMultipleStringList::fillRows() {
+    if (!list_->wasUsed && filled_.hold(list_->model(), *cached_)) {
+        // No row is current after a list was filled.
+        list_->selectionModel()->clearCurrentIndex();
+        return false;
+    }
+    filled_.forget();
+    list_->clear();
+    QStringList texts;
+    texts.reserve(static_cast<int>(cached_->size()));
+    for (auto const& text : *cached_)
+        texts.append(QString::fromStdString(text));
+    list_->insertItems(0, texts);
+    list_->wasUsed = false;
+    filled_.remember(list_->model(), cached_);
+    return true;
 }
 
 int qVMultipleStringList::widthOfTexts() {
@@ -320,6 +335,16 @@ void qVMultipleStringList::NoneButton::mousePressEvent(QMouseEvent* event) {
 void qVMultipleStringList::InverseButton::mousePressEvent(QMouseEvent* event) {
     QPushButton::mousePressEvent(event);
     owner->invertChoice();
+}
+
+void qVMultipleStringList::MyQListWidget::mousePressEvent(QMouseEvent* event) {
+    wasUsed = true;
+    QListWidget::mousePressEvent(event);
+}
+
+void qVMultipleStringList::MyQListWidget::keyPressEvent(QKeyEvent* event) {
+    wasUsed = true;
+    QListWidget::keyPressEvent(event);
 }
 
 void qVMultipleStringList::MyQListWidget::mouseReleaseEvent(QMouseEvent* event) {

@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <qVinputs/basics/FilledTexts.hpp>
 #include <vector>
 
 // moc takes no nested classes: clazy:excludeall=missing-qobject-macro
@@ -30,7 +31,8 @@ namespace Kolt {
 /// Rows chosen by the keyboard are committed with the next click. A click without a pool, or if the value refers to no
 /// choice, changes the view alone.
 ///
-/// A change from elsewhere fills the list anew, prints a line that says so, and fixes the widget's size so that the
+/// A change from elsewhere fills the list anew (a long one that nobody used since only with other texts), prints a line
+/// that says so, and fixes the widget's size so that the
 /// texts fit. The time of an action is linear in the number of rows. If the parameter was deleted, the list is empty.
 /// User-interface thread.
 class qVMultipleStringList : public QFrame, public VInputValue<VMultipleStringList> {
@@ -72,8 +74,12 @@ public:
     public:
         using QListWidget::QListWidget;
         qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
+        /// Whether it was pressed, by mouse or keyboard, since it was filled. Qt then remembers rows.
+        bool wasUsed = false;
 
     protected:
+        void mousePressEvent(QMouseEvent* event) override;
+        void keyPressEvent(QKeyEvent* event) override;
         void mouseReleaseEvent(QMouseEvent* event) override;
     };
 
@@ -121,6 +127,9 @@ private:
     void setToolTips(QLabel& wildcardLabel, QLabel& numberLabel);
     /// Shows a selection as it is filled in. Nothing for a value of another type, or one without a selection.
     void showValue(ValuePtr const& value);
+    /// Fills the list with the cached texts, with no row current. False if it was filled with equal texts before and
+    /// not used since, so that nothing was to be done; the rows are chosen as they were then.
+    bool fillRows();
     /// The width that the widest cached text asks for, in pixels. Texts that were measured before are not measured
     /// again.
     int widthOfTexts();
@@ -154,6 +163,7 @@ private:
     QPointer<QLineEdit> numberEdit_;
     QPointer<MyQListWidget> list_;
 
+    FilledTexts filled_;
     // The texts that were measured last, their font, and their width in pixels.
     VMultipleStringList measured_;
     QFont measuredFont_;

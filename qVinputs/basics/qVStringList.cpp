@@ -35,16 +35,23 @@ void qVStringList::fill() {
     if (!comboBox_)
         return;
     auto const selected = cached_->selected();
-    int current = 0;
-    int index = 0;
+    bool const isFilled = filled_.hold(comboBox_->model(), *cached_);
+    if (!isFilled)
+        fillEntries();
+    auto const place = cached_->findLast(selected);
+    comboBox_->setCurrentIndex(place < cached_->size() ? static_cast<int>(place) : 0);
+    // What was typed goes with the entries.
+    if (auto* const field = isFilled ? comboBox_->lineEdit() : nullptr)
+        field->setText(comboBox_->currentText());
+}
+
+void qVStringList::fillEntries() {
+    filled_.forget();
     comboBox_->clear();
-    for (auto const& text : *cached_) {
-        comboBox_->insertItem(index, QString::fromStdString(text));
-        if (text == selected)
-            current = index;
-        ++index;
-    }
-    comboBox_->setCurrentIndex(current);
+    int index = 0;
+    for (auto const& text : *cached_)
+        comboBox_->insertItem(index++, QString::fromStdString(text));
+    filled_.remember(comboBox_->model(), cached_);
 }
 
 void qVStringList::onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) {

@@ -8,6 +8,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QPointer>
+#include <qVinputs/basics/FilledTexts.hpp>
 
 namespace Kolt {
 
@@ -15,9 +16,9 @@ namespace Kolt {
 /// text in the list in place and commits the value. With the preference "editable" a text can be typed as well.
 ///
 /// A text that the list refuses, and any choice if the value refers to no list, prints "FAILED selecting element" and
-/// commits nothing. The box is filled anew on every change of the value from elsewhere; a text that is being typed
-/// stays. If no text is selected, it shows the first entry; of equal texts it shows the last one. If the parameter was
-/// deleted, it is empty. User-interface thread.
+/// commits nothing. The box is filled anew on every change of the value from elsewhere, a long one only with other
+/// texts; a text that is being typed stays. If no text is selected, it shows the first entry; of equal texts it shows
+/// the last one. If the parameter was deleted, it is empty. User-interface thread.
 class qVStringList : public QFrame, public VInputValue<VStringList> {
     Q_OBJECT
 
@@ -39,12 +40,15 @@ public slots:
 private:
     /// Shows the texts of the cached list, which is not null, and the selected one.
     void fill();
+    /// Fills the box with the texts of the cached list.
+    void fillEntries();
     /// Does so, but a text that is being typed stays.
     void refill();
 
     // The layout and the box are children. The box is null if it was deleted.
     QHBoxLayout* layout_;
     QPointer<QComboBox> comboBox_;
+    FilledTexts filled_;
 };
 
 } // namespace Kolt
