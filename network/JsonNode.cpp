@@ -246,66 +246,67 @@ void JsonNode::refuse(QString const& expected, QString const& found) const {
     throw FormatError{line_, "expected " + expected + ", found " + found};
 }
 
-QString JsonNode::text(QString const& what) const {
+QString JsonNode::text(Expectation const& what) const {
     if (!value_.isString())
-        refuse(what + ", a text");
+        refuse(what.text() + ", a text");
     if (!isWhole(text_))
-        refuse(what + ", a text of whole Unicode characters");
+        refuse(what.text() + ", a text of whole Unicode characters");
     return text_;
 }
 
-QString JsonNode::nonEmptyText(QString const& what) const {
+QString JsonNode::nonEmptyText(Expectation const& what) const {
     auto const read = text(what);
     if (read.isEmpty())
-        refuse(what + ", a text that is not empty");
+        refuse(what.text() + ", a text that is not empty");
     return read;
 }
 
-bool JsonNode::truth(QString const& what) const {
+bool JsonNode::truth(Expectation const& what) const {
     if (!value_.isBool())
-        refuse(what + ", true or false");
+        refuse(what.text() + ", true or false");
     return value_.toBool();
 }
 
-int JsonNode::integer(QString const& what) const {
+int JsonNode::integer(Expectation const& what) const {
     using Limits = std::numeric_limits<int>;
     auto const number = value_.toDouble(std::nan(""));
     if (!(number >= Limits::min() && number <= Limits::max() && std::trunc(number) == number))
-        refuse(what + QString(", a whole number from %1 to %2").arg(Limits::min()).arg(Limits::max()));
+        refuse(what.text() + QString(", a whole number from %1 to %2").arg(Limits::min()).arg(Limits::max()));
     return static_cast<int>(number);
 }
 
-double JsonNode::real(QString const& what) const {
+double JsonNode::real(Expectation const& what) const {
     if (value_.isDouble())
         return value_.toDouble();
     double number = 0.0;
     if (!QStringList{"nan", "inf", "-inf", "-0"}.contains(text_) ||
         !Kolt::VValueTrait<double>::setValueFromText(number, text_.toStdString()))
-        refuse(what + R"(, a number or one of "nan", "inf", "-inf", "-0")");
+        refuse(what.text() + R"(, a number or one of "nan", "inf", "-inf", "-0")");
     return number;
 }
 
-std::vector<JsonNode> const& JsonNode::elements(QString const& what) const {
+std::vector<JsonNode> const& JsonNode::elements(Expectation const& what) const {
     if (!value_.isArray())
-        refuse(what + ", a list");
+        refuse(what.text() + ", a list");
     return children_;
 }
 
-std::vector<JsonNode> const& JsonNode::members(QString const& what) const {
+std::vector<JsonNode> const& JsonNode::members(Expectation const& what) const {
     if (!value_.isObject())
-        refuse(what + ", an object");
+        refuse(what.text() + ", an object");
     return children_;
 }
 
-std::vector<JsonNode> const& JsonNode::members(QString const& what, std::initializer_list<char const*> known) const {
+std::vector<JsonNode> const& JsonNode::members(Expectation const& what,
+                                               std::initializer_list<char const*> known) const {
     for (auto const& member : members(what)) {
         if (std::any_of(known.begin(), known.end(), [&](auto const* key) { return member.key_ == QLatin1String(key); }))
             continue;
         QStringList keys;
         for (auto const* const key : known)
             keys << key;
-        throw FormatError{member.keyLine_, "expected only the keys " + keys.join(", ") + " in " + what + ", found " +
-                                               quoted(member.key_)};
+        throw FormatError{member.keyLine_, "expected only the keys " + keys.join(", ") + " in " + what.text() +
+                                               ", found " + quoted(member.key_)};
     }
     return children_;
 }
@@ -325,10 +326,10 @@ void JsonNode::release(char const* key) {
         found->children_ = {};
 }
 
-JsonNode const& JsonNode::required(char const* key, QString const& what) const {
+JsonNode const& JsonNode::required(char const* key, Expectation const& what) const {
     auto const* const found = find(key);
     if (!found)
-        refuse("the key " + quoted(key) + " in " + what, "none");
+        refuse("the key " + quoted(key) + " in " + what.text(), "none");
     return *found;
 }
 

@@ -15,6 +15,22 @@ struct TALO_EXPORT FormatError {
     QString text; ///< "expected ..., found ..."
 };
 
+/// The name of an expected thing, as "the name of a pool". That of a literal is made into a text only for an error, as
+/// a large file has a million of expectations that are met. Lives no longer than what it was made of.
+class Expectation {
+public:
+    /// A name in the source.
+    Expectation(char const* literal) : literal_(literal) {}
+    /// A name that was put together.
+    Expectation(QString const& text) : text_(&text) {}
+    /// The name.
+    QString text() const { return literal_ ? QString::fromUtf8(literal_) : *text_; }
+
+private:
+    char const* literal_ = nullptr;
+    QString const* text_ = nullptr;
+};
+
 /// A value of a JSON file, with the line in which it is. A function that asks for another type than the node has throws
 /// a FormatError; `what` is the name of the expected thing in its text ("the name of a pool"). Any thread.
 class TALO_EXPORT JsonNode {
@@ -31,25 +47,25 @@ public:
     bool isNull() const { return value_.isNull(); }
 
     /// The node as a text, which may be empty.
-    QString text(QString const& what) const;
+    QString text(Expectation const& what) const;
     /// A text that is not empty.
-    QString nonEmptyText(QString const& what) const;
+    QString nonEmptyText(Expectation const& what) const;
     /// The node as `true` or `false`.
-    bool truth(QString const& what) const;
+    bool truth(Expectation const& what) const;
     /// An integer in the range of int.
-    int integer(QString const& what) const;
+    int integer(Expectation const& what) const;
     /// A number, or one of the texts "nan", "inf", "-inf" and "-0", which JSON cannot write as numbers.
-    double real(QString const& what) const;
+    double real(Expectation const& what) const;
     /// The values of a list, in order.
-    std::vector<JsonNode> const& elements(QString const& what) const;
+    std::vector<JsonNode> const& elements(Expectation const& what) const;
     /// The values of an object, in the order of the file.
-    std::vector<JsonNode> const& members(QString const& what) const;
+    std::vector<JsonNode> const& members(Expectation const& what) const;
     /// The same; refuses an object with a key that is not among the known ones.
-    std::vector<JsonNode> const& members(QString const& what, std::initializer_list<char const*> known) const;
+    std::vector<JsonNode> const& members(Expectation const& what, std::initializer_list<char const*> known) const;
     /// The value under a key of an object; null when there is none.
     JsonNode const* find(char const* key) const;
     /// The value under a key of an object; refuses an object without it.
-    JsonNode const& required(char const* key, QString const& what) const;
+    JsonNode const& required(char const* key, Expectation const& what) const;
 
     /// Frees what is in the value under a key of an object, after it was read: of a large file that is most of what is
     /// kept. Nothing without the key.

@@ -26,14 +26,6 @@ constexpr std::uintmax_t largestFile = 64 << 20;
     throw FormatError{0, text};
 }
 
-/// The element of a list with the name; null when there is none.
-template <typename List>
-typename List::value_type findNamed(List const& list, QString const& name) {
-    auto const text = name.toStdString();
-    auto const found = std::find_if(list.begin(), list.end(), [&](auto const& each) { return each->Name() == text; });
-    return found == list.end() ? nullptr : *found;
-}
-
 /// Whether the parameter shows how something stands, which nobody saves.
 bool showsState(Kolt::VParameter const& parameter) {
     auto const* const format = formatOf(parameter);
@@ -93,7 +85,7 @@ std::unique_ptr<Network> Network::create(QString const& title, std::vector<std::
     std::unique_ptr<Network> network(new Network);
     network->title_ = title;
     for (auto const& name : poolNames)
-        network->pools_.emplace_back(new Kolt::ValuePool(name));
+        network->insertPool(name);
     return network;
 }
 
@@ -136,11 +128,22 @@ Kolt::ParameterPtr Network::findParameter(QString const& objectDotParameter) con
     return dot < 0 || !object ? nullptr : object->findParameter(objectDotParameter.mid(dot + 1).toStdString());
 }
 
+void Network::insertPool(std::string const& name) {
+    pools_.emplace_back(new Kolt::ValuePool(name));
+    poolsByName_.emplace(name, pools_.back());
+}
+
 Kolt::PoolPtr Network::findPool(QString const& name) const {
-    return findNamed(pools_, name);
+    auto const found = poolsByName_.find(name.toStdString());
+    return found == poolsByName_.end() ? nullptr : found->second;
 }
 
 QString Network::nameOf(Kolt::ParameterPtr const& parameter) const {
+    auto const* const holder = parameter ? parameter->object() : nullptr;
+    auto const known = holder ? byName_.find(holder->Name()) : byName_.end();
+    if (known != byName_.end() && known->second.get() == holder)
+        return QString::fromStdString(holder->Name() + '.' + parameter->Name());
+    // It may belong to several objects, or its object may have another name now.
     for (auto const& object : objects_) {
         auto const& all = object->parameters();
         if (parameter && std::find(all.begin(), all.end(), parameter) != all.end())
@@ -256,7 +259,7 @@ bool Network::save(QString const& file, QString* error) const {
     try {
         json = toJson(QFileInfo(file).absolutePath());
         // What was added since the file was loaded may be more than the format allows.
-        NetworkReader::read(JsonNode::parse(json), file);
+        NetworkReader::check(JsonNode::parse(json), file);
     } catch (FormatError const& problem) {
         return refused(problem.text);
     }

@@ -125,6 +125,8 @@ private:
 
     /// Adds an object and its kind, and nothing else.
     void insertObject(Kolt::ObjectPtr const& object, QString const& kind);
+    /// Adds a pool with a name that is not taken.
+    void insertPool(std::string const& name);
     /// Makes the actions that a parameter of the object holds, its own and those of the pools, call the handler.
     void connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const;
     bool isSaved(SavedValue const& saved) const;
@@ -146,6 +148,7 @@ private:
     QString title_;
     std::vector<Kolt::PoolPtr> pools_;
     std::vector<Kolt::ObjectPtr> objects_;
+    std::unordered_map<std::string, Kolt::PoolPtr> poolsByName_;
     // The first object of each name.
     std::unordered_map<std::string, Kolt::ObjectPtr> byName_;
     // What each object is for; no entry for an empty text.
@@ -154,6 +157,8 @@ private:
     std::map<Kolt::VParameter const*, SavedValue> displayed_;
     // What the file holds of the values that people edit.
     std::vector<SavedValue> saved_;
+    // The place of the one that was found to differ last. It nearly always still differs.
+    mutable std::size_t differing_ = 0;
     // Tells actions whether the network is alive.
     std::shared_ptr<Network*> const self_;
 };

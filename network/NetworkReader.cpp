@@ -5,6 +5,7 @@
 #include <network/JsonFormat.hpp>
 #include <network/PropertyFormat.hpp>
 #include <QStringList>
+#include <unordered_set>
 #include <utility>
 
 namespace Talo {
@@ -99,6 +100,11 @@ std::unique_ptr<Network> NetworkReader::read(JsonNode root, QString const& file,
     return std::move(reader.network_);
 }
 
+void NetworkReader::check(JsonNode root, QString const& file) {
+    ObjectFactory const makeObject;
+    NetworkReader(file, makeObject).readRoot(std::move(root));
+}
+
 void NetworkReader::readRoot(JsonNode root) {
     root.members("a network", {"objects", "pools", "title"});
     if (auto const* const title = root.find("title"))
@@ -126,7 +132,7 @@ void NetworkReader::readPool(JsonNode const& node) {
     auto const name = node.nonEmptyText("the name of a pool");
     if (network_->findPool(name))
         node.refuse("a pool name that is not taken", quoted(name) + " again");
-    network_->pools_.emplace_back(new Kolt::ValuePool(name.toStdString()));
+    network_->insertPool(name.toStdString());
 }
 
 void NetworkReader::readObject(JsonNode const& node) {
@@ -182,7 +188,7 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
 }
 
 void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& object, QString const& name) {
-    QString const what = "a parameter";
+    constexpr char const* what = "a parameter";
     node.members(what, {"entries", "name", "perPool", "preferences", "properties", "type", "value", "values"});
     auto const& format = readFormat(node.required("type", what));
     auto const entries = readEntries(node, format);
@@ -217,13 +223,15 @@ void NetworkReader::readPoolValues(JsonNode const& node, Kolt::VParameter const&
 }
 
 void NetworkReader::readSlots(JsonNode const& node, Kolt::ObjectPtr const& object) {
-    QString const what = "a slot";
+    constexpr char const* what = "a slot";
+    std::unordered_set<std::string> taken;
+    for (auto const& slot : object->slotList())
+        taken.insert(slot->Name());
     for (auto const& slotNode : node.elements("the slots")) {
         slotNode.members(what, {"name", "parameter"});
         auto const& nameNode = slotNode.required("name", what);
         auto const name = nameNode.nonEmptyText("the name of a slot").toStdString();
-        auto const& taken = object->slotList();
-        if (std::any_of(taken.begin(), taken.end(), [&](auto const& slot) { return slot->Name() == name; }))
+        if (!taken.insert(name).second)
             nameNode.refuse("a slot name that is not taken in the object",
                             quoted(QString::fromStdString(name)) + " again");
 

@@ -17,6 +17,9 @@ public:
     /// start; it need not exist. The factory makes the objects; an empty one makes objects that do nothing.
     static std::unique_ptr<Network> read(JsonNode root, QString const& file, ObjectFactory const& makeObject = {});
 
+    /// Throws a FormatError where `read` would.
+    static void check(JsonNode root, QString const& file);
+
 private:
     NetworkReader(QString const& file, ObjectFactory const& makeObject);
     /// Reads the network, and releases what was read.

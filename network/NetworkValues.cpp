@@ -97,7 +97,12 @@ bool Network::isSaved(SavedValue const& saved) const {
 }
 
 bool Network::isModified() const {
-    return !std::all_of(saved_.begin(), saved_.end(), [this](auto const& saved) { return isSaved(saved); });
+    if (differing_ < saved_.size() && !isSaved(saved_[differing_]))
+        return true;
+    auto const found =
+        std::find_if(saved_.begin(), saved_.end(), [this](auto const& saved) { return !isSaved(saved); });
+    differing_ = static_cast<std::size_t>(found - saved_.begin());
+    return found != saved_.end();
 }
 
 QByteArray Network::unsavedValues() const {

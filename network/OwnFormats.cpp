@@ -108,11 +108,15 @@ QJsonValue writeColour(Kolt::ValuePtr const& value) {
     });
 }
 
+[[noreturn]] void refuseEntry(JsonNode const& node, QString const& what) {
+    node.refuse(what + ", one of the entries");
+}
+
 /// One of the entries, by its text.
 std::string readEntry(JsonNode const& node, Entries const& entries, QString const& what) {
     auto const text = node.text(what).toStdString();
     if (std::find(entries.begin(), entries.end(), text) == entries.end())
-        node.refuse(what + ", one of the entries");
+        refuseEntry(node, what);
     return text;
 }
 
@@ -150,7 +154,11 @@ QJsonValue writeSelection(Kolt::ValuePtr const& value) {
 Kolt::ValuePtr readMultipleSelection(JsonNode const& node, Entries const& entries) {
     Kolt::VMultipleStringList const selection(new Kolt::MultipleStringSelection(entries));
     for (auto const& element : node.elements("a multiselection value")) {
-        auto const text = readEntry(element, entries, "a chosen text");
+        QString const what = "a chosen text";
+        auto const text = element.text(what).toStdString();
+        // By the index of the texts, as there may be as many as entries.
+        if (!selection->contains(text))
+            refuseEntry(element, what);
         if (selection->isInSelection(text))
             element.refuse("each chosen text once");
         selection->add(text);

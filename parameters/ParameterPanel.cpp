@@ -17,16 +17,12 @@
 #include <parameters/rows/RowArea.hpp>
 #include <QMenu>
 #include <QScrollBar>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <unordered_set>
 
 namespace Talo {
 
 namespace {
-
-// A deleted parameter is not signalled, so a visible panel looks for it. In milliseconds.
-constexpr int checkInterval = 250;
 
 std::vector<Kolt::ObjectPtr> withoutNull(std::vector<Kolt::ObjectPtr> objects) {
     objects.erase(std::remove(objects.begin(), objects.end(), nullptr), objects.end());
@@ -66,8 +62,6 @@ public:
         emptyNote->setMargin(12);
         emptyNote->setWordWrap(true);
         emptyNote->hide();
-        checkTimer.setInterval(checkInterval);
-        QObject::connect(&checkTimer, &QTimer::timeout, rows, &RowArea::checkParameters);
         QObject::connect(&conditions, &ConditionWatcher::changed, &panel, [this] { applyConditions(); });
         hasAdvanced = shown && std::any_of(shown->parameters().begin(), shown->parameters().end(),
                                            [](auto const& parameter) { return isAdvanced(*parameter); });
@@ -208,7 +202,6 @@ public:
     // Null for one object.
     std::unique_ptr<SharedEdits> shared;
     MutedLabel* const emptyNote;
-    QTimer checkTimer;
     QString filter;
     // What the object is for.
     QString kind;
@@ -383,17 +376,6 @@ void ParameterPanel::showPool() {
 
 RowArea* ParameterPanel::rowArea() const {
     return d_->rows;
-}
-
-void ParameterPanel::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    d_->rows->checkParameters();
-    d_->checkTimer.start();
-}
-
-void ParameterPanel::hideEvent(QHideEvent* event) {
-    QWidget::hideEvent(event);
-    d_->checkTimer.stop();
 }
 
 } // namespace Talo

@@ -95,10 +95,6 @@ signals:
     void sectionMenuRequested(QMenu* menu, QString const& title);
     void refused(QString const& reason); ///< a command did nothing, for this reason: a sentence
 
-protected:
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
-
 private:
     void showSectionMenu(QString const& title, QPoint const& place);
 

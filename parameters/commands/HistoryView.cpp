@@ -9,6 +9,13 @@
 
 namespace Talo {
 
+namespace {
+
+// From here on the list says how much memory the steps take.
+constexpr qint64 notableBytes = 1 << 20;
+
+} // namespace
+
 HistoryView::HistoryView(Kolt::UndoHistory& history, QWidget* parent) : QListWidget(parent), history_(history) {
     setObjectName(QStringLiteral("history"));
     setAccessibleName(tr("History"));
@@ -17,8 +24,8 @@ HistoryView::HistoryView(Kolt::UndoHistory& history, QWidget* parent) : QListWid
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideMiddle);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    addItem(tr("Start"));
-    item(0)->setToolTip(tr("Before all steps"));
+    addItem(QString());
+    showStart();
     setCurrentRow(0);
     auto const choose = [this](QListWidgetItem* chosen) { emit stateChosen(row(chosen)); };
     connect(this, &QListWidget::itemClicked, this, choose);
@@ -70,10 +77,21 @@ void HistoryView::refresh() {
         delete takeItem(count() - 1);
     for (int index = kept; index < static_cast<int>(steps.size()); ++index)
         showStep(index + 1, *steps[static_cast<std::size_t>(index)], index >= done);
+    showStart();
     shown_ = std::move(steps);
     shownDone_ = done;
     setCurrentRow(done);
     scrollToItem(item(done));
+}
+
+void HistoryView::showStart() {
+    bool const isWhole = history_.forgottenSteps() == 0;
+    auto const start = isWhole ? tr("Start") : tr("Oldest state that is kept");
+    auto const bytes = static_cast<qint64>(history_.byteCount());
+    auto const used = locale().formattedDataSize(bytes, 0);
+    auto const most = locale().formattedDataSize(qint64{Kolt::UndoHistory::ByteCapacity}, 0);
+    item(0)->setText(bytes < notableBytes ? start : tr("%1 (%2 of %3)", "start, memory").arg(start, used, most));
+    item(0)->setToolTip(isWhole ? tr("Before all steps") : tr("Older steps were forgotten, as the history was full."));
 }
 
 void HistoryView::showStep(int row, Kolt::UndoStep const& step, bool undone) {

@@ -33,6 +33,8 @@ private:
     /// The list is shown anew as soon as it is visible and other events were handled.
     void historyChanged();
     void refresh();
+    /// Shows whether the history begins at the first row, and how much memory it takes if that is notable.
+    void showStart();
     void showStep(int row, Kolt::UndoStep const& step, bool undone);
 
     Kolt::UndoHistory& history_;

@@ -17,13 +17,17 @@ bool KeyboardChoice::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress || passing_ || !list_->selectionModel())
         return QObject::eventFilter(watched, event);
     QPointer<QAbstractItemView> const list(list_);
-    auto const before = list->selectionModel()->selectedIndexes();
+    // Told by the list itself: to compare all chosen entries takes long where there are many.
+    bool isChanged = false;
+    auto const told = connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                              [&isChanged] { isChanged = true; });
     {
         QScopedValueRollback<bool> const passing(passing_, true);
         watched->event(event);
     }
     // A key notifies nobody, so list and filter still exist.
-    if (list->selectionModel()->selectedIndexes() == before)
+    disconnect(told);
+    if (!isChanged)
         return true;
     // Beside all entries.
     QPoint const place(-1, -1);

@@ -49,6 +49,8 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
     // What people do not edit has no default, and workers may change it often.
     if (parameter->isEdited())
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
+    else
+        removal_ = std::make_unique<RemovalListener>(parameter, [this] { onListGone(); });
     showDescription();
     showNote();
     showDefault();
@@ -336,6 +338,11 @@ void ParameterRow::setAsDefault() {
 void ParameterRow::showHelp() {
     if (auto const parameter = parameter_.strong())
         emit helpRequested(parameter);
+}
+
+void ParameterRow::onListGone() {
+    // Later, when the parameter is gone for all who refer to it.
+    QMetaObject::invokeMethod(this, &ParameterRow::checkParameter, Qt::QueuedConnection);
 }
 
 void ParameterRow::checkParameter() {

@@ -9,6 +9,7 @@
 #include <parameters/rows/EditorScroller.hpp>
 #include <parameters/rows/ParameterVector.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
+#include <parameters/rows/RemovalListener.hpp>
 #include <parameters/rows/RowName.hpp>
 #include <parameters/rows/RowNeeds.hpp>
 #include <QLabel>
@@ -89,8 +90,6 @@ public:
     void showPool();
     /// Shows whether the value is the default, as after the defaults changed.
     void showDefault();
-    /// Shows whether the parameter still exists.
-    void checkParameter();
     /// Shows or hides the raw value beside the editor.
     void setRawValueShown(bool shown);
     /// Lets people use the editor, or not; they can at first. That of a read-only parameter they never can.
@@ -148,6 +147,7 @@ protected:
 private:
     void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override;
+    void onListGone() override;
     void alignEditor();
     /// Shows what the properties say now.
     void showDescription();
@@ -160,6 +160,8 @@ private:
     std::vector<Kolt::ParameterPtr> livingVector() const;
     void updateAccessibility();
     void showNote();
+    /// Shows whether the parameter still exists.
+    void checkParameter();
     QString removedText() const;
 
     QString const objectName_;
@@ -189,6 +191,8 @@ private:
     // Null for editors that need none, and after the editor was deleted.
     QPointer<EditorExtension> extension_;
     std::unique_ptr<ChangeListener> afterEditor_;
+    // Null for a parameter that people edit, which notifies the row itself.
+    std::unique_ptr<RemovalListener> removal_;
     std::shared_ptr<Kolt::EditRecorder> recorder_;
 };
 

@@ -1,10 +1,34 @@
 #include <parameters/rows/RawValueLabel.hpp>
 
+#include <algorithm>
 #include <parameters/rows/MutedLabel.hpp>
 #include <QPainter>
 #include <QStyle>
 
 namespace Talo {
+
+namespace {
+
+// Of what does not fit, in characters.
+constexpr int longestShown = 200;
+constexpr int longestTip = 2000;
+
+/// As much of the text of a value as the tool tip says. Most characters are one byte, none has more than four.
+QString startOf(Kolt::VValueBase const& value) {
+    // A long one is not copied.
+    auto const own = Kolt::sharedValueIn<std::string>(&value);
+    auto const& text = own ? *own : value.Text();
+    auto start = QString::fromUtf8(text.data(), static_cast<int>(std::min<std::size_t>(text.size(), 4 * longestTip)));
+    if (start.size() <= longestTip)
+        return start;
+    start.truncate(longestTip);
+    // The half of a character.
+    if (start.at(longestTip - 1).isHighSurrogate())
+        start.chop(1);
+    return start + QChar(0x2026);
+}
+
+} // namespace
 
 RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools, QWidget* parent)
     : QWidget(parent), parameter_(parameter), pools_(pools) {
@@ -34,7 +58,7 @@ void RawValueLabel::refresh() {
     if (auto const parameter = parameter_.strong()) {
         auto const pool = pools_.pool();
         auto const value = parameter->effectiveValue(pool);
-        text = QString::fromStdString(value->Text());
+        text = startOf(*value);
         auto const age = QString::number(value->age());
         auto const poolName = pool ? QString::fromStdString(pool->Name()) : QString();
         if (!parameter->keepsValuesPerPool() || !pool)
@@ -51,7 +75,7 @@ void RawValueLabel::refresh() {
     text_ = text;
     stamp_ = stamp;
     showToolTip();
-    setAccessibleDescription(text);
+    setAccessibleDescription(text.left(longestShown));
     update();
 }
 
@@ -83,7 +107,8 @@ void RawValueLabel::paintEvent(QPaintEvent*) {
     font.setStyleHint(QFont::Monospace);
     painter.setFont(font);
     painter.setPen(text_.isEmpty() ? mutedText(palette()) : palette().color(QPalette::WindowText));
-    auto oneLine = text_.isEmpty() ? tr("(empty)") : text_;
+    // A line is much shorter.
+    auto oneLine = text_.isEmpty() ? tr("(empty)") : text_.left(longestShown);
     oneLine.replace(QLatin1Char('\n'), QChar(0x21B5));
     // A value reads in its own direction, or "0.5 1" would become "1 0.5" in a panel from right to left.
     int const direction = oneLine.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;

@@ -9,8 +9,9 @@
 namespace Talo {
 
 /// Shows what a parameter holds in the chosen pool as the value's own text, live, and below it the value's age stamp
-/// and whose value it is. A text that does not fit is shortened; the tool tip has all of it, and what else is to be
-/// said about the value. Its size does not depend on the value, so that a change lays nothing out anew.
+/// and whose value it is. A text that does not fit is shortened; the tool tip has more of it, and what else is to be
+/// said about the value. Of a text of more than 2,000 characters they have the start. Its size does not depend on the
+/// value, so that a change lays nothing out anew.
 ///
 /// Made on the user-interface thread; changes may be reported on any thread.
 class TALO_EXPORT RawValueLabel : public QWidget, private Kolt::ValueNotifier {
@@ -21,7 +22,7 @@ public:
     RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools, QWidget* parent = nullptr);
     ~RawValueLabel() override;
 
-    /// The shown text of the value; empty when the parameter is gone.
+    /// The text of the value, or the start of a long one and "…"; empty when the parameter is gone.
     QString const& text() const { return text_; }
     /// The shown line about the value: "age 7, pool preview".
     QString const& stamp() const { return stamp_; }

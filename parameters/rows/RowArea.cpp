@@ -126,11 +126,6 @@ void RowArea::showDefaults() {
         row->showDefault();
 }
 
-void RowArea::checkParameters() {
-    for (auto* const row : rows())
-        row->checkParameter();
-}
-
 void RowArea::setRawValuesShown(bool shown) {
     rawValuesShown_ = shown;
     for (auto* const row : rows())

@@ -53,8 +53,6 @@ public:
     void showPool();
     /// Shows in every row whether the value is the default, as after the defaults changed.
     void showDefaults();
-    /// Has the rows show which parameters were deleted.
-    void checkParameters();
     /// Shows or hides the raw values of all rows, also of those that are made later.
     void setRawValuesShown(bool shown);
     /// Hides the parameters for which the predicate does not hold; an empty one shows all. The scroll position stays.

@@ -8,7 +8,7 @@ namespace {
 
 // In characters: a short number, and one with a slider beside it.
 constexpr int leastFieldWidth = 8;
-constexpr int leastEditorWidth = 20;
+constexpr int leastWidthInRow = 20;
 
 int widthBesideEditor(EditorCell const& cell, QPointer<EditorScroller> const& scroller, QHBoxLayout const& layout) {
     auto const* const editor = cell.widget();
@@ -25,7 +25,7 @@ int widthBesideEditor(EditorCell const& cell, QPointer<EditorScroller> const& sc
 } // namespace
 
 int leastRowWidth(EditorCell const& cell, QPointer<EditorScroller> const& scroller, QHBoxLayout const& layout) {
-    int const characters = cell.controls().size() > 1 ? leastEditorWidth : leastFieldWidth;
+    int const characters = cell.controls().size() > 1 ? leastWidthInRow : leastFieldWidth;
     int const editor = qMax(cell.leastWidth(), characters * cell.widget()->fontMetrics().averageCharWidth());
     return editor + widthBesideEditor(cell, scroller, layout);
 }

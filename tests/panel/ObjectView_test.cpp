@@ -132,6 +132,40 @@ TEST_F(ObjectViewTest, ADeletedParameterLeavesItsRowUsableWithANote) {
     EXPECT_TRUE(box("on")->isChecked());
 }
 
+TEST_F(ObjectViewTest, ARemovedParameterThatNobodyEditsLeavesANote) {
+    open(R"({ "pools": ["day"], "objects": [
+        { "name": "lamp", "parameters": [ { "name": "state", "type": "status", "value": "on" } ] } ] })");
+    auto const lamp = window->network()->findObject(QStringLiteral("lamp"));
+    ASSERT_EQ(row("state")->note(), QString());
+    lamp->removeParameter(lamp->findParameter("state"));
+    EXPECT_TRUE(waitUntil([&] { return row("state")->note() == QStringLiteral("was removed"); }));
+}
+
+namespace {
+
+/// Counts the timers that fire in a window.
+class TimerCount : public QObject {
+public:
+    int count = 0;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count += event->type() == QEvent::Timer ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+TEST_F(ObjectViewTest, AnIdleWindowDoesNotWakeUp) {
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    // What opening has begun ends.
+    QTest::qWait(500);
+    TimerCount timers;
+    qApp->installEventFilter(&timers);
+    QTest::qWait(600);
+    EXPECT_EQ(timers.count, 0);
+}
+
 TEST_F(ObjectViewTest, TheViewOfADestroyedObjectStaysOpen) {
     Panel::ObjectView* view = nullptr;
     QWidget parent;
