@@ -51,6 +51,12 @@ void MessageDock::tapStandardOutput() {
     outputTap_ = std::make_unique<StandardOutputTap>();
     connect(outputTap_.get(), &StandardOutputTap::linePrinted, messages_,
             [this](QString const& line) { messages_->add(MessageList::Source::Output, line); });
+    connect(outputTap_.get(), &StandardOutputTap::linesMissed, messages_, [this](int count) {
+        messages_->add(MessageList::Source::Panel,
+                       count == 1
+                           ? tr("1 line of output was left out, because it came too fast.")
+                           : tr("%n lines of output were left out, because they came too fast.", nullptr, count));
+    });
 }
 
 } // namespace Panel

@@ -1,5 +1,6 @@
 #include <panel/window/StandardOutputTap.hpp>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -8,6 +9,7 @@
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
+#include <utility>
 
 namespace Panel {
 
@@ -15,6 +17,9 @@ namespace {
 
 // A pipe that can be written to takes this much at once without a wait.
 constexpr int chunk = PIPE_BUF;
+
+// As much as a pipe holds. In bytes.
+constexpr std::size_t readAtOnce = 1 << 16;
 
 // What is kept for a reader that does not read, in bytes; what is printed beyond that is not forwarded.
 constexpr int mostUnread = 1 << 20;
@@ -62,52 +67,92 @@ void StandardOutputTap::listen() {
     bool stopped = false;
     while (!stopped) {
         // The real output is waited for only where something is to be written: it is nearly always ready.
-        if (poll(waited.data(), unwritten_.isEmpty() ? 2 : 3, -1) < 0 && errno != EINTR)
+        if (poll(waited.data(), written_ == unwritten_.size() ? 2 : 3, -1) < 0 && errno != EINTR)
             break;
         stopped = waited[1].revents != 0;
         while (take())
-            tellLines(false);
+            ;
         forward();
+        reportHearing();
     }
     // Nothing else comes; a reader that merely is slow gets the rest.
     pollfd output{realOutput_, POLLOUT, 0};
-    while (!unwritten_.isEmpty() && poll(&output, 1, lastWait) > 0)
+    while (written_ < unwritten_.size() && poll(&output, 1, lastWait) > 0)
         forward();
-    tellLines(true);
+    if (!line_.isEmpty())
+        tellLine();
 }
 
 bool StandardOutputTap::take() {
-    std::array<char, chunk> buffer{};
-    auto const count = read(pipe_, buffer.data(), buffer.size());
+    buffer_.resize(readAtOnce);
+    auto const count = read(pipe_, buffer_.data(), buffer_.size());
     if (count <= 0)
         return false;
-    if (unwritten_.size() < mostUnread)
-        unwritten_.append(buffer.data(), static_cast<int>(count));
-    pending_.append(buffer.data(), static_cast<int>(count));
+    if (unwritten_.size() - written_ < mostUnread)
+        unwritten_.append(buffer_.data(), static_cast<int>(count));
     forward();
+    takeLines(buffer_.data(), buffer_.data() + count);
     return true;
 }
 
 void StandardOutputTap::forward() {
-    while (!unwritten_.isEmpty() && canBeWritten(realOutput_)) {
-        auto const size = static_cast<std::size_t>(qMin(unwritten_.size(), chunk));
-        auto const written = write(realOutput_, unwritten_.constData(), size);
+    while (written_ < unwritten_.size() && canBeWritten(realOutput_)) {
+        auto const size = static_cast<std::size_t>(qMin(unwritten_.size() - written_, chunk));
+        auto const written = write(realOutput_, unwritten_.constData() + written_, size);
         if (written < 0 && errno == EINTR)
             continue;
         // Nobody reads any more, or the disk is full.
-        unwritten_.remove(0, written < 0 ? unwritten_.size() : static_cast<int>(written));
+        written_ = written < 0 ? unwritten_.size() : written_ + static_cast<int>(written);
+    }
+    // Not at each write, as the rest is moved.
+    if (2 * written_ >= unwritten_.size()) {
+        unwritten_.remove(0, written_);
+        written_ = 0;
     }
 }
 
-void StandardOutputTap::tellLines(bool all) {
-    int start = 0;
-    for (int end = pending_.indexOf('\n'); end >= 0; end = pending_.indexOf('\n', start)) {
-        emit linePrinted(QString::fromUtf8(pending_.mid(start, end - start)));
-        start = end + 1;
+void StandardOutputTap::takeLines(char const* next, char const* end) {
+    while (next != end) {
+        auto const* const lineEnd = std::find(next, end, '\n');
+        auto const room = static_cast<std::ptrdiff_t>(LongestLine - line_.size());
+        line_.append(next, static_cast<int>(std::min(room, lineEnd - next)));
+        isCut_ = isCut_ || lineEnd - next > room;
+        if (lineEnd == end)
+            return;
+        tellLine();
+        next = lineEnd + 1;
     }
-    pending_.remove(0, start);
-    if (all && !pending_.isEmpty())
-        emit linePrinted(QString::fromUtf8(pending_));
+}
+
+void StandardOutputTap::tellLine() {
+    auto line = QString::fromUtf8(line_);
+    int const bytes = line_.size() + 1;
+    line_.clear();
+    if (std::exchange(isCut_, false)) {
+        // Of a character that was cut in two.
+        while (line.endsWith(QChar(QChar::ReplacementCharacter)))
+            line.chop(1);
+        line += QChar(0x2026);
+    }
+    if (unheard_ > MostUnheard) {
+        ++missed_;
+        return;
+    }
+    if (int const missed = std::exchange(missed_, 0); missed > 0)
+        emit linesMissed(missed);
+    unheard_ += bytes;
+    told_ += bytes;
+    emit linePrinted(line);
+    // Now and then, as many lines may come before the pipe is empty.
+    if (told_ > MostUnheard / 2)
+        reportHearing();
+}
+
+void StandardOutputTap::reportHearing() {
+    // The receivers live on the thread of this object, and hear the lines before this call.
+    if (int const told = std::exchange(told_, 0); told > 0)
+        QMetaObject::invokeMethod(
+            this, [this, told] { unheard_ -= told; }, Qt::QueuedConnection);
 }
 
 } // namespace Panel

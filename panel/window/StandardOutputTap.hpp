@@ -1,8 +1,10 @@
 #pragma once
 
+#include <atomic>
 #include <QByteArray>
 #include <QObject>
 #include <thread>
+#include <vector>
 
 namespace Panel {
 
@@ -11,11 +13,17 @@ namespace Panel {
 /// printed after the first megabyte is only told of. It starts with the object and ends with it; several may be nested.
 ///
 /// A thread of its own reads along: a long text printed at once never blocks the writer, whatever the event loop does.
+/// It keeps little: of a long line the start is told of, and lines that come faster than they are heard are left out.
 /// Where the system gives no pipe the tap hears nothing.
 class StandardOutputTap : public QObject {
     Q_OBJECT
 
 public:
+    /// Of a longer line so many bytes are told of, and "…".
+    static constexpr int LongestLine = 1 << 14;
+    /// While the receivers have so many bytes of lines still to hear, further lines are left out.
+    static constexpr int MostUnheard = 1 << 23;
+
     explicit StandardOutputTap(QObject* parent = nullptr);
     ~StandardOutputTap() override;
 
@@ -23,20 +31,35 @@ signals:
     /// A line was printed, without its end. Emitted on another thread, so a receiver on the user-interface thread hears
     /// it when the event loop comes round. A last line without an end comes when the tap ends.
     void linePrinted(QString const& line);
+    /// So many lines were left out here. Emitted as linePrinted is.
+    void linesMissed(int count);
 
 private:
     void listen();
     bool take();
     void forward();
-    void tellLines(bool all);
+    /// Adds what was printed to the line, and tells of each line that ends.
+    void takeLines(char const* next, char const* end);
+    void tellLine();
+    /// Has the receivers' thread say that it has heard what was told.
+    void reportHearing();
 
     int realOutput_ = -1;
     int pipe_ = -1;
     int stop_ = -1;
-    // What was printed and not reported yet.
-    QByteArray pending_;
-    // What was printed and not written to the real output yet.
+    std::vector<char> buffer_;
+    // The start of the line that has not ended yet.
+    QByteArray line_;
+    // Whether that line is longer.
+    bool isCut_ = false;
+    // What was printed, from `written_` on, and not written to the real output yet.
     QByteArray unwritten_;
+    int written_ = 0;
+    // In bytes: what was told and not heard yet, and what of it nobody was asked about.
+    std::atomic<int> unheard_{0};
+    int told_ = 0;
+    // How many lines were not told of since the last one that was.
+    int missed_ = 0;
     std::thread listener_;
 };
 

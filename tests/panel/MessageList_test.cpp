@@ -82,6 +82,49 @@ TEST_F(StandardOutputTapTest, ALongTextPrintedAtOnceBlocksNobody) {
     EXPECT_EQ(takeOutput().size(), 2000U);
 }
 
+TEST_F(StandardOutputTapTest, OfALongLineTheStartIsTold) {
+    constexpr int longest = Panel::StandardOutputTap::LongestLine;
+    Panel::StandardOutputTap tap;
+    listenTo(tap);
+    // One byte and then characters of two, so that one is cut.
+    std::string line = "x";
+    while (line.size() < (std::size_t{4} << 20))
+        line += "\xC3\xA4";
+    std::puts(line.c_str());
+    std::puts(std::string(longest, 'y').c_str());
+    std::puts("short");
+    std::fflush(stdout);
+    EXPECT_TRUE(waitUntil([&] { return lines.size() == 3; }));
+    EXPECT_EQ(lines[0], 'x' + QString((longest - 1) / 2, QChar(0xE4)) + QChar(0x2026));
+    EXPECT_EQ(lines[1], QString(longest, 'y'));
+    EXPECT_EQ(lines[2], QStringLiteral("short"));
+    // A reader of the real output gets all of it.
+    EXPECT_EQ(takeOutput(), (std::vector<std::string>{line, std::string(longest, 'y'), "short"}));
+}
+
+TEST_F(StandardOutputTapTest, LinesThatNobodyHearsAreLeftOutAndCounted) {
+    std::string const line(9999, 'x');
+    constexpr int count = 2000;
+    int missed = 0;
+    Panel::StandardOutputTap tap;
+    listenTo(tap);
+    QObject::connect(&tap, &Panel::StandardOutputTap::linesMissed, &receiver, [&](int leftOut) { missed += leftOut; });
+    for (int number = 0; number < count; ++number)
+        std::puts(line.c_str());
+    std::fflush(stdout);
+    EXPECT_TRUE(waitUntil([&] {
+        // The first line that is heard again tells how many were not.
+        std::puts("again");
+        std::fflush(stdout);
+        return lines.contains(QStringLiteral("again"));
+    }));
+    EXPECT_GT(missed, 0);
+    EXPECT_EQ(missed + lines.count(QString::fromStdString(line)), count);
+    // What was in the pipe when the lines were heard is told of, too.
+    EXPECT_LT(lines.count(QString::fromStdString(line)) * 10'000, Panel::StandardOutputTap::MostUnheard + 200'000);
+    takeOutput();
+}
+
 namespace {
 
 /// Replaces standard output by a pipe whose reader does not read.
