@@ -45,7 +45,9 @@ void DockShare::apply() {
     QScopedValueRollback const guard(applies_, true);
     if (dock_.isFloating())
         return;
-    setWidth_ = qMin(qRound(share_ * windowWidth_), windowWidth_ - rest_ * window_.fontMetrics().averageCharWidth());
+    int const left = windowWidth_ - rest_ * window_.fontMetrics().averageCharWidth();
+    // Nothing may be left, and Qt gives a dock at least its least width, but warns of 0.
+    setWidth_ = qMax(1, qMin(qRound(share_ * windowWidth_), left));
     window_.resizeDocks({&dock_}, {setWidth_}, Qt::Horizontal);
 }
 

@@ -68,6 +68,17 @@ TEST_F(DockWidthTest, ThePreviewTakesItsShareOfEachWindow) {
     EXPECT_NEAR(preview()->width(), 400, 20);
 }
 
+TEST_F(DockWidthTest, AWindowThatIsTooNarrowForItsTextsLeavesThePreviewItsLeastWidth) {
+    show(900, 480);
+    auto large = window->font();
+    large.setPixelSize(30);
+    window->setFont(large);
+    window->resize(901, 480);
+    settle();
+    // Qt has warned if it was asked for a width below 1.
+    EXPECT_EQ(preview()->width(), preview()->minimumSizeHint().width());
+}
+
 TEST_F(DockWidthTest, ThePreviewKeepsTheShareThatAPersonGaveIt) {
     show(1200, 900);
     window->resizeDocks({window->fractalController().dock()}, {600}, Qt::Horizontal);

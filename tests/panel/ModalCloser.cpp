@@ -15,9 +15,12 @@ constexpr int interval = 5;
 // An event that lasts this many intervals is blocked and needs help to end.
 constexpr int patience = 20;
 
+constexpr unsigned dialogsBetweenInterruptions = 8;
+
 } // namespace
 
-ModalCloser::ModalCloser(std::mt19937& random, QStringList names) : random_(random), names_(std::move(names)) {
+ModalCloser::ModalCloser(QStringList names, std::function<void(unsigned)> meanwhile)
+    : names_(std::move(names)), meanwhile_(std::move(meanwhile)) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     connect(&timer_, &QTimer::timeout, this, &ModalCloser::look);
     timer_.start(interval);
@@ -44,6 +47,10 @@ void ModalCloser::look() {
 
 void ModalCloser::close(QPointer<QDialog> const& dialog) {
     if (!dialog || dialog != QApplication::activeModalWidget())
+        return;
+    if (random_() % dialogsBetweenInterruptions == 0)
+        meanwhile_(static_cast<unsigned>(random_()));
+    if (!dialog)
         return;
     auto* const files = qobject_cast<QFileDialog*>(dialog);
     if (auto* const box = qobject_cast<QMessageBox*>(dialog)) {

@@ -65,3 +65,12 @@ std::vector<Stroke> const& rareStrokes() {
     };
     return all;
 }
+
+std::vector<QString> const& typedLetters() {
+    static std::vector<QString> const all = {
+        QStringLiteral(u"\u00e4"),  QStringLiteral(u"\u00df"),     QStringLiteral(u"\u03a9"),
+        QStringLiteral(u"\u0663"),  QStringLiteral(u"\u05d0"),     QStringLiteral(u"\u6f22"),
+        QStringLiteral(u"e\u0301"), QStringLiteral(u"\U0001F600"), QString(),
+    };
+    return all;
+}

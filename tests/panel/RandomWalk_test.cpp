@@ -1,45 +1,45 @@
 // Uses the panel at random, with thousands of events for each seed. Nothing may crash, Qt may not warn, and at every
-// rest the views must show what the parameters hold.
+// rest the views must show what the parameters hold, and each value must be explained by an undo step or a write.
+//
+// A walk writes a log, which stays if the walk fails. In the environment,
+// - TALO_WALK_SEED=N walks the seed N alone, TALO_WALK_EVENTS=N makes N acts;
+// - TALO_WALK_REPLAY=FILE walks what a log says;
+// - TALO_WALK_SHORTEN=FILE writes FILE.short, the shortest part of a log that still fails.
 
 #include "FractalPanelTest.hpp"
 #include "PanelCheck.hpp"
 #include "RandomWalk.hpp"
+#include "support/VirtualTime.hpp"
+#include "WalkPlan.hpp"
+#include "WalkShortener.hpp"
 
 #include <QEventLoop>
 #include <QTimer>
 
-using testing::AnyOf;
-using testing::Each;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::SizeIs;
 
 namespace {
 
-/// The number of events for each seed. On a display, where each takes longer, a quarter suffices to show that the
-/// behaviour is the same.
-int eventsOfAWalk() {
-    if (int const wanted = qEnvironmentVariableIntValue("TALO_WALK_EVENTS"); wanted > 0)
-        return wanted;
-    return QGuiApplication::platformName() == QLatin1String("offscreen") ? TALO_WALK_EVENTS : TALO_WALK_EVENTS / 4;
+bool isOffscreen() {
+    return QGuiApplication::platformName() == QLatin1String("offscreen");
 }
-
-// The number of events between two rests.
-constexpr int eventsBetweenRests = 250;
-
-/// TALO_WALK_SEED=N in the environment starts other walks.
-unsigned firstSeed() {
-    auto const seed = qEnvironmentVariableIntValue("TALO_WALK_SEED");
-    return seed > 0 ? static_cast<unsigned>(seed) : 1U;
-}
-
-// Above this number the history may have dropped its first steps.
-constexpr std::size_t mostSteps = Kolt::UndoHistory::Capacity * 3 / 4;
 
 class RandomWalkTest : public FractalPanelTest {
 protected:
     RandomWalkTest() { windowSize = {900, 700}; }
+
+    void SetUp() override {
+        // A display answers in real time.
+        if (isOffscreen())
+            time_ = std::make_unique<VirtualTime>();
+        // What an earlier walk leaves in the process must not decide what this one does.
+        QApplication::clipboard()->clear();
+        QCursor::setPos(0, 0);
+        FractalPanelTest::SetUp();
+    }
 
     void TearDown() override {
         QApplication::clipboard()->clear();
@@ -47,11 +47,18 @@ protected:
         // The lists of multiple selections print a trace.
         takeOutput();
     }
+
+    // Null on a display.
+    std::unique_ptr<VirtualTime> time_;
 };
 
-class RandomWalkOfSeed : public RandomWalkTest, public testing::WithParamInterface<unsigned> {
+class RandomWalkOfPlan : public RandomWalkTest, public testing::WithParamInterface<WalkPlan> {
 protected:
     void walk();
+    void rest(RandomWalk& walk);
+    void goBack(RandomWalk& walk);
+    // How many rows were compared with their parameters.
+    int compared_ = 0;
 };
 
 /// Runs a function from an event loop, as a program does. Only then does Qt keep objects passed to deleteLater alive
@@ -68,38 +75,62 @@ void runInEventLoop(Function&& function) {
 
 } // namespace
 
-TEST_P(RandomWalkOfSeed, LeavesEveryViewInAgreementWithItsParameter) {
-    runInEventLoop([this] { walk(); });
+TEST_P(RandomWalkOfPlan, LeavesEveryViewInAgreementWithItsParameter) {
+    if (GetParam().shortened.isEmpty()) {
+        runInEventLoop([this] { walk(); });
+        return;
+    }
+    // Other processes need real time.
+    time_.reset();
+    EXPECT_EQ(shortenLog(GetParam().shortened), "");
 }
 
-void RandomWalkOfSeed::walk() {
-    RandomWalk walk(*window, plugins, folder.path(), GetParam());
-    int const events = eventsOfAWalk();
-    int compared = 0;
-    for (int event = 1; event <= events && !HasFailure(); ++event) {
-        SCOPED_TRACE("seed " + std::to_string(GetParam()) + ", event " + std::to_string(event));
-        walk.step();
-        if (event % eventsBetweenRests != 0 && event != events)
-            continue;
-        ASSERT_EQ(walk.settle(), "");
-        int rows = 0;
-        // Reports of a worker thread arrive a moment later.
-        waitUntil([this] { return disagreements(*window).empty(); }, 2000);
-        EXPECT_THAT(disagreements(*window, &rows), IsEmpty());
-        compared += rows;
-        auto const steps = window->history().steps().size();
-        if (steps < mostSteps && event != events)
-            continue;
-        EXPECT_THAT(walk.goBackAndForth(), IsEmpty())
-            << qPrintable(window->messages()->texts(Panel::MessageList::Source::Error).join(QLatin1Char('\n')));
-        EXPECT_THAT(disagreements(*window), IsEmpty());
-        walk.beginAnew();
+void RandomWalkOfPlan::walk() {
+    auto const& plan = GetParam();
+    ASSERT_EQ(plan.error, "");
+    std::fprintf(stderr, "Walk %s; log: %s\n", plan.name.c_str(), qPrintable(plan.log));
+    RandomWalk walk(*window, plugins, folder.path(), plan.log);
+    int rests = 0;
+    for (std::size_t number = 0; number < plan.events.size() && !HasFailure(); ++number) {
+        auto const& event = plan.events[number];
+        SCOPED_TRACE("line " + std::to_string(number + 1) + " of " + plan.log.toStdString());
+        switch (event.kind) {
+        case WalkEvent::Kind::Act:
+            walk.act(event);
+            break;
+        case WalkEvent::Kind::Rest:
+            rest(walk);
+            ++rests;
+            break;
+        case WalkEvent::Kind::Back:
+            goBack(walk);
+        }
     }
     // The check has compared rows.
-    EXPECT_GT(compared, events / eventsBetweenRests);
+    EXPECT_GE(compared_, rests);
+    if (!HasFailure() && !plan.keepsLog)
+        QFile::remove(plan.log);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalkOfSeed, testing::Range(firstSeed(), firstSeed() + 5));
+void RandomWalkOfPlan::rest(RandomWalk& walk) {
+    ASSERT_EQ(walk.settle(), "");
+    // Reports of a worker thread arrive a moment later.
+    waitUntil([this] { return disagreements(*window).empty(); }, 2000);
+    int rows = 0;
+    EXPECT_THAT(disagreements(*window, &rows), IsEmpty());
+    EXPECT_THAT(walk.unexplained(), IsEmpty());
+    compared_ += rows;
+}
+
+void RandomWalkOfPlan::goBack(RandomWalk& walk) {
+    EXPECT_THAT(walk.goBackAndForth(), IsEmpty())
+        << qPrintable(window->messages()->texts(Panel::MessageList::Source::Error).join(QLatin1Char('\n')));
+    EXPECT_THAT(disagreements(*window), IsEmpty());
+    walk.beginAnew();
+}
+
+INSTANTIATE_TEST_SUITE_P(Plans, RandomWalkOfPlan, testing::ValuesIn(walkPlans(TALO_WALK_EVENTS, TALO_WALK_LOGS)),
+                         [](auto const& plan) { return plan.param.name; });
 
 TEST_F(RandomWalkTest, AgreesAtTheStart) {
     int compared = 0;
@@ -121,10 +152,18 @@ TEST_F(RandomWalkTest, FindsAHandleThatStaysBehind) {
 }
 
 TEST_F(RandomWalkTest, FindsAnEditThatUndoDoesNotRevert) {
-    RandomWalk walk(*window, plugins, folder.path(), 1);
+    RandomWalk walk(*window, plugins, folder.path());
     ASSERT_EQ(walk.settle(), "");
     EXPECT_THAT(walk.goBackAndForth(), IsEmpty());
     set("formula.symmetry", "7");
     EXPECT_THAT(walk.goBackAndForth(),
-                ElementsAre(HasSubstr("formula.symmetry is {\"value\":7} after all was taken back")));
+                Contains(HasSubstr("formula.symmetry is {\"value\":7} after all was taken back")));
+}
+
+TEST_F(RandomWalkTest, FindsAValueThatNeitherAStepNorAWriteExplains) {
+    RandomWalk walk(*window, plugins, folder.path());
+    ASSERT_EQ(walk.settle(), "");
+    set("formula.symmetry", "7");
+    EXPECT_THAT(walk.unexplained(),
+                ElementsAre(HasSubstr("formula.symmetry is \"7\" without a step or a write, not \"0\"")));
 }

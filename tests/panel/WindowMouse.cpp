@@ -1,16 +1,9 @@
 #include "WindowMouse.hpp"
 
-#include "support/TaloTest.hpp"
+#include "WalkTime.hpp"
 
 #include <QApplication>
 #include <QTest>
-
-namespace {
-
-// In milliseconds.
-constexpr int soon = 1000;
-
-} // namespace
 
 QPoint inWindow(QWidget const& widget, QPoint const& place) {
     auto const point = widget.mapTo(widget.window(), place);
@@ -21,7 +14,7 @@ void activate(QPointer<QWidget> const& window) {
     if (QApplication::activePopupWidget() || window->isActiveWindow())
         return;
     window->activateWindow();
-    waitUntil([&window] { return !window || window->isActiveWindow(); }, soon);
+    waitSoon([&window] { return !window || window->isActiveWindow(); });
 }
 
 void click(QPointer<QWindow> const& window, Qt::MouseButton button, QPoint const& point) {

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "WalkEvent.hpp"
+
+#include <ostream>
+
+/// A walk that is to be done.
+struct WalkPlan {
+    std::string name;
+    WalkEvents events;
+    /// The file for the log.
+    QString log;
+    /// Whether the log stays although the walk succeeds.
+    bool keepsLog = false;
+    /// Why there are no events; empty otherwise.
+    std::string error;
+    /// The log that is to be shortened instead; empty for none.
+    QString shortened;
+};
+
+/// What a failed test says.
+inline std::ostream& operator<<(std::ostream& stream, WalkPlan const& plan) {
+    return stream << "walk " << plan.name;
+}
+
+/// The walks of three seeds and of the seed of the day, with so many acts each, on a display fewer; or what the
+/// environment asks for instead: TALO_WALK_SHORTEN, TALO_WALK_REPLAY, TALO_WALK_SEED, TALO_WALK_EVENTS. Logs are made
+/// in `folder`, or in TALO_WALK_LOGS, where they stay.
+std::vector<WalkPlan> walkPlans(int acts, QString const& folder);
