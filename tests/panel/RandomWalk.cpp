@@ -15,6 +15,9 @@ constexpr int attemptsToActivate = 10;
 // In milliseconds. How long the host and the panel have after each event.
 constexpr int betweenEvents = 20;
 
+// In milliseconds. The longest that the panel waits before it does something.
+constexpr int whenAllIsDone = 2000;
+
 // In milliseconds. A picture that takes longer is cancelled.
 constexpr int longestPicture = 2000;
 
@@ -61,6 +64,8 @@ void RandomWalk::writeAsHost(QString const& name, QString const& text) {
     EXPECT_TRUE(window_.network()->setText(name, text, window_.pools().pool(), &error)) << qPrintable(error);
     auto const written = record_->takeHostWrite();
     writtenByHost_.insert(written.begin(), written.end());
+    // A pool gets a value of its own, even if it is the one that it inherited.
+    writtenByHost_.insert(name);
 }
 
 std::vector<std::string> RandomWalk::unexplained() const {
@@ -154,7 +159,10 @@ std::string RandomWalk::settle() {
         return "the list of objects does not get the focus";
     if (!awaitPictures())
         return "a picture is computed without end";
-    // Run deferred work: the end of a gesture, and rows that are created later.
+    // Run deferred work: the end of a gesture, rows that are created later, and the question whether values are
+    // unsaved.
+    if (VirtualTime::isRunning())
+        pass(whenAllIsDone);
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return {};

@@ -9,9 +9,11 @@
 #include "FractalPanelTest.hpp"
 #include "PanelCheck.hpp"
 #include "RandomWalk.hpp"
+#include "RowCheck.hpp"
 #include "support/VirtualTime.hpp"
 #include "WalkPlan.hpp"
 #include "WalkShortener.hpp"
+#include "WindowCheck.hpp"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -113,12 +115,15 @@ void RandomWalkOfPlan::walk() {
 }
 
 void RandomWalkOfPlan::rest(RandomWalk& walk) {
+    EXPECT_THAT(focusFaults(*window), IsEmpty());
     ASSERT_EQ(walk.settle(), "");
     // Reports of a worker thread arrive a moment later.
     waitUntil([this] { return disagreements(*window).empty(); }, 2000);
     int rows = 0;
     EXPECT_THAT(disagreements(*window, &rows), IsEmpty());
     EXPECT_THAT(walk.unexplained(), IsEmpty());
+    EXPECT_THAT(rowFaults(*window), IsEmpty());
+    EXPECT_THAT(windowFaults(*window), IsEmpty());
     compared_ += rows;
 }
 

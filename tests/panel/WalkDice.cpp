@@ -29,7 +29,7 @@ void WalkDice::begin(std::string const& line, unsigned seed) {
 
 void WalkDice::note(std::string const& text) {
     if (log_.isOpen())
-        log_.write(QByteArray::fromStdString(' ' + text));
+        log_.write(QByteArray::fromStdString(' ' + text).replace('\n', ' '));
 }
 
 std::string nameOf(QWidget* widget) {
