@@ -1,9 +1,9 @@
 #include <parameters/EditorChoice.hpp>
 
 #include <lattice/InputRegistry.hpp>
+#include <QHash>
 #include <QPointer>
 #include <QStringList>
-#include <QVariant>
 #include <QWidget>
 #include <sorrel/QInputCreator.hpp>
 
@@ -11,7 +11,12 @@ namespace Talo {
 
 namespace {
 
-constexpr char choiceProperty[] = "talo.editorChoice";
+/// The widgets with a choice. Each change of a value asks for the one around an editor, and a property of a widget
+/// takes too long for that.
+QHash<QWidget const*, QPointer<EditorChoice>>& installations() {
+    static QHash<QWidget const*, QPointer<EditorChoice>> all;
+    return all;
+}
 
 EditorChoice::Names changedBy(EditorChoice::Names names, QString const& key, QString const& creator) {
     if (creator.isEmpty())
@@ -46,16 +51,23 @@ QMap<QString, Kolt::CreatorRef> EditorChoice::candidates(Kolt::VParameter const&
 }
 
 EditorChoice* EditorChoice::around(QWidget const* widget) {
-    for (; widget; widget = widget->parentWidget()) {
-        auto const installed = widget->property(choiceProperty);
-        if (installed.isValid())
-            return qobject_cast<EditorChoice*>(installed.value<QPointer<QObject>>());
-    }
+    auto const& all = installations();
+    for (; widget; widget = widget->parentWidget())
+        if (auto const installed = all.constFind(widget); installed != all.cend())
+            return installed.value();
     return nullptr;
 }
 
 void EditorChoice::install(QWidget& widget, EditorChoice* choice) {
-    widget.setProperty(choiceProperty, choice ? QVariant::fromValue(QPointer<QObject>(choice)) : QVariant());
+    auto& all = installations();
+    bool const isNew = !all.contains(&widget);
+    if (!choice) {
+        all.remove(&widget);
+        return;
+    }
+    all.insert(&widget, choice);
+    if (isNew)
+        QObject::connect(&widget, &QObject::destroyed, &widget, [key = &widget] { installations().remove(key); });
 }
 
 void EditorChoice::chooseForParameter(QString const& parameter, QString const& creator) {

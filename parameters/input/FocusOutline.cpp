@@ -2,14 +2,22 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QRegion>
 
 namespace Talo {
+
+namespace {
+
+// The width of the frame in pixels: two lines of one colour and one of the other.
+constexpr int lines = 3;
+
+} // namespace
 
 FocusOutline::FocusOutline(QWidget* widget) : QWidget(widget) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
     hide();
-    setGeometry(widget->rect());
+    followSize();
     widget->installEventFilter(this);
 }
 
@@ -17,8 +25,14 @@ FocusOutline::~FocusOutline() = default;
 
 bool FocusOutline::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Resize)
-        setGeometry(parentWidget()->rect());
+        followSize();
     return QWidget::eventFilter(watched, event);
+}
+
+void FocusOutline::followSize() {
+    setGeometry(parentWidget()->rect());
+    // So that what changes within it is painted without it.
+    setMask(QRegion(rect()).subtracted(rect().adjusted(lines, lines, -lines, -lines)));
 }
 
 void FocusOutline::paintEvent(QPaintEvent*) {

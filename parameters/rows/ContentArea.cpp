@@ -40,8 +40,8 @@ void ContentArea::focusOutEvent(QFocusEvent* event) {
 }
 
 bool ContentArea::eventFilter(QObject* watched, QEvent* event) {
-    // The base watches the content already.
-    if (event->type() == QEvent::LayoutRequest)
+    // The base watches the content already; a derived class may watch more.
+    if (event->type() == QEvent::LayoutRequest && watched == widget())
         updateGeometry();
     return QScrollArea::eventFilter(watched, event);
 }

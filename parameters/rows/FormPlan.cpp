@@ -2,34 +2,34 @@
 
 #include <algorithm>
 #include <map>
-#include <parameters/rows/ParameterDescription.hpp>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace Talo {
 
 namespace {
 
-/// What is read of each parameter of a form; nothing else, as there are ten thousand of them.
+/// What is read of each parameter of a form (ParameterDescription); nothing else, as there are ten thousand of them,
+/// and as it is written there, because most of it is never shown.
 struct Heading {
     explicit Heading(Kolt::VParameter const& parameter) {
-        bool const hasProperties = parameter.properties();
-        if (hasProperties) {
-            label = textProperty(parameter, "label");
-            section = textProperty(parameter, "group");
+        if (auto const* const properties = parameter.properties()) {
+            label = Kolt::valueOr(properties->getValue("label"), std::string());
+            section = Kolt::valueOr(properties->getValue("group"), std::string());
         }
-        if (!label.isEmpty() && !section.isEmpty())
+        if (!label.empty() && !section.empty())
             return;
-        auto const name = QString::fromStdString(parameter.Name());
-        auto const dot = name.lastIndexOf(QLatin1Char('.'));
-        if (label.isEmpty())
-            label = name.mid(dot + 1);
-        if (section.isEmpty())
-            section = name.left(qMax(0, dot));
+        auto const name = parameter.Name();
+        auto const dot = name.rfind('.');
+        if (label.empty())
+            label = dot == std::string::npos ? name : name.substr(dot + 1);
+        if (section.empty() && dot != std::string::npos)
+            section = name.substr(0, dot);
     }
 
-    QString label;
-    QString section;
+    std::string label;
+    std::string section;
 };
 
 /// Adds rows to a plan, and the sections that they are in.
@@ -46,17 +46,18 @@ public:
         auto const section = sectionOf(Heading(*vector.members.front()).section);
         for (auto const& member : vector.members)
             addRow(member, section);
-        addLabel(vector.name);
+        addLabel(vector.name.toStdString());
     }
 
 private:
-    std::size_t sectionOf(QString const& title) {
+    std::size_t sectionOf(std::string const& title) {
         // Most parameters are in the section of the one before.
-        if (!plan_.rows.empty() && plan_.sectionTitles.at(static_cast<int>(plan_.rows.back().section)) == title)
+        if (!plan_.rows.empty() && title == lastTitle_)
             return plan_.rows.back().section;
+        lastTitle_ = title;
         auto const [section, isNew] = sections_.insert({title, sections_.size()});
         if (isNew)
-            plan_.sectionTitles.push_back(title);
+            plan_.sectionTitles.push_back(QString::fromStdString(title));
         return section->second;
     }
     std::size_t heightClassOf(Kolt::VParameter const& parameter) {
@@ -71,13 +72,18 @@ private:
     void addRow(Kolt::ParameterPtr const& parameter, std::size_t section) {
         plan_.rows.push_back({parameter, section, heightClassOf(*parameter)});
     }
-    void addLabel(QString const& label) {
-        if (label.size() > plan_.longestLabel.size())
-            plan_.longestLabel = label;
+    void addLabel(std::string const& label) {
+        // A text has at most as many letters as bytes.
+        if (static_cast<int>(label.size()) <= plan_.longestLabel.size())
+            return;
+        auto shown = QString::fromStdString(label);
+        if (shown.size() > plan_.longestLabel.size())
+            plan_.longestLabel = std::move(shown);
     }
 
     FormPlan& plan_;
-    std::map<QString, std::size_t> sections_;
+    std::unordered_map<std::string, std::size_t> sections_;
+    std::string lastTitle_;
     std::unordered_map<std::string, std::map<Kolt::VCreationPreferences::Names, std::size_t>> heightClasses_;
     std::size_t heightClassCount_ = 0;
 };

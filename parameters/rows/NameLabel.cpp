@@ -12,17 +12,25 @@ NameLabel::NameLabel(QWidget* parent) : QLabel(parent) {
 NameLabel::~NameLabel() = default;
 
 int NameLabel::wholeWidth() const {
-    return fontMetrics().size(Qt::TextSingleLine, name_).width();
+    if (wholeWidth_ < 0)
+        wholeWidth_ = fontMetrics().size(Qt::TextSingleLine, name_).width();
+    return wholeWidth_;
 }
 
 void NameLabel::setName(QString const& name) {
     name_ = name;
+    wholeWidth_ = -1;
     shortenTo(width_);
 }
 
 void NameLabel::shortenTo(int width) {
     width_ = width;
     showText(width < wholeWidth() ? fontMetrics().elidedText(name_, Qt::ElideMiddle, width) : name_);
+}
+
+void NameLabel::changeEvent(QEvent* event) {
+    QLabel::changeEvent(event);
+    wholeWidth_ = -1;
 }
 
 void NameLabel::showText(QString text) {

@@ -22,12 +22,17 @@ public:
     /// Shortens the name to a width in pixels, or shows all of it if that suffices.
     void shortenTo(int width);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void showText(QString text);
 
     QString name_;
     // What was given last, in pixels.
     int width_ = QWIDGETSIZE_MAX;
+    // The form asks for it often. Negative until it is asked for.
+    mutable int wholeWidth_ = -1;
 };
 
 } // namespace Talo

@@ -265,10 +265,17 @@ void ParameterRow::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, K
 void ParameterRow::showDefault() {
     auto const parameter = parameter_.strong();
     auto const* const defaults = parameter ? parameter->defaults() : nullptr;
-    if (!defaults || defaults->isEffectiveIn(*parameter, pool()))
+    if (!defaults || defaults->isEffectiveIn(*parameter, pool())) {
         names_->hideModified();
-    else
-        names_->showModified(spokenName(), valueText(*defaults->in(pool()).value));
+        return;
+    }
+    // A default may be long, and while it is the same one so is its text.
+    auto const value = defaults->in(pool()).value;
+    if (shownDefault_ != Tessera::WeakPtr<Kolt::VValueBase>(value)) {
+        shownDefault_ = value;
+        names_->setDefault(spokenName(), valueText(*value));
+    }
+    names_->showModified();
 }
 
 QString ParameterRow::spokenName() const {
@@ -384,8 +391,6 @@ QSize ParameterRow::sizeHint() const {
 }
 
 bool ParameterRow::takeSizeChange() {
-    if (!std::exchange(wasLaidOut_, false))
-        return false;
     auto const needs = RowNeeds::of(*this, cell_.widget(), nameWidth());
     return std::exchange(needs_, needs) != needs;
 }

@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QWidget>
 #include <tessera/Export.hpp>
+#include <utility>
 
 class QHBoxLayout;
 class QMenu;
@@ -107,7 +108,9 @@ public:
     /// Limits the editor to what a row of this width leaves it. One that cannot become so narrow scrolls from then on.
     void fitInto(int width);
 
-    /// Whether the row asks for another size since this was last called. Cheap for a row that was not laid out since.
+    /// Whether the row was laid out since this was last called.
+    bool takeLayout() { return std::exchange(wasLaidOut_, false); }
+    /// Whether the row asks for another size since this was last called.
     bool takeSizeChange();
 
     /// The commands for the value in the current pool. Reset and paste are undo steps. What cannot be done is
@@ -180,9 +183,10 @@ private:
     // The editor of a covered row is opened when the cover goes.
     bool isOpen_ = false;
     bool isEditorEnabled_ = true;
-    // Whether the row was laid out since its needs were last asked for.
     bool wasLaidOut_ = true;
     RowNeeds needs_;
+    // The default that the indicator names.
+    Tessera::WeakPtr<Kolt::VValueBase> shownDefault_;
     // How the name is aligned with the editor.
     Qt::Alignment vertical_ = Qt::AlignVCenter;
     EditorCell cell_;

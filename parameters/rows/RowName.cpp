@@ -71,15 +71,19 @@ void RowName::setNote(QString const& note) {
     noteLabel_->setVisible(!shown.isEmpty());
 }
 
-void RowName::showModified(QString const& parameterName, QString const& defaultText) {
+void RowName::setDefault(QString const& parameterName, QString const& defaultText) {
     if (!indicator_) {
         indicator_ = new ModifiedIndicator(parameterName, this);
         grid_->addWidget(indicator_, 0, IndicatorColumn, isComponent_ ? 2 : 1, 1);
+        indicator_->hide();
+        keepIndicatorRoom();
         connect(indicator_, &ModifiedIndicator::clicked, this, &RowName::resetRequested);
     }
     indicator_->setDefault(defaultText);
+}
+
+void RowName::showModified() {
     indicator_->show();
-    keepIndicatorRoom();
 }
 
 void RowName::hideModified() {

@@ -36,8 +36,10 @@ public:
     void setComponent(QString const& component, QString const& vector);
     /// Shows a line below the name; an empty one hides it. Components but the first have none.
     void setNote(QString const& note);
-    /// Shows the dot, whose tool tip says which value is the default.
-    void showModified(QString const& parameterName, QString const& defaultText);
+    /// Names the default in the tool tip of the dot.
+    void setDefault(QString const& parameterName, QString const& defaultText);
+    /// Shows the dot. REQUIRES: the default was set.
+    void showModified();
     /// Hides the dot.
     void hideModified();
 

@@ -38,9 +38,17 @@ bool RowSizes::measureRow(std::size_t place, int rowWidth) {
 bool RowSizes::measureChanged(int rowWidth) {
     bool hasChanged = false;
     for (auto const place : made_)
-        if (rowAt_(place)->takeSizeChange())
-            hasChanged = measure(place, rowWidth) || hasChanged;
+        if (rowAt_(place)->takeLayout()) {
+            if (rowAt_(place)->takeSizeChange())
+                hasChanged = measure(place, rowWidth) || hasChanged;
+            hasChanged = hasOtherSize(place, rowWidth) || hasChanged;
+        }
     return hasChanged;
+}
+
+bool RowSizes::hasOtherSize(std::size_t place, int rowWidth) {
+    int const width = vectors_.span(place, rowWidth, nameColumn(rowWidth)).width;
+    return layout_.isShown(place) && rowAt_(place)->size() != QSize(width, layout_.height(place));
 }
 
 } // namespace Talo

@@ -28,11 +28,13 @@ public:
     /// Fits the row at a place into a form whose rows are this wide, and tells the layout its height. Says whether any
     /// row has another place now. REQUIRES: the row exists.
     bool measure(std::size_t place, int rowWidth);
-    /// Measures the rows that ask for another size than before. Says whether any row has another place now.
+    /// Measures the rows that ask for another size than before. Says whether any row has another place now, or has not
+    /// the size of its place: some editors have the row adjust its size.
     bool measureChanged(int rowWidth);
 
 private:
     bool measureRow(std::size_t place, int rowWidth);
+    bool hasOtherSize(std::size_t place, int rowWidth);
 
     RowLayout& layout_;
     VectorRows& vectors_;

@@ -44,6 +44,18 @@ protected:
     }
 };
 
+/// Counts how often widgets are asked to lay out what is in them.
+class LayoutCounter : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count += event->type() == QEvent::LayoutRequest ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 } // namespace
 
 TEST_F(LongForm, ADragOfTheScrollBarKeepsFewRows) {
@@ -150,4 +162,34 @@ TEST_F(LongForm, TheMarkOfAChangedValueComesAndGoesWithoutMovingAnything) {
     EXPECT_FALSE(row("on")->modifiedIndicator()->isVisible());
     EXPECT_EQ(row("on")->nameLabel()->geometry(), label);
     EXPECT_EQ(row("on")->editor()->geometry(), editor);
+}
+
+TEST_F(LongForm, AChangeOfAValueLaysOutNothingAroundItsSection) {
+    auto const on = Parameter<bool>("on", false);
+    add(on);
+    ASSERT_NO_FATAL_FAILURE(show());
+    // The first one makes the mark of a changed value.
+    ASSERT_TRUE(on.write(true));
+    QCoreApplication::processEvents();
+    LayoutCounter counter;
+    area()->widget()->installEventFilter(&counter);
+    panel->installEventFilter(&counter);
+    for (bool const value : {false, true, false}) {
+        ASSERT_TRUE(on.write(value));
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(counter.count, 0);
+}
+
+TEST_F(LongForm, TheMarkNamesTheDefaultOfNow) {
+    auto const size = Parameter<int>("size", 1);
+    add(size);
+    ASSERT_NO_FATAL_FAILURE(show());
+    ASSERT_TRUE(size.write(2));
+    EXPECT_EQ(row("size")->modifiedIndicator()->accessibleDescription(), QLatin1String("Default: 1"));
+    row("size")->setAsDefault();
+    EXPECT_FALSE(row("size")->modifiedIndicator()->isVisible());
+    ASSERT_TRUE(size.write(3));
+    EXPECT_TRUE(row("size")->modifiedIndicator()->isVisible());
+    EXPECT_EQ(row("size")->modifiedIndicator()->accessibleDescription(), QLatin1String("Default: 2"));
 }
