@@ -6,6 +6,7 @@
 #include <lattice/InputRegistry.hpp>
 #include <map>
 #include <network/JsonFormat.hpp>
+#include <parameters/EditorChoice.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
 #include <QAbstractSlider>
 #include <QAccessible>
@@ -21,6 +22,13 @@ using Creator = Kolt::VInputCreatorBase const*;
 
 Creator chosen(Kolt::VParameter const& parameter) {
     return Kolt::InputRegistry::theRegistry().choose(parameter, {"QT"}).creator.strong().get();
+}
+
+/// The creator of the row's editor: one that a person chose, or the usual one.
+Creator creatorOf(Talo::ParameterRow const& row) {
+    auto const* const choice = Talo::EditorChoice::around(row.editor());
+    auto const byPerson = choice ? choice->creatorFor(*row.parameter()).strong() : nullptr;
+    return byPerson ? byPerson.get() : chosen(*row.parameter());
 }
 
 /// Maps each creator to the contract case that can read its editors.
@@ -109,7 +117,7 @@ std::string disagreement(Talo::ParameterRow& row, std::map<Creator, EditorCase c
     auto const parameter = row.parameter();
     if (!parameter || !row.editor() || qobject_cast<Talo::PlaceholderEditor*>(row.editor()))
         return {};
-    auto const found = cases.find(chosen(*parameter));
+    auto const found = cases.find(creatorOf(row));
     if (found == cases.end())
         return "an editor that nobody can read";
     auto const& editor = *found->second;

@@ -3,13 +3,16 @@
 //
 // A walk writes a log, which stays if the walk fails. In the environment,
 // - TALO_WALK_SEED=N walks the seed N alone, TALO_WALK_EVENTS=N makes N acts;
+// - TALO_WALK_MINUTES=N walks for so long, and says what it costs (scripts/soak);
 // - TALO_WALK_REPLAY=FILE walks what a log says;
 // - TALO_WALK_SHORTEN=FILE writes FILE.short, the shortest part of a log that still fails.
 
 #include "FractalPanelTest.hpp"
+#include "LargeNetwork.hpp"
 #include "PanelCheck.hpp"
 #include "RandomWalk.hpp"
 #include "RowCheck.hpp"
+#include "SoakReport.hpp"
 #include "support/VirtualTime.hpp"
 #include "WalkPlan.hpp"
 #include "WalkShortener.hpp"
@@ -24,6 +27,8 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
+
+constexpr int actsOfSoak = 1000;
 
 bool isOffscreen() {
     return QGuiApplication::platformName() == QLatin1String("offscreen");
@@ -56,11 +61,15 @@ protected:
 
 class RandomWalkOfPlan : public RandomWalkTest, public testing::WithParamInterface<WalkPlan> {
 protected:
+    void SetUp() override;
     void walk();
+    void take(RandomWalk& walk, WalkEvents const& events);
     void rest(RandomWalk& walk);
     void goBack(RandomWalk& walk);
     // How many rows were compared with their parameters.
     int compared_ = 0;
+    // Of the log.
+    int line_ = 0;
 };
 
 /// Runs a function from an event loop, as a program does. Only then does Qt keep objects passed to deleteLater alive
@@ -87,15 +96,38 @@ TEST_P(RandomWalkOfPlan, LeavesEveryViewInAgreementWithItsParameter) {
     EXPECT_EQ(shortenLog(GetParam().shortened), "");
 }
 
+void RandomWalkOfPlan::SetUp() {
+    RandomWalkTest::SetUp();
+    QString error;
+    if (GetParam().isLarge) {
+        ASSERT_TRUE(window->openNetwork(networkFile("large.json", largeNetwork().constData()), &error))
+            << qPrintable(error);
+    }
+}
+
 void RandomWalkOfPlan::walk() {
     auto const& plan = GetParam();
     ASSERT_EQ(plan.error, "");
     std::fprintf(stderr, "Walk %s; log: %s\n", plan.name.c_str(), qPrintable(plan.log));
     RandomWalk walk(*window, plugins, folder.path(), plan.log);
+    take(walk, plan.events);
+    SoakReport report(*window, plugins);
+    for (unsigned further = 1; report.minutes() < plan.minutes && !HasFailure(); ++further) {
+        auto const events = walkOfSeed(plan.events.front().seed + further, actsOfSoak);
+        take(walk, events);
+        report.openAndUnload();
+        std::fprintf(stderr, "%s\n", report.line().c_str());
+    }
+    if (!HasFailure() && !plan.keepsLog)
+        QFile::remove(plan.log);
+}
+
+void RandomWalkOfPlan::take(RandomWalk& walk, WalkEvents const& events) {
     int rests = 0;
-    for (std::size_t number = 0; number < plan.events.size() && !HasFailure(); ++number) {
-        auto const& event = plan.events[number];
-        SCOPED_TRACE("line " + std::to_string(number + 1) + " of " + plan.log.toStdString());
+    for (auto const& event : events) {
+        if (HasFailure())
+            return;
+        SCOPED_TRACE("line " + std::to_string(++line_) + " of " + GetParam().log.toStdString());
         switch (event.kind) {
         case WalkEvent::Kind::Act:
             walk.act(event);
@@ -110,8 +142,6 @@ void RandomWalkOfPlan::walk() {
     }
     // The check has compared rows.
     EXPECT_GE(compared_, rests);
-    if (!HasFailure() && !plan.keepsLog)
-        QFile::remove(plan.log);
 }
 
 void RandomWalkOfPlan::rest(RandomWalk& walk) {

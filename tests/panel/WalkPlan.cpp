@@ -8,6 +8,9 @@ namespace {
 // Each event takes longer on a display, and fewer suffice to show that the behaviour is the same.
 constexpr int actsForOneOnDisplay = 4;
 
+// A rest takes longer in a large network.
+constexpr int shareOfLargeNetwork = 8;
+
 bool isOffscreen() {
     // Before there is an application; without the variable the tests are off screen.
     auto const platform = qgetenv("QT_QPA_PLATFORM");
@@ -29,7 +32,15 @@ WalkPlan planOfLog(QString const& file, QString const& folder) {
     QString error;
     plan.events = readWalk(file, &error);
     plan.error = error.toStdString();
+    plan.isLarge = QFileInfo(file).fileName().contains(QLatin1String("large"));
     plan.log = folder + QStringLiteral("/replayed-") + QFileInfo(file).fileName();
+    return plan;
+}
+
+WalkPlan planOfLargeNetwork(unsigned seed, int acts, QString const& folder) {
+    auto plan = planOfSeed("large", seed, acts, folder);
+    plan.isLarge = true;
+    plan.log.replace(QStringLiteral(".log"), QStringLiteral("-large.log"));
     return plan;
 }
 
@@ -53,10 +64,14 @@ std::vector<WalkPlan> walkPlans(int acts, QString const& folder) {
         plans.push_back(planOfLog(replayed, logs));
     } else if (auto const seed = qEnvironmentVariableIntValue("TALO_WALK_SEED"); seed > 0) {
         plans.push_back(planOfSeed("seed", static_cast<unsigned>(seed), count, logs));
+    } else if (auto const minutes = qEnvironmentVariableIntValue("TALO_WALK_MINUTES"); minutes > 0) {
+        plans.push_back(planOfSeed("soak", seedOfToday(), count, logs));
+        plans.back().minutes = minutes;
     } else {
         for (unsigned fixed : {1U, 2U, 3U})
             plans.push_back(planOfSeed("seed" + std::to_string(fixed), fixed, count, logs));
         plans.push_back(planOfSeed("seedOfTheDay", seedOfToday(), count, logs));
+        plans.push_back(planOfLargeNetwork(4, count / shareOfLargeNetwork, logs));
     }
     for (auto& plan : plans)
         plan.keepsLog = !wantedFolder.isEmpty();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -37,10 +38,10 @@ WalkEvents shortestThatFails(WalkEvents walk, std::function<bool(WalkEvents cons
     return walk;
 }
 
-bool failsWhenReplayed(WalkEvents const& walk) {
+bool failsWhenReplayed(WalkEvents const& walk, QString const& name) {
     constexpr int longest = 300'000;
     QTemporaryDir const folder;
-    auto const file = folder.filePath(QStringLiteral("tried.log"));
+    auto const file = folder.filePath(name);
     if (!writeWalk(file, walk))
         return false;
     QProcess process;
@@ -63,10 +64,11 @@ std::string shortenLog(QString const& file) {
     auto const walk = readWalk(file, &error);
     if (walk.empty())
         return error.isEmpty() ? "no event" : error.toStdString();
-    if (!failsWhenReplayed(walk))
+    auto const name = QFileInfo(file).fileName();
+    if (!failsWhenReplayed(walk, name))
         return "the walk does not fail";
-    auto const shortest = shortestThatFails(walk, [](WalkEvents const& tried) {
-        bool const fails = failsWhenReplayed(tried);
+    auto const shortest = shortestThatFails(walk, [&](WalkEvents const& tried) {
+        bool const fails = failsWhenReplayed(tried, name);
         std::fprintf(stderr, "%zu events %s\n", tried.size(), fails ? "fail" : "do not fail");
         return fails;
     });

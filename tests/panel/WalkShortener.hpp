@@ -9,8 +9,8 @@
 /// fails, and does not if any single event is left out. REQUIRES: the walk fails.
 WalkEvents shortestThatFails(WalkEvents walk, std::function<bool(WalkEvents const&)> const& fails);
 
-/// Replays the walk in a process of its own; whether that fails, crashes or takes minutes.
-bool failsWhenReplayed(WalkEvents const& walk);
+/// Replays the walk in a process of its own, from a file of this name; whether that fails, crashes or takes minutes.
+bool failsWhenReplayed(WalkEvents const& walk, QString const& name);
 
 /// Shortens the log of a walk and writes what is left to FILE.short. Returns the reason if that is impossible,
 /// otherwise an empty text.
