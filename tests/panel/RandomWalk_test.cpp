@@ -147,8 +147,8 @@ void RandomWalkOfPlan::take(RandomWalk& walk, WalkEvents const& events) {
 void RandomWalkOfPlan::rest(RandomWalk& walk) {
     EXPECT_THAT(focusFaults(*window), IsEmpty());
     ASSERT_EQ(walk.settle(), "");
-    // Reports of a worker thread arrive a moment later.
-    waitUntil([this] { return disagreements(*window).empty(); }, 2000);
+    // Reports of a worker thread arrive a moment later, and so does the mark of unsaved values.
+    waitUntil([this] { return disagreements(*window).empty() && windowFaults(*window).empty(); }, 2000);
     int rows = 0;
     EXPECT_THAT(disagreements(*window, &rows), IsEmpty());
     EXPECT_THAT(walk.unexplained(), IsEmpty());
