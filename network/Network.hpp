@@ -157,7 +157,7 @@ private:
     std::map<Kolt::VParameter const*, SavedValue> displayed_;
     // What the file holds of the values that people edit.
     std::vector<SavedValue> saved_;
-    // The place of the one that was found to differ last. It nearly always still differs.
+    // The place of the one that was found to differ last. It nearly always still differs, or again.
     mutable std::size_t differing_ = 0;
     // Tells actions whether the network is alive.
     std::shared_ptr<Network*> const self_;

@@ -101,8 +101,10 @@ bool Network::isModified() const {
         return true;
     auto const found =
         std::find_if(saved_.begin(), saved_.end(), [this](auto const& saved) { return !isSaved(saved); });
+    if (found == saved_.end())
+        return false;
     differing_ = static_cast<std::size_t>(found - saved_.begin());
-    return found != saved_.end();
+    return true;
 }
 
 QByteArray Network::unsavedValues() const {

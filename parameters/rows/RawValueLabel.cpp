@@ -12,13 +12,16 @@ namespace {
 // Of what does not fit, in characters.
 constexpr int longestShown = 200;
 constexpr int longestTip = 2000;
+// None has more than four bytes.
+constexpr std::size_t longestTipBytes = 8000;
 
-/// As much of the text of a value as the tool tip says. Most characters are one byte, none has more than four.
+/// As much of the text of a value as the tool tip says.
 QString startOf(Kolt::VValueBase const& value) {
     // A long one is not copied.
     auto const own = Kolt::sharedValueIn<std::string>(&value);
-    auto const& text = own ? *own : value.Text();
-    auto start = QString::fromUtf8(text.data(), static_cast<int>(std::min<std::size_t>(text.size(), 4 * longestTip)));
+    auto const made = own ? std::string() : value.Text();
+    auto const& text = own ? *own : made;
+    auto start = QString::fromUtf8(text.data(), static_cast<int>(std::min(text.size(), longestTipBytes)));
     if (start.size() <= longestTip)
         return start;
     start.truncate(longestTip);
