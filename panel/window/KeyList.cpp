@@ -48,7 +48,8 @@ void addActions(KeyGroup& group, QList<QAction*> const& actions, QSet<QAction co
         // The text of undo names the step as well; the text of its button does not.
         if (!keys.isEmpty() && !listed.contains(action)) {
             listed.insert(action);
-            group.entries.push_back({plainText(action->iconText()), keys});
+            // Qt has removed the mark of the key from it, and the dots.
+            group.entries.push_back({action->iconText(), keys});
         }
     }
 }

@@ -26,12 +26,12 @@ TEST_F(KeyListTest, AMenuIsAGroupOfItsCommandsThatHaveKeys) {
     auto* const menu = window.menuBar()->addMenu(QStringLiteral("&File"));
     menu->addAction(QStringLiteral("&Open..."))->setShortcut(QKeySequence(QStringLiteral("Ctrl+O")));
     menu->addAction(QStringLiteral("Without keys"));
-    menu->addAction(QStringLiteral("Save &as"))
+    menu->addAction(QStringLiteral("Save && &close"))
         ->setShortcuts({QKeySequence(QStringLiteral("Ctrl+S")), QKeySequence(QStringLiteral("F2"))});
     auto const groups = Panel::keysOf(window);
     ASSERT_FALSE(groups.isEmpty());
     EXPECT_EQ(groups.front().title, QStringLiteral("File"));
-    EXPECT_THAT(linesOf(groups.front()), ElementsAre("Open: Ctrl+O", "Save as: Ctrl+S, F2"));
+    EXPECT_THAT(linesOf(groups.front()), ElementsAre("Open: Ctrl+O", "Save & close: Ctrl+S, F2"));
 }
 
 TEST_F(KeyListTest, TheCommandsOfASubmenuAreListedOnce) {
