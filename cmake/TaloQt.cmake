@@ -9,3 +9,10 @@ else()
     message(FATAL_ERROR "TALO_QT is 5 or 6, not ${TALO_QT}.")
 endif()
 find_package(Qt${TALO_QT} ${TALO_QT_VERSION} REQUIRED COMPONENTS Core Gui Widgets)
+
+# The sources are written for Qt 5 and warn with Qt 6 where nothing is wrong: sizes have 64 bits there, channels of colours
+# are floats, and it deprecates what Qt 5 knows by no other name. The builds with Qt 5 look at all of that.
+if(TALO_QT EQUAL 6)
+    target_compile_options(talo_warnings INTERFACE -Wno-conversion -Wno-float-conversion)
+    target_compile_definitions(talo_warnings INTERFACE QT_NO_DEPRECATED_WARNINGS)
+endif()

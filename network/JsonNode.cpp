@@ -211,7 +211,8 @@ JsonNode JsonNode::parse(QByteArray const& json) {
     QJsonParseError error{};
     auto const document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
-        auto const lines = std::count(json.begin(), json.begin() + std::clamp(error.offset, 0, json.size()), '\n');
+        auto const lines =
+            std::count(json.begin(), json.begin() + std::clamp<qint64>(error.offset, 0, json.size()), '\n');
         throw FormatError{static_cast<int>(lines) + 1, "expected valid JSON, found: " + error.errorString()};
     }
     JsonNode root;

@@ -14,6 +14,7 @@
 #include <panel/PluginSearch.hpp>
 #include <panel/PluginTrial.hpp>
 #include <panel/ProgramIcon.hpp>
+#include <panel/QtVersion.hpp>
 #include <panel/Translations.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <panel/window/Session.hpp>
@@ -357,7 +358,7 @@ int main(int argc, char* argv[]) {
     if (!commandLine->language.isEmpty())
         QLocale::setDefault(QLocale(commandLine->language));
 
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    Panel::QtVersion::useSharpIcons();
     if (!commandLine->scale.isEmpty())
         qputenv("QT_SCALE_FACTOR", commandLine->scale.toLatin1());
     qInstallMessageHandler(passOnMessages);

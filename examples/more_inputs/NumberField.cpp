@@ -143,7 +143,7 @@ void NumberField::enterText() {
     auto text = lineEdit()->text().trimmed();
     if (!unit_.isEmpty() && text.endsWith(unit_))
         text.chop(unit_.size());
-    auto const result = Formula::compute(text, QLocale().decimalPoint());
+    auto const result = Formula::compute(text, QString(QLocale().decimalPoint()).at(0));
     auto const error = result.value ? refusal(*result.value) : result.error;
     if (!error.isEmpty()) {
         showError(error);

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <memory>
 #include <panel/look/PanelStyle.hpp>
+#include <panel/QtVersion.hpp>
 #include <QApplication>
 #include <QFont>
 #include <QFontDatabase>
@@ -103,7 +104,7 @@ void setTheme(Theme theme) {
     auto palette = theme == Theme::System ? QPalette() : themePalette(theme);
     // Of one that says nothing itself the platform says all.
     if (theme == Theme::System)
-        palette.resolve(0);
+        QtVersion::forgetOwnColours(palette);
     QApplication::setPalette(palette);
     QToolTip::setPalette(QApplication::palette());
 }

@@ -9,10 +9,13 @@ namespace Kolt {
 
 namespace {
 
+/// What QColor takes: a double in Qt 5, a float in Qt 6.
+using Channel = decltype(QColor().redF());
+
 /// A channel as Qt can show it.
-double shownChannel(float channel) {
+Channel shownChannel(float channel) {
     // Not a number compares false with everything.
-    return channel > 0.0F ? std::min(static_cast<double>(channel), 1.0) : 0.0;
+    return channel > 0.0F ? std::min(channel, 1.0F) : 0.0F;
 }
 
 QColor shownColour(Ferro::rgba_float_t const& colour) {
@@ -82,7 +85,7 @@ void qVColor::showColour(Ferro::rgba_float_t const& colour) {
     setLineWidth(1);
 
     auto const window = shownColour(colour);
-    bool const light = std::min({window.redF(), window.greenF(), window.blueF(), 1.0}) >= 0.5;
+    bool const light = std::min({window.redF(), window.greenF(), window.blueF()}) >= Channel(0.5);
     QColor text(light ? Qt::black : Qt::white);
     text.setAlphaF(window.alphaF());
     QPalette shown(palette());

@@ -23,8 +23,10 @@ qVStringList::qVStringList(ParameterRef const& parameter, QWidget* parent, Value
     cached_ = valueOr(firstValue(), VStringList());
     if (cached_)
         fill();
-    // By name, as the compiler warns of the signal with a text, which every Qt 5 has.
-    connect(comboBox_, SIGNAL(activated(QString)), this, SLOT(selectItem(QString))); // clazy:exclude=old-style-connect
+    // By name, as the compiler warns of the signal with a text, which every Qt 5 has, and Qt 6 knows by another name.
+    bool const isQt5 = comboBox_->metaObject()->indexOfSignal("activated(QString)") >= 0;
+    auto const* const chosen = isQt5 ? SIGNAL(activated(QString)) : SIGNAL(textActivated(QString));
+    connect(comboBox_, chosen, this, SLOT(selectItem(QString))); // clazy:exclude=old-style-connect
     comboBox_->show();
     activateNotification();
 }
@@ -73,7 +75,7 @@ void qVStringList::refill() {
     int const cursor = isTyped ? field->cursorPosition() : 0;
     // Qt completes a text by characters that are selected behind the cursor; a person selects either way.
     int const start = isTyped ? field->selectionStart() : -1;
-    int const selected = isTyped ? field->selectedText().size() : 0;
+    int const selected = isTyped ? field->selectionLength() : 0;
     fill();
     if (!isTyped)
         return;

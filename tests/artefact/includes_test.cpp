@@ -98,6 +98,21 @@ INSTANTIATE_TEST_SUITE_P(Modules, IncludesOfModule,
                                          "parameters", "checker", "fractal", "panel"),
                          [](auto const& test) { return std::string(test.param); });
 
+TEST_F(Includes, OnlyOneHeaderAsksForTheVersionOfQt) {
+    std::vector<std::string> asking;
+    for (auto const* const folder :
+         {"host", "plugin", "qVinputs", "network", "parameters", "checker", "fractal", "panel"})
+        for (auto const& entry : fs::recursive_directory_iterator(fs::path(TALO_SOURCES) / folder)) {
+            if (entry.path().extension() != ".hpp" && entry.path().extension() != ".cpp")
+                continue;
+            std::ifstream source(entry.path());
+            std::string const text((std::istreambuf_iterator<char>(source)), std::istreambuf_iterator<char>());
+            if (text.find("QT_VERSION") != std::string::npos)
+                asking.push_back(fs::relative(entry.path(), TALO_SOURCES).string());
+        }
+    EXPECT_THAT(asking, testing::ElementsAre("panel/QtVersion.hpp"));
+}
+
 TEST_F(Includes, AreFoundInEverySpelling) {
     std::istringstream source("#include <a/b.hpp>\n  #  include \"c.moc\" // why\n// #include <no>\n#pragma once\n");
     EXPECT_THAT(headersOf(source), testing::ElementsAre("a/b.hpp", "c.moc"));
