@@ -1,20 +1,21 @@
 #include <bramble/ChoiceBits.hpp>
 
 #include <algorithm>
-#include <atomic>
 
 namespace Kolt {
 
-ChoiceBits::ChoiceBits(std::size_t size) : size_(size), pieces_((size + bitsOfAPiece - 1) / bitsOfAPiece) {
+ChoiceBits::ChoiceBits(std::size_t size)
+    : size_(size), pieces_((size + bitsOfAPiece - 1) / bitsOfAPiece), isOwn_(pieces_.size()) {
     setAll(false);
 }
 
 ChoiceBits::~ChoiceBits() = default;
 
-ChoiceBits::ChoiceBits(ChoiceBits const& other) : size_(other.size_) {
+ChoiceBits::ChoiceBits(ChoiceBits const& other) : size_(other.size_), isOwn_(other.isOwn_.size()) {
     other.shareWithLastCopy();
     pieces_ = other.pieces_;
     other.lastCopy_ = pieces_;
+    other.isOwn_.assign(isOwn_.size(), false);
 }
 
 void ChoiceBits::shareWithLastCopy() const {
@@ -24,31 +25,29 @@ void ChoiceBits::shareWithLastCopy() const {
 }
 
 void ChoiceBits::set(std::size_t place, bool on) {
-    auto& piece = pieces_[place / bitsOfAPiece];
-    auto const bit = std::uint64_t{1} << (place % bitsOfAWord);
-    auto const word = place % bitsOfAPiece / bitsOfAWord;
     if ((*this)[place] == on)
         return;
-    auto const changed = on ? (*piece)[word] | bit : (*piece)[word] & ~bit;
-    if (piece.use_count() > 1)
-        piece = std::make_shared<Piece>(*piece);
-    // Another thread may have given the piece up just now.
-    std::atomic_thread_fence(std::memory_order_acquire);
-    const_cast<Piece&>(*piece)[word] = changed;
+    auto const index = place / bitsOfAPiece;
+    if (!isOwn_[index]) {
+        pieces_[index] = std::make_shared<Piece>(*pieces_[index]);
+        isOwn_[index] = true;
+    }
+    (*pieces_[index])[place % bitsOfAPiece / bitsOfAWord] ^= std::uint64_t{1} << (place % bitsOfAWord);
 }
 
 void ChoiceBits::setAll(bool on) {
     auto const piece = std::make_shared<Piece>();
     piece->fill(on ? ~std::uint64_t{0} : 0);
     std::fill(pieces_.begin(), pieces_.end(), piece);
+    isOwn_.assign(pieces_.size(), false);
 }
 
 void ChoiceBits::flip() {
     for (auto& piece : pieces_) {
-        auto const flipped = std::make_shared<Piece>(*piece);
-        std::transform(flipped->begin(), flipped->end(), flipped->begin(), [](auto word) { return ~word; });
-        piece = flipped;
+        piece = std::make_shared<Piece>(*piece);
+        std::transform(piece->begin(), piece->end(), piece->begin(), [](auto word) { return ~word; });
     }
+    isOwn_.assign(pieces_.size(), true);
 }
 
 std::size_t ChoiceBits::byteCount() const {

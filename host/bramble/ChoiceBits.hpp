@@ -45,14 +45,17 @@ private:
     static constexpr std::size_t wordsOfAPiece = 64;
     static constexpr std::size_t bitsOfAPiece = bitsOfAWord * wordsOfAPiece;
     using Piece = std::array<std::uint64_t, wordsOfAPiece>;
-    using Pieces = std::vector<std::shared_ptr<Piece const>>;
+    using Pieces = std::vector<std::shared_ptr<Piece>>;
 
     /// Has equal pieces of the last copy instead of its own. What is edited as a whole is nearly always as it was.
     void shareWithLastCopy() const;
 
     std::size_t const size_;
-    // A piece that nobody shares may be changed. Bits behind the last one have no meaning.
+    // Bits behind the last one have no meaning.
     mutable Pieces pieces_;
+    // Which pieces were made here and never shared. Only these may be changed: whether those who shared another one are
+    // all gone cannot be asked without waiting for their threads.
+    mutable std::vector<bool> isOwn_;
     mutable Pieces lastCopy_;
 };
 

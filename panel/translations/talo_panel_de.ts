@@ -888,6 +888,17 @@ Es läuft mit Qt %1.</translation>
             <numerusform>%n Zeilen Ausgabe</numerusform>
         </translation>
     </message>
+    <message>
+        <source>1 line of output was left out, because it came too fast.</source>
+        <translation>1 Zeile der Ausgabe wurde ausgelassen, weil sie zu schnell kam.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines of output were left out, because they came too fast.</source>
+        <translation>
+            <numerusform>%n Zeile der Ausgabe wurde ausgelassen, weil sie zu schnell kam.</numerusform>
+            <numerusform>%n Zeilen der Ausgabe wurden ausgelassen, weil sie zu schnell kamen.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageList</name>

@@ -888,6 +888,17 @@ Il fonctionne avec Qt %1.</translation>
             <numerusform>%n lignes de sortie</numerusform>
         </translation>
     </message>
+    <message>
+        <source>1 line of output was left out, because it came too fast.</source>
+        <translation>1 ligne de la sortie a été omise, car elle arrivait trop vite.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n lines of output were left out, because they came too fast.</source>
+        <translation>
+            <numerusform>%n ligne de la sortie a été omise, car elle arrivait trop vite.</numerusform>
+            <numerusform>%n lignes de la sortie ont été omises, car elles arrivaient trop vite.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Panel::MessageList</name>

@@ -365,6 +365,19 @@
         <source>%1, undone</source>
         <translation>%1, rückgängig gemacht</translation>
     </message>
+    <message>
+        <source>Oldest state that is kept</source>
+        <translation>Ältester Zustand, der behalten wird</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <comment>start, memory</comment>
+        <translation>%1 (%2 von %3)</translation>
+    </message>
+    <message>
+        <source>Older steps were forgotten, as the history was full.</source>
+        <translation>Ältere Schritte wurden vergessen, weil der Verlauf voll war.</translation>
+    </message>
 </context>
 <context>
     <name>Talo::MixedButton</name>

@@ -365,6 +365,19 @@
         <source>%1, undone</source>
         <translation>%1, annulé</translation>
     </message>
+    <message>
+        <source>Oldest state that is kept</source>
+        <translation>Plus ancien état conservé</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of %3)</source>
+        <comment>start, memory</comment>
+        <translation>%1 (%2 sur %3)</translation>
+    </message>
+    <message>
+        <source>Older steps were forgotten, as the history was full.</source>
+        <translation>Des étapes plus anciennes ont été oubliées, car l’historique était plein.</translation>
+    </message>
 </context>
 <context>
     <name>Talo::MixedButton</name>

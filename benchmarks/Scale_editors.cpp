@@ -1,0 +1,190 @@
+// What long lists and long texts cost.
+
+#include "ScaleReport.hpp"
+
+#include <bramble/MultipleStringSelection.hpp>
+#include <bramble/StringSelection.hpp>
+#include <lattice/EditRecorder.hpp>
+#include <malloc.h>
+#include <panel/window/MainWindow.hpp>
+#include <panel/window/Plugins.hpp>
+#include <parameters/rows/RawValueLabel.hpp>
+#include <QHelpEvent>
+#include <QListWidget>
+#include <QTest>
+#include <QTextEdit>
+#include <sorrel/InputFrontEnd.hpp>
+
+namespace {
+
+std::vector<std::string> frames(int count) {
+    std::vector<std::string> all;
+    for (int number = 0; number < count; ++number)
+        all.push_back("frame_" + std::to_string(number) + ".png");
+    return all;
+}
+
+class OnePool : public Kolt::ValuePoolSource, public Kolt::ValuePoolProvider {
+public:
+    Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override {
+        return Tessera::WeakPtr<Kolt::ValuePoolProvider>(const_cast<OnePool*>(this)).strong();
+    }
+    Kolt::PoolPtr getValuePool() const override { return pool_; }
+
+private:
+    Kolt::PoolPtr const pool_{new Kolt::ValuePool("pool")};
+};
+
+class Source : public Kolt::ValueNotifier {
+public:
+    ~Source() override { stopNotifications(); }
+    void onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) override {}
+};
+
+/// Bytes that a step keeps and the time of an edit that is recorded; `edit` changes the selection in place.
+template <typename Selection, typename Edit>
+void reportSteps(ScaleReport& report, std::string const& name, Selection const& selection, double byteGoal,
+                 Edit const& edit) {
+    Kolt::UndoHistory history;
+    Kolt::ParameterPtr const parameter(new Kolt::VParameter("frames", Kolt::makeValue(selection)));
+    parameter->setHistory(&history);
+    auto const recorder = Kolt::EditRecorder::watch(parameter);
+    Source source;
+    int number = 0;
+    auto const change = [&] {
+        edit(*selection, number++);
+        if (!Kolt::setParameterValue(*parameter, selection, nullptr, std::string(), false,
+                                     Tessera::WeakPtr<Kolt::ValueNotifier>(&source), nullptr))
+            qFatal("The benchmark cannot write the value.");
+    };
+    change();
+    constexpr int steps = 100;
+    auto const before = mallinfo2();
+    double const time = quickestTime(1, [&](int) {
+        for (int step = 0; step < steps; ++step)
+            change();
+    });
+    auto const after = mallinfo2();
+    double const bytes =
+        static_cast<double>(after.uordblks + after.hblkhd) - static_cast<double>(before.uordblks + before.hblkhd);
+    report.add(name + ": undo step", bytes / steps / 1024, byteGoal, "KB");
+    report.add(name + ": recorded edit", time / steps, 0.1);
+}
+
+QByteArray const& megabyte() {
+    static QByteArray const text =
+        QByteArray("a line of sixty-four characters, which is what a line may hold.\n").repeated(1 << 14);
+    return text;
+}
+
+void reportRawValue(ScaleReport& report, Panel::MainWindow& window) {
+    auto* const raw = window.currentView()->findChild<Talo::RawValueLabel*>();
+    auto const text = megabyte().toStdString();
+    auto const parameter = window.network()->findParameter("o.p");
+    auto const other = Kolt::makeValue(text + '!');
+    report.add("1 MB text: raw value until painted",
+               quickestTime(5,
+                            [&](int round) {
+                                if (!parameter->ownValue()->assign(*(round % 2 ? other : Kolt::makeValue(text))))
+                                    qFatal("The benchmark cannot write the value.");
+                                raw->refresh();
+                                raw->repaint();
+                            }),
+               1);
+    report.add("1 MB text: tool tip of the raw value",
+               quickestTime(3,
+                            [&](int) {
+                                QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), raw->mapToGlobal(QPoint(5, 5)));
+                                QCoreApplication::sendEvent(raw, &help);
+                                QCoreApplication::processEvents();
+                            }),
+               1);
+}
+
+} // namespace
+
+void reportLists(ScaleReport& report) {
+    auto const list = frames(largeSize);
+    Kolt::VStringList const single(new Kolt::StringSelection(list, list.front()));
+    Kolt::VMultipleStringList const multiple(new Kolt::MultipleStringSelection(list));
+    reportSteps(report, "100,000 texts, single selection", single, 1,
+                [&](auto& selection, int number) { selection.select(list[static_cast<std::size_t>(number + 1)]); });
+    reportSteps(report, "100,000 texts, multiple selection", multiple, 10,
+                [&](auto& selection, int number) { selection.add(list[static_cast<std::size_t>(number)]); });
+
+    OnePool pools;
+    QWidget window;
+    window.resize(600, 400);
+    window.show();
+    auto const reportHost = [&](char const* job, auto const& selection, double goal, auto const& change) {
+        Kolt::ParameterPtr const parameter(new Kolt::VParameter("frames", Kolt::makeValue(selection)));
+        auto const editor = Kolt::makeEditor(parameter, &window, &pools);
+        editor.widget->show();
+        QCoreApplication::processEvents();
+        report.add(job,
+                   quickestTime(5,
+                                [&](int round) {
+                                    change(*selection, round);
+                                    parameter->notifyValueChange(parameter->ownValue(), nullptr, std::string(), nullptr,
+                                                                 nullptr, nullptr);
+                                    QCoreApplication::processEvents();
+                                }),
+                   goal);
+        delete editor.widget;
+    };
+    reportHost("100,000 texts, drop-down: host change", single, 0.3,
+               [&](auto& selection, int round) { selection.select(list[static_cast<std::size_t>(round)]); });
+    reportHost("100,000 texts, multiple selection: equal refill", multiple, 30, [](auto&, int) {});
+}
+
+void reportTexts(ScaleReport& report) {
+    QTemporaryDir const folder;
+    Panel::Plugins plugins;
+    Panel::MainWindow window(plugins);
+    window.show();
+    window.openNetwork(written(folder, "text.json", textJson(megabyte())));
+    QCoreApplication::processEvents();
+    auto* const edit = window.currentView()->findChild<QTextEdit*>();
+    if (!edit)
+        qFatal("There is no editor.");
+    edit->setFocus();
+    auto const key = [&](int) {
+        QTest::keyClick(edit, Qt::Key_X);
+        QCoreApplication::processEvents();
+    };
+    quickestTime(3, key);
+    double total = quickestTime(1, [&](int) {
+        for (int n = 0; n < 20; ++n)
+            key(n);
+    });
+    report.add("1 MB text in the panel: key", total / 20, 2);
+    window.setRawValuesShown(true);
+    QCoreApplication::processEvents();
+    total = quickestTime(1, [&](int) {
+        for (int n = 0; n < 20; ++n)
+            key(n);
+    });
+    report.add("1 MB text in the panel: key, raw values shown", total / 20, 3);
+    reportRawValue(report, window);
+}
+
+void reportKeys(ScaleReport& report) {
+    QTemporaryDir const folder;
+    Panel::Plugins plugins;
+    Panel::MainWindow window(plugins);
+    window.show();
+    auto const entries = listOfTexts(largeSize, "frame ");
+    window.openNetwork(written(folder, "choice.json", choiceJson(entries)));
+    QCoreApplication::processEvents();
+    auto* const list = window.currentView()->findChild<QListWidget*>();
+    if (!list)
+        qFatal("There is no list.");
+    list->setFocus();
+    // Both ways, so that the list does not come to its end.
+    auto const key = [&](int round) {
+        QKeyEvent event(QEvent::KeyPress, round % 2 ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier);
+        QCoreApplication::sendEvent(list, &event);
+    };
+    quickestTime(2, key);
+    report.add("100,000 texts, all chosen: key that chooses nothing", quickestTime(20, key), 0.1);
+}
