@@ -339,7 +339,11 @@ bool ParameterRow::takeSizeChange() {
 }
 
 bool ParameterRow::event(QEvent* event) {
-    wasLaidOut_ = wasLaidOut_ || event->type() == QEvent::LayoutRequest;
+    if (event->type() == QEvent::LayoutRequest) {
+        wasLaidOut_ = true;
+        // A row whose editor had it adjust its size was laid out before this event, and its form has not heard of it.
+        updateGeometry();
+    }
     if (event->type() != QEvent::ToolTip || !names_->geometry().contains(static_cast<QHelpEvent*>(event)->pos()))
         return QWidget::event(event);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipText(), names_);
