@@ -73,14 +73,14 @@ void StandardOutputTap::listen() {
         while (take())
             ;
         forward();
-        reportHearing();
+        countReceived();
     }
     // Nothing else comes; a reader that merely is slow gets the rest.
     pollfd output{realOutput_, POLLOUT, 0};
     while (written_ < unwritten_.size() && poll(&output, 1, lastWait) > 0)
         forward();
     if (!line_.isEmpty())
-        tellLine();
+        emitLine();
 }
 
 bool StandardOutputTap::take() {
@@ -119,12 +119,12 @@ void StandardOutputTap::takeLines(char const* next, char const* end) {
         isCut_ = isCut_ || lineEnd - next > room;
         if (lineEnd == end)
             return;
-        tellLine();
+        emitLine();
         next = lineEnd + 1;
     }
 }
 
-void StandardOutputTap::tellLine() {
+void StandardOutputTap::emitLine() {
     auto line = QString::fromUtf8(line_);
     int const bytes = line_.size() + 1;
     line_.clear();
@@ -134,25 +134,25 @@ void StandardOutputTap::tellLine() {
             line.chop(1);
         line += QChar(0x2026);
     }
-    if (unheard_ > MostUnheard) {
+    if (unreceived_ > MostUnreceived) {
         ++missed_;
         return;
     }
     if (int const missed = std::exchange(missed_, 0); missed > 0)
         emit linesMissed(missed);
-    unheard_ += bytes;
-    told_ += bytes;
+    unreceived_ += bytes;
+    emitted_ += bytes;
     emit linePrinted(line);
     // Now and then, as many lines may come before the pipe is empty.
-    if (told_ > MostUnheard / 2)
-        reportHearing();
+    if (emitted_ > MostUnreceived / 2)
+        countReceived();
 }
 
-void StandardOutputTap::reportHearing() {
+void StandardOutputTap::countReceived() {
     // The receivers live on the thread of this object, and hear the lines before this call.
-    if (int const told = std::exchange(told_, 0); told > 0)
+    if (int const bytes = std::exchange(emitted_, 0); bytes > 0)
         QMetaObject::invokeMethod(
-            this, [this, told] { unheard_ -= told; }, Qt::QueuedConnection);
+            this, [this, bytes] { unreceived_ -= bytes; }, Qt::QueuedConnection);
 }
 
 } // namespace Panel

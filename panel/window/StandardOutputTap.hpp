@@ -13,16 +13,16 @@ namespace Panel {
 /// printed after the first megabyte is only told of. It starts with the object and ends with it; several may be nested.
 ///
 /// A thread of its own reads along: a long text printed at once never blocks the writer, whatever the event loop does.
-/// It keeps little: of a long line the start is told of, and lines that come faster than they are heard are left out.
-/// Where the system gives no pipe the tap hears nothing.
+/// It keeps little: of a long line only the start is emitted, and lines that come faster than the receivers take them
+/// are left out. Where the system gives no pipe the tap hears nothing.
 class StandardOutputTap : public QObject {
     Q_OBJECT
 
 public:
-    /// Of a longer line so many bytes are told of, and "…".
+    /// Of a longer line so many bytes are emitted, and "…".
     static constexpr int LongestLine = 1 << 14;
-    /// While the receivers have so many bytes of lines still to hear, further lines are left out.
-    static constexpr int MostUnheard = 1 << 23;
+    /// While so many bytes of lines are emitted and not received yet, further lines are left out.
+    static constexpr int MostUnreceived = 1 << 23;
 
     explicit StandardOutputTap(QObject* parent = nullptr);
     ~StandardOutputTap() override;
@@ -38,11 +38,11 @@ private:
     void listen();
     bool take();
     void forward();
-    /// Adds what was printed to the line, and tells of each line that ends.
+    /// Adds what was printed to the line, and emits each line that ends.
     void takeLines(char const* next, char const* end);
-    void tellLine();
-    /// Has the receivers' thread say that it has heard what was told.
-    void reportHearing();
+    void emitLine();
+    /// Has the receivers' thread count what it has received.
+    void countReceived();
 
     int realOutput_ = -1;
     int pipe_ = -1;
@@ -55,10 +55,10 @@ private:
     // What was printed, from `written_` on, and not written to the real output yet.
     QByteArray unwritten_;
     int written_ = 0;
-    // In bytes: what was told and not heard yet, and what of it nobody was asked about.
-    std::atomic<int> unheard_{0};
-    int told_ = 0;
-    // How many lines were not told of since the last one that was.
+    // In bytes: what was emitted and not received yet, and what was emitted since countReceived().
+    std::atomic<int> unreceived_{0};
+    int emitted_ = 0;
+    // How many lines were left out since the last one that was emitted.
     int missed_ = 0;
     std::thread listener_;
 };

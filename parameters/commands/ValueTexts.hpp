@@ -16,8 +16,8 @@ QString startOfText(Kolt::VValueBase const& value, int characters);
 
 /// Two values in one line each, or a part of each around the first difference.
 struct DifferingTexts {
-    QString before;
-    QString after;
+    QString before; ///< of the first value
+    QString after;  ///< of the second value
     /// Whether both texts begin before these parts.
     bool isCut = false;
 };
