@@ -139,14 +139,17 @@ Kolt::PoolPtr Network::findPool(QString const& name) const {
 }
 
 QString Network::nameOf(Kolt::ParameterPtr const& parameter) const {
-    auto const* const holder = parameter ? parameter->object() : nullptr;
-    auto const known = holder ? byName_.find(holder->Name()) : byName_.end();
-    if (known != byName_.end() && known->second.get() == holder)
-        return QString::fromStdString(holder->Name() + '.' + parameter->Name());
+    if (!parameter)
+        return {};
+    if (auto const* const holder = parameter->object()) {
+        auto const known = byName_.find(holder->Name());
+        if (known != byName_.end() && known->second.get() == holder)
+            return QString::fromStdString(holder->Name() + '.' + parameter->Name());
+    }
     // It may belong to several objects, or its object may have another name now.
     for (auto const& object : objects_) {
         auto const& all = object->parameters();
-        if (parameter && std::find(all.begin(), all.end(), parameter) != all.end())
+        if (std::find(all.begin(), all.end(), parameter) != all.end())
             return QString::fromStdString(object->Name() + '.' + parameter->Name());
     }
     return {};

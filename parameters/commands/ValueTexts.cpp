@@ -129,12 +129,12 @@ QString startOfText(Kolt::VValueBase const& value, int characters) {
     return start.size() >= characters ? start : wholeText(value);
 }
 
-std::optional<DifferingTexts> differingParts(Kolt::VValueBase const& before, Kolt::VValueBase const& after, int leadIn,
-                                             int characters) {
+std::optional<DifferingTexts> differingParts(Kolt::VValueBase const& before, Kolt::VValueBase const& after,
+                                             int charactersBefore, int characters) {
     auto const chosenBefore = Kolt::valueIn<Selection>(&before).value_or(Selection());
     auto const chosenAfter = Kolt::valueIn<Selection>(&after).value_or(Selection());
     if (chosenBefore && chosenAfter && chosenBefore->hasSameTexts(*chosenAfter))
-        return differingChoices(chosenBefore, chosenAfter, std::max(leadIn, characters));
+        return differingChoices(chosenBefore, chosenAfter, std::max(charactersBefore, characters));
     auto const left = Kolt::sharedValueIn<std::string>(&before);
     auto const right = Kolt::sharedValueIn<std::string>(&after);
     if (!left || !right || std::min(left->size(), right->size()) <= longText)
@@ -146,8 +146,8 @@ std::optional<DifferingTexts> differingParts(Kolt::VValueBase const& before, Kol
     auto const differ =
         std::mismatch(parts.before.begin(), parts.before.end(), parts.after.begin(), parts.after.end()).first;
     auto const common = static_cast<int>(differ - parts.before.begin());
-    bool const hasLeadIn = !parts.isCut || common > leadIn;
-    if (!hasLeadIn || !isEnough(parts.before, common, end < left->size(), characters) ||
+    bool const hasLead = !parts.isCut || common > charactersBefore;
+    if (!hasLead || !isEnough(parts.before, common, end < left->size(), characters) ||
         !isEnough(parts.after, common, end < right->size(), characters))
         return {};
     return parts;

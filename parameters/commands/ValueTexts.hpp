@@ -22,9 +22,9 @@ struct DifferingTexts {
     bool isCut = false;
 };
 
-/// The parts of the texts of two long values, with at least `leadIn` characters before the first difference and
-/// `characters` behind it, if there are as many. Empty for values whose whole texts are to be looked at.
-std::optional<DifferingTexts> differingParts(Kolt::VValueBase const& before, Kolt::VValueBase const& after, int leadIn,
-                                             int characters);
+/// The parts of the texts of two long values, with at least `charactersBefore` characters before the first difference
+/// and `characters` behind it, if there are as many. Empty for values whose whole texts are to be looked at.
+std::optional<DifferingTexts> differingParts(Kolt::VValueBase const& before, Kolt::VValueBase const& after,
+                                             int charactersBefore, int characters);
 
 } // namespace Talo

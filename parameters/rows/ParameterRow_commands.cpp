@@ -1,6 +1,7 @@
 // The commands of a row for its value.
 
 #include <parameters/commands/RowCommands.hpp>
+#include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/ParameterRow.hpp>
 #include <QPointer>
 

@@ -15,7 +15,7 @@ using Channel = decltype(QColor().redF());
 /// A channel as Qt can show it.
 Channel shownChannel(float channel) {
     // Not a number compares false with everything.
-    return channel > 0.0F ? std::min(channel, 1.0F) : 0.0F;
+    return static_cast<Channel>(channel > 0.0F ? std::min(channel, 1.0F) : 0.0F);
 }
 
 QColor shownColour(Ferro::rgba_float_t const& colour) {
