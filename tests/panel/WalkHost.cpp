@@ -124,7 +124,7 @@ void WalkHost::resize() {
 }
 
 void WalkHost::changeLook() {
-    auto const kind = dice_.below(4);
+    auto const kind = dice_.below(3);
     dice_.note("look " + std::to_string(kind));
     auto palette = QApplication::palette();
     auto font = QApplication::font();
@@ -137,26 +137,12 @@ void WalkHost::changeLook() {
         font.setPixelSize(8 + static_cast<int>(dice_.below(10)));
         QApplication::setFont(font);
         break;
-    case 2:
-        QApplication::setLayoutDirection(QApplication::isRightToLeft() ? Qt::LeftToRight : Qt::RightToLeft);
-        break;
     default:
-        changeLanguage();
+        QApplication::setLayoutDirection(QApplication::isRightToLeft() ? Qt::LeftToRight : Qt::RightToLeft);
     }
-}
-
-void WalkHost::changeLanguage() {
-    if (std::exchange(translations_, nullptr)) {
-        QLocale::setDefault(locale_);
-        return;
-    }
-    QLocale::setDefault(QLocale(QLocale::German));
-    translations_ = std::make_unique<Panel::Translations>();
 }
 
 void WalkHost::restoreLook() {
-    if (translations_)
-        changeLanguage();
     QApplication::setPalette(palette_);
     QApplication::setFont(font_);
     QApplication::setLayoutDirection(Qt::LeftToRight);
