@@ -72,16 +72,32 @@ void NotifierGuard::deliverKept() {
     lock.unlock();
 }
 
+void NotifierGuard::awaitOthers(Lock& lock) {
+    becameIdle_.wait(lock, [this] { return !isBusyElsewhere(); });
+}
+
+void NotifierGuard::reportListGone() {
+    Lock lock(mutex_);
+    awaitOthers(lock);
+    auto* const notifier = notifier_.load();
+    if (!notifier)
+        return;
+    Delivery const delivery(*this, lock);
+    notifier->onListGone();
+}
+
 void NotifierGuard::close() {
     std::vector<KeptReport> forgotten;
     Lock lock(mutex_);
     notifier_ = nullptr;
     forgotten = std::exchange(kept_, {});
-    becameIdle_.wait(lock, [this] { return !isBusyElsewhere(); });
+    awaitOthers(lock);
     lock.unlock();
 }
 
 std::vector<NotifierGuard::KeptReport> NotifierGuard::takeReplaced(Report const& report) {
+    if (kept_.empty())
+        return {};
     auto const isReplaced = [&](KeptReport const& kept) {
         return kept.report.list == report.list && kept.report.context.pool() == report.context.pool() &&
                (kept.report.properties == nullptr) == (report.properties == nullptr);

@@ -42,6 +42,9 @@ public:
     void deliver(Report const& report);
     /// Delivers the reports that were kept before the call, unless another thread is delivering.
     void deliverKept();
+    /// Calls ValueNotifier::onListGone() of the notifier, as for a delivery. Waits for a delivery by another thread
+    /// that is under way.
+    void reportListGone();
     /// Ends all deliveries. Waits for one by another thread that is under way.
     void close();
 
@@ -53,6 +56,7 @@ private:
     };
     class Delivery;
     bool isBusyElsewhere() const;
+    void awaitOthers(Lock& lock);
     std::vector<KeptReport> takeReplaced(Report const& report);
     void keep(Report const& report);
     void run(Report const& report, Lock& lock);

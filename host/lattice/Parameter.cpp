@@ -2,30 +2,33 @@
 
 #include <algorithm>
 #include <lattice/ActionNotifier.hpp>
+#include <lattice/ChangeSignal.hpp>
 #include <lattice/EditRecorder.hpp>
 #include <lattice/Object.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <lattice/ValueCreator.hpp>
+#include <typeinfo>
 
 namespace Kolt {
 
 namespace {
 
-/// The type that editors and panels expect of a property, as a readable name; empty for names that they do not know.
-std::string expectedPropertyType(std::string const& declaredType, std::string const& name) {
+/// The type that editors and panels expect of a property; null for names that they do not know.
+std::type_info const* expectedPropertyType(std::string const& declaredType, std::string const& name) {
     auto const isOneOf = [&](std::initializer_list<char const*> names) {
         return std::find(names.begin(), names.end(), name) != names.end();
     };
-    bool const isNumber = declaredType == "int" || declaredType == "double";
+    bool const isInteger = declaredType == "int";
+    bool const isNumber = isInteger || declaredType == "double";
     if (isNumber && isOneOf({"min", "max", "increment"}))
-        return declaredType;
+        return isInteger ? &typeid(int) : &typeid(double);
     if (isNumber && name == "precision")
-        return "int";
+        return &typeid(int);
     if (isOneOf({"advanced", "readOnly"}))
-        return "bool";
+        return &typeid(bool);
     bool const isText = isOneOf(
         {"tooltip", "icon", "inputmask", "Extension", "label", "help", "unit", "group", "visibleWhen", "enabledWhen"});
-    return isText ? "std::string" : std::string();
+    return isText ? &typeid(std::string) : nullptr;
 }
 
 } // namespace
@@ -113,6 +116,8 @@ void VParameter::selectMember(std::string const&) const {}
 void VParameter::notifyValueChange(ValuePtr const& value, PoolPtr const& pool, std::string const&,
                                    Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                                    ValueMap const* values) const {
+    if (changeSignal_ && !values && isEdited())
+        changeSignal_->raise();
     if (!hasListeners() && !alsoNotify && recorder_.expired())
         return;
     // A copy, as a notifier may destroy what holds the caller's reference.
@@ -136,10 +141,11 @@ std::string VParameter::fullName() const {
 void VParameter::setProperty(std::string const& name, ValuePtr const& value,
                              Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                              Tessera::WeakPtr<ValuePool> const& pool) {
-    auto const expected = value ? expectedPropertyType(declaredType_, name) : std::string();
-    if (!expected.empty() && expected != Tessera::Typename(value->valueType()))
+    auto const* const expected = value ? expectedPropertyType(declaredType_, name) : nullptr;
+    if (expected && *expected != value->valueType())
         VActionNotifier::Warning("The property \"" + name + "\" of the parameter \"" + fullName() +
-                                 "\" should be of type " + expected + ", not " + Tessera::Typename(value->valueType()));
+                                 "\" should be of type " + Tessera::Typename(*expected) + ", not " +
+                                 Tessera::Typename(value->valueType()));
     if (!properties_)
         properties_ = std::make_shared<ValueMap>();
     filledIn_.erase(std::remove(filledIn_.begin(), filledIn_.end(), name), filledIn_.end());

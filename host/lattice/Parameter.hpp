@@ -11,6 +11,7 @@
 
 namespace Kolt {
 
+class ChangeSignal;
 class EditRecorder;
 class UndoHistory;
 class VObject;
@@ -119,6 +120,9 @@ public:
     /// Attaches the parameter to a history, which is not owned; null detaches it. When the history is destroyed, the
     /// parameter is detached. Steps recorded before stay in the history that recorded them.
     void setHistory(UndoHistory* history);
+    /// Raises the signal at each change of a value from now on, of a parameter that people edit; null for none.
+    /// Properties are no values. Called before other threads use the parameter.
+    void setChangeSignal(std::shared_ptr<ChangeSignal> const& signal) { changeSignal_ = signal; }
     /// Adds a record of an edit to the parameter's history, just before the value is written. Histories do not use the
     /// weight.
     void AddUndoAction(Tessera::StrongPtr<VUndoAction> const& action, int weight);
@@ -146,6 +150,7 @@ private:
     std::unique_ptr<ValueSnapshot> defaults_;
     std::weak_ptr<EditRecorder> recorder_;
     Tessera::WeakPtr<UndoHistory> history_;
+    std::shared_ptr<ChangeSignal> changeSignal_;
     std::optional<bool> edited_;
     // The object that has the parameter; it resets this when it no longer has it. Null for none.
     VObject const* object_ = nullptr;

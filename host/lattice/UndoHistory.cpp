@@ -14,6 +14,12 @@ std::vector<UndoHistory*>& histories() {
     return *all;
 }
 
+template <typename Steps>
+std::size_t bytesOf(Steps const& steps) {
+    auto const add = [](std::size_t bytes, auto const& step) { return bytes + step->byteCount(); };
+    return std::accumulate(steps.begin(), steps.end(), std::size_t{0}, add);
+}
+
 } // namespace
 
 class UndoHistory::Restoring {
@@ -72,9 +78,7 @@ void UndoHistory::add(Tessera::StrongPtr<VUndoAction> const& action, ParameterRe
 
 void UndoHistory::record(ValueChange const& change) {
     bool const joins = !steps_.empty() && steps_.back()->awaitsChangeOf(change);
-    auto& step = joins ? *steps_.back() : currentStep();
-    step.add(change);
-    trim();
+    add(change, joins ? *steps_.back() : currentStep());
     changed();
 }
 
@@ -104,8 +108,7 @@ bool UndoHistory::store(ParameterPtr const& parameter, PoolPtr const& pool, Effe
     if (!isStep || change.changesNothing())
         return true;
     if (auto* const step = continueStepOf(cause)) {
-        step->add(change);
-        trim();
+        add(change, *step);
         changed();
     } else {
         record(change);
@@ -131,7 +134,7 @@ void UndoHistory::closeStep() {
     if (!step->changesNothing())
         return;
     remove(step);
-    undone_ = undone;
+    setUndone(undone);
     {
         Restoring const restoring(*this);
         step->discardLocalValues();
@@ -149,7 +152,7 @@ bool UndoHistory::cancelStep() {
         Restoring const restoring(*this);
         step->undo();
     }
-    undone_ = undone;
+    setUndone(undone);
     changed();
     return true;
 }
@@ -168,8 +171,10 @@ bool UndoHistory::undo() {
         Restoring const restoring(*this);
         undone = step->undo();
     }
-    if (undone && !step->changes().empty() && inserted == inserted_)
+    if (undone && !step->changes().empty() && inserted == inserted_) {
         undone_.push_back(step);
+        mostBytes_ += step->byteCount();
+    }
     changed();
     return undone;
 }
@@ -193,7 +198,7 @@ bool UndoHistory::redo() {
     if (made)
         insert(step);
     if (isLatest)
-        undone_ = later;
+        setUndone(later);
     changed();
     return made;
 }
@@ -276,24 +281,41 @@ UndoStep& UndoHistory::currentStep() {
 void UndoHistory::insert(OwnStep const& step) {
     steps_.push_back(step);
     ++inserted_;
+    mostBytes_ += step->byteCount();
+    trim();
+}
+
+void UndoHistory::setUndone(std::vector<OwnStep> const& steps) {
+    undone_ = steps;
+    mostBytes_ += bytesOf(steps);
+}
+
+void UndoHistory::add(ValueChange const& change, UndoStep& step) {
+    auto const before = step.byteCount();
+    step.add(change);
+    mostBytes_ += step.byteCount() - before;
     trim();
 }
 
 void UndoHistory::trim() {
     // Destroyed last: the destructor of a record may do anything.
     std::vector<OwnStep> oldest;
-    for (auto bytes = byteCount(); steps_.size() > Capacity || (bytes > ByteCapacity && steps_.size() > 1);) {
-        bytes -= steps_.front()->byteCount();
+    auto const forgetOldest = [&] {
         oldest.push_back(steps_.front());
         steps_.pop_front();
         ++forgotten_;
-    }
+    };
+    while (steps_.size() > Capacity)
+        forgetOldest();
+    if (mostBytes_ <= ByteCapacity)
+        return;
+    mostBytes_ = byteCount();
+    for (; mostBytes_ > ByteCapacity && steps_.size() > 1; forgetOldest())
+        mostBytes_ -= steps_.front()->byteCount();
 }
 
 std::size_t UndoHistory::byteCount() const {
-    auto const add = [](std::size_t bytes, OwnStep const& step) { return bytes + step->byteCount(); };
-    return std::accumulate(undone_.begin(), undone_.end(),
-                           std::accumulate(steps_.begin(), steps_.end(), std::size_t{0}, add), add);
+    return bytesOf(steps_) + bytesOf(undone_);
 }
 
 void UndoHistory::remove(OwnStep const& step) {

@@ -126,6 +126,10 @@ private:
     /// The latest step, if it changed the parameter, which then has no undone steps after it; null otherwise.
     UndoStep* continueStepOf(ParameterRef const& cause);
     void insert(OwnStep const& step);
+    /// The steps that can be redone from now on, the next one last.
+    void setUndone(std::vector<OwnStep> const& steps);
+    /// Adds a change to one of the steps.
+    void add(ValueChange const& change, UndoStep& step);
     /// Forgets the oldest steps of a history that is full.
     void trim();
     void remove(OwnStep const& step);
@@ -133,6 +137,8 @@ private:
 
     std::deque<OwnStep> steps_;
     std::size_t forgotten_ = 0;
+    // No less than all steps take: each that comes in adds to it. To count them at each edit would be slow.
+    std::size_t mostBytes_ = 0;
     // Counts the steps ever inserted, so that undo and redo notice one that was recorded meanwhile.
     unsigned long inserted_ = 0;
     // The last one is redone first.

@@ -1,12 +1,19 @@
 #pragma once
 
+#include <atomic>
 #include <lattice/ValueBase.hpp>
 #include <lattice/ValueTrait.hpp>
 #include <memory>
 #include <optional>
+#include <type_traits>
 #include <typeinfo>
 
 namespace Kolt {
+
+template <typename T>
+class VTypedValueBase;
+template <typename T>
+VTypedValueBase<T> const* typedValue(VValueBase const* value);
 
 /// A value that can be read and stored as a T, wherever it is kept. `get`, `set` and `holds` may be called on any
 /// thread.
@@ -33,7 +40,7 @@ public:
 
     std::type_info const& valueType() const override { return typeid(T); }
     std::string Text() const override {
-        auto const value = shared();
+        auto const value = content();
         return value ? VValueTrait<T>::Text(*value) : std::string();
     }
     bool setValueFromText(std::string const& text) override {
@@ -42,16 +49,31 @@ public:
         return get(value) && VValueTrait<T>::setValueFromText(value, text) && set(value);
     }
     bool equals(VValueBase const& other) const override {
-        auto const* const typed = dynamic_cast<VTypedValueBase const*>(&other);
-        auto const value = typed ? typed->shared() : nullptr;
+        auto const* const typed = typedValue<T>(&other);
+        if (!typed)
+            return false;
+        auto const value = typed->content();
         return value && holds(*value);
     }
     bool assign(VValueBase const& other) override {
-        auto const* const typed = dynamic_cast<VTypedValueBase const*>(&other);
+        auto const* const typed = typedValue<T>(&other);
         T value{};
         return typed && typed->get(value) && set(VValueTrait<T>::Clone(value));
     }
     bool isEdited() const override { return IsEditedType<T>; }
+
+private:
+    // The value as cheaply as it can be had, to be read through *; empty if it cannot be read.
+    auto content() const {
+        if constexpr (std::is_arithmetic_v<T>) {
+            std::optional<T> number(T{});
+            if (!get(*number))
+                number.reset();
+            return number;
+        } else {
+            return shared();
+        }
+    }
 };
 
 /// A value of type T kept in the object itself, T() unless another one is given. Every store is accepted, also one of
@@ -61,33 +83,60 @@ template <typename T>
 class VValue : public VTypedValueBase<T> {
 public:
     /// Has this value.
-    explicit VValue(T const& value = T()) : content_(share(value)) {}
+    explicit VValue(T const& value = T()) : content_(kept(value)) {}
 
     bool get(T& out) const override {
         out = *content();
         return true;
     }
     bool set(T const& value) override {
-        // The old content is destroyed at the end, no longer under the lock.
-        auto const old = std::atomic_exchange(&content_, share(value));
+        if constexpr (IsNumber) {
+            content_.store(value, std::memory_order_release);
+        } else {
+            // The old content is destroyed at the end, no longer under the lock.
+            auto const old = std::atomic_exchange(&content_, share(value));
+        }
         return true;
     }
-    std::shared_ptr<T const> shared() const override { return content(); }
+    std::shared_ptr<T const> shared() const override {
+        if constexpr (IsNumber)
+            return share(*content());
+        else
+            return content();
+    }
     // Compared in place, so that a long text is not copied.
     bool holds(T const& value) const override { return VValueTrait<T>::Equal(*content(), value); }
     ValuePtr clone() const override { return ValuePtr(new VValue(VValueTrait<T>::Clone(*content()))); }
-    std::size_t byteCount() const override { return sizeof *this + sizeof(T) + FurtherBytes<T>::of(*content()); }
+    std::size_t byteCount() const override {
+        return sizeof *this + (IsNumber ? 0 : sizeof(T) + FurtherBytes<T>::of(*content()));
+    }
 
 private:
+    static constexpr bool IsNumber = std::is_arithmetic_v<T>;
+
     // Not inline: what destroys the content must be in the library that has the template, not in one that is unloaded
     // before the value dies.
     [[gnu::noinline]] static std::shared_ptr<T const> share(T const& value) { return std::make_shared<T const>(value); }
 
-    std::shared_ptr<T const> content() const { return std::atomic_load(&content_); }
+    static auto kept(T const& value) {
+        if constexpr (IsNumber)
+            return value;
+        else
+            return share(value);
+    }
+
+    // The content, to be read through *.
+    auto content() const {
+        if constexpr (IsNumber)
+            return std::optional<T>(content_.load(std::memory_order_acquire));
+        else
+            return std::atomic_load(&content_);
+    }
 
     // Replaced as a whole by each store. Read and replaced atomically, as a mutex of its own would be a third of a
-    // value object, and networks have a hundred thousand of them.
-    std::shared_ptr<T const> content_;
+    // value object, and networks have a hundred thousand of them. Numbers are stored in place, as simulations change
+    // ten thousand of them at a time.
+    std::conditional_t<IsNumber, std::atomic<T>, std::shared_ptr<T const>> content_;
 };
 
 /// The object as one of values of type T, found by a dynamic type test; null if it is null or of another type. To

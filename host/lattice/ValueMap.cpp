@@ -18,6 +18,10 @@ ValuePtr ValueMap::getValue(std::string const& name) const {
 void ValueMap::setValue(std::string const& name, ValuePtr const& value) {
     auto const index = place(name) - entries_.cbegin();
     bool const exists = index != static_cast<std::ptrdiff_t>(entries_.size()) && entries_.begin()[index].first == name;
+    if (exists && value) {
+        entries_[static_cast<std::size_t>(index)].second = value;
+        return;
+    }
     if (exists)
         entries_.erase(entries_.begin() + index);
     if (!value)

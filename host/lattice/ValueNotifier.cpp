@@ -1,6 +1,7 @@
 #include <lattice/ValueNotifier.hpp>
 
 #include <algorithm>
+#include <iterator>
 #include <lattice/NotifierGuard.hpp>
 #include <tessera/NoDestructor.hpp>
 #include <unordered_map>
@@ -78,9 +79,9 @@ ValueNotifierList::ValueNotifierList() = default;
 ValueNotifierList::~ValueNotifierList() {
     if (!hasListeners())
         return;
-    for (auto const& guard : snapshot())
-        if (auto* const notifier = guard->notifier())
-            notifier->onListGone();
+    auto const guards = snapshot();
+    for (auto const& guard : *guards)
+        guard->reportListGone();
 }
 
 void ValueNotifierList::addNotifier(Tessera::WeakPtr<ValueNotifier> const& notifier) const {
@@ -88,37 +89,43 @@ void ValueNotifierList::addNotifier(Tessera::WeakPtr<ValueNotifier> const& notif
     if (!living)
         return;
     std::lock_guard const lock(mutex_);
-    guards_.erase(std::remove_if(guards_.begin(), guards_.end(), [](auto const& guard) { return !guard->notifier(); }),
-                  guards_.end());
-    if (std::find(guards_.begin(), guards_.end(), living->guard_) == guards_.end())
-        guards_.push_back(living->guard_);
+    auto const isAlive = [](auto const& guard) { return guard->notifier() != nullptr; };
+    auto guards = std::make_shared<Guards>();
+    if (guards_)
+        std::copy_if(guards_->begin(), guards_->end(), std::back_inserter(*guards), isAlive);
+    if (std::find(guards->begin(), guards->end(), living->guard_) == guards->end())
+        guards->push_back(living->guard_);
+    guards_ = std::move(guards);
     used_.store(true, std::memory_order_release);
 }
 
 std::size_t ValueNotifierList::size() const {
     auto const guards = snapshot();
     return static_cast<std::size_t>(
-        std::count_if(guards.begin(), guards.end(), [](auto const& guard) { return guard->notifier() != nullptr; }));
+        std::count_if(guards->begin(), guards->end(), [](auto const& guard) { return guard->notifier() != nullptr; }));
 }
 
-ValueNotifierList::Guards ValueNotifierList::snapshot() const {
+std::shared_ptr<ValueNotifierList::Guards const> ValueNotifierList::snapshot() const {
+    static Tessera::NoDestructor<std::shared_ptr<Guards const>> none(std::make_shared<Guards>());
     std::lock_guard const lock(mutex_);
-    return guards_;
+    return guards_ ? guards_ : *none;
 }
 
 void ValueNotifierList::notify(Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                                ValuePtr const& value, VContext const& context, ValueMap const* properties) const {
     auto const guards = snapshot();
-    auto const further = alsoNotify ? alsoNotify->snapshot() : Guards();
+    auto const further = alsoNotify ? alsoNotify->snapshot() : nullptr;
     auto const from = source.strong();
     auto const sourceGuard = from ? from->guard_ : nullptr;
     NotifierGuard::Report const report{this, value, context, properties};
-    for (auto const& guard : guards) {
+    for (auto const& guard : *guards) {
         if (guard != sourceGuard)
             guard->deliver(report);
     }
-    for (auto const& guard : further) {
-        bool const notified = guard != sourceGuard && std::find(guards.begin(), guards.end(), guard) != guards.end();
+    if (!further)
+        return;
+    for (auto const& guard : *further) {
+        bool const notified = guard != sourceGuard && std::find(guards->begin(), guards->end(), guard) != guards->end();
         if (!notified)
             guard->deliver(report);
     }

@@ -34,7 +34,8 @@ public:
     virtual void onValueChange(ValuePtr const& newValue, VContext const& context, ValueMap const* properties) = 0;
 
     /// A list that contains the notifier, such as a parameter, is being destroyed: no strong reference to it can be
-    /// made any more, but it may still count as alive. Called on the thread that destroys it. Does nothing.
+    /// made any more, but it may still count as alive. Called on the thread that destroys it, which waits for a
+    /// notification of this notifier by another thread. Does nothing unless a derived class does. It must not throw.
     virtual void onListGone();
 
     /// Notifies this notifier alone, as a list that contains it would. The context holds the pool, as above.
@@ -64,7 +65,7 @@ private:
 class TALO_EXPORT ValueNotifierList : public Tessera::ReferenceBase<ValueNotifierList> {
 public:
     ValueNotifierList();
-    /// Tells the notifiers that it is gone (ValueNotifier::onListGone).
+    /// Calls onListGone() of its notifiers.
     ~ValueNotifierList() override;
     ValueNotifierList(ValueNotifierList const&) = delete;
     ValueNotifierList& operator=(ValueNotifierList const&) = delete;
@@ -76,7 +77,7 @@ public:
 
 protected:
     /// How many notifiers the list remembers: the living, and those that died since the last one was added.
-    std::size_t remembered() const { return snapshot().size(); }
+    std::size_t remembered() const { return snapshot()->size(); }
     /// Whether a notifier was ever added. Cheap, as simulations change many parameters of which few are shown.
     bool hasListeners() const { return used_.load(std::memory_order_acquire); }
     /// Notifies a snapshot of the list, in order and as ValueNotifier says, except `source` and notifiers that are
@@ -87,10 +88,12 @@ protected:
 
 private:
     using Guards = std::vector<std::shared_ptr<NotifierGuard>>;
-    Guards snapshot() const;
+    std::shared_ptr<Guards const> snapshot() const;
 
     mutable std::mutex mutex_;
-    mutable Guards guards_;
+    // Never changed, but replaced, so that a snapshot is no copy: lists are notified far more often than they grow.
+    // Null before a notifier is added, as most lists of a large network have none.
+    mutable std::shared_ptr<Guards const> guards_;
     mutable std::atomic<bool> used_{false};
 };
 

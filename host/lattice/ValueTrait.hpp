@@ -50,7 +50,8 @@ struct FurtherBytes {
     /// Of one value.
     static std::size_t of(T const&) { return 0; }
 };
-template <typename T> /// For types whose trait says it.
+/// For types whose trait says it.
+template <typename T>
 struct FurtherBytes<T, std::void_t<decltype(VValueTrait<T>::ByteCount(std::declval<T const&>()))>> {
     /// Of one value.
     static std::size_t of(T const& value) { return VValueTrait<T>::ByteCount(value); }

@@ -12,8 +12,8 @@ namespace Kolt {
 
 namespace {
 
-constexpr QChar Comma(',');
-constexpr QChar Point('.');
+constexpr QChar Comma(u',');
+constexpr QChar Point(u'.');
 
 bool isReturn(QKeyEvent const& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;

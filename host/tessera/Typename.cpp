@@ -2,10 +2,11 @@
 
 #include <cstdlib>
 #include <cxxabi.h>
+#include <functional>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <tessera/NoDestructor.hpp>
-#include <unordered_map>
 
 namespace Tessera {
 
@@ -48,12 +49,12 @@ std::string readableName(char const* mangled) {
 std::string Typename(std::type_info const& type) {
     // Immortal, as creators that are destroyed at the end of the process still ask.
     static NoDestructor<std::mutex> mutex;
-    static NoDestructor<std::unordered_map<std::string, std::string>> names;
+    static NoDestructor<std::map<std::string, std::string, std::less<>>> names;
     std::lock_guard const lock(*mutex);
-    auto& name = (*names)[type.name()];
-    if (name.empty())
-        name = readableName(type.name());
-    return name;
+    auto known = names->find(type.name());
+    if (known == names->end())
+        known = names->emplace(type.name(), readableName(type.name())).first;
+    return known->second;
 }
 
 } // namespace Tessera

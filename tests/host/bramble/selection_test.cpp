@@ -182,6 +182,16 @@ TEST_F(MultipleSelections, EqualTextsAreChosenTogether) {
     EXPECT_EQ(value_->chosenCount(), 3U);
 }
 
+TEST_F(MultipleSelections, AllOfTextsThatDifferAreAsManyAsTheListHas) {
+    MultipleStringSelection selection({"b", "a", "c"});
+    selection.addAll();
+    EXPECT_EQ(selection.chosenCount(), 3U);
+    selection.invertAll();
+    EXPECT_EQ(selection.chosenCount(), 0U);
+    selection.invertAll();
+    EXPECT_EQ(selection.chosenCount(), 3U);
+}
+
 TEST_F(MultipleSelections, ChooseAllNoneAndTheOthers) {
     value_->add("b");
     value_->invertAll();

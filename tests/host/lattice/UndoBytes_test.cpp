@@ -4,6 +4,7 @@
 
 #include <bramble/MultipleStringSelection.hpp>
 #include <bramble/StringSelection.hpp>
+#include <random>
 
 namespace {
 
@@ -40,6 +41,33 @@ TEST_F(UndoBytesTest, AHistoryForgetsItsOldestStepsWhenTheirValuesTakeTooMuch) {
     history.clear();
     EXPECT_EQ(history.byteCount(), 0U);
     EXPECT_EQ(history.forgottenSteps(), 0U);
+}
+
+TEST_F(UndoBytesTest, TheLimitHoldsWhateverIsUndoneRedoneAndDropped) {
+    auto const parameter = makeParameter(std::string());
+    parameter->setHistory(&history);
+    auto const recorder = Kolt::EditRecorder::watch(parameter);
+    std::mt19937 random(7);
+    char content = '!';
+    auto const next = [&] { return content = content == '~' ? '!' : static_cast<char>(content + 1); };
+    for (int round = 0; round < 300; ++round) {
+        auto const deed = random() % 8;
+        if (deed < 4) {
+            edit(parameter, megabytes(1 + random() % 5, next()));
+        } else if (deed == 4) {
+            // A macro that changes nothing gives the undone steps back.
+            auto const before = parameter->ownValue()->Text();
+            UndoHistory::Macro const macro(history);
+            edit(parameter, megabytes(3, next()));
+            edit(parameter, before);
+        } else if (deed < 7) {
+            history.undo();
+        } else {
+            history.redo();
+        }
+        ASSERT_TRUE(history.byteCount() <= UndoHistory::ByteCapacity || history.steps().size() <= 1) << round;
+    }
+    EXPECT_GT(history.forgottenSteps(), 0U);
 }
 
 TEST_F(UndoBytesTest, TheLatestStepIsKeptHoweverLargeItIs) {

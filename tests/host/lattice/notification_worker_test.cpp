@@ -31,6 +31,25 @@ struct Leaving : ValueNotifier {
     std::string text_;
 };
 
+/// Is half destroyed for a while, in which nothing may be called.
+struct LeavingAtTheEnd : ValueNotifier {
+    explicit LeavingAtTheEnd(std::atomic<int>& calls) : calls_(calls) {}
+    ~LeavingAtTheEnd() override {
+        stopNotifications();
+        isWhole_ = false;
+        std::this_thread::yield();
+    }
+    void onValueChange(StrongPtr<Kolt::VValueBase> const&, Kolt::VContext const&, Kolt::ValueMap const*) override {}
+    void onListGone() override {
+        ++calls_;
+        for (int look = 0; look < 100; ++look)
+            if (!isWhole_)
+                ADD_FAILURE() << "called while it was destroyed";
+    }
+    std::atomic<int>& calls_;
+    bool isWhole_ = true;
+};
+
 class NotificationByWorkers : public TaloTest {
 protected:
     ParameterPtr const parameter_{new VParameter("status", makeValue(std::string("start")))};
@@ -71,6 +90,28 @@ TEST_F(NotificationByWorkers, NobodyIsNotifiedAfterStopping) {
         EXPECT_TRUE(setParameterValue(*parameter_, std::string("y"), nullptr, "", false, {}, nullptr));
     }).join();
     EXPECT_EQ(deliveries_, 1);
+}
+
+TEST_F(NotificationByWorkers, ANotifierMayBeDestroyedWhileAWorkerDestroysTheParameter) {
+    std::atomic<int> calls{0};
+    for (int round = 0; round < 200; ++round) {
+        ParameterPtr parameter(new VParameter("status", makeValue(round)));
+        auto notifier = std::make_unique<LeavingAtTheEnd>(calls);
+        parameter->addNotifier(Tessera::WeakPtr<ValueNotifier>(notifier.get()));
+        std::atomic<bool> go{false};
+        std::thread worker([&] {
+            while (!go)
+                ;
+            parameter = nullptr;
+        });
+        go = true;
+        // Now and then the parameter is first.
+        while (round % 2 == 0 && calls == 0)
+            std::this_thread::yield();
+        notifier.reset();
+        worker.join();
+        EXPECT_LE(calls.exchange(0), 1);
+    }
 }
 
 TEST_F(NotificationByWorkers, WorkersMayExtendAListThatIsBeingNotified) {
