@@ -76,13 +76,14 @@ Kolt::ValuePtr readValue(Kolt::VValueFormat const& format, JsonNode const& node,
     try {
         value = format.read(text);
     } catch (std::exception const& problem) {
-        node.refuse(what + " (" + QString::fromUtf8(problem.what()) + ')');
+        node.refuse(what + QStringLiteral(" (") + QString::fromUtf8(problem.what()) + QLatin1Char(')'));
     }
     if (!value)
         node.refuse(what);
     auto const typeName = Tessera::Typename(value->valueType());
     if (typeName != format.typeName())
-        node.refuse(what, "a value of type " + QString::fromStdString(typeName) + ", which its format made");
+        node.refuse(what, QStringLiteral("a value of type ") + QString::fromStdString(typeName) +
+                              QStringLiteral(", which its format made"));
     return value;
 }
 
@@ -136,7 +137,7 @@ bool offerSameChoices(Kolt::ValuePtr const& left, Kolt::ValuePtr const& right) {
 
 QJsonValue realToJson(double number) {
     if (std::isnan(number))
-        return "nan";
+        return QStringLiteral("nan");
     bool const negativeZero = number == 0.0 && std::signbit(number);
     if (std::isfinite(number) && !negativeZero)
         return number;

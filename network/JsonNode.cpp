@@ -4,20 +4,23 @@
 #include <cmath>
 #include <lattice/ValueTrait.hpp>
 #include <limits>
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
 #include <QStringList>
 #include <QVarLengthArray>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace Talo {
 
 QString quoted(QString const& text) {
     int const longest = 60;
-    return '"' + (text.size() > longest ? text.left(longest) + "..." : text) + '"';
+    return QLatin1Char('"') + (text.size() > longest ? text.left(longest) + QStringLiteral("...") : text) +
+           QLatin1Char('"');
 }
 
 namespace {
@@ -25,28 +28,30 @@ namespace {
 QString described(QJsonValue const& value) {
     switch (value.type()) {
     case QJsonValue::Null:
-        return "null";
+        return QStringLiteral("null");
     case QJsonValue::Bool:
-        return value.toBool() ? "true" : "false";
+        return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
     case QJsonValue::Double:
-        return "the number " + QString::fromStdString(Kolt::VValueTrait<double>::Text(value.toDouble()));
+        return QStringLiteral("the number ") +
+               QString::fromStdString(Kolt::VValueTrait<double>::Text(value.toDouble()));
     case QJsonValue::String:
-        return "the text " + quoted(value.toString());
+        return QStringLiteral("the text ") + quoted(value.toString());
     case QJsonValue::Array:
-        return "a list of " + QString::number(value.toArray().size());
+        return QStringLiteral("a list of ") + QString::number(value.toArray().size());
     case QJsonValue::Object:
-        return "an object";
+        return QStringLiteral("an object");
     case QJsonValue::Undefined:
         break;
     }
-    return "nothing";
+    return QStringLiteral("nothing");
 }
 
-/// The keys of an object. Most objects have few, for which a list is faster than a set.
+/// The keys of an object, each of which is one object in memory for all keys of the same text. Most objects have few,
+/// for which a list is faster than a set.
 class TakenKeys {
 public:
     /// False if the key was taken already.
-    bool take(QString const& key) {
+    bool take(QString const* key) {
         if (few_.contains(key) || many_.contains(key))
             return false;
         if (few_.size() < mostInList)
@@ -58,8 +63,8 @@ public:
 
 private:
     static constexpr int mostInList = 12;
-    QVarLengthArray<QString, mostInList> few_;
-    QSet<QString> many_;
+    QVarLengthArray<QString const*, mostInList> few_;
+    QSet<QString const*> many_;
 };
 
 /// Whether a text has no half of a surrogate pair.
@@ -105,13 +110,15 @@ private:
 
     void advance() {
         if (next_ == end_)
-            throw FormatError{line_, "expected valid JSON, found its end"};
+            throw FormatError{line_, QStringLiteral("expected valid JSON, found its end")};
         if (*next_++ == '\n')
             ++line_;
     }
+    // Half of a file is blanks.
     void skipBlanks() {
         while (next_ != end_ && isBlank(*next_))
-            advance();
+            if (*next_++ == '\n')
+                ++line_;
     }
     /// Skips blanks and then a mark, if there is one.
     bool skip(char mark) {
@@ -137,15 +144,20 @@ private:
         return isEscaped;
     }
     /// Reads a key. Keys are few and come again and again, so all of one text share it.
-    QString readKey() {
+    QString const* readKey() {
         auto const* const begin = next_;
         bool const isEscaped = skipString();
-        QByteArray const written(begin, static_cast<int>(next_ - begin));
+        std::string_view const written(begin, static_cast<std::size_t>(next_ - begin));
         auto& known = keys_[written];
-        if (known.isNull())
-            known = isEscaped ? QJsonDocument::fromJson('[' + written + ']').array().at(0).toString()
-                              : QString::fromUtf8(written.constData() + 1, written.size() - 2);
+        if (!known)
+            known = &*keyTexts_.insert(decoded(written, isEscaped)).first;
         return known;
+    }
+    static QString decoded(std::string_view written, bool isEscaped) {
+        auto const size = static_cast<int>(written.size());
+        if (!isEscaped)
+            return QString::fromUtf8(written.data() + 1, size - 2);
+        return QJsonDocument::fromJson('[' + QByteArray(written.data(), size) + ']').array().at(0).toString();
     }
 
     /// The value of a member by its key. Qt compares keys up to a U+0000, and loses a byte order mark at their start,
@@ -153,8 +165,9 @@ private:
     static QJsonValue valueOf(QJsonObject const& object, JsonNode const& member) {
         auto const found = object.constFind(member.key_);
         if (found == object.constEnd() || member.key_.contains(QChar::Null))
-            throw FormatError{member.keyLine_, "expected a key without the characters U+0000 and U+FEFF, found " +
-                                                   quoted(QString(member.key_).remove(QChar::Null))};
+            throw FormatError{member.keyLine_,
+                              QStringLiteral("expected a key without the characters U+0000 and U+FEFF, found ") +
+                                  quoted(QString(member.key_).remove(QChar::Null))};
         return *found;
     }
 
@@ -172,15 +185,16 @@ private:
         while (!skip('}')) {
             skip(',');
             skipBlanks();
-            JsonNode member;
+            auto& member = node.children_.emplace_back();
             member.keyLine_ = line_;
-            member.key_ = readKey();
-            if (!keys.take(member.key_))
-                throw FormatError{member.keyLine_, "expected each key once, found " + quoted(member.key_) + " again"};
+            auto const* const key = readKey();
+            member.key_ = *key;
+            if (!keys.take(key))
+                throw FormatError{member.keyLine_, QStringLiteral("expected each key once, found ") +
+                                                       quoted(member.key_) + QStringLiteral(" again")};
             skip(':');
             member.value_ = valueOf(object, member);
             scan(member);
-            node.children_.push_back(std::move(member));
         }
         node.value_ = QJsonObject();
     }
@@ -191,21 +205,28 @@ private:
         ++next_;
         for (auto const& value : array) {
             skip(',');
-            JsonNode element;
+            auto& element = node.children_.emplace_back();
             element.value_ = value;
             scan(element);
-            node.children_.push_back(std::move(element));
         }
         skip(']');
         node.value_ = QJsonArray();
     }
 
-    // By the key as it is written in the file.
-    QHash<QByteArray, QString> keys_;
+    // By the key as it is written in the file, with its quotation marks. Two ways to write a key share the text.
+    std::unordered_map<std::string_view, QString const*> keys_;
+    std::unordered_set<QString> keyTexts_;
     char const* next_;
     char const* const end_;
     int line_ = 1;
 };
+
+QString Expectation::text() const {
+    if (!literal_)
+        return *text_;
+    auto const name = QString::fromUtf8(literal_);
+    return text_ ? name + QLatin1Char(' ') + quoted(*text_) : name;
+}
 
 JsonNode JsonNode::parse(QByteArray const& json) {
     QJsonParseError error{};
@@ -213,7 +234,8 @@ JsonNode JsonNode::parse(QByteArray const& json) {
     if (error.error != QJsonParseError::NoError) {
         auto const lines =
             std::count(json.begin(), json.begin() + std::clamp<qint64>(error.offset, 0, json.size()), '\n');
-        throw FormatError{static_cast<int>(lines) + 1, "expected valid JSON, found: " + error.errorString()};
+        throw FormatError{static_cast<int>(lines) + 1,
+                          QStringLiteral("expected valid JSON, found: ") + error.errorString()};
     }
     JsonNode root;
     root.value_ = document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
@@ -244,27 +266,27 @@ void JsonNode::refuse(QString const& expected) const {
 }
 
 void JsonNode::refuse(QString const& expected, QString const& found) const {
-    throw FormatError{line_, "expected " + expected + ", found " + found};
+    throw FormatError{line_, QStringLiteral("expected ") + expected + QStringLiteral(", found ") + found};
 }
 
 QString JsonNode::text(Expectation const& what) const {
     if (!value_.isString())
-        refuse(what.text() + ", a text");
+        refuse(what.text() + QStringLiteral(", a text"));
     if (!isWhole(text_))
-        refuse(what.text() + ", a text of whole Unicode characters");
+        refuse(what.text() + QStringLiteral(", a text of whole Unicode characters"));
     return text_;
 }
 
 QString JsonNode::nonEmptyText(Expectation const& what) const {
     auto const read = text(what);
     if (read.isEmpty())
-        refuse(what.text() + ", a text that is not empty");
+        refuse(what.text() + QStringLiteral(", a text that is not empty"));
     return read;
 }
 
 bool JsonNode::truth(Expectation const& what) const {
     if (!value_.isBool())
-        refuse(what.text() + ", true or false");
+        refuse(what.text() + QStringLiteral(", true or false"));
     return value_.toBool();
 }
 
@@ -272,7 +294,7 @@ int JsonNode::integer(Expectation const& what) const {
     using Limits = std::numeric_limits<int>;
     auto const number = value_.toDouble(std::nan(""));
     if (!(number >= Limits::min() && number <= Limits::max() && std::trunc(number) == number))
-        refuse(what.text() + QString(", a whole number from %1 to %2").arg(Limits::min()).arg(Limits::max()));
+        refuse(what.text() + QStringLiteral(", a whole number from %1 to %2").arg(Limits::min()).arg(Limits::max()));
     return static_cast<int>(number);
 }
 
@@ -280,21 +302,22 @@ double JsonNode::real(Expectation const& what) const {
     if (value_.isDouble())
         return value_.toDouble();
     double number = 0.0;
-    if (!QStringList{"nan", "inf", "-inf", "-0"}.contains(text_) ||
+    if (!QStringList{QStringLiteral("nan"), QStringLiteral("inf"), QStringLiteral("-inf"), QStringLiteral("-0")}
+             .contains(text_) ||
         !Kolt::VValueTrait<double>::setValueFromText(number, text_.toStdString()))
-        refuse(what.text() + R"(, a number or one of "nan", "inf", "-inf", "-0")");
+        refuse(what.text() + QStringLiteral(R"(, a number or one of "nan", "inf", "-inf", "-0")"));
     return number;
 }
 
 std::vector<JsonNode> const& JsonNode::elements(Expectation const& what) const {
     if (!value_.isArray())
-        refuse(what.text() + ", a list");
+        refuse(what.text() + QStringLiteral(", a list"));
     return children_;
 }
 
 std::vector<JsonNode> const& JsonNode::members(Expectation const& what) const {
     if (!value_.isObject())
-        refuse(what.text() + ", an object");
+        refuse(what.text() + QStringLiteral(", an object"));
     return children_;
 }
 
@@ -305,9 +328,10 @@ std::vector<JsonNode> const& JsonNode::members(Expectation const& what,
             continue;
         QStringList keys;
         for (auto const* const key : known)
-            keys << key;
-        throw FormatError{member.keyLine_, "expected only the keys " + keys.join(", ") + " in " + what.text() +
-                                               ", found " + quoted(member.key_)};
+            keys << QLatin1String(key);
+        throw FormatError{member.keyLine_, QStringLiteral("expected only the keys ") + keys.join(QStringLiteral(", ")) +
+                                               QStringLiteral(" in ") + what.text() + QStringLiteral(", found ") +
+                                               quoted(member.key_)};
     }
     return children_;
 }
@@ -330,7 +354,8 @@ void JsonNode::release(char const* key) {
 JsonNode const& JsonNode::required(char const* key, Expectation const& what) const {
     auto const* const found = find(key);
     if (!found)
-        refuse("the key " + quoted(key) + " in " + what.text(), "none");
+        refuse(QStringLiteral("the key ") + quoted(QLatin1String(key)) + QStringLiteral(" in ") + what.text(),
+               QStringLiteral("none"));
     return *found;
 }
 

@@ -17,14 +17,16 @@ struct TALO_EXPORT FormatError {
 
 /// The name of an expected thing, as "the name of a pool". That of a literal is made into a text only for an error, as
 /// a large file has a million of expectations that are met. Lives no longer than what it was made of.
-class Expectation {
+class TALO_EXPORT Expectation {
 public:
     /// A name in the source.
     Expectation(char const* literal) : literal_(literal) {}
     /// A name that was put together.
     Expectation(QString const& text) : text_(&text) {}
+    /// A name in the source, and behind it a text in quotation marks.
+    Expectation(char const* literal, QString const& inQuotes) : literal_(literal), text_(&inQuotes) {}
     /// The name.
-    QString text() const { return literal_ ? QString::fromUtf8(literal_) : *text_; }
+    QString text() const;
 
 private:
     char const* literal_ = nullptr;
@@ -43,6 +45,8 @@ public:
     QString const& key() const { return key_; }
     /// The node as Qt reads it.
     QJsonValue value() const;
+    /// What the node is, without a look at what is in it.
+    QJsonValue::Type type() const { return value_.type(); }
     /// Whether the node is `null`.
     bool isNull() const { return value_.isNull(); }
 

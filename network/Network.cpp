@@ -50,7 +50,7 @@ QJsonObject propertiesToJson(Kolt::VParameter const& parameter, PropertyFormat c
         auto const name = QString::fromStdString(key);
         auto const written = format.write(name, value, targetFolder);
         if (written.isUndefined())
-            refuseToWrite("no network file can hold the property " + quoted(name));
+            refuseToWrite(QStringLiteral("no network file can hold the property ") + quoted(name));
         map.insert(name, written);
     }
     return map;
@@ -60,7 +60,7 @@ QJsonObject propertiesToJson(Kolt::VParameter const& parameter, PropertyFormat c
 JsonNode parseFile(QString const& file) {
     auto const content = Tessera::FileContent::read(QFile::encodeName(file).toStdString(), largestFile);
     if (!content)
-        throw FormatError{0, "expected a file that can be read, found: " +
+        throw FormatError{0, QStringLiteral("expected a file that can be read, found: ") +
                                  QString::fromLocal8Bit(content.reason().c_str())};
     auto const& bytes = content.bytes();
     return JsonNode::parse(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
@@ -77,7 +77,7 @@ Network::LoadResult Network::load(QString const& file, ObjectFactory const& make
         // A large network need not be in memory as text as well.
         return {NetworkReader::read(parseFile(file), file, makeObject), QString()};
     } catch (FormatError const& error) {
-        return {nullptr, file + ':' + QString::number(error.line) + ": " + error.text};
+        return {nullptr, file + QLatin1Char(':') + QString::number(error.line) + QStringLiteral(": ") + error.text};
     }
 }
 
@@ -123,7 +123,7 @@ QString Network::kind(Kolt::ObjectPtr const& object) const {
 }
 
 Kolt::ParameterPtr Network::findParameter(QString const& objectDotParameter) const {
-    auto const dot = objectDotParameter.indexOf('.');
+    auto const dot = objectDotParameter.indexOf(QLatin1Char('.'));
     auto const object = findObject(objectDotParameter.left(dot));
     return dot < 0 || !object ? nullptr : object->findParameter(objectDotParameter.mid(dot + 1).toStdString());
 }
@@ -185,7 +185,7 @@ void Network::connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr 
 QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString const& targetFolder) const {
     auto const* const format = formatOf(parameter);
     if (!format)
-        refuseToWrite("no network file can hold a parameter of type " +
+        refuseToWrite(QStringLiteral("no network file can hold a parameter of type ") +
                       QString::fromStdString(parameter.declaredType()));
     auto const key = QString::fromStdString(format->key());
     auto const* const opened = whenOpened(parameter);
@@ -194,28 +194,31 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
     auto const json = [&](Kolt::ValuePtr const& value) {
         auto const written = writeValue(*format, value);
         if (written.isUndefined())
-            refuseToWrite("the value is not of type " + key + ", or no file can hold it, as a text that is not UTF-8");
+            refuseToWrite(QStringLiteral("the value is not of type ") + key +
+                          QStringLiteral(", or no file can hold it, as a text that is not UTF-8"));
         auto const* const entries = entriesOf(value);
         if (entries && (!ownEntries || *entries != *ownEntries))
-            refuseToWrite("the value of a pool chooses among other entries than the parameter");
+            refuseToWrite(QStringLiteral("the value of a pool chooses among other entries than the parameter"));
         return written;
     };
 
-    QJsonObject node{{"name", QString::fromStdString(parameter.Name())}, {"type", key}, {"value", json(ownValue)}};
+    QJsonObject node{{QStringLiteral("name"), QString::fromStdString(parameter.Name())},
+                     {QStringLiteral("type"), key},
+                     {QStringLiteral("value"), json(ownValue)}};
     if (choosesEntries(*format))
-        node.insert("entries", ownEntries ? textsToJson(*ownEntries) : QJsonArray());
+        node.insert(QStringLiteral("entries"), ownEntries ? textsToJson(*ownEntries) : QJsonArray());
     auto const poolValues = poolValuesToJson(pools_, poolValuesOf(parameter, opened), json);
     if (!poolValues.isEmpty())
-        node.insert("values", poolValues);
+        node.insert(QStringLiteral("values"), poolValues);
     else if (parameter.keepsValuesPerPool())
-        node.insert("perPool", true);
+        node.insert(QStringLiteral("perPool"), true);
     if (auto const& preferences = parameter.creationPreferences()) {
         auto const& names = preferences->names();
-        node.insert("preferences", textsToJson({names.begin(), names.end()}));
+        node.insert(QStringLiteral("preferences"), textsToJson({names.begin(), names.end()}));
     }
     auto const properties = propertiesToJson(parameter, PropertyFormat(key, folder()), targetFolder);
     if (!properties.isEmpty())
-        node.insert("properties", properties);
+        node.insert(QStringLiteral("properties"), properties);
     return node;
 }
 
@@ -226,18 +229,19 @@ QJsonObject Network::objectToJson(Kolt::VObject const& object, QString const& ta
         try {
             parameters.append(parameterToJson(*parameter, targetFolder));
         } catch (FormatError const& error) {
-            refuseToWrite(name + '.' + QString::fromStdString(parameter->Name()) + ": " + error.text);
+            refuseToWrite(name + QLatin1Char('.') + QString::fromStdString(parameter->Name()) + QStringLiteral(": ") +
+                          error.text);
         }
     }
-    QJsonObject node{{"name", name}, {"parameters", parameters}};
+    QJsonObject node{{QStringLiteral("name"), name}, {QStringLiteral("parameters"), parameters}};
     QJsonArray slotList;
     for (auto const& slot : object.slotList()) {
         auto const bound = nameOf(slot->parameter());
-        slotList.append(QJsonObject{{"name", QString::fromStdString(slot->Name())},
-                                    {"parameter", bound.isEmpty() ? QJsonValue() : QJsonValue(bound)}});
+        slotList.append(QJsonObject{{QStringLiteral("name"), QString::fromStdString(slot->Name())},
+                                    {QStringLiteral("parameter"), bound.isEmpty() ? QJsonValue() : QJsonValue(bound)}});
     }
     if (!slotList.isEmpty())
-        node.insert("slots", slotList);
+        node.insert(QStringLiteral("slots"), slotList);
     return node;
 }
 
@@ -250,14 +254,19 @@ QByteArray Network::toJson(QString const& targetFolder) const {
         auto node = objectToJson(*object, targetFolder);
         auto const objectKind = kind(object);
         if (!objectKind.isEmpty())
-            node.insert("kind", objectKind);
+            node.insert(QStringLiteral("kind"), objectKind);
         objects.append(node);
     }
-    return QJsonDocument(QJsonObject{{"objects", objects}, {"pools", pools}, {"title", title_}}).toJson();
+    return QJsonDocument(QJsonObject{{QStringLiteral("objects"), objects},
+                                     {QStringLiteral("pools"), pools},
+                                     {QStringLiteral("title"), title_}})
+        .toJson();
 }
 
 bool Network::save(QString const& file, QString* error) const {
-    auto const refused = [&](QString const& reason) { return failed(error, "cannot save " + file + ": " + reason); };
+    auto const refused = [&](QString const& reason) {
+        return failed(error, QStringLiteral("cannot save ") + file + QStringLiteral(": ") + reason);
+    };
     QByteArray json;
     try {
         json = toJson(QFileInfo(file).absolutePath());

@@ -19,7 +19,8 @@ std::vector<std::string> differentTexts(JsonNode const& node, QString const& wha
     for (auto const& child : node.elements(what)) {
         auto const text = child.text(element);
         if (seen.contains(text))
-            child.refuse("each of " + what + " once", quoted(text) + " again");
+            child.refuse(QStringLiteral("each of ") + what + QStringLiteral(" once"),
+                         quoted(text) + QStringLiteral(" again"));
         seen.insert(text);
         texts.push_back(text.toStdString());
     }
@@ -33,16 +34,17 @@ Kolt::VValueFormat const& readFormat(JsonNode const& typeNode) {
     QStringList keys;
     for (auto const* const format : Kolt::VValueFormat::all())
         keys << QString::fromStdString(format->key());
-    typeNode.refuse("a type, one of " + keys.join(", "));
+    typeNode.refuse(QStringLiteral("a type, one of ") + keys.join(QStringLiteral(", ")));
 }
 
 /// The entries of a parameter of this type; none for a type without entries.
 std::vector<std::string> readEntries(JsonNode const& node, Kolt::VValueFormat const& format) {
     auto const key = QString::fromStdString(format.key());
     if (choosesEntries(format))
-        return differentTexts(node.required("entries", "a parameter of type " + key), "the entries", "an entry");
+        return differentTexts(node.required("entries", QStringLiteral("a parameter of type ") + key),
+                              QStringLiteral("the entries"), QStringLiteral("an entry"));
     if (auto const* const unwanted = node.find("entries"))
-        unwanted->refuse("no entries for the type " + key);
+        unwanted->refuse(QStringLiteral("no entries for the type ") + key);
     return {};
 }
 
@@ -50,7 +52,8 @@ void readPreferences(JsonNode const& node, Kolt::VParameter& parameter) {
     auto const* const preferences = node.find("preferences");
     if (!preferences)
         return;
-    auto const names = differentTexts(*preferences, "the preferences", "the name of a preference");
+    auto const names =
+        differentTexts(*preferences, QStringLiteral("the preferences"), QStringLiteral("the name of a preference"));
     parameter.setCreationPreferences(Kolt::PreferencesPtr(
         new Kolt::VCreationPreferences(Kolt::VCreationPreferences::Names(names.begin(), names.end()))));
 }
@@ -71,7 +74,7 @@ QString rowFaultOf(Kolt::VObject const& object, Kolt::VParameter const& paramete
         if (other->Name() == name && rowOf(*other).empty())
             return {};
     }
-    return "the name of a parameter that comes before and begins a row";
+    return QStringLiteral("the name of a parameter that comes before and begins a row");
 }
 
 /// Calls a function whose errors are about a parameter, and puts "object.parameter" before them.
@@ -80,7 +83,7 @@ void namingParameter(Kolt::VObject const& object, QString const& name, Function 
     try {
         function();
     } catch (FormatError& error) {
-        error.text.prepend(QString::fromStdString(object.Name()) + '.' + name + ": ");
+        error.text.prepend(QString::fromStdString(object.Name()) + QLatin1Char('.') + name + QStringLiteral(": "));
         throw;
     }
 }
@@ -114,7 +117,7 @@ void NetworkReader::readRoot(JsonNode root) {
     for (auto const& pool : pools.elements("the pools"))
         readPool(pool);
     if (network_->pools_.empty())
-        pools.refuse("at least one pool");
+        pools.refuse(QStringLiteral("at least one pool"));
 
     auto const& objects = root.required("objects", "a network").elements("the objects");
     for (std::size_t index = 0; index < objects.size(); ++index) {
@@ -131,7 +134,7 @@ void NetworkReader::readRoot(JsonNode root) {
 void NetworkReader::readPool(JsonNode const& node) {
     auto const name = node.nonEmptyText("the name of a pool");
     if (network_->findPool(name))
-        node.refuse("a pool name that is not taken", quoted(name) + " again");
+        node.refuse(QStringLiteral("a pool name that is not taken"), quoted(name) + QStringLiteral(" again"));
     network_->insertPool(name.toStdString());
 }
 
@@ -139,10 +142,10 @@ void NetworkReader::readObject(JsonNode const& node) {
     node.members("an object of the network", {"kind", "name", "parameters", "slots"});
     auto const& nameNode = node.required("name", "an object of the network");
     auto const name = nameNode.nonEmptyText("the name of an object");
-    if (name.contains('.'))
-        nameNode.refuse("the name of an object, which has no dot");
+    if (name.contains(QLatin1Char('.')))
+        nameNode.refuse(QStringLiteral("the name of an object, which has no dot"));
     if (network_->findObject(name))
-        nameNode.refuse("an object name that is not taken", quoted(name) + " again");
+        nameNode.refuse(QStringLiteral("an object name that is not taken"), quoted(name) + QStringLiteral(" again"));
 
     auto const* const kindNode = node.find("kind");
     auto const kind = kindNode ? kindNode->text("the kind of an object") : QString();
@@ -182,7 +185,8 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
     auto const& nameNode = node.required("name", "a parameter");
     auto const name = nameNode.nonEmptyText("the name of a parameter");
     if (takenNames_.contains(name))
-        nameNode.refuse("a parameter name that is not taken in the object", quoted(name) + " again");
+        nameNode.refuse(QStringLiteral("a parameter name that is not taken in the object"),
+                        quoted(name) + QStringLiteral(" again"));
     takenNames_.insert(name);
     namingParameter(*object, name, [&] { readParameter(node, object, name); });
 }
@@ -197,7 +201,7 @@ void NetworkReader::readParameter(JsonNode const& node, Kolt::ObjectPtr const& o
     auto const* const perPool = node.find("perPool");
     bool const keepsPerPool = perPool ? perPool->truth("\"perPool\"") : poolValues != nullptr;
     if (poolValues && !keepsPerPool)
-        perPool->refuse("true where \"values\" are given");
+        perPool->refuse(QStringLiteral("true where \"values\" are given"));
     using Values = Kolt::VParameter::Values;
     Kolt::ParameterPtr const parameter(new Kolt::VParameter(
         name.toStdString(), ownValue, keepsPerPool ? Values::PerPool : Values::Shared, format.typeName()));
@@ -217,7 +221,8 @@ void NetworkReader::readPoolValues(JsonNode const& node, Kolt::VParameter const&
     for (auto const& member : node.members("the values of pools")) {
         auto const pool = network_->findPool(member.key());
         if (!pool)
-            member.refuse("values of the pools of the network", "the pool " + quoted(member.key()));
+            member.refuse(QStringLiteral("values of the pools of the network"),
+                          QStringLiteral("the pool ") + quoted(member.key()));
         parameter.getLocalValue(pool, std::string(), true)->assign(*readValue(format, member, entries));
     }
 }
@@ -232,15 +237,15 @@ void NetworkReader::readSlots(JsonNode const& node, Kolt::ObjectPtr const& objec
         auto const& nameNode = slotNode.required("name", what);
         auto const name = nameNode.nonEmptyText("the name of a slot").toStdString();
         if (!taken.insert(name).second)
-            nameNode.refuse("a slot name that is not taken in the object",
-                            quoted(QString::fromStdString(name)) + " again");
+            nameNode.refuse(QStringLiteral("a slot name that is not taken in the object"),
+                            quoted(QString::fromStdString(name)) + QStringLiteral(" again"));
 
         auto const& bound = slotNode.required("parameter", what);
         Kolt::ParameterPtr parameter;
         if (!bound.isNull()) {
             parameter = network_->findParameter(bound.text("the parameter of a slot"));
             if (!parameter)
-                bound.refuse("the parameter of a slot, \"object.parameter\" of the network");
+                bound.refuse(QStringLiteral("the parameter of a slot, \"object.parameter\" of the network"));
         }
         object->addSlot(Tessera::StrongPtr<Kolt::VSlot>(new Kolt::VSlot(name, parameter)));
     }

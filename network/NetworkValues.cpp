@@ -20,9 +20,9 @@ QJsonObject valuesToJson(Kolt::VParameter const& parameter, std::vector<Kolt::Po
         auto const written = format ? writeValue(*format, value) : QJsonValue(QJsonValue::Undefined);
         return written.isUndefined() ? QJsonValue() : written;
     };
-    QJsonObject entry{{"value", json(parameter.ownValue())}};
+    QJsonObject entry{{QStringLiteral("value"), json(parameter.ownValue())}};
     if (parameter.keepsValuesPerPool())
-        entry.insert("values", poolValuesToJson(pools, poolValuesOf(parameter), json));
+        entry.insert(QStringLiteral("values"), poolValuesToJson(pools, poolValuesOf(parameter), json));
     return entry;
 }
 
@@ -38,7 +38,7 @@ ReadValues readValues(JsonNode const& node, Kolt::VParameter const& parameter,
                       std::vector<Kolt::PoolPtr> const& pools) {
     auto const* const format = formatOf(parameter);
     if (!format || !parameter.isEdited())
-        node.refuse("a parameter that people edit");
+        node.refuse(QStringLiteral("a parameter that people edit"));
     auto const* const entries = entriesOf(parameter.ownValue());
     auto const read = [&](JsonNode const& value) { return readValue(*format, value, entries ? *entries : Entries()); };
     ReadValues all{read(node.required("value", "the values of a parameter")),
@@ -50,7 +50,8 @@ ReadValues readValues(JsonNode const& node, Kolt::VParameter const& parameter,
         auto const pool =
             std::find_if(pools.begin(), pools.end(), [&](auto const& each) { return nameOfPool(each) == value.key(); });
         if (pool == pools.end() || !parameter.keepsValuesPerPool())
-            value.refuse("values of the pools of the network", "the pool " + quoted(value.key()));
+            value.refuse(QStringLiteral("values of the pools of the network"),
+                         QStringLiteral("the pool ") + quoted(value.key()));
         all.inPools[static_cast<std::size_t>(pool - pools.begin())] = read(value);
     }
     return all;
@@ -125,11 +126,11 @@ QStringList Network::takeValues(QByteArray const& json) {
             auto const parameter = findParameter(node.key());
             try {
                 if (!parameter)
-                    node.refuse("a parameter of the network");
+                    node.refuse(QStringLiteral("a parameter of the network"));
                 if (!applyValues(*parameter, readValues(node, *parameter, pools_), pools_))
-                    node.refuse("values that the parameter can hold");
+                    node.refuse(QStringLiteral("values that the parameter can hold"));
             } catch (FormatError const& error) {
-                refused << node.key() + ": " + error.text;
+                refused << node.key() + QStringLiteral(": ") + error.text;
             }
         }
     } catch (FormatError const& error) {
@@ -142,15 +143,18 @@ bool Network::setText(QString const& objectDotParameter, QString const& text, Ko
                       QString* error) {
     auto const parameter = findParameter(objectDotParameter);
     if (!parameter)
-        return failed(error, "there is no parameter " + quoted(objectDotParameter) + " in the network");
+        return failed(error, QStringLiteral("there is no parameter ") + quoted(objectDotParameter) +
+                                 QStringLiteral(" in the network"));
     bool const perPool = parameter->keepsValuesPerPool();
     if (perPool && std::find(pools_.begin(), pools_.end(), pool) == pools_.end())
-        return failed(error, quoted(objectDotParameter) + " keeps a value per pool and needs a pool of the network");
+        return failed(error, quoted(objectDotParameter) +
+                                 QStringLiteral(" keeps a value per pool and needs a pool of the network"));
 
     // Read before anything is made: with a wrong text a pool that has no value gets none.
     auto const read = valueFromText(*parameter, pool, text);
     if (!read)
-        return failed(error, quoted(text) + " is no value of " + quoted(objectDotParameter) + ", which is of type " +
+        return failed(error, quoted(text) + QStringLiteral(" is no value of ") + quoted(objectDotParameter) +
+                                 QStringLiteral(", which is of type ") +
                                  QString::fromStdString(parameter->declaredType()));
 
     auto const value = parameter->getLocalValue(pool, std::string(), true);

@@ -77,14 +77,14 @@ QJsonValue writeAction(Kolt::ValuePtr const& value) {
 }
 
 Kolt::ValuePtr readColour(JsonNode const& node, Entries const&) {
-    QString const what = "a colour value, a list of red, green, blue and alpha";
+    auto const what = QStringLiteral("a colour value, a list of red, green, blue and alpha");
     auto const& channels = node.elements(what);
     if (channels.size() != 4)
         node.refuse(what);
     auto const channel = [&](std::size_t index) {
         auto const number = channels[index].real("a colour channel");
         if (std::isfinite(number) && std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
-            channels[index].refuse("a colour channel in the range of a float");
+            channels[index].refuse(QStringLiteral("a colour channel in the range of a float"));
         return static_cast<float>(number);
     };
     return Kolt::makeValue(Ferro::rgba_float_t{channel(0), channel(1), channel(2), channel(3)});
@@ -109,7 +109,7 @@ QJsonValue writeColour(Kolt::ValuePtr const& value) {
 }
 
 [[noreturn]] void refuseEntry(JsonNode const& node, QString const& what) {
-    node.refuse(what + ", one of the entries");
+    node.refuse(what + QStringLiteral(", one of the entries"));
 }
 
 /// One of the entries, by its text.
@@ -123,7 +123,7 @@ std::string readEntry(JsonNode const& node, Entries const& entries, QString cons
 Kolt::ValuePtr readEnum(JsonNode const& node, Entries const& entries) {
     Tessera::StrongPtr<Kolt::VEnumSelection, Tessera::StringList> const names(new Kolt::VEnumSelection(entries));
     if (!node.isNull()) {
-        auto const chosen = readEntry(node, entries, "an enum value");
+        auto const chosen = readEntry(node, entries, QStringLiteral("an enum value"));
         names->select(static_cast<unsigned>(std::find(entries.begin(), entries.end(), chosen) - entries.begin()));
     }
     return Kolt::makeValue(Kolt::Enum(names));
@@ -140,7 +140,7 @@ QJsonValue writeEnum(Kolt::ValuePtr const& value) {
 Kolt::ValuePtr readSelection(JsonNode const& node, Entries const& entries) {
     Kolt::VStringList const selection(new Kolt::StringSelection(entries));
     if (!node.isNull())
-        selection->select(readEntry(node, entries, "a selection value"));
+        selection->select(readEntry(node, entries, QStringLiteral("a selection value")));
     return Kolt::makeValue(selection);
 }
 
@@ -154,13 +154,13 @@ QJsonValue writeSelection(Kolt::ValuePtr const& value) {
 Kolt::ValuePtr readMultipleSelection(JsonNode const& node, Entries const& entries) {
     Kolt::VMultipleStringList const selection(new Kolt::MultipleStringSelection(entries));
     for (auto const& element : node.elements("a multiselection value")) {
-        QString const what = "a chosen text";
+        auto const what = QStringLiteral("a chosen text");
         auto const text = element.text(what).toStdString();
         // By the index of the texts, as there may be as many as entries.
         if (!selection->contains(text))
             refuseEntry(element, what);
         if (selection->isInSelection(text))
-            element.refuse("each chosen text once");
+            element.refuse(QStringLiteral("each chosen text once"));
         selection->add(text);
     }
     return Kolt::makeValue(selection);
@@ -219,7 +219,7 @@ QJsonValue writeString(Kolt::ValuePtr const& value) {
 
 // The editor of an array of one text edits a text, so a text is what the parameter holds.
 Kolt::ValuePtr readStringArray(JsonNode const& node, Entries const&) {
-    QString const what = "a stringarray value, a list of one text";
+    auto const what = QStringLiteral("a stringarray value, a list of one text");
     auto const& elements = node.elements(what);
     if (elements.size() != 1)
         node.refuse(what);

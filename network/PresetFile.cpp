@@ -24,11 +24,13 @@ QString optionalText(JsonNode const& node, char const* key, QString const& what)
 
 PresetFile::Preset readPreset(JsonNode const& node) {
     node.members("a preset", {"kind", "object", "name", "values"});
-    PresetFile::Preset preset{{optionalText(node, "kind", "a kind"), optionalText(node, "object", "an object")},
+    PresetFile::Preset preset{{optionalText(node, "kind", QStringLiteral("a kind")),
+                               optionalText(node, "object", QStringLiteral("an object"))},
                               node.required("name", "a preset").nonEmptyText("the name of a preset"),
                               {}};
     if (preset.scope.kind.isEmpty() == preset.scope.object.isEmpty())
-        node.refuse("a preset of a kind or of an object", preset.scope.kind.isEmpty() ? "neither" : "both");
+        node.refuse(QStringLiteral("a preset of a kind or of an object"),
+                    preset.scope.kind.isEmpty() ? QStringLiteral("neither") : QStringLiteral("both"));
     auto const& values = node.required("values", "a preset");
     values.members("the values of a preset");
     preset.values = values.value().toObject();
@@ -65,8 +67,8 @@ QString PresetFile::read() {
         return {};
     auto const content = Tessera::FileContent::read(QFile::encodeName(file_).toStdString(), largestPresetFile);
     if (!content)
-        return file_ +
-               ":0: expected a file that can be read, found: " + QString::fromLocal8Bit(content.reason().c_str());
+        return file_ + QStringLiteral(":0: expected a file that can be read, found: ") +
+               QString::fromLocal8Bit(content.reason().c_str());
     try {
         auto const root = JsonNode::parse(QByteArray::fromStdString(content.bytes()));
         root.members("a file with presets", {"presets"});
@@ -76,12 +78,12 @@ QString PresetFile::read() {
             if (std::any_of(presets.begin(), presets.end(), [&](auto const& other) {
                     return other.scope == preset.scope && other.name == preset.name;
                 }))
-                node.refuse("each preset once", quoted(preset.name) + " again");
+                node.refuse(QStringLiteral("each preset once"), quoted(preset.name) + QStringLiteral(" again"));
             presets.push_back(preset);
         }
         presets_ = presets;
     } catch (FormatError const& error) {
-        return file_ + ':' + QString::number(error.line) + ": " + error.text;
+        return file_ + QLatin1Char(':') + QString::number(error.line) + QStringLiteral(": ") + error.text;
     }
     return {};
 }

@@ -29,7 +29,8 @@ public:
     Kolt::ValuePtr moved(QString const& name, Kolt::ValuePtr const& value, QString const& targetFolder) const;
 
 private:
-    enum class Kind { Integer, Real, Text, Truth, Icon, Free };
+    // A bound is an integer or a real number, as the type of the parameter says.
+    enum class Kind { Integer, Real, Bound, Text, Truth, Icon, Free };
     Kind kindOf(QString const& name) const;
     /// Whether the property is a path that the file writes relative to its folder.
     bool isRelative(QString const& name, Kolt::ValuePtr const& value) const;
