@@ -4,6 +4,7 @@
 #include <lattice/Input.hpp>
 #include <lattice/ValuePoolSource.hpp>
 #include <optional>
+#include <typeinfo>
 
 namespace Kolt {
 
@@ -29,7 +30,11 @@ inline bool isForOtherPool(VParameter const& parameter, PoolPtr const& pool, Val
 /// can only be shown, with VInputValue::take. Any thread.
 template <typename T>
 VValue<T>* storedValue(ValuePtr const& value) {
-    return dynamic_cast<VValue<T>*>(value.get());
+    auto* const object = value.get();
+    // To compare types is much quicker than to search them.
+    if (object && typeid(*object) == typeid(VValue<T>))
+        return static_cast<VValue<T>*>(object);
+    return dynamic_cast<VValue<T>*>(object);
 }
 
 /// A copy of the T that an object contains; empty if storedValue is null. What the T refers to is shared. Any thread.

@@ -8,7 +8,7 @@ FilledTexts::~FilledTexts() = default;
 
 void FilledTexts::remember(QAbstractItemModel* model, Tessera::StrongPtr<Tessera::StringList> const& texts) {
     forget();
-    if (!texts || texts->size() < ShortestList)
+    if (!texts)
         return;
     model_ = model;
     texts_ = texts;

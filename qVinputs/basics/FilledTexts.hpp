@@ -7,14 +7,11 @@
 
 namespace Kolt {
 
-/// Remembers with which texts a model was filled, so that a long list is not filled anew with equal ones. Whatever
-/// else changes the model makes it forget. Of a short list it remembers nothing: to fill that anew costs less than to
-/// follow its model. User-interface thread.
+/// Remembers with which texts a model was filled, so that a list is not filled anew with equal ones: even a few entries
+/// take many times longer than to choose another one. Whatever else changes the model makes it forget. User-interface
+/// thread.
 class FilledTexts {
 public:
-    /// Lists with fewer texts are not remembered.
-    static constexpr std::size_t ShortestList = 256;
-
     FilledTexts();
     ~FilledTexts();
 
@@ -28,7 +25,7 @@ public:
 private:
     QPointer<QAbstractItemModel> model_;
     Tessera::StrongPtr<Tessera::StringList> texts_;
-    // The receiver of the model's signals; null for a short list.
+    // The receiver of the model's signals; null while nothing is remembered.
     std::unique_ptr<QObject> receiver_;
 };
 

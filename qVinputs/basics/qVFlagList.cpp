@@ -2,6 +2,7 @@
 
 #include <plugin/QInputWidgetCreator.hpp>
 #include <qVinputs/basics/Text.hpp>
+#include <utility>
 
 namespace Kolt {
 
@@ -28,16 +29,18 @@ void qVFlagList::showValue(ValuePtr const& value) {
         return;
     makeMissingBoxes();
     for (auto const& [name, on] : cached_) {
-        auto* const box = boxes_[name].data();
-        if (!box)
+        auto const found = boxes_.find(name);
+        auto* const box = found == boxes_.end() ? nullptr : found->second.widget.data();
+        // To disconnect and connect a box takes longer than to set it.
+        if (!box || box->isChecked() == on)
             continue;
         // What the program sets is no edit.
-        disconnect(box, &QCheckBox::stateChanged, this, &qVFlagList::GotABoxChanged);
+        disconnect(std::exchange(found->second.edit, {}));
         box->setChecked(on);
     }
-    for (auto const& [name, box] : boxes_) {
-        if (box)
-            connect(box, &QCheckBox::stateChanged, this, &qVFlagList::GotABoxChanged, Qt::UniqueConnection);
+    for (auto& [name, box] : boxes_) {
+        if (box.widget && !box.edit)
+            box.edit = connect(box.widget, &QCheckBox::stateChanged, this, &qVFlagList::GotABoxChanged);
     }
 }
 
@@ -46,7 +49,7 @@ void qVFlagList::makeMissingBoxes() {
         return;
     bool made = false;
     for (auto const& [name, on] : cached_) {
-        auto& box = boxes_[name];
+        auto& box = boxes_[name].widget;
         made = made || !box;
         if (!box)
             box = new QCheckBox(literalCaption(QString::fromStdString(name)));
@@ -55,7 +58,8 @@ void qVFlagList::makeMissingBoxes() {
         return;
     int place = 0;
     QWidget* previous = nullptr;
-    for (auto const& [name, box] : boxes_) {
+    for (auto const& [name, known] : boxes_) {
+        auto const& box = known.widget;
         if (!box)
             continue;
         if (!box->parent())
@@ -70,8 +74,8 @@ void qVFlagList::makeMissingBoxes() {
 
 void qVFlagList::GotABoxChanged(int) {
     for (auto const& [name, box] : boxes_) {
-        if (box)
-            cached_[name] = box->isChecked();
+        if (box.widget)
+            cached_[name] = box.widget->isChecked();
     }
     commit(cached_, WithoutPool::Try);
 }

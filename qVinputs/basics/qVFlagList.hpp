@@ -42,10 +42,17 @@ private:
     /// Makes boxes for the cached switches that have none, and puts them and the order of the Tab key in place.
     void makeMissingBoxes();
 
+    struct Box {
+        // Null if it was deleted.
+        QPointer<QCheckBox> widget;
+        // Its signal's connection to GotABoxChanged.
+        QMetaObject::Connection edit;
+    };
+
     // Null if it was deleted; then no box is added.
     QPointer<QVBoxLayout> layout_;
-    // By the names of the switches; null for a box that was deleted.
-    std::map<std::string, QPointer<QCheckBox>> boxes_;
+    // By the names of the switches.
+    std::map<std::string, Box> boxes_;
 };
 
 } // namespace Kolt

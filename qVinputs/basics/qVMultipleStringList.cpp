@@ -4,6 +4,7 @@
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QFontMetrics>
 #include <QItemSelection>
+#include <QMouseEvent>
 #include <QRegularExpression>
 #include <qVinputs/basics/NumberSelection.hpp>
 
@@ -161,7 +162,8 @@ bool qVMultipleStringList::fillRows() {
     for (auto const& text : *cached_)
         texts.append(QString::fromStdString(text));
     list_->insertItems(0, texts);
-    list_->wasUsed = false;
+    // A move of the held mouse chooses rows by what was filled in last.
+    list_->wasUsed = list_->isHeld;
     filled_.remember(list_->model(), cached_);
     return true;
 }
@@ -338,7 +340,7 @@ void qVMultipleStringList::InverseButton::mousePressEvent(QMouseEvent* event) {
 }
 
 void qVMultipleStringList::MyQListWidget::mousePressEvent(QMouseEvent* event) {
-    wasUsed = true;
+    wasUsed = isHeld = true;
     QListWidget::mousePressEvent(event);
 }
 
@@ -348,6 +350,7 @@ void qVMultipleStringList::MyQListWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 void qVMultipleStringList::MyQListWidget::mouseReleaseEvent(QMouseEvent* event) {
+    isHeld = event->buttons() != Qt::NoButton;
     QListWidget::mouseReleaseEvent(event);
     owner->chooseSelectedRows();
 }

@@ -31,10 +31,10 @@ namespace Kolt {
 /// Rows chosen by the keyboard are committed with the next click. A click without a pool, or if the value refers to no
 /// choice, changes the view alone.
 ///
-/// A change from elsewhere fills the list anew (a long one that nobody used since only with other texts), prints a line
-/// that says so, and fixes the widget's size so that the
-/// texts fit. The time of an action is linear in the number of rows. If the parameter was deleted, the list is empty.
-/// User-interface thread.
+/// A change from elsewhere fills the list anew, prints a line that says so, and fixes the widget's size so that the
+/// texts fit. A list that has these texts already (FilledTexts), and that nobody used since it was filled, keeps its
+/// rows and looks the same. The time of an action is linear in the number of rows. If the parameter was deleted,
+/// the list is empty. User-interface thread.
 class qVMultipleStringList : public QFrame, public VInputValue<VMultipleStringList> {
     Q_OBJECT
 
@@ -76,6 +76,8 @@ public:
         qVMultipleStringList* owner = nullptr; ///< the widget on which it acts, its parent; never null in use
         /// Whether it was pressed, by mouse or keyboard, since it was filled. Qt then remembers rows.
         bool wasUsed = false;
+        /// Whether a mouse button that was pressed on it is still held. Qt then remembers which rows were chosen last.
+        bool isHeld = false;
 
     protected:
         void mousePressEvent(QMouseEvent* event) override;

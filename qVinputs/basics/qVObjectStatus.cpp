@@ -26,14 +26,16 @@ void qVObjectStatus::onValueChange(ValuePtr const& newValue, VContext const& con
 }
 
 bool qVObjectStatus::isForOtherPool(ValuePtr const& newValue, VContext const& context) {
+    auto const parameter = owner().strong();
+    if (!parameter || !parameter->keepsValuesPerPool())
+        return false;
     if (QThread::currentThread() == thread()) {
         shownPool_ = pool().get();
         return arrivalOf(newValue, context) == Arrival::OtherPool;
     }
     // The pool source and the parameter's pools may be asked on the user-interface thread alone. The front end reports
     // there when it switches the pool, so the one seen last is the current one.
-    auto const parameter = owner().strong();
-    return parameter && parameter->keepsValuesPerPool() && context.pool() && context.pool().get() != shownPool_;
+    return context.pool() && context.pool().get() != shownPool_;
 }
 
 namespace {

@@ -42,7 +42,7 @@ void qVStringList::fill() {
         fillEntries();
     auto const place = cached_->findLast(selected);
     comboBox_->setCurrentIndex(place < cached_->size() ? static_cast<int>(place) : 0);
-    // What was typed goes with the entries.
+    // A box that is filled anew loses what a person has typed; one that stays filled must lose it, too.
     if (auto* const field = isFilled ? comboBox_->lineEdit() : nullptr)
         field->setText(comboBox_->currentText());
 }

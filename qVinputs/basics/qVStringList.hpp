@@ -16,9 +16,9 @@ namespace Kolt {
 /// text in the list in place and commits the value. With the preference "editable" a text can be typed as well.
 ///
 /// A text that the list refuses, and any choice if the value refers to no list, prints "FAILED selecting element" and
-/// commits nothing. The box is filled anew on every change of the value from elsewhere, a long one only with other
-/// texts; a text that is being typed stays. If no text is selected, it shows the first entry; of equal texts it shows
-/// the last one. If the parameter was deleted, it is empty. User-interface thread.
+/// commits nothing. On a change of the value from elsewhere the box is filled anew if it has other texts, and shows the
+/// chosen one; a text that is being typed stays. If no text is selected, it shows the first entry; of equal texts it
+/// shows the last one. If the parameter was deleted, it is empty. User-interface thread.
 class qVStringList : public QFrame, public VInputValue<VStringList> {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 // Loading more_inputs changes no editor of a parameter that does not ask for it, in whatever order files are loaded.
 
 #include "../artefact/creators_table.hpp"
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
 #include <lattice/InputRegistry.hpp>
@@ -60,7 +61,7 @@ protected:
 } // namespace
 
 TEST_F(MoreChoice, TheUsualEditorsStayTheUsualOnes) {
-    load({TALO_PLUGIN_FILE});
+    load({pluginFile});
     auto const usual = choices();
     std::set<std::string> types;
     for (auto const& [wish, creator] : usual) {
@@ -71,11 +72,11 @@ TEST_F(MoreChoice, TheUsualEditorsStayTheUsualOnes) {
     EXPECT_EQ(creatorsTable().size(), 23U);
     unloadAll();
 
-    load({TALO_PLUGIN_FILE, TALO_MORE_PLUGIN_FILE});
+    load({pluginFile, TALO_MORE_PLUGIN_FILE});
     EXPECT_EQ(choices(), usual);
     unloadAll();
 
-    load({TALO_MORE_PLUGIN_FILE, TALO_PLUGIN_FILE});
+    load({TALO_MORE_PLUGIN_FILE, pluginFile});
     EXPECT_EQ(choices(), usual);
     unloadAll();
 }
@@ -88,8 +89,8 @@ TEST_F(MoreChoice, AWishForBothIsDecidedAlikeInBothOrders) {
         unloadAll();
         return name;
     };
-    EXPECT_EQ(chosen({TALO_PLUGIN_FILE, TALO_MORE_PLUGIN_FILE}), "spin") << "more_inputs comes before qtalo_inputs";
-    EXPECT_EQ(chosen({TALO_MORE_PLUGIN_FILE, TALO_PLUGIN_FILE}), "spin");
+    EXPECT_EQ(chosen({pluginFile, TALO_MORE_PLUGIN_FILE}), "spin") << "more_inputs comes before qtalo_inputs";
+    EXPECT_EQ(chosen({TALO_MORE_PLUGIN_FILE, pluginFile}), "spin");
 }
 
 TEST_F(MoreChoice, ItsEditorsAreThere) {

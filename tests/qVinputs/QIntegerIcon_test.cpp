@@ -1,3 +1,4 @@
+#include "support/PluginFile.hpp"
 #include "support/TestHost.hpp"
 
 #include <lattice/Object.hpp>
@@ -145,6 +146,6 @@ TEST_F(QIntegerIconTest, OutlivesTheInputAndKeepsThePluginLoaded) {
     delete editor.widget;
     changeElsewhere(parameter, 50, firstPool);
     EXPECT_EQ(shown(icon), 50);
-    EXPECT_FALSE(loader.unload(TALO_PLUGIN_FILE).ok);
+    EXPECT_FALSE(loader.unload(pluginFile).ok);
     delete icon;
 }

@@ -1,4 +1,5 @@
 #include "QIntegerTest.hpp"
+#include "support/PluginFile.hpp"
 #include "support/WheelTurn.hpp"
 
 using Kolt::ParameterPtr;
@@ -358,7 +359,7 @@ TEST_F(QIntegerTest, StepsOfAnUnloadedPluginAreForgotten) {
     slider(editor)->setValue(33);
     EXPECT_EQ(undoTexts().size(), 1U);
     delete editor.widget;
-    EXPECT_TRUE(loader.unload(TALO_PLUGIN_FILE).ok);
+    EXPECT_TRUE(loader.unload(pluginFile).ok);
     EXPECT_TRUE(undoTexts().empty());
-    ASSERT_TRUE(loader.load(TALO_PLUGIN_FILE).ok);
+    ASSERT_TRUE(loader.load(pluginFile).ok);
 }

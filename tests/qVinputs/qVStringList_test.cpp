@@ -147,6 +147,21 @@ TEST_F(StringListTest, AChangeFromElsewhereFillsTheBoxAnew) {
     EXPECT_EQ(commits(), 1U) << "the change itself";
 }
 
+TEST_F(StringListTest, AChangeOfTheChoiceAloneFillsNothingAnew) {
+    auto const parameter = parameterOf(makeStrings({"png", "tiff", "gif"}, "tiff"));
+    auto const editor = open(parameter);
+    QSignalSpy const insertions(combo(editor)->model(), &QAbstractItemModel::rowsInserted);
+    setElsewhere(parameter, makeStrings({"png", "tiff", "gif"}, "gif"));
+    EXPECT_EQ(combo(editor)->currentIndex(), 2);
+    EXPECT_EQ(insertions.count(), 0);
+    // An entry that somebody else has changed is made anew.
+    combo(editor)->setItemText(0, QStringLiteral("jpeg"));
+    setElsewhere(parameter, makeStrings({"png", "tiff", "gif"}, "png"));
+    EXPECT_EQ(texts(editor), (QStringList{"png", "tiff", "gif"}));
+    EXPECT_EQ(combo(editor)->currentIndex(), 0);
+    EXPECT_GT(insertions.count(), 0);
+}
+
 TEST_F(StringListTest, ATypedTextOfTheListIsSelected) {
     auto const strings = makeStrings({"png", "tiff"}, "png");
     auto const parameter = parameterOf(strings, Values::Shared, {"editable"});

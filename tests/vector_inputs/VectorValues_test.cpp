@@ -1,5 +1,6 @@
 // Values of a plug-in's own type in the panel: files, clipboard, filter, raw values, presets, comparison, gallery.
 
+#include "support/PluginFile.hpp"
 #include "VectorPanelTest.hpp"
 
 #include <panel/gallery/Gallery.hpp>
@@ -52,7 +53,7 @@ TEST_F(VectorValuesTest, AFileIsRefusedUntilThePluginIsLoaded) {
                                        ":6: camera.position: expected a type, one of bool, int, double, action, "
                                        "colour, enum, flags, info, selection, multiselection, status, string, "
                                        "stringarray, found the text \"vector3\"");
-    ASSERT_TRUE(plugins.load(QStringLiteral(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+    ASSERT_TRUE(plugins.load(QString::fromUtf8(pluginFile), &error)) << qPrintable(error);
     ASSERT_TRUE(plugins.load(QStringLiteral(TALO_VECTOR_PLUGIN_FILE), &error)) << qPrintable(error);
     EXPECT_TRUE(window->openNetwork(file(), &error)) << qPrintable(error);
     EXPECT_EQ(shown("target"), "0 1 0");
@@ -65,7 +66,7 @@ TEST_F(VectorValuesTest, KeepTheirPluginLoadedWhileANetworkHasThem) {
     EXPECT_THAT(error.toStdString(), HasSubstr("vector_inputs.talo cannot be unloaded while these are in use: "));
     EXPECT_THAT(error.toStdString(),
                 HasSubstr("values of type Kolt::VValue<VectorInputs::Vector3> (camera.position; "));
-    ASSERT_TRUE(plugins.load(QStringLiteral(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+    ASSERT_TRUE(plugins.load(QString::fromUtf8(pluginFile), &error)) << qPrintable(error);
     EXPECT_EQ(shown("target"), "5 1 0");
     action("undo")->trigger();
     EXPECT_EQ(shown("target"), "0 1 0");
