@@ -15,6 +15,7 @@
 #include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/ParameterVector.hpp>
 #include <parameters/rows/RowArea.hpp>
+#include <QEvent>
 #include <QMenu>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -168,25 +169,33 @@ public:
     }
     QAction* resetAllActionOf(ParameterPanel& panel) {
         if (!resetAllAction) {
-            resetAllAction = new QAction(tr("Reset &all to default"), &panel);
+            resetAllAction = new QAction(&panel);
             resetAllAction->setObjectName(QStringLiteral("resetAll"));
             connect(resetAllAction, &QAction::triggered, &panel, &ParameterPanel::resetAll);
+            nameResetActions();
         }
         return resetAllAction;
     }
     QAction* resetSectionActionOf(ParameterPanel& panel) {
         if (!resetSectionAction) {
-            resetSectionAction = new QAction(tr("Reset s&ection to default"), &panel);
+            resetSectionAction = new QAction(&panel);
             resetSectionAction->setObjectName(QStringLiteral("resetSection"));
             connect(resetSectionAction, &QAction::triggered, &panel, [this, &panel] {
                 auto const* const row = commandsOf(panel).row();
                 if (auto const parameter = row ? row->parameter() : nullptr)
                     panel.resetSection(ParameterDescription(*parameter).section);
             });
+            nameResetActions();
         }
         // It follows which row has the focus.
         commandsOf(panel);
         return resetSectionAction;
+    }
+    void nameResetActions() const {
+        if (resetAllAction)
+            resetAllAction->setText(tr("Reset &all to default"));
+        if (resetSectionAction)
+            resetSectionAction->setText(tr("Reset s&ection to default"));
     }
     static void addActions(ParameterPanel& panel, QList<QAction*> const& actions) {
         for (auto* const action : actions)
@@ -372,6 +381,14 @@ void ParameterPanel::openEditors() {
 void ParameterPanel::showPool() {
     d_->rows->showPool();
     d_->applyFilter();
+}
+
+void ParameterPanel::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    d_->emptyNote->setText(d_->emptyText());
+    d_->nameResetActions();
 }
 
 RowArea* ParameterPanel::rowArea() const {

@@ -95,6 +95,9 @@ signals:
     void sectionMenuRequested(QMenu* menu, QString const& title);
     void refused(QString const& reason); ///< a command did nothing, for this reason: a sentence
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void showSectionMenu(QString const& title, QPoint const& place);
 

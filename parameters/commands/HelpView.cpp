@@ -8,6 +8,10 @@ namespace Talo {
 
 HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
     setOpenLinks(false);
+    showTexts();
+}
+
+void HelpView::showTexts() {
     setAccessibleName(tr("Help"));
     setPlaceholderText(tr("F1 in a row shows what its parameter does."));
 }
@@ -26,6 +30,8 @@ void HelpView::showHelp(Kolt::VParameter const& parameter) {
 
 void HelpView::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        showTexts();
     // A document keeps the colours of the links that it was read with.
     if (event->type() == QEvent::PaletteChange && !html_.isEmpty())
         setHtml(html_);

@@ -25,6 +25,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void showTexts();
+
     QString html_;
 };
 

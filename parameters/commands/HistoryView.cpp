@@ -18,8 +18,7 @@ constexpr qint64 notableBytes = 1 << 20;
 
 HistoryView::HistoryView(Kolt::UndoHistory& history, QWidget* parent) : QListWidget(parent), history_(history) {
     setObjectName(QStringLiteral("history"));
-    setAccessibleName(tr("History"));
-    setAccessibleDescription(tr("The undo steps. Return goes to the state after the chosen step."));
+    showName();
     setItemDelegate(new TextDirectionDelegate(this));
     setUniformItemSizes(true);
     setTextElideMode(Qt::ElideMiddle);
@@ -56,10 +55,18 @@ void HistoryView::showEvent(QShowEvent* event) {
 
 void HistoryView::changeEvent(QEvent* event) {
     QListWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+    bool const isOtherLanguage = event->type() == QEvent::LanguageChange;
+    if (isOtherLanguage)
+        showName();
+    if (isOtherLanguage || event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
         shown_.clear();
         historyChanged();
     }
+}
+
+void HistoryView::showName() {
+    setAccessibleName(tr("History"));
+    setAccessibleDescription(tr("The undo steps. Return goes to the state after the chosen step."));
 }
 
 void HistoryView::refresh() {

@@ -30,6 +30,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void showName();
     /// The list is shown anew as soon as it is visible and other events were handled.
     void historyChanged();
     void refresh();

@@ -10,9 +10,8 @@ namespace Talo {
 ParameterCommands::ParameterCommands(QWidget* scope, QObject* parent)
     : QObject(parent), filter_(InputFilter::shared()), scope_(scope) {
     for (auto const& command : rowCommands()) {
-        auto* const action = new QAction(command.text, this);
+        auto* const action = new QAction(this);
         action->setObjectName(QLatin1String(command.name));
-        action->setShortcut(command.shortcut);
         connect(action, &QAction::triggered, this, [this, run = command.run] {
             if (row_)
                 (row_->*run)();
@@ -20,11 +19,22 @@ ParameterCommands::ParameterCommands(QWidget* scope, QObject* parent)
         actions_ << action;
     }
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { focusChanged(now); });
+    connect(filter_.get(), &InputFilter::languageChanged, this, &ParameterCommands::nameActions);
+    nameActions();
     focusChanged(QApplication::focusWidget());
     updateActions();
 }
 
 ParameterCommands::~ParameterCommands() = default;
+
+void ParameterCommands::nameActions() {
+    auto const commands = rowCommands();
+    for (int index = 0; index < actions_.size(); ++index) {
+        auto const& command = commands[static_cast<std::size_t>(index)];
+        actions_[index]->setText(command.text);
+        actions_[index]->setShortcut(command.shortcut);
+    }
+}
 
 QAction* ParameterCommands::action(char const* objectName) const {
     for (auto* const each : actions_)

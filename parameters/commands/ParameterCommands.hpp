@@ -31,6 +31,8 @@ public:
     void updateActions();
 
 private:
+    /// Gives the actions their texts and keys, which depend on the language.
+    void nameActions();
     void focusChanged(QWidget* widget);
 
     std::shared_ptr<InputFilter> const filter_;

@@ -13,6 +13,8 @@ void describe(QAction& action, QString const& name, Kolt::UndoHistory::Step cons
     auto const with = [&](QString const& shownName, QString const& shownWhat) {
         return step ? UndoActions::tr("%1: %2").arg(shownName, shownWhat) : shownName;
     };
+    // A tool button has no room for the step; its tool tip names it.
+    action.setIconText(QString(name).remove(QLatin1Char('&')));
     // One ampersand marks the key, two are one.
     action.setText(with(name, QString(what).replace(QLatin1Char('&'), QLatin1String("&&"))));
     action.setToolTip(plainToolTip(with(action.iconText(), what)));
@@ -32,9 +34,7 @@ UndoActions::UndoActions(Kolt::UndoHistory& history, QObject* parent)
     redoAction_->setObjectName(QStringLiteral("redo"));
     redoAction_->setShortcuts(QKeySequence::Redo);
     connect(redoAction_, &QAction::triggered, this, &UndoActions::redo);
-    // A tool button has no room for the step; its tool tip names it.
-    undoAction_->setIconText(tr("&Undo").remove(QLatin1Char('&')));
-    redoAction_->setIconText(tr("&Redo").remove(QLatin1Char('&')));
+    connect(filter_.get(), &InputFilter::languageChanged, this, &UndoActions::update);
     connection_ = history_.addListener([this] {
         update();
         emit historyChanged();

@@ -27,6 +27,8 @@ InputFilter::InputFilter() {
 InputFilter::~InputFilter() = default;
 
 bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance())
+        emit languageChanged();
     if (!watched->isWidgetType())
         return false;
     auto* const widget = static_cast<QWidget*>(watched);

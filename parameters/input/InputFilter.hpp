@@ -23,6 +23,10 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+signals:
+    /// Translations were installed or removed. Widgets receive QEvent::LanguageChange, other objects may not.
+    void languageChanged();
+
 private:
     InputFilter();
 

@@ -1,6 +1,7 @@
 #include <parameters/rows/ConditionWatcher.hpp>
 
 #include <map>
+#include <parameters/rows/ParameterDescription.hpp>
 
 namespace Talo {
 
@@ -8,7 +9,7 @@ ConditionWatcher::ConditionWatcher(std::vector<Kolt::ParameterPtr> const& parame
     : QObject(parent) {
     std::map<std::string, Kolt::ParameterPtr> byName;
     auto const watch = [&](Kolt::VParameter const& parameter, char const* property) -> std::optional<Watched> {
-        auto const condition = Condition::of(parameter, property);
+        auto const condition = findProperty(parameter, property) ? Condition::of(parameter, property) : std::nullopt;
         // Most objects have no condition.
         if (condition && byName.empty())
             for (auto const& each : parameters)

@@ -184,17 +184,17 @@ void EditorCell::nameControls(QString const& name, bool edited) {
     auto named = controls();
     auto* const firstControl = named.empty() ? nullptr : named.front();
     named.push_back(&editor);
+    named_.clear();
     for (auto* const control : named) {
-        auto const caption = captionOf(editor, *control);
         if (control->accessibleName().isEmpty())
-            control->setAccessibleName(caption.isEmpty() || caption == name ? name
-                                                                            : Texts::tr("%1: %2").arg(name, caption));
+            named_.emplace_back(control);
         // Some buttons react to a mouse press only, some lists commit only on mouse release.
         if (qobject_cast<QPushButton*>(control))
             new KeyboardPress(control);
         else if (auto* const list = qobject_cast<QAbstractItemView*>(control))
             new KeyboardChoice(list);
     }
+    renameControls(name);
     if (editor.focusPolicy() != Qt::NoFocus)
         return;
     if (firstControl && !editor.focusProxy())
@@ -202,6 +202,16 @@ void EditorCell::nameControls(QString const& name, bool edited) {
     else if (!firstControl && edited && !editor.layout())
         // One with a layout has no controls now, as a list of no flags: there is nothing to press.
         new KeyboardPress(&editor);
+}
+
+void EditorCell::renameControls(QString const& name) const {
+    for (auto const& control : named_) {
+        if (!control)
+            continue;
+        auto const caption = captionOf(*editor_.widget, *control);
+        control->setAccessibleName(caption.isEmpty() || caption == name ? name
+                                                                        : Texts::tr("%1: %2").arg(name, caption));
+    }
 }
 
 void EditorCell::describeControls(QString const& description) {

@@ -3,6 +3,7 @@
 #include <bramble/Enum.hpp>
 #include <memory>
 #include <parameters/PoolSourceRef.hpp>
+#include <QPointer>
 #include <QWidget>
 #include <sorrel/InputFrontEnd.hpp>
 #include <tessera/Export.hpp>
@@ -63,6 +64,8 @@ public:
     /// Names the controls that have no accessible name: `name`, followed by the control's own caption. Makes those
     /// usable by keyboard that react to the mouse only; `edited` says whether the editor itself is such a control.
     void nameControls(QString const& name, bool edited);
+    /// Names them again, in the language of now: those that `nameControls` named.
+    void renameControls(QString const& name) const;
     /// Gives every control this accessible description, followed by its tool tip.
     void describeControls(QString const& description);
     /// Gives a control the accessible description again, after its tool tip changed.
@@ -83,6 +86,8 @@ private:
     std::string neededType_;
     // Those of an enumeration when its editor was made; null for other types.
     Tessera::StrongPtr<Tessera::StringList> names_;
+    // The controls without a name of their own.
+    std::vector<QPointer<QWidget>> named_;
     // The accessible description of every control, without its tool tip.
     QString description_;
 };

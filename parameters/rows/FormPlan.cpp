@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
+#include <parameters/rows/ParameterDescription.hpp>
+#include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -10,73 +13,65 @@ namespace Talo {
 
 namespace {
 
-/// What is read of each parameter of a form (ParameterDescription); nothing else, as there are ten thousand of them,
-/// and as it is written there, because most of it is never shown.
-struct Heading {
-    explicit Heading(Kolt::VParameter const& parameter) {
-        if (auto const* const properties = parameter.properties()) {
-            label = Kolt::valueOr(properties->getValue("label"), std::string());
-            section = Kolt::valueOr(properties->getValue("group"), std::string());
-        }
-        if (!label.empty() && !section.empty())
-            return;
-        auto const name = parameter.Name();
-        auto const dot = name.rfind('.');
-        if (label.empty())
-            label = dot == std::string::npos ? name : name.substr(dot + 1);
-        if (section.empty() && dot != std::string::npos)
-            section = name.substr(0, dot);
-    }
-
-    std::string label;
-    std::string section;
-};
-
 /// Adds rows to a plan, and the sections that they are in.
 class RowCollector {
 public:
     explicit RowCollector(FormPlan& plan) : plan_(plan) {}
 
     void add(Kolt::ParameterPtr const& parameter) {
-        Heading const heading(*parameter);
-        addRow(parameter, sectionOf(heading.section));
-        addLabel(heading.label);
+        ParameterHeading const heading(*parameter);
+        addRow(parameter, sectionOf(heading.section()));
+        addLabel(heading.label());
     }
     void add(ParameterVector const& vector) {
-        auto const section = sectionOf(Heading(*vector.members.front()).section);
+        auto const section = sectionOf(ParameterHeading(*vector.members.front()).section());
         for (auto const& member : vector.members)
             addRow(member, section);
         addLabel(vector.name.toStdString());
     }
 
 private:
-    std::size_t sectionOf(std::string const& title) {
+    /// The height classes of the parameters of one type, those that were met.
+    struct HeightClasses {
+        std::string type;
+        std::optional<std::size_t> plain;
+        std::map<Kolt::VCreationPreferences::Names, std::optional<std::size_t>> withPreferences;
+    };
+
+    std::size_t sectionOf(std::string_view title) {
         // Most parameters are in the section of the one before.
         if (!plan_.rows.empty() && title == lastTitle_)
             return plan_.rows.back().section;
         lastTitle_ = title;
-        auto const [section, isNew] = sections_.insert({title, sections_.size()});
+        auto const [section, isNew] = sections_.insert({lastTitle_, sections_.size()});
         if (isNew)
-            plan_.sectionTitles.push_back(QString::fromStdString(title));
+            plan_.sectionTitles.push_back(QString::fromStdString(lastTitle_));
         return section->second;
     }
     std::size_t heightClassOf(Kolt::VParameter const& parameter) {
         auto const& preferences = parameter.creationPreferences();
-        static Kolt::VCreationPreferences::Names const none;
-        auto& ofType = heightClasses_[parameter.declaredType()];
-        auto const [heightClass, isNew] =
-            ofType.try_emplace(preferences ? preferences->names() : none, heightClassCount_);
-        heightClassCount_ += isNew ? 1 : 0;
-        return heightClass->second;
+        auto& ofType = heightClassesOf(parameter.declaredType());
+        // Most parameters have no preferences.
+        bool const isPlain = !preferences || preferences->names().empty();
+        auto& heightClass = isPlain ? ofType.plain : ofType.withPreferences[preferences->names()];
+        if (!heightClass)
+            heightClass = heightClassCount_++;
+        return *heightClass;
+    }
+    HeightClasses& heightClassesOf(std::string const& type) {
+        // There are few types, whose names are long, so that to hash one takes longer than to compare it.
+        auto const found = std::find_if(heightClasses_.begin(), heightClasses_.end(),
+                                        [&](auto const& each) { return each.type == type; });
+        return found == heightClasses_.end() ? heightClasses_.emplace_back(HeightClasses{type, {}, {}}) : *found;
     }
     void addRow(Kolt::ParameterPtr const& parameter, std::size_t section) {
         plan_.rows.push_back({parameter, section, heightClassOf(*parameter)});
     }
-    void addLabel(std::string const& label) {
+    void addLabel(std::string_view label) {
         // A text has at most as many letters as bytes.
         if (static_cast<int>(label.size()) <= plan_.longestLabel.size())
             return;
-        auto shown = QString::fromStdString(label);
+        auto shown = QString::fromUtf8(label.data(), static_cast<int>(label.size()));
         if (shown.size() > plan_.longestLabel.size())
             plan_.longestLabel = std::move(shown);
     }
@@ -84,7 +79,7 @@ private:
     FormPlan& plan_;
     std::unordered_map<std::string, std::size_t> sections_;
     std::string lastTitle_;
-    std::unordered_map<std::string, std::map<Kolt::VCreationPreferences::Names, std::size_t>> heightClasses_;
+    std::vector<HeightClasses> heightClasses_;
     std::size_t heightClassCount_ = 0;
 };
 

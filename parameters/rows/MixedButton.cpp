@@ -22,9 +22,7 @@ QString choiceText(MixedButton::Choice const& choice) {
 
 } // namespace
 
-MixedButton::MixedButton(QString const& parameterName, QWidget* parent) : QToolButton(parent) {
-    setText(tr("mixed"));
-    setAccessibleName(tr("%1: mixed values").arg(parameterName));
+MixedButton::MixedButton(QWidget* parent) : QToolButton(parent) {
     setPopupMode(QToolButton::MenuButtonPopup);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
@@ -34,7 +32,9 @@ MixedButton::MixedButton(QString const& parameterName, QWidget* parent) : QToolB
 
 MixedButton::~MixedButton() = default;
 
-void MixedButton::setChoices(std::vector<Choice> const& choices) {
+void MixedButton::setChoices(QString const& parameterName, std::vector<Choice> const& choices) {
+    setText(tr("mixed"));
+    setAccessibleName(tr("%1: mixed values").arg(parameterName));
     menu()->clear();
     menu()->addAction(tr("&Edit"), this, &MixedButton::editRequested);
     menu()->addSection(tr("Set all to"));

@@ -18,12 +18,12 @@ public:
         QStringList objects; ///< the objects that have it
     };
 
-    /// `parameterName` is for screen readers.
-    explicit MixedButton(QString const& parameterName, QWidget* parent = nullptr);
+    /// Says nothing before `setChoices`.
+    explicit MixedButton(QWidget* parent = nullptr);
     ~MixedButton() override;
 
-    /// Shows these values in the menu and in the tool tip.
-    void setChoices(std::vector<Choice> const& choices);
+    /// Shows these values in the menu and in the tool tip, in the language of now. The name is for screen readers.
+    void setChoices(QString const& parameterName, std::vector<Choice> const& choices);
 
 signals:
     /// The user wants to edit the value.

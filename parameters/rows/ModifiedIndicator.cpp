@@ -6,22 +6,20 @@
 
 namespace Talo {
 
-ModifiedIndicator::ModifiedIndicator(QString const& parameterName, QWidget* parent) : QToolButton(parent) {
+ModifiedIndicator::ModifiedIndicator(QWidget* parent) : QToolButton(parent) {
     setAutoRaise(true);
     setFocusPolicy(Qt::TabFocus);
-    // It comes and goes with each edit, and the row is not to be laid out anew for that.
+    // An edit shows or hides the dot. It keeps its place when it is hidden, so that no edit lays out the row.
     QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
-    setAccessibleName(tr("Reset %1 to its default").arg(parameterName));
 }
 
 ModifiedIndicator::~ModifiedIndicator() = default;
 
-void ModifiedIndicator::setDefault(QString const& text) {
+void ModifiedIndicator::setDefault(QString const& parameterName, QString const& text) {
     auto const sentence = tr("Default: %1").arg(text);
-    if (sentence == accessibleDescription())
-        return;
+    setAccessibleName(tr("Reset %1 to its default").arg(parameterName));
     setAccessibleDescription(sentence);
     setToolTip(QStringLiteral("<p>%1<br>%2</p>")
                    .arg(sentence.toHtmlEscaped(), tr("Click to reset the value.").toHtmlEscaped()));

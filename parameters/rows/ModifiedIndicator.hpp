@@ -11,12 +11,12 @@ class TALO_EXPORT ModifiedIndicator : public QToolButton {
     Q_OBJECT
 
 public:
-    /// The indicator of the parameter of this name, which its texts for users mention.
-    explicit ModifiedIndicator(QString const& parameterName, QWidget* parent = nullptr);
+    /// Says nothing before `setDefault`.
+    explicit ModifiedIndicator(QWidget* parent = nullptr);
     ~ModifiedIndicator() override;
 
-    /// Names the default by its text.
-    void setDefault(QString const& text);
+    /// Names the parameter and its default by its text, in the language of now.
+    void setDefault(QString const& parameterName, QString const& text);
 
     /// How wide and high a marker is beside a name in the font of the widget, in pixels.
     static int side(QWidget const& widget);

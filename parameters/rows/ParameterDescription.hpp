@@ -2,31 +2,63 @@
 
 #include <lattice/Parameter.hpp>
 #include <QString>
+#include <string>
+#include <string_view>
 #include <tessera/Export.hpp>
 
 namespace Talo {
+
+/// What a form reads of each of its parameters, of which there may be ten thousand: UTF-8, as it is kept, because most
+/// of it is never shown. User-interface thread.
+class TALO_EXPORT ParameterHeading {
+public:
+    /// Reads the properties of the parameter.
+    explicit ParameterHeading(Kolt::VParameter const& parameter);
+
+    /// What the row is called: the text "label", else the part of the name after its last dot. Valid as long as the
+    /// heading.
+    std::string_view label() const;
+    /// The title of the section: the text "group", else the part of the name before its last dot. Empty for none. Valid
+    /// as long as the heading.
+    std::string_view section() const;
+
+private:
+    std::string const name_;
+    std::size_t const lastDot_;
+    // Empty for a parameter without the property.
+    std::string const label_;
+    std::string const group_;
+};
 
 /// What a parameter's properties say about it to people. The properties are optional; one of another type than is named
 /// here says nothing. User-interface thread.
 struct TALO_EXPORT ParameterDescription {
     /// Reads the properties of the parameter.
-    explicit ParameterDescription(Kolt::VParameter const& parameter);
+    explicit ParameterDescription(Kolt::VParameter const& parameter)
+        : ParameterDescription(parameter, ParameterHeading(parameter)) {}
 
     /// The parameter's whole name.
     QString name;
-    /// What the row is called: the text "label", else the part of the name after its last dot.
+    /// What the row is called (ParameterHeading).
     QString label;
     /// What the parameter does, in sentences: the text "help", plain or rich. Empty for none.
     QString help;
     /// What is shown behind the editor: the text "unit". Empty for none.
     QString unit;
-    /// The title of the section: the text "group", else the part of the name before its last dot. Empty for none.
+    /// The title of the section (ParameterHeading). Empty for none.
     QString section;
     /// Whether the parameter is shown on demand only: "advanced" is true.
     bool isAdvanced = false;
     /// Whether people may not change it: "readOnly" is true. The host still may.
     bool isReadOnly = false;
+
+private:
+    ParameterDescription(Kolt::VParameter const& parameter, ParameterHeading const& heading);
 };
+
+/// The property of this name; null if there is none. A parameter has a few properties at most, so to look at each is
+/// quicker than to ask the map, which needs the name as a string. Valid until the properties change.
+Kolt::VValueBase const* findProperty(Kolt::VParameter const& parameter, std::string_view name);
 
 /// A property that is a text; empty for none.
 QString textProperty(Kolt::VParameter const& parameter, char const* name);

@@ -262,29 +262,6 @@ void ParameterRow::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, K
         QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
 }
 
-void ParameterRow::showDefault() {
-    auto const parameter = parameter_.strong();
-    auto const* const defaults = parameter ? parameter->defaults() : nullptr;
-    if (!defaults || defaults->isEffectiveIn(*parameter, pool())) {
-        names_->hideModified();
-        return;
-    }
-    // A default may be long, and while it is the same one so is its text.
-    auto const value = defaults->in(pool()).value;
-    if (shownDefault_ != Tessera::WeakPtr<Kolt::VValueBase>(value)) {
-        shownDefault_ = value;
-        names_->setDefault(spokenName(), valueText(*value));
-    }
-    names_->showModified();
-}
-
-QString ParameterRow::spokenName() const {
-    auto const parameter = parameter_.strong();
-    if (!componentName_.isEmpty() || !parameter)
-        return componentName_;
-    return ParameterDescription(*parameter).label;
-}
-
 void ParameterRow::showHelp() {
     if (auto const parameter = parameter_.strong())
         emit helpRequested(parameter);
@@ -316,7 +293,8 @@ void ParameterRow::setRawValueShown(bool shown) {
 void ParameterRow::setComponent(ParameterVector const& vector, int component, bool isHeaded) {
     vector_.assign(vector.members.begin(), vector.members.end());
     auto const& name = vector.components.at(component);
-    componentName_ = name.isEmpty() ? vector.name : tr("%1 %2", "vector, component").arg(vector.name, name);
+    vectorName_ = vector.name;
+    componentName_ = name;
     names_->setComponent(name, isHeaded ? vector.name : QString());
     showNote();
 }
@@ -356,21 +334,6 @@ void ParameterRow::contextMenuEvent(QContextMenuEvent* event) {
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(event->globalPos());
     event->accept();
-}
-
-void ParameterRow::updateAccessibility() {
-    auto const parameter = parameter_.strong();
-    if (cell_.widget() && parameter)
-        cell_.describeControls(controlDescription(objectName_, *parameter, pool()));
-}
-
-QString ParameterRow::toolTipText() const {
-    auto const parameter = parameter_.strong();
-    return parameter ? rowToolTip(parameter) : QString();
-}
-
-void ParameterRow::showNote() {
-    names_->setNote(rowNote(parameter_.strong(), pool()));
 }
 
 } // namespace Talo

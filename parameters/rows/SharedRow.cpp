@@ -6,6 +6,7 @@
 #include <parameters/commands/UndoText.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
+#include <QEvent>
 #include <utility>
 
 namespace Talo {
@@ -29,6 +30,12 @@ void SharedRow::refreshLater() {
     // Later, as an editor must not go while it is notified. Any number of changes until then is one.
     if (!std::exchange(refreshWaits_, true))
         QMetaObject::invokeMethod(this, &SharedRow::refresh, Qt::QueuedConnection);
+}
+
+bool SharedRow::event(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange)
+        refresh();
+    return QObject::event(event);
 }
 
 std::vector<SharedRow::Choice> SharedRow::choices() const {
@@ -64,16 +71,16 @@ void SharedRow::refresh() {
 void SharedRow::cover(std::vector<Choice> const& choices) {
     auto* button = qobject_cast<MixedButton*>(row_.cover());
     if (!button) {
-        button = new MixedButton(row_.spokenName());
+        button = new MixedButton;
         connect(button, &MixedButton::editRequested, this, &SharedRow::edit);
         connect(button, &MixedButton::chosen, this, &SharedRow::setAll);
-        row_.setCover(button);
     }
     std::vector<MixedButton::Choice> texts;
     texts.reserve(choices.size());
     for (auto const& [value, objects] : choices)
         texts.push_back({valueText(*value.value), objects});
-    button->setChoices(texts);
+    button->setChoices(row_.spokenName(), texts);
+    row_.setCover(button);
 }
 
 void SharedRow::edit() {

@@ -23,6 +23,9 @@ public:
     SharedRow(QString objectName, std::vector<SharedParameter> others, ParameterRow& row);
     ~SharedRow() override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     struct Choice {
         Kolt::EffectiveValue value;

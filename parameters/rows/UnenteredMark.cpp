@@ -20,6 +20,14 @@ UnenteredMark::UnenteredMark(QLineEdit& field, Kolt::ParameterPtr const& paramet
 
 UnenteredMark::~UnenteredMark() = default;
 
+bool UnenteredMark::event(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange && sign_) {
+        explain();
+        emit changed();
+    }
+    return QObject::event(event);
+}
+
 bool UnenteredMark::eventFilter(QObject* watched, QEvent* event) {
     auto const isReturn = [&] {
         int const key = static_cast<QKeyEvent*>(event)->key();
@@ -45,15 +53,19 @@ bool UnenteredMark::isUnentered(QString const& held) const {
 }
 
 void UnenteredMark::refresh() {
-    auto const held = heldText();
-    if (sign_ || !isUnentered(held))
+    if (sign_ || !isUnentered(heldText()))
         return;
     toolTip_ = field_.toolTip();
+    sign_ = field_.addAction(field_.style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition);
+    sign_->setObjectName(QStringLiteral("unentered"));
+    explain();
+}
+
+void UnenteredMark::explain() {
+    auto const held = heldText();
     auto const reason = held.isEmpty()
                             ? tr("The text is incomplete, so it was not entered. The value is still empty.")
                             : tr("The text is incomplete, so it was not entered. The value is still %1.").arg(held);
-    sign_ = field_.addAction(field_.style()->standardIcon(QStyle::SP_MessageBoxWarning), QLineEdit::TrailingPosition);
-    sign_->setObjectName(QStringLiteral("unentered"));
     sign_->setToolTip(reason);
     field_.setToolTip(reason);
     emit changed();

@@ -22,6 +22,7 @@ signals:
     void changed();
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -30,6 +31,8 @@ private:
     bool isUnentered(QString const& held) const;
     /// Shows the mark where it is due.
     void refresh();
+    /// Says why the field has the mark.
+    void explain();
     /// Removes the mark where it is due no longer.
     void removeIfEntered();
     QString heldText() const;

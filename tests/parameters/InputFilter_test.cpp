@@ -1,58 +1,16 @@
 #include "support/TaloTest.hpp"
 
-#include <lattice/TypedParameter.hpp>
-#include <lattice/UndoHistory.hpp>
-#include <parameters/input/GestureTarget.hpp>
 #include <parameters/input/InputFilter.hpp>
 #include <parameters/input/WheelGuard.hpp>
-#include <QLineEdit>
+#include <QSignalSpy>
 #include <QSpinBox>
-#include <QVBoxLayout>
+#include <QTranslator>
 
 namespace {
 
-class Target : public QWidget, public Talo::GestureTarget {
-public:
-    Kolt::UndoHistory& history() const override { return Kolt::UndoHistory::theHistory(); }
-};
-
-/// A target that contains a line edit, a spin box and a button-like area, and a line edit outside the target.
 class InputFilterTest : public TaloTest {
 protected:
-    void SetUp() override {
-        TaloTest::SetUp();
-        auto* const rows = new QVBoxLayout(&window);
-        rows->addWidget(target = new Target);
-        rows->addWidget(outside = new QLineEdit);
-        auto* const layout = new QVBoxLayout(target);
-        layout->addWidget(text = new QLineEdit);
-        layout->addWidget(spinBox = new QSpinBox);
-        layout->addWidget(area = new QWidget);
-        area->setFocusPolicy(Qt::StrongFocus);
-        area->setMinimumSize(50, 50);
-        window.show();
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    }
-
-    void TearDown() override {
-        filter.reset();
-        EXPECT_FALSE(isMacroOpen());
-        TaloTest::TearDown();
-    }
-
-    static bool isMacroOpen() { return Kolt::UndoHistory::theHistory().isMacroOpen(); }
-    static bool closes() {
-        return waitUntil([] { return !isMacroOpen(); });
-    }
-
     std::shared_ptr<Talo::InputFilter> filter = Talo::InputFilter::shared();
-    QWidget window;
-    Target* target = nullptr;
-    QLineEdit* text = nullptr;
-    QSpinBox* spinBox = nullptr;
-    QWidget* area = nullptr;
-    QLineEdit* outside = nullptr;
 };
 
 } // namespace
@@ -61,113 +19,22 @@ TEST_F(InputFilterTest, IsSharedByAllHolders) {
     auto const* const first = filter.get();
     EXPECT_EQ(Talo::InputFilter::shared().get(), first);
     QPointer<QObject> const watched(filter.get());
-    auto* const guard = new Talo::WheelGuard(spinBox);
+    QSpinBox spinBox;
+    auto* const guard = new Talo::WheelGuard(&spinBox);
     filter.reset();
     EXPECT_TRUE(watched) << "the guard still needs it";
     delete guard;
     EXPECT_FALSE(watched);
 }
 
-TEST_F(InputFilterTest, APressToItsReleaseIsOneGesture) {
-    QTest::mousePress(area, Qt::LeftButton);
-    EXPECT_TRUE(isMacroOpen());
-    QTest::mousePress(area, Qt::RightButton);
-    QTest::mouseRelease(area, Qt::LeftButton);
-    QTest::mouseRelease(area, Qt::RightButton);
-    EXPECT_TRUE(closes());
-}
-
-TEST_F(InputFilterTest, ATargetMayLeaveItsRowAsTheLastGestureEnds) {
-    QTest::keyClick(text, Qt::Key_A);
-    // A step without a change in the end is dropped when the gesture ends, which listeners hear of.
-    auto& history = Kolt::UndoHistory::theHistory();
-    auto const number = Kolt::Parameter<int>("number", 1);
-    ASSERT_TRUE(history.store(number, nullptr, {Kolt::makeValue(2), false}));
-    ASSERT_TRUE(history.store(number, nullptr, {Kolt::makeValue(1), false}));
-    int calls = 0;
-    auto const connection = history.addListener([&] {
-        ++calls;
-        area->setParent(&window);
-    });
-    QTest::mousePress(area, Qt::LeftButton);
-    EXPECT_EQ(calls, 1);
-    EXPECT_FALSE(isMacroOpen()) << "it is in no row any more";
-    QTest::mouseRelease(area, Qt::LeftButton);
-}
-
-TEST_F(InputFilterTest, APressBesideTheTargetsIsNone) {
-    QTest::mousePress(outside, Qt::LeftButton);
-    EXPECT_FALSE(isMacroOpen());
-    QTest::mouseRelease(outside, Qt::LeftButton);
-    outside->setFocus();
-    QTest::keyPress(outside, Qt::Key_A);
-    EXPECT_FALSE(isMacroOpen());
-    QTest::keyRelease(outside, Qt::Key_A);
-}
-
-TEST_F(InputFilterTest, AKeyWithItsRepetitionsIsOneGesture) {
-    area->setFocus();
-    QTest::keyPress(area, Qt::Key_Right);
-    EXPECT_TRUE(isMacroOpen());
-    QKeyEvent repeat(QEvent::KeyRelease, Qt::Key_Right, Qt::NoModifier, QString(), true);
-    QApplication::sendEvent(area, &repeat);
+TEST_F(InputFilterTest, HearsOfAnotherLanguageOnce) {
+    QSignalSpy const heard(filter.get(), &Talo::InputFilter::languageChanged);
+    QWidget window;
+    window.show();
+    QTranslator translator;
+    ASSERT_TRUE(translator.load(QStringLiteral(":/translations/talo_parameters_de.qm")));
+    QCoreApplication::installTranslator(&translator);
+    EXPECT_TRUE(waitUntil([&] { return !heard.isEmpty(); }));
     QCoreApplication::processEvents();
-    EXPECT_TRUE(isMacroOpen()) << "the release of a repetition ends nothing";
-    QTest::keyRelease(area, Qt::Key_Right);
-    EXPECT_TRUE(closes());
-}
-
-TEST_F(InputFilterTest, AModifierIsNoGesture) {
-    area->setFocus();
-    QTest::keyPress(area, Qt::Key_Shift);
-    EXPECT_FALSE(isMacroOpen());
-    QTest::keyRelease(area, Qt::Key_Shift);
-}
-
-TEST_F(InputFilterTest, ATypedTextIsOneGestureUntilReturn) {
-    text->setFocus();
-    QTest::keyClicks(text, QStringLiteral("ab"));
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(isMacroOpen());
-    QTest::keyClick(text, Qt::Key_Return);
-    EXPECT_TRUE(closes());
-}
-
-TEST_F(InputFilterTest, ATypedTextEndsWhenTheFieldIsLeft) {
-    text->setFocus();
-    QTest::keyClicks(text, QStringLiteral("ab"));
-    outside->setFocus();
-    EXPECT_TRUE(closes());
-}
-
-TEST_F(InputFilterTest, ArrowKeysInASpinBoxAreGesturesOfTheirOwn) {
-    spinBox->setFocus();
-    QTest::keyPress(spinBox, Qt::Key_Up);
-    EXPECT_TRUE(isMacroOpen());
-    QTest::keyRelease(spinBox, Qt::Key_Up);
-    EXPECT_TRUE(closes());
-}
-
-TEST_F(InputFilterTest, TheWheelIsOneGestureUntilItRests) {
-    spinBox->setFocus();
-    QPointF const place = spinBox->rect().center();
-    QWheelEvent event(place, spinBox->mapToGlobal(place.toPoint()), QPoint(), QPoint(0, 120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(spinBox, &event);
-    EXPECT_TRUE(isMacroOpen());
-    EXPECT_TRUE(closes());
-}
-
-TEST_F(InputFilterTest, ADeletedTargetEndsItsGesture) {
-    QTest::mousePress(area, Qt::LeftButton);
-    EXPECT_TRUE(isMacroOpen());
-    delete area;
-    EXPECT_FALSE(isMacroOpen());
-}
-
-TEST_F(InputFilterTest, ACommandEndsTheGesture) {
-    QTest::mousePress(area, Qt::LeftButton);
-    filter->gestures().end();
-    EXPECT_FALSE(isMacroOpen());
-    QTest::mouseRelease(area, Qt::LeftButton);
+    EXPECT_EQ(heard.count(), 1) << "the windows hear of it, too";
 }

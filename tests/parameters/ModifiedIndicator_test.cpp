@@ -7,17 +7,17 @@ namespace {
 
 class ModifiedIndicatorTest : public TaloTest {
 protected:
-    Talo::ModifiedIndicator mark{QStringLiteral("width")};
+    Talo::ModifiedIndicator mark;
 };
 
 } // namespace
 
 TEST_F(ModifiedIndicatorTest, SaysWhatItResetsAndToWhichDefault) {
+    mark.setDefault(QStringLiteral("width"), QStringLiteral("a < b"));
     EXPECT_EQ(mark.accessibleName(), QStringLiteral("Reset width to its default"));
-    mark.setDefault(QStringLiteral("a < b"));
     EXPECT_EQ(mark.accessibleDescription(), QStringLiteral("Default: a < b"));
     EXPECT_EQ(mark.toolTip(), QStringLiteral("<p>Default: a &lt; b<br>Click to reset the value.</p>"));
-    mark.setDefault(QStringLiteral("7"));
+    mark.setDefault(QStringLiteral("width"), QStringLiteral("7"));
     EXPECT_EQ(mark.accessibleDescription(), QStringLiteral("Default: 7"));
     EXPECT_TRUE(mark.toolTip().contains(QStringLiteral("Default: 7")));
 }

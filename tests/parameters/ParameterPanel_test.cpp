@@ -1,4 +1,5 @@
 #include "parameters/FormTest.hpp"
+#include "support/PluginFile.hpp"
 #include "support/SliderDrag.hpp"
 
 #include <parameters/commands/UndoStackAdapter.hpp>
@@ -240,11 +241,11 @@ TEST_F(ParameterPanelTest, ClosesAndOpensEditorsAroundAnUnload) {
                      });
     panel->closeEditors();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    ASSERT_TRUE(loader.unload(TALO_PLUGIN_FILE).ok);
+    ASSERT_TRUE(loader.unload(pluginFile).ok);
     panel->openEditors();
     EXPECT_EQ(row("on")->editor()->findChild<QCheckBox*>(), nullptr) << "a placeholder";
     panel->closeEditors();
-    ASSERT_TRUE(loader.load(TALO_PLUGIN_FILE).ok);
+    ASSERT_TRUE(loader.load(pluginFile).ok);
     panel->openEditors();
     EXPECT_TRUE(box());
     EXPECT_THAT(opened, ElementsAre("on", "level", "label", "on", "level", "label")) << "placeholders, then editors";
@@ -253,7 +254,7 @@ TEST_F(ParameterPanelTest, ClosesAndOpensEditorsAroundAnUnload) {
 TEST_F(ParameterPanelTest, AWorkerMayReportAParameterThatHasAPlaceholder) {
     panel->closeEditors();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    ASSERT_TRUE(loader.unload(TALO_PLUGIN_FILE).ok);
+    ASSERT_TRUE(loader.unload(pluginFile).ok);
     panel->openEditors();
     std::thread([&] {
         EXPECT_TRUE(setParameterValue(*on, true, nullptr, std::string(), false, nullptr, nullptr));
@@ -261,7 +262,7 @@ TEST_F(ParameterPanelTest, AWorkerMayReportAParameterThatHasAPlaceholder) {
     EXPECT_EQ(row("on")->modifiedIndicator(), nullptr) << "the worker touches no widget";
     EXPECT_TRUE(waitUntil([&] { return row("on")->modifiedIndicator() != nullptr; }));
     panel->closeEditors();
-    ASSERT_TRUE(loader.load(TALO_PLUGIN_FILE).ok);
+    ASSERT_TRUE(loader.load(pluginFile).ok);
     panel->openEditors();
 }
 

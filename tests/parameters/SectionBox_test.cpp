@@ -46,6 +46,14 @@ QImage boxPainted(Box& box, QRect const& exposed) {
     return image.copy(exposed);
 }
 
+/// What the box paints where some parts of it are exposed at once.
+QImage boxPainted(Box& box, QRegion const& exposed) {
+    auto image = background(box.size());
+    QPainter painter(&image);
+    box.render(&painter, exposed.boundingRect().topLeft(), exposed, {});
+    return image;
+}
+
 class SectionBoxTest : public TaloTest {};
 
 /// Counts the frames that are painted.
@@ -83,6 +91,68 @@ TEST_F(SectionBoxTest, EveryPartIsPaintedAsByTheStyle) {
                 << " " << part.height();
         }
     }
+}
+
+TEST_F(SectionBoxTest, PartsThatAreExposedAtOnceArePaintedOnce) {
+    Box box{QString()};
+    box.resize(500, 900);
+    auto const whole = framePainted(box);
+    auto const inside = box.contentsRect();
+    QRegion edges(0, inside.top(), 2, inside.height() - 1);
+    edges += QRect(4, inside.top() + 30, 3, 400);
+    edges += QRect(box.width() - 3, inside.top() + 7, 3, 500);
+    QRegion far(inside.center().x(), inside.center().y(), 40, 40);
+    far += QRect(0, 0, 20, 4);
+    far += QRect(box.width() - 12, box.height() - 5, 12, 5);
+    for (auto const& exposed : {edges, far, edges + far}) {
+        auto const painted = boxPainted(box, exposed);
+        for (auto const& part : exposed)
+            EXPECT_EQ(painted.copy(part), whole.copy(part)) << part.x() << " " << part.y();
+    }
+}
+
+TEST_F(SectionBoxTest, OnAFilledBackgroundItLooksAsTheStylePaintsIt) {
+    QWidget content;
+    content.setAutoFillBackground(true);
+    content.resize(320, 240);
+    Box box(QString(), &content);
+    box.setGeometry(10, 10, 300, 200);
+    auto const expected = [&] {
+        QImage image(content.size(), QImage::Format_RGB32);
+        image.fill(content.palette().color(content.backgroundRole()));
+        QPainter painter(&image);
+        painter.translate(box.pos());
+        auto option = box.option();
+        option.subControls = QStyle::SC_GroupBoxFrame;
+        box.style()->drawComplexControl(QStyle::CC_GroupBox, &option, &painter, &box);
+        return image;
+    };
+    auto const isAsExpected = [&] {
+        return content.grab().toImage().convertToFormat(QImage::Format_RGB32) == expected();
+    };
+    EXPECT_TRUE(isAsExpected());
+    for (QColor const& colour : {QColor(255, 255, 255), QColor(40, 42, 46), QColor(200, 90, 17)}) {
+        auto palette = content.palette();
+        palette.setColor(QPalette::Window, colour);
+        content.setPalette(palette);
+        EXPECT_TRUE(isAsExpected()) << colour.name().toStdString();
+    }
+    // Folded, nothing of the frame is painted, and nothing is left of it.
+    box.setFolded(true);
+    auto folded = content.grab().toImage();
+    EXPECT_EQ(folded.pixelColor(box.geometry().center()), content.palette().color(QPalette::Window));
+    EXPECT_EQ(folded.pixelColor(box.pos()), content.palette().color(QPalette::Window));
+    box.setFolded(false);
+    EXPECT_TRUE(isAsExpected());
+    // On a picture the inside stays translucent.
+    auto palette = content.palette();
+    QPixmap tile(2, 2);
+    tile.fill(Qt::red);
+    QPainter(&tile).fillRect(0, 0, 1, 2, Qt::blue);
+    palette.setBrush(QPalette::Window, tile);
+    content.setPalette(palette);
+    auto const image = content.grab().toImage();
+    EXPECT_NE(image.pixelColor(100, 100), image.pixelColor(101, 100));
 }
 
 TEST_F(SectionBoxTest, FollowsThePaletteAndTheState) {
