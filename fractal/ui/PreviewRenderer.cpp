@@ -152,12 +152,20 @@ void PreviewRenderer::take() {
         if (task != drawing_)
             continue;
         auto const drawing = std::exchange(drawing_, nullptr);
+        bool const isFirst = image_.isNull();
         image_ = drawing->image;
         isFine_ = drawing->isFine();
         problem_ = drawing->problem();
         emit pictureChanged();
-        if (posted_ != changes_ && !drawing_)
+        if (drawing_)
+            continue;
+        if (posted_ != changes_) {
             post(false);
+        } else if (isFirst && !isFine_ && !image_.isNull()) {
+            // No hand has moved a handle yet, so there is no pause to wait for.
+            restTimer_.stop();
+            rest();
+        }
     }
 }
 

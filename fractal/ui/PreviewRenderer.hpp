@@ -9,8 +9,9 @@
 namespace Fractal {
 
 /// Computes the preview of a network in a pool and keeps it up to date. Each change starts a coarse picture at once;
-/// the fine one follows when changes pause and no mouse button is held. A further change cancels a fine picture but
-/// lets a coarse one finish, because that is quick; so the preview follows a handle however fast it moves.
+/// the fine one follows when changes pause and no mouse button is held, and the first one at once. A further change
+/// cancels a fine picture but lets a coarse one finish, because that is quick; so the preview follows a handle however
+/// fast it moves.
 /// User-interface thread, which never waits for a picture.
 class PreviewRenderer : public QObject {
     Q_OBJECT
@@ -32,6 +33,8 @@ public:
     bool isFine() const { return isFine_; }
     /// A message to the user about the picture; usually empty.
     QString const& problem() const { return problem_; }
+    /// Whether a picture is being computed, coarse or fine.
+    bool isComputing() const { return drawing_ != nullptr; }
     /// Whether the fine picture is being computed.
     bool isRefining() const;
     /// Whether the picture is up to date and stays as it is until something changes.

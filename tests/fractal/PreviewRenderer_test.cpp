@@ -50,6 +50,13 @@ TEST_F(PreviewRendererTest, TheCoarsePictureComesFirstAndThenTheFineOne) {
     EXPECT_EQ(maker.image(), expected(draft));
 }
 
+TEST_F(PreviewRendererTest, TheFirstFinePictureDoesNotWaitForAPause) {
+    ASSERT_TRUE(waitUntil([this] { return !shown.empty(); }));
+    EXPECT_TRUE(maker.isRefining() || maker.isFine());
+    ASSERT_TRUE(rests());
+    EXPECT_EQ(shown, (std::vector<bool>{false, true}));
+}
+
 TEST_F(PreviewRendererTest, EveryParameterThatShapesThePictureIsFollowed) {
     ASSERT_TRUE(rests());
     std::pair<char const*, char const*> const changes[] = {{"formula.kind", "Burning ship"},
