@@ -12,14 +12,19 @@ constexpr int modifiedDelay = 100;
 
 } // namespace
 
-Document::Document(QObject* parent) : QObject(parent) {
+Document::Document(QObject* parent)
+    : QObject(parent), valueSignal_(std::make_shared<Kolt::ChangeSignal>([this] {
+          QMetaObject::invokeMethod(this, &Document::checkModifiedLater, Qt::QueuedConnection);
+      })) {
     modifiedTimer_.setSingleShot(true);
     modifiedTimer_.setInterval(modifiedDelay);
     connect(&modifiedTimer_, &QTimer::timeout, this, &Document::checkModified);
     connect(&guard_, &FileGuard::changed, this, &Document::fileChanged);
 }
 
-Document::~Document() = default;
+Document::~Document() {
+    valueSignal_->stop();
+}
 
 QString Document::open(QString const& file) {
     auto result = Talo::Network::load(file, Fractal::makeObject);
@@ -39,8 +44,10 @@ void Document::setNetwork(std::unique_ptr<Talo::Network> network) {
     auto const old = std::exchange(network_, std::move(network));
     guard_.remember(network_->file());
     for (auto const& object : network_->objects())
-        for (auto const& parameter : object->parameters())
+        for (auto const& parameter : object->parameters()) {
             parameter->setHistory(&history_);
+            parameter->setChangeSignal(valueSignal_);
+        }
     network_->actionHandler = [this](auto const& object, auto const& parameter, auto const& pool) {
         emit actionFired(object, parameter, pool);
     };
@@ -66,6 +73,8 @@ void Document::checkModifiedLater() {
 }
 
 void Document::checkModified() {
+    // First, so that a change during the comparison is not missed.
+    valueSignal_->awaitNext();
     emit modifiedChanged(isModified());
 }
 

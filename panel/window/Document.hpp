@@ -1,5 +1,6 @@
 #pragma once
 
+#include <lattice/ChangeSignal.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <memory>
 #include <network/Network.hpp>
@@ -34,8 +35,8 @@ public:
 
     /// Compares the values with the saved ones.
     bool isModified() const { return network_ && network_->isModified(); }
-    /// Emits `modifiedChanged` a moment from now: to compare all values takes a while.
-    void checkModifiedLater();
+    /// Compares the values with the saved ones and emits `modifiedChanged`. A moment after a value has changed, the
+    /// document does so by itself.
     void checkModified();
 
     /// The network's file, absolute and without links, so that a file has one name; empty without a file.
@@ -62,8 +63,13 @@ signals:
     void actionFired(Kolt::ObjectPtr const& object, Kolt::ParameterPtr const& parameter, Kolt::PoolPtr const& pool);
 
 private:
+    /// Emits `modifiedChanged` a moment from now: to compare all values takes a while.
+    void checkModifiedLater();
+
     Kolt::UndoHistory history_;
     std::unique_ptr<Talo::Network> network_;
+    // Raised by the open network and those before it.
+    std::shared_ptr<Kolt::ChangeSignal> const valueSignal_;
     FileGuard guard_;
     QTimer modifiedTimer_;
 };

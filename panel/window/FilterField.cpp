@@ -17,10 +17,6 @@ FilterField::FilterField(QWidget* parent)
     setWidth();
     findAction_->setObjectName(QStringLiteral("find"));
     findAction_->setShortcut(QKeySequence::Find);
-    connect(findAction_, &QAction::triggered, this, [this] {
-        setFocus(Qt::ShortcutFocusReason);
-        selectAll();
-    });
     onlyChanged_->setObjectName(QStringLiteral("onlyChanged"));
     onlyChanged_->setCheckable(true);
     onlyChanged_->setToolTip(tr("Shows only the parameters whose value differs from the default"));

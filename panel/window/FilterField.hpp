@@ -15,7 +15,7 @@ public:
     explicit FilterField(QWidget* parent = nullptr);
     ~FilterField() override;
 
-    /// Gives the field the focus.
+    /// Asks for the field; what shows it gives it the focus.
     QAction* findAction() const { return findAction_; }
     /// Whether only parameters are wanted whose value differs from the default; checkable.
     QAction* onlyChangedAction() const { return onlyChanged_; }

@@ -130,7 +130,6 @@ void MainWindow::connectParts() {
                 fractal_->fire(object, parameter, pool);
                 report(actionMessage(object, parameter, pool));
             });
-    connect(&undoActions_, &Talo::UndoActions::historyChanged, &document_, &Document::checkModifiedLater);
     connect(&undoActions_, &Talo::UndoActions::refused, this,
             [this](QString const& reason) { messages()->add(MessageList::Source::Error, reason); });
     connect(&undoActions_, &Talo::UndoActions::restored, this, &MainWindow::showChange);

@@ -2,7 +2,9 @@
 
 #include <panel/window/CountTexts.hpp>
 #include <parameters/rows/MutedLabel.hpp>
+#include <QLayout>
 #include <QSignalBlocker>
+#include <QToolButton>
 
 namespace Panel {
 
@@ -31,6 +33,7 @@ PoolToolBar::PoolToolBar(QWidget* parent)
     addAction(filterField_->onlyChangedAction());
     widgetForAction(filterField_->onlyChangedAction())->setFocusPolicy(Qt::TabFocus);
     addWidget(filterField_);
+    connect(filterField_->findAction(), &QAction::triggered, this, &PoolToolBar::find);
     connect(selector_, qOverload<int>(&QComboBox::currentIndexChanged), this, [this](int index) {
         if (index >= 0)
             emit poolChosen(index);
@@ -38,6 +41,21 @@ PoolToolBar::PoolToolBar(QWidget* parent)
 }
 
 PoolToolBar::~PoolToolBar() = default;
+
+void PoolToolBar::find() {
+    if (isHidden()) {
+        show();
+        window()->layout()->activate();
+    }
+    // What has no room is shown by a button. A field that is not seen must not take what is typed.
+    auto* const more = findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+    if (!filterField_->isVisible() && more)
+        more->click();
+    if (!filterField_->isVisible())
+        return;
+    filterField_->setFocus(Qt::ShortcutFocusReason);
+    filterField_->selectAll();
+}
 
 void PoolToolBar::showPools(Talo::Network const& network) {
     QSignalBlocker const blocker(selector_);

@@ -30,6 +30,9 @@ signals:
     void poolChosen(int index);
 
 private:
+    /// Shows the filter and gives it the focus.
+    void find();
+
     QComboBox* const selector_;
     FilterField* const filterField_;
     QLabel* const found_;

@@ -50,6 +50,9 @@ Recovery::Recovery(Document& document, QString folder, QObject* parent)
             followFile();
     });
     followFile();
+    // It may have been modified before.
+    if (document_.isModified())
+        showModified(true);
 }
 
 Recovery::~Recovery() = default;
@@ -127,9 +130,9 @@ void Recovery::write() {
 }
 
 QString Recovery::writeFile(QByteArray const& values) const {
-    QJsonObject const content{{"file", networkFile_},
-                              {"written", QDateTime::currentDateTime().toString(Qt::ISODate)},
-                              {"values", QJsonDocument::fromJson(values).object()}};
+    QJsonObject const content{{QStringLiteral("file"), networkFile_},
+                              {QStringLiteral("written"), QDateTime::currentDateTime().toString(Qt::ISODate)},
+                              {QStringLiteral("values"), QJsonDocument::fromJson(values).object()}};
     auto const json = QJsonDocument(content).toJson();
     QSaveFile target(fileOf(place_, "json"));
     if (!target.open(QIODevice::WriteOnly) || target.write(json) != json.size())

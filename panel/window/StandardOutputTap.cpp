@@ -138,8 +138,7 @@ void StandardOutputTap::emitLine() {
         ++missed_;
         return;
     }
-    if (int const missed = std::exchange(missed_, 0); missed > 0)
-        emit linesMissed(missed);
+    emitMissed();
     unreceived_ += bytes;
     emitted_ += bytes;
     emit linePrinted(line);
@@ -148,11 +147,22 @@ void StandardOutputTap::emitLine() {
         countReceived();
 }
 
+void StandardOutputTap::emitMissed() {
+    if (int const missed = missed_.exchange(0); missed > 0)
+        emit linesMissed(missed);
+}
+
 void StandardOutputTap::countReceived() {
-    // The receivers live on the thread of this object, and hear the lines before this call.
-    if (int const bytes = std::exchange(emitted_, 0); bytes > 0)
-        QMetaObject::invokeMethod(
-            this, [this, bytes] { unreceived_ -= bytes; }, Qt::QueuedConnection);
+    int const bytes = std::exchange(emitted_, 0);
+    if (bytes == 0)
+        return;
+    // The receivers live on the thread of this object, and receive the lines before this call. Perhaps no line follows
+    // those that were left out.
+    auto const count = [this, bytes] {
+        unreceived_ -= bytes;
+        emitMissed();
+    };
+    QMetaObject::invokeMethod(this, count, Qt::QueuedConnection);
 }
 
 } // namespace Panel

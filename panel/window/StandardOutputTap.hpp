@@ -31,7 +31,7 @@ signals:
     /// A line was printed, without its end. Emitted on another thread, so a receiver on the user-interface thread hears
     /// it when the event loop comes round. A last line without an end comes when the tap ends.
     void linePrinted(QString const& line);
-    /// So many lines were left out here. Emitted as linePrinted is.
+    /// So many lines were left out here. Emitted as linePrinted is, or on the thread of this object.
     void linesMissed(int count);
 
 private:
@@ -41,6 +41,8 @@ private:
     /// Adds what was printed to the line, and emits each line that ends.
     void takeLines(char const* next, char const* end);
     void emitLine();
+    /// Emits how many lines were left out, if any were.
+    void emitMissed();
     /// Has the receivers' thread count what it has received.
     void countReceived();
 
@@ -58,8 +60,8 @@ private:
     // In bytes: what was emitted and not received yet, and what was emitted since countReceived().
     std::atomic<int> unreceived_{0};
     int emitted_ = 0;
-    // How many lines were left out since the last one that was emitted.
-    int missed_ = 0;
+    // How many lines were left out and not reported yet.
+    std::atomic<int> missed_{0};
     std::thread listener_;
 };
 

@@ -68,7 +68,8 @@ protected:
     QLineEdit* field(char const* name) const { return control<QLineEdit>(name); }
     QSlider* slider(char const* name) const { return control<QSlider>(name); }
     QRadioButton* choice(char const* name) const {
-        for (auto* const button : row("enum")->editor()->findChildren<QRadioButton*>())
+        auto const buttons = row("enum")->editor()->findChildren<QRadioButton*>();
+        for (auto* const button : buttons)
             if (button->text() == QLatin1String(name))
                 return button;
         return nullptr;

@@ -1,6 +1,7 @@
 // View > Editors in the panel, with both plug-ins.
 
 #include "PanelTest.hpp"
+#include "support/PluginFile.hpp"
 
 #include <panel/window/Session.hpp>
 #include <QAbstractSpinBox>
@@ -113,7 +114,7 @@ TEST_F(EditorsMenuTest, AChoiceIsKeptWhileItsPluginIsUnloaded) {
     choice(0, field)->trigger();
     QString error;
     ASSERT_TRUE(plugins.unload(&error)) << qPrintable(error);
-    ASSERT_TRUE(plugins.load(QStringLiteral(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+    ASSERT_TRUE(plugins.load(QString::fromUtf8(pluginFile), &error)) << qPrintable(error);
     EXPECT_TRUE(isSlider("level"));
     focus("level");
     ASSERT_NE(choice(0, field), nullptr);

@@ -1,6 +1,7 @@
 #include "PanelTest.hpp"
 
 #include <QLineEdit>
+#include <QToolBar>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -139,6 +140,23 @@ TEST_F(FilterTest, IsReachedByAKeyAndLeadsToWhatItFound) {
     QTest::keyClicks(field(), "level");
     QTest::keyClick(field(), Qt::Key_Return);
     EXPECT_TRUE(window->currentView()->row(QStringLiteral("level"))->isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(FilterTest, TheKeyShowsAFieldThatHasNoRoom) {
+    window->resize(window->minimumSizeHint().width(), 600);
+    waitUntil([this] { return !field()->isVisible(); });
+    ASSERT_FALSE(field()->isVisible());
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(field()->isVisible());
+    EXPECT_TRUE(field()->hasFocus());
+}
+
+TEST_F(FilterTest, TheKeyShowsAToolBarThatIsHidden) {
+    window->findChild<QToolBar*>()->hide();
+    ASSERT_FALSE(field()->isVisible());
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(field()->isVisible());
+    EXPECT_TRUE(field()->hasFocus());
 }
 
 TEST_F(FilterTest, LeadsToTheEditorAndNotToWhatResetsIt) {

@@ -1,4 +1,5 @@
 #include "contract/EditorCases.hpp"
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
 #include <algorithm>
@@ -19,7 +20,7 @@ protected:
     void SetUp() override {
         TaloTest::SetUp();
         QString error;
-        ASSERT_TRUE(plugins.load(QStringLiteral(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+        ASSERT_TRUE(plugins.load(QString::fromUtf8(pluginFile), &error)) << qPrintable(error);
     }
     void TearDown() override {
         gallery.reset();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
 #include <lattice/ActionNotifier.hpp>
@@ -16,7 +17,7 @@ protected:
     void SetUp() override {
         TaloTest::SetUp();
         QString error;
-        ASSERT_TRUE(plugins.load(QStringLiteral(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+        ASSERT_TRUE(plugins.load(QString::fromUtf8(pluginFile), &error)) << qPrintable(error);
         window = std::make_unique<Panel::MainWindow>(plugins);
         ASSERT_TRUE(window->openNetwork(networkFile("lamps.json", lamps), &error)) << qPrintable(error);
     }

@@ -1,3 +1,4 @@
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
 #include <panel/PluginSearch.hpp>
@@ -122,7 +123,7 @@ TEST_F(FoundPlugins, FixturesInTheBuildFolderAreNotFound) {
 
 TEST_F(FoundPlugins, WhatLiesBesideTheProjectsOwnIsLoaded) {
     auto const program = copy(TALO_PANEL, "bin/talo_panel");
-    copy(TALO_PLUGIN_FILE, "bin/qtalo_inputs.talo");
+    copy(pluginFile, "bin/qtalo_inputs.talo");
     copy(TALO_SAMPLE_PLUGIN, "bin/sample_plugin.talo");
     ASSERT_EQ(run(list, {}, program), 0) << errors;
     EXPECT_THAT(creators, HasSubstr(own));

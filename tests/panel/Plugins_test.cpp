@@ -1,4 +1,5 @@
 #include "PanelTest.hpp"
+#include "support/PluginFile.hpp"
 
 #include <parameters/rows/PlaceholderEditor.hpp>
 #include <plugins_bad/own_value.hpp>
@@ -39,7 +40,7 @@ TEST_F(PluginsTest, ReloadAfterUnloadBringsTheEditorsBack) {
     action("unload")->trigger();
     set("lamp.steady", "false");
     action("reload")->trigger();
-    ASSERT_EQ(plugins.loadedFiles(), QStringList{QStringLiteral(TALO_PLUGIN_FILE)});
+    ASSERT_EQ(plugins.loadedFiles(), QStringList{QString::fromUtf8(pluginFile)});
     ASSERT_NE(box("steady"), nullptr);
     EXPECT_FALSE(box("steady")->isChecked());
     QTest::mouseClick(box("steady"), Qt::LeftButton);
@@ -76,7 +77,7 @@ TEST_F(PluginsTest, AMissingFileIsReportedAtReload) {
     auto const copy = folder.filePath(QStringLiteral("qtalo_inputs.talo"));
     QString error;
     ASSERT_TRUE(plugins.unload(&error));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE), copy));
+    ASSERT_TRUE(QFile::copy(QString::fromUtf8(pluginFile), copy));
     ASSERT_TRUE(plugins.load(copy, &error)) << qPrintable(error);
     EXPECT_NE(box("on"), nullptr);
     ASSERT_TRUE(plugins.unload(&error));

@@ -1,6 +1,7 @@
 // How the program ends when it is not closed, and what it leaves behind. It runs without a display or on its own
 // display.
 
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
 #include <array>
@@ -40,8 +41,8 @@ protected:
         environment.insert(QStringLiteral("DISPLAY"), displayName);
         program.setProcessEnvironment(environment);
         program.start(QStringLiteral(TALO_PANEL),
-                      {file, QStringLiteral("--no-session"), QStringLiteral("--plugin"),
-                       QStringLiteral(TALO_PLUGIN_FILE), QStringLiteral("--set"), QStringLiteral("lamp.level=42")});
+                      {file, QStringLiteral("--no-session"), QStringLiteral("--plugin"), QString::fromUtf8(pluginFile),
+                       QStringLiteral("--set"), QStringLiteral("lamp.level=42")});
         ASSERT_TRUE(waitUntil([this] { return !kept().isEmpty(); }, 20000))
             << program.readAllStandardError().constData();
     }

@@ -1,5 +1,6 @@
 #include "RandomWalk.hpp"
 
+#include "PreviewCheck.hpp"
 #include "WalkTime.hpp"
 
 #include <gtest/gtest.h>
@@ -21,6 +22,23 @@ constexpr int whenAllIsDone = 2000;
 // In milliseconds. A picture that takes longer is cancelled.
 constexpr int longestPicture = 2000;
 
+// In milliseconds. No coarse preview takes longer; a fine one that does is not waited for.
+constexpr int longestPreview = 60'000;
+constexpr int longestFinePreview = 2000;
+
+// In milliseconds. Longer than the preview waits before it is refined.
+constexpr int beforeFinePreview = 200;
+
+/// Waits for the thread that computes the preview; virtual time stands.
+template <typename Condition>
+bool waitForThread(Condition const& condition, int longest = longestPreview) {
+    for (int waited = 0; !condition() && waited < longest; ++waited) {
+        VirtualTime::waitForThreads(1);
+        QCoreApplication::processEvents();
+    }
+    return condition();
+}
+
 QStringList namesIn(QString const& folder) {
     QStringList names;
     for (auto const* const name : {"walk.json", "other.json", "picture.png", "document.pdf", "colours.gpl", "no/where"})
@@ -41,6 +59,9 @@ RandomWalk::RandomWalk(Panel::MainWindow& window, Panel::Plugins& plugins, QStri
       closer_(namesIn(folder), [this](unsigned number) { host_.tryPlugins(number % 2 == 0); }) {
     following_ = QObject::connect(&window_, &Panel::MainWindow::networkOpened, &closer_, [this] { followNetwork(); });
     QObject::connect(&window_, &Panel::MainWindow::networkAboutToClose, &closer_, [this] { record_.reset(); });
+    auto const& fractal = window_.fractalController();
+    QObject::connect(&fractal.renderQueue(), &Fractal::RenderQueue::computed, &closer_,
+                     [this, &fractal] { renderedAt_ = fractal.previewRenderer().changes(); });
     followNetwork();
 }
 
@@ -98,7 +119,30 @@ void RandomWalk::act(WalkEvent const& event) {
         pass(betweenEvents);
 }
 
+bool RandomWalk::awaitCoarsePreview() {
+    auto const& renderer = window_.fractalController().previewRenderer();
+    return waitForThread([&] { return !renderer.isComputing() || renderer.isRefining(); });
+}
+
+bool RandomWalk::awaitFinePreview() {
+    auto const& renderer = window_.fractalController().previewRenderer();
+    // A change is noticed with the next events, and the text below a picture may change its size. Always as often, as
+    // what depends on the thread must not decide how much time passes.
+    constexpr int rounds = 3;
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::processEvents();
+        if (!awaitCoarsePreview())
+            return false;
+        if (VirtualTime::isRunning())
+            pass(beforeFinePreview);
+    }
+    return waitForThread([&] { return renderer.isAtRest(); }, longestFinePreview);
+}
+
 bool RandomWalk::awaitPictures() {
+    // The fine preview may take as long as it likes: only its own pixels depend on it.
+    if (!awaitCoarsePreview())
+        return false;
     auto const& queue = window_.fractalController().renderQueue();
     for (int waited = 0; queue.isComputing(); ++waited) {
         if (waited == longestPicture) {
@@ -204,6 +248,14 @@ std::vector<std::string> RandomWalk::goBackAndForth() {
     auto const last = record_->differences("after all was made again");
     all.insert(all.end(), last.begin(), last.end());
     return all;
+}
+
+std::string RandomWalk::findPreviewFault() {
+    // A fine picture of thousands of iterations takes too long, on a slow machine minutes; it is left out.
+    if (!awaitFinePreview())
+        return {};
+    bool const isOfRenderAction = renderedAt_ == window_.fractalController().previewRenderer().changes();
+    return isOfRenderAction ? std::string() : previewFault(window_);
 }
 
 void RandomWalk::beginAnew() {

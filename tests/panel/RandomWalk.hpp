@@ -7,6 +7,7 @@
 #include "WalkUser.hpp"
 
 #include <memory>
+#include <optional>
 #include <panel/window/MainWindow.hpp>
 #include <QJsonObject>
 #include <set>
@@ -33,12 +34,18 @@ public:
     /// Undoes and redoes all steps. Returns the parameters that did not return to their first value, or did not come
     /// back to their last.
     std::vector<std::string> goBackAndForth();
+    /// Waits for the fine preview and compares it with the values. Returns what is wrong; an empty text if nothing is,
+    /// if the preview takes too long, or if the render action has shown its own picture since the last change.
+    std::string findPreviewFault();
     /// Opens the network again, without a history.
     void beginAnew();
 
 private:
     void followNetwork();
     void writeAsHost(QString const& name, QString const& text);
+    /// Wait until no coarse preview is computed, or until the preview is fine; false if that does not happen.
+    bool awaitCoarsePreview();
+    bool awaitFinePreview();
     /// Waits until no picture is computed, so that the thread that computes does not decide what the walk does next.
     bool awaitPictures();
     /// Shows the window and makes it active; false if the window system does not.
@@ -61,4 +68,6 @@ private:
     // "object.parameter".
     std::set<QString> writtenByHost_;
     QMetaObject::Connection following_;
+    // The changes of the preview when the render action computed a picture last.
+    std::optional<unsigned long> renderedAt_;
 };

@@ -36,7 +36,10 @@ bool isOffscreen() {
 
 class RandomWalkTest : public FractalPanelTest {
 protected:
-    RandomWalkTest() { windowSize = {900, 700}; }
+    RandomWalkTest() {
+        windowSize = {900, 700};
+        showsPreview = true;
+    }
 
     void SetUp() override {
         // A display answers in real time.
@@ -161,6 +164,7 @@ void RandomWalkOfPlan::goBack(RandomWalk& walk) {
     EXPECT_THAT(walk.goBackAndForth(), IsEmpty())
         << qPrintable(window->messages()->texts(Panel::MessageList::Source::Error).join(QLatin1Char('\n')));
     EXPECT_THAT(disagreements(*window), IsEmpty());
+    EXPECT_EQ(walk.findPreviewFault(), "");
     walk.beginAnew();
 }
 
@@ -171,6 +175,7 @@ TEST_F(RandomWalkTest, AgreesAtTheStart) {
     int compared = 0;
     EXPECT_THAT(disagreements(*window, &compared), IsEmpty());
     EXPECT_EQ(compared, 8);
+    EXPECT_TRUE(window->fractalController().previewAction()->isChecked());
 }
 
 TEST_F(RandomWalkTest, FindsAValueThatWasNotNotified) {

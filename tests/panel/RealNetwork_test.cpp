@@ -1,6 +1,7 @@
 // A network as large as real ones: it is opened, walked through and saved, and one thirty times as large costs no more
 // widgets.
 
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
 #include <checker/ProcessCounts.hpp>
@@ -17,7 +18,7 @@ protected:
     void SetUp() override {
         TaloTest::SetUp();
         QString error;
-        ASSERT_TRUE(plugins.load(QStringLiteral(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+        ASSERT_TRUE(plugins.load(QString::fromUtf8(pluginFile), &error)) << qPrintable(error);
         ASSERT_TRUE(plugins.load(QStringLiteral(TALO_MORE_PLUGIN_FILE), &error)) << qPrintable(error);
     }
     void TearDown() override {

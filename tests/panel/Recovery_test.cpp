@@ -66,6 +66,15 @@ protected:
 
 } // namespace
 
+TEST_F(RecoveryTest, KeepsWhatWasUnsavedBeforeItWasThere) {
+    recovery.reset();
+    set("all.int", "99");
+    ASSERT_TRUE(isMarked()) << "from now on nothing changes";
+    recovery = std::make_unique<Panel::Recovery>(window->document(), states());
+    ASSERT_TRUE(isKept());
+    EXPECT_TRUE(keptValues().contains("all.int"));
+}
+
 TEST_F(RecoveryTest, KeepsWhatIsUnsavedAFewSecondsAfterAnEdit) {
     edit();
     EXPECT_TRUE(kept().isEmpty());

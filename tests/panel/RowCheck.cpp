@@ -5,11 +5,16 @@
 #include <parameters/rows/ModifiedIndicator.hpp>
 #include <parameters/rows/ParameterDescription.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
+#include <parameters/rows/RowTexts.hpp>
 #include <QScrollBar>
 
 namespace {
 
 using Faults = std::vector<std::string>;
+
+// In characters. What a raw value shows of a long text, and what a screen reader reads of it.
+constexpr int longestRaw = 2000;
+constexpr int longestRead = 200;
 
 /// What is wrong with one row.
 class RowFaults {
@@ -34,7 +39,6 @@ private:
         if (!text.contains(part))
             add(std::string(what) + " \"" + text.toStdString() + "\" without \"" + part.toStdString() + "\"");
     }
-    QString poolName() const { return row_.pool() ? QString::fromStdString(row_.pool()->Name()) : QString(); }
 
     void checkMark() {
         auto const* const mark = row_.modifiedIndicator();
@@ -43,19 +47,20 @@ private:
         bool const isChanged = defaults && !defaults->isEffectiveIn(*row_.parameter(), row_.pool());
         if (isMarked != isChanged)
             add(isMarked ? "is marked as changed" : "has changed and is not marked");
-        else if (isMarked)
-            expect("mark's tool tip", mark->toolTip(),
-                   Talo::valueText(*defaults->in(row_.pool()).value).toHtmlEscaped());
+        if (!isMarked || !isChanged)
+            return;
+        auto const named =
+            Talo::ModifiedIndicator::tr("Default: %1").arg(Talo::valueText(*defaults->in(row_.pool()).value));
+        expect("mark's tool tip", mark->toolTip(), named.toHtmlEscaped());
+        expect("mark's accessible description", mark->accessibleDescription(), named);
     }
 
     void checkNote() {
         // A component says nothing below the name of the vector.
         bool const isComponent = row_.nameWidth() == 0;
-        bool const hasNote = row_.parameter()->keepsValuesPerPool() && !isComponent;
-        if (hasNote)
-            expect("note", row_.note(), poolName());
-        else if (!isComponent && !row_.note().isEmpty())
-            add("note \"" + row_.note().toStdString() + "\" about no pool");
+        auto const note = Talo::rowNote(row_.parameter(), row_.pool());
+        if (!isComponent && row_.note() != note)
+            add("note \"" + row_.note().toStdString() + "\", not \"" + note.toStdString() + "\"");
     }
 
     void checkRawValue(bool shown) {
@@ -66,10 +71,13 @@ private:
         if (!isShown)
             return;
         auto const value = row_.parameter()->effectiveValue(row_.pool());
-        auto const text = QString::fromStdString(value->Text());
+        auto const whole = QString::fromStdString(value->Text());
+        auto const text = whole.size() > longestRaw ? whole.left(longestRaw) + QChar(0x2026) : whole;
         if (raw->text() != text)
             add("raw value \"" + raw->text().toStdString() + "\", not \"" + text.toStdString() + "\"");
-        if (raw->accessibleDescription() != text)
+        expect("raw value's name", raw->accessibleName(),
+               Talo::RawValueLabel::tr("Raw value of %1").arg(row_.parameterName()));
+        if (raw->accessibleDescription() != text.left(longestRead))
             add("raw value read as \"" + raw->accessibleDescription().toStdString() + "\"");
         expect("raw value's tool tip", raw->toolTip(), text.toHtmlEscaped());
         expect("stamp", raw->stamp(), QString::number(value->age()));
@@ -94,9 +102,7 @@ private:
             if (control->accessibleName().isEmpty())
                 add(name + " has no accessible name");
             expect("accessible description", control->accessibleDescription(),
-                   QString::fromStdString(object_.Name()) + QLatin1Char('.') + row_.parameterName());
-            if (row_.parameter()->keepsValuesPerPool())
-                expect("accessible description", control->accessibleDescription(), poolName());
+                   Talo::controlDescription(QString::fromStdString(object_.Name()), *row_.parameter(), row_.pool()));
         }
     }
 

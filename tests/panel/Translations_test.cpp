@@ -1,3 +1,4 @@
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
 #include <panel/gallery/Gallery.hpp>
@@ -21,7 +22,7 @@ protected:
     }
 
     /// Starts the panel in a language, with a network that has one file name.
-    void start(char const* language, QString const& plugin = QStringLiteral(TALO_PLUGIN_FILE)) {
+    void start(char const* language, QString const& plugin = QString::fromUtf8(pluginFile)) {
         window.reset();
         plugins.reset();
         translations.reset();
@@ -48,7 +49,7 @@ protected:
     /// The plug-in's file in the folder of the test, without its translations.
     QString copyOfPlugin() const {
         auto const copy = folder.filePath(QStringLiteral("qtalo_inputs.talo"));
-        EXPECT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE), copy));
+        EXPECT_TRUE(QFile::copy(QString::fromUtf8(pluginFile), copy));
         return copy;
     }
 

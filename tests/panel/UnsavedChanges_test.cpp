@@ -49,6 +49,19 @@ TEST_F(UnsavedChangesTest, ClosingWithoutThemAsksNothing) {
     EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(UnsavedChangesTest, TheTitleMarksWhatTheHostWrote) {
+    set("all.int", "99");
+    EXPECT_TRUE(isMarked());
+    set("all.int", "20");
+    EXPECT_TRUE(isUnmarked()) << "the value is that of the file again";
+    set("others.same int", "4");
+    EXPECT_TRUE(isMarked()) << "no row shows it";
+    ASSERT_TRUE(window->saveValues(file()));
+    EXPECT_FALSE(window->isWindowModified());
+    set("others.same int", "5");
+    EXPECT_TRUE(isMarked());
+}
+
 TEST_F(UnsavedChangesTest, WhatTheHostWroteIsNotLostUnasked) {
     set("all.int", "99");
     EXPECT_TRUE(close(QMessageBox::Cancel));

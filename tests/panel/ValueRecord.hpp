@@ -9,8 +9,7 @@
 #include <vector>
 
 /// What each edited value of a network should hold, by a record of its own: an edit that became an undo step changes
-/// it, undo and redo of a step move between what was there before and after, and a write of the host replaces it. So
-/// no value is left out, whoever wrote it.
+/// it, undo and redo of a step move between what was there before and after, and a write of the host replaces it.
 class ValueRecord {
 public:
     /// Begins with what the network holds. Network and history must outlive the record.

@@ -1,6 +1,7 @@
 // What the random walk looks at when it rests: each check finds a fault that is planted, and none at the start.
 
 #include "FractalPanelTest.hpp"
+#include "PreviewCheck.hpp"
 #include "RowCheck.hpp"
 #include "WindowCheck.hpp"
 
@@ -75,7 +76,7 @@ TEST_F(WalkCheckTest, FindsAMarkThatStays) {
 }
 
 TEST_F(WalkCheckTest, FindsAMarkThatNamesAnotherDefault) {
-    row("iterations")->modifiedIndicator()->setDefault(QStringLiteral("7"));
+    row("iterations")->modifiedIndicator()->setDefault(QStringLiteral("iterations"), QStringLiteral("7"));
     expectRowFault("formula.iterations mark's tool tip");
 }
 
@@ -85,7 +86,7 @@ TEST_F(WalkCheckTest, FindsANoteAboutAnotherPool) {
         if (label->text() == row("iterations")->note())
             label->setText(QStringLiteral("in pool other"));
     }
-    expectRowFault("formula.iterations note \"in pool other\" without \"draft\"");
+    expectRowFault("formula.iterations note \"in pool other\", not \"in pool draft\"");
 }
 
 TEST_F(WalkCheckTest, FindsARawValueThatStaysBehind) {
@@ -117,7 +118,7 @@ TEST_F(WalkCheckTest, FindsAControlThatIsReadAsThatOfAnotherPool) {
         ->editor()
         ->findChild<QSlider*>()
         ->setAccessibleDescription(QStringLiteral("formula.iterations, in pool final"));
-    expectRowFault("without \"draft\"");
+    expectRowFault("without \"formula.iterations, type int, in pool draft\"");
 }
 
 TEST_F(WalkCheckTest, FindsRowsThatStandOnEachOther) {
@@ -193,4 +194,14 @@ TEST_F(WalkCheckTest, FindsCommandsForAnotherRowThanThatWithTheFocus) {
     QSignalBlocker const blocker(qApp);
     row("quality")->editor()->findChild<QDial*>()->setFocus();
     EXPECT_THAT(focusFaults(*window), ElementsAre("the focus is in quality, the commands are about iterations"));
+}
+
+TEST_F(WalkCheckTest, FindsAPreviewOfOtherValues) {
+    window->fractalController().previewAction()->trigger();
+    auto const& renderer = window->fractalController().previewRenderer();
+    ASSERT_TRUE(waitUntil([&] { return renderer.isFine() && renderer.isAtRest(); }));
+    EXPECT_EQ(previewFault(*window), "");
+    // Nobody is notified.
+    parameter("formula.iterations")->getLocalValue(window->pools().pool(), std::string(), false)->setValueFromText("3");
+    EXPECT_EQ(previewFault(*window), "the preview is not the picture of the values");
 }

@@ -124,7 +124,7 @@ void WalkHost::resize() {
 }
 
 void WalkHost::changeLook() {
-    auto const kind = dice_.below(3);
+    auto const kind = dice_.below(4);
     dice_.note("look " + std::to_string(kind));
     auto palette = QApplication::palette();
     auto font = QApplication::font();
@@ -137,12 +137,26 @@ void WalkHost::changeLook() {
         font.setPixelSize(8 + static_cast<int>(dice_.below(10)));
         QApplication::setFont(font);
         break;
-    default:
+    case 2:
         QApplication::setLayoutDirection(QApplication::isRightToLeft() ? Qt::LeftToRight : Qt::RightToLeft);
+        break;
+    default:
+        changeLanguage();
     }
 }
 
+void WalkHost::changeLanguage() {
+    if (std::exchange(translations_, nullptr)) {
+        QLocale::setDefault(locale_);
+        return;
+    }
+    QLocale::setDefault(QLocale(dice_.below(2) == 0 ? QLocale::German : QLocale::French));
+    translations_ = std::make_unique<Panel::Translations>();
+}
+
 void WalkHost::restoreLook() {
+    if (translations_)
+        changeLanguage();
     QApplication::setPalette(palette_);
     QApplication::setFont(font_);
     QApplication::setLayoutDirection(Qt::LeftToRight);

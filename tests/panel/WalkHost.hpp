@@ -4,8 +4,11 @@
 
 #include <functional>
 #include <map>
+#include <memory>
+#include <panel/Translations.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <QFont>
+#include <QLocale>
 #include <QPalette>
 #include <vector>
 
@@ -41,6 +44,7 @@ private:
     void closeView();
     void resize();
     void changeLook();
+    void changeLanguage();
     void wait();
 
     Panel::MainWindow& window_;
@@ -51,4 +55,7 @@ private:
     std::map<QString, std::vector<std::string>> texts_;
     QPalette const palette_;
     QFont const font_;
+    QLocale const locale_;
+    // While the language is another one.
+    std::unique_ptr<Panel::Translations> translations_;
 };

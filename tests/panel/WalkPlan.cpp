@@ -70,6 +70,7 @@ std::vector<WalkPlan> walkPlans(int acts, QString const& folder) {
     } else {
         for (unsigned fixed : {1U, 2U, 3U})
             plans.push_back(planOfSeed("seed" + std::to_string(fixed), fixed, count, logs));
+        plans.push_back(planOfSeed("seedOfTheDay", seedOfToday(), count, logs));
         plans.push_back(planOfLargeNetwork(4, count / shareOfLargeNetwork, logs));
     }
     for (auto& plan : plans)

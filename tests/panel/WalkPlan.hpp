@@ -27,8 +27,8 @@ inline std::ostream& operator<<(std::ostream& stream, WalkPlan const& plan) {
     return stream << "walk " << plan.name;
 }
 
-/// The walks of three seeds, with so many acts each, on a display fewer, and a shorter one
-/// in a large network. A log whose name has "large" in it is of such a walk. Or what the
-/// environment asks for instead: TALO_WALK_SHORTEN, TALO_WALK_REPLAY, TALO_WALK_SEED, TALO_WALK_MINUTES,
-/// TALO_WALK_EVENTS. Logs are made in `folder`, or in TALO_WALK_LOGS, where they stay.
+/// The walks of three seeds and of the seed of the day, with so many acts each, on a display fewer, and a shorter one
+/// in a large network. A log whose name has "large" in it is of such a walk. Or what the environment asks for instead:
+/// TALO_WALK_SHORTEN, TALO_WALK_REPLAY, TALO_WALK_SEED, TALO_WALK_MINUTES, TALO_WALK_EVENTS. Logs are made in `folder`,
+/// or in TALO_WALK_LOGS, where they stay.
 std::vector<WalkPlan> walkPlans(int acts, QString const& folder);

@@ -234,6 +234,10 @@ void WalkUser::pressKey() {
         sendKey({Qt::Key_unknown, {}}, typed);
         return;
     }
+    if (kind == 2) {
+        compose();
+        return;
+    }
     auto const& stroke = kind == 0 ? dice_.oneOf(rareStrokes()) : dice_.oneOf(strokes());
     dice_.note("key " + QKeySequence(stroke.key | static_cast<int>(stroke.modifiers)).toString().toStdString());
     if (stroke.key == Qt::Key_N && window_.findChildren<Panel::ObjectView*>().size() >= mostViews)
@@ -244,6 +248,22 @@ void WalkUser::pressKey() {
     if (stroke.modifiers == Qt::ShiftModifier)
         text = text.toUpper();
     sendKey(stroke, text);
+}
+
+void WalkUser::compose() {
+    bool const isEntered = dice_.below(3) != 0;
+    dice_.note(isEntered ? "compose" : "begin to compose");
+    sendKey({Qt::Key_Dead_Acute, {}}, {});
+    QPointer<QWidget> const field = QApplication::focusWidget();
+    if (!field || !field->inputMethodQuery(Qt::ImEnabled).toBool())
+        return;
+    QInputMethodEvent begun(QStringLiteral(u"\u00b4"), {});
+    QCoreApplication::sendEvent(field, &begun);
+    QInputMethodEvent ended;
+    if (isEntered)
+        ended.setCommitString(QStringLiteral(u"\u00e9"));
+    if (field)
+        QCoreApplication::sendEvent(field, &ended);
 }
 
 void WalkUser::sendKey(Stroke const& stroke, QString const& text) {

@@ -35,6 +35,8 @@ private:
     void turnWheel();
     void drop();
     void pressKey();
+    /// Composes a letter, as a dead key or an input method does, and enters it or gives it up.
+    void compose();
     void sendKey(Stroke const& stroke, QString const& text);
     QPoint placeIn(QWidget& widget);
 

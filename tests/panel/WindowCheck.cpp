@@ -106,7 +106,8 @@ std::vector<std::string> windowFaults(Panel::MainWindow& window) {
 std::vector<std::string> focusFaults(Panel::MainWindow& window) {
     Faults all;
     auto* const focus = QApplication::focusWidget();
-    if (!focus || QApplication::activePopupWidget())
+    // Of a window that was just closed Qt knows the focus until the window system answers.
+    if (!focus || QApplication::activePopupWidget() || !focus->window()->isVisible())
         return all;
     if (!focus->isVisible() || !focus->isEnabled())
         all.push_back(std::string("the focus is in a ") + focus->metaObject()->className() + " that cannot be used");

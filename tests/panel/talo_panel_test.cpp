@@ -1,3 +1,4 @@
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
 #include <map>
@@ -263,7 +264,7 @@ TEST_F(TaloPanel, FindsWhatIsInstalledWithIt) {
     ASSERT_TRUE(QDir(folder.path()).mkpath(QStringLiteral(TALO_INSTALLED_DATA "/examples/networks")));
     auto const program = folder.filePath(QStringLiteral("bin/talo_panel"));
     ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PANEL), program));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE),
+    ASSERT_TRUE(QFile::copy(QString::fromUtf8(pluginFile),
                             folder.filePath(QStringLiteral(TALO_INSTALLED_PLUGINS "/qtalo_inputs.talo"))));
     ASSERT_TRUE(
         QFile::copy(fractal, folder.filePath(QStringLiteral(TALO_INSTALLED_DATA "/examples/networks/fractal.json"))));
@@ -275,7 +276,7 @@ TEST_F(TaloPanel, FindsWhatIsInstalledWithIt) {
 
 TEST_F(TaloPanel, LoadsTheNamedPluginInsteadOfItsOwn) {
     auto const copy = folder.filePath(QStringLiteral("qtalo_inputs.talo"));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_PLUGIN_FILE), copy));
+    ASSERT_TRUE(QFile::copy(QString::fromUtf8(pluginFile), copy));
     ASSERT_EQ(run({QStringLiteral("--only-plugin"), copy, QStringLiteral("--list-creators")}), 0) << qPrintable(errors);
     EXPECT_THAT(output.toStdString(), HasSubstr("bool\tboolean\tQT\n"));
     // Once: the program's own plug-in is not loaded as well.
