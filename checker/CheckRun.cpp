@@ -37,11 +37,11 @@ bool readFindings(QFile& file, CheckResult& result) {
 }
 
 QStringList linesOf(QByteArray const& output) {
-    auto const printed = QString::fromUtf8(output).split('\n', Qt::SkipEmptyParts);
+    auto const printed = QString::fromUtf8(output).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QStringList lines;
     for (auto const& line : printed)
         // These two come from Qt's platform without a display.
-        if (!line.contains("propagateSizeHints") && !line.contains("XDG_RUNTIME_DIR"))
+        if (!line.contains(QStringLiteral("propagateSizeHints")) && !line.contains(QStringLiteral("XDG_RUNTIME_DIR")))
             lines << line;
     return lines;
 }
@@ -87,8 +87,9 @@ CheckResult runInChild(Check const& check, Subject const& subject, int secondsAt
     QProcess child;
     child.setProcessChannelMode(QProcess::MergedChannels);
     child.start(QCoreApplication::applicationFilePath(),
-                {"--run", result.name, "--findings", findings.fileName(), "--seed", QString::number(subject.seed),
-                 "--events", QString::number(subject.events), "--", QFile::decodeName(subject.file.c_str())});
+                {QStringLiteral("--run"), result.name, QStringLiteral("--findings"), findings.fileName(),
+                 QStringLiteral("--seed"), QString::number(subject.seed), QStringLiteral("--events"),
+                 QString::number(subject.events), QStringLiteral("--"), QFile::decodeName(subject.file.c_str())});
     bool const inTime = child.waitForFinished(secondsAtMost * 1000);
     if (!inTime) {
         child.kill();

@@ -14,28 +14,44 @@ public:
     Options() {
         for (auto* const option : {&run, &findings})
             option->setFlags(QCommandLineOption::HiddenFromHelp);
-        parser.setApplicationDescription(
+        parser.setApplicationDescription(QStringLiteral(
             "Checks a plug-in file: whether it loads and unloads, and whether its editors do what hosts rely on.\n"
-            "Status 0 if all checks pass, 1 if one fails, 2 if the command line is wrong.");
+            "Status 0 if all checks pass, 1 if one fails, 2 if the command line is wrong."));
         parser.addOptions(
             {help, version, level, only, seed, seconds, format, output, quick, list, events, run, findings});
-        parser.addPositionalArgument("FILE.talo", "The plug-in file to check.");
+        parser.addPositionalArgument(QStringLiteral("FILE.talo"), QStringLiteral("The plug-in file to check."));
     }
 
-    QCommandLineOption const help{{"h", "help"}, "Prints this help and ends."};
-    QCommandLineOption const version{{"v", "version"}, "Prints the version and ends."};
-    QCommandLineOption const level{"level", "Makes the checks up to this level, from 1 to 10, which is the default.",
-                                   "N"};
-    QCommandLineOption const only{"only", "Makes only this check; --list names all.", "CHECK"};
-    QCommandLineOption const seed{"seed", "Draws the random events from this number, to replay a report.", "NUMBER"};
-    QCommandLineOption const events{"events", "How many random events each editor gets; 200 by default.", "NUMBER"};
-    QCommandLineOption const seconds{"seconds", "The time limit of each check; 60 by default.", "SECONDS"};
-    QCommandLineOption const format{"format", "How the report is written; text by default.", "text|json|junit"};
-    QCommandLineOption const output{"output", "Writes the report into this file.", "FILE"};
-    QCommandLineOption const quick{"quick", "Only loads and unloads the file, in this very process."};
-    QCommandLineOption const list{"list", "Prints the checks and ends."};
-    QCommandLineOption run{"run", "Makes one check in this process.", "CHECK"};
-    QCommandLineOption findings{"findings", "The file for what that check finds.", "FILE"};
+    QCommandLineOption const help{{QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Prints this help and ends.")};
+    QCommandLineOption const version{{QStringLiteral("v"), QStringLiteral("version")},
+                                     QStringLiteral("Prints the version and ends.")};
+    QCommandLineOption const level{
+        QStringLiteral("level"),
+        QStringLiteral("Makes the checks up to this level, from 1 to 10, which is the default."), QStringLiteral("N")};
+    QCommandLineOption const only{QStringLiteral("only"), QStringLiteral("Makes only this check; --list names all."),
+                                  QStringLiteral("CHECK")};
+    QCommandLineOption const seed{QStringLiteral("seed"),
+                                  QStringLiteral("Draws the random events from this number, to replay a report."),
+                                  QStringLiteral("NUMBER")};
+    QCommandLineOption const events{QStringLiteral("events"),
+                                    QStringLiteral("How many random events each editor gets; 200 by default."),
+                                    QStringLiteral("NUMBER")};
+    QCommandLineOption const seconds{QStringLiteral("seconds"),
+                                     QStringLiteral("The time limit of each check; 60 by default."),
+                                     QStringLiteral("SECONDS")};
+    QCommandLineOption const format{QStringLiteral("format"),
+                                    QStringLiteral("How the report is written; text by default."),
+                                    QStringLiteral("text|json|junit")};
+    QCommandLineOption const output{QStringLiteral("output"), QStringLiteral("Writes the report into this file."),
+                                    QStringLiteral("FILE")};
+    QCommandLineOption const quick{QStringLiteral("quick"),
+                                   QStringLiteral("Only loads and unloads the file, in this very process.")};
+    QCommandLineOption const list{QStringLiteral("list"), QStringLiteral("Prints the checks and ends.")};
+    QCommandLineOption run{QStringLiteral("run"), QStringLiteral("Makes one check in this process."),
+                           QStringLiteral("CHECK")};
+    QCommandLineOption findings{QStringLiteral("findings"), QStringLiteral("The file for what that check finds."),
+                                QStringLiteral("FILE")};
     QCommandLineParser parser;
 };
 
@@ -60,12 +76,12 @@ int numberOf(QCommandLineParser const& parser, QCommandLineOption const& option,
 }
 
 void readFormat(QString const& name, CommandLine& line) {
-    if (name == "json")
+    if (name == QStringLiteral("json"))
         line.format = CommandLine::Format::Json;
-    else if (name == "junit")
+    else if (name == QStringLiteral("junit"))
         line.format = CommandLine::Format::JUnit;
-    else if (!name.isEmpty() && name != "text")
-        line.error = "--format is text, json or junit.";
+    else if (!name.isEmpty() && name != QStringLiteral("text"))
+        line.error = QStringLiteral("--format is text, json or junit.");
 }
 
 } // namespace
@@ -87,7 +103,7 @@ CommandLine readCommandLine(QStringList const& arguments) {
         return line;
     auto const files = parser.positionalArguments();
     if (files.size() != 1)
-        line.error = "One plug-in file is needed.";
+        line.error = QStringLiteral("One plug-in file is needed.");
     else
         line.subject.file = QFile::encodeName(files.constFirst()).toStdString();
     constexpr int large = 1000000000;
@@ -99,7 +115,7 @@ CommandLine readCommandLine(QStringList const& arguments) {
     readFormat(parser.value(options.format), line);
     line.only = parser.value(options.only);
     if (!line.only.isEmpty() && !findCheck(line.only.toStdString()))
-        line.error = "There is no check of this name; --list names all.";
+        line.error = QStringLiteral("There is no check of this name; --list names all.");
     line.output = parser.value(options.output);
     line.quick = parser.isSet(options.quick);
     line.run = parser.value(options.run);

@@ -70,16 +70,16 @@ void perform(Gesture const& gesture, QWidget& editor) {
 
 std::vector<Gesture> gesturesFor(QWidget& editor) {
     std::vector<Gesture> const kinds = {
-        {0, "the Up key", key(Qt::Key_Up)},
-        {0, "the Down key", key(Qt::Key_Down)},
-        {0, "the space bar", key(Qt::Key_Space)},
-        {0, "typing", key(Qt::Key_5)},
-        {0, "typing and leaving", typeAndLeave},
-        {0, "typing and Return", typeAndReturn},
-        {0, "the wheel", [](QWidget& widget) { turnWheel(widget, 1); }},
-        {0, "a click", [](QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }},
-        {0, "the Right key", key(Qt::Key_Right)}};
-    std::vector<Gesture> all{{0, "another choice", chooseAnother}};
+        {0, QStringLiteral("the Up key"), key(Qt::Key_Up)},
+        {0, QStringLiteral("the Down key"), key(Qt::Key_Down)},
+        {0, QStringLiteral("the space bar"), key(Qt::Key_Space)},
+        {0, QStringLiteral("typing"), key(Qt::Key_5)},
+        {0, QStringLiteral("typing and leaving"), typeAndLeave},
+        {0, QStringLiteral("typing and Return"), typeAndReturn},
+        {0, QStringLiteral("the wheel"), [](QWidget& widget) { turnWheel(widget, 1); }},
+        {0, QStringLiteral("a click"), [](QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }},
+        {0, QStringLiteral("the Right key"), key(Qt::Key_Right)}};
+    std::vector<Gesture> all{{0, QStringLiteral("another choice"), chooseAnother}};
     int const count = static_cast<int>(workable(editor).size());
     for (auto const& kind : kinds)
         for (int widget = count - 1; widget >= 0; --widget)

@@ -14,16 +14,16 @@ bool Report::passed() const {
 
 QByteArray textOf(CheckResult const& result) {
     auto text = QStringLiteral("%1  level %2  %3\n")
-                    .arg(result.passed() ? "passed" : "FAILED")
+                    .arg(result.passed() ? QStringLiteral("passed") : QStringLiteral("FAILED"))
                     .arg(result.level, 2)
                     .arg(result.name);
     for (auto const& fault : result.faults)
-        text += "        " + fault + '\n';
+        text += QStringLiteral("        ") + fault + QLatin1Char('\n');
     for (auto const& note : result.notes)
-        text += "        note: " + note + '\n';
+        text += QStringLiteral("        note: ") + note + QLatin1Char('\n');
     if (!result.passed())
         for (auto const& line : result.output)
-            text += "        printed: " + line + '\n';
+            text += QStringLiteral("        printed: ") + line + QLatin1Char('\n');
     return text.toUtf8();
 }
 
@@ -44,15 +44,17 @@ QByteArray Report::asText() const {
 QByteArray Report::asJson() const {
     QJsonArray checks;
     for (auto const& result : results)
-        checks.append(QJsonObject{{"name", result.name},
-                                  {"level", result.level},
-                                  {"passed", result.passed()},
-                                  {"seconds", result.seconds},
-                                  {"faults", QJsonArray::fromStringList(result.faults)},
-                                  {"notes", QJsonArray::fromStringList(result.notes)},
-                                  {"output", QJsonArray::fromStringList(result.output)}});
-    QJsonObject const report{
-        {"file", file}, {"seed", static_cast<double>(seed)}, {"passed", passed()}, {"checks", checks}};
+        checks.append(QJsonObject{{QStringLiteral("name"), result.name},
+                                  {QStringLiteral("level"), result.level},
+                                  {QStringLiteral("passed"), result.passed()},
+                                  {QStringLiteral("seconds"), result.seconds},
+                                  {QStringLiteral("faults"), QJsonArray::fromStringList(result.faults)},
+                                  {QStringLiteral("notes"), QJsonArray::fromStringList(result.notes)},
+                                  {QStringLiteral("output"), QJsonArray::fromStringList(result.output)}});
+    QJsonObject const report{{QStringLiteral("file"), file},
+                             {QStringLiteral("seed"), static_cast<double>(seed)},
+                             {QStringLiteral("passed"), passed()},
+                             {QStringLiteral("checks"), checks}};
     return QJsonDocument(report).toJson();
 }
 
@@ -61,24 +63,24 @@ QByteArray Report::asJUnit() const {
     QXmlStreamWriter writer(&xml);
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
-    writer.writeStartElement("testsuite");
-    writer.writeAttribute("name", file);
-    writer.writeAttribute("tests", QString::number(results.size()));
+    writer.writeStartElement(QStringLiteral("testsuite"));
+    writer.writeAttribute(QStringLiteral("name"), file);
+    writer.writeAttribute(QStringLiteral("tests"), QString::number(results.size()));
     auto const failed = std::count_if(results.begin(), results.end(), [](auto const& each) { return !each.passed(); });
-    writer.writeAttribute("failures", QString::number(failed));
+    writer.writeAttribute(QStringLiteral("failures"), QString::number(failed));
     for (auto const& result : results) {
-        writer.writeStartElement("testcase");
-        writer.writeAttribute("classname", QStringLiteral("level %1").arg(result.level));
-        writer.writeAttribute("name", result.name);
-        writer.writeAttribute("time", QString::number(result.seconds));
+        writer.writeStartElement(QStringLiteral("testcase"));
+        writer.writeAttribute(QStringLiteral("classname"), QStringLiteral("level %1").arg(result.level));
+        writer.writeAttribute(QStringLiteral("name"), result.name);
+        writer.writeAttribute(QStringLiteral("time"), QString::number(result.seconds));
         if (!result.passed()) {
-            writer.writeStartElement("failure");
-            writer.writeAttribute("message", result.faults.first());
-            writer.writeCharacters(result.faults.join('\n'));
+            writer.writeStartElement(QStringLiteral("failure"));
+            writer.writeAttribute(QStringLiteral("message"), result.faults.first());
+            writer.writeCharacters(result.faults.join(QLatin1Char('\n')));
             writer.writeEndElement();
         }
         if (!result.output.isEmpty())
-            writer.writeTextElement("system-out", result.output.join('\n'));
+            writer.writeTextElement(QStringLiteral("system-out"), result.output.join(QLatin1Char('\n')));
         writer.writeEndElement();
     }
     writer.writeEndElement();

@@ -64,10 +64,11 @@ void addResidueChecks(std::vector<Check>& checks) {
     checks.push_back({7, "left.threads", "No thread is left.", unchanged("the number of threads", threadCount)});
     checks.push_back({7, "left.locale", "The locale is not changed.", unchanged("the locale", locales)});
     checks.push_back({7, "output", "What its editors print is noted.", onlyWork, Check::Output::Noted});
-    checks.push_back({7, "left.style", "Style, palette and font of the program are not changed.",
-                      unchanged("the style sheet and font", [] {
-                          return (qApp->styleSheet() + ' ' + QApplication::font().toString()).toStdString();
-                      })});
+    checks.push_back(
+        {7, "left.style", "Style, palette and font of the program are not changed.",
+         unchanged("the style sheet and font", [] {
+             return (qApp->styleSheet() + QLatin1Char(' ') + QApplication::font().toString()).toStdString();
+         })});
 }
 
 } // namespace Checker

@@ -23,10 +23,11 @@ QString textOfItems(QAbstractItemView const& view) {
     for (int row = 0; model && row < model->rowCount(view.rootIndex()); ++row) {
         auto const index = model->index(row, 0, view.rootIndex());
         auto const* const selection = view.selectionModel();
-        items << index.data().toString() + (selection && selection->isSelected(index) ? " *" : "") +
+        items << index.data().toString() +
+                     (selection && selection->isSelected(index) ? QStringLiteral(" *") : QString()) +
                      index.data(Qt::CheckStateRole).toString();
     }
-    return items.join('|');
+    return items.join(QLatin1Char('|'));
 }
 
 QString pictureOf(QWidget& widget) {
@@ -42,13 +43,13 @@ QString coloursOf(QWidget const& widget) {
     QStringList colours{widget.styleSheet()};
     for (auto const role : {QPalette::Window, QPalette::WindowText, QPalette::Base, QPalette::Text, QPalette::Button})
         colours << widget.palette().color(role).name(QColor::HexArgb);
-    return colours.join(' ');
+    return colours.join(QLatin1Char(' '));
 }
 
 /// What one widget says itself; empty for one that only holds others.
 QString saidByItself(QWidget& widget) {
     if (auto const* const button = qobject_cast<QAbstractButton*>(&widget))
-        return button->isChecked() ? button->text() + " *" : button->text();
+        return button->isChecked() ? button->text() + QStringLiteral(" *") : button->text();
     if (auto const* const box = qobject_cast<QComboBox*>(&widget))
         return box->currentText();
     if (auto const* const view = qobject_cast<QAbstractItemView*>(&widget))
@@ -81,12 +82,12 @@ std::string shownState(QWidget& editor) {
         auto const shown = saidByItself(*widget) + coloursOf(*widget);
         saysSomething = saysSomething || !shown.isEmpty();
         if (!shown.isEmpty())
-            state << widget->metaObject()->className() + QStringLiteral(": ") + shown;
+            state << QLatin1String(widget->metaObject()->className()) + QStringLiteral(": ") + shown;
     }
     // What paints its value says nothing of it.
     if (!saysSomething)
-        state << "picture: " + pictureOf(editor);
-    return state.join("; ").toStdString();
+        state << QStringLiteral("picture: ") + pictureOf(editor);
+    return state.join(QStringLiteral("; ")).toStdString();
 }
 
 } // namespace Checker
