@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSplitter>
 
 namespace {
 
@@ -53,7 +54,10 @@ public:
     void open(QSize const& size) override {
         window_ = std::make_unique<QMainWindow>();
         form_ = new BareForm(values_, history_);
-        window_->setCentralWidget(form_);
+        secondForm_ = nullptr;
+        views_ = new QSplitter;
+        views_->addWidget(form_);
+        window_->setCentralWidget(views_);
         window_->menuBar()->addMenu(QStringLiteral("Edit"))->addAction(history_.makeAction(window_.get()));
         window_->resize(size);
         window_->show();
@@ -70,19 +74,39 @@ public:
     void change(int number, int n) override {
         values_[static_cast<std::size_t>(number)].n = n;
         form_->showValue(number);
+        if (secondForm_)
+            secondForm_->showValue(number);
     }
     void changeNumbers(double number) override {
         for (auto& each : numbers_)
             each.number = number;
     }
     void filter(QString const& text) override { form_->filter(text); }
+    void rememberDefaults() override {
+        for (int number = 0; number < static_cast<int>(values_.size()); ++number) {
+            values_[static_cast<std::size_t>(number)].defaultN = values_[static_cast<std::size_t>(number)].n;
+            form_->showDot(number);
+        }
+    }
+    void showRawValues() override { form_->showRawValues(); }
+    void openSecondView() override {
+        secondForm_ = new BareForm(values_, history_);
+        views_->addWidget(secondForm_);
+        QCoreApplication::processEvents();
+    }
+    void switchPool(int n) override {
+        for (int number = 0; number < static_cast<int>(values_.size()); ++number)
+            change(number, n);
+    }
 
 private:
     std::vector<BareValue> values_;
     std::vector<BareValue> numbers_;
     BareHistory history_;
     std::unique_ptr<QMainWindow> window_;
+    QSplitter* views_ = nullptr;
     BareForm* form_ = nullptr;
+    BareForm* secondForm_ = nullptr;
 };
 
 } // namespace
@@ -122,12 +146,27 @@ void BareForm::showValue(int number) {
     if (row == rows_.end())
         return;
     row->second.editor->change(values_[static_cast<std::size_t>(number)].n);
+    showRawValue(row->second, number);
     showDot(number);
+}
+
+void BareForm::showRawValues() {
+    for (auto& [number, row] : rows_) {
+        row.rawValue = new QLabel;
+        row.widget->layout()->addWidget(row.rawValue);
+        showRawValue(row, number);
+    }
+}
+
+void BareForm::showRawValue(Row const& row, int number) const {
+    if (row.rawValue)
+        row.rawValue->setText(QStringLiteral("value %1").arg(values_[static_cast<std::size_t>(number)].n));
 }
 
 void BareForm::showDot(int number) {
     auto const& value = values_[static_cast<std::size_t>(number)];
-    rows_.at(number).dot->setVisible(value.n != value.defaultN);
+    if (auto const row = rows_.find(number); row != rows_.end())
+        row->second.dot->setVisible(value.n != value.defaultN);
 }
 
 void BareForm::filter(QString const& text) {

@@ -51,6 +51,10 @@ public:
     QWidget* editor(int number) const;
     /// Shows a value that the program changed.
     void showValue(int number);
+    /// Shows the mark of a value, if it is not the default.
+    void showDot(int number);
+    /// Shows the stored value beside each editor that there is.
+    void showRawValues();
     /// Shows only values whose name contains a text.
     void filter(QString const& text);
 
@@ -64,13 +68,15 @@ private:
         QWidget* widget = nullptr;
         QLabel* dot = nullptr;
         BareEditor* editor = nullptr;
+        // Null until it is shown.
+        QLabel* rawValue = nullptr;
     };
 
     void placeRows();
     void makeVisibleRows();
     void drop(std::map<int, Row>::iterator row);
     Row makeRow(int number);
-    void showDot(int number);
+    void showRawValue(Row const& row, int number) const;
 
     std::vector<BareValue>& values_;
     BareHistory& history_;

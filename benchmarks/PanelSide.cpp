@@ -10,17 +10,16 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSplitter>
 
 namespace {
 
 class ProjectSide : public PanelSide {
 public:
-    ProjectSide(Kinds const& kinds, int count, int numbers) : kinds_(kinds) {
-        pools_.setPool(Kolt::PoolPtr(new Kolt::ValuePool("pool")));
-        for (int number = 0; number < count; ++number) {
-            auto const parameter = caseOf(number).makeParameter();
-            add(*object_, parameter);
-        }
+    ProjectSide(Kinds const& kinds, int count, int numbers, bool perPool) : kinds_(kinds) {
+        pools_.setPool(firstPool_);
+        for (int number = 0; number < count; ++number)
+            add(*object_, perPool ? makeWithPools(caseOf(number)) : caseOf(number).makeParameter());
         for (int number = 0; number < numbers; ++number)
             add(*simulation_, Kolt::ParameterPtr(new Kolt::VParameter(std::to_string(number), Kolt::makeValue(0.0))));
     }
@@ -29,7 +28,9 @@ public:
     void open(QSize const& size) override {
         window_ = std::make_unique<QMainWindow>();
         view_ = new Panel::ObjectView({object_}, QString(), pools_);
-        window_->setCentralWidget(view_);
+        views_ = new QSplitter;
+        views_->addWidget(view_);
+        window_->setCentralWidget(views_);
         auto* const menu = window_->menuBar()->addMenu(QStringLiteral("Edit"));
         using Command = Talo::ParameterPanel::Command;
         menu->addActions({view_->panel()->action(Command::Undo), view_->panel()->action(Command::Redo)});
@@ -54,8 +55,35 @@ public:
                 qFatal("The benchmark cannot write the value.");
     }
     void filter(QString const& text) override { view_->panel()->setFilter(text); }
+    void rememberDefaults() override {
+        for (auto const& parameter : object_->parameters())
+            parameter->rememberDefaults();
+        view_->panel()->rowArea()->showDefaults();
+    }
+    void showRawValues() override { view_->panel()->setRawValuesShown(true); }
+    void openSecondView() override {
+        views_->addWidget(new Panel::ObjectView({object_}, QString(), pools_));
+        QCoreApplication::processEvents();
+    }
+    void switchPool(int n) override {
+        pools_.setPool(n == 0 ? firstPool_ : secondPool_);
+        view_->panel()->showPool();
+    }
 
 private:
+    Kolt::ParameterPtr makeWithPools(BenchmarkCase const& benchmarkCase) const {
+        auto const first = benchmarkCase.makeParameter();
+        auto const second = benchmarkCase.makeParameter();
+        benchmarkCase.change(*second, 1);
+        Kolt::ParameterPtr const parameter(
+            new Kolt::VParameter(first->Name(), first->ownValue(), Kolt::VParameter::Values::PerPool));
+        if (auto const* const properties = first->properties())
+            for (auto const& [name, value] : *properties)
+                parameter->setProperty(name, value, nullptr, nullptr, nullptr);
+        parameter->setCreationPreferences(first->creationPreferences());
+        parameter->setLocalValue(secondPool_, second->ownValue());
+        return parameter;
+    }
     BenchmarkCase const& caseOf(int number) const {
         return benchmarkCases().at(static_cast<std::size_t>(kinds_[static_cast<std::size_t>(number) % kinds_.size()]));
     }
@@ -66,11 +94,14 @@ private:
     }
 
     Kinds const kinds_;
+    Kolt::PoolPtr const firstPool_{new Kolt::ValuePool("first")};
+    Kolt::PoolPtr const secondPool_{new Kolt::ValuePool("second")};
     Kolt::UndoHistory history_;
     Talo::PoolSource pools_;
     Kolt::ObjectPtr const object_{new Kolt::VObject("object")};
     Kolt::ObjectPtr const simulation_{new Kolt::VObject("simulation")};
     std::unique_ptr<QMainWindow> window_;
+    QSplitter* views_ = nullptr;
     Panel::ObjectView* view_ = nullptr;
 };
 
@@ -96,5 +127,9 @@ Kinds kindsNamed(std::vector<std::string> const& names) {
 }
 
 std::unique_ptr<PanelSide> makePanelSide(Kinds const& kinds, int count, int numbers) {
-    return std::make_unique<ProjectSide>(kinds, count, numbers);
+    return std::make_unique<ProjectSide>(kinds, count, numbers, false);
+}
+
+std::unique_ptr<PanelSide> makePoolSide(Kinds const& kinds, int count, int numbers) {
+    return std::make_unique<ProjectSide>(kinds, count, numbers, true);
 }

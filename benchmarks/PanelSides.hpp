@@ -34,9 +34,19 @@ public:
     virtual void changeNumbers(double number) = 0;
     /// Shows only values whose name contains a text.
     virtual void filter(QString const& text) = 0;
+    /// What the values are now are their defaults from now on, so that no row has a mark.
+    virtual void rememberDefaults() = 0;
+    /// Shows the stored value beside each editor from now on.
+    virtual void showRawValues() = 0;
+    /// Shows the values once more in the same window.
+    virtual void openSecondView() = 0;
+    /// Shows the values of the n-th pool, 0 or 1, in which each value is what its kind calls the n-th.
+    virtual void switchPool(int n) = 0;
 };
 
 /// The panel, with `count` parameters, and with `numbers` more in an object that is not shown.
 std::unique_ptr<PanelSide> makePanelSide(Kinds const& kinds, int count, int numbers = 0);
+/// The same, where each parameter has a value for each of two pools.
+std::unique_ptr<PanelSide> makePoolSide(Kinds const& kinds, int count, int numbers = 0);
 /// The same in bare Qt, made as late as the panel makes it.
 std::unique_ptr<PanelSide> makeBareSide(Kinds const& kinds, int count, int numbers = 0);

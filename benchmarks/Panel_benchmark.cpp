@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <lattice/UndoHistory.hpp>
 #include <malloc.h>
 #include <QAbstractSlider>
 #include <QApplication>
@@ -232,8 +233,87 @@ Measurement filterMany(MakeSide make) {
     };
 }
 
+/// The marks of all rows go, because what the values are becomes their default.
+Measurement hideMarks(MakeSide make) {
+    auto const side = openAllKinds(make);
+    return [side, n = 0]() mutable {
+        n = 1 - n;
+        for (int row = 0; row < side->rowCount(); ++row)
+            side->change(row, n);
+        // Some changes lay out a row only after others did.
+        for (int round = 0; round < 5; ++round)
+            QCoreApplication::processEvents();
+        return timeOf([&] {
+            side->rememberDefaults();
+            QCoreApplication::processEvents();
+        });
+    };
+}
+
+/// The program changes a value that is shown by its editor and as it is stored.
+Measurement changeWithRawValue(MakeSide make) {
+    auto const side = openAllKinds(make);
+    side->showRawValues();
+    QCoreApplication::processEvents();
+    int const row = kindsNamed({"double"}).front();
+    return repeated([side, row](int n) { side->change(row, n); });
+}
+
+/// The program changes a value that two views of one window show.
+Measurement changeInTwoViews(MakeSide make) {
+    auto const side = openAllKinds(make);
+    side->openSecondView();
+    int const row = kindsNamed({"double"}).front();
+    return repeated([side, row](int n) { side->change(row, n); });
+}
+
+/// A person goes to another pool, in which each value of a form is another one.
+Measurement switchPools(MakeSide make) {
+    auto const side = openAllKinds(make);
+    return [side, n = 0]() mutable {
+        n = 1 - n;
+        return timeOf([&] {
+            side->switchPool(n);
+            QCoreApplication::processEvents();
+        });
+    };
+}
+
+/// What an undo step keeps of the heap, in kilobytes.
+Measurement heapOfStep(BenchmarkCase const& benchmarkCase) {
+    return [&benchmarkCase] {
+        constexpr int steps = 100;
+        Kolt::UndoHistory history;
+        auto const parameter = benchmarkCase.makeParameter();
+        auto const other = benchmarkCase.makeParameter();
+        benchmarkCase.change(*other, 1);
+        auto const first = parameter->ownValue()->clone();
+        auto const before = heapInUse();
+        for (int step = 0; step < steps; ++step)
+            if (!history.store(parameter, nullptr, {step % 2 == 0 ? other->ownValue() : first, false}))
+                qFatal("The benchmark cannot write the value.");
+        if (history.steps().size() != steps)
+            qFatal("An edit is no step.");
+        return (heapInUse() - before) / steps / 1024;
+    };
+}
+
+/// A job for each kind of value that people edit.
+void addStepJobs(std::vector<Job>& jobs) {
+    // A selection has four entries; of a longer one a step keeps hardly more.
+    constexpr double kilobytes = 1.5;
+    for (auto const& each : benchmarkCases()) {
+        auto const name = "undo step, " + each.name;
+        bool const isKnown =
+            std::any_of(jobs.begin(), jobs.end(), [&name](auto const& job) { return job.name == name; });
+        // An action is not changed by its case, but its tool tip.
+        if (!isKnown && each.edit && each.name != "action" && each.makeParameter()->isEdited())
+            jobs.push_back({name, kilobytes, [&each] { return heapOfStep(each); }, {}, "KB", 3});
+    }
+}
+
 std::vector<Job> jobs() {
-    return {
+    std::vector<Job> all{
         change("boolean", 1.1),
         change("int", 1.1),
         change("double", 1.1),
@@ -259,7 +339,17 @@ std::vector<Job> jobs() {
         {"scroll-bar drag over 10,000 rows, rows", 80, [] { return dragScrollBar(true); }, {}, "", 3},
         {"Tab over 2,000 rows without focus", 20, tabOverDisplays, {}, "ms", 3},
         {"filter 10,000 rows and back", 50, [] { return filterMany(makePanelSide); }, {}, "ms", 5},
+        compare("default marks of 23 rows go", 1.5, hideMarks),
+        compare("host change and repaint, raw value shown", 1.3, changeWithRawValue),
+        compare("host change and repaint, two views", 1.1, changeInTwoViews),
+        {"pool switch, 23 rows",
+         1.5,
+         [] { return switchPools(makePoolSide); },
+         [] { return switchPools(makeBareSide); },
+         {}},
     };
+    addStepJobs(all);
+    return all;
 }
 
 } // namespace

@@ -66,7 +66,7 @@ void reportIdle(ScaleReport& report) {
     Panel::Plugins plugins;
     Panel::MainWindow window(plugins);
     window.show();
-    window.openNetwork(written(folder, "text.json", textJson("text")));
+    window.openNetwork(written(folder, QStringLiteral("text.json"), textJson("text")));
     auto const wait = [](int milliseconds) {
         QEventLoop loop;
         QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);

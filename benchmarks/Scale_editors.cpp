@@ -4,6 +4,7 @@
 
 #include <bramble/MultipleStringSelection.hpp>
 #include <bramble/StringSelection.hpp>
+#include <checker/ChosenPools.hpp>
 #include <lattice/EditRecorder.hpp>
 #include <malloc.h>
 #include <panel/window/MainWindow.hpp>
@@ -23,17 +24,6 @@ std::vector<std::string> frames(int count) {
         all.push_back("frame_" + std::to_string(number) + ".png");
     return all;
 }
-
-class OnePool : public Kolt::ValuePoolSource, public Kolt::ValuePoolProvider {
-public:
-    Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override {
-        return Tessera::WeakPtr<Kolt::ValuePoolProvider>(const_cast<OnePool*>(this)).strong();
-    }
-    Kolt::PoolPtr getValuePool() const override { return pool_; }
-
-private:
-    Kolt::PoolPtr const pool_{new Kolt::ValuePool("pool")};
-};
 
 class Source : public Kolt::ValueNotifier {
 public:
@@ -80,7 +70,7 @@ QByteArray const& megabyte() {
 void reportRawValue(ScaleReport& report, Panel::MainWindow& window) {
     auto* const raw = window.currentView()->findChild<Talo::RawValueLabel*>();
     auto const text = megabyte().toStdString();
-    auto const parameter = window.network()->findParameter("o.p");
+    auto const parameter = window.network()->findParameter(QStringLiteral("o.p"));
     auto const other = Kolt::makeValue(text + '!');
     report.add("1 MB text: raw value until painted",
                quickestTime(5,
@@ -112,7 +102,8 @@ void reportLists(ScaleReport& report) {
     reportSteps(report, "100,000 texts, multiple selection", multiple, 10,
                 [&](auto& selection, int number) { selection.add(list[static_cast<std::size_t>(number)]); });
 
-    OnePool pools;
+    Checker::ChosenPools pools;
+    pools.use(Kolt::PoolPtr(new Kolt::ValuePool("pool")));
     QWidget window;
     window.resize(600, 400);
     window.show();
@@ -142,7 +133,7 @@ void reportTexts(ScaleReport& report) {
     Panel::Plugins plugins;
     Panel::MainWindow window(plugins);
     window.show();
-    window.openNetwork(written(folder, "text.json", textJson(megabyte())));
+    window.openNetwork(written(folder, QStringLiteral("text.json"), textJson(megabyte())));
     QCoreApplication::processEvents();
     auto* const edit = window.currentView()->findChild<QTextEdit*>();
     if (!edit)
@@ -174,7 +165,7 @@ void reportKeys(ScaleReport& report) {
     Panel::MainWindow window(plugins);
     window.show();
     auto const entries = listOfTexts(largeSize, "frame ");
-    window.openNetwork(written(folder, "choice.json", choiceJson(entries)));
+    window.openNetwork(written(folder, QStringLiteral("choice.json"), choiceJson(entries)));
     QCoreApplication::processEvents();
     auto* const list = window.currentView()->findChild<QListWidget*>();
     if (!list)

@@ -31,7 +31,7 @@ using Times = std::map<std::string, double>;
 /// What each job takes with a network of so many objects.
 Times measureObjects(int count) {
     QTemporaryDir const folder;
-    auto const file = written(folder, "network.json", objectsJson(count));
+    auto const file = written(folder, QStringLiteral("network.json"), objectsJson(count));
     int const rounds = roundsFor(count);
     Times times;
     std::unique_ptr<Talo::Network> network;
@@ -40,7 +40,7 @@ Times measureObjects(int count) {
         network = loaded(file);
     });
     times["save"] = quickestTime(rounds, [&](int) {
-        if (!network->save(folder.filePath("saved.json"), nullptr))
+        if (!network->save(folder.filePath(QStringLiteral("saved.json")), nullptr))
             qFatal("The benchmark cannot save.");
     });
     network.reset();
@@ -58,11 +58,11 @@ Times measureObjects(int count) {
     }
     times["show"] = show;
     times["pool switch"] = quickestTime(rounds, [&](int round) {
-        window.choosePool(round % 2 == 0 ? "final" : "draft");
+        window.choosePool(QLatin1String(round % 2 == 0 ? "final" : "draft"));
         QCoreApplication::processEvents();
     });
     times["filter"] = quickestTime(rounds, [&](int round) {
-        window.setFilter(round % 2 == 0 ? "object1" : "level 0.5");
+        window.setFilter(QLatin1String(round % 2 == 0 ? "object1" : "level 0.5"));
         QCoreApplication::processEvents();
     });
     return times;
@@ -86,11 +86,11 @@ QByteArray parametersJson(int count, char const* rest) {
 void reportPart(ScaleReport& report, std::string const& what, QByteArray const& json) {
     constexpr double goal = 1000;
     QTemporaryDir const folder;
-    auto const file = written(folder, "parts.json", json);
+    auto const file = written(folder, QStringLiteral("parts.json"), json);
     report.add("100,000 " + what + ": load", quickestTime(2, [&](int) { loaded(file); }), goal);
     auto const network = loaded(file);
     auto const save = [&](int) {
-        if (!network->save(folder.filePath("saved.json"), nullptr))
+        if (!network->save(folder.filePath(QStringLiteral("saved.json")), nullptr))
             qFatal("The benchmark cannot save.");
     };
     report.add("100,000 " + what + ": save", quickestTime(2, save), goal);
@@ -122,9 +122,9 @@ void reportParts(ScaleReport& report) {
 void reportModified(ScaleReport& report) {
     constexpr int count = 80'000;
     QTemporaryDir const folder;
-    auto const network =
-        loaded(written(folder, "values.json", parametersJson(count, R"(","type":"double","value":1,"perPool":true})")));
-    auto const parameter = network->findParameter("o.p79999");
+    auto const network = loaded(written(folder, QStringLiteral("values.json"),
+                                        parametersJson(count, R"(","type":"double","value":1,"perPool":true})")));
+    auto const parameter = network->findParameter(QStringLiteral("o.p79999"));
     report.add("80,000 values: modified after an edit",
                quickestTime(20,
                             [&](int round) {

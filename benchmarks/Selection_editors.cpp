@@ -127,7 +127,7 @@ public:
         for (auto const* const label : {"All", "None", "Inverse"}) {
             auto* const button = new QPushButton(QLatin1String(label), this);
             column->addWidget(button);
-            if (label == QLatin1String("Inverse"))
+            if (QLatin1String(label) == QLatin1String("Inverse"))
                 connect(button, &QPushButton::pressed, this, [this] {
                     for (int row = 0; row < list_->count(); ++row)
                         list_->item(row)->setSelected(!list_->item(row)->isSelected());

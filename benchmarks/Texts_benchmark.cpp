@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <checker/ChosenPools.hpp>
 #include <map>
 #include <memory>
 #include <QApplication>
@@ -46,17 +47,6 @@ private:
     std::string text_;
 };
 
-class OnePool : public Kolt::ValuePoolSource, public Kolt::ValuePoolProvider {
-public:
-    Tessera::StrongPtr<Kolt::ValuePoolProvider> getValuePoolProvider() const override {
-        return Tessera::WeakPtr<Kolt::ValuePoolProvider>(const_cast<OnePool*>(this)).strong();
-    }
-    Kolt::PoolPtr getValuePool() const override { return pool_; }
-
-private:
-    Kolt::PoolPtr const pool_{new Kolt::ValuePool("pool")};
-};
-
 void type(benchmark::State& state, QTextEdit* editor) {
     if (!editor) {
         state.SkipWithError("there is no editor");
@@ -77,7 +67,8 @@ void typeIntoBareQt(benchmark::State& state) {
 }
 
 void typeIntoThePlugin(benchmark::State& state) {
-    OnePool pools;
+    Checker::ChosenPools pools;
+    pools.use(Kolt::PoolPtr(new Kolt::ValuePool("pool")));
     Kolt::ParameterPtr const parameter(new Kolt::VParameter("object.text", Kolt::makeValue(longText())));
     parameter->setCreationPreferences(
         Kolt::PreferencesPtr(new Kolt::VCreationPreferences(Kolt::VValueTrait<std::string>::MultiLine())));
