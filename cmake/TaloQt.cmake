@@ -10,6 +10,11 @@ else()
 endif()
 find_package(Qt${TALO_QT} ${TALO_QT_VERSION} REQUIRED COMPONENTS Core Gui Widgets)
 
+# What Qt gave up before 5.15 is not there. Of what Qt 6 gave up, some has no other name in Qt 5.
+if(TALO_QT EQUAL 5)
+    target_compile_definitions(talo_warnings INTERFACE QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+endif()
+
 # The sources are written for Qt 5 and warn with Qt 6 where nothing is wrong: sizes have 64 bits there, channels of colours
 # are floats, and it deprecates what Qt 5 knows by no other name. The builds with Qt 5 look at all of that.
 if(TALO_QT EQUAL 6)

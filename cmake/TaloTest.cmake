@@ -1,5 +1,9 @@
 find_package(GTest REQUIRED)
 find_package(Qt${TALO_QT} ${TALO_QT_VERSION} REQUIRED COMPONENTS Test)
+# Qt tells each test the build folder, which none asks for. Without it the compiler's cache serves several folders.
+get_target_property(definitions Qt${TALO_QT}::Test INTERFACE_COMPILE_DEFINITIONS)
+list(FILTER definitions EXCLUDE REGEX "^QT_TESTCASE_BUILDDIR=")
+set_target_properties(Qt${TALO_QT}::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS "${definitions}")
 
 set(TALO_TEST_PLATFORM offscreen CACHE STRING "Qt's platform for the tests; xcb needs a display with a window manager")
 
@@ -16,7 +20,7 @@ endif()
 #           [LABELS labels...] [ENVIRONMENT name=value...] [TIMEOUT seconds])
 # A GoogleTest program under tests/ in the build folder and one CTest test of the same name that runs all of it. It sees
 # nothing of the machine's settings: no display, language, time zone, home or Qt variable.
-#   PLUGIN               builds qtalo_inputs first and defines TALO_PLUGIN_FILE, the full path of the plug-in file
+#   PLUGIN               builds qtalo_inputs first and gives its full path as `pluginFile` (tests/support/PluginFile.hpp)
 #   WITHOUT_APPLICATION  main makes no QApplication
 #   ON_DISPLAY           one more CTest test, NAME_on_display, runs it on a display with a window manager
 #   DISPLAY_ONLY         the one CTest test, NAME, runs it on a display with a window manager
@@ -38,8 +42,7 @@ function(talo_test name)
     target_link_libraries(${name} PRIVATE talo_compile_test ${arg_LINK} ${main} talo_test_support)
     target_precompile_headers(${name} REUSE_FROM talo_test_support)
     if(arg_PLUGIN)
-        target_compile_definitions(${name} PRIVATE "TALO_PLUGIN_FILE=\"$<TARGET_FILE:qtalo_inputs>\"")
-        add_dependencies(${name} qtalo_inputs)
+        target_link_libraries(${name} PRIVATE qtalo_inputs_file)
     endif()
     if("worker" IN_LIST arg_LABELS)
         add_dependencies(worker_tests ${name})
@@ -67,6 +70,18 @@ function(talo_test name)
         endif()
         talo_test_surroundings(${test} LABELS ${labels} ENVIRONMENT ${arg_ENVIRONMENT} TIMEOUT ${arg_TIMEOUT})
     endforeach()
+endfunction()
+
+# talo_plugin_file(PLUGIN)
+# A library, PLUGIN_file, that says where the file of a plug-in is (tests/support/PluginFile.hpp). Of a test, the plug-in
+# is built first.
+function(talo_plugin_file plugin)
+    add_library(${plugin}_file STATIC "${PROJECT_SOURCE_DIR}/tests/support/PluginFile.cpp"
+        "${PROJECT_SOURCE_DIR}/tests/support/PluginFile.hpp")
+    target_include_directories(${plugin}_file PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    target_compile_definitions(${plugin}_file PRIVATE "TALO_PLUGIN_FILE=\"$<TARGET_FILE:${plugin}>\"")
+    target_link_libraries(${plugin}_file PRIVATE talo_compile_test)
+    add_dependencies(${plugin}_file ${plugin})
 endfunction()
 
 # talo_test_surroundings(TEST [LABELS labels...] [ENVIRONMENT name=value...] [TIMEOUT seconds])

@@ -1,3 +1,4 @@
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
 #include <dlfcn.h>
@@ -21,7 +22,7 @@ protected:
     using Function = bool (*)(Kolt::VInitialization const*);
 
     void SetUp() override {
-        handle_ = dlopen(TALO_PLUGIN_FILE, RTLD_NOW | RTLD_LOCAL);
+        handle_ = dlopen(pluginFile, RTLD_NOW | RTLD_LOCAL);
         ASSERT_NE(handle_, nullptr) << dlerror();
         function_ = reinterpret_cast<Function>(dlsym(handle_, "TALO_API_2023_MAR_29__qtalo_inputs"));
         ASSERT_NE(function_, nullptr) << dlerror();

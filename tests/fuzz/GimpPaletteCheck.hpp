@@ -9,7 +9,7 @@ inline std::string problemOfPalette(QByteArray const& bytes) {
     QString error;
     auto const colours = Fractal::GimpPalette::parse(bytes, error);
     if (colours.empty())
-        return error.startsWith("line ") ? "" : "it is refused without a reason that names a line";
+        return error.startsWith(QStringLiteral("line ")) ? "" : "it is refused without a reason that names a line";
     if (!error.isEmpty())
         return "colours are read and refused at once";
     if (colours.size() > 4096)

@@ -10,7 +10,7 @@
 /// a sentence; empty where the bytes are refused, or every value survives and both files have the same bytes.
 inline std::string problemOfNetworkFile(QByteArray const& bytes) {
     static QTemporaryDir const folder;
-    auto const file = folder.filePath("network.json");
+    auto const file = folder.filePath(QStringLiteral("network.json"));
     std::unique_ptr<Talo::Network> network;
     try {
         network = Talo::NetworkReader::read(Talo::JsonNode::parse(bytes), file);

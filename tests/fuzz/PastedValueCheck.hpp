@@ -23,7 +23,7 @@ inline Talo::Network& pasteTarget() {
             { "name": "7", "type": "selection", "value": null, "entries": ["a", "b"] },
             { "name": "8", "type": "multiselection", "value": ["a"], "entries": ["a", "b", "c"] },
             { "name": "9", "type": "flags", "value": { "x": true, "y": false } }] }] })"),
-                                                          "paste.json");
+                                                          QStringLiteral("paste.json"));
     return *network;
 }
 
@@ -47,14 +47,14 @@ inline std::string problemOfPastedValue(QByteArray const& bytes) {
     for (auto const& value : {typed.value, Talo::valueFromText(parameter, pool, QString::fromUtf8(text))}) {
         if (!value)
             continue;
-        QJsonObject const copied{{"type", QString::fromStdString(format.key())},
-                                 {"value", Talo::writeValue(format, value)}};
-        if (copied.value("value").isUndefined())
+        QJsonObject const copied{{QStringLiteral("type"), QString::fromStdString(format.key())},
+                                 {QStringLiteral("value"), Talo::writeValue(format, value)}};
+        if (copied.value(QStringLiteral("value")).isUndefined())
             return "what was pasted cannot be copied";
         auto const again = Talo::valueFromTypedJson(QJsonDocument(copied).toJson(), parameter, pool);
         if (!again.value)
             return "what was copied cannot be pasted: " + again.reason.toStdString();
-        if (Talo::writeValue(format, again.value) != copied.value("value"))
+        if (Talo::writeValue(format, again.value) != copied.value(QStringLiteral("value")))
             return "another value is pasted than was copied";
     }
     return {};

@@ -1,3 +1,4 @@
+#include "support/PluginFile.hpp"
 #include "support/TestHost.hpp"
 
 #include <dlfcn.h>
@@ -90,7 +91,7 @@ TEST_F(OutsidePluginTest, ItsEditorWorksInThePanel) {
 
     Panel::Plugins plugins;
     QString error;
-    ASSERT_TRUE(plugins.load(QString::fromUtf8(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+    ASSERT_TRUE(plugins.load(QString::fromUtf8(pluginFile), &error)) << qPrintable(error);
     ASSERT_TRUE(plugins.load(QString::fromUtf8(TALO_OUTSIDE_PLUGIN), &error)) << qPrintable(error);
     {
         Panel::MainWindow window(plugins);
@@ -109,7 +110,7 @@ TEST_F(OutsidePluginTest, ItsEditorWorksInThePanel) {
 TEST_F(OutsidePluginTest, AValueTypeOfItsOwnWorksInThePanelAndLeavesNothing) {
     Panel::Plugins plugins;
     QString error;
-    ASSERT_TRUE(plugins.load(QString::fromUtf8(TALO_PLUGIN_FILE), &error)) << qPrintable(error);
+    ASSERT_TRUE(plugins.load(QString::fromUtf8(pluginFile), &error)) << qPrintable(error);
     ASSERT_TRUE(plugins.load(QString::fromUtf8(TALO_OUTSIDE_VECTOR_PLUGIN), &error)) << qPrintable(error);
     {
         Panel::MainWindow window(plugins);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 #include "support/TestWarnings.hpp"
 
@@ -20,7 +21,7 @@ protected:
 
     void SetUp() override {
         TaloTest::SetUp();
-        auto const outcome = loader.load(TALO_PLUGIN_FILE);
+        auto const outcome = loader.load(pluginFile);
         ASSERT_TRUE(outcome.ok) << outcome.message;
         firstPool = Kolt::PoolPtr(new Kolt::ValuePool("draft"));
         secondPool = Kolt::PoolPtr(new Kolt::ValuePool("final"));
@@ -34,7 +35,7 @@ protected:
         // Objects passed to deleteLater must be deleted before their code is unloaded.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Kolt::UndoHistory::theHistory().forget([](auto const&) { return true; });
-        auto const outcome = loader.unload(TALO_PLUGIN_FILE);
+        auto const outcome = loader.unload(pluginFile);
         EXPECT_TRUE(outcome.ok) << outcome.message;
         TaloTest::TearDown();
     }

@@ -1,0 +1,3 @@
+#include "support/PluginFile.hpp"
+
+char const* const pluginFile = TALO_PLUGIN_FILE;
