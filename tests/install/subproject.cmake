@@ -1,7 +1,7 @@
 # Builds a project that adds this one by add_subdirectory and links one of its libraries.
 include("${CMAKE_CURRENT_LIST_DIR}/steps.cmake")
 file(REMOVE_RECURSE "${WORK}")
-run(${configure} -S "${CMAKE_CURRENT_LIST_DIR}/parent" -B "${WORK}/build" "-DTALO=${SOURCE}")
+run(${configure} -S "${CMAKE_CURRENT_LIST_DIR}/parent" -B "${WORK}/build" "-DTALO=${SOURCE}" -DCMAKE_UNITY_BUILD=ON)
 run("${CMAKE_COMMAND}" --build "${WORK}/build")
 run_and_expect("^count = 41\n$" "${WORK}/build/program/parent")
 
