@@ -81,7 +81,9 @@ qVColor::~qVColor() = default;
 
 void qVColor::showColour(Ferro::rgba_float_t const& colour) {
     setAutoFillBackground(true);
-    setFrameStyle(QFrame::Box);
+    // Qt lays the label out anew even for the style that it has.
+    if (frameStyle() != QFrame::Box)
+        setFrameStyle(QFrame::Box);
     setLineWidth(1);
 
     auto const window = shownColour(colour);
