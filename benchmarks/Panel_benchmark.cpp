@@ -6,6 +6,7 @@
 #include "BenchmarkProgram.hpp"
 #include "Jobs.hpp"
 #include "PanelSides.hpp"
+#include "Preview_jobs.hpp"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -349,6 +350,7 @@ std::vector<Job> jobs() {
          {}},
     };
     addStepJobs(all);
+    addPreviewJobs(all);
     return all;
 }
 

@@ -110,6 +110,7 @@ void PreviewRenderer::clear() {
     image_ = {};
     problem_.clear();
     isFine_ = false;
+    wasFine_ = false;
     emit pictureChanged();
 }
 
@@ -152,17 +153,17 @@ void PreviewRenderer::take() {
         if (task != drawing_)
             continue;
         auto const drawing = std::exchange(drawing_, nullptr);
-        bool const isFirst = image_.isNull();
         image_ = drawing->image;
         isFine_ = drawing->isFine();
+        wasFine_ = wasFine_ || isFine_;
         problem_ = drawing->problem();
         emit pictureChanged();
         if (drawing_)
             continue;
         if (posted_ != changes_) {
             post(false);
-        } else if (isFirst && !isFine_ && !image_.isNull()) {
-            // No hand has moved a handle yet, so there is no pause to wait for.
+        } else if (!wasFine_ && !image_.isNull()) {
+            // No hand has moved a handle yet, so there is no pause to wait for. The size changes as a window opens.
             restTimer_.stop();
             rest();
         }

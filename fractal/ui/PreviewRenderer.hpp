@@ -71,6 +71,8 @@ private:
     std::shared_ptr<Drawing> drawing_;
     QImage image_;
     bool isFine_ = false;
+    // Whether one has been fine since the computing began.
+    bool wasFine_ = false;
     QString problem_;
     // Destroyed first, as its thread works on the drawings.
     Worker worker_;

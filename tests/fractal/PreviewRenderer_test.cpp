@@ -57,6 +57,25 @@ TEST_F(PreviewRendererTest, TheFirstFinePictureDoesNotWaitForAPause) {
     EXPECT_EQ(shown, (std::vector<bool>{false, true}));
 }
 
+TEST_F(PreviewRendererTest, TheFirstFinePictureDoesNotWaitWhileTheWindowFindsItsSize) {
+    ASSERT_TRUE(waitUntil([this] { return !shown.empty(); }));
+    maker.setSize({100, 75});
+    ASSERT_TRUE(waitUntil([this] { return shown.size() == 2; }));
+    EXPECT_TRUE(maker.isRefining() || maker.isFine());
+    ASSERT_TRUE(rests());
+    EXPECT_EQ(maker.image(), expected(draft, {100, 75}));
+}
+
+TEST_F(PreviewRendererTest, TheNextFinePictureWaitsForAPause) {
+    ASSERT_TRUE(rests());
+    shown.clear();
+    set("formula.rotation", "5");
+    ASSERT_TRUE(waitUntil([this] { return !shown.empty(); }));
+    EXPECT_FALSE(maker.isRefining() || maker.isFine());
+    ASSERT_TRUE(rests());
+    EXPECT_EQ(shown, (std::vector<bool>{false, true}));
+}
+
 TEST_F(PreviewRendererTest, EveryParameterThatShapesThePictureIsFollowed) {
     ASSERT_TRUE(rests());
     std::pair<char const*, char const*> const changes[] = {{"formula.kind", "Burning ship"},
