@@ -326,8 +326,14 @@ Kolt::ValueSnapshot const* Network::whenOpened(Kolt::VParameter const& parameter
     return found == displayed_.end() || !found->second.parameter.alive() ? nullptr : &found->second.value;
 }
 
-void Network::rememberSaved() {
+void Network::forgetSaved() {
     saved_.clear();
+    differing_.clear();
+    knowsOthers_ = false;
+}
+
+void Network::rememberSaved() {
+    forgetSaved();
     for (auto const& object : objects_)
         rememberSaved(*object);
 }
@@ -336,7 +342,7 @@ void Network::rememberDefaultsAsSaved() {
     std::size_t count = 0;
     for (auto const& object : objects_)
         count += object->parameters().size();
-    saved_.clear();
+    forgetSaved();
     saved_.reserve(count);
     for (auto const& object : objects_)
         for (auto const& parameter : object->parameters())
@@ -346,6 +352,7 @@ void Network::rememberDefaultsAsSaved() {
 }
 
 void Network::rememberSaved(Kolt::VObject const& object) {
+    knowsOthers_ = false;
     for (auto const& parameter : object.parameters())
         if (parameter->isEdited())
             saved_.push_back({parameter, Kolt::ValueSnapshot(*parameter)});

@@ -2,12 +2,15 @@
 
 #include <bramble/Action.hpp>
 #include <functional>
+#include <lattice/ChangeSignal.hpp>
 #include <lattice/Object.hpp>
 #include <map>
 #include <memory>
+#include <optional>
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <set>
 #include <tessera/Export.hpp>
 #include <unordered_map>
 #include <vector>
@@ -93,6 +96,10 @@ public:
     void rememberDefaults();
     /// Whether a value that people edit differs from the one in the file, in a pool or in the parameter itself.
     bool isModified() const;
+    /// The same, quickly, for a host that follows all parameters by a signal: `changed` is what
+    /// ChangeSignal::awaitNext() returned. Looks only at those that have changed since all were looked at; at all if
+    /// `changed` is empty. A change of which nobody was notified is missed until isModified() is called.
+    bool isModifiedAfter(std::optional<std::vector<Kolt::ChangeSignal::Changed>> const& changed);
     /// The values of the parameters that differ so, as JSON: {"object.parameter": {"value": ..., "values": ...}}, as
     /// `values` writes them.
     QByteArray unsavedValues() const;
@@ -130,10 +137,14 @@ private:
     /// Makes the actions that a parameter of the object holds, its own and those of the pools, call the handler.
     void connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr const& object) const;
     bool isSaved(SavedValue const& saved) const;
+    /// Looks at all values.
+    bool findModified() const;
+    void noteChanged(Kolt::ChangeSignal::Changed const& changed);
     /// Keeps what an object says at the start: defaults, and texts that are shown to people.
     void rememberOpened(Kolt::VObject const& object);
     /// What a parameter that shows a state showed at the start; null for any other.
     Kolt::ValueSnapshot const* whenOpened(Kolt::VParameter const& parameter) const;
+    void forgetSaved();
     /// From now on the values count as saved.
     void rememberDefaultsAsSaved();
     void rememberSaved();
@@ -157,8 +168,12 @@ private:
     std::map<Kolt::VParameter const*, SavedValue> displayed_;
     // What the file holds of the values that people edit.
     std::vector<SavedValue> saved_;
-    // The place of the one that was found to differ last. It nearly always still differs, or again.
-    mutable std::size_t differing_ = 0;
+    // The places of those that were found to differ or have changed since. Nearly always the first one differs.
+    mutable std::set<std::size_t> differing_;
+    // Whether no other one differs.
+    mutable bool knowsOthers_ = false;
+    // The place of the one that changed last: a person changes one value many times.
+    std::size_t lastChanged_ = 0;
     // Tells actions whether the network is alive.
     std::shared_ptr<Network*> const self_;
 };

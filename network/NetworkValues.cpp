@@ -98,14 +98,41 @@ bool Network::isSaved(SavedValue const& saved) const {
 }
 
 bool Network::isModified() const {
-    if (differing_ < saved_.size() && !isSaved(saved_[differing_]))
-        return true;
+    auto const differs = [this](std::size_t place) { return !isSaved(saved_[place]); };
+    return std::any_of(differing_.begin(), differing_.end(), differs) || findModified();
+}
+
+bool Network::isModifiedAfter(std::optional<std::vector<Kolt::ChangeSignal::Changed>> const& changed) {
+    knowsOthers_ = knowsOthers_ && changed;
+    if (knowsOthers_)
+        for (auto const& each : *changed)
+            noteChanged(each);
+    while (!differing_.empty()) {
+        if (!isSaved(saved_[*differing_.begin()]))
+            return true;
+        differing_.erase(differing_.begin());
+    }
+    return !knowsOthers_ && findModified();
+}
+
+bool Network::findModified() const {
     auto const found =
         std::find_if(saved_.begin(), saved_.end(), [this](auto const& saved) { return !isSaved(saved); });
-    if (found == saved_.end())
-        return false;
-    differing_ = static_cast<std::size_t>(found - saved_.begin());
-    return true;
+    knowsOthers_ = found == saved_.end();
+    if (!knowsOthers_)
+        differing_.insert(static_cast<std::size_t>(found - saved_.begin()));
+    return !knowsOthers_;
+}
+
+void Network::noteChanged(Kolt::ChangeSignal::Changed const& changed) {
+    if (lastChanged_ >= saved_.size() || saved_[lastChanged_].parameter != changed) {
+        auto const found =
+            std::find_if(saved_.begin(), saved_.end(), [&](auto const& saved) { return saved.parameter == changed; });
+        if (found == saved_.end())
+            return;
+        lastChanged_ = static_cast<std::size_t>(found - saved_.begin());
+    }
+    differing_.insert(lastChanged_);
 }
 
 QByteArray Network::unsavedValues() const {
@@ -120,6 +147,8 @@ QByteArray Network::unsavedValues() const {
 
 QStringList Network::takeValues(QByteArray const& json) {
     QStringList refused;
+    // Of an own value that no pool inherits nobody is notified.
+    knowsOthers_ = false;
     try {
         auto const root = JsonNode::parse(json);
         for (auto const& node : root.members("values of parameters")) {

@@ -7,6 +7,6 @@ namespace Kolt {
 ///
 /// It lies in a section of every file that was compiled with these headers, so that the host can read from a plug-in
 /// file, before it loads it, for which interface it was built (PluginFile).
-[[gnu::section(".talo.interface"), gnu::used, gnu::retain]] constexpr char interfaceStamp[] = "a97e5273d0070100";
+[[gnu::section(".talo.interface"), gnu::used, gnu::retain]] constexpr char interfaceStamp[] = "6e3ebcab9d71f7f2";
 
 } // namespace Kolt

@@ -117,7 +117,7 @@ void VParameter::notifyValueChange(ValuePtr const& value, PoolPtr const& pool, s
                                    Tessera::WeakPtr<ValueNotifier> const& source, ValueNotifierList const* alsoNotify,
                                    ValueMap const* values) const {
     if (changeSignal_ && !values && isEdited())
-        changeSignal_->raise();
+        changeSignal_->raise(*this);
     if (!hasListeners() && !alsoNotify && recorder_.expired())
         return;
     // A copy, as a notifier may destroy what holds the caller's reference.

@@ -18,7 +18,7 @@ Document::Document(QObject* parent)
       })) {
     modifiedTimer_.setSingleShot(true);
     modifiedTimer_.setInterval(modifiedDelay);
-    connect(&modifiedTimer_, &QTimer::timeout, this, &Document::checkModified);
+    connect(&modifiedTimer_, &QTimer::timeout, this, &Document::checkChanged);
     connect(&guard_, &FileGuard::changed, this, &Document::fileChanged);
 }
 
@@ -72,10 +72,15 @@ void Document::checkModifiedLater() {
         modifiedTimer_.start();
 }
 
-void Document::checkModified() {
+void Document::checkChanged() {
     // First, so that a change during the comparison is not missed.
+    auto const changed = valueSignal_->awaitNext();
+    emit modifiedChanged(network_ && network_->isModifiedAfter(changed));
+}
+
+void Document::checkModified() {
     valueSignal_->awaitNext();
-    emit modifiedChanged(isModified());
+    emit modifiedChanged(network_ && network_->isModifiedAfter(std::nullopt));
 }
 
 QString Document::path() const {

@@ -65,6 +65,8 @@ signals:
 private:
     /// Emits `modifiedChanged` a moment from now: to compare all values takes a while.
     void checkModifiedLater();
+    /// Compares the values that have changed and emits `modifiedChanged`.
+    void checkChanged();
 
     Kolt::UndoHistory history_;
     std::unique_ptr<Talo::Network> network_;

@@ -41,6 +41,39 @@ TEST_F(ChangeSignalTest, TellsTheFirstChangeOfAnyParameter) {
     EXPECT_EQ(calls_, 2);
 }
 
+TEST_F(ChangeSignalTest, NotesWhichParametersHaveChanged) {
+    auto const one = made("one");
+    auto other = made("other");
+    EXPECT_TRUE(signal_->awaitNext().value().empty());
+    change(one);
+    change(other);
+    change(one);
+    auto const changed = signal_->awaitNext().value();
+    ASSERT_EQ(changed.size(), 2U);
+    EXPECT_EQ(changed[0].strong().get(), one.get());
+    EXPECT_EQ(changed[1].strong().get(), other.get());
+    other.reset();
+    EXPECT_FALSE(changed[1].alive()) << "nobody keeps it alive";
+    EXPECT_TRUE(signal_->awaitNext().value().empty());
+}
+
+TEST_F(ChangeSignalTest, NotesOnlySoMany) {
+    std::vector<ParameterPtr> many;
+    for (std::size_t number = 0; number < ChangeSignal::mostNoted; ++number)
+        many.push_back(made("each"));
+    for (auto const& each : many)
+        change(each);
+    EXPECT_EQ(signal_->awaitNext().value().size(), many.size());
+    for (auto const& each : many)
+        change(each);
+    auto const oneMore = made("one more");
+    change(oneMore);
+    change(many.front());
+    EXPECT_FALSE(signal_->awaitNext());
+    change(oneMore);
+    EXPECT_EQ(signal_->awaitNext().value().size(), 1U);
+}
+
 TEST_F(ChangeSignalTest, TellsNoProperties) {
     auto const parameter = made("one");
     parameter->setProperty("label", makeValue(std::string("One")), {}, nullptr, {});
@@ -81,11 +114,12 @@ TEST_F(ChangeSignalTest, IsRaisedByManyThreadsAndStoppedMeanwhile) {
             isCalledTooLate = true;
         ++calls_;
     });
+    auto const parameter = made("one");
     std::vector<std::thread> threads;
     for (int thread = 0; thread < threadCount; ++thread)
         threads.emplace_back([&] {
             for (int round = 0; round < rounds; ++round) {
-                signal.raise();
+                signal.raise(*parameter);
                 signal.awaitNext();
             }
         });
