@@ -3,6 +3,7 @@
 #include <array>
 #include <bramble/Info.hpp>
 #include <bramble/ObjectStatus.hpp>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -96,6 +97,8 @@ public:
     explicit BareFileName(QWidget* parent) : QPushButton(parent) {
         setFont(smallBold("Arial", font()));
         change(0);
+        connect(this, &QPushButton::released, this,
+                [this] { value_ = QFileDialog::getSaveFileName(this).toStdString(); });
     }
     QWidget* widget() override { return this; }
     void change(int n) override {

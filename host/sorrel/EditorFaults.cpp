@@ -3,13 +3,17 @@
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/InputFaults.hpp>
-#include <QVariant>
+#include <unordered_set>
 
 namespace Kolt {
 
 namespace {
 
-constexpr char const* mark = "_talo_editor";
+/// What makeEditor made. A mark of each, such as a property, would take six times the memory.
+std::unordered_set<QObject const*>& watched() {
+    static auto* const editors = new std::unordered_set<QObject const*>;
+    return *editors;
+}
 
 void inputFailed(VInputBase& input, std::string const& sentence) {
     // Almost every input is a widget as well.
@@ -33,12 +37,16 @@ EditorFaults& EditorFaults::theFaults() {
 
 void EditorFaults::watch(QWidget& editor) {
     theFaults();
-    editor.setProperty(mark, true);
+    watched().insert(&editor);
+}
+
+void EditorFaults::forget(QObject const* editor) {
+    watched().erase(editor);
 }
 
 QWidget* EditorFaults::editorOf(QObject* object) {
     for (; object; object = object->parent())
-        if (object->isWidgetType() && object->property(mark).isValid())
+        if (watched().count(object) > 0)
             return static_cast<QWidget*>(object);
     return nullptr;
 }

@@ -17,8 +17,11 @@ public:
     /// The object of the process.
     static EditorFaults& theFaults();
 
-    /// Marks what makeEditor made, so that a fault in any part of it is known as this editor's.
+    /// Notes what makeEditor made, so that a fault in any part of it is known as this editor's. Forget it when it is
+    /// destroyed.
     static void watch(QWidget& editor);
+    /// Forgets an editor, which need no longer be there.
+    static void forget(QObject const* editor);
     /// The editor that an object is or belongs to; null for none.
     static QWidget* editorOf(QObject* object);
     /// Warns that an event of an object ended with the exception that is being handled, and says so for the editor that

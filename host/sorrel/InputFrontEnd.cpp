@@ -165,7 +165,10 @@ Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSourc
     makeWidget(editor, *widgets, parameter, parent, tracked);
     // The editor asks until its last child is gone.
     if (editor.widget)
-        QObject::connect(editor.widget, &QObject::destroyed, [tracked] { delete tracked; });
+        QObject::connect(editor.widget, &QObject::destroyed, [tracked](QObject const* gone) {
+            EditorFaults::forget(gone);
+            delete tracked;
+        });
     else
         delete tracked;
     if (editor.widget)
