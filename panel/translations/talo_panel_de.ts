@@ -1255,6 +1255,10 @@ Trotzdem laden? Ungespeicherte Werte können verloren gehen.</translation>
         <source>The unsaved values cannot be kept in %1: %2</source>
         <translation>Die ungespeicherten Werte können nicht in %1 aufgehoben werden: %2</translation>
     </message>
+    <message>
+        <source>The unsaved values cannot be kept in %1.</source>
+        <translation>Die ungespeicherten Werte können nicht in %1 aufgehoben werden.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::Session</name>

@@ -1255,6 +1255,10 @@ Le charger quand même ? Des valeurs non enregistrées peuvent être perdues.</t
         <source>The unsaved values cannot be kept in %1: %2</source>
         <translation>Les valeurs non enregistrées ne peuvent pas être conservées dans %1 : %2</translation>
     </message>
+    <message>
+        <source>The unsaved values cannot be kept in %1.</source>
+        <translation>Les valeurs non enregistrées ne peuvent pas être conservées dans %1.</translation>
+    </message>
 </context>
 <context>
     <name>Panel::Session</name>

@@ -64,7 +64,6 @@ void Recovery::followFile() {
     lock_.reset();
     found_ = {};
     isOpenElsewhere_ = hasFailed_ = false;
-    place_ = -1;
     networkFile_ = document_.path();
     if (!networkFile_.isEmpty())
         takePlace();
@@ -75,7 +74,7 @@ void Recovery::takePlace() {
     if (!QDir().mkpath(folder_))
         return;
     std::unique_ptr<QLockFile> empty;
-    int emptyPlace = -1;
+    int emptyPlace = 0;
     // A place where values were left behind comes before an empty one.
     for (int place = 0; place < places; ++place) {
         if (empty && !QFileInfo::exists(fileOf(place, "lock")) && !QFileInfo::exists(fileOf(place, "json")))
@@ -122,11 +121,15 @@ void Recovery::write() {
         discard();
         return;
     }
-    if (place_ < 0)
+    if (networkFile_.isEmpty())
         return;
-    auto const reason = writeFile(document_.network()->unsavedValues());
-    if (!reason.isEmpty() && !std::exchange(hasFailed_, true))
-        emit failed(tr("The unsaved values cannot be kept in %1: %2").arg(fileOf(place_, "json"), reason));
+    QString failure;
+    if (!lock_)
+        failure = tr("The unsaved values cannot be kept in %1.").arg(folder_);
+    else if (auto const reason = writeFile(document_.network()->unsavedValues()); !reason.isEmpty())
+        failure = tr("The unsaved values cannot be kept in %1: %2").arg(fileOf(place_, "json"), reason);
+    if (!failure.isEmpty() && !std::exchange(hasFailed_, true))
+        emit failed(failure);
 }
 
 QString Recovery::writeFile(QByteArray const& values) const {
@@ -143,7 +146,7 @@ QString Recovery::writeFile(QByteArray const& values) const {
 void Recovery::discard() {
     timer_.stop();
     found_ = {};
-    if (place_ >= 0)
+    if (lock_)
         QFile::remove(fileOf(place_, "json"));
 }
 

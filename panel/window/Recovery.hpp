@@ -57,9 +57,10 @@ private:
 
     Document& document_;
     QString const folder_;
-    // The network's file, absolute, and the place among the panels that have it open; -1 where there is none.
+    // The network's file, absolute; empty where there is none.
     QString networkFile_;
-    int place_ = -1;
+    // The place among the panels that have it open, as long as there is the lock that holds it.
+    int place_ = 0;
     std::unique_ptr<QLockFile> lock_;
     Found found_;
     bool isOpenElsewhere_ = false;
