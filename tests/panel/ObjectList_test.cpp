@@ -82,6 +82,26 @@ TEST_F(ObjectListTest, AnIconNeverCoversAName) {
     EXPECT_GT(nameRight(), 0);
 }
 
+TEST_F(ObjectListTest, NamesHaveTheRoomThatIconsNoLongerTake) {
+    auto* const list = window->objectList();
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    auto const nameRight = [&] { return list->visualRect(list->objects()->index(0, 0)).right(); };
+    int const edge = list->viewport()->rect().right();
+    EXPECT_LT(nameRight(), edge);
+    int const before = nameRight();
+    auto const usual = list->font();
+    auto large = usual;
+    large.setPixelSize(3 * QFontInfo(usual).pixelSize());
+    list->setFont(large);
+    EXPECT_TRUE(waitUntil([&] { return nameRight() < before; }));
+    list->setFont(usual);
+    EXPECT_TRUE(waitUntil([&] { return nameRight() == before; }));
+    open(
+        R"({ "pools": ["day"], "objects": [ { "name": "lamp", "parameters": [ { "name": "on", "type": "bool", "value": true } ] } ] })");
+    EXPECT_TRUE(waitUntil([&] { return nameRight() == edge; }));
+}
+
 TEST_F(ObjectListTest, TheToolTipOfAnIconSaysWhatItShows) {
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));

@@ -145,6 +145,15 @@ TEST_F(ParameterCommandsTest, AMenuActsOnTheRowThatHadTheFocus) {
     EXPECT_FALSE(action("resetValue")->isEnabled());
 }
 
+TEST_F(ParameterCommandsTest, TheMenuOffersNoCommandBeforeARowHasTheFocus) {
+    window.reset();
+    window = std::make_unique<Panel::MainWindow>(plugins);
+    ASSERT_TRUE(window->openNetwork(folder.filePath(QStringLiteral("values.json"))));
+    ASSERT_EQ(QApplication::focusWidget(), nullptr);
+    for (auto const* const name : {"resetValue", "setAsDefault", "copyValue", "pasteValue", "showHelp"})
+        EXPECT_FALSE(action(name)->isEnabled()) << name;
+}
+
 TEST_F(ParameterCommandsTest, ARowOffersItsCommandsInAContextMenu) {
     QTest::keyClick(slider("int"), Qt::Key_Right);
     QPointer<QMenu> const menu = contextMenu(row("int")->nameLabel());

@@ -365,4 +365,8 @@ TEST_F(TaloPanel, SpeaksTheLanguageOfTheSystem) {
     variables[QStringLiteral("LANGUAGE")] = QStringLiteral("en_GB:de");
     ASSERT_EQ(run({QStringLiteral("--help")}), 0);
     EXPECT_THAT(output.toStdString(), HasSubstr("Prints this help and ends."));
+    // There is no Swedish translation, so the next language is taken.
+    variables[QStringLiteral("LANGUAGE")] = QStringLiteral("sv_SE:de");
+    ASSERT_EQ(run({QStringLiteral("--help")}), 0);
+    EXPECT_THAT(output.toStdString(), HasSubstr("Gibt diese Hilfe aus und endet."));
 }
