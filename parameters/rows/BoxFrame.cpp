@@ -77,8 +77,7 @@ void BoxFrame::paintEdge(QPainter& painter, QRect const& edge, QImage const& lin
 QColor BoxFrame::backgroundOf(QWidget const& box) {
     auto const* const parent = box.parentWidget();
     bool const isFilledByParent = parent && parent->autoFillBackground() && !box.autoFillBackground() &&
-                                  !parent->testAttribute(Qt::WA_StyledBackground) &&
-                                  !parent->style()->inherits("QStyleSheetStyle");
+                                  !parent->testAttribute(Qt::WA_StyledBackground);
     if (!isFilledByParent)
         return {};
     auto const& brush = parent->palette().brush(parent->backgroundRole());

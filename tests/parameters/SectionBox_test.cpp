@@ -56,6 +56,33 @@ QImage boxPainted(Box& box, QRegion const& exposed) {
 
 class SectionBoxTest : public TaloTest {};
 
+/// Paints only what the style paints for the frame.
+class PlainBox : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        QStyleOptionGroupBox option;
+        initStyleOption(&option);
+        option.subControls = QStyle::SC_GroupBoxFrame;
+        style()->drawComplexControl(QStyle::CC_GroupBox, &option, &painter, this);
+    }
+};
+
+/// Paints the background of widgets that ask the style for it.
+class RedBackground : public QProxyStyle {
+public:
+    void drawPrimitive(PrimitiveElement element, QStyleOption const* option, QPainter* painter,
+                       QWidget const* widget) const override {
+        if (element == PE_Widget)
+            painter->fillRect(option->rect, Qt::red);
+        else
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+};
+
 /// Counts the frames that are painted.
 class CountingStyle : public QProxyStyle {
 public:
@@ -153,6 +180,44 @@ TEST_F(SectionBoxTest, OnAFilledBackgroundItLooksAsTheStylePaintsIt) {
     content.setPalette(palette);
     auto const image = content.grab().toImage();
     EXPECT_NE(image.pixelColor(100, 100), image.pixelColor(101, 100));
+}
+
+TEST_F(SectionBoxTest, ShowsWhatItsParentLetsThroughOrHasPainted) {
+    RedBackground red;
+    auto const painted = [](QGroupBox* box, std::function<void(QWidget&)> const& prepare) {
+        QWidget behind;
+        behind.setPalette(QPalette(Qt::blue));
+        behind.resize(320, 240);
+        auto* const content = new QWidget(&behind);
+        content->resize(behind.size());
+        content->setPalette(QPalette(Qt::gray));
+        box->setParent(content);
+        box->setGeometry(10, 10, 300, 200);
+        prepare(*content);
+        return behind.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    auto const expectAsPainted = [&](std::function<void(QWidget&)> const& prepare, char const* what) {
+        EXPECT_EQ(painted(new Box(QString()), prepare), painted(new PlainBox, prepare)) << what;
+    };
+    expectAsPainted([](QWidget&) {}, "a parent that is not filled");
+    expectAsPainted(
+        [&](QWidget& parent) {
+            parent.setAutoFillBackground(true);
+            parent.setAttribute(Qt::WA_StyledBackground);
+            parent.setStyle(&red);
+        },
+        "a background of the style");
+    for (auto const* const sheet :
+         {"QLabel { color: red; }", "* { background: red; }", "QGroupBox { background: red; margin: 20px; }",
+          "* { background: qlineargradient(x1:0, y1:0, x2:1, y2:1, stop:0 red, stop:1 blue); }",
+          "QWidget { border: 3px solid green; border-radius: 40px; background: yellow; }",
+          "QGroupBox { border: 2px solid rgba(255,0,0,100); border-radius: 20px; }"})
+        expectAsPainted(
+            [&](QWidget& parent) {
+                parent.setAutoFillBackground(true);
+                parent.setStyleSheet(QString::fromLatin1(sheet));
+            },
+            sheet);
 }
 
 TEST_F(SectionBoxTest, FollowsThePaletteAndTheState) {
