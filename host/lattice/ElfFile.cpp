@@ -93,7 +93,7 @@ std::string ElfFile::faultOfSegments() const {
     // What is at the end of the file is looked at too, as it is what a file that is cut off lacks first.
     std::uint64_t const sections = std::uint64_t{header.e_shnum} * header.e_shentsize;
     if (!isWithin(header.e_phoff, std::uint64_t{header.e_phnum} * sizeof(Segment)) ||
-        (header.e_shoff != 0 && !isWithin(header.e_shoff, sections)))
+        !isWithin(header.e_shoff, sections))
         return cutOff;
     bool hasDynamic = false;
     bool hasContent = false;
@@ -213,7 +213,7 @@ std::vector<std::string> ElfFile::functions(std::string_view prefix) const {
 
 std::string_view ElfFile::section(std::string_view name) const {
     Header header{};
-    if (!fault_.empty() || !read(0, header) || header.e_shentsize != sizeof(Section) || header.e_shoff == 0)
+    if (!fault_.empty() || !read(0, header) || header.e_shentsize != sizeof(Section))
         return {};
     Section names{};
     if (header.e_shstrndx >= header.e_shnum || !read(header.e_shoff + header.e_shstrndx * sizeof(Section), names))

@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <lattice/ElfFile.hpp>
+#include <link.h>
 #include <random>
 #include <sstream>
 
@@ -46,6 +47,16 @@ TEST_F(ElfFiles, ReadsASectionByItsWholeName) {
     EXPECT_THAT(std::string(elf.section(".dynstr")), testing::HasSubstr("TALO_API_2023_MAR_29__sample_plugin"));
     EXPECT_TRUE(elf.section(".tex").empty());
     EXPECT_TRUE(elf.section("").empty());
+}
+
+TEST_F(ElfFiles, ALibraryWithoutATableOfSectionsHasFunctionsAlone) {
+    auto bytes = sample_;
+    auto* const header = reinterpret_cast<ElfW(Ehdr)*>(bytes.data());
+    header->e_shoff = header->e_shnum = header->e_shstrndx = 0;
+    ElfFile const elf(bytes);
+    EXPECT_EQ(elf.fault(), "");
+    EXPECT_THAT(elf.functions(""), ElementsAre("TALO_API_2023_MAR_29__sample_plugin"));
+    EXPECT_TRUE(elf.section(".text").empty());
 }
 
 TEST_F(ElfFiles, EveryStartOfALibraryIsCutOff) {
