@@ -3,6 +3,7 @@
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/Input.hpp>
 #include <lattice/InputFaults.hpp>
+#include <mutex>
 #include <unordered_set>
 
 namespace Kolt {
@@ -10,9 +11,15 @@ namespace Kolt {
 namespace {
 
 /// What makeEditor made. A mark of each, such as a property, would take six times the memory.
-std::unordered_set<QObject const*>& watched() {
-    static auto* const editors = new std::unordered_set<QObject const*>;
-    return *editors;
+struct WatchedEditors {
+    std::unordered_set<QObject const*> editors;
+    // An input may fail on any thread.
+    std::mutex mutex;
+};
+
+WatchedEditors& watched() {
+    static auto* const all = new WatchedEditors;
+    return *all;
 }
 
 void inputFailed(VInputBase& input, std::string const& sentence) {
@@ -37,16 +44,19 @@ EditorFaults& EditorFaults::theFaults() {
 
 void EditorFaults::watch(QWidget& editor) {
     theFaults();
-    watched().insert(&editor);
+    std::lock_guard const lock(watched().mutex);
+    watched().editors.insert(&editor);
 }
 
 void EditorFaults::forget(QObject const* editor) {
-    watched().erase(editor);
+    std::lock_guard const lock(watched().mutex);
+    watched().editors.erase(editor);
 }
 
 QWidget* EditorFaults::editorOf(QObject* object) {
+    std::lock_guard const lock(watched().mutex);
     for (; object; object = object->parent())
-        if (watched().count(object) > 0)
+        if (watched().editors.count(object) > 0)
             return static_cast<QWidget*>(object);
     return nullptr;
 }
