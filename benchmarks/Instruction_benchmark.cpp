@@ -2,25 +2,16 @@
 // that fails here has a reason in the code.
 
 #include "BenchmarkProgram.hpp"
+#include "Counting.hpp"
 #include "Figures.hpp"
 #include "Sides.hpp"
 
-#include <iostream>
-#include <map>
-#include <QApplication>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTextStream>
-#include <valgrind/callgrind.h>
+#include <QCoreApplication>
 
 namespace {
 
 /// As many as stand on a usual form.
 constexpr int editorCount = 10;
-
-/// Instructions of the bare and the plug-in's side of a job.
-using Counts = std::map<std::string, std::map<std::string, double>>;
 
 /// How often a change or an edit is counted.
 constexpr int stepCount = 10;
@@ -51,20 +42,12 @@ double goalOfRatio(std::string const& kind, std::string const& measure) {
     return kind.rfind("multiple selection", 0) == 0 && measure == "change" ? 7.0 : 1.15;
 }
 
-/// Counts the instructions of `work` for this job, of which the name has a "/" before the side.
-template <typename Work>
-void count(std::string const& job, Work const& work) {
-    CALLGRIND_ZERO_STATS;
-    work();
-    CALLGRIND_DUMP_STATS_AT(job.c_str());
-}
-
 /// Counts what some steps take; the first ones, in which Qt remembers what it draws again and again, are left out.
 template <typename Step>
 void countSteps(std::string const& job, Step const& step) {
     for (int n = 0; n < 4; ++n)
         step(n % 2);
-    count(job, [&] {
+    counted(job, [&] {
         for (int n = 0; n < stepCount; ++n)
             step(n % 2);
     });
@@ -80,7 +63,7 @@ void countSide(BenchmarkCase const& benchmarkCase, std::string const& kind, std:
     };
     create();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    count(kind + ", create/" + side, create);
+    counted(kind + ", create/" + side, create);
 
     TheSide made(benchmarkCase, editorCount);
     Panel panel;
@@ -111,23 +94,6 @@ int countAll() {
     return 0;
 }
 
-/// Adds what the counting program has written for one job, if the file is of one.
-void readCounts(QString const& name, Counts& counts) {
-    QFile file(name);
-    file.open(QIODevice::ReadOnly);
-    QTextStream lines(&file);
-    QString const jobMark = QStringLiteral("desc: Trigger: Client Request: ");
-    QString const sumMark = QStringLiteral("totals: ");
-    QString job;
-    for (QString line; lines.readLineInto(&line);) {
-        if (line.startsWith(jobMark))
-            job = line.mid(jobMark.size());
-        if (line.startsWith(sumMark) && !job.isEmpty())
-            counts[job.section(QLatin1Char('/'), 0, 0).toStdString()][job.section(QLatin1Char('/'), 1).toStdString()] =
-                line.mid(sumMark.size()).toDouble();
-    }
-}
-
 /// Prints the line of a job, "kind, measure"; says whether its figure is above the goal.
 bool reportJob(std::string const& job, double bare, double plugin) {
     auto const comma = job.rfind(", ");
@@ -141,37 +107,19 @@ bool reportJob(std::string const& job, double bare, double plugin) {
 /// Prints the table; the status of the program.
 int report(Counts const& counts) {
     int above = 0;
-    for (auto const& [job, sides] : counts)
-        above += reportJob(job, sides.at("bare"), sides.at("plug-in")) ? 1 : 0;
+    std::string const bare = "/bare";
+    for (auto const& [name, figures] : counts) {
+        auto const place = name.rfind(bare);
+        if (place == std::string::npos)
+            continue;
+        auto const job = name.substr(0, place);
+        above += reportJob(job, figures.front(), counts.at(job + "/plug-in").front()) ? 1 : 0;
+    }
     return above > 0 ? 1 : 0;
-}
-
-/// Runs this program in valgrind, which counts, and reports.
-int countInValgrind(QString const& program) {
-    QTemporaryDir const folder;
-    QProcess valgrind;
-    valgrind.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    valgrind.start(QStringLiteral("valgrind"),
-                   {QStringLiteral("--quiet"), QStringLiteral("--tool=callgrind"),
-                    QStringLiteral("--callgrind-out-file=") + folder.filePath(QStringLiteral("counts")), program});
-    if (!valgrind.waitForFinished(-1) || valgrind.exitStatus() != QProcess::NormalExit || valgrind.exitCode() != 0) {
-        std::cerr << "valgrind cannot count: " << valgrind.errorString().toStdString() << "\n";
-        return 2;
-    }
-    Counts counts;
-    for (auto const& name : QDir(folder.path()).entryList(QDir::Files))
-        readCounts(folder.filePath(name), counts);
-    if (counts.size() < benchmarkCases().size()) {
-        std::cerr << "valgrind has counted " << counts.size() << " jobs only\n";
-        return 2;
-    }
-    return report(counts);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    if (RUNNING_ON_VALGRIND != 0)
-        return runBenchmarkProgram(argc, argv, countAll);
-    return countInValgrind(QFile::decodeName(argv[0]));
+    return runBenchmarkProgram(argc, argv, [] { return isCounting() ? countAll() : report(countInValgrind({})); });
 }

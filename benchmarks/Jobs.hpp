@@ -19,13 +19,19 @@ struct Job {
     std::string unit;
     /// How often each side works. The medians count, after one round that does not.
     int rounds = 15;
+    /// Whether the instructions count that timeOf() sees, which it is to be called for once in each round, and not the
+    /// time.
+    bool byInstructions = false;
 };
 
 /// The processor time that the process has used, in milliseconds.
 double processorTime();
 
-/// The processor time that the work takes, in milliseconds.
+/// The processor time that the work takes, in milliseconds. Notes its instructions where they are counted.
 double timeOf(std::function<void()> const& work);
+
+/// Does the jobs by instructions whose names contain a match, for runJobs(); in valgrind, which counts.
+void countJobs(std::vector<Job> const& jobs, std::string const& filter);
 
 /// Runs the jobs whose names contain a match of the regular expression `filter`; an empty one runs all. Prints a line
 /// for each (printFigure) with the figures of both sides as its remark. Returns 1 if a figure is above its goal, else

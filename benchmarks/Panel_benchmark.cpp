@@ -4,6 +4,7 @@
 
 #include "BenchmarkCase.hpp"
 #include "BenchmarkProgram.hpp"
+#include "Counting.hpp"
 #include "Jobs.hpp"
 #include "PanelSides.hpp"
 #include "Preview_jobs.hpp"
@@ -37,6 +38,13 @@ Job compare(std::string const& name, double goal, std::function<Measurement(Make
     return {name, goal, [prepare] { return prepare(makePanelSide); }, [prepare] { return prepare(makeBareSide); }, {}};
 }
 
+/// The same by instructions.
+Job compareCounts(std::string const& name, double goal, std::function<Measurement(MakeSide)> const& prepare) {
+    auto job = compare(name, goal, prepare);
+    job.byInstructions = true;
+    return job;
+}
+
 /// A window with a row of each kind.
 std::shared_ptr<PanelSide> openAllKinds(MakeSide make, int numbers = 0) {
     auto const kinds = allKinds();
@@ -63,7 +71,7 @@ Measurement repeated(Work const& work) {
 
 /// The program changes a value, which is painted. At first every value is its default, and later every second one is.
 Job change(std::string const& kind, double goal) {
-    return compare("host change and repaint, " + kind, goal, [kind](MakeSide make) {
+    return compareCounts("host change and repaint, " + kind, goal, [kind](MakeSide make) {
         auto const side = openAllKinds(make);
         int const row = kindsNamed({kind}).front();
         return repeated([side, row](int n) { side->change(row, n); });
@@ -72,7 +80,7 @@ Job change(std::string const& kind, double goal) {
 
 /// A person changes a value, which is painted.
 Job edit(std::string const& kind, std::string const& shown, double goal) {
-    return compare("edit until painted, " + shown, goal, [kind](MakeSide make) {
+    return compareCounts("edit until painted, " + shown, goal, [kind](MakeSide make) {
         auto const side = openAllKinds(make);
         int const row = kindsNamed({kind}).front();
         return repeated([side, row](int n) {
@@ -329,25 +337,27 @@ std::vector<Job> jobs() {
          [] { return [measure = tick(makePanelSide)] { return measure() / (1000.0 / 60) * 100; }; },
          {},
          "%"},
-        compare("10,000 values change, 23 are painted", 1.3, tick),
-        compare("opening 10,000 values", 1.5, openMany),
-        compare("closing 10,000 values", 1.5, closeMany),
+        compareCounts("10,000 values change, 23 are painted", 1.3, tick),
+        compareCounts("opening 10,000 values", 1.5, openMany),
+        compareCounts("closing 10,000 values", 1.5, closeMany),
         compare("every row made", 1.15, [](MakeSide make) { return makeRows(make, false); }),
         compare("heap of a row", 1.05, [](MakeSide make) { return makeRows(make, true); }),
         {"heap of a row that is not made", 64, heapOfUnmadeRow, {}, "B", 3},
-        compare("wheel through 10,000 rows", 1.5, scroll),
+        compareCounts("wheel through 10,000 rows", 1.5, scroll),
         {"scroll-bar drag over 10,000 rows, a step", 5, [] { return dragScrollBar(false); }, {}, "ms", 3},
         {"scroll-bar drag over 10,000 rows, rows", 80, [] { return dragScrollBar(true); }, {}, "", 3},
         {"Tab over 2,000 rows without focus", 20, tabOverDisplays, {}, "ms", 3},
         {"filter 10,000 rows and back", 50, [] { return filterMany(makePanelSide); }, {}, "ms", 5},
-        compare("default marks of 23 rows go", 1.5, hideMarks),
-        compare("host change and repaint, raw value shown", 1.3, changeWithRawValue),
-        compare("host change and repaint, two views", 1.1, changeInTwoViews),
+        compareCounts("default marks of 23 rows go", 1.5, hideMarks),
+        compareCounts("host change and repaint, raw value shown", 1.3, changeWithRawValue),
+        compareCounts("host change and repaint, two views", 1.1, changeInTwoViews),
         {"pool switch, 23 rows",
          1.5,
          [] { return switchPools(makePoolSide); },
          [] { return switchPools(makeBareSide); },
-         {}},
+         {},
+         15,
+         true},
     };
     addStepJobs(all);
     addPreviewJobs(all);
@@ -357,5 +367,12 @@ std::vector<Job> jobs() {
 } // namespace
 
 int main(int argc, char** argv) {
-    return runBenchmarkProgram(argc, argv, [] { return runJobs(jobs(), benchmark::GetBenchmarkFilter()); });
+    auto const run = [] {
+        auto const filter = benchmark::GetBenchmarkFilter();
+        if (!isCounting())
+            return runJobs(jobs(), filter);
+        countJobs(jobs(), filter);
+        return 0;
+    };
+    return runBenchmarkProgram(argc, argv, run);
 }
