@@ -13,7 +13,9 @@ constexpr int longestToolTip = 2000;
 
 QString plainToolTip(QString const& text) {
     auto const shown = text.size() > longestToolTip ? text.left(longestToolTip) + QChar(0x2026) : text;
-    if (!Kolt::isRichText(shown.toStdString()))
+    // Only a text with one of these may be rich, and nearly none has.
+    bool const mayBeRich = shown.contains(QLatin1Char('<')) || shown.contains(QLatin1Char('&'));
+    if (!mayBeRich || !Kolt::isRichText(shown.toStdString()))
         return shown;
     return QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(shown.toHtmlEscaped());
 }

@@ -8,6 +8,9 @@ namespace {
 
 void describe(QAction& action, QString const& name, Kolt::UndoHistory::Step const& step,
               ParameterNaming const& naming) {
+    // An edit after an edit leaves nothing to redo, as before.
+    if (!step && !action.isEnabled() && action.text() == name)
+        return;
     action.setEnabled(step != nullptr);
     auto const what = step ? undoText(*step, naming) : QString();
     auto const with = [&](QString const& shownName, QString const& shownWhat) {
