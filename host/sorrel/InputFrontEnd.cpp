@@ -165,10 +165,11 @@ Editor makeEditor(ParameterPtr const& parameter, QWidget* parent, ValuePoolSourc
     makeWidget(editor, *widgets, parameter, parent, tracked);
     // The editor asks until its last child is gone.
     if (editor.widget)
-        QObject::connect(editor.widget, &QObject::destroyed, [tracked](QObject const* gone) {
-            EditorFaults::forget(gone);
-            delete tracked;
-        });
+        QObject::connect(editor.widget, &QObject::destroyed, &EditorFaults::theFaults(),
+                         [tracked](QObject const* gone) {
+                             EditorFaults::forget(gone);
+                             delete tracked;
+                         });
     else
         delete tracked;
     if (editor.widget)
