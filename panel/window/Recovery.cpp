@@ -74,7 +74,6 @@ void Recovery::takePlace() {
     if (!QDir().mkpath(folder_))
         return;
     std::unique_ptr<QLockFile> empty;
-    int emptyPlace = 0;
     // A place where values were left behind comes before an empty one.
     for (int place = 0; place < places; ++place) {
         if (empty && !QFileInfo::exists(fileOf(place, "lock")) && !QFileInfo::exists(fileOf(place, "json")))
@@ -94,11 +93,10 @@ void Recovery::takePlace() {
         }
         if (!empty) {
             empty = std::move(lock);
-            emptyPlace = place;
+            place_ = place;
         }
     }
     lock_ = std::move(empty);
-    place_ = emptyPlace;
 }
 
 QString Recovery::fileOf(int place, char const* suffix) const {

@@ -29,8 +29,22 @@ protected:
         auto const content = QJsonDocument::fromJson(bytesOf(states() + '/' + kept().value(0))).object();
         return content.value(QStringLiteral("values")).toObject();
     }
+    /// Lets so many milliseconds pass, at once.
+    static void pass(int milliseconds) {
+        VirtualTime const time;
+        QEventLoop loop;
+        QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
     bool isKept() const {
-        return waitUntil([this] { return !kept().isEmpty(); });
+        pass(4000);
+        return !kept().isEmpty();
+    }
+    /// A network that was never saved.
+    static std::unique_ptr<Talo::Network> newNetwork() {
+        auto network = Talo::Network::create(QStringLiteral("New"), {"day"});
+        network->addObject("lamp", {Kolt::Parameter<bool>("on", false)});
+        return network;
     }
     /// Destroys the panel without closing it, and opens the file in another one.
     void crash() {
@@ -78,12 +92,10 @@ TEST_F(RecoveryTest, KeepsWhatWasUnsavedBeforeItWasThere) {
 }
 
 TEST_F(RecoveryTest, KeepsWhatIsUnsavedAFewSecondsAfterAnEdit) {
-    VirtualTime const time;
     edit();
-    ASSERT_TRUE(isMarked());
-    QTest::qWait(2000);
+    pass(2000);
     EXPECT_TRUE(kept().isEmpty()) << "edits that follow each other are written together";
-    QTest::qWait(2000);
+    pass(2000);
     ASSERT_FALSE(kept().isEmpty());
     EXPECT_EQ(keptValues(), (QJsonObject{{"all.enum", QJsonObject{{"value", "Blue"}}}}));
     action("undo")->trigger();
@@ -170,6 +182,8 @@ TEST_F(RecoveryTest, ASecondPanelSaysSoAndKeepsItsOwn) {
     ASSERT_TRUE(second.network()->setText("all.int", "7", second.pools().pool(), &error));
     others.write();
     EXPECT_EQ(kept().size(), 2);
+    ASSERT_TRUE(second.openNetwork(networkFile("other.json", lamps)));
+    EXPECT_FALSE(others.isOpenElsewhere()) << "nobody else has the other network open";
 }
 
 TEST_F(RecoveryTest, AnotherNetworkHasFilesOfItsOwn) {
@@ -183,10 +197,26 @@ TEST_F(RecoveryTest, AnotherNetworkHasFilesOfItsOwn) {
     EXPECT_TRUE(keptValues().contains("lamp.steady"));
 }
 
+TEST_F(RecoveryTest, TheSameNetworkOpenedAgainIsNoSecondPanel) {
+    ASSERT_TRUE(window->openNetwork(file()));
+    EXPECT_FALSE(recovery->isOpenElsewhere());
+    edit();
+    recovery->write();
+    EXPECT_EQ(kept().size(), 1);
+}
+
+TEST_F(RecoveryTest, WhatWasFoundIsNotThatOfANetworkWithoutAFile) {
+    edit();
+    recovery->write();
+    crash();
+    ASSERT_TRUE(recovery->found().written.isValid());
+    window->showNetwork(newNetwork());
+    EXPECT_FALSE(recovery->found().written.isValid());
+    EXPECT_EQ(kept().size(), 1) << "nobody decided about it";
+}
+
 TEST_F(RecoveryTest, KeepsNothingOfANetworkWithoutAFile) {
-    auto network = Talo::Network::create(QStringLiteral("New"), {"day"});
-    network->addObject("lamp", {Kolt::Parameter<bool>("on", false)});
-    window->showNetwork(std::move(network));
+    window->showNetwork(newNetwork());
     set("lamp.on", "true");
     ASSERT_TRUE(isMarked());
     recovery->write();
@@ -205,6 +235,10 @@ TEST_F(RecoveryTest, AFolderThatCannotBeMadeIsReportedOnce) {
     recovery->write();
     ASSERT_EQ(reasons.size(), 1);
     EXPECT_THAT(reasons[0].toStdString(), HasSubstr(states().toStdString()));
+    ASSERT_TRUE(window->openNetwork(networkFile("other.json", lamps)));
+    set("lamp.steady", "false");
+    recovery->write();
+    EXPECT_EQ(reasons.size(), 2) << "once for each network";
 }
 
 TEST_F(RecoveryTest, AFullDiskIsReportedOnce) {
