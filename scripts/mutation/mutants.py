@@ -8,6 +8,7 @@ import re
 import shutil
 import subprocess
 import sys
+import time
 
 from faults import faults_in
 
@@ -15,9 +16,9 @@ ROOT = pathlib.Path.cwd()
 TREE = ROOT / "build/mutants/tree"
 BUILD = TREE / "build/release"
 MODULES = ("host", "plugin", "qVinputs", "network", "parameters", "fractal", "panel")
-# The folders of tests/ that come first for a module.
-FIRST = {"plugin": ("plugin", "contract", "qVinputs"), "qVinputs": ("qVinputs", "contract"),
-         "parameters": ("parameters", "panel")}
+# The folders of tests/ with tests of a folder, where that is not the one of its name.
+MIRRORS = {"plugin": ("plugin", "contract", "qVinputs"), "qVinputs": ("qVinputs", "contract"),
+           "parameters": ("parameters", "panel")}
 SLOW = ("display", "install")
 
 
@@ -50,47 +51,84 @@ def configure():
                    stdout=subprocess.DEVNULL)
 
 
-def build(targets=()):
+def build(targets):
     command = ["ninja", "-C", str(BUILD), "-j", str(os.cpu_count()), *targets]
     return subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode == 0
 
 
+def test_sources(programs):
+    """The sources of each program, relative to the copy."""
+    queried = output_of("ninja", "-C", str(BUILD), "-t", "query", *(f"tests/{program}" for program in programs))
+    sources = {}
+    for line in queried.splitlines():
+        if heading := re.match(r"tests/(\w+):$", line):
+            current = sources.setdefault(heading.group(1), [])
+        elif unit := re.match(r"    (tests/\S+)/CMakeFiles/\w+\.dir/(\S+\.cpp)\.o$", line):
+            current.append(f"{unit.group(1)}/{unit.group(2)}".replace("/__/", "/../"))
+    return sources
+
+
 class Tests:
-    """The tests of the copy, by the folder of tests/ that declares them."""
+    """The tests of the copy."""
 
     def __init__(self):
         listed = json.loads(output_of("ctest", "--test-dir", str(BUILD), "--show-only=json-v1"))
-        graph = listed["backtraceGraph"]
-        self.folders = {}
-        self.programs = {}
+        self.programs = {}  # None for a test that is no program of its own
+        self.long = set()
         for test in listed["tests"]:
             properties = {each["name"]: each["value"] for each in test.get("properties", [])}
             if any(label in SLOW for label in properties.get("LABELS", [])):
                 continue
-            node = test["backtrace"]
-            while graph["nodes"][node].get("parent") is not None:
-                node = graph["nodes"][node]["parent"]
-            file = pathlib.Path(graph["files"][graph["nodes"][node]["file"]])
-            self.folders[test["name"]] = file.parent.name
             program = pathlib.Path(test.get("command", [""])[0])
-            if program.parent == BUILD / "tests":
-                self.programs[test["name"]] = program.name
+            self.programs[test["name"]] = program.name if program.parent == BUILD / "tests" else None
+            if "COST" in properties:
+                self.long.add(test["name"])
+        self.sources = test_sources(sorted(set(filter(None, self.programs.values()))))
 
-    def first_for(self, file):
-        module = file.split("/")[0]
-        folders = FIRST.get(module, (module,))
-        return [name for name in self.folders if self.folders[name] in folders]
+    def sources_of(self, test):
+        return self.sources.get(self.programs.get(test), [])
+
+    def is_named_like(self, test, name):
+        """Whether one of the test's sources is called after a class: ElfFile, elf_file_test, ElfFile_damage_test."""
+        stems = [pathlib.Path(source).stem.removesuffix("_test") for source in self.sources_of(test)]
+        return any(stem.replace("_", "").lower() == name.lower() or stem.startswith(name + "_") for stem in stems)
+
+    def mentions(self, test, name):
+        return any(re.search(rf"\b{name}\b", (TREE / source).read_text()) for source in self.sources_of(test))
+
+    def mirrors(self, test, file):
+        folders = file.split("/")
+        module = "/".join(folders[:2]) if folders[0] == "host" else folders[0]
+        return any(source.startswith(f"tests/{each}/")
+                   for source in self.sources_of(test) for each in MIRRORS.get(module, (module,)))
+
+    def stages_for(self, file):
+        """All tests, in the order in which they are likely to find a fault of the file soon."""
+        name = pathlib.Path(file).stem
+        stages = {"named": [], "mentioning": [], "mirror": [], "others": []}
+        for test in self.programs:
+            stage = ("named" if self.is_named_like(test, name) else "others" if test in self.long else
+                     "mentioning" if self.mentions(test, name) else "mirror" if self.mirrors(test, file) else "others")
+            stages[stage].append(test)
+        return [stage for stage in stages.values() if stage]
+
+    def targets_of(self, stage):
+        """What to build for it; everything if one of the tests is no program of its own."""
+        programs = {self.programs[test] for test in stage}
+        return ["all"] if None in programs else [f"tests/{program}" for program in sorted(programs)]
 
     def all(self):
-        return list(self.folders)
+        return list(self.programs)
 
     def failing(self, names):
         """The first test that fails; None if all pass."""
         if not names:
             return None
         pattern = "^(" + "|".join(map(re.escape, names)) + ")$"
+        # What waits for a condition in vain does so for half a minute, in each test.
         run = subprocess.run(["ctest", "--test-dir", str(BUILD), "-R", pattern, "-j", str(os.cpu_count()),
-                              "--stop-on-failure", "--timeout", "120"], capture_output=True, text=True)
+                              "--stop-on-failure", "--timeout", "120"], capture_output=True, text=True,
+                             env={**os.environ, "GTEST_FAIL_FAST": "1"})
         if run.returncode == 0:
             return None
         failed = re.search(r"#\d+: (\S+) \.*\*\*\*", run.stdout)
@@ -105,13 +143,12 @@ def find(fault, tests):
     lines[fault.line - 1] = fault.new
     try:
         target.write_text("\n".join(lines))
-        first = tests.first_for(fault.file)
-        programs = sorted({tests.programs[name] for name in first if name in tests.programs})
-        if not build(programs):
-            return "the compiler"
-        if found := tests.failing(first):
-            return found
-        return tests.failing([name for name in tests.all() if name not in first]) if build() else "the compiler"
+        for stage in tests.stages_for(fault.file):
+            if not build(tests.targets_of(stage)):
+                return "the compiler"
+            if found := tests.failing(stage):
+                return found
+        return None
     finally:
         target.write_text(sound)
 
@@ -126,9 +163,14 @@ def changed_lines(file):
     return lines
 
 
+def faults_of(file):
+    path = pathlib.Path(file)
+    return faults_in(file, path.read_text()) if path.is_file() else []
+
+
 def chosen_faults(arguments):
     files = [os.path.relpath(each) for each in arguments.files] or product_sources()
-    faults = [fault for file in files for fault in faults_in(file, pathlib.Path(file).read_text())]
+    faults = [fault for file in files for fault in faults_of(file)]
     if arguments.sample:
         return sorted(faults, key=lambda fault: fault.order)[:arguments.sample]
     if arguments.files:
@@ -138,9 +180,16 @@ def chosen_faults(arguments):
 
 
 def equivalent_faults():
-    """The faults of scripts/mutation/equivalent: file, old line, new line and reason, with tabulators between them."""
-    rows = (line.split("\t") for line in pathlib.Path("scripts/mutation/equivalent").read_text().splitlines())
-    return {tuple(row[:3]) for row in rows if len(row) == 4}
+    """The keys of the faults of scripts/mutation/equivalent, which says what its columns are."""
+    keys = set()
+    for number, line in enumerate(pathlib.Path("scripts/mutation/equivalent").read_text().splitlines(), 1):
+        if not line.strip() or line.startswith("#"):
+            continue
+        file, old, new, reason = (column.strip() for column in (line.split("\t") + 4 * [""])[:4])
+        if not reason or (file, old, new) not in {fault.key for fault in faults_of(file)}:
+            sys.exit(f"scripts/mutation/equivalent:{number}: no such fault, or no reason")
+        keys.add((file, old, new))
+    return keys
 
 
 def main():
@@ -157,7 +206,7 @@ def main():
     TREE.mkdir(parents=True, exist_ok=True)
     copy_tree()
     configure()
-    if not build():
+    if not build(["all"]):
         print("scripts/mutants: the copy cannot be built", file=sys.stderr)
         return 2
     tests = Tests()
@@ -166,11 +215,12 @@ def main():
         return 2
     survivors = []
     for number, fault in enumerate(faults, 1):
+        start = time.monotonic()
         found = find(fault, tests)
-        print(f"{number}/{len(faults)} {found or 'SURVIVES'}: {fault}", flush=True)
+        print(f"{number}/{len(faults)} {time.monotonic() - start:.0f} s, {found or 'SURVIVES'}: {fault}", flush=True)
         if found is None:
             survivors.append(fault)
-    build()
+    build(["all"])
     print(f"{len(survivors)} of {len(faults)} survive")
     print(*survivors, sep="\n")
     return 1 if survivors else 0
