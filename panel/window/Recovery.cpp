@@ -40,7 +40,6 @@ QString Recovery::userFolder() {
 
 Recovery::Recovery(Document& document, QString folder, QObject* parent)
     : QObject(parent), document_(document), folder_(std::move(folder)) {
-    timer_.setSingleShot(true);
     timer_.setInterval(writingDelay);
     connect(&timer_, &QTimer::timeout, this, &Recovery::write);
     connect(&document, &Document::modifiedChanged, this, &Recovery::showModified);

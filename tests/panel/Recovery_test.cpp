@@ -46,11 +46,12 @@ protected:
         network->addObject("lamp", {Kolt::Parameter<bool>("on", false)});
         return network;
     }
-    /// Destroys the panel without closing it, and opens the file in another one.
+    /// Destroys the panel without closing it, and opens its file in another one.
     void crash() {
+        auto const opened = window->document().path();
         recovery.reset();
         window = std::make_unique<Panel::MainWindow>(plugins);
-        ASSERT_TRUE(window->openNetwork(file()));
+        ASSERT_TRUE(window->openNetwork(opened));
         window->show();
         recovery = std::make_unique<Panel::Recovery>(window->document(), states());
     }
@@ -100,6 +101,14 @@ TEST_F(RecoveryTest, KeepsWhatIsUnsavedAFewSecondsAfterAnEdit) {
     EXPECT_EQ(keptValues(), (QJsonObject{{"all.enum", QJsonObject{{"value", "Blue"}}}}));
     action("undo")->trigger();
     EXPECT_TRUE(waitUntil([this] { return kept().isEmpty(); })) << "nothing is unsaved any more";
+}
+
+TEST_F(RecoveryTest, KeepsWhatIsUnsavedWhileEditsGoOn) {
+    for (auto const* const number : {"1", "2", "3", "4", "5"}) {
+        set("all.int", number);
+        pass(1000);
+    }
+    EXPECT_FALSE(kept().isEmpty());
 }
 
 TEST_F(RecoveryTest, ForgetsWhatIsSaved) {
@@ -195,6 +204,42 @@ TEST_F(RecoveryTest, AnotherNetworkHasFilesOfItsOwn) {
     set("lamp.steady", "false");
     recovery->write();
     EXPECT_TRUE(keptValues().contains("lamp.steady"));
+}
+
+TEST_F(RecoveryTest, APanelThatIsOpenForLongIsStillThere) {
+    auto const locks = QDir(states()).entryInfoList({QStringLiteral("*.lock")}, QDir::Files);
+    ASSERT_EQ(locks.size(), 1);
+    QFile lock(locks.front().filePath());
+    ASSERT_TRUE(lock.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTime().addDays(-1), QFileDevice::FileModificationTime));
+    lock.close();
+    Panel::Recovery const others(window->document(), states());
+    EXPECT_TRUE(others.isOpenElsewhere());
+}
+
+TEST_F(RecoveryTest, FindsWhatTheThirdOfThreePanelsLeftBehind) {
+    auto second = std::make_unique<Panel::Recovery>(window->document(), states());
+    auto third = std::make_unique<Panel::Recovery>(window->document(), states());
+    edit();
+    third->write();
+    second.reset();
+    third.reset();
+    crash();
+    EXPECT_TRUE(recovery->found().written.isValid());
+}
+
+TEST_F(RecoveryTest, FollowsANetworkThatIsSavedElsewhere) {
+    edit();
+    recovery->write();
+    ASSERT_TRUE(window->saveValues(folder.filePath(QStringLiteral("elsewhere.json"))));
+    EXPECT_TRUE(kept().isEmpty());
+    set("all.int", "99");
+    recovery->write();
+    crash();
+    EXPECT_TRUE(window->document().path().endsWith(QStringLiteral("elsewhere.json")));
+    EXPECT_TRUE(answerQuestion("restore"));
+    EXPECT_EQ(held("int"), "99");
+    EXPECT_EQ(held("enum"), "Blue");
 }
 
 TEST_F(RecoveryTest, TheSameNetworkOpenedAgainIsNoSecondPanel) {
