@@ -158,6 +158,7 @@ TEST_F(SectionBoxTest, OnAFilledBackgroundItLooksAsTheStylePaintsIt) {
         return content.grab().toImage().convertToFormat(QImage::Format_RGB32) == expected();
     };
     EXPECT_TRUE(isAsExpected());
+    EXPECT_TRUE(box.testAttribute(Qt::WA_OpaquePaintEvent)) << "Qt need not paint the background behind it";
     for (QColor const& colour : {QColor(255, 255, 255), QColor(40, 42, 46), QColor(200, 90, 17)}) {
         auto palette = content.palette();
         palette.setColor(QPalette::Window, colour);
@@ -200,6 +201,14 @@ TEST_F(SectionBoxTest, ShowsWhatItsParentLetsThroughOrHasPainted) {
         EXPECT_EQ(painted(new Box(QString()), prepare), painted(new PlainBox, prepare)) << what;
     };
     expectAsPainted([](QWidget&) {}, "a parent that is not filled");
+    expectAsPainted(
+        [](QWidget& parent) {
+            parent.setAutoFillBackground(true);
+            auto* const box = parent.findChild<QGroupBox*>();
+            box->setAutoFillBackground(true);
+            box->setPalette(QPalette(Qt::green));
+        },
+        "a background of its own");
     expectAsPainted(
         [&](QWidget& parent) {
             parent.setAutoFillBackground(true);
