@@ -96,6 +96,19 @@ TEST_F(ViewPoolTest, ThePoolOfAViewIsChosenInItsHead) {
     EXPECT_EQ(dock->windowTitle(), QStringLiteral("lamp"));
 }
 
+TEST_F(ViewPoolTest, AViewThatIsClosedIsGone) {
+    QPointer<Panel::ViewDock> const dock = openView("night");
+    ASSERT_TRUE(dock);
+    auto* const button = dock->findChild<QAbstractButton*>(QStringLiteral("qt_dockwidget_closebutton"));
+    ASSERT_NE(button, nullptr);
+    EXPECT_TRUE(waitUntil([&] { return button->isVisible(); }));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(waitUntil([&] { return dock.isNull(); }));
+    EXPECT_TRUE(titles().empty());
+    set("lamp.on", "true");
+    EXPECT_TRUE(box("on")->isChecked()) << "the form is still there";
+}
+
 TEST_F(ViewPoolTest, ATypedTextGoesToThePoolInWhichItWasTyped) {
     ASSERT_TRUE(window->openNetwork(networkFile("note.json", R"({ "pools": ["day", "night"], "objects": [
         { "name": "note", "parameters": [ { "name": "text", "type": "string", "value": "a", "perPool": true,
