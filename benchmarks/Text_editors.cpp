@@ -94,9 +94,9 @@ private:
 
 class BareFileName : public QPushButton, public BareEditor {
 public:
-    explicit BareFileName(QWidget* parent) : QPushButton(parent) {
+    /// Shows what it is for until a file is chosen.
+    BareFileName(QWidget* parent, QString const& caption) : QPushButton(caption, parent) {
         setFont(smallBold("Arial", font()));
-        change(0);
         connect(this, &QPushButton::released, this,
                 [this] { value_ = QFileDialog::getSaveFileName(this).toStdString(); });
     }
@@ -124,6 +124,12 @@ BenchmarkCase textCase(std::string const& creator, std::vector<std::string> cons
     return made;
 }
 
+BenchmarkCase fileNameCase(std::string const& creator, std::string const& preference, QString const& caption) {
+    auto made = benchmarkCase(creator, {preference}, texts[0], texts[1]);
+    made.makeBare = [caption](QWidget* parent) { return new BareFileName(parent, caption); };
+    return made;
+}
+
 } // namespace
 
 void addTextBenchmarks(std::vector<BenchmarkCase>& cases) {
@@ -148,7 +154,7 @@ void addTextBenchmarks(std::vector<BenchmarkCase>& cases) {
     cases.push_back(text);
 
     // What an edit costs is a person's time in a dialog, so there is none here.
-    cases.push_back(textCase<std::string, BareFileName>("FileNameCreator", {"Save as"}));
-    cases.push_back(textCase<std::string, BareFileName>("FileNameCreatorPDF", {"Save as PDF"}));
-    cases.push_back(textCase<std::string, BareFileName>("OpenFileCreator", {"FileInput"}));
+    cases.push_back(fileNameCase("FileNameCreator", "Save as", QStringLiteral("Save as")));
+    cases.push_back(fileNameCase("FileNameCreatorPDF", "Save as PDF", QStringLiteral("Save as PDF")));
+    cases.push_back(fileNameCase("OpenFileCreator", "FileInput", QStringLiteral("Select File")));
 }
