@@ -81,10 +81,11 @@ qVColor::~qVColor() = default;
 
 void qVColor::showColour(Ferro::rgba_float_t const& colour) {
     setAutoFillBackground(true);
-    // Qt lays the label out anew even for the style that it has.
+    // To set a frame lays out the label, also if it is the same.
     if (frameStyle() != QFrame::Box)
         setFrameStyle(QFrame::Box);
-    setLineWidth(1);
+    if (lineWidth() != 1)
+        setLineWidth(1);
 
     auto const window = shownColour(colour);
     bool const light = std::min({window.redF(), window.greenF(), window.blueF()}) >= Channel(0.5);

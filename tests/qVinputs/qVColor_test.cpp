@@ -90,6 +90,20 @@ TEST_F(qVColorTest, FillsAFrameWithTheColour) {
     EXPECT_EQ(editor.widget->palette().brush(QPalette::Window).style(), Qt::SolidPattern);
 }
 
+TEST_F(qVColorTest, EachColourComesWithItsFrame) {
+    auto const parameter = colourParameter({0.2F, 0.4F, 0.6F, 0.25F});
+    auto const editor = open(parameter);
+    auto* const frame = qobject_cast<QFrame*>(editor.widget);
+    frame->setFrameStyle(int{QFrame::Panel} | int{QFrame::Raised});
+    frame->setLineWidth(3);
+    frame->setAutoFillBackground(false);
+    ASSERT_TRUE(Kolt::setParameterValue(*parameter, rgba_float_t{1.0F, 0.0F, 0.0F, 1.0F}, nullptr, std::string(), false,
+                                        nullptr, nullptr));
+    EXPECT_TRUE(label(editor).autoFillBackground());
+    EXPECT_EQ(label(editor).frameStyle(), static_cast<int>(QFrame::Box));
+    EXPECT_EQ(label(editor).lineWidth(), 1);
+}
+
 TEST_F(qVColorTest, TheTextContrasts) {
     struct Row {
         rgba_float_t colour;
