@@ -38,14 +38,14 @@ void FocusOutline::followSize() {
 void FocusOutline::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     auto frame = rect();
-    auto const draw = [&](QPalette::ColorRole role) {
-        painter.setPen(palette().color(role));
-        painter.drawRect(frame.adjusted(0, 0, -1, -1));
-        frame.adjust(1, 1, -1, -1);
+    auto const draw = [&](QPalette::ColorRole role, int width) {
+        // Filled, as Qt needs longer to draw lines within a mask.
+        for (auto const& side : QRegion(frame).subtracted(frame.adjusted(width, width, -width, -width)))
+            painter.fillRect(side, palette().color(role));
+        frame.adjust(width, width, -width, -width);
     };
-    draw(QPalette::Highlight);
-    draw(QPalette::Highlight);
-    draw(QPalette::HighlightedText);
+    draw(QPalette::Highlight, lines - 1);
+    draw(QPalette::HighlightedText, 1);
 }
 
 } // namespace Talo

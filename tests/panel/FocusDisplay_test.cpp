@@ -54,6 +54,26 @@ TEST_F(FocusDisplayTest, ASliderThatWasClickedShowsThatItHasTheFocus) {
     }
 }
 
+TEST_F(FocusDisplayTest, AFrameHasTwoLinesOfOneColourAndOneOfTheOther) {
+    QWidget widget;
+    widget.resize(30, 20);
+    auto palette = widget.palette();
+    palette.setColor(QPalette::Window, Qt::white);
+    palette.setColor(QPalette::Highlight, Qt::blue);
+    palette.setColor(QPalette::HighlightedText, Qt::yellow);
+    widget.setPalette(palette);
+    Talo::FocusOutline outline(&widget);
+    outline.show();
+    auto const image = widget.grab().toImage();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            int const edge = qMin(qMin(x, image.width() - 1 - x), qMin(y, image.height() - 1 - y));
+            auto const expected = edge < 2 ? Qt::blue : edge == 2 ? Qt::yellow : Qt::white;
+            ASSERT_EQ(image.pixelColor(x, y), QColor(expected)) << x << ", " << y;
+        }
+    }
+}
+
 TEST_F(FocusDisplayTest, AViewThatTakesTheFocusShowsIt) {
     auto* const area = window->currentView()->panel()->rowArea();
     auto const before = area->grab().toImage();
