@@ -16,7 +16,7 @@ ROOT = pathlib.Path.cwd()
 TREE = ROOT / "build/mutants/tree"
 BUILD = TREE / "build/release"
 MODULES = ("host", "plugin", "qVinputs", "network", "parameters", "fractal", "panel")
-# The folders of tests/ with tests of a folder, where that is not the one of its name.
+# The folders of tests/ that mirror a module, where that is not the one of its name.
 MIRRORS = {"plugin": ("plugin", "contract", "qVinputs"), "qVinputs": ("qVinputs", "contract"),
            "parameters": ("parameters", "panel")}
 SLOW = ("display", "install")
@@ -64,7 +64,10 @@ def test_sources(programs):
         if heading := re.match(r"tests/(\w+):$", line):
             current = sources.setdefault(heading.group(1), [])
         elif unit := re.match(r"    (tests/\S+)/CMakeFiles/\w+\.dir/(\S+\.cpp)\.o$", line):
-            current.append(f"{unit.group(1)}/{unit.group(2)}".replace("/__/", "/../"))
+            source = f"{unit.group(1)}/{unit.group(2)}".replace("/__/", "/../")
+            # Some are made when the tests are built.
+            if (TREE / source).is_file():
+                current.append(source)
     return sources
 
 
@@ -97,8 +100,7 @@ class Tests:
         return any(re.search(rf"\b{name}\b", (TREE / source).read_text()) for source in self.sources_of(test))
 
     def mirrors(self, test, file):
-        folders = file.split("/")
-        module = "/".join(folders[:2]) if folders[0] == "host" else folders[0]
+        module = file.split("/")[0]
         return any(source.startswith(f"tests/{each}/")
                    for source in self.sources_of(test) for each in MIRRORS.get(module, (module,)))
 
@@ -131,7 +133,7 @@ class Tests:
                              env={**os.environ, "GTEST_FAIL_FAST": "1"})
         if run.returncode == 0:
             return None
-        failed = re.search(r"#\d+: (\S+) \.*\*\*\*", run.stdout)
+        failed = re.search(r"#\d+: (\S+) .*\*\*\*", run.stdout)
         return failed.group(1) if failed else "a test"
 
 
