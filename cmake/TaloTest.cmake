@@ -1,8 +1,9 @@
 find_package(GTest REQUIRED)
 find_package(Qt${TALO_QT} ${TALO_QT_VERSION} REQUIRED COMPONENTS Test)
-# Qt tells each test the build folder, which none asks for. Without it the compiler's cache serves several folders.
+# Qt tells each test where it is built, which none asks for. Without that the compiler's cache serves several folders, and
+# one precompiled header all of them.
 get_target_property(definitions Qt${TALO_QT}::Test INTERFACE_COMPILE_DEFINITIONS)
-list(FILTER definitions EXCLUDE REGEX "^QT_TESTCASE_BUILDDIR=")
+list(FILTER definitions EXCLUDE REGEX "QT_TESTCASE_(BUILD|SOURCE)DIR=")
 set_target_properties(Qt${TALO_QT}::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS "${definitions}")
 
 set(TALO_TEST_PLATFORM offscreen CACHE STRING "Qt's platform for the tests; xcb needs a display with a window manager")
