@@ -45,12 +45,12 @@ private:
 };
 
 /// Shows the status as a label does: the event loop delivers reports of another thread later.
-class Display : public QObject, public Kolt::ValueNotifier {
+class StatusDisplay : public QObject, public Kolt::ValueNotifier {
 public:
-    explicit Display(Kolt::ParameterPtr const& status) {
+    explicit StatusDisplay(Kolt::ParameterPtr const& status) {
         status->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
     }
-    ~Display() override { stopNotifications(); }
+    ~StatusDisplay() override { stopNotifications(); }
 
     std::string shown;
 
@@ -139,7 +139,7 @@ TEST_F(RenderQueueTest, TheWorkerItselfReportsItsStatus) {
 }
 
 TEST_F(RenderQueueTest, TheFinalStatusIsShownLastHoweverFastTheWorkerIs) {
-    Display const display(parameter("render.status"));
+    StatusDisplay const display(parameter("render.status"));
     for (int round = 0; round < 10; ++round) {
         auto const first = folder.filePath(QStringLiteral("%1 first.png").arg(round));
         auto const second = folder.filePath(QStringLiteral("%1 second.png").arg(round));
