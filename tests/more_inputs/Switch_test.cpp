@@ -19,7 +19,7 @@ protected:
 };
 
 double luminance(QColor const& colour) {
-    return 0.2126 * colour.redF() + 0.7152 * colour.greenF() + 0.0722 * colour.blueF();
+    return (0.2126 * colour.red() + 0.7152 * colour.green() + 0.0722 * colour.blue()) / 255;
 }
 
 } // namespace

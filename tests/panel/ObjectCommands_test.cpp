@@ -117,7 +117,7 @@ TEST_F(ObjectCommandsTest, ATypedTextDoesNotComeBackAfterTheReset) {
 TEST_F(ObjectCommandsTest, TheListHasAMenuForTheChosenObject) {
     auto* const list = window->objectList();
     ASSERT_TRUE(window->showObject(QStringLiteral("second")));
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, {10, 10}, list->viewport()->mapToGlobal({10, 10}));
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {10, 10}, list->viewport()->mapToGlobal(QPoint(10, 10)));
     QApplication::sendEvent(list->viewport(), &event);
     QPointer<QMenu> const menu = list->findChild<QMenu*>();
     ASSERT_TRUE(menu);

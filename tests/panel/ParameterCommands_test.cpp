@@ -24,7 +24,7 @@ protected:
 
     /// Opens the context menu of a part of a row.
     static QMenu* contextMenu(QWidget* part) {
-        QContextMenuEvent event(QContextMenuEvent::Mouse, {1, 1}, part->mapToGlobal({1, 1}));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {1, 1}, part->mapToGlobal(QPoint(1, 1)));
         QApplication::sendEvent(part, &event);
         return Talo::ParameterRow::rowOf(part)->findChild<QMenu*>();
     }
