@@ -142,6 +142,8 @@ void MainWindow::connectParts() {
     connect(fractal_.get(), &Fractal::FractalController::reported, this, &MainWindow::report);
     objectList_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(objectList_, &QWidget::customContextMenuRequested, this, &MainWindow::showObjectMenu);
+    // Their keys work before a menu is opened.
+    connect(this, &MainWindow::networkOpened, objectCommands_, &ObjectCommands::updateActions);
     connect(objectCommands_, &ObjectCommands::commitRequested, this, &MainWindow::commitPendingEdit);
     connect(objectCommands_, &ObjectCommands::refused, this, &MainWindow::showRefusal);
     connect(presetMenu_, &PresetMenu::commitRequested, this, &MainWindow::commitPendingEdit);

@@ -82,6 +82,17 @@ TEST_F(SeveralChosenTest, UndoKeepsTheFormOfSeveral) {
     EXPECT_TRUE(window->currentView()->showsSeveral());
 }
 
+TEST_F(SeveralChosenTest, TheKeysCopyAndPasteBeforeAnyMenuWasOpened) {
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    choose({"c"});
+    QTest::keyClick(window.get(), Qt::Key_C, Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_THAT(QApplication::clipboard()->text().toStdString(), HasSubstr("c.Motor.speed = 3"));
+    choose({"a"});
+    QTest::keyClick(window.get(), Qt::Key_V, Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(value("a.Motor.speed"), "3");
+}
+
 TEST_F(SeveralChosenTest, CopyAndPasteOfAnObjectIsOneStep) {
     choose({"c"});
     action("copyObjects")->trigger();
