@@ -50,7 +50,7 @@ TEST_F(FontSizeTest, TheFilterHasRoomForItsExplanation) {
     enlarge();
     EXPECT_TRUE(waitUntil(
         [&] { return field->maximumWidth() > field->fontMetrics().horizontalAdvance(field->placeholderText()); }));
-    EXPECT_EQ(field->font().pixelSize(), 2 * QFontInfo(usual).pixelSize());
+    EXPECT_TRUE(waitUntil([&] { return field->font().pixelSize() == 2 * QFontInfo(usual).pixelSize(); }));
 }
 
 TEST_F(FontSizeTest, TheColumnsOfTheGalleryFitTheirTitles) {

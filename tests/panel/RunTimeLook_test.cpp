@@ -102,7 +102,11 @@ protected:
         settle();
         return window->grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
-    void choose(char const* name) { action(name)->trigger(); }
+    void choose(char const* name) {
+        action(name)->trigger();
+        // Qt 6 tells the widgets of it by an event.
+        QCoreApplication::processEvents();
+    }
     /// How the window looks when it is made anew under the colours and the size of now.
     QImage pictureOfNewWindow() {
         auto const file = window->network()->file();
@@ -188,7 +192,10 @@ TEST_F(RunTimeLookTest, TheWindowLooksAsOneThatWasMadeInThisSize) {
 
 TEST_F(RunTimeLookTest, TheSizeHasBoundsAndKeys) {
     // Some platforms give the font in pixels.
-    auto const size = [this] { return QFontInfo(window->font()).pointSizeF(); };
+    auto const size = [this] {
+        QCoreApplication::processEvents();
+        return QFontInfo(window->font()).pointSizeF();
+    };
     double const usual = size();
     EXPECT_FALSE(action("usualText")->isEnabled());
     window->activateWindow();

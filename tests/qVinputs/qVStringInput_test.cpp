@@ -105,10 +105,14 @@ TEST_F(SingleLineText, CommitsWhatQtReportsAsFinishedAlsoUnchanged) {
     ASSERT_TRUE(focus(editor));
     change(parameter, std::string("from the host"));
     watch(parameter);
+    QSignalSpy const finished(editor, &QLineEdit::editingFinished);
     QTest::keyClick(editor, Qt::Key_Return);
     QTest::keyClick(editor, Qt::Key_Enter);
     ASSERT_TRUE(focus(other));
-    EXPECT_THAT(recorder.values, ElementsAre("from the host", "from the host", "from the host"));
+    // Qt 5 reports that the focus is gone as well.
+    EXPECT_GE(finished.count(), 2);
+    EXPECT_THAT(recorder.values, testing::SizeIs(finished.count()));
+    EXPECT_THAT(recorder.values, testing::Each("from the host"));
 }
 
 TEST_F(SingleLineText, TakesUpdateOnEnterOnlyFromTheCreatorWhereTheParameterHasNoPreferences) {

@@ -59,7 +59,7 @@ protected:
     static void expectSmallBold(QFont const& font, char const* family) {
         EXPECT_EQ(font.family(), QLatin1String(family));
         EXPECT_EQ(font.pointSize(), 8);
-        EXPECT_EQ(font.weight(), 75);
+        EXPECT_EQ(font.weight(), QFont::Bold);
         EXPECT_FALSE(font.italic());
     }
 };
