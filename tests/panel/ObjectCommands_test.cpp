@@ -49,12 +49,6 @@ protected:
         return {valueOf("first.on"), valueOf("first.level"), valueOf("first.Motor.fast"), valueOf("first.Motor.locked"),
                 valueOf("second.on")};
     }
-    QMenu* editMenu() const {
-        for (auto* const menu : window->findChildren<QMenu*>())
-            if (menu->actions().contains(action("resetObject")))
-                return menu;
-        return nullptr;
-    }
 
     QByteArray opened;
     QByteArray edited;
@@ -83,10 +77,10 @@ TEST_F(ObjectCommandsTest, AllObjectsAreResetAsOneStepInTheChosenPool) {
 }
 
 TEST_F(ObjectCommandsTest, TheSectionOfTheFocusIsReset) {
-    emit editMenu()->aboutToShow();
+    emit menuWith("resetObject")->aboutToShow();
     EXPECT_FALSE(action("resetSection")->isEnabled());
     box("Motor.fast")->setFocus();
-    emit editMenu()->aboutToShow();
+    emit menuWith("resetObject")->aboutToShow();
     EXPECT_TRUE(action("resetSection")->isEnabled());
     action("resetSection")->trigger();
     EXPECT_THAT(values(), ElementsAre("true", "7", "false", "true", "true"));

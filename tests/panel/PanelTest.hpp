@@ -3,11 +3,13 @@
 #include "support/PluginFile.hpp"
 #include "support/TaloTest.hpp"
 
+#include <algorithm>
 #include <lattice/ActionNotifier.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <panel/window/MainWindow.hpp>
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QToolButton>
 
@@ -82,6 +84,14 @@ protected:
     }
     QCheckBox* box(char const* name) const { return box(window->currentView(), name); }
     QAction* action(char const* name) const { return window->findChild<QAction*>(QString::fromUtf8(name)); }
+    /// The menu that has an action.
+    QMenu* menuWith(char const* name) const {
+        auto const menus = window->findChildren<QMenu*>();
+        auto const found = std::find_if(menus.begin(), menus.end(), [action = action(name)](auto const* menu) {
+            return menu->actions().contains(action);
+        });
+        return found == menus.end() ? nullptr : *found;
+    }
     /// Sets a value as the host would, in the chosen pool.
     void set(char const* name, char const* text) {
         QString error;

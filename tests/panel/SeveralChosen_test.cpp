@@ -125,6 +125,7 @@ TEST_F(SeveralChosenTest, SeveralCopiedObjectsGoToAsManyInTheirOrder) {
 TEST_F(SeveralChosenTest, ASectionIsCopiedAlone) {
     choose({"c"});
     window->currentView()->row("Motor.speed")->editor()->setFocus();
+    emit menuWith("copySection")->aboutToShow();
     action("copySection")->trigger();
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("c.Motor.speed = 3"));
     choose({"a"});
