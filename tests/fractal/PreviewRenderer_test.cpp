@@ -60,7 +60,8 @@ TEST_F(PreviewRendererTest, TheFirstFinePictureDoesNotWaitForAPause) {
 
 TEST_F(PreviewRendererTest, TheFirstFinePictureDoesNotWaitWhileTheWindowFindsItsSize) {
     bool isResized = false;
-    QObject::connect(&maker, &PreviewRenderer::pictureChanged, &maker, [this, &isResized] {
+    QObject const untilTheEnd;
+    QObject::connect(&maker, &PreviewRenderer::pictureChanged, &untilTheEnd, [this, &isResized] {
         if (!std::exchange(isResized, true))
             maker.setSize({100, 75});
     });
