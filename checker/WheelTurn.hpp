@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QWheelEvent>
+#include <QWidget>
 
 namespace Checker {
 

@@ -6,6 +6,7 @@
 
 #include <parameters/rows/ParameterRow.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
+#include <QLineEdit>
 #include <QSpinBox>
 #include <sorrel/GuardedApplication.hpp>
 

@@ -7,6 +7,7 @@
 #include <panel/PluginTrial.hpp>
 #include <panel/window/PluginMenu.hpp>
 #include <panel/window/Plugins.hpp>
+#include <QAbstractButton>
 #include <QFileDialog>
 #include <QMainWindow>
 #include <QMessageBox>

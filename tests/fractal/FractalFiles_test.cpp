@@ -3,6 +3,8 @@
 #include "FractalControllerTest.hpp"
 #include "support/FileDialogs.hpp"
 
+#include <QMessageBox>
+
 using testing::Contains;
 using testing::SizeIs;
 using testing::StartsWith;

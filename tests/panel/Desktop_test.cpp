@@ -2,6 +2,7 @@
 
 #include "DesktopTest.hpp"
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QDial>
 #include <QDockWidget>

@@ -18,6 +18,7 @@
 #include "WalkShortener.hpp"
 #include "WindowCheck.hpp"
 
+#include <QClipboard>
 #include <QEventLoop>
 #include <QTimer>
 

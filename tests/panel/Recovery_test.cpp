@@ -274,7 +274,9 @@ TEST_F(RecoveryTest, AFolderThatCannotBeMadeIsReportedOnce) {
     ASSERT_TRUE(QFile::copy(file(), states()));
     recovery = std::make_unique<Panel::Recovery>(window->document(), states());
     QStringList reasons;
-    QObject::connect(recovery.get(), &Panel::Recovery::failed, [&](QString const& reason) { reasons << reason; });
+    QObject const untilTheEnd;
+    QObject::connect(recovery.get(), &Panel::Recovery::failed, &untilTheEnd,
+                     [&](QString const& reason) { reasons << reason; });
     edit();
     recovery->write();
     recovery->write();
@@ -288,7 +290,9 @@ TEST_F(RecoveryTest, AFolderThatCannotBeMadeIsReportedOnce) {
 
 TEST_F(RecoveryTest, AFullDiskIsReportedOnce) {
     QStringList reasons;
-    QObject::connect(recovery.get(), &Panel::Recovery::failed, [&](QString const& reason) { reasons << reason; });
+    QObject const untilTheEnd;
+    QObject::connect(recovery.get(), &Panel::Recovery::failed, &untilTheEnd,
+                     [&](QString const& reason) { reasons << reason; });
     edit();
     {
         FullDisk const disk(10);

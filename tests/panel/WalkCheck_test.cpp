@@ -7,6 +7,7 @@
 
 #include <parameters/commands/HistoryView.hpp>
 #include <parameters/rows/ModifiedIndicator.hpp>
+#include <QDial>
 #include <QDockWidget>
 #include <QScrollBar>
 #include <QSlider>

@@ -10,6 +10,7 @@
 #include <QDial>
 #include <QScrollBar>
 #include <QSlider>
+#include <QStyleOptionSlider>
 #include <QVBoxLayout>
 
 using testing::IsEmpty;

@@ -5,6 +5,7 @@
 #include <parameters/commands/RowCommands.hpp>
 #include <parameters/EditorChoice.hpp>
 #include <QDial>
+#include <QLineEdit>
 #include <QMenu>
 #include <QSlider>
 

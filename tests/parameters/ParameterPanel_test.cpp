@@ -6,6 +6,7 @@
 #include <parameters/OnePool.hpp>
 #include <parameters/rows/ParameterRow.hpp>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QScrollBar>

@@ -11,10 +11,10 @@ class RowLayoutTest : public TaloTest {
 protected:
     RowLayoutTest() {
         layout.addSection();
-        for (std::size_t const heightClass : {0, 1, 0})
+        for (auto const heightClass : {0U, 1U, 0U})
             layout.addRow(heightClass);
         layout.addSection();
-        for (std::size_t const heightClass : {0, 1})
+        for (auto const heightClass : {0U, 1U})
             layout.addRow(heightClass);
         layout.setSectionMargins(0, {10, 3, 8});
         layout.setSectionMargins(1, {20, 5, 16});
@@ -53,7 +53,7 @@ TEST_F(RowLayoutTest, OfAFoldedSectionOnlyTheTitleHasAPlace) {
     EXPECT_TRUE(layout.isShown(3));
     EXPECT_EQ(layout.shownCount(), 5U) << "they are not hidden by a filter";
     EXPECT_EQ(layout.firstRowBelow(15), 3U);
-    for (std::size_t const row : {0, 1, 2})
+    for (auto const row : {0U, 1U, 2U})
         layout.setShown(row, false);
     layout.arrange();
     EXPECT_EQ(layout.sectionHeight(0), 0) << "without a shown row there is no title";
@@ -108,7 +108,7 @@ TEST_F(RowLayoutTest, AHiddenRowTakesNoRoom) {
 }
 
 TEST_F(RowLayoutTest, ASectionWithoutShownRowsTakesNoRoom) {
-    for (std::size_t const row : {0, 1, 2})
+    for (auto const row : {0U, 1U, 2U})
         layout.setShown(row, false);
     layout.arrange();
     EXPECT_EQ(layout.sectionHeight(0), 0);

@@ -3,6 +3,7 @@
 
 #include <lattice/Object.hpp>
 #include <QLCDNumber>
+#include <QSlider>
 #include <sorrel/QIconizer.hpp>
 
 using Values = Kolt::VParameter::Values;

@@ -2,6 +2,8 @@
 #include "support/PluginFile.hpp"
 #include "support/WheelTurn.hpp"
 
+#include <QLayout>
+
 using Kolt::ParameterPtr;
 using Values = Kolt::VParameter::Values;
 

@@ -86,7 +86,7 @@ TEST_F(qVColorTest, FillsAFrameWithTheColour) {
     EXPECT_TRUE(label(editor).autoFillBackground());
     EXPECT_EQ(label(editor).frameStyle(), static_cast<int>(QFrame::Box));
     EXPECT_EQ(label(editor).lineWidth(), 1);
-    EXPECT_EQ(shown(editor, QPalette::Window), QColor::fromRgbF(0.2F, 0.4F, 0.6F, 0.25F));
+    EXPECT_EQ(shown(editor, QPalette::Window), QColor::fromRgbF(qreal(0.2F), qreal(0.4F), qreal(0.6F), qreal(0.25F)));
     EXPECT_EQ(editor.widget->palette().brush(QPalette::Window).style(), Qt::SolidPattern);
 }
 
@@ -303,7 +303,7 @@ TEST_F(qVColorTest, AChangeFromElsewhereIsNoChoice) {
     QSignalSpy const choices(&dialog(editor), &QColorDialog::currentColorChanged);
     rgba_float_t const fine{0.1F, 0.2F, 0.3F, 0.4F};
     EXPECT_TRUE(Kolt::setParameterValue(*parameter, fine, firstPool, std::string(), false, nullptr, nullptr));
-    EXPECT_EQ(shown(editor, QPalette::Window), QColor::fromRgbF(0.1F, 0.2F, 0.3F, 0.4F));
+    EXPECT_EQ(shown(editor, QPalette::Window), QColor::fromRgbF(qreal(0.1F), qreal(0.2F), qreal(0.3F), qreal(0.4F)));
     EXPECT_EQ(choices.count(), 0);
     EXPECT_TRUE(same(colourOf(parameter->ownValue()), fine));
 }

@@ -1,5 +1,6 @@
 #include "qVinputs/SingleLineTextTest.hpp"
 
+#include <QClipboard>
 #include <QMetaMethod>
 
 namespace {

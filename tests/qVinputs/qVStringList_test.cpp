@@ -2,6 +2,7 @@
 #include "support/TextDrop.hpp"
 #include <bramble/StringSelection.hpp>
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFrame>
 #include <QHBoxLayout>

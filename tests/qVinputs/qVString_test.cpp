@@ -1,5 +1,6 @@
 #include "qVinputs/TextEditorTest.hpp"
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <QMetaMethod>
 #include <QTextEdit>

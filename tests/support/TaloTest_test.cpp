@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QTimer>
 #include <thread>
 

@@ -1,5 +1,6 @@
 #include "support/TestHost.hpp"
 
+#include <QLabel>
 #include <sorrel/InputFrontEnd.hpp>
 
 namespace Sample {

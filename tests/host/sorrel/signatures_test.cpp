@@ -1,6 +1,7 @@
 #include "host/signature.hpp"
 #include "support/TaloTest.hpp"
 
+#include <QLabel>
 #include <sorrel/InputFrontEnd.hpp>
 #include <sorrel/QIconizer.hpp>
 #include <sorrel/QInputCreator.hpp>
