@@ -39,7 +39,10 @@ double goalOfMore(std::string const& kind) {
 /// The ratio to the bare editor that is allowed elsewhere.
 double goalOfRatio(std::string const& kind, std::string const& measure) {
     // It asks its parent to take its size anew, and the parent of the benchmark has nine more editors to draw.
-    return kind.rfind("multiple selection", 0) == 0 && measure == "change" ? 7.0 : 1.1;
+    if (measure == "change" && kind.rfind("multiple selection", 0) == 0)
+        return 7.0;
+    // A number field shows zero before it shows its value, so that a text is laid out twice.
+    return measure == "create" ? 1.2 : 1.1;
 }
 
 /// Counts what some steps take; the first ones, in which Qt remembers what it draws again and again, are left out.

@@ -1,5 +1,6 @@
 #include <checker/CommandLine.hpp>
 
+#include <initializer_list>
 #include <QCommandLineParser>
 #include <QFile>
 #include <random>
@@ -8,12 +9,20 @@ namespace Checker {
 
 namespace {
 
+/// An option of these names; with the name of its value if it has one.
+QCommandLineOption option(std::initializer_list<char const*> names, char const* meaning, char const* value = "") {
+    QStringList all;
+    for (auto const* const name : names)
+        all << QLatin1String(name);
+    return {all, QLatin1String(meaning), QLatin1String(value)};
+}
+
 /// The one list of the options, for parsing and for the help.
 class Options {
 public:
     Options() {
-        for (auto* const option : {&run, &findings})
-            option->setFlags(QCommandLineOption::HiddenFromHelp);
+        for (auto* const hidden : {&run, &findings})
+            hidden->setFlags(QCommandLineOption::HiddenFromHelp);
         parser.setApplicationDescription(QStringLiteral(
             "Checks a plug-in file: whether it loads and unloads, and whether its editors do what hosts rely on.\n"
             "Status 0 if all checks pass, 1 if one fails, 2 if the command line is wrong."));
@@ -22,36 +31,23 @@ public:
         parser.addPositionalArgument(QStringLiteral("FILE.talo"), QStringLiteral("The plug-in file to check."));
     }
 
-    QCommandLineOption const help{{QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Prints this help and ends.")};
-    QCommandLineOption const version{{QStringLiteral("v"), QStringLiteral("version")},
-                                     QStringLiteral("Prints the version and ends.")};
-    QCommandLineOption const level{
-        QStringLiteral("level"),
-        QStringLiteral("Makes the checks up to this level, from 1 to 10, which is the default."), QStringLiteral("N")};
-    QCommandLineOption const only{QStringLiteral("only"), QStringLiteral("Makes only this check; --list names all."),
-                                  QStringLiteral("CHECK")};
-    QCommandLineOption const seed{QStringLiteral("seed"),
-                                  QStringLiteral("Draws the random events from this number, to replay a report."),
-                                  QStringLiteral("NUMBER")};
-    QCommandLineOption const events{QStringLiteral("events"),
-                                    QStringLiteral("How many random events each editor gets; 200 by default."),
-                                    QStringLiteral("NUMBER")};
-    QCommandLineOption const seconds{QStringLiteral("seconds"),
-                                     QStringLiteral("The time limit of each check; 60 by default."),
-                                     QStringLiteral("SECONDS")};
-    QCommandLineOption const format{QStringLiteral("format"),
-                                    QStringLiteral("How the report is written; text by default."),
-                                    QStringLiteral("text|json|junit")};
-    QCommandLineOption const output{QStringLiteral("output"), QStringLiteral("Writes the report into this file."),
-                                    QStringLiteral("FILE")};
-    QCommandLineOption const quick{QStringLiteral("quick"),
-                                   QStringLiteral("Only loads and unloads the file, in this very process.")};
-    QCommandLineOption const list{QStringLiteral("list"), QStringLiteral("Prints the checks and ends.")};
-    QCommandLineOption run{QStringLiteral("run"), QStringLiteral("Makes one check in this process."),
-                           QStringLiteral("CHECK")};
-    QCommandLineOption findings{QStringLiteral("findings"), QStringLiteral("The file for what that check finds."),
-                                QStringLiteral("FILE")};
+    QCommandLineOption const help = option({"h", "help"}, "Prints this help and ends.");
+    QCommandLineOption const version = option({"v", "version"}, "Prints the version and ends.");
+    QCommandLineOption const level =
+        option({"level"}, "Makes the checks up to this level, from 1 to 10, which is the default.", "N");
+    QCommandLineOption const only = option({"only"}, "Makes only this check; --list names all.", "CHECK");
+    QCommandLineOption const seed =
+        option({"seed"}, "Draws the random events from this number, to replay a report.", "NUMBER");
+    QCommandLineOption const events =
+        option({"events"}, "How many random events each editor gets; 200 by default.", "NUMBER");
+    QCommandLineOption const seconds = option({"seconds"}, "The time limit of each check; 60 by default.", "SECONDS");
+    QCommandLineOption const format =
+        option({"format"}, "How the report is written; text by default.", "text|json|junit");
+    QCommandLineOption const output = option({"output"}, "Writes the report into this file.", "FILE");
+    QCommandLineOption const quick = option({"quick"}, "Only loads and unloads the file, in this very process.");
+    QCommandLineOption const list = option({"list"}, "Prints the checks and ends.");
+    QCommandLineOption run = option({"run"}, "Makes one check in this process.", "CHECK");
+    QCommandLineOption findings = option({"findings"}, "The file for what that check finds.", "FILE");
     QCommandLineParser parser;
 };
 

@@ -190,7 +190,7 @@ void QFloat::makeSlider() {
 }
 
 void QFloat::setUpLineEdit() {
-    // Without a text: the number is shown at the end, and to lay out another one before it takes a while.
+    lineEdit_->showText(QLatin1String("0.0"));
     lineEdit_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* const validator = new QDoubleValidator(lineEdit_);
     validator->setLocale(QLocale(QLocale::C));

@@ -78,6 +78,8 @@ QInteger::QInteger(ParameterRef const& parameter, QWidget* parent, ValuePoolSour
         connect(slider_, &QSlider::valueChanged, this, &QInteger::valueChanged);
     if (dial_)
         connect(dial_, &QDial::valueChanged, this, &QInteger::valueChanged);
+    if (slider_)
+        slider_->setTickPosition(QSlider::NoTicks);
     connect(lineEdit_, &QLineEdit::returnPressed, this, &QInteger::textEnter);
     activateNotification();
 }
@@ -94,6 +96,7 @@ void QInteger::makeDial(bool periodic) {
 void QInteger::makeSlider(int defaultMaximum) {
     slider_ = new QSlider(Qt::Horizontal, this);
     layout_->addWidget(slider_);
+    slider_->setTickPosition(QSlider::TicksBelow);
     setRangeFromProperties(defaultMaximum);
 }
 
@@ -106,9 +109,7 @@ void QInteger::setRangeFromProperties(int defaultMaximum) {
 }
 
 void QInteger::makeLineEdit() {
-    // Else the number is shown at the end, and to lay out another one before it takes a while.
-    if (!owner())
-        lineEdit_->showText(QLatin1String("0"));
+    lineEdit_->showText(QLatin1String("0"));
     lineEdit_->setValidator(new QIntValidator(lineEdit_));
     lineEdit_->setAlignment(Qt::AlignRight);
     lineEdit_->adjustSize();

@@ -84,8 +84,7 @@ void qVColor::showColour(Ferro::rgba_float_t const& colour) {
     // To set a frame lays out the label, also if it is the same.
     if (frameStyle() != QFrame::Box)
         setFrameStyle(QFrame::Box);
-    if (lineWidth() != 1)
-        setLineWidth(1);
+    setLineWidth(1);
 
     auto const window = shownColour(colour);
     bool const light = std::min({window.redF(), window.greenF(), window.blueF()}) >= Channel(0.5);

@@ -31,10 +31,9 @@ void qVFlagList::showValue(ValuePtr const& value) {
     for (auto const& [name, on] : cached_) {
         auto const found = boxes_.find(name);
         auto* const box = found == boxes_.end() ? nullptr : found->second.widget.data();
-        // To disconnect and connect a box takes longer than to set it.
-        if (!box || box->isChecked() == on)
+        if (!box)
             continue;
-        // What the program sets is no edit.
+        // What the program sets is no edit, nor is what others set meanwhile in a box that was shown before.
         disconnect(std::exchange(found->second.edit, {}));
         box->setChecked(on);
     }

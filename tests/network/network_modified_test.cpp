@@ -119,7 +119,8 @@ TEST_F(FollowedNetwork, SaysTheSameAsALookAtAllValues) {
             set(name, !isBack ? "9" : number % 3 == 0 && inDraft ? "2" : "1", inDraft ? "draft" : "final");
         }
         if (step % 1000 == 700) {
-            // Values that many a later edit brings back, as it did those of the start, but for one.
+            // These values are saved now. Later edits often write the same ones, so the network is often unmodified
+            // again.
             for (int number = 0; number < 3; ++number)
                 set(QStringLiteral("p%1").arg(number), number == 0 ? "2" : "1");
             ASSERT_TRUE(network_->saveAs(path("saved.json"), nullptr));

@@ -127,6 +127,20 @@ TEST_F(FlagListTest, AChangeFromElsewhereIsNoEdit) {
     EXPECT_EQ(parameter->ownValue()->age(), 0U);
 }
 
+TEST_F(FlagListTest, WhatAnotherListenerSetsWhileAValueIsShownIsNoEdit) {
+    auto const parameter = parameterOf(FlagList{{"a", false}, {"b", false}});
+    auto const editor = open(parameter);
+    auto const both = boxes(editor);
+    // "a" is as the new value says when "b" is set.
+    QObject::connect(both[1], &QCheckBox::stateChanged, both[0], [&] { both[0]->setChecked(true); });
+    record(parameter);
+    setElsewhere(parameter, FlagList{{"a", false}, {"b", true}});
+    EXPECT_TRUE(both[0]->isChecked());
+    EXPECT_EQ(commits(), 1U) << "the host's alone";
+    toggle(editor, 0);
+    EXPECT_EQ(commits(), 2U);
+}
+
 TEST_F(FlagListTest, AFlagThatVanishesKeepsItsBoxAndComesBackWithTheNextToggle) {
     auto const parameter = parameterOf(FlagList{{"a", false}, {"x", true}});
     auto const editor = open(parameter);
