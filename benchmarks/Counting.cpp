@@ -30,9 +30,9 @@ void read(QString const& name, Counts& counts) {
     QString measured;
     for (QString line; lines.readLineInto(&line);) {
         if (line.startsWith(nameMark))
-            measured = line.mid(nameMark.size());
+            measured = line.remove(nameMark);
         if (line.startsWith(sumMark) && !measured.isEmpty())
-            counts[measured.toStdString()].push_back(line.mid(sumMark.size()).toDouble());
+            counts[measured.toStdString()].push_back(line.remove(sumMark).toDouble());
     }
 }
 

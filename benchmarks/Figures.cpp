@@ -1,7 +1,14 @@
 #include "Figures.hpp"
 
+#include <ctime>
 #include <iomanip>
 #include <iostream>
+
+double processorTime() {
+    timespec used{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
+    return static_cast<double>(used.tv_sec) * 1e3 + static_cast<double>(used.tv_nsec) / 1e6;
+}
 
 bool printFigure(std::string const& job, double figure, double goal, std::string const& unit,
                  std::string const& remark) {

@@ -60,18 +60,18 @@ template <typename TheSide>
 void countSide(BenchmarkCase const& benchmarkCase, std::string const& kind, std::string const& side) {
     auto const create = [&] {
         TheSide made(benchmarkCase, editorCount);
-        Panel panel;
-        panel.fill(made, editorCount);
-        panel.show();
+        EditorWindow window;
+        window.fill(made, editorCount);
+        window.show();
     };
     create();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     counted(kind + ", create/" + side, create);
 
     TheSide made(benchmarkCase, editorCount);
-    Panel panel;
-    panel.fill(made, editorCount);
-    panel.show();
+    EditorWindow window;
+    window.fill(made, editorCount);
+    window.show();
     auto const painted = [](auto const& step) {
         return [&step](int n) {
             step(n);
@@ -79,7 +79,7 @@ void countSide(BenchmarkCase const& benchmarkCase, std::string const& kind, std:
         };
     };
     auto const change = [&](int n) { made.change(n); };
-    auto const edit = [&](int n) { benchmarkCase.edit(panel.first(), n); };
+    auto const edit = [&](int n) { benchmarkCase.edit(window.first(), n); };
     countSteps(kind + ", change/" + side, painted(change));
     countSteps(kind + ", told/" + side, change);
     if (benchmarkCase.edit)

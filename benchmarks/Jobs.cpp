@@ -71,12 +71,6 @@ std::vector<Job> chosen(std::vector<Job> jobs, std::string const& filter) {
 
 } // namespace
 
-double processorTime() {
-    timespec used{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
-    return static_cast<double>(used.tv_sec) * 1e3 + static_cast<double>(used.tv_nsec) / 1e6;
-}
-
 double timeOf(std::function<void()> const& work) {
     auto const start = processorTime();
     if (isCounting())

@@ -24,9 +24,6 @@ struct Job {
     bool byInstructions = false;
 };
 
-/// The processor time that the process has used, in milliseconds.
-double processorTime();
-
 /// The processor time that the work takes, in milliseconds. Notes its instructions where they are counted.
 double timeOf(std::function<void()> const& work);
 

@@ -4,18 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <limits>
-
-namespace {
-
-double processorTime() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
-
-} // namespace
 
 void ScaleReport::add(std::string const& job, double figure, double goal, std::string const& unit) {
     allMet_ = !printFigure(job, figure, goal, unit) && allMet_;

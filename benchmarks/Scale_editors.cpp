@@ -98,7 +98,7 @@ void reportLists(ScaleReport& report) {
     Kolt::VStringList const single(new Kolt::StringSelection(list, list.front()));
     Kolt::VMultipleStringList const multiple(new Kolt::MultipleStringSelection(list));
     reportSteps(report, "100,000 texts, single selection", single, 1,
-                [&](auto& selection, int number) { selection.select(list[static_cast<std::size_t>(number + 1)]); });
+                [&](auto& selection, int number) { selection.select(list[static_cast<std::size_t>(number) + 1]); });
     reportSteps(report, "100,000 texts, multiple selection", multiple, 10,
                 [&](auto& selection, int number) { selection.add(list[static_cast<std::size_t>(number)]); });
 

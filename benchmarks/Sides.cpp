@@ -43,13 +43,13 @@ QWidget* PluginSide::makeEditor(QWidget* parent) {
     return editor.widget;
 }
 
-Panel::Panel() : content_(new QWidget), layout_(new QVBoxLayout(content_)) {
+EditorWindow::EditorWindow() : content_(new QWidget), layout_(new QVBoxLayout(content_)) {
     area_.setWidgetResizable(true);
     area_.setWidget(content_);
     area_.resize(400, 600);
 }
 
-void Panel::fill(Side& side, int count) {
+void EditorWindow::fill(Side& side, int count) {
     for (int n = 0; n < count; ++n) {
         auto* const editor = side.makeEditor(content_);
         if (!first_)
@@ -58,7 +58,7 @@ void Panel::fill(Side& side, int count) {
     }
 }
 
-void Panel::show() {
+void EditorWindow::show() {
     area_.show();
     QCoreApplication::processEvents();
 }

@@ -47,9 +47,9 @@ private:
 };
 
 /// A window with editors below each other in a scroll area.
-class Panel {
+class EditorWindow {
 public:
-    Panel();
+    EditorWindow();
     /// Makes that many editors.
     void fill(Side& side, int count);
     /// Shows the window and waits until it is painted.

@@ -104,7 +104,7 @@ private:
 int main(int argc, char** argv) {
     return runBenchmarkProgram(argc, argv, [] {
         for (auto const& [name, measure] :
-             {std::pair("type/bare", typeIntoBareQt), std::pair("type/plugin", typeIntoThePlugin)})
+             {std::make_pair("type/bare", &typeIntoBareQt), std::make_pair("type/plugin", &typeIntoThePlugin)})
             benchmark::RegisterBenchmark(name, measure)->MinTime(0.1)->Repetitions(9)->Unit(benchmark::kMicrosecond);
         FastestRounds rounds;
         benchmark::RunSpecifiedBenchmarks(&rounds);

@@ -25,14 +25,14 @@ void create(benchmark::State& state, BenchmarkCase const& benchmarkCase, int cou
         state.PauseTiming();
         {
             TheSide side(benchmarkCase, count);
-            Panel panel;
+            EditorWindow window;
             auto const before = heapInUse();
             state.ResumeTiming();
-            panel.fill(side, count);
+            window.fill(side, count);
             state.PauseTiming();
             heap += heapInUse() - before;
             state.ResumeTiming();
-            panel.show();
+            window.show();
             state.PauseTiming();
         }
         // What the window gave to deleteLater goes as well.
@@ -46,9 +46,9 @@ void create(benchmark::State& state, BenchmarkCase const& benchmarkCase, int cou
 template <typename TheSide>
 void change(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count, bool painted) {
     TheSide side(benchmarkCase, count);
-    Panel panel;
-    panel.fill(side, count);
-    panel.show();
+    EditorWindow window;
+    window.fill(side, count);
+    window.show();
     int n = 0;
     for (auto _ : state) {
         n = 1 - n;
@@ -62,13 +62,13 @@ void change(benchmark::State& state, BenchmarkCase const& benchmarkCase, int cou
 template <typename TheSide>
 void edit(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count) {
     TheSide side(benchmarkCase, count);
-    Panel panel;
-    panel.fill(side, count);
-    panel.show();
+    EditorWindow window;
+    window.fill(side, count);
+    window.show();
     int n = 0;
     for (auto _ : state) {
         n = 1 - n;
-        benchmarkCase.edit(panel.first(), n);
+        benchmarkCase.edit(window.first(), n);
         QCoreApplication::processEvents();
     }
 }
@@ -77,11 +77,11 @@ void edit(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count
 template <typename TheSide>
 void drag(benchmark::State& state, BenchmarkCase const& benchmarkCase, int count) {
     TheSide side(benchmarkCase, count);
-    Panel panel;
-    panel.fill(side, count);
-    panel.show();
+    EditorWindow window;
+    window.fill(side, count);
+    window.show();
     for (auto _ : state) {
-        benchmarkCase.drag(panel.first());
+        benchmarkCase.drag(window.first());
         QCoreApplication::processEvents();
     }
 }

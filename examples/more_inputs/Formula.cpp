@@ -85,7 +85,7 @@ double Formula::inParentheses() {
 
 double Formula::number() {
     skipSpaces();
-    if (text_.mid(place_, 2).compare(QLatin1String("pi"), Qt::CaseInsensitive) == 0) {
+    if (QStringView(text_).mid(place_, 2).compare(QLatin1String("pi"), Qt::CaseInsensitive) == 0) {
         place_ += 2;
         return pi;
     }

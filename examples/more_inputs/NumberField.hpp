@@ -12,7 +12,7 @@ namespace MoreInputs {
 /// text that cannot be entered stays, with a mark and the reason in the tool tip. User-interface thread.
 class NumberField : public QAbstractSpinBox {
     Q_OBJECT
-    // For screen readers.
+    // For screen readers, which read them when they are asked to. clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(double value READ value WRITE enter)
     Q_PROPERTY(double minimum READ minimum)
     Q_PROPERTY(double maximum READ maximum)

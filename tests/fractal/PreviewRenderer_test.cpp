@@ -59,9 +59,8 @@ TEST_F(PreviewRendererTest, TheFirstFinePictureDoesNotWaitForAPause) {
 }
 
 TEST_F(PreviewRendererTest, TheFirstFinePictureDoesNotWaitWhileTheWindowFindsItsSize) {
-    bool isResized = false;
     QObject const untilTheEnd;
-    QObject::connect(&maker, &PreviewRenderer::pictureChanged, &untilTheEnd, [this, &isResized] {
+    QObject::connect(&maker, &PreviewRenderer::pictureChanged, &untilTheEnd, [this, isResized = false]() mutable {
         if (!std::exchange(isResized, true))
             maker.setSize({100, 75});
     });

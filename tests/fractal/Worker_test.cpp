@@ -1,7 +1,7 @@
+#include "support/RealFunction.hpp"
 #include "support/TaloTest.hpp"
 
 #include <cerrno>
-#include <dlfcn.h>
 #include <fractal/engine/Worker.hpp>
 #include <new>
 #include <pthread.h>
@@ -20,10 +20,12 @@ bool systemHasThreads = true;
 } // namespace
 
 /// Stands before the function of the system, for all libraries of the program: how many threads a system has cannot be
-/// limited from here in the same way everywhere.
+/// limited from here in the same way everywhere. The names of the parameters are reserved ones in the headers of the
+/// system.
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name)
 extern "C" int pthread_create(pthread_t* thread, pthread_attr_t const* attributes, void* (*start)(void*),
                               void* argument) noexcept {
-    static auto const create = reinterpret_cast<decltype(&pthread_create)>(dlsym(RTLD_NEXT, "pthread_create"));
+    static auto* const create = real(&pthread_create, "pthread_create");
     return systemHasThreads ? create(thread, attributes, start, argument) : EAGAIN;
 }
 #endif

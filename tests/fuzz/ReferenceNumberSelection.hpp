@@ -66,7 +66,7 @@ inline void token(std::string const& text, std::int64_t rowCount, std::vector<st
             rows.push_back(row);
         return;
     }
-    for (std::string const suffix : {"th", "nd", "rd", "st"}) {
+    for (auto const* const suffix : {"th", "nd", "rd", "st"}) {
         auto const place = text.find(suffix);
         if (place == std::string::npos)
             continue;

@@ -51,8 +51,9 @@ QStringList completed(QStringList const& words, QString const& folder = {}) {
 QStringList optionsOf(QString const& program) {
     auto const help = run(QStringLiteral(TALO_PREFIX "/bin/") + program, {"--help"}).output;
     QStringList options;
+    static QRegularExpression const option("^  (?:-[a-z], )?(--[a-z-]+)");
     for (auto const& line : help.split('\n')) {
-        auto const match = QRegularExpression("^  (?:-[a-z], )?(--[a-z-]+)").match(line);
+        auto const match = option.match(line);
         if (match.hasMatch())
             options << match.captured(1);
     }

@@ -131,7 +131,7 @@ TEST_F(Network, TheFractalNetworkBindsItsFileNamesAndHasItsPicture) {
 
 TEST_F(Network, EveryPieceOfTheDescriptionIsRight) {
     auto const description = QString::fromUtf8(bytesOf(TALO_EXAMPLES "/../docs/network-files.md"));
-    QRegularExpression const block("```json\\n(.*?)```", QRegularExpression::DotMatchesEverythingOption);
+    static QRegularExpression const block("```json\\n(.*?)```", QRegularExpression::DotMatchesEverythingOption);
     std::set<std::string> types;
     int networks = 0;
     int presetFiles = 0;

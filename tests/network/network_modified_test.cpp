@@ -112,10 +112,10 @@ TEST_F(FollowedNetwork, SaysTheSameAsALookAtAllValues) {
         // Mostly a few values near the saved ones, sometimes so many that the signal cannot note them.
         int const changes = roll(50) == 0 ? parameterCount : 1 + roll(2);
         for (int change = 0; change < changes; ++change) {
-            auto const name = QStringLiteral("p%1").arg(changes > 2 ? change : roll(4));
+            int const number = changes > 2 ? change : roll(4);
+            auto const name = QStringLiteral("p%1").arg(number);
             bool const inDraft = roll(2) == 0;
             bool const isBack = changes > 2 || roll(6) > 0;
-            auto const number = name.mid(1).toInt();
             set(name, !isBack ? "9" : number % 3 == 0 && inDraft ? "2" : "1", inDraft ? "draft" : "final");
         }
         if (step % 1000 == 700) {

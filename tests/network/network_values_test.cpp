@@ -81,9 +81,9 @@ class NetworkSetText : public NetworkFileTest, public testing::WithParamInterfac
 
 TEST_P(NetworkSetText, TakesWhatTheTypeReadsAndRefusesTheRestWithoutAChange) {
     auto const& row = GetParam();
-    for (QByteArray const perPool : {"false", "true"}) {
+    for (auto const* const perPool : {"false", "true"}) {
         auto const read =
-            network(withParameters("{ \"name\": \"p\", \"perPool\": " + perPool + ", " + row.rest + " }"));
+            network(withParameters(QByteArray("{ \"name\": \"p\", \"perPool\": ") + perPool + ", " + row.rest + " }"));
         auto const parameter = parameterOf(*read);
         auto const pool = read->pools()[0];
         Listener listener(parameter);

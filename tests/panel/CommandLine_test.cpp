@@ -9,7 +9,7 @@ namespace {
 
 class CommandLineTest : public TaloTest {
 protected:
-    std::optional<CommandLine> parse(QStringList arguments) {
+    std::optional<CommandLine> parse(QStringList const& arguments) {
         error.clear();
         return CommandLine::parse(QStringList{QStringLiteral("talo_panel")} << arguments, error);
     }

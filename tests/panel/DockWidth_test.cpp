@@ -46,14 +46,14 @@ protected:
 
 TEST_F(DockWidthTest, ThePreviewTakesItsShareOfEachWindow) {
     show(2560, 900);
-    EXPECT_NEAR(preview()->width(), 2560 / 3, 20);
+    EXPECT_NEAR(preview()->width(), 2560.0 / 3, 20);
     window->resize(1200, 900);
     settle();
     EXPECT_NEAR(preview()->width(), 400, 20);
     window->resize(640, 480);
     settle();
     EXPECT_EQ(window->width(), 640);
-    EXPECT_NEAR(preview()->width(), 640 / 3, 20);
+    EXPECT_NEAR(preview()->width(), 640.0 / 3, 20);
     // Of larger texts the form needs more.
     auto const usual = window->font();
     auto large = usual;

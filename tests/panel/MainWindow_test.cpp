@@ -228,7 +228,7 @@ TEST_F(MainWindowTest, ABrokenFileLeavesEverythingOpenAsItWas) {
 TEST_F(MainWindowTest, ABrokenFileChosenInTheMenuIsReportedInABox) {
     auto const file = networkFile("broken.json", "{ \"pools\": <7> }");
     auto const objects = window->network()->objects();
-    QTimer::singleShot(0, [&] {
+    QTimer::singleShot(0, window.get(), [&] {
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         ASSERT_NE(dialog, nullptr);
         dialog->findChild<QLineEdit*>()->setText(file);

@@ -7,10 +7,10 @@
 namespace {
 
 // In attempts, of some milliseconds each.
-constexpr int longestPicture = 60'000;
+constexpr int longestWait = 60'000;
 
 bool awaitPicture(Fractal::PreviewRenderer const& renderer) {
-    for (int waited = 0; !renderer.isAtRest() && waited < longestPicture; ++waited) {
+    for (int waited = 0; !renderer.isAtRest() && waited < longestWait; ++waited) {
         VirtualTime::waitForThreads(1);
         pass(1);
     }

@@ -7,7 +7,7 @@
 
 /// A key with its modifiers.
 struct Stroke {
-    Qt::Key key;
+    Qt::Key key = Qt::Key_unknown;
     Qt::KeyboardModifiers modifiers;
 };
 

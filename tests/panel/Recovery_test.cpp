@@ -7,6 +7,7 @@
 #include <panel/window/Recovery.hpp>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSignalSpy>
 
 using testing::HasSubstr;
 
@@ -273,15 +274,12 @@ TEST_F(RecoveryTest, AFolderThatCannotBeMadeIsReportedOnce) {
     ASSERT_TRUE(QDir(states()).removeRecursively());
     ASSERT_TRUE(QFile::copy(file(), states()));
     recovery = std::make_unique<Panel::Recovery>(window->document(), states());
-    QStringList reasons;
-    QObject const untilTheEnd;
-    QObject::connect(recovery.get(), &Panel::Recovery::failed, &untilTheEnd,
-                     [&](QString const& reason) { reasons << reason; });
+    QSignalSpy const reasons(recovery.get(), &Panel::Recovery::failed);
     edit();
     recovery->write();
     recovery->write();
     ASSERT_EQ(reasons.size(), 1);
-    EXPECT_THAT(reasons[0].toStdString(), HasSubstr(states().toStdString()));
+    EXPECT_THAT(reasons[0][0].toString().toStdString(), HasSubstr(states().toStdString()));
     ASSERT_TRUE(window->openNetwork(networkFile("other.json", lamps)));
     set("lamp.steady", "false");
     recovery->write();
@@ -289,10 +287,7 @@ TEST_F(RecoveryTest, AFolderThatCannotBeMadeIsReportedOnce) {
 }
 
 TEST_F(RecoveryTest, AFullDiskIsReportedOnce) {
-    QStringList reasons;
-    QObject const untilTheEnd;
-    QObject::connect(recovery.get(), &Panel::Recovery::failed, &untilTheEnd,
-                     [&](QString const& reason) { reasons << reason; });
+    QSignalSpy const reasons(recovery.get(), &Panel::Recovery::failed);
     edit();
     {
         FullDisk const disk(10);
@@ -300,6 +295,6 @@ TEST_F(RecoveryTest, AFullDiskIsReportedOnce) {
         recovery->write();
     }
     ASSERT_EQ(reasons.size(), 1);
-    EXPECT_THAT(reasons[0].toStdString(), HasSubstr(states().toStdString()));
+    EXPECT_THAT(reasons[0][0].toString().toStdString(), HasSubstr(states().toStdString()));
     EXPECT_TRUE(kept().isEmpty());
 }

@@ -25,7 +25,8 @@ protected:
     }
     void follow() {
         session = std::make_unique<Panel::Session>(file);
-        QObject::connect(session.get(), &Panel::Session::failed, [this](QString const& reason) { failures << reason; });
+        QObject::connect(session.get(), &Panel::Session::failed, session.get(),
+                         [this](QString const& reason) { failures << reason; });
         session->follow(*window);
         window->show();
     }

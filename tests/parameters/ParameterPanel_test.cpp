@@ -2,6 +2,7 @@
 #include "support/PluginFile.hpp"
 #include "support/SliderDrag.hpp"
 
+#include <memory>
 #include <parameters/commands/UndoStackAdapter.hpp>
 #include <parameters/OnePool.hpp>
 #include <parameters/rows/ParameterRow.hpp>
@@ -234,11 +235,11 @@ TEST_F(ParameterPanelTest, SaysWhyACommandIsRefused) {
 }
 
 TEST_F(ParameterPanelTest, ClosesAndOpensEditorsAroundAnUnload) {
-    std::vector<std::string> opened;
+    auto const opened = std::make_shared<std::vector<std::string>>();
     QObject::connect(panel, &Talo::ParameterPanel::editorOpened, panel,
-                     [&](Kolt::ParameterPtr const& parameter, QWidget* editor) {
+                     [this, opened](Kolt::ParameterPtr const& parameter, QWidget* editor) {
                          EXPECT_EQ(editor, panel->rowArea()->row(QString::fromStdString(parameter->Name()))->editor());
-                         opened.push_back(parameter->Name());
+                         opened->push_back(parameter->Name());
                      });
     panel->closeEditors();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -249,7 +250,7 @@ TEST_F(ParameterPanelTest, ClosesAndOpensEditorsAroundAnUnload) {
     ASSERT_TRUE(loader.load(pluginFile).ok);
     panel->openEditors();
     EXPECT_TRUE(box());
-    EXPECT_THAT(opened, ElementsAre("on", "level", "label", "on", "level", "label")) << "placeholders, then editors";
+    EXPECT_THAT(*opened, ElementsAre("on", "level", "label", "on", "level", "label")) << "placeholders, then editors";
 }
 
 TEST_F(ParameterPanelTest, AWorkerMayReportAParameterThatHasAPlaceholder) {

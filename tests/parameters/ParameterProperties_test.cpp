@@ -3,6 +3,7 @@
 
 #include "parameters/FormTest.hpp"
 
+#include <memory>
 #include <parameters/commands/HelpView.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
 #include <QCheckBox>
@@ -237,20 +238,20 @@ TEST_F(ParameterPropertiesTest, F1AsksForTheHelpWhichLoadsNothing) {
     add(Parameter<bool>("on", false));
     show();
     panel->action(Command::ShowHelp);
-    std::vector<Kolt::ParameterPtr> requested;
+    auto const requested = std::make_shared<std::vector<Kolt::ParameterPtr>>();
     QObject::connect(panel, &Talo::ParameterPanel::helpRequested, panel,
-                     [&](auto const& parameter) { requested.push_back(parameter); });
+                     [requested](auto const& parameter) { requested->push_back(parameter); });
     control<QCheckBox>("on")->setFocus();
     QTest::keyClick(control<QCheckBox>("on"), Qt::Key_F1);
-    EXPECT_EQ(requested.size(), 0U) << "it has no help";
+    EXPECT_EQ(requested->size(), 0U) << "it has no help";
     control<QSlider>("rpm")->setFocus();
     QTest::keyClick(control<QSlider>("rpm"), Qt::Key_F1);
-    ASSERT_EQ(requested.size(), 1U);
+    ASSERT_EQ(requested->size(), 1U);
 
     auto* const view = new Talo::HelpView(parent);
     view->setGeometry(0, 0, 400, 300);
     view->show();
-    view->showHelp(*requested.front());
+    view->showHelp(*requested->front());
     EXPECT_EQ(view->toPlainText(), QStringLiteral("Speed & more\nSee the manual."));
     auto const before = view->toHtml();
     QSignalSpy const clicked(view, &QTextBrowser::anchorClicked);

@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QSignalSpy>
 
 using Command = Talo::ParameterPanel::Command;
 using Kolt::Parameter;
@@ -110,12 +111,12 @@ TEST_F(ResetTest, EachHistoryHasAStepOfItsOwn) {
 }
 
 TEST_F(ResetTest, TheTitleOfASectionHasAMenu) {
-    QString asked;
-    QObject::connect(panel, &Talo::ParameterPanel::sectionMenuRequested, panel,
-                     [&](QMenu*, QString const& title) { asked = title; });
+    qRegisterMetaType<QMenu*>();
+    QSignalSpy const asked(panel, &Talo::ParameterPanel::sectionMenuRequested);
     QPointer<QMenu> const menu = menuAt(box("Motor"), {10, 6});
     ASSERT_TRUE(menu);
-    EXPECT_EQ(asked, QStringLiteral("Motor"));
+    ASSERT_EQ(asked.count(), 1);
+    EXPECT_EQ(asked[0][1].toString(), QStringLiteral("Motor"));
     auto* const reset = menu->findChild<QAction*>(QStringLiteral("resetSection"));
     ASSERT_TRUE(reset);
     EXPECT_TRUE(menu->isVisible());

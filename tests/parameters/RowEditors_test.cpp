@@ -6,6 +6,7 @@
 #include <bramble/Enum.hpp>
 #include <bramble/EnumSelection.hpp>
 #include <lattice/TypedParameter.hpp>
+#include <memory>
 #include <parameters/ParameterPanel.hpp>
 #include <parameters/rows/ParameterRow.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
@@ -108,12 +109,12 @@ TEST_F(RowEditorsTest, UndoToNoChoiceShowsNone) {
 TEST_F(RowEditorsTest, AnEditorThatIsMadeAnewKeepsTheFocusAndIsReported) {
     auto const kind = makeParameter("kind", Kolt::makeValue(makeEnum({"a", "b"}, 1)));
     show({kind});
-    int reported = 0;
-    QObject::connect(panel, &Talo::ParameterPanel::editorOpened, panel, [&] { ++reported; });
+    auto const reported = std::make_shared<int>(0);
+    QObject::connect(panel, &Talo::ParameterPanel::editorOpened, panel, [reported] { ++*reported; });
     choices()[1]->setFocus();
     write(kind, makeEnum({"a", "b"}));
     EXPECT_EQ(marked(), "");
-    EXPECT_EQ(reported, 1);
+    EXPECT_EQ(*reported, 1);
     EXPECT_EQ(Talo::ParameterRow::rowOf(QApplication::focusWidget()), panel->rowArea()->row(QStringLiteral("kind")));
 }
 

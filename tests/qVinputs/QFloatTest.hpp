@@ -22,7 +22,7 @@ protected:
 
     /// Moves the mouse along a control while its left button is pressed.
     static void drag(QSlider* control, int x) {
-        QMouseEvent move(QEvent::MouseMove, QPointF(x, control->height() / 2), Qt::NoButton, Qt::LeftButton,
+        QMouseEvent move(QEvent::MouseMove, QPointF(x, control->height() / 2.0), Qt::NoButton, Qt::LeftButton,
                          Qt::NoModifier);
         QApplication::sendEvent(control, &move);
     }

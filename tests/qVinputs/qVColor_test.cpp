@@ -35,6 +35,7 @@ protected:
                 static_cast<float>(colour.blueF()), static_cast<float>(colour.alphaF())};
     }
     static bool same(rgba_float_t const& left, rgba_float_t const& right) {
+        // Bit by bit, as what is no number equals nothing. NOLINTNEXTLINE(bugprone-suspicious-memory-comparison)
         return std::memcmp(&left, &right, sizeof left) == 0;
     }
     /// The colour of a role in all colour groups; an invalid colour if they differ.

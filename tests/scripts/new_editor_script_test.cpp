@@ -65,7 +65,7 @@ TEST_F(NewEditorScript, WantsTwoArguments) {
 }
 
 TEST_F(NewEditorScript, WantsTheNameOfAClass) {
-    for (std::string const name : {"9lives", "a/b", "a b", "", "Sample.hpp"})
+    for (auto const& name : std::vector<std::string>{"9lives", "a/b", "a b", "", "Sample.hpp"})
         expectRefusal(quoted(name) + " int",
                       "'" + name + "' is no name for a class: letters and digits, a letter first");
 }

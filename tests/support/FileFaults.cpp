@@ -1,9 +1,10 @@
 #include "FileFaults.hpp"
 
+#include "RealFunction.hpp"
+
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -21,12 +22,6 @@ bool fails(char const* name) {
     failed = name;
     errno = EIO;
     return true;
-}
-
-/// The function of the system that one here stands before.
-template <typename Function>
-Function* real(Function*, char const* name) {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
 } // namespace
@@ -51,6 +46,9 @@ std::string FileFault::failedCall() {
 }
 
 extern "C" {
+
+// The names of the parameters are reserved ones in the headers of the system.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 
 int open64(char const* path, int flags, ...) {
     va_list arguments;
@@ -104,4 +102,5 @@ int close(int file) {
     return fails("close") ? -1 : result;
 }
 
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 } // extern "C"

@@ -9,7 +9,7 @@
 
 namespace {
 
-OutputCapture* current = nullptr;
+OutputCapture* capture = nullptr;
 
 int checked(int result, char const* what) {
     if (result < 0) {
@@ -28,15 +28,15 @@ void direct(int target) {
 OutputCapture::OutputCapture()
     : realOutput_(checked(dup(STDOUT_FILENO), "cannot keep standard output")),
       captured_(checked(memfd_create("standard output", MFD_CLOEXEC), "cannot capture standard output")) {
-    if (current != nullptr) {
+    if (capture != nullptr) {
         throw std::logic_error("standard output is captured already");
     }
     direct(captured_);
-    current = this;
+    capture = this;
 }
 
 OutputCapture::~OutputCapture() {
-    current = nullptr;
+    capture = nullptr;
     std::fflush(stdout);
     dup2(realOutput_, STDOUT_FILENO);
     close(realOutput_);
@@ -50,7 +50,7 @@ std::string OutputCapture::take() {
 
 std::string OutputCapture::takeWritten() {
     std::string text;
-    std::array<char, 4096> buffer;
+    std::array<char, 4096> buffer{};
     for (;;) {
         auto const count = pread(captured_, buffer.data(), buffer.size(), taken_);
         if (count <= 0) {
@@ -62,13 +62,13 @@ std::string OutputCapture::takeWritten() {
 }
 
 void OutputCapture::suspend() {
-    if (current != nullptr) {
-        direct(current->realOutput_);
+    if (capture != nullptr) {
+        direct(capture->realOutput_);
     }
 }
 
 void OutputCapture::resume() {
-    if (current != nullptr) {
-        direct(current->captured_);
+    if (capture != nullptr) {
+        direct(capture->captured_);
     }
 }

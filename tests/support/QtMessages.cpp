@@ -5,21 +5,21 @@
 
 namespace {
 
-QtMessages* current = nullptr;
+QtMessages* receiver = nullptr;
 
 } // namespace
 
 QtMessages::QtMessages() {
-    if (current != nullptr) {
+    if (receiver != nullptr) {
         throw std::logic_error("Qt's messages are collected already");
     }
-    current = this;
+    receiver = this;
     previous_ = qInstallMessageHandler(&QtMessages::receive);
 }
 
 QtMessages::~QtMessages() {
     qInstallMessageHandler(previous_);
-    current = nullptr;
+    receiver = nullptr;
 }
 
 void QtMessages::expect(QRegularExpression const& pattern) {
@@ -64,9 +64,9 @@ void QtMessages::receive(QtMsgType type, QMessageLogContext const& context, QStr
         return;
     }
     if (type == QtWarningMsg || type == QtCriticalMsg) {
-        std::lock_guard const lock(current->mutex_);
-        current->received_ << message;
+        std::lock_guard const lock(receiver->mutex_);
+        receiver->received_ << message;
     } else {
-        current->previous_(type, context, message);
+        receiver->previous_(type, context, message);
     }
 }

@@ -60,7 +60,7 @@ TEST_F(TestBase, AWidgetDeletedLaterDoesNotSurvive) {
 
 TEST_F(TestBase, WaitingHandlesEventsUntilTheConditionHolds) {
     auto fired = false;
-    QTimer::singleShot(0, [&] { fired = true; });
+    QTimer::singleShot(0, qApp, [&] { fired = true; });
     EXPECT_TRUE(waitUntil([&] { return fired; }));
     EXPECT_FALSE(waitUntil([] { return false; }, 1));
 }

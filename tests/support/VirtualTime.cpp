@@ -1,9 +1,10 @@
 #include "VirtualTime.hpp"
 
+#include "RealFunction.hpp"
+
 #include <algorithm>
 #include <cstdint>
 #include <ctime>
-#include <dlfcn.h>
 #include <poll.h>
 
 namespace {
@@ -16,12 +17,6 @@ thread_local bool isVirtual = false;
 thread_local std::int64_t ahead = 0;
 // What the clock shows while it stands.
 thread_local std::int64_t now = 0;
-
-/// The function of the system that one here stands before.
-template <typename Function>
-Function* real(Function*, char const* name) {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
-}
 
 std::int64_t nanoseconds(timespec const& time) {
     return time.tv_sec * second + time.tv_nsec;
@@ -72,6 +67,9 @@ bool VirtualTime::isRunning() {
 
 extern "C" {
 
+// The names of the parameters are reserved ones in the headers of the system.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
+
 int clock_gettime(clockid_t clock, timespec* time) noexcept {
     int const result = realTime(clock, time);
     bool const isOfTimers = clock == CLOCK_MONOTONIC || clock == CLOCK_MONOTONIC_RAW || clock == CLOCK_MONOTONIC_COARSE;
@@ -109,4 +107,6 @@ int ppoll(pollfd* files, nfds_t count, timespec const* timeout, sigset_t const* 
         now += nanoseconds(*timeout);
     return ready;
 }
-}
+
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
+} // extern "C"

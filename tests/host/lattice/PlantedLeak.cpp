@@ -1,7 +1,8 @@
 #include "host/lattice/PluginLoaderTest.hpp"
 
-// Null in a program without a leak checker.
+// Null in a program without a leak checker. NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" [[gnu::weak]] void __lsan_disable();
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" [[gnu::weak]] void __lsan_enable();
 
 PlantedLeak::PlantedLeak() {

@@ -5,9 +5,9 @@
 
 namespace Sample {
 
-struct Shape {
+struct Figure {
     int corners = 3;
-    bool operator==(Shape const& other) const { return corners == other.corners; }
+    bool operator==(Figure const& other) const { return corners == other.corners; }
 };
 
 /// An editor that records the values that it is given.
@@ -19,7 +19,7 @@ public:
     }
     void onValueChange(Kolt::ValuePtr const& value, Kolt::VContext const& context,
                        Kolt::ValueMap const* properties) override {
-        corners.push_back(Kolt::valueOr(value, Sample::Shape{-1}).corners);
+        corners.push_back(Kolt::valueOr(value, Sample::Figure{-1}).corners);
         pool = context.pool();
         EXPECT_EQ(properties, nullptr);
     }
@@ -28,7 +28,7 @@ public:
     Kolt::ValuePoolSource* source;
 };
 
-struct ShapeCreator : Kolt::VInputCreator<Shape, Kolt::VInputCreatorBase> {
+struct ShapeCreator : Kolt::VInputCreator<Figure, Kolt::VInputCreatorBase> {
     explicit ShapeCreator(
         Kolt::PreferencesPtr const& preferences = Kolt::PreferencesPtr(new Kolt::VCreationPreferences("QT")))
         : VInputCreator("shape", 0, preferences, "TALO_API_VERSION") {}
@@ -52,7 +52,7 @@ using Kolt::ParameterPtr;
 using Kolt::PoolPtr;
 using Kolt::ValuePool;
 using Kolt::VParameter;
-using Sample::Shape;
+using Sample::Figure;
 using Sample::ShapeCreator;
 using Sample::ShapeEditor;
 using testing::ElementsAre;
@@ -62,11 +62,11 @@ class FrontEnd : public TaloTest {
 protected:
     void makeWidgets() { creator_.addInterface(Tessera::StrongPtr<Tessera::InterfaceBase>(new Sample::WidgetMaker)); }
     static ParameterPtr parameter(VParameter::Values values) {
-        return ParameterPtr(new VParameter("shape", makeValue(Shape{4}), values));
+        return ParameterPtr(new VParameter("shape", makeValue(Figure{4}), values));
     }
     static ShapeEditor& shown(Kolt::Editor const& editor) { return dynamic_cast<ShapeEditor&>(*editor.widget); }
     static void setLocal(ParameterPtr const& parameter, PoolPtr const& pool, int corners) {
-        EXPECT_TRUE(setParameterValue(*parameter, Shape{corners}, pool, "", true, {}, nullptr));
+        EXPECT_TRUE(setParameterValue(*parameter, Figure{corners}, pool, "", true, {}, nullptr));
     }
 
     ShapeCreator creator_;
@@ -90,14 +90,15 @@ TEST_F(FrontEnd, MakesTheEditorOnItsParentWithTheSource) {
     EXPECT_EQ(editor.input.strong().get(), static_cast<Kolt::VInputBase*>(&shown(editor)));
     EXPECT_EQ(editor.input.strong()->owner().strong(), shape);
     EXPECT_EQ(editor.choice.creator.strong().get(), &creator_);
-    EXPECT_EQ(editor.choice.explanation, "\"shape\" {QT} holds all of the wanted {QT}, of 1 creator for Sample::Shape");
+    EXPECT_EQ(editor.choice.explanation,
+              "\"shape\" {QT} holds all of the wanted {QT}, of 1 creator for Sample::Figure");
     EXPECT_THAT(shown(editor).corners, IsEmpty()) << "a value that is the same in every pool needs no second look";
 }
 
 TEST_F(FrontEnd, SaysThatAnEditorWithoutAPoolDropsEveryEdit) {
     makeWidgets();
     auto const shape = parameter(VParameter::Values::Shared);
-    std::string const found = "\"shape\" {QT} holds all of the wanted {QT}, of 1 creator for Sample::Shape";
+    std::string const found = "\"shape\" {QT} holds all of the wanted {QT}, of 1 creator for Sample::Figure";
     auto const withoutPool = makeEditor(shape, &parent_, &pools_);
     EXPECT_TRUE(withoutPool.widget);
     EXPECT_EQ(withoutPool.choice.explanation, found + ", but it drops every edit as long as its source has no pool");
@@ -132,7 +133,7 @@ TEST_F(FrontEnd, SaysWhyThereIsNoEditor) {
     EXPECT_FALSE(noWidget.widget);
     EXPECT_FALSE(noWidget.input);
     EXPECT_EQ(noWidget.choice.explanation, "\"shape\" {QT} holds all of the wanted {QT}, of 1 creator for "
-                                           "Sample::Shape, but it makes no Qt widgets");
+                                           "Sample::Figure, but it makes no Qt widgets");
 }
 
 TEST_F(FrontEnd, ANewEditorIsHandedWhatThePoolHolds) {
@@ -181,7 +182,7 @@ TEST_F(FrontEnd, SharedValuesAndMissingEditorsAreLeftAlone) {
 
 TEST_F(FrontEnd, AnEditorOfAValueThatIsNotOfItsTypeIsStillMade) {
     makeWidgets();
-    ParameterPtr const odd(new VParameter("odd", makeValue(1), VParameter::Values::Shared, "Sample::Shape"));
+    ParameterPtr const odd(new VParameter("odd", makeValue(1), VParameter::Values::Shared, "Sample::Figure"));
     auto const editor = makeEditor(odd, &parent_, &pools_);
     EXPECT_TRUE(editor.widget) << "the declared type chooses the editor";
 }

@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QHBoxLayout>
 #include <QIntValidator>
+#include <QSignalSpy>
 #include <sorrel/QLeaveLineEdit.hpp>
 
 namespace {
@@ -48,32 +49,28 @@ TEST_F(LeaveLineEdit, LeavingByMouseRestoresTheRememberedText) {
 }
 
 TEST_F(LeaveLineEdit, CommitsAnAcceptableTextOnceWhenItIsLeft) {
-    int commits = 0;
-    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [&] {
-        ++commits;
-        edit_.showText(edit_.text());
-    });
+    QSignalSpy const commits(&edit_, &QLineEdit::returnPressed);
+    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [this] { edit_.showText(edit_.text()); });
     QTest::keyClicks(&edit_, "345");
     QTest::keyClick(&edit_, Qt::Key_Tab);
     ASSERT_TRUE(waitUntil([&] { return other_.hasFocus(); }));
     EXPECT_EQ(edit_.text(), "345");
-    EXPECT_EQ(commits, 1);
+    EXPECT_EQ(commits.count(), 1);
     edit_.setFocus();
     other_.setFocus();
-    EXPECT_EQ(commits, 1) << "an untouched field commits nothing";
+    EXPECT_EQ(commits.count(), 1) << "an untouched field commits nothing";
 }
 
 TEST_F(LeaveLineEdit, RestoresATextThatIsNotAcceptable) {
     edit_.setValidator(new QIntValidator(0, 99, &edit_));
-    int commits = 0;
-    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [&] { ++commits; });
+    QSignalSpy const commits(&edit_, &QLineEdit::returnPressed);
     for (auto const* const text : {"", "-"}) {
         edit_.setFocus();
         edit_.setText(QLatin1String(text));
         other_.setFocus(Qt::MouseFocusReason);
         EXPECT_EQ(edit_.text(), "12") << text;
     }
-    EXPECT_EQ(commits, 0);
+    EXPECT_EQ(commits.count(), 0);
 }
 
 TEST_F(LeaveLineEdit, RestoresATextThatTheReceiverDoesNotShow) {
@@ -84,14 +81,13 @@ TEST_F(LeaveLineEdit, RestoresATextThatTheReceiverDoesNotShow) {
 }
 
 TEST_F(LeaveLineEdit, EscapeRestoresTheTextAndKeepsTheFocus) {
-    int commits = 0;
-    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [&] { ++commits; });
+    QSignalSpy const commits(&edit_, &QLineEdit::returnPressed);
     QTest::keyClicks(&edit_, "345");
     QTest::keyClick(&edit_, Qt::Key_Escape);
     EXPECT_EQ(edit_.text(), "12");
     EXPECT_TRUE(edit_.hasFocus());
     other_.setFocus();
-    EXPECT_EQ(commits, 0);
+    EXPECT_EQ(commits.count(), 0);
 }
 
 TEST_F(LeaveLineEdit, LeavesEscapeInAnUntouchedFieldToOthers) {
@@ -172,8 +168,7 @@ TEST_F(LeaveLineEdit, IsLeftOnceAndThenAloneHoweverItsWindowLostTheFocus) {
 }
 
 TEST_F(LeaveLineEdit, IsLeftOnceByWhoeverComesBackElsewhere) {
-    int commits = 0;
-    QObject::connect(&edit_, &QLineEdit::returnPressed, &edit_, [&] { ++commits; });
+    QSignalSpy const commits(&edit_, &QLineEdit::returnPressed);
     QWidget elsewhere;
     elsewhere.show();
     QTest::keyClicks(&edit_, "345");
@@ -182,13 +177,13 @@ TEST_F(LeaveLineEdit, IsLeftOnceByWhoeverComesBackElsewhere) {
     other_.setFocus();
     window_.activateWindow();
     ASSERT_TRUE(waitUntil([&] { return other_.hasFocus(); }));
-    EXPECT_EQ(commits, 1);
+    EXPECT_EQ(commits.count(), 1);
     edit_.setText("7");
     elsewhere.activateWindow();
     ASSERT_TRUE(waitUntil([&] { return elsewhere.isActiveWindow(); }));
     window_.activateWindow();
     ASSERT_TRUE(waitUntil([&] { return other_.hasFocus(); }));
-    EXPECT_EQ(commits, 1);
+    EXPECT_EQ(commits.count(), 1);
     EXPECT_EQ(edit_.text(), "7");
 }
 

@@ -28,7 +28,7 @@ qint64 computed() {
 class LoopWatch {
 public:
     LoopWatch() {
-        QObject::connect(&timer_, &QTimer::timeout, [this] { tick(); });
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { tick(); });
         timer_.start(5);
     }
     qint64 longest() const { return longest_; }

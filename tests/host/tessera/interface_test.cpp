@@ -26,7 +26,7 @@ struct Walk : InterfaceIterationParameter {
         if (auto const* const colour = dynamic_cast<Colour const*>(&interface))
             seen.push_back(colour->name);
         else
-            seen.push_back("sound");
+            seen.emplace_back("sound");
         return seen.size() < limit;
     }
     std::size_t limit = 100;
