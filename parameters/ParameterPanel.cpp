@@ -30,8 +30,9 @@ std::vector<Kolt::ObjectPtr> withoutNull(std::vector<Kolt::ObjectPtr> objects) {
     return objects;
 }
 
-QString nameOf(Kolt::ObjectPtr const& object) {
-    return object ? QString::fromStdString(object->Name()) : QString();
+std::vector<Kolt::ParameterPtr> const& parametersOf(Kolt::ObjectPtr const& object) {
+    static std::vector<Kolt::ParameterPtr> const none;
+    return object ? object->parameters() : none;
 }
 
 } // namespace
@@ -51,8 +52,8 @@ public:
     Private(ParameterPanel& panel, Kolt::ObjectPtr const& shown, Kolt::ValuePoolSource& poolSource)
         : object(shown),
           pools(poolSource),
-          rows(new RowArea(nameOf(shown), shown ? shown->parameters() : std::vector<Kolt::ParameterPtr>(), poolSource)),
-          conditions(shown ? shown->parameters() : std::vector<Kolt::ParameterPtr>()),
+          rows(new RowArea(shown ? QString::fromStdString(shown->Name()) : QString(), parametersOf(shown), poolSource)),
+          conditions(parametersOf(shown)),
           emptyNote(new MutedLabel(QString(), &panel)) {
         auto* const layout = new QVBoxLayout(&panel);
         layout->setContentsMargins(0, 0, 0, 0);
@@ -64,8 +65,9 @@ public:
         emptyNote->setWordWrap(true);
         emptyNote->hide();
         QObject::connect(&conditions, &ConditionWatcher::changed, &panel, [this] { applyConditions(); });
-        hasAdvanced = shown && std::any_of(shown->parameters().begin(), shown->parameters().end(),
-                                           [](auto const& parameter) { return isAdvanced(*parameter); });
+        auto const& parameters = parametersOf(shown);
+        hasAdvanced = std::any_of(parameters.begin(), parameters.end(),
+                                  [](auto const& parameter) { return isAdvanced(*parameter); });
         applyFilter();
     }
 
@@ -119,8 +121,7 @@ public:
             rows->setFilter(isShown);
         else
             rows->setFilter({});
-        auto const living = object.strong();
-        bool const showsNone = living && !living->parameters().empty() && rows->shownCount() == 0;
+        bool const showsNone = !parametersOf(object.strong()).empty() && rows->shownCount() == 0;
         rows->setVisible(!showsNone);
         emptyNote->setText(emptyText());
         emptyNote->setVisible(showsNone);

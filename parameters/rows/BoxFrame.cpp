@@ -1,5 +1,6 @@
 #include <parameters/rows/BoxFrame.hpp>
 
+#include <cstring>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionGroupBox>
@@ -19,10 +20,11 @@ void drawFrame(QStyleOptionGroupBox option, QPainter& painter, QWidget const& bo
     box.style()->drawComplexControl(QStyle::CC_GroupBox, &option, &painter, &box);
 }
 
-/// Whether each line of the picture is like its first one.
+/// Whether each line of the picture, which has 32 bits for each pixel, is like its first one.
 bool hasEqualLines(QImage const& picture) {
+    auto const bytes = static_cast<std::size_t>(picture.width()) * sizeof(QRgb);
     for (int y = 1; y < picture.height(); ++y)
-        if (picture.copy(0, y, picture.width(), 1) != picture.copy(0, 0, picture.width(), 1))
+        if (std::memcmp(picture.constScanLine(y), picture.constScanLine(0), bytes) != 0)
             return false;
     return true;
 }

@@ -13,6 +13,19 @@ namespace Talo {
 
 namespace {
 
+/// Some order of sets of names: by what is quickest to compare.
+struct BySize {
+    bool operator()(Kolt::VCreationPreferences::Names const& left,
+                    Kolt::VCreationPreferences::Names const& right) const {
+        if (left.size() != right.size())
+            return left.size() < right.size();
+        auto const [one, other] = std::mismatch(left.begin(), left.end(), right.begin());
+        if (one == left.end())
+            return false;
+        return one->size() == other->size() ? *one < *other : one->size() < other->size();
+    }
+};
+
 /// Adds rows to a plan, and the sections that they are in.
 class RowCollector {
 public:
@@ -34,21 +47,21 @@ private:
     /// The height classes of the parameters of one type, those that were met.
     struct HeightClasses {
         std::string type;
-        std::optional<std::size_t> plain;
-        std::map<Kolt::VCreationPreferences::Names, std::optional<std::size_t>> withPreferences;
+        std::optional<std::uint32_t> plain;
+        std::map<Kolt::VCreationPreferences::Names, std::optional<std::uint32_t>, BySize> withPreferences;
     };
 
-    std::size_t sectionOf(std::string_view title) {
+    std::uint32_t sectionOf(std::string_view title) {
         // Most parameters are in the section of the one before.
         if (!plan_.rows.empty() && title == lastTitle_)
             return plan_.rows.back().section;
         lastTitle_ = title;
-        auto const [section, isNew] = sections_.insert({lastTitle_, sections_.size()});
+        auto const [section, isNew] = sections_.insert({lastTitle_, static_cast<std::uint32_t>(sections_.size())});
         if (isNew)
             plan_.sectionTitles.push_back(QString::fromStdString(lastTitle_));
         return section->second;
     }
-    std::size_t heightClassOf(Kolt::VParameter const& parameter) {
+    std::uint32_t heightClassOf(Kolt::VParameter const& parameter) {
         auto const& preferences = parameter.creationPreferences();
         auto& ofType = heightClassesOf(parameter.declaredType());
         // Most parameters have no preferences.
@@ -64,7 +77,7 @@ private:
                                         [&](auto const& each) { return each.type == type; });
         return found == heightClasses_.end() ? heightClasses_.emplace_back(HeightClasses{type, {}, {}}) : *found;
     }
-    void addRow(Kolt::ParameterPtr const& parameter, std::size_t section) {
+    void addRow(Kolt::ParameterPtr const& parameter, std::uint32_t section) {
         plan_.rows.push_back({parameter, section, heightClassOf(*parameter)});
     }
     void addLabel(std::string_view label) {
@@ -77,10 +90,10 @@ private:
     }
 
     FormPlan& plan_;
-    std::unordered_map<std::string, std::size_t> sections_;
+    std::unordered_map<std::string, std::uint32_t> sections_;
     std::string lastTitle_;
     std::vector<HeightClasses> heightClasses_;
-    std::size_t heightClassCount_ = 0;
+    std::uint32_t heightClassCount_ = 0;
 };
 
 } // namespace
@@ -106,7 +119,7 @@ FormPlan::FormPlan(std::vector<Kolt::ParameterPtr> const& parameters) {
     if (!std::is_sorted(rows.begin(), rows.end(), isBefore))
         std::stable_sort(rows.begin(), rows.end(), isBefore);
     for (std::size_t row = 0; row < rows.size() && !vectorsByFirst.empty(); ++row)
-        if (auto const vector = vectorsByFirst.find(rows[row].parameter.get()); vector != vectorsByFirst.end())
+        if (auto const vector = vectorsByFirst.find(rows[row].parameter.strong().get()); vector != vectorsByFirst.end())
             vectors.insert({row, std::move(vector->second)});
 }
 

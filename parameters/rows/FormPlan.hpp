@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <lattice/Parameter.hpp>
 #include <map>
 #include <parameters/rows/ParameterVector.hpp>
@@ -15,10 +16,10 @@ struct TALO_EXPORT FormPlan {
     /// One row of the form.
     struct Row {
         /// The parameter of the row.
-        Kolt::ParameterPtr parameter;
+        Kolt::ParameterRef parameter;
         /// The number of the section, counted from 0.
-        std::size_t section = 0;
-        std::size_t heightClass = 0; ///< equal for parameters whose editors are probably equally high
+        std::uint32_t section = 0;
+        std::uint32_t heightClass = 0; ///< equal for parameters whose editors are probably equally high
     };
 
     /// The titles of the sections; empty for parameters without a section.

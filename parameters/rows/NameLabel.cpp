@@ -18,6 +18,9 @@ int NameLabel::wholeWidth() const {
 }
 
 void NameLabel::setName(QString const& name) {
+    // A row says it with everything that its parameter says about itself.
+    if (name == name_)
+        return;
     name_ = name;
     wholeWidth_ = -1;
     shortenTo(width_);

@@ -1,5 +1,7 @@
 #include <parameters/rows/ParameterDescription.hpp>
 
+#include <cstring>
+
 namespace Talo {
 
 namespace {
@@ -11,6 +13,12 @@ T property(Kolt::VParameter const& parameter, std::string_view name) {
 
 QString textOf(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
+}
+
+/// Not by rfind(), which looks at one character after the other.
+std::size_t behindLastDot(std::string_view name) {
+    auto const* const dot = static_cast<char const*>(memrchr(name.data(), '.', name.size()));
+    return dot ? static_cast<std::size_t>(dot - name.data()) + 1 : 0;
 }
 
 } // namespace
@@ -28,21 +36,12 @@ QString textProperty(Kolt::VParameter const& parameter, char const* name) {
 }
 
 ParameterHeading::ParameterHeading(Kolt::VParameter const& parameter)
-    : name_(parameter.Name()),
-      lastDot_(name_.rfind('.')),
-      label_(property<std::string>(parameter, "label")),
-      group_(property<std::string>(parameter, "group")) {}
-
-std::string_view ParameterHeading::label() const {
-    if (!label_.empty())
-        return label_;
-    return lastDot_ == std::string::npos ? name_ : std::string_view(name_).substr(lastDot_ + 1);
-}
-
-std::string_view ParameterHeading::section() const {
-    if (!group_.empty())
-        return group_;
-    return lastDot_ == std::string::npos ? std::string_view() : std::string_view(name_).substr(0, lastDot_);
+    : name_(parameter.nameView()), shortName_(behindLastDot(name_)) {
+    // Most have none.
+    if (!parameter.properties())
+        return;
+    label_ = Kolt::sharedValueIn<std::string>(findProperty(parameter, "label"));
+    group_ = Kolt::sharedValueIn<std::string>(findProperty(parameter, "group"));
 }
 
 ParameterDescription::ParameterDescription(Kolt::VParameter const& parameter, ParameterHeading const& heading)
@@ -55,7 +54,7 @@ ParameterDescription::ParameterDescription(Kolt::VParameter const& parameter, Pa
       isReadOnly(property<bool>(parameter, "readOnly")) {}
 
 bool isAdvanced(Kolt::VParameter const& parameter) {
-    return property<bool>(parameter, "advanced");
+    return parameter.properties() && property<bool>(parameter, "advanced");
 }
 
 bool isChangeable(Kolt::VParameter const& parameter) {

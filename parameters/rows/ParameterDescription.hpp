@@ -1,6 +1,7 @@
 #pragma once
 
 #include <lattice/Parameter.hpp>
+#include <memory>
 #include <QString>
 #include <string>
 #include <string_view>
@@ -9,25 +10,26 @@
 namespace Talo {
 
 /// What a form reads of each of its parameters, of which there may be ten thousand: UTF-8, as it is kept, because most
-/// of it is never shown. User-interface thread.
+/// of it is never shown. What it says is valid as long as the heading and the parameter. User-interface thread.
 class TALO_EXPORT ParameterHeading {
 public:
     /// Reads the properties of the parameter.
     explicit ParameterHeading(Kolt::VParameter const& parameter);
 
-    /// What the row is called: the text "label", else the part of the name after its last dot. Valid as long as the
-    /// heading.
-    std::string_view label() const;
-    /// The title of the section: the text "group", else the part of the name before its last dot. Empty for none. Valid
-    /// as long as the heading.
-    std::string_view section() const;
+    /// What the row is called: the text "label", else the part of the name after its last dot.
+    std::string_view label() const { return label_ && !label_->empty() ? *label_ : name_.substr(shortName_); }
+    /// The title of the section: the text "group", else the part of the name before its last dot. Empty for none.
+    std::string_view section() const {
+        return group_ && !group_->empty() ? *group_ : name_.substr(0, shortName_ == 0 ? 0 : shortName_ - 1);
+    }
 
 private:
-    std::string const name_;
-    std::size_t const lastDot_;
-    // Empty for a parameter without the property.
-    std::string const label_;
-    std::string const group_;
+    std::string_view const name_;
+    // Where the part of the name begins that is behind its last dot; 0 for a name without dots.
+    std::size_t const shortName_;
+    // Null for a parameter without the property.
+    std::shared_ptr<std::string const> label_;
+    std::shared_ptr<std::string const> group_;
 };
 
 /// What a parameter's properties say about it to people. The properties are optional; one of another type than is named

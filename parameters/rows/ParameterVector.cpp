@@ -58,7 +58,8 @@ void nameComponents(ParameterVector& vector) {
 
 std::vector<ParameterVector> vectorsOf(std::vector<Kolt::ParameterPtr> const& parameters) {
     bool const hasVector = std::any_of(parameters.begin(), parameters.end(), [](auto const& parameter) {
-        return findProperty(*parameter, "rowOf") && !textProperty(*parameter, "rowOf").isEmpty();
+        return parameter->properties() && findProperty(*parameter, "rowOf") &&
+               !textProperty(*parameter, "rowOf").isEmpty();
     });
     if (!hasVector)
         return {};

@@ -13,6 +13,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyle>
+#include <utility>
 
 namespace Talo {
 
@@ -48,14 +49,14 @@ RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> cons
     arrange();
 }
 
-void RowArea::addEntries(FormPlan const& plan) {
+void RowArea::addEntries(FormPlan plan) {
     entries_.reserve(plan.rows.size());
     layout_.reserve(plan.rows.size());
-    for (auto const& [parameter, section, heightClass] : plan.rows) {
+    for (auto& [parameter, section, heightClass] : plan.rows) {
         while (layout_.sectionCount() <= section)
             layout_.addSection();
         layout_.addRow(heightClass);
-        entries_.push_back({parameter});
+        entries_.push_back({std::move(parameter)});
     }
     vectors_.setVectors(plan.vectors);
     sections_ = new FormSections(*content_, layout_, plan.sectionTitles, this);
@@ -134,7 +135,9 @@ void RowArea::setRawValuesShown(bool shown) {
 }
 
 void RowArea::setFilter(std::function<bool(Kolt::VParameter const&)> const& filter) {
-    for (std::size_t place = 0; place < entries_.size(); ++place) {
+    // Most forms never have one.
+    bool const wasFiltered = std::exchange(isFiltered_, static_cast<bool>(filter));
+    for (std::size_t place = 0; place < entries_.size() && (filter || wasFiltered); ++place) {
         auto const parameter = filter ? entries_[place].parameter.strong() : nullptr;
         layout_.setShown(place, !filter || (parameter && filter(*parameter)));
         if (auto* const row = entries_[place].row)

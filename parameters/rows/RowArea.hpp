@@ -109,7 +109,7 @@ private:
         ParameterRow* row = nullptr;
     };
 
-    void addEntries(FormPlan const& plan);
+    void addEntries(FormPlan plan);
     /// Hides the rows of sections that were folded, and shows those of open ones.
     void showFolding();
     Entry* entryOf(QWidget const* widget);
@@ -151,6 +151,7 @@ private:
     bool editorsOpen_ = true;
     bool rawValuesShown_ = false;
     bool making_ = false;
+    bool isFiltered_ = false;
     FocusGuess focusGuess_;
 };
 

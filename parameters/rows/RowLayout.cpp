@@ -84,19 +84,30 @@ void RowLayout::arrange() {
     totalHeight_ = top - spacing_.betweenSections + spacing_.bottom;
 }
 
+inline int RowLayout::neededHeight(Row& row) const {
+    if (!row.shown)
+        return 0;
+    if (!row.measured && estimates_[row.heightClass] > 0)
+        row.height = estimates_[row.heightClass];
+    return row.height;
+}
+
 void RowLayout::arrange(Section& section) {
     // The rows of a folded section are where it ends, so that places never go up.
     int bottom = section.top + (section.folded ? section.margins.folded : section.margins.top);
     bool isEmpty = true;
-    auto const sectionEnd = section.firstRow + section.rowCount;
-    for (auto row = section.firstRow; row < sectionEnd;) {
-        auto const end = endOfPlace(row, sectionEnd);
-        int const needed = neededHeight(row, end);
+    auto row = rows_.begin() + static_cast<std::ptrdiff_t>(section.firstRow);
+    auto const sectionEnd = row + static_cast<std::ptrdiff_t>(section.rowCount);
+    while (row != sectionEnd) {
+        int needed = neededHeight(*row);
+        auto end = row + 1;
+        for (; end != sectionEnd && end->joined; ++end)
+            needed = std::max(needed, neededHeight(*end));
         bool const hasPlace = needed > 0 && !section.folded;
         isEmpty = isEmpty && needed == 0;
-        for (; row < end; ++row) {
-            rows_[row].top = bottom;
-            rows_[row].placeHeight = hasPlace ? needed : 0;
+        for (; row != end; ++row) {
+            row->top = bottom;
+            row->placeHeight = hasPlace ? needed : 0;
         }
         if (hasPlace)
             bottom += needed + spacing_.betweenRows;
@@ -107,25 +118,6 @@ void RowLayout::arrange(Section& section) {
         section.height = section.margins.folded;
     else
         section.height = bottom - spacing_.betweenRows + section.margins.bottom - section.top;
-}
-
-std::size_t RowLayout::endOfPlace(std::size_t row, std::size_t sectionEnd) const {
-    for (++row; row < sectionEnd && rows_[row].joined;)
-        ++row;
-    return row;
-}
-
-int RowLayout::neededHeight(std::size_t row, std::size_t end) {
-    int needed = 0;
-    for (; row < end; ++row) {
-        auto& each = rows_[row];
-        if (!each.shown)
-            continue;
-        if (!each.measured && estimates_[each.heightClass] > 0)
-            each.height = estimates_[each.heightClass];
-        needed = std::max(needed, each.height);
-    }
-    return needed;
 }
 
 std::vector<std::size_t> RowLayout::farRows(std::set<std::size_t> const& rows, int top, int bottom,

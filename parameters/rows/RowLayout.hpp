@@ -121,10 +121,8 @@ private:
         bool folded = false;
     };
     void arrange(Section& section);
-    /// The number after the last of the rows that stand beside this one.
-    std::size_t endOfPlace(std::size_t row, std::size_t sectionEnd) const;
-    /// The height that the shown ones of these rows need.
-    int neededHeight(std::size_t row, std::size_t end);
+    /// The height that the row needs; 0 if it is not shown. Takes over the estimate of a row that was not measured.
+    int neededHeight(Row& row) const;
 
     Spacing const spacing_;
     std::vector<Row> rows_;
