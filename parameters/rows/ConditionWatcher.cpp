@@ -21,7 +21,7 @@ ConditionWatcher::ConditionWatcher(std::vector<Kolt::ParameterPtr> const& parame
         return Watched{*condition, other->second};
     };
     for (auto const& parameter : parameters) {
-        if (!parameter->properties())
+        if (!findProperty(*parameter, Condition::Properties[0]) && !findProperty(*parameter, Condition::Properties[1]))
             continue;
         Conditions own{watch(*parameter, Condition::Properties[0]), watch(*parameter, Condition::Properties[1])};
         if (own.visible || own.enabled)

@@ -33,7 +33,9 @@ public:
 
     void add(Kolt::ParameterPtr const& parameter) {
         ParameterHeading const heading(*parameter);
-        addRow(parameter, sectionOf(heading.section()));
+        // Most parameters are in the section of the one before.
+        bool const isInSame = !plan_.rows.empty() && heading.section() == lastTitle_;
+        addRow(parameter, isInSame ? plan_.rows.back().section : sectionOf(heading.section()));
         addLabel(heading.label());
     }
     void add(ParameterVector const& vector) {
@@ -52,9 +54,6 @@ private:
     };
 
     std::uint32_t sectionOf(std::string_view title) {
-        // Most parameters are in the section of the one before.
-        if (!plan_.rows.empty() && title == lastTitle_)
-            return plan_.rows.back().section;
         lastTitle_ = title;
         auto const [section, isNew] = sections_.insert({lastTitle_, static_cast<std::uint32_t>(sections_.size())});
         if (isNew)

@@ -45,7 +45,6 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(12);
     layout_->addWidget(names_);
-    connect(names_, &RowName::resetRequested, this, &ParameterRow::resetToDefault);
     // What people do not edit has no default, and workers may change it often.
     if (parameter->isEdited())
         parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));

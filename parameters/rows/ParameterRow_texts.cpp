@@ -19,7 +19,10 @@ void ParameterRow::showDefault() {
     auto const value = defaults->in(pool()).value;
     if (shownDefault_ != Tessera::WeakPtr<Kolt::VValueBase>(value)) {
         shownDefault_ = value;
+        bool const hadIndicator = names_->indicator();
         names_->setDefault(spokenName(), valueText(*value));
+        if (!hadIndicator)
+            connect(names_->indicator(), &ModifiedIndicator::clicked, this, &ParameterRow::resetToDefault);
     }
     names_->showModified();
 }

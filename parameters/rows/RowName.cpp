@@ -20,7 +20,7 @@ RowName::RowName(QWidget* parent) : QWidget(parent), grid_(new QGridLayout(this)
     grid_->setContentsMargins(0, 4, 0, 4);
     grid_->setHorizontalSpacing(indicatorDistance);
     grid_->setVerticalSpacing(0);
-    grid_->setColumnStretch(RestColumn, 1);
+    // Alone it takes all of the width, as most names do.
     grid_->addWidget(label_, 0, NameColumn);
 }
 
@@ -35,7 +35,12 @@ void RowName::setName(QString const& name) {
         label_->setName(name);
 }
 
+void RowName::leaveRestEmpty() {
+    grid_->setColumnStretch(RestColumn, 1);
+}
+
 void RowName::setComponent(QString const& component, QString const& vector) {
+    leaveRestEmpty();
     if (!std::exchange(isComponent_, true)) {
         // Beside the editor, also where a note is below the name of the vector.
         grid_->removeWidget(label_);
@@ -62,6 +67,7 @@ void RowName::setNote(QString const& note) {
         return;
     if (!noteLabel_) {
         noteLabel_ = new SmallLabel(this);
+        leaveRestEmpty();
         if (isComponent_)
             grid_->addWidget(noteLabel_, 1, VectorColumn);
         else
@@ -77,7 +83,7 @@ void RowName::setDefault(QString const& parameterName, QString const& defaultTex
         grid_->addWidget(indicator_, 0, IndicatorColumn, isComponent_ ? 2 : 1, 1);
         indicator_->hide();
         keepIndicatorRoom();
-        connect(indicator_, &ModifiedIndicator::clicked, this, &RowName::resetRequested);
+        leaveRestEmpty();
     }
     indicator_->setDefault(parameterName, defaultText);
 }

@@ -53,11 +53,9 @@ public:
     /// The room that the vector's name takes now; 0 without one.
     int vectorWidth() const;
 
-signals:
-    /// The user wants the default.
-    void resetRequested();
-
 private:
+    /// Leaves the room that nothing needs behind all that the name stands with.
+    void leaveRestEmpty();
     /// Has the editor of a component stay in its place when the dot comes or goes.
     void keepIndicatorRoom();
 

@@ -21,8 +21,23 @@ SmallLabel::SmallLabel(QWidget* parent) : MutedLabel(QString(), parent) {
 
 SmallLabel::~SmallLabel() = default;
 
+QSize SmallLabel::sizeHint() const {
+    ensurePolished();
+    // Each label of Qt lays its text out three times for this, and a form asks all rows when another pool is chosen.
+    if (!textSize_.isValid() || measured_ != text()) {
+        measured_ = text();
+        textSize_ = fontMetrics().size(0, measured_);
+    }
+    return textSize_;
+}
+
+void SmallLabel::changeEvent(QEvent* event) {
+    MutedLabel::changeEvent(event);
+    textSize_ = QSize();
+}
+
 void SmallLabel::paintEvent(QPaintEvent* event) {
-    if (fontMetrics().horizontalAdvance(text()) <= width()) {
+    if (sizeHint().width() <= width() || fontMetrics().horizontalAdvance(text()) <= width()) {
         MutedLabel::paintEvent(event);
         return;
     }

@@ -15,8 +15,18 @@ public:
     explicit SmallLabel(QWidget* parent = nullptr);
     ~SmallLabel() override;
 
+    /// That of the whole text.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    mutable QString measured_;
+    // Of the measured text; invalid after another font was set.
+    mutable QSize textSize_;
 };
 
 } // namespace Talo
