@@ -11,7 +11,7 @@ namespace Talo {
 namespace {
 
 // Large enough to have an inside under any title.
-constexpr QSize sampleSize(200, 120);
+constexpr QSize sampleSize(100, 120);
 // What styles may round within the edges.
 constexpr int cornerSize = 8;
 

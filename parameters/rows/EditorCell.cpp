@@ -164,7 +164,8 @@ bool EditorCell::canShowValue() const {
         (chosenFor(*parameter, editor_.widget) != chosen_ ||
          Kolt::missingValueType(*parameter, pools_.pool()) != neededType_))
         return false;
-    if (!parameter || !editor_.widget || parameter->declaredType() != Tessera::Typename(typeid(Kolt::Enum)))
+    static auto const enumeration = Tessera::Typename(typeid(Kolt::Enum));
+    if (!parameter || !editor_.widget || parameter->declaredType() != enumeration)
         return true;
     auto const names = namesIn(parameter->effectiveValue(pools_.pool()));
     if (!Tessera::sameTexts(names.get(), names_.get()))

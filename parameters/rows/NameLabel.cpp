@@ -1,8 +1,19 @@
 #include <parameters/rows/NameLabel.hpp>
 
+#include <algorithm>
 #include <parameters/rows/MutedLabel.hpp>
 
 namespace Talo {
+
+namespace {
+
+/// Whether a label may show a character in another way than as it is in one line.
+bool isSpecial(QChar character) {
+    return character == QLatin1Char('&') || character < QLatin1Char(' ') || character == QChar::LineSeparator ||
+           character == QChar::ParagraphSeparator;
+}
+
+} // namespace
 
 NameLabel::NameLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -12,9 +23,28 @@ NameLabel::NameLabel(QWidget* parent) : QLabel(parent) {
 NameLabel::~NameLabel() = default;
 
 int NameLabel::wholeWidth() const {
-    if (wholeWidth_ < 0)
-        wholeWidth_ = fontMetrics().size(Qt::TextSingleLine, name_).width();
-    return wholeWidth_;
+    return wholeSize().width();
+}
+
+QSize NameLabel::wholeSize() const {
+    if (!wholeSize_.isValid())
+        wholeSize_ = fontMetrics().size(Qt::TextSingleLine, name_);
+    return wholeSize_;
+}
+
+bool NameLabel::isPlain() const {
+    return !name_.isEmpty() && width_ >= wholeWidth() && std::none_of(name_.begin(), name_.end(), isSpecial);
+}
+
+// Each label of Qt lays its text out three times for its hints, and the whole name is measured already.
+QSize NameLabel::sizeHint() const {
+    ensurePolished();
+    return isPlain() ? wholeSize().expandedTo(minimumSize()) : QLabel::sizeHint();
+}
+
+QSize NameLabel::minimumSizeHint() const {
+    ensurePolished();
+    return isPlain() ? wholeSize().expandedTo(minimumSize()) : QLabel::minimumSizeHint();
 }
 
 void NameLabel::setName(QString const& name) {
@@ -22,7 +52,7 @@ void NameLabel::setName(QString const& name) {
     if (name == name_)
         return;
     name_ = name;
-    wholeWidth_ = -1;
+    wholeSize_ = QSize();
     shortenTo(width_);
 }
 
@@ -33,7 +63,7 @@ void NameLabel::shortenTo(int width) {
 
 void NameLabel::changeEvent(QEvent* event) {
     QLabel::changeEvent(event);
-    wholeWidth_ = -1;
+    wholeSize_ = QSize();
 }
 
 void NameLabel::showText(QString text) {

@@ -22,17 +22,24 @@ public:
     /// Shortens the name to a width in pixels, or shows all of it if that suffices.
     void shortenTo(int width);
 
+    /// That of the text that is shown.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
     void showText(QString text);
+    QSize wholeSize() const;
+    /// Whether the label needs the room of the whole name.
+    bool isPlain() const;
 
     QString name_;
     // What was given last, in pixels.
     int width_ = QWIDGETSIZE_MAX;
-    // The form asks for it often. Negative until it is asked for.
-    mutable int wholeWidth_ = -1;
+    // The form asks for it often. Invalid until it is asked for.
+    mutable QSize wholeSize_;
 };
 
 } // namespace Talo

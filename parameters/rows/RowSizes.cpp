@@ -19,20 +19,22 @@ bool RowSizes::measure(std::size_t place, int rowWidth) {
     }
     row.setNameWidth(nameColumn(rowWidth));
     auto const others = vectors_.fit(place, rowWidth, nameColumn(rowWidth));
-    for (auto const other : others)
+    for (auto const other : others) {
+        rowAt_(other)->setNameWidth(nameColumn(rowWidth));
         measureRow(other, rowWidth);
+    }
     return measureRow(place, rowWidth) || isWider || !others.empty();
 }
 
 bool RowSizes::measureRow(std::size_t place, int rowWidth) {
     auto& row = *rowAt_(place);
-    row.setNameWidth(nameColumn(rowWidth));
     int const width = vectors_.span(place, rowWidth, nameColumn(rowWidth)).width;
     row.fitInto(width);
-    int const wanted = row.hasHeightForWidth() ? row.heightForWidth(width) : row.sizeHint().height();
+    int const wanted = row.hasHeightForWidth() ? row.heightForWidth(width)
+                                               : qMax(row.sizeHint().height(), row.minimumSizeHint().height());
     // What the row asks for now is known.
     (void)row.takeSizeChange();
-    return layout_.setHeight(place, qMax(wanted, row.hasHeightForWidth() ? 0 : row.minimumSizeHint().height()));
+    return layout_.setHeight(place, wanted);
 }
 
 bool RowSizes::measureChanged(int rowWidth) {

@@ -23,12 +23,14 @@ SmallLabel::~SmallLabel() = default;
 
 QSize SmallLabel::sizeHint() const {
     ensurePolished();
+    if (text().isEmpty())
+        return MutedLabel::sizeHint();
     // Each label of Qt lays its text out three times for this, and a form asks all rows when another pool is chosen.
     if (!textSize_.isValid() || measured_ != text()) {
         measured_ = text();
-        textSize_ = fontMetrics().size(0, measured_);
+        textSize_ = fontMetrics().size(Qt::TextExpandTabs, measured_);
     }
-    return textSize_;
+    return textSize_.expandedTo(minimumSize());
 }
 
 void SmallLabel::changeEvent(QEvent* event) {
