@@ -49,7 +49,7 @@ RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> cons
     arrange();
 }
 
-void RowArea::addEntries(FormPlan plan) {
+void RowArea::addEntries(FormPlan&& plan) {
     entries_.reserve(plan.rows.size());
     layout_.reserve(plan.rows.size());
     for (auto& [parameter, section, heightClass] : plan.rows) {

@@ -109,7 +109,7 @@ private:
         ParameterRow* row = nullptr;
     };
 
-    void addEntries(FormPlan plan);
+    void addEntries(FormPlan&& plan);
     /// Hides the rows of sections that were folded, and shows those of open ones.
     void showFolding();
     Entry* entryOf(QWidget const* widget);

@@ -38,15 +38,15 @@ void SmallLabel::changeEvent(QEvent* event) {
     textSize_ = QSize();
 }
 
-void SmallLabel::paintEvent(QPaintEvent* event) {
-    if (sizeHint().width() <= width() || fontMetrics().horizontalAdvance(text()) <= width()) {
-        MutedLabel::paintEvent(event);
-        return;
-    }
-    QStylePainter painter(this);
-    auto const shortened = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+void SmallLabel::paintEvent(QPaintEvent*) {
+    // Not by the label of Qt, which asks the style for a frame that this one has not.
+    bool const fits = sizeHint().width() <= width() || fontMetrics().horizontalAdvance(text()) <= width();
+    auto const shown = fits ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    auto const direction = text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+    auto const whole = static_cast<int>(alignment()) | direction;
     auto const begin = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
-    painter.drawItemText(rect(), static_cast<int>(begin), palette(), isEnabled(), shortened, foregroundRole());
+    QStylePainter(this).drawItemText(rect(), fits ? whole : static_cast<int>(begin), palette(), isEnabled(), shown,
+                                     foregroundRole());
 }
 
 } // namespace Talo

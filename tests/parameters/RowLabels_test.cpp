@@ -76,3 +76,25 @@ TEST_F(RowLabelsTest, ANoteAsksForTheRoomOfALabel) {
     label.setMinimumSize(500, 90);
     expectRoomOf(label);
 }
+
+TEST_F(RowLabelsTest, ANoteIsPaintedAsALabel) {
+    for (auto const& text : {"in pool a", "שלום", "a & b", "two\nlines"})
+        for (bool const enabled : {true, false}) {
+            Talo::SmallLabel label;
+            label.setText(text);
+            label.setEnabled(enabled);
+            label.resize(label.sizeHint() + QSize(30, 10));
+            QLabel plain;
+            plain.setTextFormat(Qt::PlainText);
+            plain.setAlignment(label.alignment());
+            plain.setFont(label.font());
+            plain.setPalette(label.palette());
+            plain.setText(text);
+            plain.setEnabled(enabled);
+            plain.resize(label.size());
+            auto const painted = label.grab().toImage();
+            EXPECT_EQ(painted, plain.grab().toImage()) << text;
+            label.setText(QString());
+            EXPECT_NE(painted, label.grab().toImage()) << text;
+        }
+}
