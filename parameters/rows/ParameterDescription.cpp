@@ -1,7 +1,5 @@
 #include <parameters/rows/ParameterDescription.hpp>
 
-#include <cstring>
-
 namespace Talo {
 
 namespace {
@@ -15,10 +13,9 @@ QString textOf(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<int>(text.size()));
 }
 
-/// Not by rfind(), which looks at one character after the other.
 std::size_t behindLastDot(std::string_view name) {
-    auto const* const dot = static_cast<char const*>(memrchr(name.data(), '.', name.size()));
-    return dot ? static_cast<std::size_t>(dot - name.data()) + 1 : 0;
+    // Most names have none, and find() looks at many characters at once.
+    return name.find('.') == std::string_view::npos ? 0 : name.rfind('.') + 1;
 }
 
 } // namespace
