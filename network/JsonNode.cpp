@@ -4,6 +4,7 @@
 #include <cmath>
 #include <lattice/ValueTrait.hpp>
 #include <limits>
+#include <network/JsonKeys.hpp>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -11,8 +12,6 @@
 #include <QStringList>
 #include <QVarLengthArray>
 #include <string_view>
-#include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 namespace Talo {
@@ -87,7 +86,7 @@ bool isWhole(QString const& text) {
 /// only has to tell values apart.
 class JsonNode::Scanner {
 public:
-    explicit Scanner(QByteArray const& json) : next_(json.begin()), end_(json.end()) {
+    Scanner(QByteArray const& json, JsonKeys& keys) : keys_(keys), next_(json.begin()), end_(json.end()) {
         if (json.startsWith("\xEF\xBB\xBF"))
             next_ += 3;
     }
@@ -129,35 +128,20 @@ private:
         return true;
     }
 
-    /// Goes behind a text; says whether characters in it are written by a backslash.
-    bool skipString() {
-        bool isEscaped = false;
+    /// Goes behind a text.
+    void skipString() {
         advance();
         while (next_ != end_ && *next_ != '"') {
-            if (*next_ == '\\') {
-                isEscaped = true;
+            if (*next_ == '\\')
                 advance();
-            }
             advance();
         }
         advance();
-        return isEscaped;
     }
-    /// Reads a key. Keys are few and come again and again, so all of one text share it.
     QString const* readKey() {
         auto const* const begin = next_;
-        bool const isEscaped = skipString();
-        std::string_view const written(begin, static_cast<std::size_t>(next_ - begin));
-        auto& known = keys_[written];
-        if (!known)
-            known = &*keyTexts_.insert(decoded(written, isEscaped)).first;
-        return known;
-    }
-    static QString decoded(std::string_view written, bool isEscaped) {
-        auto const size = static_cast<int>(written.size());
-        if (!isEscaped)
-            return QString::fromUtf8(written.data() + 1, size - 2);
-        return QJsonDocument::fromJson('[' + QByteArray(written.data(), size) + ']').array().at(0).toString();
+        skipString();
+        return keys_.read(std::string_view(begin, static_cast<std::size_t>(next_ - begin)));
     }
 
     /// The value of a member by its key. Qt compares keys up to a U+0000, and loses a byte order mark at their start,
@@ -213,9 +197,7 @@ private:
         node.value_ = QJsonArray();
     }
 
-    // By the key as it is written in the file, with its quotation marks. Two ways to write a key share the text.
-    std::unordered_map<std::string_view, QString const*> keys_;
-    std::unordered_set<QString> keyTexts_;
+    JsonKeys& keys_;
     char const* next_;
     char const* const end_;
     int line_ = 1;
@@ -229,6 +211,11 @@ QString Expectation::text() const {
 }
 
 JsonNode JsonNode::parse(QByteArray const& json) {
+    JsonKeys keys;
+    return parse(json, keys);
+}
+
+JsonNode JsonNode::parse(QByteArray const& json, JsonKeys& keys) {
     QJsonParseError error{};
     auto const document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
@@ -239,7 +226,7 @@ JsonNode JsonNode::parse(QByteArray const& json) {
     }
     JsonNode root;
     root.value_ = document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
-    Scanner(json).scan(root);
+    Scanner(json, keys).scan(root);
     return root;
 }
 
@@ -344,11 +331,6 @@ JsonNode const* JsonNode::find(char const* key) const {
 
 JsonNode* JsonNode::find(char const* key) {
     return const_cast<JsonNode*>(std::as_const(*this).find(key));
-}
-
-void JsonNode::release(char const* key) {
-    if (auto* const found = find(key))
-        found->children_ = {};
 }
 
 JsonNode const& JsonNode::required(char const* key, Expectation const& what) const {

@@ -8,6 +8,8 @@
 
 namespace Talo {
 
+class JsonKeys;
+
 /// An error in a network file. Thrown by everything that reads one.
 struct TALO_EXPORT FormatError {
     /// The line of the file, counted from 1; 0 where the file itself cannot be read.
@@ -40,6 +42,8 @@ public:
     /// Reads a whole file, whose outermost value must be an object. An object with two equal keys is
     /// refused.
     static JsonNode parse(QByteArray const& json);
+    /// The same, for one of many texts with the same keys.
+    static JsonNode parse(QByteArray const& json, JsonKeys& keys);
 
     /// The key of the node in its object; empty in a list and for the outermost value.
     QString const& key() const { return key_; }
@@ -71,10 +75,9 @@ public:
     /// The value under a key of an object; refuses an object without it.
     JsonNode const& required(char const* key, Expectation const& what) const;
 
-    /// Frees what is in the value under a key of an object, after it was read: of a large file that is most of what is
-    /// kept. Nothing without the key.
-    void release(char const* key);
-    /// The value under a key of an object, to release parts of it; null when there is none.
+    /// Frees what is in an object or a list, after it was read: of a large file that is most of what is kept.
+    void release() { children_ = {}; }
+    /// The value under a key of an object, to release or move it; null when there is none.
     JsonNode* find(char const* key);
     /// The n-th value of a list. REQUIRES: there is one.
     JsonNode& element(std::size_t n) { return children_[n]; }

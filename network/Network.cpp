@@ -3,12 +3,12 @@
 #include <network/JsonFormat.hpp>
 #include <network/NetworkParts.hpp>
 #include <network/NetworkReader.hpp>
+#include <network/NetworkText.hpp>
 #include <network/PropertyFormat.hpp>
 #include <network/SaveFile.hpp>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <tessera/FileContent.hpp>
 
@@ -105,6 +105,11 @@ void Network::addObject(Kolt::ObjectPtr const& object, QString const& kind) {
     rememberSaved(*object);
 }
 
+void Network::reserveObjects(std::size_t count) {
+    objects_.reserve(count);
+    byName_.reserve(count);
+}
+
 void Network::insertObject(Kolt::ObjectPtr const& object, QString const& kind) {
     objects_.push_back(object);
     byName_.insert({object->Name(), object});
@@ -182,7 +187,7 @@ void Network::connectActions(Kolt::VParameter const& parameter, Kolt::ObjectPtr 
             connect(parameter.getLocalValue(pool, std::string(), false));
 }
 
-QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString const& targetFolder) const {
+QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, Folders const& folders) const {
     auto const* const format = formatOf(parameter);
     if (!format)
         refuseToWrite(QStringLiteral("no network file can hold a parameter of type ") +
@@ -190,13 +195,14 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
     auto const key = QString::fromStdString(format->key());
     auto const* const opened = whenOpened(parameter);
     auto const ownValue = opened ? opened->in(nullptr).value : parameter.ownValue();
-    auto const* const ownEntries = entriesOf(ownValue);
+    bool const chooses = choosesEntries(*format);
+    auto const* const ownEntries = chooses ? entriesOf(ownValue) : nullptr;
     auto const json = [&](Kolt::ValuePtr const& value) {
         auto const written = writeValue(*format, value);
         if (written.isUndefined())
             refuseToWrite(QStringLiteral("the value is not of type ") + key +
                           QStringLiteral(", or no file can hold it, as a text that is not UTF-8"));
-        auto const* const entries = entriesOf(value);
+        auto const* const entries = chooses ? entriesOf(value) : nullptr;
         if (entries && (!ownEntries || *entries != *ownEntries))
             refuseToWrite(QStringLiteral("the value of a pool chooses among other entries than the parameter"));
         return written;
@@ -205,7 +211,7 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
     QJsonObject node{{QStringLiteral("name"), QString::fromStdString(parameter.Name())},
                      {QStringLiteral("type"), key},
                      {QStringLiteral("value"), json(ownValue)}};
-    if (choosesEntries(*format))
+    if (chooses)
         node.insert(QStringLiteral("entries"), ownEntries ? textsToJson(*ownEntries) : QJsonArray());
     auto const poolValues = poolValuesToJson(pools_, poolValuesOf(parameter, opened), json);
     if (!poolValues.isEmpty())
@@ -216,26 +222,29 @@ QJsonObject Network::parameterToJson(Kolt::VParameter const& parameter, QString 
         auto const& names = preferences->names();
         node.insert(QStringLiteral("preferences"), textsToJson({names.begin(), names.end()}));
     }
-    auto const properties = propertiesToJson(parameter, PropertyFormat(key, folder()), targetFolder);
+    auto const properties = propertiesToJson(parameter, PropertyFormat(key, folders.now), folders.target);
     if (!properties.isEmpty())
         node.insert(QStringLiteral("properties"), properties);
     return node;
 }
 
-QJsonObject Network::objectToJson(Kolt::VObject const& object, QString const& targetFolder) const {
-    auto const name = QString::fromStdString(object.Name());
+QJsonObject Network::objectToJson(Kolt::ObjectPtr const& object, Folders const& folders) const {
+    auto const name = QString::fromStdString(object->Name());
     QJsonArray parameters;
-    for (auto const& parameter : object.parameters()) {
+    for (auto const& parameter : object->parameters()) {
         try {
-            parameters.append(parameterToJson(*parameter, targetFolder));
+            parameters.append(parameterToJson(*parameter, folders));
         } catch (FormatError const& error) {
             refuseToWrite(name + QLatin1Char('.') + QString::fromStdString(parameter->Name()) + QStringLiteral(": ") +
                           error.text);
         }
     }
     QJsonObject node{{QStringLiteral("name"), name}, {QStringLiteral("parameters"), parameters}};
+    auto const objectKind = kind(object);
+    if (!objectKind.isEmpty())
+        node.insert(QStringLiteral("kind"), objectKind);
     QJsonArray slotList;
-    for (auto const& slot : object.slotList()) {
+    for (auto const& slot : object->slotList()) {
         auto const bound = nameOf(slot->parameter());
         slotList.append(QJsonObject{{QStringLiteral("name"), QString::fromStdString(slot->Name())},
                                     {QStringLiteral("parameter"), bound.isEmpty() ? QJsonValue() : QJsonValue(bound)}});
@@ -245,22 +254,16 @@ QJsonObject Network::objectToJson(Kolt::VObject const& object, QString const& ta
     return node;
 }
 
-QByteArray Network::toJson(QString const& targetFolder) const {
+NetworkText Network::toText(QString const& targetFolder) const {
     QJsonArray pools;
     for (auto const& pool : pools_)
         pools.append(nameOfPool(pool));
-    QJsonArray objects;
-    for (auto const& object : objects_) {
-        auto node = objectToJson(*object, targetFolder);
-        auto const objectKind = kind(object);
-        if (!objectKind.isEmpty())
-            node.insert(QStringLiteral("kind"), objectKind);
-        objects.append(node);
-    }
-    return QJsonDocument(QJsonObject{{QStringLiteral("objects"), objects},
-                                     {QStringLiteral("pools"), pools},
-                                     {QStringLiteral("title"), title_}})
-        .toJson();
+    NetworkText text(QJsonObject{{QStringLiteral("pools"), pools}, {QStringLiteral("title"), title_}});
+    Folders const folders{folder(), targetFolder};
+    for (auto const& object : objects_)
+        text.add(objectToJson(object, folders));
+    text.finish();
+    return text;
 }
 
 bool Network::save(QString const& file, QString* error) const {
@@ -269,9 +272,10 @@ bool Network::save(QString const& file, QString* error) const {
     };
     QByteArray json;
     try {
-        json = toJson(QFileInfo(file).absolutePath());
+        auto const text = toText(QFileInfo(file).absolutePath());
         // What was added since the file was loaded may be more than the format allows.
-        NetworkReader::check(JsonNode::parse(json), file);
+        NetworkReader::check(text, file);
+        json = text.bytes();
     } catch (FormatError const& problem) {
         return refused(problem.text);
     }

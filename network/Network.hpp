@@ -20,6 +20,7 @@ class QJsonObject;
 namespace Talo {
 
 class NetworkReader;
+class NetworkText;
 
 /// Makes an object of a network: of the kind that the file names, which may be empty, and with the name, which the
 /// object must carry. Returns a new object, never null.
@@ -128,8 +129,16 @@ private:
         Kolt::ParameterRef parameter;
         Kolt::ValueSnapshot value;
     };
+    /// Where relative paths start, and where they are to start in a file that is written. Asked once for all
+    /// parameters.
+    struct Folders {
+        QString now;
+        QString target;
+    };
     Network();
 
+    /// Makes room for so many objects.
+    void reserveObjects(std::size_t count);
     /// Adds an object and its kind, and nothing else.
     void insertObject(Kolt::ObjectPtr const& object, QString const& kind);
     /// Adds a pool with a name that is not taken.
@@ -151,9 +160,10 @@ private:
     void rememberSaved(Kolt::VObject const& object);
     /// The folder of the file, absolute.
     QString folder() const;
-    QByteArray toJson(QString const& targetFolder) const;
-    QJsonObject objectToJson(Kolt::VObject const& object, QString const& targetFolder) const;
-    QJsonObject parameterToJson(Kolt::VParameter const& parameter, QString const& targetFolder) const;
+    /// The network as it is written to a folder.
+    NetworkText toText(QString const& targetFolder) const;
+    QJsonObject objectToJson(Kolt::ObjectPtr const& object, Folders const& folders) const;
+    QJsonObject parameterToJson(Kolt::VParameter const& parameter, Folders const& folders) const;
 
     QString file_;
     QString title_;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <network/Condition.hpp>
 #include <network/JsonFormat.hpp>
+#include <network/JsonKeys.hpp>
+#include <network/NetworkText.hpp>
 #include <network/PropertyFormat.hpp>
 #include <QStringList>
 #include <unordered_set>
@@ -98,17 +100,28 @@ NetworkReader::NetworkReader(QString const& file, ObjectFactory const& makeObjec
 
 std::unique_ptr<Network> NetworkReader::read(JsonNode root, QString const& file, ObjectFactory const& makeObject) {
     NetworkReader reader(file, makeObject);
-    reader.readRoot(std::move(root));
+    reader.readHead(root);
+    reader.readObjects(std::move(root));
+    reader.readSlots();
     reader.network_->rememberDefaults();
     return std::move(reader.network_);
 }
 
-void NetworkReader::check(JsonNode root, QString const& file) {
+void NetworkReader::check(NetworkText const& text, QString const& file) {
     ObjectFactory const makeObject;
-    NetworkReader(file, makeObject).readRoot(std::move(root));
+    NetworkReader reader(file, makeObject);
+    JsonKeys keys;
+    reader.readHead(JsonNode::parse(text.withoutObjects(), keys));
+    for (std::size_t n = 0; n < text.objectCount(); ++n) {
+        reader.readObjects(JsonNode::parse(text.withObject(n), keys));
+        // Only slots refer to another object.
+        if (!text.hasSlots())
+            reader.forgetObjects();
+    }
+    reader.readSlots();
 }
 
-void NetworkReader::readRoot(JsonNode root) {
+void NetworkReader::readHead(JsonNode const& root) {
     root.members("a network", {"objects", "pools", "title"});
     if (auto const* const title = root.find("title"))
         network_->title_ = title->text("the title");
@@ -118,17 +131,19 @@ void NetworkReader::readRoot(JsonNode root) {
         readPool(pool);
     if (network_->pools_.empty())
         pools.refuse(QStringLiteral("at least one pool"));
+}
 
+void NetworkReader::readObjects(JsonNode root) {
     auto const& objects = root.required("objects", "a network").elements("the objects");
+    network_->reserveObjects(objects.size());
     for (std::size_t index = 0; index < objects.size(); ++index) {
         readObject(objects[index]);
+        auto& read = root.find("objects")->element(index);
+        if (auto* const slotList = read.find("slots"))
+            slots_.emplace_back(network_->objects_.back(), std::move(*slotList));
         // So that a large network is in memory once and not twice.
-        root.find("objects")->element(index).release("parameters");
+        read.release();
     }
-    // A slot may be bound to a parameter of an object that comes later.
-    for (std::size_t index = 0; index < objects.size(); ++index)
-        if (auto const* const slotList = objects[index].find("slots"))
-            readSlots(*slotList, network_->objects_[index]);
 }
 
 void NetworkReader::readPool(JsonNode const& node) {
@@ -144,8 +159,9 @@ void NetworkReader::readObject(JsonNode const& node) {
     auto const name = nameNode.nonEmptyText("the name of an object");
     if (name.contains(QLatin1Char('.')))
         nameNode.refuse(QStringLiteral("the name of an object, which has no dot"));
-    if (network_->findObject(name))
+    if (takenObjectNames_.contains(name))
         nameNode.refuse(QStringLiteral("an object name that is not taken"), quoted(name) + QStringLiteral(" again"));
+    takenObjectNames_.insert(name);
 
     auto const* const kindNode = node.find("kind");
     auto const kind = kindNode ? kindNode->text("the kind of an object") : QString();
@@ -227,10 +243,21 @@ void NetworkReader::readPoolValues(JsonNode const& node, Kolt::VParameter const&
     }
 }
 
-void NetworkReader::readSlots(JsonNode const& node, Kolt::ObjectPtr const& object) {
+void NetworkReader::forgetObjects() {
+    network_->objects_.clear();
+    network_->byName_.clear();
+    network_->kinds_.clear();
+}
+
+void NetworkReader::readSlots() const {
+    for (auto const& [object, node] : slots_)
+        readSlots(node, *object);
+}
+
+void NetworkReader::readSlots(JsonNode const& node, Kolt::VObject& object) const {
     constexpr char const* what = "a slot";
     std::unordered_set<std::string> taken;
-    for (auto const& slot : object->slotList())
+    for (auto const& slot : object.slotList())
         taken.insert(slot->Name());
     for (auto const& slotNode : node.elements("the slots")) {
         slotNode.members(what, {"name", "parameter"});
@@ -247,7 +274,7 @@ void NetworkReader::readSlots(JsonNode const& node, Kolt::ObjectPtr const& objec
             if (!parameter)
                 bound.refuse(QStringLiteral("the parameter of a slot, \"object.parameter\" of the network"));
         }
-        object->addSlot(Tessera::StrongPtr<Kolt::VSlot>(new Kolt::VSlot(name, parameter)));
+        object.addSlot(Tessera::StrongPtr<Kolt::VSlot>(new Kolt::VSlot(name, parameter)));
     }
 }
 

@@ -20,6 +20,20 @@ TEST_F(Network, SavesCurrentValuesAndWhatWasAdded) {
     EXPECT_EQ(propertyOf(parameterOf(*again.network), "max"), "int 256");
 }
 
+TEST_F(Network, SavesTheTextThatQtWritesOfTheSameJson) {
+    auto const same = [this](QByteArray const& json) {
+        auto const read = network(json);
+        ASSERT_TRUE(read->save(path("saved.json"), nullptr));
+        EXPECT_EQ(bytesOf(path("saved.json")).toStdString(), QJsonDocument::fromJson(json).toJson().toStdString());
+    };
+    same(R"({ "title": "", "pools": ["draft"], "objects": [] })");
+    same(R"({ "title": "\u00e4 [\n", "pools": ["draft"], "objects": [{ "name": "a", "parameters": [] }] })");
+    same(R"({ "title": "t", "pools": ["draft", "final"], "objects": [
+        { "name": "first", "parameters": [], "slots": [{ "name": "in", "parameter": "last.p" }] },
+        { "name": "second", "kind": "thing", "parameters": [{ "name": "p\n[", "type": "flags", "value": { "\u00e4\"": true } }] },
+        { "name": "last", "parameters": [{ "name": "p", "type": "double", "value": 0.1, "values": { "final": 1e300 } }] }] })");
+}
+
 class NetworkNotSaved : public NetworkFileTest {
 protected:
     /// Checks that saving fails for this reason and leaves the file unchanged.
@@ -66,6 +80,21 @@ TEST_F(NetworkNotSaved, WithWhatCouldNotBeLoadedAgain) {
     auto const read = network(withParameters(R"({ "name": "p", "type": "enum", "value": "a", "entries": ["a"] })"));
     parameterOf(*read)->setProperty("wrap", Kolt::makeValue(0), nullptr, nullptr, nullptr);
     expectRefused(*read, "o.p: expected the property \"wrap\", at least 1, found the number 0");
+}
+
+TEST_F(NetworkNotSaved, WithTwoObjectsOfOneName) {
+    auto const read = network(withParameters(""));
+    read->addObject("other", {});
+    read->addObject("o", {});
+    expectRefused(*read, "expected an object name that is not taken, found \"o\" again");
+}
+
+TEST_F(NetworkNotSaved, WithTwoSlotsOfOneName) {
+    auto const read = network(withParameters(R"({ "name": "p", "type": "int", "value": 1 })"));
+    auto const other = read->addObject("other", {});
+    for (int number = 0; number < 2; ++number)
+        other->addSlot(Tessera::StrongPtr<Kolt::VSlot>(new Kolt::VSlot("in", parameterOf(*read))));
+    expectRefused(*read, "expected a slot name that is not taken in the object, found \"in\" again");
 }
 
 TEST_F(NetworkNotSaved, WhereNoFileCanBe) {
