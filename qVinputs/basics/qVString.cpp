@@ -1,5 +1,6 @@
 #include <qVinputs/basics/qVString.hpp>
 
+#include <algorithm>
 #include <plugin/QInputWidgetCreator.hpp>
 #include <QEvent>
 #include <QPointer>
@@ -14,6 +15,21 @@ bool isCommitTrigger(QEvent::Type type) {
     constexpr auto leaveEditFocus = static_cast<QEvent::Type>(151);
     return type == QEvent::FocusOut || type == QEvent::Leave || type == QEvent::ShortcutOverride ||
            type == leaveEditFocus;
+}
+
+/// Writes the text as UTF-8 into the room that the last one had. A long text is written at every key, so its parts are
+/// converted one by one, in memory that stays in the cache: new memory for all of it takes longer than the conversion.
+void writeUtf8(std::string& bytes, QStringView text) {
+    constexpr qsizetype longestPart = 4096;
+    bytes.clear();
+    while (!text.isEmpty()) {
+        auto const size = std::min(text.size(), longestPart);
+        bool const splitsPair = size < text.size() && text.at(size - 1).isHighSurrogate();
+        auto const part = text.left(splitsPair ? size + 1 : size);
+        auto const utf8 = part.toUtf8();
+        bytes.append(utf8.constData(), static_cast<std::size_t>(utf8.size()));
+        text = text.mid(part.size());
+    }
 }
 
 } // namespace
@@ -45,9 +61,7 @@ void qVString::onValueChange(ValuePtr const& newValue, VContext const& context, 
 }
 
 void qVString::newText() {
-    auto const text = document()->toPlainText().toUtf8();
-    // Into the room that the last text had: a long one is written at every key.
-    cached_.assign(text.constData(), static_cast<std::size_t>(text.size()));
+    writeUtf8(cached_, document()->toPlainText());
     committedRevision_ = document()->revision();
     ValueNotifierList self;
     self.addNotifier(Tessera::WeakPtr<ValueNotifier>(this));

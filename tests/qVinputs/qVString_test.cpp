@@ -58,6 +58,20 @@ TEST_F(MultiLineText, CommitsNothingByTheInsertionItself) {
     EXPECT_THAT(recorder.values, IsEmpty());
 }
 
+TEST_F(MultiLineText, IsCommittedInFullHoweverLongItIs) {
+    // Each letter of more than one byte, and of two characters of Qt, comes to stand in each place somewhere.
+    for (auto const* const begin : {"", "a", "\u00fc\u00fcb"}) {
+        auto text = std::string(begin);
+        for (int number = 0; number < 5000; ++number)
+            text += number % 7 == 0 ? "\u00fc\n" : "\U0001F600\u65e5\U0001F601";
+        auto const parameter = makeText("");
+        auto* const editor = edit(parameter);
+        insert(editor, QString::fromStdString(text));
+        send(editor, QEvent::Leave);
+        EXPECT_EQ(textOf(parameter), text);
+    }
+}
+
 TEST_F(MultiLineText, IsCommittedWhenTheMouseLeavesWithoutTheFocus) {
     auto const parameter = makeText("");
     auto* const editor = edit(parameter);
