@@ -66,6 +66,12 @@ private:
     QSet<QString const*> many_;
 };
 
+/// Whether a key is the one in the source. Asked several times for each key of a file; nearly always the first letter
+/// tells.
+bool isEqual(QString const& key, char const* literal) {
+    return !key.isEmpty() && key.at(0) == QLatin1Char(*literal) && key == QLatin1String(literal);
+}
+
 /// Whether a text has no half of a surrogate pair.
 bool isWhole(QString const& text) {
     for (int place = 0; place < text.size(); ++place) {
@@ -311,7 +317,7 @@ std::vector<JsonNode> const& JsonNode::members(Expectation const& what) const {
 std::vector<JsonNode> const& JsonNode::members(Expectation const& what,
                                                std::initializer_list<char const*> known) const {
     for (auto const& member : members(what)) {
-        if (std::any_of(known.begin(), known.end(), [&](auto const* key) { return member.key_ == QLatin1String(key); }))
+        if (std::any_of(known.begin(), known.end(), [&](auto const* key) { return isEqual(member.key_, key); }))
             continue;
         QStringList keys;
         for (auto const* const key : known)
@@ -324,8 +330,8 @@ std::vector<JsonNode> const& JsonNode::members(Expectation const& what,
 }
 
 JsonNode const* JsonNode::find(char const* key) const {
-    auto const found = std::find_if(children_.begin(), children_.end(),
-                                    [&](auto const& child) { return child.key_ == QLatin1String(key); });
+    auto const found =
+        std::find_if(children_.begin(), children_.end(), [&](auto const& child) { return isEqual(child.key_, key); });
     return value_.isObject() && found != children_.end() ? &*found : nullptr;
 }
 

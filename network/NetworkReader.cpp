@@ -41,13 +41,15 @@ Kolt::VValueFormat const& readFormat(JsonNode const& typeNode) {
 
 /// The entries of a parameter of this type; none for a type without entries.
 std::vector<std::string> readEntries(JsonNode const& node, Kolt::VValueFormat const& format) {
+    auto const* const entries = node.find("entries");
+    bool const chooses = choosesEntries(format);
+    if (!entries && !chooses)
+        return {};
     auto const key = QString::fromStdString(format.key());
-    if (choosesEntries(format))
+    if (chooses)
         return differentTexts(node.required("entries", QStringLiteral("a parameter of type ") + key),
                               QStringLiteral("the entries"), QStringLiteral("an entry"));
-    if (auto const* const unwanted = node.find("entries"))
-        unwanted->refuse(QStringLiteral("no entries for the type ") + key);
-    return {};
+    entries->refuse(QStringLiteral("no entries for the type ") + key);
 }
 
 void readPreferences(JsonNode const& node, Kolt::VParameter& parameter) {
