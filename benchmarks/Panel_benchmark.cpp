@@ -332,11 +332,8 @@ std::vector<Job> jobs() {
         edit("multiple selection", "multiple selection", 1.3),
         edit("selection", "drop-down list", 1.3),
         edit("simplestring", "key in a line", 1.3),
-        {"10,000 values at 60 Hz, share of a frame",
-         15,
-         [] { return [measure = tick(makePanelSide)] { return measure() / (1000.0 / 60) * 100; }; },
-         {},
-         "%"},
+        // At 60 Hz 15 % of each frame, on a computer on which bare Qt takes 10.4 %.
+        compare("10,000 values at 60 Hz, 23 are painted", 1.44, tick),
         compareCounts("10,000 values change, 23 are painted", 1.3, tick),
         compareCounts("opening 10,000 values", 1.5, openMany),
         compareCounts("closing 10,000 values", 1.5, closeMany),

@@ -10,6 +10,11 @@ void ScaleReport::add(std::string const& job, double figure, double goal, std::s
     allMet_ = !printFigure(job, figure, goal, unit) && allMet_;
 }
 
+void ScaleReport::compare(std::string const& job, double ours, double bare, double goal) {
+    allMet_ = !printFigure(job, ours / bare, goal, {}, std::to_string(ours) + " to " + std::to_string(bare) + " ms") &&
+              allMet_;
+}
+
 void ScaleReport::note(std::string const& job, double milliseconds) {
     std::printf("%-48s%9.3f ms\n", job.c_str(), milliseconds);
 }

@@ -16,6 +16,8 @@ class ScaleReport {
 public:
     /// A figure with its goal and unit; a number without a unit has an empty one.
     void add(std::string const& job, double figure, double goal, std::string const& unit = "ms");
+    /// The ratio of two times in milliseconds: what the panel takes, and what bare Qt takes.
+    void compare(std::string const& job, double ours, double bare, double goal);
     /// A figure without a goal, in milliseconds.
     static void note(std::string const& job, double milliseconds);
     /// Whether no figure is above its goal.

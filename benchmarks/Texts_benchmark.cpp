@@ -1,6 +1,7 @@
 // Typing into a text of one megabyte with many lines: the plug-in's editor beside a bare Qt one that copies its text at
 // every trigger. Prints the ratio of the fastest rounds (printFigure); the status is 1 if it is above its goal.
 
+#include "BareTextEditor.hpp"
 #include "BenchmarkProgram.hpp"
 #include "Figures.hpp"
 
@@ -11,41 +12,10 @@
 #include <memory>
 #include <QApplication>
 #include <QTest>
-#include <QTextDocument>
 #include <QTextEdit>
 #include <sorrel/InputFrontEnd.hpp>
 
 namespace {
-
-std::string const& longText() {
-    static auto const text = [] {
-        std::string lines;
-        while (lines.size() < 1'000'000)
-            lines += "a line of sixty-four characters, which is what a line may hold.\n";
-        return lines;
-    }();
-    return text;
-}
-
-/// What a program of bare Qt would do with the same events.
-class BareEditor : public QTextEdit {
-public:
-    explicit BareEditor(QWidget* parent) : QTextEdit(parent) {
-        setAcceptRichText(false);
-        document()->setPlainText(QString::fromStdString(longText()));
-    }
-
-protected:
-    bool event(QEvent* event) override {
-        auto const type = event->type();
-        if (type == QEvent::FocusOut || type == QEvent::Leave || type == QEvent::ShortcutOverride)
-            text_ = document()->toPlainText().toStdString();
-        return QTextEdit::event(event);
-    }
-
-private:
-    std::string text_;
-};
 
 void type(benchmark::State& state, QTextEdit* editor) {
     if (!editor) {
@@ -63,7 +33,7 @@ void type(benchmark::State& state, QTextEdit* editor) {
 
 void typeIntoBareQt(benchmark::State& state) {
     QWidget window;
-    type(state, new BareEditor(&window));
+    type(state, makeBareTextEditor(&window));
 }
 
 void typeIntoThePlugin(benchmark::State& state) {
