@@ -17,7 +17,7 @@ if(TALO_SANITIZE)
     set(TALO_TEST_TIMEOUT 480)
 endif()
 
-# talo_test(NAME SOURCES... [LINK libraries...] [PLUGIN] [WITHOUT_APPLICATION] [ON_DISPLAY]
+# talo_test(NAME SOURCES... [LINK libraries...] [PLUGIN] [WITHOUT_APPLICATION] [ON_DISPLAY] [LONG]
 #           [LABELS labels...] [ENVIRONMENT name=value...] [TIMEOUT seconds])
 # A GoogleTest program under tests/ in the build folder and one CTest test of the same name that runs all of it. It sees
 # nothing of the machine's settings: no display, language, time zone, home or Qt variable.
@@ -25,11 +25,12 @@ endif()
 #   WITHOUT_APPLICATION  main makes no QApplication
 #   ON_DISPLAY           one more CTest test, NAME_on_display, runs it on a display with a window manager
 #   DISPLAY_ONLY         the one CTest test, NAME, runs it on a display with a window manager
+#   LONG                 starts before the others, so that they run beside it
 #   LABELS               CTest's labels; `worker` marks a test that uses threads and runs under the thread sanitizer;
 #                        those on a display have `display` besides
 #   TIMEOUT              seconds, 120 unless given; a build with a sanitizer allows four times as many
 function(talo_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "PLUGIN;WITHOUT_APPLICATION;ON_DISPLAY;DISPLAY_ONLY" "TIMEOUT" "LINK;LABELS;ENVIRONMENT")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "PLUGIN;WITHOUT_APPLICATION;ON_DISPLAY;DISPLAY_ONLY;LONG" "TIMEOUT" "LINK;LABELS;ENVIRONMENT")
     if(NOT arg_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "talo_test(${name}) names no source")
     endif()
@@ -71,6 +72,9 @@ function(talo_test name)
         endif()
         talo_test_surroundings(${test} LABELS ${labels} ENVIRONMENT ${arg_ENVIRONMENT} TIMEOUT ${arg_TIMEOUT})
     endforeach()
+    if(arg_LONG)
+        set_tests_properties(${tests} PROPERTIES COST 1000)
+    endif()
 endfunction()
 
 # talo_plugin_file(PLUGIN)
