@@ -61,5 +61,5 @@ if(TALO_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     # precompiled header of the tests.
     set(CMAKE_CXX_COMPILER_LAUNCHER env "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}"
         CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
-        "${TALO_CCACHE}")
+        CCACHE_PCH_EXTSUM=1 "${CMAKE_CURRENT_LIST_DIR}/compile" "${TALO_CCACHE}")
 endif()
