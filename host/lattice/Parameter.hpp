@@ -46,7 +46,7 @@ public:
 
     /// The name, UTF-8. In a name with dots the part after the last one names the parameter, the rest its group.
     std::string Name() const { return name_; }
-    /// The name without a copy, for whoever reads the names of ten thousand parameters. Valid as long as the parameter.
+    /// The same name without a copy. The parameter owns the characters: the view is valid as long as the parameter.
     std::string_view nameView() const { return name_; }
     /// The object that has the parameter: of several the one that it was added to last. Null for none.
     VObject const* object() const { return object_; }

@@ -59,7 +59,7 @@ TEST_F(MultiLineText, CommitsNothingByTheInsertionItself) {
 }
 
 TEST_F(MultiLineText, IsCommittedInFullHoweverLongItIs) {
-    // Each letter of more than one byte, and of two characters of Qt, comes to stand in each place somewhere.
+    // Line feeds shift the letters, so that any part of the text begins or ends within a surrogate pair in some case.
     for (auto const* const begin : {"", "a", "\u00fc\u00fcb"}) {
         auto text = std::string(begin);
         for (int number = 0; number < 5000; ++number)
