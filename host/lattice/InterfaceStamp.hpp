@@ -7,6 +7,6 @@ namespace Kolt {
 ///
 /// It lies in a section of every file that was compiled with these headers, so that the host can read from a plug-in
 /// file, before it loads it, for which interface it was built (PluginFile).
-[[gnu::section(".talo.interface"), gnu::used, gnu::retain]] constexpr char interfaceStamp[] = "6e3ebcab9d71f7f2";
+[[gnu::section(".talo.interface"), gnu::used, gnu::retain]] constexpr char interfaceStamp[] = "5f981ee780e9ed11";
 
 } // namespace Kolt

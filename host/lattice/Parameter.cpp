@@ -7,6 +7,9 @@
 #include <lattice/Object.hpp>
 #include <lattice/UndoHistory.hpp>
 #include <lattice/ValueCreator.hpp>
+#include <mutex>
+#include <set>
+#include <tessera/NoDestructor.hpp>
 #include <typeinfo>
 
 namespace Kolt {
@@ -31,13 +34,22 @@ std::type_info const* expectedPropertyType(std::string const& declaredType, std:
     return isText ? &typeid(std::string) : nullptr;
 }
 
+/// The copy of a type's name that all its parameters share: types are few, and their names are long. Any thread.
+std::string const& sharedName(std::string const& type) {
+    // Immortal, as parameters may be destroyed at the end of the process.
+    static Tessera::NoDestructor<std::mutex> mutex;
+    static Tessera::NoDestructor<std::set<std::string>> names;
+    std::lock_guard const lock(*mutex);
+    return *names->insert(type).first;
+}
+
 } // namespace
 
-VParameter::VParameter(std::string name, ValuePtr const& ownValue, Values values, std::string declaredType)
+VParameter::VParameter(std::string name, ValuePtr const& ownValue, Values values, std::string const& declaredType)
     : name_(std::move(name)),
       ownValue_(ownValue),
       values_(values),
-      declaredType_(declaredType.empty() ? Tessera::Typename(ownValue->valueType()) : std::move(declaredType)) {}
+      declaredType_(sharedName(declaredType.empty() ? Tessera::Typename(ownValue->valueType()) : declaredType)) {}
 
 VParameter::~VParameter() = default;
 

@@ -41,7 +41,7 @@ public:
     /// `declaredType` (a readable type name, Tessera::Typename) is given: the editor is chosen by the declared type,
     /// and fresh values are of it. REQUIRES: `ownValue` is not null.
     VParameter(std::string name, ValuePtr const& ownValue, Values values = Values::Shared,
-               std::string declaredType = {});
+               std::string const& declaredType = {});
     ~VParameter() override;
 
     /// The name, UTF-8. In a name with dots the part after the last one names the parameter, the rest its group.
@@ -52,7 +52,8 @@ public:
     VObject const* object() const { return object_; }
     /// "object.parameter", for messages; the name alone while no object has the parameter.
     std::string fullName() const;
-    /// The readable name of the type by which editors are chosen.
+    /// The readable name of the type by which editors are chosen. All parameters of a type give the same object, which
+    /// is never destroyed.
     std::string const& declaredType() const { return declaredType_; }
 
     /// The value object that the parameter itself holds.
@@ -143,7 +144,7 @@ private:
     std::string const name_;
     ValuePtr const ownValue_;
     Values const values_;
-    std::string const declaredType_;
+    std::string const& declaredType_;
     // Parameters have values in a few pools, so a linear search is faster than a map.
     mutable std::vector<LocalValue> localValues_;
     // Shared, as a notifier may destroy the parameter during a notification.

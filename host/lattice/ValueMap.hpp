@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <lattice/Value.hpp>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -16,6 +18,11 @@ public:
 
     /// The value under a name; null if there is none.
     ValuePtr getValue(std::string const& name) const;
+    /// The same without a reference, for readers that ask ten thousand maps for names that few of them have. Valid
+    /// until the map changes.
+    VValueBase const* find(std::string_view name) const {
+        return (names_ & markOf(name)) != 0 ? search(name) : nullptr;
+    }
     /// Stores a value under a name and replaces the one that is there. Null removes the name.
     void setValue(std::string const& name, ValuePtr const& value);
 
@@ -25,10 +32,21 @@ public:
     Entries::const_iterator end() const { return entries_.end(); }
 
 private:
+    /// One bit of 64, another one for most of the names that properties have.
+    static constexpr std::uint64_t markOf(std::string_view name) {
+        if (name.empty())
+            return 1;
+        auto const first = static_cast<unsigned char>(name.front());
+        auto const last = static_cast<unsigned char>(name.back());
+        return std::uint64_t(1) << ((name.size() + 5U * first + 11U * last) % 64U);
+    }
+    VValueBase const* search(std::string_view name) const;
     Entries::const_iterator place(std::string const& name) const;
 
     // Sorted. A parameter has a few properties, so a vector takes less memory than a tree and is searched as quickly.
     Entries entries_;
+    // The marks of all names that were ever set.
+    std::uint64_t names_ = 0;
 };
 
 } // namespace Kolt

@@ -37,15 +37,13 @@ void FocusOutline::followSize() {
 
 void FocusOutline::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    auto frame = rect();
-    auto const draw = [&](QPalette::ColorRole role, int width) {
-        // Filled, as Qt needs longer to draw lines within a mask.
-        for (auto const& side : QRegion(frame).subtracted(frame.adjusted(width, width, -width, -width)))
-            painter.fillRect(side, palette().color(role));
-        frame.adjust(width, width, -width, -width);
-    };
-    draw(QPalette::Highlight, lines - 1);
-    draw(QPalette::HighlightedText, 1);
+    auto const inner = rect().adjusted(lines - 1, lines - 1, 1 - lines, 1 - lines);
+    // Side by side, as Qt fills many times as quickly within a rectangle as within a mask.
+    for (auto const& side : QRegion(rect()).subtracted(rect().adjusted(lines, lines, -lines, -lines))) {
+        painter.setClipRect(side);
+        painter.fillRect(side, palette().color(QPalette::Highlight));
+        painter.fillRect(side & inner, palette().color(QPalette::HighlightedText));
+    }
 }
 
 } // namespace Talo

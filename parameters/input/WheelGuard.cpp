@@ -3,6 +3,7 @@
 #include <parameters/input/InputFilter.hpp>
 #include <QApplication>
 #include <QEvent>
+#include <QSet>
 
 namespace Talo {
 
@@ -14,9 +15,16 @@ void keepFromFocus(QWidget& widget) {
         widget.setFocusPolicy(Qt::StrongFocus);
 }
 
+/// All editors that are guarded now: every widget that is made looks for one around it.
+QSet<QWidget const*>& guardedEditors() {
+    static QSet<QWidget const*> editors;
+    return editors;
+}
+
 } // namespace
 
-WheelGuard::WheelGuard(QWidget* editor) : QObject(editor), filter_(InputFilter::shared()) {
+WheelGuard::WheelGuard(QWidget* editor) : QObject(editor), editor_(editor), filter_(InputFilter::shared()) {
+    guardedEditors().insert(editor);
     keepFromFocus(*editor);
     auto const widgets = editor->findChildren<QWidget*>();
     for (auto* const widget : widgets)
@@ -24,11 +32,13 @@ WheelGuard::WheelGuard(QWidget* editor) : QObject(editor), filter_(InputFilter::
             keepFromFocus(*widget);
 }
 
-WheelGuard::~WheelGuard() = default;
+WheelGuard::~WheelGuard() {
+    guardedEditors().remove(editor_);
+}
 
 QWidget* WheelGuard::editorAround(QWidget* widget) {
     for (; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget())
-        if (widget->findChild<WheelGuard*>(QString(), Qt::FindDirectChildrenOnly))
+        if (guardedEditors().contains(widget))
             return widget;
     return nullptr;
 }

@@ -30,6 +30,7 @@ private:
     /// take more memory than most of them. True if the event ends here.
     static bool filter(QWidget& widget, QEvent& event);
 
+    QWidget const* const editor_;
     std::shared_ptr<InputFilter> const filter_;
 };
 

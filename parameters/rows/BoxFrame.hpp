@@ -5,6 +5,7 @@
 #include <QMargins>
 #include <QRegion>
 #include <tessera/Export.hpp>
+#include <vector>
 
 class QPainter;
 class QStyleOptionGroupBox;
@@ -14,8 +15,8 @@ namespace Talo {
 
 /// Paints the frame of a group box as the style does, and quicker: some styles load a picture for each frame that they
 /// paint, and blend all of it where only a value within it changed. Between its title and its lower edge a frame is
-/// usually the same at each height; then that part is painted from lines that the style has painted once, and what is
-/// within it is filled with one colour. In pixels. User-interface thread.
+/// usually the same at each height, and between its corners at each place of a line; such parts are filled with the
+/// colours that the style has painted once. In pixels. User-interface thread.
 class TALO_EXPORT BoxFrame {
 public:
     /// The colour that the box's parent fills it with; invalid if that is not one opaque colour, or not known.
@@ -28,23 +29,42 @@ public:
     void forget() { isKnown_ = false; }
 
 private:
+    /// Neighbouring lines of an edge that have one colour.
+    struct Stripe {
+        qreal begin = 0;
+        qreal end = 0;
+        QRgb painted = 0; ///< by the style, premultiplied
+        QColor shown;     ///< on the background
+    };
+    using Edge = std::vector<Stripe>;
+
     void look(QStyleOptionGroupBox const& option, QWidget const& box);
-    void paintLines(QPainter& painter, QRect const& lines, QRegion const& exposed, QColor const& inside) const;
-    void paintEdge(QPainter& painter, QRect const& edge, QImage const& lines) const;
-    /// What the inside gives on the background.
-    QColor insideOn(QColor const& background);
+    /// Of some pixels of the sample, one after the other to the right or downwards.
+    Edge edgeOf(QPoint const& first, int count, Qt::Orientation across) const;
+    /// Makes the colours that are seen on the background; if that is not valid, those that the style has painted.
+    void showOn(QColor const& background);
+    void paintLines(QPainter& painter, QRect const& lines, QRegion const& exposed) const;
+    void paintEnds(QPainter& painter, QRect const& whole, QRegion const& exposed) const;
+    void paintCorner(QPainter& painter, QRect const& corner, QRect const& whole) const;
+    /// Fills stripes that follow each other across an edge, but for those of the colour that is there already.
+    static void fill(QPainter& painter, QRect const& edge, Edge const& stripes, Qt::Orientation across,
+                     QColor const& behind);
 
     bool isKnown_ = false;
     // How far the part that is the same at each height is from the edges of the box, if there is such a part.
     QMargins edges_;
     bool isUniform_ = false;
-    // Lines of its left and right edge that are all alike, and what is between them.
-    QImage left_;
-    QImage right_;
-    QColor inside_;
-    // What that gives on a background.
+    // Whether what is above and below that part is the same between the corners.
+    bool hasUniformEnds_ = false;
+    // A frame as the style paints it.
+    QImage sample_;
+    Edge left_;
+    Edge right_;
+    Edge top_;
+    Edge bottom_;
+    Edge inside_;
+    // That the colours are shown on.
     QColor background_;
-    QColor insideOnBackground_;
 };
 
 } // namespace Talo

@@ -20,12 +20,14 @@ ConditionWatcher::ConditionWatcher(std::vector<Kolt::ParameterPtr> const& parame
         other->second->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
         return Watched{*condition, other->second};
     };
-    for (auto const& parameter : parameters) {
-        if (!findProperty(*parameter, Condition::Properties[0]) && !findProperty(*parameter, Condition::Properties[1]))
+    for (auto const& each : parameters) {
+        auto const& parameter = *each;
+        // Most parameters have none.
+        if (!findProperty(parameter, Condition::Properties[0]) && !findProperty(parameter, Condition::Properties[1]))
             continue;
-        Conditions own{watch(*parameter, Condition::Properties[0]), watch(*parameter, Condition::Properties[1])};
+        Conditions own{watch(parameter, Condition::Properties[0]), watch(parameter, Condition::Properties[1])};
         if (own.visible || own.enabled)
-            conditions_.insert({parameter.get(), std::move(own)});
+            conditions_.insert({&parameter, std::move(own)});
     }
 }
 

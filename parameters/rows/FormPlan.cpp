@@ -19,10 +19,13 @@ struct BySize {
                     Kolt::VCreationPreferences::Names const& right) const {
         if (left.size() != right.size())
             return left.size() < right.size();
-        auto const [one, other] = std::mismatch(left.begin(), left.end(), right.begin());
-        if (one == left.end())
-            return false;
-        return one->size() == other->size() ? *one < *other : one->size() < other->size();
+        for (auto one = left.begin(), other = right.begin(); one != left.end(); ++one, ++other) {
+            if (one->size() != other->size())
+                return one->size() < other->size();
+            if (auto const order = one->compare(*other))
+                return order < 0;
+        }
+        return false;
     }
 };
 
@@ -31,24 +34,27 @@ class RowCollector {
 public:
     explicit RowCollector(FormPlan& plan) : plan_(plan) {}
 
-    void add(Kolt::ParameterPtr const& parameter) {
-        ParameterHeading const heading(*parameter);
+    void add(Kolt::VParameter& parameter) {
+        ParameterHeading const heading(parameter);
+        auto const title = heading.section();
         // Most parameters are in the section of the one before.
-        bool const isInSame = !plan_.rows.empty() && heading.section() == lastTitle_;
-        addRow(parameter, isInSame ? plan_.rows.back().section : sectionOf(heading.section()));
+        bool const isInSame = !plan_.rows.empty() && title == lastTitle_;
+        addRow(parameter, isInSame ? plan_.rows.back().section : sectionOf(title));
         addLabel(heading.label());
     }
     void add(ParameterVector const& vector) {
         auto const section = sectionOf(ParameterHeading(*vector.members.front()).section());
         for (auto const& member : vector.members)
-            addRow(member, section);
+            addRow(*member, section);
         addLabel(vector.name.toStdString());
     }
+    /// Whether the rows are in the order of their sections.
+    bool isInOrder() const { return isInOrder_; }
 
 private:
     /// The height classes of the parameters of one type, those that were met.
     struct HeightClasses {
-        std::string type;
+        std::string const* type = nullptr; // of the parameters (VParameter::declaredType)
         std::optional<std::uint32_t> plain;
         std::map<Kolt::VCreationPreferences::Names, std::optional<std::uint32_t>, BySize> withPreferences;
     };
@@ -71,13 +77,13 @@ private:
         return *heightClass;
     }
     HeightClasses& heightClassesOf(std::string const& type) {
-        // There are few types, whose names are long, so that to hash one takes longer than to compare it.
         auto const found = std::find_if(heightClasses_.begin(), heightClasses_.end(),
-                                        [&](auto const& each) { return each.type == type; });
-        return found == heightClasses_.end() ? heightClasses_.emplace_back(HeightClasses{type, {}, {}}) : *found;
+                                        [&](auto const& each) { return each.type == &type; });
+        return found == heightClasses_.end() ? heightClasses_.emplace_back(HeightClasses{&type, {}, {}}) : *found;
     }
-    void addRow(Kolt::ParameterPtr const& parameter, std::uint32_t section) {
-        plan_.rows.push_back({parameter, section, heightClassOf(*parameter)});
+    void addRow(Kolt::VParameter& parameter, std::uint32_t section) {
+        isInOrder_ = isInOrder_ && (plan_.rows.empty() || section >= plan_.rows.back().section);
+        plan_.rows.push_back({&parameter, section, heightClassOf(parameter)});
     }
     void addLabel(std::string_view label) {
         // A text has at most as many letters as bytes.
@@ -93,6 +99,7 @@ private:
     std::string lastTitle_;
     std::vector<HeightClasses> heightClasses_;
     std::uint32_t heightClassCount_ = 0;
+    bool isInOrder_ = true;
 };
 
 } // namespace
@@ -107,18 +114,20 @@ FormPlan::FormPlan(std::vector<Kolt::ParameterPtr> const& parameters) {
     }
     rows.reserve(parameters.size());
     RowCollector collector(*this);
-    for (auto const& parameter : parameters) {
-        auto const vector = vectorsByFirst.find(parameter.get());
+    for (auto const& each : parameters) {
+        auto& parameter = *each;
+        // Most forms have no vectors.
+        auto const vector = vectorsByFirst.empty() ? vectorsByFirst.end() : vectorsByFirst.find(&parameter);
         if (vector != vectorsByFirst.end())
             collector.add(vector->second);
-        else if (followers.empty() || followers.count(parameter.get()) == 0)
+        else if (followers.empty() || followers.count(&parameter) == 0)
             collector.add(parameter);
     }
-    auto const isBefore = [](auto const& left, auto const& right) { return left.section < right.section; };
-    if (!std::is_sorted(rows.begin(), rows.end(), isBefore))
-        std::stable_sort(rows.begin(), rows.end(), isBefore);
+    if (!collector.isInOrder())
+        std::stable_sort(rows.begin(), rows.end(),
+                         [](auto const& left, auto const& right) { return left.section < right.section; });
     for (std::size_t row = 0; row < rows.size() && !vectorsByFirst.empty(); ++row)
-        if (auto const vector = vectorsByFirst.find(rows[row].parameter.strong().get()); vector != vectorsByFirst.end())
+        if (auto const vector = vectorsByFirst.find(rows[row].parameter); vector != vectorsByFirst.end())
             vectors.insert({row, std::move(vector->second)});
 }
 

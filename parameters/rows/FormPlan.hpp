@@ -15,8 +15,8 @@ namespace Talo {
 struct TALO_EXPORT FormPlan {
     /// One row of the form.
     struct Row {
-        /// The parameter of the row.
-        Kolt::ParameterRef parameter;
+        /// The parameter of the row, one of those of the form. Never null.
+        Kolt::VParameter* parameter = nullptr;
         /// The number of the section, counted from 0.
         std::uint32_t section = 0;
         std::uint32_t heightClass = 0; ///< equal for parameters whose editors are probably equally high
@@ -31,7 +31,7 @@ struct TALO_EXPORT FormPlan {
     /// The longest of the labels that rows show.
     QString longestLabel;
 
-    /// The plan for these parameters.
+    /// The plan for these parameters, none of which is null; as long as they live.
     explicit FormPlan(std::vector<Kolt::ParameterPtr> const& parameters);
 };
 

@@ -14,19 +14,14 @@ QString textOf(std::string_view text) {
 }
 
 std::size_t behindLastDot(std::string_view name) {
-    // Most names have none, and find() looks at many characters at once.
-    return name.find('.') == std::string_view::npos ? 0 : name.rfind('.') + 1;
+    // Forwards, as find() looks at many characters at once, and most names have one dot at most.
+    std::size_t behind = 0;
+    for (auto dot = name.find('.'); dot != std::string_view::npos; dot = name.find('.', behind))
+        behind = dot + 1;
+    return behind;
 }
 
 } // namespace
-
-Kolt::VValueBase const* findProperty(Kolt::VParameter const& parameter, std::string_view name) {
-    if (auto const* const properties = parameter.properties())
-        for (auto const& [each, value] : *properties)
-            if (each == name)
-                return value.get();
-    return nullptr;
-}
 
 QString textProperty(Kolt::VParameter const& parameter, char const* name) {
     return QString::fromStdString(property<std::string>(parameter, name));
@@ -34,11 +29,10 @@ QString textProperty(Kolt::VParameter const& parameter, char const* name) {
 
 ParameterHeading::ParameterHeading(Kolt::VParameter const& parameter)
     : name_(parameter.nameView()), shortName_(behindLastDot(name_)) {
-    // Most have none.
-    if (!parameter.properties())
-        return;
-    label_ = Kolt::sharedValueIn<std::string>(findProperty(parameter, "label"));
-    group_ = Kolt::sharedValueIn<std::string>(findProperty(parameter, "group"));
+    if (auto const* const label = findProperty(parameter, "label"))
+        label_ = Kolt::sharedValueIn<std::string>(label);
+    if (auto const* const group = findProperty(parameter, "group"))
+        group_ = Kolt::sharedValueIn<std::string>(group);
 }
 
 ParameterDescription::ParameterDescription(Kolt::VParameter const& parameter, ParameterHeading const& heading)
@@ -51,7 +45,8 @@ ParameterDescription::ParameterDescription(Kolt::VParameter const& parameter, Pa
       isReadOnly(property<bool>(parameter, "readOnly")) {}
 
 bool isAdvanced(Kolt::VParameter const& parameter) {
-    return parameter.properties() && property<bool>(parameter, "advanced");
+    auto const* const advanced = findProperty(parameter, "advanced");
+    return advanced && Kolt::valueIn<bool>(advanced).value_or(false);
 }
 
 bool isChangeable(Kolt::VParameter const& parameter) {

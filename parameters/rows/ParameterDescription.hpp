@@ -58,9 +58,11 @@ private:
     ParameterDescription(Kolt::VParameter const& parameter, ParameterHeading const& heading);
 };
 
-/// The property of this name; null if there is none. A parameter has a few properties at most, so to look at each is
-/// quicker than to ask the map, which needs the name as a string. Valid until the properties change.
-Kolt::VValueBase const* findProperty(Kolt::VParameter const& parameter, std::string_view name);
+/// The property of this name; null if there is none. Valid until the properties change.
+inline Kolt::VValueBase const* findProperty(Kolt::VParameter const& parameter, std::string_view name) {
+    auto const* const properties = parameter.properties();
+    return properties ? properties->find(name) : nullptr;
+}
 
 /// A property that is a text; empty for none.
 QString textProperty(Kolt::VParameter const& parameter, char const* name);

@@ -57,9 +57,9 @@ void nameComponents(ParameterVector& vector) {
 } // namespace
 
 std::vector<ParameterVector> vectorsOf(std::vector<Kolt::ParameterPtr> const& parameters) {
-    bool const hasVector = std::any_of(parameters.begin(), parameters.end(), [](auto const& parameter) {
-        return parameter->properties() && findProperty(*parameter, "rowOf") &&
-               !textProperty(*parameter, "rowOf").isEmpty();
+    bool const hasVector = std::any_of(parameters.begin(), parameters.end(), [](auto const& each) {
+        auto const& parameter = *each;
+        return findProperty(parameter, "rowOf") && !textProperty(parameter, "rowOf").isEmpty();
     });
     if (!hasVector)
         return {};

@@ -49,14 +49,14 @@ RowArea::RowArea(QString const& objectName, std::vector<Kolt::ParameterPtr> cons
     arrange();
 }
 
-void RowArea::addEntries(FormPlan&& plan) {
+void RowArea::addEntries(FormPlan const& plan) {
     entries_.reserve(plan.rows.size());
     layout_.reserve(plan.rows.size());
-    for (auto& [parameter, section, heightClass] : plan.rows) {
+    for (auto const& [parameter, section, heightClass] : plan.rows) {
         while (layout_.sectionCount() <= section)
             layout_.addSection();
         layout_.addRow(heightClass);
-        entries_.push_back({std::move(parameter)});
+        entries_.emplace_back(parameter);
     }
     vectors_.setVectors(plan.vectors);
     sections_ = new FormSections(*content_, layout_, plan.sectionTitles, this);

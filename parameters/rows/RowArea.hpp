@@ -105,11 +105,13 @@ protected:
 
 private:
     struct Entry {
+        explicit Entry(Kolt::VParameter* shown) : parameter(shown) {}
+
         Kolt::ParameterRef parameter;
         ParameterRow* row = nullptr;
     };
 
-    void addEntries(FormPlan&& plan);
+    void addEntries(FormPlan const& plan);
     /// Hides the rows of sections that were folded, and shows those of open ones.
     void showFolding();
     Entry* entryOf(QWidget const* widget);

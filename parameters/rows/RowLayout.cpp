@@ -13,19 +13,6 @@ std::size_t RowLayout::addSection() {
     return sections_.size() - 1;
 }
 
-std::size_t RowLayout::addRow(std::size_t heightClass) {
-    Row row;
-    isArranged_ = false;
-    row.section = static_cast<std::uint32_t>(sections_.size() - 1);
-    row.heightClass = static_cast<std::uint32_t>(heightClass);
-    row.height = spacing_.unknownRowHeight;
-    rows_.push_back(row);
-    ++sections_.back().rowCount;
-    if (heightClass >= estimates_.size())
-        estimates_.resize(heightClass + 1);
-    return rows_.size() - 1;
-}
-
 void RowLayout::setSectionMargins(std::size_t section, SectionMargins const& margins) {
     sections_[section].margins = margins;
     isArranged_ = false;
@@ -93,8 +80,10 @@ inline int RowLayout::neededHeight(Row& row) const {
 }
 
 void RowLayout::arrange(Section& section) {
+    bool const isFolded = section.folded;
+    int const betweenRows = spacing_.betweenRows;
     // The rows of a folded section are where it ends, so that places never go up.
-    int bottom = section.top + (section.folded ? section.margins.folded : section.margins.top);
+    int bottom = section.top + (isFolded ? section.margins.folded : section.margins.top);
     bool isEmpty = true;
     auto row = rows_.begin() + static_cast<std::ptrdiff_t>(section.firstRow);
     auto const sectionEnd = row + static_cast<std::ptrdiff_t>(section.rowCount);
@@ -103,21 +92,20 @@ void RowLayout::arrange(Section& section) {
         auto end = row + 1;
         for (; end != sectionEnd && end->joined; ++end)
             needed = std::max(needed, neededHeight(*end));
-        bool const hasPlace = needed > 0 && !section.folded;
         isEmpty = isEmpty && needed == 0;
+        int const height = isFolded ? 0 : needed;
         for (; row != end; ++row) {
             row->top = bottom;
-            row->placeHeight = hasPlace ? needed : 0;
+            row->placeHeight = height;
         }
-        if (hasPlace)
-            bottom += needed + spacing_.betweenRows;
+        bottom += height > 0 ? height + betweenRows : 0;
     }
     if (isEmpty)
         section.height = 0;
     else if (section.folded)
         section.height = section.margins.folded;
     else
-        section.height = bottom - spacing_.betweenRows + section.margins.bottom - section.top;
+        section.height = bottom - betweenRows + section.margins.bottom - section.top;
 }
 
 std::vector<std::size_t> RowLayout::farRows(std::set<std::size_t> const& rows, int top, int bottom,

@@ -41,9 +41,18 @@ public:
     void reserve(std::size_t rows) { rows_.reserve(rows); }
     /// Adds a section at the end and returns its number.
     std::size_t addSection();
-    /// Adds a row at the end of the last section and returns its number. REQUIRES: a section. Rows of one height class
-    /// share a height estimate.
-    std::size_t addRow(std::size_t heightClass);
+    /// Adds a row at the end of the last section. REQUIRES: a section. Rows of one height class share a height
+    /// estimate.
+    void addRow(std::uint32_t heightClass) {
+        auto& row = rows_.emplace_back();
+        row.section = static_cast<std::uint32_t>(sections_.size() - 1);
+        row.heightClass = heightClass;
+        row.height = spacing_.unknownRowHeight;
+        ++sections_.back().rowCount;
+        isArranged_ = false;
+        if (heightClass >= estimates_.size())
+            estimates_.resize(heightClass + 1);
+    }
     /// Sets the room around the rows of a section; 0 at first.
     void setSectionMargins(std::size_t section, SectionMargins const& margins);
 
