@@ -1,6 +1,7 @@
 #include <parameters/rows/BoxFrame.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <QPainter>
 #include <QStyle>
@@ -60,10 +61,10 @@ void BoxFrame::look(QStyleOptionGroupBox const& option, QWidget const& box) {
     auto const size = inside.marginsAdded(edges_).size();
     sampleOption.rect = {QPoint(), size};
     auto const ratio = box.devicePixelRatioF();
-    sample_ = QImage(size * ratio, QImage::Format_ARGB32_Premultiplied);
-    sample_.setDevicePixelRatio(ratio);
-    sample_.fill(Qt::transparent);
-    QPainter painter(&sample_);
+    QImage painted(size * ratio, QImage::Format_ARGB32_Premultiplied);
+    painted.setDevicePixelRatio(ratio);
+    painted.fill(Qt::transparent);
+    QPainter painter(&painted);
     drawFrame(sampleOption, painter, box);
     painter.end();
 
@@ -72,26 +73,34 @@ void BoxFrame::look(QStyleOptionGroupBox const& option, QWidget const& box) {
     int const right = inDevice(inside.right() + 1);
     int const top = inDevice(inside.top());
     int const bottom = inDevice(inside.bottom() + 1);
-    isUniform_ = hasEqualLines(sample_, top, bottom) && isPlain(sample_, top, left, right);
+    int const rightWidth = painted.width() - right;
+    int const bottomHeight = painted.height() - bottom;
+    isUniform_ = hasEqualLines(painted, top, bottom) && isPlain(painted, top, left, right);
+    // Corners do not fit to the lines where their sizes are rounded.
+    hasUniformEnds_ = isUniform_ && ratio == std::floor(ratio) && isPlain(painted, 0, top, left, right) &&
+                      isPlain(painted, bottom, painted.height(), left, right);
     if (!isUniform_)
         return;
-    hasUniformEnds_ = isPlain(sample_, 0, top, left, right) && isPlain(sample_, bottom, sample_.height(), left, right);
-    left_ = edgeOf({0, top}, left, Qt::Horizontal);
-    right_ = edgeOf({right, top}, sample_.width() - right, Qt::Horizontal);
-    top_ = edgeOf({left, 0}, top, Qt::Vertical);
-    bottom_ = edgeOf({left, bottom}, sample_.height() - bottom, Qt::Vertical);
-    inside_ = edgeOf({left, top}, 1, Qt::Horizontal);
+    left_ = edgeOf(painted, {0, top}, left, Qt::Horizontal);
+    right_ = edgeOf(painted, {right, top}, rightWidth, Qt::Horizontal);
+    top_ = edgeOf(painted, {left, 0}, top, Qt::Vertical);
+    bottom_ = edgeOf(painted, {left, bottom}, bottomHeight, Qt::Vertical);
+    inside_ = edgeOf(painted, {left, top}, 1, Qt::Horizontal);
+    topLeft_ = painted.copy(0, 0, left, top);
+    topRight_ = painted.copy(right, 0, rightWidth, top);
+    bottomLeft_ = painted.copy(0, bottom, left, bottomHeight);
+    bottomRight_ = painted.copy(right, bottom, rightWidth, bottomHeight);
 }
 
-BoxFrame::Edge BoxFrame::edgeOf(QPoint const& first, int count, Qt::Orientation across) const {
-    auto const ratio = sample_.devicePixelRatioF();
+BoxFrame::Edge BoxFrame::edgeOf(QImage const& painted, QPoint const& first, int count, Qt::Orientation across) {
+    auto const ratio = painted.devicePixelRatioF();
     QPoint const step = across == Qt::Horizontal ? QPoint(1, 0) : QPoint(0, 1);
     Edge edge;
     for (int line = 0; line < count; ++line) {
         auto const place = first + line * step;
-        auto const painted = reinterpret_cast<QRgb const*>(sample_.constScanLine(place.y()))[place.x()];
-        if (edge.empty() || edge.back().painted != painted)
-            edge.push_back({line / ratio, 0, painted, {}});
+        auto const pixel = reinterpret_cast<QRgb const*>(painted.constScanLine(place.y()))[place.x()];
+        if (edge.empty() || edge.back().painted != pixel)
+            edge.push_back({line / ratio, 0, pixel, {}});
         edge.back().end = (line + 1) / ratio;
     }
     return edge;
@@ -155,29 +164,23 @@ void BoxFrame::paintLines(QPainter& painter, QRect const& lines, QRegion const& 
         fill(painter, right, right_, Qt::Horizontal, behind);
 }
 
-void BoxFrame::paintCorner(QPainter& painter, QRect const& corner, QRect const& whole) const {
-    auto const ratio = sample_.devicePixelRatioF();
-    // The place of the corner in the sample, which has another size than the box.
-    auto const size = QSizeF(sample_.size()) / ratio;
-    QPointF const place(corner.left() == whole.left() ? 0 : size.width() - corner.width(),
-                        corner.top() == whole.top() ? 0 : size.height() - corner.height());
+void BoxFrame::paintCorner(QPainter& painter, QRect const& place, QImage const& corner) const {
     if (background_.isValid())
-        painter.fillRect(corner, background_);
-    painter.drawImage(QRectF(corner), sample_, QRectF(place * ratio, QSizeF(corner.size()) * ratio));
+        painter.fillRect(place, background_);
+    painter.drawImage(QRectF(place), corner, QRectF(corner.rect()));
 }
 
 void BoxFrame::paintEnds(QPainter& painter, QRect const& whole, QRegion const& exposed) const {
     auto const between = whole.marginsRemoved(edges_);
-    auto const paintEnd = [&](int top, int height, Edge const& stripes) {
-        QRect const end(whole.left(), top, whole.width(), height);
-        if (!exposed.intersects(end))
+    auto const paintEnd = [&](int top, int height, QImage const& left, Edge const& stripes, QImage const& right) {
+        if (!exposed.intersects(QRect(whole.left(), top, whole.width(), height)))
             return;
-        paintCorner(painter, {end.left(), top, edges_.left(), height}, whole);
+        paintCorner(painter, {whole.left(), top, edges_.left(), height}, left);
         fill(painter, {between.left(), top, between.width(), height}, stripes, Qt::Vertical, {});
-        paintCorner(painter, {between.right() + 1, top, edges_.right(), height}, whole);
+        paintCorner(painter, {between.right() + 1, top, edges_.right(), height}, right);
     };
-    paintEnd(whole.top(), edges_.top(), top_);
-    paintEnd(between.bottom() + 1, edges_.bottom(), bottom_);
+    paintEnd(whole.top(), edges_.top(), topLeft_, top_, topRight_);
+    paintEnd(between.bottom() + 1, edges_.bottom(), bottomLeft_, bottom_, bottomRight_);
 }
 
 void BoxFrame::paint(QPainter& painter, QStyleOptionGroupBox const& option, QRegion const& exposed,

@@ -39,13 +39,13 @@ private:
     using Edge = std::vector<Stripe>;
 
     void look(QStyleOptionGroupBox const& option, QWidget const& box);
-    /// Of some pixels of the sample, one after the other to the right or downwards.
-    Edge edgeOf(QPoint const& first, int count, Qt::Orientation across) const;
+    /// Of some pixels of a frame that the style has painted, one after the other to the right or downwards.
+    static Edge edgeOf(QImage const& painted, QPoint const& first, int count, Qt::Orientation across);
     /// Makes the colours that are seen on the background; if that is not valid, those that the style has painted.
     void showOn(QColor const& background);
     void paintLines(QPainter& painter, QRect const& lines, QRegion const& exposed) const;
     void paintEnds(QPainter& painter, QRect const& whole, QRegion const& exposed) const;
-    void paintCorner(QPainter& painter, QRect const& corner, QRect const& whole) const;
+    void paintCorner(QPainter& painter, QRect const& place, QImage const& corner) const;
     /// Fills stripes that follow each other across an edge, but for those of the colour that is there already.
     static void fill(QPainter& painter, QRect const& edge, Edge const& stripes, Qt::Orientation across,
                      QColor const& behind);
@@ -56,8 +56,11 @@ private:
     bool isUniform_ = false;
     // Whether what is above and below that part is the same between the corners.
     bool hasUniformEnds_ = false;
-    // A frame as the style paints it.
-    QImage sample_;
+    // As the style paints them.
+    QImage topLeft_;
+    QImage topRight_;
+    QImage bottomLeft_;
+    QImage bottomRight_;
     Edge left_;
     Edge right_;
     Edge top_;

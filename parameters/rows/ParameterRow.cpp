@@ -33,22 +33,21 @@ constexpr int unitShare = 1;
 } // namespace
 
 ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools,
-                           QWidget* parent)
+                           RowListener& listener, QWidget* parent)
     : QWidget(parent),
       objectName_(objectName),
       parameterName_(QString::fromStdString(parameter->Name())),
       parameter_(parameter),
       pools_(pools),
-      names_(new RowName(this)),
+      listener_(listener),
+      names_(new RowName(*this)),
       layout_(new QHBoxLayout(this)),
       cell_(parameter, pools) {
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(12);
-    layout_->addWidget(names_);
+    layout_->addItem(names_);
     // What people do not edit has no default, and workers may change it often.
-    if (parameter->isEdited())
-        parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
-    else
+    if (!parameter->isEdited())
         removal_ = std::make_unique<RemovalListener>(parameter, [this] { onListGone(); });
     showDescription();
     showNote();
@@ -76,6 +75,13 @@ void ParameterRow::showFault(QString const& sentence) {
         return;
     cell_.setFault(sentence);
     reopenEditor();
+}
+
+void ParameterRow::follow() {
+    auto const parameter = parameter_.strong();
+    if (removal_ || !parameter || std::exchange(isFollowing_, true))
+        return;
+    parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
 }
 
 void ParameterRow::openEditor() {
@@ -113,7 +119,7 @@ void ParameterRow::connectNumberFields() {
     auto const fields = cell_.widget()->findChildren<Kolt::QLeaveLineEdit*>();
     for (auto* const field : fields)
         connect(field, &Kolt::QLeaveLineEdit::refused, this,
-                [this, field](QString const& text) { emit refused(refusedNumberText(parameterName_, text, *field)); });
+                [this, field](QString const& text) { refuse(refusedNumberText(parameterName_, text, *field)); });
     // Their tool tips follow the value.
     if (fields.isEmpty())
         return;
@@ -132,8 +138,12 @@ void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {
     extension_ = EditorExtension::makeFor(cell_.editor(), parameter, pools_);
     if (auto const* const mark = UnenteredMark::makeFor(*cell_.widget(), parameter, pools_))
         connect(mark, &UnenteredMark::changed, this, &ParameterRow::updateAccessibility);
-    // Made after the editor, so that it finds what the editor shows.
-    afterEditor_ = std::make_unique<ChangeListener>(parameter, [this] { checkEditor(); });
+    // After the editor, so that it finds what the editor shows.
+    isAfterEditor_ = !isFollowing_;
+    if (isAfterEditor_)
+        follow();
+    else
+        afterEditor_ = std::make_unique<ChangeListener>(parameter, [this] { checkEditor(); });
 }
 
 void ParameterRow::checkEditor() {
@@ -152,14 +162,14 @@ void ParameterRow::reopenEditor() {
     openEditor();
     if (hadFocus)
         cell_.widget()->setFocus();
-    emit editorReplaced();
+    listener_.onEditorReplaced(*this);
 }
 
 void ParameterRow::alignEditor() {
     auto* const editor = cell_.widget();
     bool const centred = editor->sizeHint().height() <= highestCentredEditor;
     vertical_ = centred ? Qt::AlignVCenter : Qt::AlignTop;
-    layout_->setAlignment(names_, Qt::AlignLeft | vertical_);
+    names_->setAlignment(Qt::AlignLeft | vertical_);
     if (rawValue_)
         layout_->setAlignment(rawValue_, Qt::AlignLeft | vertical_);
     if (unitLabel_)
@@ -223,13 +233,14 @@ void ParameterRow::setCover(QWidget* cover) {
         cover->show();
     } else if (wasOpen) {
         openEditor();
-        emit editorReplaced();
+        listener_.onEditorReplaced(*this);
     }
     isOpen_ = wasOpen;
 }
 
 void ParameterRow::closeEditor() {
     isOpen_ = false;
+    isAfterEditor_ = false;
     afterEditor_.reset();
     delete std::exchange(unitLabel_, nullptr);
     cell_.close();
@@ -255,15 +266,18 @@ void ParameterRow::showPool() {
 void ParameterRow::onValueChange(Kolt::ValuePtr const&, Kolt::VContext const&, Kolt::ValueMap const* properties) {
     auto const show = properties ? &ParameterRow::showDescription : &ParameterRow::showDefault;
     // Without an editor nothing keeps a worker from changing the value.
-    if (QThread::currentThread() == thread())
-        (this->*show)();
-    else
+    if (QThread::currentThread() != thread()) {
         QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
+        return;
+    }
+    (this->*show)();
+    if (!properties && isAfterEditor_)
+        checkEditor();
 }
 
 void ParameterRow::showHelp() {
     if (auto const parameter = parameter_.strong())
-        emit helpRequested(parameter);
+        listener_.onHelpRequested(parameter);
 }
 
 void ParameterRow::onListGone() {
@@ -323,7 +337,7 @@ bool ParameterRow::event(QEvent* event) {
     }
     if (event->type() != QEvent::ToolTip || !names_->geometry().contains(static_cast<QHelpEvent*>(event)->pos()))
         return QWidget::event(event);
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipText(), names_);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipText(), this, names_->geometry());
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include <parameters/rows/ParameterVector.hpp>
 #include <parameters/rows/RawValueLabel.hpp>
 #include <parameters/rows/RemovalListener.hpp>
+#include <parameters/rows/RowListener.hpp>
 #include <parameters/rows/RowName.hpp>
 #include <parameters/rows/RowNeeds.hpp>
 #include <QLabel>
@@ -41,9 +42,9 @@ class TALO_EXPORT ParameterRow : public QWidget, public GestureTarget, private K
 
 public:
     /// `objectName` is the name of the object that the parameter belongs to. Has no editor before `openEditor`. After
-    /// `pools` was destroyed there is no pool.
+    /// `pools` was destroyed there is no pool. The listener outlives the row.
     ParameterRow(QString const& objectName, Kolt::ParameterPtr const& parameter, PoolSourceRef const& pools,
-                 QWidget* parent = nullptr);
+                 RowListener& listener, QWidget* parent);
     ~ParameterRow() override;
 
     /// The row that a widget is or is in, its popups and dialogs included; null for none, and for null.
@@ -76,6 +77,8 @@ public:
 
     /// Makes the editor, or a placeholder where none can be made. Does nothing if there is one.
     void openEditor();
+    /// Follows the changes of the parameter from now on, as it does with an editor.
+    void follow();
     /// Shows a sentence instead of the editor, whose code had a fault (Kolt::EditorFaults). Nothing while it is closed.
     void showFault(QString const& sentence);
     /// Hides the editor and deletes it as soon as control returns to the event loop.
@@ -124,6 +127,8 @@ public:
     void setAsDefault();
     /// Asks for the help of the parameter to be shown.
     void showHelp();
+    /// Says that nothing was done, and why: a sentence.
+    void refuse(QString const& reason) { listener_.onRefused(reason); }
 
     /// Some editors ask the widget around them to adjust its size; a row keeps the width that it was given.
     QSize sizeHint() const override;
@@ -132,16 +137,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
-    /// A command did nothing, or a typed number was not taken over, for this reason: a sentence.
-    void refused(QString const& reason);
-    /// The parameter has another default.
-    void defaultChanged();
-    /// The user wants to read the parameter's help.
-    void helpRequested(Kolt::ParameterPtr const& parameter);
     /// The row shows what another pool holds.
     void poolShown();
-    /// Another editor was made, as the one before could not show the value.
-    void editorReplaced();
 
 protected:
     bool event(QEvent* event) override;
@@ -174,6 +171,7 @@ private:
     QString const parameterName_;
     Kolt::ParameterRef const parameter_;
     PoolSourceRef const pools_;
+    RowListener& listener_;
     RowName* const names_;
     QHBoxLayout* const layout_;
     // The parameters of the vector that the row is a component of, and what it is called there.
@@ -188,6 +186,9 @@ private:
     bool isOpen_ = false;
     bool isEditorEnabled_ = true;
     bool wasLaidOut_ = true;
+    // Whether the parameter notifies the row itself, and after the editor, so that it finds what the editor shows.
+    bool isFollowing_ = false;
+    bool isAfterEditor_ = false;
     RowNeeds needs_;
     // The default that the indicator names.
     Tessera::WeakPtr<Kolt::VValueBase> shownDefault_;
@@ -198,6 +199,7 @@ private:
     QPointer<EditorScroller> scroller_;
     // Null for editors that need none, and after the editor was deleted.
     QPointer<EditorExtension> extension_;
+    // Null while the row itself is notified after the editor.
     std::unique_ptr<ChangeListener> afterEditor_;
     // Null for a parameter that people edit, which notifies the row itself.
     std::unique_ptr<RemovalListener> removal_;

@@ -14,11 +14,11 @@ QString ParameterRow::removedText() const {
 void ParameterRow::resetToDefault() {
     auto const parameter = parameter_.strong();
     if (!parameter)
-        emit refused(removedText());
+        refuse(removedText());
     else if (!isChangeable(*parameter))
-        emit refused(unchangeableText(parameterName_));
+        refuse(unchangeableText(parameterName_));
     else if (!Talo::resetToDefault(parameter, pool()))
-        emit refused(tr("%1 has no default to go back to.").arg(parameterName_));
+        refuse(tr("%1 has no default to go back to.").arg(parameterName_));
 }
 
 std::vector<Kolt::ParameterPtr> ParameterRow::livingVector() const {
@@ -33,7 +33,7 @@ void ParameterRow::copyValue() {
     auto const vector = livingVector();
     auto const parameter = parameter_.strong();
     if (!parameter)
-        emit refused(removedText());
+        refuse(removedText());
     else if (vector.empty())
         Talo::copyValue(*parameter, pool());
     else
@@ -50,18 +50,18 @@ void ParameterRow::pasteValue() {
         reason = !vector.empty() && canPasteValues(vector) ? pasteValues(vector, pool())
                                                            : Talo::pasteValue(parameter, pool());
     if (self && !reason.isEmpty())
-        emit refused(reason);
+        refuse(reason);
 }
 
 void ParameterRow::setAsDefault() {
     auto const parameter = parameter_.strong();
     if (!parameter) {
-        emit refused(removedText());
+        refuse(removedText());
         return;
     }
     parameter->rememberDefaults();
     showDefault();
-    emit defaultChanged();
+    listener_.onDefaultChanged();
 }
 
 } // namespace Talo

@@ -64,7 +64,14 @@ void RowArea::addEntries(FormPlan const& plan) {
     sizes_.setNameWidth(fontMetrics().horizontalAdvance(longestLabel_));
 }
 
-RowArea::~RowArea() = default;
+RowArea::~RowArea() {
+    // The rows have this to tell, as a number that is refused while it loses the focus. Nothing is arranged meanwhile.
+    making_ = true;
+    made_.clear();
+    for (auto& entry : entries_)
+        entry.row = nullptr;
+    delete content_;
+}
 
 std::vector<ParameterRow*> RowArea::rows() const {
     std::vector<ParameterRow*> rows;
@@ -103,7 +110,7 @@ void RowArea::openEditors() {
         if (!entries_[place].row)
             continue;
         entries_[place].row->openEditor();
-        emitEditorOpened(entries_[place]);
+        emitEditorOpened(*entries_[place].row);
     }
     measureAll();
 }
@@ -197,11 +204,7 @@ void RowArea::make(Entry& entry) {
         layout_.setShown(place, false);
         return;
     }
-    entry.row = new ParameterRow(objectName_, parameter, pools_, sections_->box(layout_.sectionOf(place)));
-    connect(entry.row, &ParameterRow::refused, this, &RowArea::refused);
-    connect(entry.row, &ParameterRow::defaultChanged, this, &RowArea::defaultChanged);
-    connect(entry.row, &ParameterRow::helpRequested, this, &RowArea::helpRequested);
-    connect(entry.row, &ParameterRow::editorReplaced, this, [this, &entry] { emitEditorOpened(entry); });
+    entry.row = new ParameterRow(objectName_, parameter, pools_, *this, sections_->box(layout_.sectionOf(place)));
     made_.insert(place);
     vectors_.showNames(place);
     if (auto others = othersOf_ ? othersOf_(*parameter) : std::vector<SharedParameter>(); !others.empty())
@@ -210,18 +213,19 @@ void RowArea::make(Entry& entry) {
     entry.row->setEditorEnabled(!isEnabled_ || isEnabled_(*parameter));
     if (editorsOpen_)
         entry.row->openEditor();
+    entry.row->follow();
     entry.row->setVisible(layout_.isShown(place));
     sizes_.measure(place, rowWidth());
     if (!editorsOpen_)
         return;
     focusGuess_.learn(*entry.row, layout_.heightClassOf(place));
-    emitEditorOpened(entry);
+    emitEditorOpened(*entry.row);
 }
 
-void RowArea::emitEditorOpened(Entry const& entry) {
-    auto const parameter = entry.parameter.strong();
-    if (parameter && entry.row->editor())
-        emit editorOpened(parameter, entry.row->editor());
+void RowArea::emitEditorOpened(ParameterRow const& row) {
+    auto const parameter = row.parameter();
+    if (parameter && row.editor())
+        emit editorOpened(parameter, row.editor());
 }
 
 void RowArea::measureAll() {

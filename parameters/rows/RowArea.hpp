@@ -28,7 +28,7 @@ struct FormPlan;
 /// as well, as a multi-line text keeps Tab for itself.
 ///
 /// The parameters are referred to weakly; one that is deleted before its row was made has none. User-interface thread.
-class TALO_EXPORT RowArea : public ContentArea {
+class TALO_EXPORT RowArea : public ContentArea, private RowListener {
     Q_OBJECT
 
 public:
@@ -111,6 +111,10 @@ private:
         ParameterRow* row = nullptr;
     };
 
+    void onRefused(QString const& reason) override { emit refused(reason); }
+    void onDefaultChanged() override { emit defaultChanged(); }
+    void onHelpRequested(Kolt::ParameterPtr const& parameter) override { emit helpRequested(parameter); }
+    void onEditorReplaced(ParameterRow const& row) override { emitEditorOpened(row); }
     void addEntries(FormPlan const& plan);
     /// Hides the rows of sections that were folded, and shows those of open ones.
     void showFolding();
@@ -118,7 +122,7 @@ private:
     std::size_t placeOf(Entry const& entry) const { return static_cast<std::size_t>(&entry - entries_.data()); }
     int rowWidth() const;
     void make(Entry& entry);
-    void emitEditorOpened(Entry const& entry);
+    void emitEditorOpened(ParameterRow const& row);
     void measureAll();
     /// Gives every widget its place.
     void arrange();

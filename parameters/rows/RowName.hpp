@@ -2,22 +2,19 @@
 
 #include <parameters/rows/ModifiedIndicator.hpp>
 #include <parameters/rows/NameLabel.hpp>
-#include <QWidget>
+#include <QLayoutItem>
 #include <tessera/Export.hpp>
-
-class QGridLayout;
 
 namespace Talo {
 
 /// What is before the editor of a row: the name, a dot where the value is not the default, and a note below. The row of
 /// a component of a vector has the component's short name there, and the first of them the vector's name before it.
-/// User-interface thread.
-class TALO_EXPORT RowName : public QWidget {
-    Q_OBJECT
-
+/// An item of the row's layout that arranges these widgets, which are the row's children: a widget of its own with a
+/// layout would take a twentieth of a row's memory. User-interface thread.
+class TALO_EXPORT RowName : public QLayoutItem {
 public:
-    /// Has no name before `setName`.
-    explicit RowName(QWidget* parent = nullptr);
+    /// Has no name before `setName`. The layout of the row owns it.
+    explicit RowName(QWidget& row);
     ~RowName() override;
 
     /// The label of the parameter, or of the component.
@@ -53,19 +50,35 @@ public:
     /// The room that the vector's name takes now; 0 without one.
     int vectorWidth() const;
 
-private:
-    /// Leaves the room that nothing needs behind all that the name stands with.
-    void leaveRestEmpty();
-    /// Has the editor of a component stay in its place when the dot comes or goes.
-    void keepIndicatorRoom();
+    QSize sizeHint() const override;
+    QSize minimumSize() const override { return sizeHint(); }
+    QSize maximumSize() const override;
+    Qt::Orientations expandingDirections() const override { return {}; }
+    void setGeometry(QRect const& geometry) override;
+    QRect geometry() const override { return geometry_; }
+    bool isEmpty() const override { return false; }
 
-    QGridLayout* const grid_;
+private:
+    /// Whether a line is shown below the name.
+    bool hasNote() const;
+    /// The room for the dot and its distance to the name; 0 where there may be none.
+    int indicatorRoom() const;
+    /// The height of the line with the name.
+    int lineHeight() const;
+    void arrange(QRect const& contents);
+    /// Puts a widget where it is in a row that is read from left to right.
+    void place(QWidget* widget, QRect const& leftToRight) const;
+
+    QWidget& row_;
     NameLabel* const label_;
     // Made when first needed: most rows never need them.
     NameLabel* vectorLabel_ = nullptr;
     ModifiedIndicator* indicator_ = nullptr;
     QLabel* noteLabel_ = nullptr;
     bool isComponent_ = false;
+    // Of the column of names; negative before it was set, and for a component.
+    int width_ = -1;
+    QRect geometry_;
 };
 
 } // namespace Talo

@@ -96,7 +96,7 @@ void SharedRow::setAll(int number) {
     if (!parameter || number >= static_cast<int>(values.size()))
         return;
     if (!isChangeable(*parameter)) {
-        emit row_.refused(unchangeableText(row_.parameterName()));
+        row_.refuse(unchangeableText(row_.parameterName()));
         return;
     }
     InputFilter::shared()->gestures().end();

@@ -15,6 +15,7 @@
 #include <QSlider>
 #include <QTextDocumentFragment>
 #include <QToolTip>
+#include <sorrel/QLeaveLineEdit.hpp>
 #include <thread>
 
 using Command = Talo::ParameterPanel::Command;
@@ -231,6 +232,21 @@ TEST_F(ParameterPanelTest, SaysWhyACommandIsRefused) {
     panel->action(Command::Paste)->trigger();
     ASSERT_EQ(refusals.count(), 1);
     EXPECT_THAT(refusals.at(0).at(0).toString().toStdString(), HasSubstr("is no value of level"));
+    EXPECT_EQ(level.read(firstPool), 40);
+}
+
+TEST_F(ParameterPanelTest, SaysThatANumberIsRefusedAlsoWhileItIsDestroyed) {
+    QStringList refusals;
+    QObject::connect(panel, &Talo::ParameterPanel::refused, [&](QString const& reason) { refusals << reason; });
+    auto* const number = row("level")->editor()->findChild<Kolt::QLeaveLineEdit*>();
+    number->setFocus();
+    number->selectAll();
+    QTest::keyClicks(number, QStringLiteral("-"));
+    ASSERT_EQ(number->text(), QStringLiteral("-"));
+    EXPECT_EQ(refusals, QStringList());
+    delete panel;
+    ASSERT_EQ(refusals.size(), 1);
+    EXPECT_THAT(refusals[0].toStdString(), HasSubstr("\"-\""));
     EXPECT_EQ(level.read(firstPool), 40);
 }
 

@@ -8,6 +8,7 @@
 #include <lattice/TypedParameter.hpp>
 #include <memory>
 #include <parameters/ParameterPanel.hpp>
+#include <parameters/rows/ModifiedIndicator.hpp>
 #include <parameters/rows/ParameterRow.hpp>
 #include <parameters/rows/PlaceholderEditor.hpp>
 #include <parameters/rows/RowArea.hpp>
@@ -116,6 +117,41 @@ TEST_F(RowEditorsTest, AnEditorThatIsMadeAnewKeepsTheFocusAndIsReported) {
     EXPECT_EQ(marked(), "");
     EXPECT_EQ(*reported, 1);
     EXPECT_EQ(Talo::ParameterRow::rowOf(QApplication::focusWidget()), panel->rowArea()->row(QStringLiteral("kind")));
+}
+
+TEST_F(RowEditorsTest, EachEditorThatIsMadeAnewIsLookedAtAfterAChange) {
+    auto const kind = makeParameter("kind", Kolt::makeValue(makeEnum({"a", "b"}, 1)));
+    show({kind});
+    for (int round = 0; round < 3; ++round) {
+        write(kind, makeEnum({"a", "b"}));
+        EXPECT_EQ(marked(), "") << round;
+        write(kind, makeEnum({"x", "y", "z"}, 2));
+        EXPECT_EQ(marked(), "z") << round;
+        panel->closeEditors();
+        write(kind, makeEnum({"a", "b"}, 0));
+        deleteLeftEditors();
+        panel->openEditors();
+        EXPECT_EQ(marked(), "a") << round;
+    }
+}
+
+TEST_F(RowEditorsTest, ARowWithoutAnEditorFollowsTheDefault) {
+    auto const on = makeParameter("on", Kolt::makeValue(false));
+    on->rememberDefaults();
+    object = Kolt::ObjectPtr(new Kolt::VObject("object"));
+    object->addParameter(on);
+    panel = new Talo::ParameterPanel(object, pools, parent);
+    panel->closeEditors();
+    parent->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(parent));
+    auto* const row = panel->rowArea()->row(QStringLiteral("on"));
+    ASSERT_EQ(row->editor(), nullptr);
+    write(on, true);
+    ASSERT_NE(row->modifiedIndicator(), nullptr);
+    EXPECT_FALSE(row->modifiedIndicator()->isHidden());
+    panel->openEditors();
+    write(on, false);
+    EXPECT_TRUE(row->modifiedIndicator()->isHidden());
 }
 
 TEST_F(RowEditorsTest, APoolWithoutAChoiceShowsNone) {

@@ -1,0 +1,7 @@
+#include <parameters/rows/RowListener.hpp>
+
+namespace Talo {
+
+RowListener::~RowListener() = default;
+
+} // namespace Talo
