@@ -9,6 +9,9 @@ protected:
     void SetUp() override {
         PanelTest::SetUp();
         ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_EXAMPLES "/networks/fractal.json"), file));
+        if (!longPictures) {
+            ASSERT_NO_FATAL_FAILURE(shortenPictures());
+        }
         QString error;
         ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
         window->resize(windowSize);
@@ -21,7 +24,26 @@ protected:
         ASSERT_EQ(window->fractalController().dock()->isVisible(), showsPreview);
     }
 
+    /// Keeps the pictures small, of few steps and of few samples.
+    void shortenPictures() {
+        QFile network(file);
+        ASSERT_TRUE(network.open(QIODevice::ReadWrite));
+        auto text = network.readAll();
+        for (auto const& [number, smaller] : {std::pair("\"max\": 5000", "\"max\": 500"),
+                                              {"\"final\": 2000", "\"final\": 500"},
+                                              {"\"max\": 16,", "\"max\": 2,"},
+                                              {"\"final\": 8", "\"final\": 2"},
+                                              {"\"max\": 4096", "\"max\": 200"},
+                                              {"\"value\": 960", "\"value\": 160"}}) {
+            ASSERT_EQ(text.count(number), 1) << number;
+            text.replace(number, smaller);
+        }
+        ASSERT_TRUE(network.resize(0) && network.seek(0));
+        ASSERT_EQ(network.write(text), text.size());
+    }
+
     QString const file = folder.filePath(QStringLiteral("fractal.json"));
     QSize windowSize{1150, 900};
     bool showsPreview = false;
+    bool longPictures = true;
 };

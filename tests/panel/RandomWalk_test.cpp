@@ -40,6 +40,8 @@ protected:
     RandomWalkTest() {
         windowSize = {900, 700};
         showsPreview = true;
+        // A walk waits for each picture, and large ones of many samples would take most of its time.
+        longPictures = false;
     }
 
     void SetUp() override {
