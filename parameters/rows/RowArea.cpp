@@ -65,11 +65,10 @@ void RowArea::addEntries(FormPlan const& plan) {
 }
 
 RowArea::~RowArea() {
-    // The rows have this to tell, as a number that is refused while it loses the focus. Nothing is arranged meanwhile.
+    // The rows have something to tell, as a number that is refused while it loses the focus. Nothing is arranged then.
     making_ = true;
     made_.clear();
-    for (auto& entry : entries_)
-        entry.row = nullptr;
+    entries_.clear();
     delete content_;
 }
 
@@ -277,10 +276,6 @@ void RowArea::arrangeInPlace() {
     arrange();
     if (isVisibleRow && layout_.top(*seen) != before)
         verticalScrollBar()->setValue(verticalScrollBar()->value() + layout_.top(*seen) - before);
-}
-
-int RowArea::visibleTop() const {
-    return -content_->y();
 }
 
 int RowArea::visibleBottom() const {

@@ -134,7 +134,7 @@ private:
     /// Makes rows that are in sight when those above them have the heights that they ask for. False if there is none.
     bool makeSeenRows();
     void dropFarRows();
-    int visibleTop() const;
+    int visibleTop() const { return -content_->y(); }
     int visibleBottom() const;
     /// The row at a place, made if it does not exist; null for one that is not shown, or whose parameter is gone, and
     /// for one that does not exist and would have no control that takes the focus.

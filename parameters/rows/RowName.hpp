@@ -50,12 +50,19 @@ public:
     /// The room that the vector's name takes now; 0 without one.
     int vectorWidth() const;
 
+    /// What the widgets need; as wide as the column of names once that is set.
     QSize sizeHint() const override;
+    /// The same.
     QSize minimumSize() const override { return sizeHint(); }
+    /// As wide as that, and as high as the row.
     QSize maximumSize() const override;
+    /// None: the editor takes what there is.
     Qt::Orientations expandingDirections() const override { return {}; }
+    /// Places the widgets in this part of the row.
     void setGeometry(QRect const& geometry) override;
+    /// The part of the row that they take.
     QRect geometry() const override { return geometry_; }
+    /// Every row has a name.
     bool isEmpty() const override { return false; }
 
 private:

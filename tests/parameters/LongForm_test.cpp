@@ -164,6 +164,27 @@ TEST_F(LongForm, TheMarkOfAChangedValueComesAndGoesWithoutMovingAnything) {
     EXPECT_EQ(row("on")->editor()->geometry(), editor);
 }
 
+TEST_F(LongForm, NamesThatAreShortenedInANarrowFormAreNotCutOff) {
+    for (auto const* const name : {"on", "quality", "iterations", "a name of many words"}) {
+        add(makeParameter(name, Kolt::makeValue(1), {}, Kolt::VParameter::Values::PerPool));
+        add(Parameter<int>(std::string(name) + " of all", 1));
+    }
+    ASSERT_NO_FATAL_FAILURE(show());
+    // The mark needs room beside some of them.
+    ASSERT_TRUE(
+        Kolt::setParameterValue(*object->parameters().back(), 2, nullptr, std::string(), true, nullptr, nullptr));
+    for (int const width : {600, 260, 220, 180}) {
+        panel->resize(width, 400);
+        QCoreApplication::processEvents();
+        for (auto const* const each : area()->rows()) {
+            auto const* const label = each->nameLabel();
+            auto const text = label->text().replace(QLatin1String("&&"), QLatin1String("&"));
+            EXPECT_LE(label->fontMetrics().horizontalAdvance(text), label->width()) << width << text.toStdString();
+            EXPECT_LE(label->geometry().right(), each->editor()->geometry().left()) << width << text.toStdString();
+        }
+    }
+}
+
 TEST_F(LongForm, AChangeOfAValueLaysOutNothingAroundItsSection) {
     auto const on = Parameter<bool>("on", false);
     add(on);
