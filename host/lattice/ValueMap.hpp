@@ -36,9 +36,9 @@ private:
     static constexpr std::uint64_t markOf(std::string_view name) {
         if (name.empty())
             return 1;
-        auto const first = static_cast<unsigned char>(name.front());
-        auto const last = static_cast<unsigned char>(name.back());
-        return std::uint64_t(1) << ((name.size() + 5U * first + 11U * last) % 64U);
+        std::uint64_t const first = static_cast<unsigned char>(name.front());
+        std::uint64_t const last = static_cast<unsigned char>(name.back());
+        return std::uint64_t(1) << ((name.size() + 5 * first + 11 * last) % 64);
     }
     VValueBase const* search(std::string_view name) const;
     Entries::const_iterator place(std::string const& name) const;

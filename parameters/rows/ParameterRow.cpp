@@ -56,6 +56,9 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
 
 ParameterRow::~ParameterRow() {
     stopNotifications();
+    afterEditor_.reset();
+    // While the row still lives, as a field that loses the focus may refuse a half-typed number.
+    delete cell_.widget();
 }
 
 ParameterRow* ParameterRow::rowOf(QWidget* widget) {
@@ -82,6 +85,8 @@ void ParameterRow::follow() {
     if (removal_ || !parameter || std::exchange(isFollowing_, true))
         return;
     parameter->addNotifier(Tessera::WeakPtr<Kolt::ValueNotifier>(this));
+    // The editor may have changed the value as it was made.
+    showDefault();
 }
 
 void ParameterRow::openEditor() {
@@ -139,7 +144,7 @@ void ParameterRow::watchEditor(Kolt::ParameterPtr const& parameter) {
     if (auto const* const mark = UnenteredMark::makeFor(*cell_.widget(), parameter, pools_))
         connect(mark, &UnenteredMark::changed, this, &ParameterRow::updateAccessibility);
     // After the editor, so that it finds what the editor shows.
-    isAfterEditor_ = !isFollowing_;
+    isAfterEditor_ = !isFollowing_ && !removal_;
     if (isAfterEditor_)
         follow();
     else

@@ -236,17 +236,16 @@ TEST_F(ParameterPanelTest, SaysWhyACommandIsRefused) {
 }
 
 TEST_F(ParameterPanelTest, SaysThatANumberIsRefusedAlsoWhileItIsDestroyed) {
-    QStringList refusals;
-    QObject::connect(panel, &Talo::ParameterPanel::refused, [&](QString const& reason) { refusals << reason; });
+    QSignalSpy const refusals(panel, &Talo::ParameterPanel::refused);
     auto* const number = row("level")->editor()->findChild<Kolt::QLeaveLineEdit*>();
     number->setFocus();
     number->selectAll();
     QTest::keyClicks(number, QStringLiteral("-"));
     ASSERT_EQ(number->text(), QStringLiteral("-"));
-    EXPECT_EQ(refusals, QStringList());
+    EXPECT_EQ(refusals.count(), 0);
     delete panel;
-    ASSERT_EQ(refusals.size(), 1);
-    EXPECT_THAT(refusals[0].toStdString(), HasSubstr("\"-\""));
+    ASSERT_EQ(refusals.count(), 1);
+    EXPECT_THAT(refusals.at(0).at(0).toString().toStdString(), HasSubstr("\"-\""));
     EXPECT_EQ(level.read(firstPool), 40);
 }
 

@@ -226,6 +226,24 @@ TEST_F(Notification, ANullPropertyTakesTheNameAway) {
     EXPECT_FALSE(map.getValue("never set"));
 }
 
+TEST_F(Notification, APropertyIsFoundWithoutAReference) {
+    // Their marks in the map are the same, or may be.
+    std::vector<std::string> const names{"abc", "adc", "", "a", "max", "min", "increment", "readOnly"};
+    Kolt::ValueMap map;
+    for (std::size_t count = 0; count <= names.size(); ++count) {
+        if (count > 0)
+            map.setValue(names[count - 1], makeValue(static_cast<int>(count)));
+        auto const copy = map;
+        for (std::size_t place = 0; place < names.size(); ++place) {
+            EXPECT_EQ(map.find(names[place]), map.getValue(names[place]).get()) << names[place];
+            EXPECT_EQ(copy.find(names[place]) != nullptr, place < count) << names[place];
+        }
+    }
+    map.setValue("abc", nullptr);
+    EXPECT_EQ(map.find("abc"), nullptr);
+    EXPECT_NE(map.find("adc"), nullptr);
+}
+
 TEST_F(Notification, TheListOfLivingNotifiersHoldsThemUntilTheyGo) {
     auto const lives = [](ValueNotifier const* notifier) {
         auto const all = ValueNotifier::living();

@@ -44,6 +44,14 @@ TEST_F(Parameters, KnowTheirNameTypeAndWayOfKeepingValues) {
     EXPECT_EQ(VParameter("x", makeValue(1), VParameter::Values::Shared, "double").declaredType(), "double");
 }
 
+TEST_F(Parameters, OfOneTypeShareItsName) {
+    EXPECT_EQ(&shared_->declaredType(), &perPool_->declaredType());
+    VParameter const declared("declared", makeValue(0.5), VParameter::Values::Shared, "int");
+    EXPECT_EQ(&declared.declaredType(), &shared_->declaredType());
+    VParameter const other("other", makeValue(0.5));
+    EXPECT_NE(&other.declaredType(), &shared_->declaredType());
+}
+
 TEST_F(Parameters, WithOneValueGiveItForEveryPool) {
     for (bool const create : {false, true}) {
         EXPECT_EQ(shared_->getLocalValue(pool_, "", create), shared_->ownValue());
