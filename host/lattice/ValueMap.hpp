@@ -18,8 +18,8 @@ public:
 
     /// The value under a name; null if there is none.
     ValuePtr getValue(std::string const& name) const;
-    /// The same without a reference, for readers that ask ten thousand maps for names that few of them have. Valid
-    /// until the map changes.
+    /// The same value without a counted reference. Quick where the map has not the name, as readers ask ten thousand
+    /// maps for rare names. Valid until the map changes.
     VValueBase const* find(std::string_view name) const {
         return (names_ & markOf(name)) != 0 ? search(name) : nullptr;
     }
@@ -32,7 +32,7 @@ public:
     Entries::const_iterator end() const { return entries_.end(); }
 
 private:
-    /// One bit of 64, another one for most of the names that properties have.
+    /// One of 64 bits for a name. Two names may have the same bit.
     static constexpr std::uint64_t markOf(std::string_view name) {
         if (name.empty())
             return 1;

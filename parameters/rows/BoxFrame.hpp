@@ -39,7 +39,8 @@ private:
     using Edge = std::vector<Stripe>;
 
     void look(QStyleOptionGroupBox const& option, QWidget const& box);
-    /// Of some pixels of a frame that the style has painted, one after the other to the right or downwards.
+    /// The stripes of some pixels of a frame that the style has painted. The pixels follow `first` to the right or
+    /// downwards.
     static Edge edgeOf(QImage const& painted, QPoint const& first, int count, Qt::Orientation across);
     /// Makes the colours that are seen on the background; if that is not valid, those that the style has painted.
     void showOn(QColor const& background);
@@ -56,7 +57,7 @@ private:
     bool isUniform_ = false;
     // Whether what is above and below that part is the same between the corners.
     bool hasUniformEnds_ = false;
-    // As the style paints them.
+    // The corners as the style paints them.
     QImage topLeft_;
     QImage topRight_;
     QImage bottomLeft_;
@@ -65,8 +66,8 @@ private:
     Edge right_;
     Edge top_;
     Edge bottom_;
-    Edge inside_;
-    // That the colours are shown on.
+    Edge inside_; // one stripe
+    // The background for which the stripes have their colours; invalid for none.
     QColor background_;
 };
 

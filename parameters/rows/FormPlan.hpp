@@ -31,7 +31,7 @@ struct TALO_EXPORT FormPlan {
     /// The longest of the labels that rows show.
     QString longestLabel;
 
-    /// The plan for these parameters, none of which is null; as long as they live.
+    /// The plan for these parameters, none of which is null. Valid as long as they live.
     explicit FormPlan(std::vector<Kolt::ParameterPtr> const& parameters);
 };
 

@@ -57,7 +57,7 @@ ParameterRow::ParameterRow(QString const& objectName, Kolt::ParameterPtr const& 
 ParameterRow::~ParameterRow() {
     stopNotifications();
     afterEditor_.reset();
-    // While the row still lives, as a field that loses the focus may refuse a half-typed number.
+    // While the row still lives: a field of the editor loses the focus and may refuse a half-typed number.
     delete cell_.widget();
 }
 

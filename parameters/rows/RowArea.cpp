@@ -65,7 +65,7 @@ void RowArea::addEntries(FormPlan const& plan) {
 }
 
 RowArea::~RowArea() {
-    // The rows have something to tell, as a number that is refused while it loses the focus. Nothing is arranged then.
+    // While the form still lives: a row may refuse a number and tell the form. Nothing is arranged meanwhile.
     making_ = true;
     made_.clear();
     entries_.clear();

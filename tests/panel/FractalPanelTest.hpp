@@ -9,8 +9,8 @@ protected:
     void SetUp() override {
         PanelTest::SetUp();
         ASSERT_TRUE(QFile::copy(QStringLiteral(TALO_EXAMPLES "/networks/fractal.json"), file));
-        if (!longPictures) {
-            ASSERT_NO_FATAL_FAILURE(shortenPictures());
+        if (hasSmallPictures) {
+            ASSERT_NO_FATAL_FAILURE(makePicturesSmall());
         }
         QString error;
         ASSERT_TRUE(window->openNetwork(file, &error)) << qPrintable(error);
@@ -24,8 +24,8 @@ protected:
         ASSERT_EQ(window->fractalController().dock()->isVisible(), showsPreview);
     }
 
-    /// Keeps the pictures small, of few steps and of few samples.
-    void shortenPictures() {
+    /// Limits the size of pictures, their steps and their samples, so that each takes less than a second.
+    void makePicturesSmall() {
         QFile network(file);
         ASSERT_TRUE(network.open(QIODevice::ReadWrite));
         auto text = network.readAll();
@@ -45,5 +45,5 @@ protected:
     QString const file = folder.filePath(QStringLiteral("fractal.json"));
     QSize windowSize{1150, 900};
     bool showsPreview = false;
-    bool longPictures = true;
+    bool hasSmallPictures = false;
 };

@@ -41,7 +41,7 @@ protected:
         windowSize = {900, 700};
         showsPreview = true;
         // A walk waits for each picture, and large ones of many samples would take most of its time.
-        longPictures = false;
+        hasSmallPictures = true;
     }
 
     void SetUp() override {

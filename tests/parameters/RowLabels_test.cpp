@@ -1,4 +1,4 @@
-// The labels of a row measure their text once, and ask for the same room as a label of Qt; its name places them.
+// The labels of a row measure their text once, and ask for the same room as a label of Qt. RowName places them.
 
 #include "support/TestHost.hpp"
 

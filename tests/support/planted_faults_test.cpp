@@ -11,7 +11,7 @@ struct Run {
 
 Run runPlanted(QString const& filter) {
     QProcess process;
-    // Whoever runs this test may want it to stop at its first failure; the planted ones are to fail all.
+    // Someone who runs the tests may have them stop at the first failure. This program has to run all of its tests.
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("GTEST_FAIL_FAST"));
     process.setProcessEnvironment(environment);
